@@ -1,0 +1,15 @@
+# apimodule_test(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>])
+# One test program, registered with ctest under its own name. It has no window server unless it asks for one.
+find_package(GTest REQUIRED)
+function(apimodule_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 300)
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${arg_TIMEOUT}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=;LC_ALL=C.UTF-8")
+endfunction()
