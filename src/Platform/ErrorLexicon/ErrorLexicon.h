@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ErrorLexiconGlobal.h"
+
+#include <string>
+
+/// The user's words for error codes. Every function may be called from any thread, and before an application object
+/// exists.
+namespace ErrorLexicon {
+
+/// Looks up the text of an error code in the language that is set.
+///
+/// Known are the results of the request library (-1, -4, -18, -101, 3101, 7000), the HTTP statuses 400 to 599 (one
+/// without a text of its own has that of its class, 400 or 500) and the codes of the platform emulator (1001 to 1006).
+///
+/// @param nErrorCode the code
+/// @param strText receives the text as UTF-8; untouched when the code is unknown
+/// @return 0 when the code is known, else -1
+ERRORLEXICON_EXPORT int ErrorLexiconQuery(int nErrorCode, std::string& strText);
+
+/// Chooses the language of the texts for the whole process, "en" at first.
+///
+/// A language is known by its first part, before "-" or "_", in upper or lower case ("de", "DE", "de_AT"); with one
+/// that has no texts the lexicon speaks English.
+ERRORLEXICON_EXPORT void SetLanguage(const std::string& strLanguage);
+
+}  // namespace ErrorLexicon

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "OrnGuiGlobal.h"
+#include "OrnSingleton.h"
+
+#include <QObject>
+#include <QString>
+
+namespace ORNGUI {
+
+/// Short messages to the user, as toasts that stack in a corner of the active window, or of the screen without one.
+///
+/// Toasts take no focus and do not keep the application from ending with its last window; open ones go when it quits.
+/// Hosts use the one instance of the process, OrnSingleton<OrnMessageNotify>::Instance(). GUI thread only.
+class ORNGUI_EXPORT OrnMessageNotify : public QObject {
+    Q_OBJECT
+
+public:
+    /// Shows a toast. A click on it closes it; otherwise it goes by itself after about five seconds.
+    ///
+    /// Where more toasts are wanted than have room, the others wait; one that would not be gone within ten seconds of
+    /// its call is left out, unless it is to stay open. A text too long for a toast is cut short. Without a QApplication
+    /// nothing is shown; nor is a toast with neither a text nor a button.
+    ///
+    /// @param strText the message, shown as plain text
+    /// @param bWithButton add a button that opens @p strLink and closes the toast
+    /// @param strButtonText text of the button
+    /// @param strLink URL or absolute file path, opened by the desktop
+    /// @param bStayOpen stay until clicked
+    void AddTextNotification(const QString& strText, bool bWithButton, const QString& strButtonText,
+                             const QString& strLink, bool bStayOpen);
+
+signals:
+    /// Emitted once inside each AddTextNotification(), whether or not a toast can be shown.
+    void TextNotificationAdded(const QString& strText);
+};
+
+extern template class ORNGUI_EXPORT OrnSingleton<OrnMessageNotify>;
+
+}  // namespace ORNGUI

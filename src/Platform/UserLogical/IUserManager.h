@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+/// What the client's user management offers to the libraries that call servers.
+namespace UserLogical {
+
+/// Where a server is reached.
+struct ServerConnection {
+    std::string strHost;  ///< host name or IP address
+    int nPort = 80;       ///< TCP port
+};
+
+/// One server that the user is signed in to. Called on the GUI thread.
+class IServer {
+public:
+    virtual ~IServer() = default;
+
+    /// Fills host and port.
+    virtual void GetConnection(ServerConnection& connection) = 0;
+
+    /// The token of the session, empty when there is none.
+    virtual std::string GetToken() = 0;
+};
+
+/// The servers that the user is signed in to. The host implements and owns it. Called on the GUI thread.
+class IUserManager {
+public:
+    virtual ~IUserManager() = default;
+
+    /// The identifier of the server that the user works with.
+    virtual int GetCurrentServerId() = 0;
+
+    /// The server with this identifier, or an empty pointer for an unknown one.
+    virtual std::shared_ptr<IServer> GetServer(int nServerId) = 0;
+};
+
+}  // namespace UserLogical

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "TalPrintLogGlobal.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+/// Logging of the client.
+namespace ornl {
+
+/// One record as it was logged.
+struct LogRecord {
+    std::string strFile;      ///< source file, empty when none was named
+    int nLine = 0;            ///< line in the source file
+    std::string strFunction;  ///< function, empty when none was named
+    std::string strTag;       ///< tag, mostly empty
+    int nLevel = 0;           ///< 4 = information or success, 6 = failure
+    std::string strMessage;   ///< the message after formatting
+};
+
+/// The log of the process: writes records to standard error and, once SetFile() named one, to a rotating file.
+///
+/// Every function may be called from any thread, from static constructors and destructors too, and throws nothing.
+class ORNL_EXPORT TalPrintLog {
+public:
+    /// The log of the process. It is never destroyed.
+    static TalPrintLog& instance();
+
+    TalPrintLog(const TalPrintLog&) = delete;
+    TalPrintLog& operator=(const TalPrintLog&) = delete;
+
+    /// Writes one record; messages of any length come through whole.
+    ///
+    /// @param file source file; may be null
+    /// @param line line in the source file
+    /// @param function function that logs; may be null
+    /// @param tag tag; may be null or empty
+    /// @param level 2 verbose, 3 debug, 4 information or success, 5 warning, 6 failure, 7 fatal
+    /// @param format printf format of the message, followed by its arguments; null gives an empty message
+    ORNL_PRINTF(7, 8)
+    void Log(const char* file, int line, const char* function, const char* tag, int level, const char* format, ...);
+
+    /// Replaces the observer; an empty function removes it.
+    ///
+    /// It is called once for each record, on the thread that logs and without a lock held, so it may log and replace
+    /// itself. A record that another thread is logging meanwhile may still reach the observer that was replaced. What
+    /// an observer throws is dropped.
+    void SetObserver(std::function<void(const LogRecord&)> observer);
+
+    /// Names the rotating file that records go to beside standard error; an empty name ends it.
+    ///
+    /// Missing folders are made. A file that cannot be opened is reported on standard error, which goes on alone.
+    ///
+    /// @param strFileName path in UTF-8
+    void SetFile(const std::string& strFileName);
+
+private:
+    TalPrintLog();
+    ~TalPrintLog();
+
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+}  // namespace ornl

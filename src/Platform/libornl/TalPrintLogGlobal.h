@@ -1,0 +1,11 @@
+#pragma once
+
+/// ORNL_EXPORT marks what the library exports; one form serves the library and its users.
+/// ORNL_PRINTF has the compiler check a printf format and its arguments, counted from 1.
+#if defined(__GNUC__)
+#define ORNL_EXPORT __attribute__((visibility("default")))
+#define ORNL_PRINTF(format, arguments) __attribute__((format(printf, format, arguments)))
+#else
+#define ORNL_EXPORT
+#define ORNL_PRINTF(format, arguments)
+#endif
