@@ -1,0 +1,255 @@
+#include "APIModule.h"
+
+#include "APIModule_p.h"
+#include "detail/Log.h"
+#include "detail/Mask.h"
+
+#include <ErrorLexicon/ErrorLexicon.h>
+#include <OrnGui/OrnMessageNotify.h>
+#include <OrnGui/OrnSingleton.h>
+
+#include <QPointer>
+#include <QWidget>
+
+#include <boost/thread/lock_guard.hpp>
+#include <boost/thread/mutex.hpp>
+
+#include <atomic>
+
+namespace APIModule {
+
+using namespace detail;
+
+namespace {
+
+constexpr const char* kFile = "src/UI/APIModule/APIModule";
+
+constexpr int kCurrentServer = -1;
+constexpr int kParseFailed = 3101;
+
+void Notify(const QString& text)
+{
+    ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance().AddTextNotification(text, false, QString(), QString(),
+                                                                                   false);
+}
+
+/// Releases what the callables hold when a call returns, not when its caller's expression ends.
+class ReleaseOnReturn {
+public:
+    ReleaseOnReturn(boost::function<int(void*)>& packetFunc, boost::function<int(QJsonObject const&)>& parseFunc)
+        : m_packetFunc(packetFunc), m_parseFunc(parseFunc)
+    {}
+    ~ReleaseOnReturn()
+    {
+        m_packetFunc.clear();
+        m_parseFunc.clear();
+    }
+    ReleaseOnReturn(const ReleaseOnReturn&) = delete;
+    ReleaseOnReturn& operator=(const ReleaseOnReturn&) = delete;
+
+private:
+    boost::function<int(void*)>& m_packetFunc;
+    boost::function<int(QJsonObject const&)>& m_parseFunc;
+};
+
+}  // namespace
+
+CAPIModule& CAPIModule::GetInstance()
+{
+    static std::atomic<CAPIModule*> pInstance{nullptr};
+    static boost::mutex mutex;
+
+    CAPIModule* pCreated = pInstance.load(std::memory_order_acquire);
+    if (!pCreated) {
+        const boost::lock_guard<boost::mutex> lock(mutex);
+        pCreated = pInstance.load(std::memory_order_relaxed);
+        if (!pCreated) {
+            pCreated = new CAPIModule;
+            pInstance.store(pCreated, std::memory_order_release);
+        }
+    }
+    return *pCreated;
+}
+
+CAPIModule::CAPIModule() : d_ptr(std::make_unique<CAPIModulePrivate>(this)) {}
+
+CAPIModule::~CAPIModule() = default;
+
+void CAPIModule::Init(UserLogical::IUserManager* pUserManager)
+{
+    if (!pUserManager || m_pUserManager) {
+        return;
+    }
+    m_pUserManager = pUserManager;
+    m_bInitialised = true;
+    LogInfo({kFile, "APIModule::CAPIModule::Init"}, "Init Sucess");
+}
+
+void CAPIModule::UnInit()
+{
+    m_pUserManager = nullptr;
+    m_bInitialised = false;
+    LogInfo({kFile, "APIModule::CAPIModule::UnInit"}, "unInit Sucess");
+}
+
+void CAPIModule::SetHttpsMode(int nHttpsMode)
+{
+    m_nHttpsMode = nHttpsMode;
+}
+
+void CAPIModule::SetLanguage(const std::string& strLanguage)
+{
+    Q_D(CAPIModule);
+    d->m_strLanguage = strLanguage;
+}
+
+int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const QString& strUrl, int nServerId,
+                                const QString& strBody, const QString& strSequence, int nTimeout, bool bCompress)
+{
+    Q_D(CAPIModule);
+    constexpr const char* kFunction = "APIModule::CAPIModule::GetRequestParam";
+    if (!d->IsOnApplicationThread()) {
+        LogFailure({kFile, kFunction}, "GetRequestParam failed! wrong thread or no application.");
+        return -1;
+    }
+    if (!pReqParamData) {
+        LogFailure({kFile, kFunction}, "GetRequestParam failed! pReqParamData can not be null.");
+        return -1;
+    }
+    if (strUrl.isEmpty()) {
+        LogFailure({kFile, kFunction}, "GetRequestParam failed! strUrl can not be empty.");
+        return -1;
+    }
+    if (!m_pUserManager) {
+        LogFailure({kFile, kFunction}, "GetRequestParam failed! no user manager.");
+        return -1;
+    }
+
+    if (nServerId == kCurrentServer) {
+        nServerId = m_pUserManager->GetCurrentServerId();
+    }
+    const std::shared_ptr<UserLogical::IServer> pServer = m_pUserManager->GetServer(nServerId);
+    if (!pServer) {
+        return -1;
+    }
+    UserLogical::ServerConnection connection;
+    pServer->GetConnection(connection);
+
+    auto& param = *static_cast<RequestParam*>(pReqParamData);
+    param.strToken = pServer->GetToken();
+    param.strIp = connection.strHost;
+    param.nPort = connection.nPort;
+    param.bHttps = m_nHttpsMode != 0;
+    param.strUrl = strUrl.toStdString();
+    param.strBody = strBody.toStdString();
+    param.strSequence = strSequence.toStdString();
+    param.eMethod = method;
+    param.bCompress = bCompress;
+    param.nTimeout = nTimeout;
+    return 0;
+}
+
+// The callables come by value: they are released before the call returns.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc,
+                             boost::function<int(QJsonObject const&)> parseFunc, const QString& strUIError,
+                             QWidget* pParent, const QString& strSuccessTip, bool bShowErrorCode,
+                             bool bNotifyOnFailure)
+{
+    Q_D(CAPIModule);
+    constexpr const char* kFunction = "APIModule::CAPIModule::ExecuteFuncs";
+    const ReleaseOnReturn release(packetFunc, parseFunc);
+    const QPointer<QWidget> parent(pParent);
+
+    if (!d->IsOnApplicationThread()) {
+        LogFailure({kFile, kFunction}, "ExecuteFuncs failed! wrong thread or no application.");
+        return -1;
+    }
+    if (!packetFunc) {
+        LogFailure({kFile, kFunction}, "Call packetFunc failed! packetFunc can not be null.");
+        return -1;
+    }
+
+    RequestParam param;
+    if (CAPIModulePrivate::Describe(packetFunc, param) != 0) {
+        return -1;
+    }
+
+    QNetworkRequest request;
+    if (const int nResult = BuildRequest(param, request)) {
+        NotifyErrorMessage(strUIError, nResult, bShowErrorCode);
+        return -1;
+    }
+    LogInfo({kFile, kFunction},
+            QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
+
+    ReplyInfo reply;
+    if (const int nResult = ExecuteRequest(request, parent, reply)) {
+        NotifyErrorMessage(strUIError, nResult, bShowErrorCode);
+        return -1;
+    }
+
+    if (const std::optional<int> failure = CAPIModulePrivate::Judge(reply)) {
+        if (!bNotifyOnFailure) {
+            return *failure;
+        }
+        NotifyErrorMessage(strUIError, *failure, bShowErrorCode);
+        return -1;
+    }
+
+    const bool bHasData = !reply.jsonData.isEmpty();
+    if (const int nResult = bHasData ? CAPIModulePrivate::Deliver(parseFunc, reply) : 0) {
+        NotifyErrorMessage(strUIError, kParseFailed, bShowErrorCode);
+        return nResult;
+    }
+    const bool bDelivered = !bHasData || parseFunc;
+    if (bDelivered && !strSuccessTip.isEmpty() && m_bInitialised) {
+        Notify(strSuccessTip);
+    }
+    return 0;
+}
+
+int CAPIModule::BuildRequest(const RequestParam& param, QNetworkRequest& request)
+{
+    Q_D(CAPIModule);
+    return d->BuildRequest(param, request);
+}
+
+int CAPIModule::ExecuteRequest(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply)
+{
+    Q_D(CAPIModule);
+    return pParent ? d->ExecuteRequestWithWaitDlg(request, pParent, reply)
+                   : d->ExecuteRequestWithoutWaitDlg(request, reply);
+}
+
+QString CAPIModule::GetErroCodeInfor(const QString& strUIError, int errorCode, bool bAppend)
+{
+    std::string strText;
+    if (ErrorLexicon::ErrorLexiconQuery(errorCode, strText) == 0) {
+        const QString codeText = QString::fromStdString(strText);
+        return bAppend && !strUIError.isEmpty() ? strUIError + tr(":") + QLatin1Char(' ') + codeText : codeText;
+    }
+
+    const LogSite site{kFile, "APIModule::CAPIModule::GetErroCodeInfor"};
+    const QString line = QLatin1String("Error code is not exist, strUIError=") + strUIError +
+                         QLatin1String(", errorCode=") + QString::number(errorCode);
+    LogFailure(site, line);
+    if (!strUIError.isEmpty()) {
+        return strUIError;
+    }
+    LogInfo(site, line);
+    return tr("Operation failed");
+}
+
+void CAPIModule::NotifyErrorMessage(const QString& strUIError, int errorCode, bool bShowErrorCode)
+{
+    if (!m_bInitialised) {
+        return;
+    }
+    const QString text = bShowErrorCode ? GetErroCodeInfor(strUIError, errorCode, true) : strUIError;
+    if (bShowErrorCode || !text.isEmpty()) {
+        Notify(text);
+    }
+}
+
+}  // namespace APIModule

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Marks what the library exports; a host needs no definition of its own to import it.
+#if defined(APIMODULE_LIBRARY)
+#define APIMODULE_EXPORT Q_DECL_EXPORT
+#else
+#define APIMODULE_EXPORT Q_DECL_IMPORT
+#endif
+
+namespace APIModule {
+
+/// The 64-bit integer of the records.
+using int64 = long long;
+
+}  // namespace APIModule

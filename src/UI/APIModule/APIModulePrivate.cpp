@@ -1,0 +1,342 @@
+#include "APIModule_p.h"
+
+#include "Wait.h"
+#include "detail/Log.h"
+#include "detail/Mask.h"
+
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSslConfiguration>
+#include <QThread>
+#include <QTimeZone>
+#include <QTimer>
+#include <QUrl>
+#include <QVariant>
+
+#include <algorithm>
+#include <exception>
+#include <limits>
+
+namespace APIModule {
+
+using namespace detail;
+
+namespace {
+
+constexpr const char* kFile = "src/UI/APIModule/APIModule";
+
+constexpr int kInvalidRequest = -4;
+constexpr int kNetworkError = -18;
+constexpr int kTimedOut = -101;
+constexpr int kAuthenticationRequired = 7000;
+
+constexpr int kStatusOk = 200;
+constexpr int kStatusUnauthorized = 401;
+constexpr int kCodeSuccess = 1000;
+
+constexpr auto kMethodAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 100);
+constexpr auto kBodyAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 101);
+constexpr auto kTimeoutAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 102);
+constexpr auto kExcludeUserInputAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 103);
+
+QString MaskedUrl(const QNetworkRequest& request)
+{
+    return MaskToken(request.url().toString());
+}
+
+/// Whether the value stays within its header.
+bool IsHeaderValue(const std::string& value)
+{
+    return value.find_first_of(std::string("\r\n\0", 3)) == std::string::npos;
+}
+
+QByteArray Bytes(const std::string& text)
+{
+    return QByteArray::fromStdString(text);
+}
+
+/// Qt tells of a whole answer with a status of 400 and above by an error, too. These are those errors; any other one
+/// means that there is no whole answer.
+bool IsErrorOfStatus(QNetworkReply::NetworkError error)
+{
+    switch (error) {
+    case QNetworkReply::NoError:
+    case QNetworkReply::AuthenticationRequiredError:
+    case QNetworkReply::ProxyAuthenticationRequiredError:
+    case QNetworkReply::ContentAccessDenied:
+    case QNetworkReply::ContentOperationNotPermittedError:
+    case QNetworkReply::ContentNotFoundError:
+    case QNetworkReply::ContentConflictError:
+    case QNetworkReply::ContentGoneError:
+    case QNetworkReply::UnknownContentError:
+    case QNetworkReply::ProtocolInvalidOperationError:
+    case QNetworkReply::InternalServerError:
+    case QNetworkReply::OperationNotImplementedError:
+    case QNetworkReply::ServiceUnavailableError:
+    case QNetworkReply::UnknownServerError:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Unpacks the envelope; a body that is empty or not JSON leaves the code at -1.
+void Unpack(ReplyInfo& reply)
+{
+    if (reply.byteBody.isEmpty()) {
+        return;
+    }
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(reply.byteBody, &error);
+    if (error.error != QJsonParseError::NoError) {
+        return;
+    }
+    const QJsonObject envelope = document.object();
+    const QJsonValue code = envelope.value(QLatin1String("code"));
+    reply.nCode = code.isNull() ? -1 : code.toInt(0);
+    reply.strDesc = envelope.value(QLatin1String("desc")).toString();
+    reply.jsonData = envelope.value(QLatin1String("data")).toObject();
+}
+
+/// Takes what a finished reply brought. @return 0, -18 or 7000
+int TakeReply(QNetworkReply& finished, const QNetworkRequest& request, ReplyInfo& reply, const LogSite& site)
+{
+    const QNetworkReply::NetworkError error = finished.error();
+    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    const bool bHasAnswer = IsErrorOfStatus(error) && (error == QNetworkReply::NoError || status.isValid());
+    const bool bUnauthorized = error == QNetworkReply::AuthenticationRequiredError ||
+                               (bHasAnswer && status.toInt() == kStatusUnauthorized);
+    if (!bHasAnswer || bUnauthorized) {
+        LogFailure(site, QStringLiteral("Request failed, an internal network error occurred, qt network error code: "
+                                        "%1, network error info: %2")
+                             .arg(QString::number(error), MaskToken(finished.errorString())));
+        return bUnauthorized ? kAuthenticationRequired : kNetworkError;
+    }
+
+    const int nStatus = status.isValid() ? status.toInt() : -1;
+    if (nStatus == kStatusOk) {
+        reply.byteBody = finished.readAll();
+        Unpack(reply);
+        reply.rawHeaders = finished.rawHeaderPairs();
+        LogInfo(site, "Request success.");
+    } else {
+        LogFailure(site, QStringLiteral("Request failed, http status Code: %1, request url: %2")
+                             .arg(QString::number(nStatus), MaskedUrl(request)));
+    }
+    reply.nHttpStatus = nStatus;
+    return 0;
+}
+
+/// The time-out of a timer, which holds no more than an int of milliseconds.
+int Milliseconds(int nSeconds)
+{
+    constexpr int kPerSecond = 1000;
+    constexpr int kMostSeconds = std::numeric_limits<int>::max() / kPerSecond;
+    return nSeconds > kMostSeconds ? std::numeric_limits<int>::max() : std::max(nSeconds, 0) * kPerSecond;
+}
+
+/// Runs a callable of the host, whose exceptions end here. @return its result, or -1 with a log line when it throws
+template <typename Call>
+int RunHosted(const char* pName, Call call)
+{
+    const LogSite site{kFile, "APIModule::CAPIModule::ExecuteFuncs"};
+    try {
+        return call();
+    } catch (const std::exception& exception) {
+        LogFailure(site, QStringLiteral("Call %1 failed! %1 threw an exception: %2")
+                             .arg(QLatin1String(pName), QString::fromUtf8(exception.what())));
+    } catch (...) {
+        LogFailure(site, QStringLiteral("Call %1 failed! %1 threw an exception.").arg(QLatin1String(pName)));
+    }
+    return -1;
+}
+
+}  // namespace
+
+CAPIModulePrivate::CAPIModulePrivate(CAPIModule* q) : q_ptr(q)
+{
+    // The façade belongs to the application object's thread. Made before there is one, it belongs to no thread until
+    // it is first used; made on another thread, it moves.
+    QCoreApplication* pApplication = QCoreApplication::instance();
+    if (pApplication && pApplication->thread() == QThread::currentThread()) {
+        AttachTo(*pApplication);
+    } else {
+        MoveTo(pApplication ? pApplication->thread() : nullptr);
+    }
+}
+
+CAPIModulePrivate::~CAPIModulePrivate()
+{
+    if (m_pNetworkManager) {
+        m_pNetworkManager->deleteLater();
+    }
+}
+
+bool CAPIModulePrivate::IsOnApplicationThread()
+{
+    QCoreApplication* pApplication = QCoreApplication::instance();
+    if (!pApplication || pApplication->thread() != QThread::currentThread()) {
+        return false;
+    }
+    if (m_pApplication != pApplication) {
+        AttachTo(*pApplication);
+    }
+    return true;
+}
+
+void CAPIModulePrivate::MoveTo(QThread* pThread)
+{
+    moveToThread(pThread);
+    q_ptr->moveToThread(pThread);
+}
+
+void CAPIModulePrivate::AttachTo(QCoreApplication& application)
+{
+    MoveTo(application.thread());
+    m_pApplication = &application;
+    m_pNetworkManager = new QNetworkAccessManager;
+    connect(&application, &QCoreApplication::aboutToQuit, this, [this] { m_bQuitting = true; });
+    // The network manager has a thread of its own, which must not outlive the application object.
+    qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
+}
+
+void CAPIModulePrivate::DetachFromApplication()
+{
+    delete m_pNetworkManager;
+    MoveTo(nullptr);
+}
+
+int CAPIModulePrivate::Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param)
+{
+    return RunHosted("packetFunc", [&] { return packetFunc(&param); });
+}
+
+int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& request)
+{
+    const LogSite site{kFile, "APIModule::CAPIModulePrivate::BuildRequest"};
+    if (!IsHeaderValue(m_strLanguage) || !IsHeaderValue(param.strToken) || !IsHeaderValue(param.strSequence)) {
+        LogFailure(site, "Invalid request header, a value holds a line break or a zero byte.");
+        return kInvalidRequest;
+    }
+
+    if (param.bHttps) {
+        QSslConfiguration configuration = request.sslConfiguration();
+        configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+        configuration.setProtocol(QSsl::TlsV1SslV3);
+        request.setSslConfiguration(configuration);
+    }
+
+    const QString urlText = (param.bHttps ? QStringLiteral("https://") : QStringLiteral("http://")) +
+                            QString::fromStdString(param.strIp) + QLatin1Char(':') + QString::number(param.nPort) +
+                            QString::fromStdString(param.strUrl);
+    const QUrl url(urlText, QUrl::TolerantMode);
+    if (!url.isValid()) {
+        LogInfo(site, QStringLiteral("Invalid url, request url: %1").arg(MaskToken(urlText)));
+        return kInvalidRequest;
+    }
+    request.setUrl(url);
+
+    if (m_strTimeZoneId.empty()) {
+        m_strTimeZoneId = QTimeZone::systemTimeZoneId().toStdString();
+    }
+    request.setRawHeader("Content-Type", "keep-alive");
+    request.setRawHeader("Accept-Language", Bytes(m_strLanguage));
+    request.setRawHeader("Time-Zone", Bytes(m_strTimeZoneId));
+    request.setRawHeader("Content-Type", "application/json;charset=UTF-8");
+    request.setRawHeader("X-Subject-Token", Bytes(param.strToken));
+    if (param.bCompress) {
+        request.setRawHeader("Compress-Type", "1");
+    }
+    if (!param.strSequence.empty()) {
+        request.setRawHeader("X-Subject-Sequence", Bytes(param.strSequence));
+    }
+
+    request.setAttribute(kBodyAttribute, Bytes(param.strBody));
+    request.setAttribute(kMethodAttribute, QVariant::fromValue(param.eMethod));
+    request.setAttribute(kTimeoutAttribute, param.nTimeout);
+    request.setAttribute(kExcludeUserInputAttribute, param.bExcludeUserInput);
+    return 0;
+}
+
+int CAPIModulePrivate::ExecuteRequestWithWaitDlg(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply)
+{
+    Wait wait(*pParent);
+    return Execute(request, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
+}
+
+int CAPIModulePrivate::ExecuteRequestWithoutWaitDlg(const QNetworkRequest& request, ReplyInfo& reply)
+{
+    Wait wait(request.attribute(kExcludeUserInputAttribute).toBool() ? QEventLoop::ExcludeUserInputEvents
+                                                                     : QEventLoop::AllEvents);
+    return Execute(request, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg");
+}
+
+int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply, Wait& wait, const char* pFunction)
+{
+    const QVariant timeout = request.attribute(kTimeoutAttribute);
+    if (!m_pNetworkManager || !timeout.isValid() || !request.attribute(kMethodAttribute).isValid()) {
+        return kInvalidRequest;
+    }
+
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setSingleShot(true);
+    connect(&timer, &QTimer::timeout, wait.Context(), [&wait] { wait.End(); });
+    timer.start(Milliseconds(timeout.toInt()));
+
+    std::optional<int> result;
+    QPointer<QNetworkReply> pReply;
+    if (!m_bQuitting) {
+        pReply = Send(request);
+        connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
+            timer.stop();
+            result = TakeReply(*pReply, request, reply, {kFile, pFunction});
+            wait.End();
+        });
+        connect(pReply, &QObject::destroyed, wait.Context(), [&wait] { wait.End(); });
+        wait.Run();
+    }
+
+    if (!result) {
+        LogFailure({kFile, pFunction}, QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
+    }
+    // No signal of the reply is under way any more. Deleted now, a reply that timed out gives its connection to the
+    // requests after it even when the host makes them without a return to its event loop.
+    delete pReply;
+    return result.value_or(kTimedOut);
+}
+
+QNetworkReply* CAPIModulePrivate::Send(const QNetworkRequest& request)
+{
+    const QByteArray body = request.attribute(kBodyAttribute).toByteArray();
+    switch (request.attribute(kMethodAttribute).value<Method>()) {
+    case Method_Put:
+        return m_pNetworkManager->put(request, body);
+    case Method_Post:
+        return m_pNetworkManager->post(request, body);
+    case Method_Delete:
+        return m_pNetworkManager->sendCustomRequest(request, "DELETE", body);
+    case Method_Get:
+        break;
+    }
+    return m_pNetworkManager->get(request);
+}
+
+std::optional<int> CAPIModulePrivate::Judge(const ReplyInfo& reply)
+{
+    if (reply.nHttpStatus != kStatusOk) {
+        return reply.nHttpStatus;
+    }
+    if (reply.nCode != kCodeSuccess) {
+        return reply.nCode;
+    }
+    return std::nullopt;
+}
+
+int CAPIModulePrivate::Deliver(const boost::function<int(QJsonObject const&)>& parseFunc, const ReplyInfo& reply)
+{
+    return parseFunc ? RunHosted("parseFunc", [&] { return parseFunc(reply.jsonData); }) : 0;
+}
+
+}  // namespace APIModule

@@ -1,0 +1,5 @@
+#include "Brms.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "../APIModuleGlobal.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

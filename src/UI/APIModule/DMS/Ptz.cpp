@@ -1,0 +1,5 @@
+#include "Dms.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

@@ -1,0 +1,5 @@
+#include "Iams.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

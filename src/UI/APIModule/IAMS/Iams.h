@@ -1,0 +1,12 @@
+#pragma once
+
+#include "../detail/Pack.h"
+#include "IAMSModule.h"
+
+namespace APIModule {
+
+using namespace detail;
+
+inline constexpr Family kIams{"src/UI/APIModule/IAMS/IAMSModule", "APIModule::CIAMSModule::"};
+
+}  // namespace APIModule

@@ -1,0 +1,5 @@
+#include "Ipms.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

@@ -1,0 +1,5 @@
+#include "Obms.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

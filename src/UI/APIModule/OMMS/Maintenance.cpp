@@ -1,0 +1,5 @@
+#include "Omms.h"
+
+namespace APIModule {
+
+}  // namespace APIModule

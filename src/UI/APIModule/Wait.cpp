@@ -1,0 +1,41 @@
+#include "Wait.h"
+
+#include <OrnGui/OrnWaitDialog.h>
+
+#include <QWidget>
+
+namespace APIModule {
+
+Wait::Wait(QEventLoop::ProcessEventsFlags flags) : m_flags(flags) {}
+
+Wait::Wait(QWidget& parent) : m_pDialog(new ORNGUI::OrnWaitDialog(&parent, true))
+{
+    QObject::connect(&parent, &QObject::destroyed, &m_loop, [this] { End(); });
+}
+
+Wait::~Wait()
+{
+    delete m_pDialog;
+}
+
+void Wait::Run()
+{
+    if (!m_bEnded && m_pDialog) {
+        m_pDialog->exec();
+    }
+    // A dialog that somebody else took off the screen does not end the wait.
+    if (!m_bEnded) {
+        m_loop.exec(m_flags);
+    }
+}
+
+void Wait::End()
+{
+    m_bEnded = true;
+    if (m_pDialog) {
+        m_pDialog->OnStopWaitImmediately();
+    }
+    m_loop.quit();
+}
+
+}  // namespace APIModule

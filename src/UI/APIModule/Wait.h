@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QPointer>
+
+class QWidget;
+
+namespace ORNGUI {
+class OrnWaitDialog;
+}
+
+namespace APIModule {
+
+/// The wait of one request, in a local event loop or behind a modal wait dialog.
+///
+/// Whatever runs meanwhile may delete the parent, start further waits or end the application; the wait then ends.
+class Wait {
+public:
+    /// A wait in a local event loop.
+    explicit Wait(QEventLoop::ProcessEventsFlags flags);
+
+    /// A wait behind a modal dialog over @p parent. It ends when the parent is destroyed.
+    explicit Wait(QWidget& parent);
+
+    ~Wait();
+
+    Wait(const Wait&) = delete;
+    Wait& operator=(const Wait&) = delete;
+
+    /// Runs the event loop until End(), or until the application quits.
+    void Run();
+
+    /// Ends the wait, also one that has not begun.
+    void End();
+
+    /// Lives as long as the wait: a context for connections that end it.
+    QObject* Context() { return &m_loop; }
+
+private:
+    QEventLoop m_loop;
+    QEventLoop::ProcessEventsFlags m_flags = QEventLoop::AllEvents;
+    QPointer<ORNGUI::OrnWaitDialog> m_pDialog;
+    bool m_bEnded = false;
+};
+
+}  // namespace APIModule

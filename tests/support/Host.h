@@ -1,0 +1,55 @@
+#pragma once
+
+#include "RawServer.h"
+#include "Recorders.h"
+#include "UserManager.h"
+
+#include <APIModule.h>
+
+#include <QString>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace testing_support {
+
+constexpr const char* kFacadeFile = "src/UI/APIModule/APIModule";
+
+/// Everything that one call hands to ExecuteFuncs, with values that most tests can leave alone.
+struct HostCall {
+    APIModule::Method method = APIModule::Method_Get;
+    QString url = QStringLiteral("/path");
+    QString body;
+    QString sequence;
+    int timeout = 5;
+    bool compress = false;
+    bool excludeUserInput = true;
+    boost::function<int(QJsonObject const&)> parse;
+    QString uiError;
+    QWidget* parent = nullptr;
+    QString successTip;
+    bool showErrorCode = true;
+    bool notifyOnFailure = true;
+
+};
+
+/// Runs a call with a Pack of its own.
+int Execute(const HostCall& call);
+
+/// A host that has initialised the library and knows one server.
+class Host : public testing::Test {
+protected:
+    Host();
+    ~Host() override;
+
+    /// Makes @p server the host's server.
+    void Use(const RawServer& server, RawServer::Scheme scheme = RawServer::Http);
+
+    UserManager users;
+    LogRecorder logs;
+    NotificationRecorder notifications;
+};
+
+}  // namespace testing_support

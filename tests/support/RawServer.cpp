@@ -1,0 +1,163 @@
+#include "RawServer.h"
+
+#include "Certificate.h"
+
+#include <QSslConfiguration>
+#include <QSslSocket>
+#include <QTcpServer>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace testing_support {
+
+QList<QByteArray> RawRequest::Values(const QByteArray& name) const
+{
+    QList<QByteArray> values;
+    for (const auto& header : headers) {
+        if (header.first.compare(name, Qt::CaseInsensitive) == 0) {
+            values.append(header.second);
+        }
+    }
+    return values;
+}
+
+QByteArray RawRequest::Value(const QByteArray& name) const
+{
+    const QList<QByteArray> values = Values(name);
+    EXPECT_EQ(values.size(), 1) << name.constData();
+    return values.isEmpty() ? QByteArray() : values.first();
+}
+
+RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders)
+{
+    return {"HTTP/1.1 " + QByteArray::number(status) + " Reason\r\nContent-Type: application/json\r\n" + moreHeaders +
+            "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body};
+}
+
+/// Lives in the server's thread.
+class RawServer::Listener : public QTcpServer {
+public:
+    Listener(RawServer& server, Responder responder, Scheme scheme)
+        : m_server(server), m_responder(std::move(responder))
+    {
+        if (scheme == Https) {
+            m_certificate = std::make_unique<Certificate>(MakeCertificate());
+        }
+        EXPECT_TRUE(listen(QHostAddress::LocalHost));
+    }
+
+protected:
+    void incomingConnection(qintptr descriptor) override
+    {
+        auto* pSocket = new QSslSocket(this);
+        pSocket->setSocketDescriptor(descriptor);
+        const int nConnection = ++m_server.m_connections;
+        ++m_server.m_openConnections;
+        connect(pSocket, &QSslSocket::disconnected, this, [this, pSocket] {
+            --m_server.m_openConnections;
+            pSocket->deleteLater();
+        });
+        connect(pSocket, &QSslSocket::readyRead, this, [this, pSocket, nConnection] { Read(*pSocket, nConnection); });
+        if (m_certificate) {
+            pSocket->setLocalCertificate(m_certificate->certificate);
+            pSocket->setPrivateKey(m_certificate->key);
+            pSocket->setPeerVerifyMode(QSslSocket::VerifyNone);
+            pSocket->startServerEncryption();
+        }
+    }
+
+private:
+    void Read(QSslSocket& socket, int nConnection)
+    {
+        QByteArray received = socket.property("received").toByteArray() + socket.readAll();
+        for (int nEnd = received.indexOf("\r\n\r\n"); nEnd >= 0; nEnd = received.indexOf("\r\n\r\n")) {
+            RawRequest request = Parse(received.left(nEnd));
+            const QList<QByteArray> lengths = request.Values("Content-Length");
+            const int nLength = lengths.isEmpty() ? 0 : lengths.first().toInt();
+            const int nBody = nEnd + 4;
+            if (received.size() < nBody + nLength) {
+                break;
+            }
+            request.body = received.mid(nBody, nLength);
+            request.connection = nConnection;
+            received.remove(0, nBody + nLength);
+            Answer(socket, request);
+        }
+        socket.setProperty("received", received);
+    }
+
+    static RawRequest Parse(const QByteArray& head)
+    {
+        RawRequest request;
+        const QList<QByteArray> lines = head.split('\n');
+        const QList<QByteArray> words = lines.first().trimmed().split(' ');
+        request.method = words.value(0);
+        request.target = words.value(1);
+        for (int i = 1; i < lines.size(); ++i) {
+            const QByteArray line = lines.at(i).trimmed();
+            const int nColon = line.indexOf(':');
+            request.headers.append({line.left(nColon), line.mid(nColon + 1).trimmed()});
+        }
+        return request;
+    }
+
+    void Answer(QSslSocket& socket, const RawRequest& request)
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_server.m_mutex);
+            m_server.m_requests.push_back(request);
+        }
+        const RawAnswer answer = m_responder(request);
+        QTimer::singleShot(answer.delayMilliseconds, &socket, [&socket, answer] {
+            socket.write(answer.bytes);
+            switch (answer.then) {
+            case RawAnswer::KeepOpen:
+                break;
+            case RawAnswer::Close:
+                socket.disconnectFromHost();
+                break;
+            case RawAnswer::Reset:
+                socket.flush();
+                socket.abort();
+                break;
+            }
+        });
+    }
+
+    RawServer& m_server;
+    Responder m_responder;
+    std::unique_ptr<Certificate> m_certificate;
+};
+
+RawServer::RawServer(Responder responder, Scheme scheme)
+{
+    auto context = std::make_unique<QObject>();
+    context->moveToThread(&m_thread);
+    m_thread.start();
+    QMetaObject::invokeMethod(
+        context.get(),
+        [&] {
+            m_listener = new Listener(*this, std::move(responder), scheme);
+            m_port = m_listener->serverPort();
+        },
+        Qt::BlockingQueuedConnection);
+    context.release()->deleteLater();
+}
+
+RawServer::~RawServer()
+{
+    m_listener->deleteLater();
+    m_thread.quit();
+    m_thread.wait();
+}
+
+std::vector<RawRequest> RawServer::TakeRequests()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return std::exchange(m_requests, {});
+}
+
+}  // namespace testing_support

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QPair>
+#include <QThread>
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <vector>
+
+namespace testing_support {
+
+/// An HTTP request as it came over the wire.
+struct RawRequest {
+    QByteArray method;
+    QByteArray target;
+    QList<QPair<QByteArray, QByteArray>> headers;
+    QByteArray body;
+    int connection = 0;
+
+    /// The values of a header, whatever the case of its name.
+    QList<QByteArray> Values(const QByteArray& name) const;
+    /// The one value of a header; the request is a failure of the test when there are more or none.
+    QByteArray Value(const QByteArray& name) const;
+};
+
+/// What to do with one request.
+struct RawAnswer {
+    enum Then { KeepOpen, Close, Reset };
+
+    QByteArray bytes;          ///< goes over the wire as it is; nothing when empty
+    int delayMilliseconds = 0; ///< before the bytes
+    Then then = KeepOpen;      ///< after the bytes
+};
+
+/// A complete HTTP answer.
+RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
+
+/// A server on loopback in a thread of its own, with full control of the bytes that it sends.
+class RawServer {
+public:
+    using Responder = std::function<RawAnswer(const RawRequest&)>;
+
+    enum Scheme { Http, Https };
+
+    explicit RawServer(Responder responder, Scheme scheme = Http);
+    ~RawServer();
+    RawServer(const RawServer&) = delete;
+    RawServer& operator=(const RawServer&) = delete;
+
+    int Port() const { return m_port; }
+    std::vector<RawRequest> TakeRequests();
+    int ConnectionCount() const { return m_connections; }
+    /// Connections that the client still holds open.
+    int OpenConnectionCount() const { return m_openConnections; }
+
+private:
+    class Listener;
+
+    QThread m_thread;
+    Listener* m_listener = nullptr;  // in m_thread, deleted there
+    std::mutex m_mutex;
+    std::vector<RawRequest> m_requests;
+    std::atomic<int> m_port{0};
+    std::atomic<int> m_connections{0};
+    std::atomic<int> m_openConnections{0};
+};
+
+}  // namespace testing_support
