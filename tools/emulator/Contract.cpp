@@ -1,0 +1,426 @@
+#include "Contract.h"
+
+#include "Text.h"
+
+#include <yaml-cpp/yaml.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <set>
+#include <utility>
+
+namespace emulator
+{
+namespace
+{
+
+constexpr std::array kMethods = {"get", "put", "post", "delete"};
+
+/// What draft 7 and 2020-12 have in common; the validator passes over any other keyword in silence.
+const std::set<std::string>& SharedKeywords()
+{
+    static const std::set<std::string> keywords = {
+        "type",          "enum",        "const",       "multipleOf",    "maximum",  "exclusiveMaximum",
+        "minimum",       "pattern",     "maxLength",   "minLength",     "items",    "exclusiveMinimum",
+        "maxItems",      "minItems",    "uniqueItems", "contains",      "required", "maxProperties",
+        "minProperties", "properties",  "allOf",       "propertyNames", "anyOf",    "patternProperties",
+        "oneOf",         "not",         "if",          "then",          "else",     "additionalProperties",
+        "title",         "description", "default",     "examples",      "$ref",     "readOnly",
+        "writeOnly",     "format"};
+    return keywords;
+}
+
+/// Plain scalars by YAML's core schema; quoted ones are texts.
+Json ScalarOf(const YAML::Node& node)
+{
+    const std::string text = node.Scalar();
+    if (node.Tag() == "!")
+    {
+        return text;
+    }
+    if (text == "true" || text == "false")
+    {
+        return text == "true";
+    }
+    const Json number = Json::parse(text, nullptr, false);
+    return number.is_number() ? number : Json(text);
+}
+
+Json JsonOf(const YAML::Node& node)
+{
+    Json json;
+    switch (node.Type())
+    {
+    case YAML::NodeType::Scalar:
+        return ScalarOf(node);
+    case YAML::NodeType::Sequence:
+        json = Json::array();
+        for (const YAML::Node& element : node)
+        {
+            json.push_back(JsonOf(element));
+        }
+        return json;
+    case YAML::NodeType::Map:
+        json = Json::object();
+        for (const auto& member : node)
+        {
+            if (!json.emplace(member.first.Scalar(), JsonOf(member.second)).second)
+            {
+                throw ContractError("key '" + member.first.Scalar() + "' is there twice");
+            }
+        }
+        return json;
+    default:
+        return json;
+    }
+}
+
+/// The files of a folder with their references to each other.
+class Files
+{
+public:
+    void read(const std::filesystem::path& file)
+    {
+        try
+        {
+            m_documents[file.filename().string()] = JsonOf(YAML::LoadFile(file.string()));
+        }
+        catch (const std::exception& error)
+        {
+            throw ContractError(file.filename().string() + ": " + error.what());
+        }
+    }
+
+    [[nodiscard]] const std::map<std::string, Json>& documents() const { return m_documents; }
+
+    /// The node of the file with what its references lead to in their place.
+    [[nodiscard]] Json resolved(const Json& node, const std::string& file, const std::string& place,
+                                std::set<std::string> passed = {}) const
+    {
+        if (node.is_array())
+        {
+            Json result = Json::array();
+            for (std::size_t i = 0; i < node.size(); ++i)
+            {
+                result.push_back(resolved(node[i], file, place + "/" + std::to_string(i), passed));
+            }
+            return result;
+        }
+        if (!node.is_object())
+        {
+            return node;
+        }
+        if (node.contains("$ref"))
+        {
+            return target(node, file, place, std::move(passed));
+        }
+        Json result = Json::object();
+        for (const auto& member : node.items())
+        {
+            result[member.key()] = resolved(member.value(), file, place + "/" + member.key(), passed);
+        }
+        return withoutWrapper(std::move(result));
+    }
+
+private:
+    /// A reference that carries a description of its own is wrapped: {description: ..., allOf: [{$ref: ...}]}.
+    static Json withoutWrapper(Json node)
+    {
+        const bool wrapped = node.contains("allOf") && node.at("allOf").is_array() && node.at("allOf").size() == 1;
+        if (wrapped && node.at("allOf").at(0).is_object())
+        {
+            Json inner = node.at("allOf").at(0);
+            node.erase("allOf");
+            inner.update(node);
+            return inner;
+        }
+        return node;
+    }
+
+    [[nodiscard]] Json target(const Json& node, const std::string& file, const std::string& place,
+                              std::set<std::string> passed) const
+    {
+        const std::string where = file + ": " + place;
+        if (node.size() != 1 || !node.at("$ref").is_string())
+        {
+            throw ContractError(where + ": $ref is a text and stands alone");
+        }
+        const std::string reference = node.at("$ref");
+        const std::size_t mark = reference.find('#');
+        const std::string targetFile = mark == 0 ? file : reference.substr(0, mark);
+        if (mark == std::string::npos || m_documents.count(targetFile) == 0)
+        {
+            throw ContractError(where + ": '" + reference + "' names no file of the contract");
+        }
+        const std::string pointer = reference.substr(mark + 1);
+        if (!passed.insert(targetFile + "#" + pointer).second)
+        {
+            throw ContractError(where + ": '" + reference + "' leads back to itself");
+        }
+        const Json& document = m_documents.at(targetFile);
+        try
+        {
+            return resolved(document.at(Json::json_pointer(pointer)), targetFile, pointer, std::move(passed));
+        }
+        catch (const Json::exception&)
+        {
+            throw ContractError(where + ": '" + reference + "' leads nowhere");
+        }
+    }
+
+    std::map<std::string, Json> m_documents;
+};
+
+void RefuseOtherKeywords(const Json& schema, const std::string& where);
+
+void RefuseInEach(const Json& schemas, const std::string& where)
+{
+    for (const auto& member : schemas.items())
+    {
+        RefuseOtherKeywords(member.value(), where + "/" + member.key());
+    }
+}
+
+void RefuseOtherKeywords(const Json& schema, const std::string& where)
+{
+    if (schema.is_boolean())
+    {
+        return;
+    }
+    if (!schema.is_object())
+    {
+        throw ContractError(where + ": a schema is an object");
+    }
+    for (const auto& member : schema.items())
+    {
+        const std::string& keyword = member.key();
+        const std::string place = where + "/" + keyword;
+        if (SharedKeywords().count(keyword) == 0)
+        {
+            throw ContractError(place + ": draft 7 and 2020-12 do not share this keyword");
+        }
+        if (keyword == "properties" || keyword == "patternProperties" || keyword == "allOf" || keyword == "anyOf" ||
+            keyword == "oneOf")
+        {
+            RefuseInEach(member.value(), place);
+        }
+        else if (keyword == "items" || keyword == "additionalProperties" || keyword == "not" || keyword == "if" ||
+                 keyword == "then" || keyword == "else" || keyword == "contains" || keyword == "propertyNames")
+        {
+            RefuseOtherKeywords(member.value(), place);
+        }
+    }
+}
+
+Schema SchemaOf(const Json& document, const std::string& where)
+{
+    RefuseOtherKeywords(document, where);
+    try
+    {
+        return Schema(document);
+    }
+    catch (const std::exception& error)
+    {
+        throw ContractError(where + ": " + error.what());
+    }
+}
+
+std::vector<Json> ExamplesOf(const Json& content)
+{
+    std::vector<Json> examples;
+    if (content.contains("example"))
+    {
+        examples.push_back(content.at("example"));
+    }
+    for (const auto& named : content.value("examples", Json::object()).items())
+    {
+        examples.push_back(named.value().at("value"));
+    }
+    return examples;
+}
+
+/// The envelope with code 1000 among the replies.
+const Json& SuccessOf(const Json& reply, const std::string& where)
+{
+    static const Json::json_pointer code("/properties/code/const");
+    for (const Json& envelope : reply.at("oneOf"))
+    {
+        if (envelope.contains(code) && envelope.at(code) == 1000)
+        {
+            return envelope;
+        }
+    }
+    throw ContractError(where + ": no reply has the code 1000");
+}
+
+std::vector<QueryParameter> QueryOf(const Json& path, const Json& operation, const std::string& where)
+{
+    std::vector<QueryParameter> query;
+    for (const Json* holder : {&path, &operation})
+    {
+        for (const Json& parameter : holder->value("parameters", Json::array()))
+        {
+            if (parameter.at("in") == "query")
+            {
+                query.push_back(QueryParameter{parameter.at("name"), parameter.value("required", false),
+                                               SchemaOf(parameter.at("schema"), where + "/parameters")});
+            }
+        }
+    }
+    return query;
+}
+
+Operation OperationOf(const std::string& template_, const std::string& method, const Json& path,
+                      const std::string& where)
+{
+    static const Json::json_pointer jsonContent("/content/application~1json");
+    const Json& described = path.at(method);
+    std::optional<Schema> body;
+    std::vector<Json> bodyExamples;
+    if (described.contains("requestBody"))
+    {
+        const Json& content = described.at("requestBody").at(jsonContent);
+        body = SchemaOf(content.at("schema"), where + "/requestBody");
+        bodyExamples = ExamplesOf(content);
+    }
+    const Json& content = described.at("responses").at("200").at(jsonContent);
+    const Json& reply = content.at("schema");
+    const Json& success = SuccessOf(reply, where);
+    std::string upper = method;
+    std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
+    return Operation{described.at("operationId"),
+                     upper,
+                     template_,
+                     QueryOf(path, described, where),
+                     std::move(body),
+                     SchemaOf(reply, where + "/responses/200"),
+                     SchemaOf(success, where + "/responses/200"),
+                     success.at("properties").value("data", Json::object()),
+                     std::move(bodyExamples),
+                     ExamplesOf(content)};
+}
+
+bool IsPlaceholder(const std::string& segment)
+{
+    return segment.size() > 2 && segment.front() == '{' && segment.back() == '}';
+}
+
+/// The values of the placeholders when the path fits the template.
+std::optional<PathValues> ValuesOf(const std::string& template_, const std::vector<std::string>& segments)
+{
+    const std::vector<std::string> wanted = Split(template_, '/');
+    if (wanted.size() != segments.size())
+    {
+        return std::nullopt;
+    }
+    PathValues values;
+    for (std::size_t i = 0; i < wanted.size(); ++i)
+    {
+        if (IsPlaceholder(wanted[i]))
+        {
+            values[wanted[i].substr(1, wanted[i].size() - 2)] = PercentDecode(segments[i], false);
+        }
+        else if (wanted[i] != PercentDecode(segments[i], false))
+        {
+            return std::nullopt;
+        }
+    }
+    return values;
+}
+
+}  // namespace
+
+Contract Contract::Load(const std::filesystem::path& folder)
+{
+    Files files;
+    std::error_code fault;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, fault))
+    {
+        if (entry.path().extension() == ".yaml")
+        {
+            files.read(entry.path());
+        }
+    }
+    Contract contract;
+    std::set<std::string> known;
+    for (const auto& [file, document] : files.documents())
+    {
+        const Json paths = files.resolved(document.value("paths", Json::object()), file, "/paths");
+        for (const auto& path : paths.items())
+        {
+            for (const char* method : kMethods)
+            {
+                if (!path.value().contains(method))
+                {
+                    continue;
+                }
+                const std::string where = file + ": " + path.key() + "/" + method;
+                try
+                {
+                    contract.m_operations.push_back(OperationOf(path.key(), method, path.value(), where));
+                }
+                catch (const Json::exception& error)
+                {
+                    throw ContractError(where + ": " + error.what());
+                }
+                if (!known.insert(contract.m_operations.back().id).second)
+                {
+                    throw ContractError(where + ": operation '" + contract.m_operations.back().id + "' is told twice");
+                }
+            }
+        }
+    }
+    if (contract.m_operations.empty())
+    {
+        throw ContractError("no operation in the contract folder " + folder.string());
+    }
+    return contract;
+}
+
+const Operation& Contract::operation(const std::string& id) const
+{
+    const auto found = std::find_if(m_operations.begin(), m_operations.end(),
+                                    [&](const Operation& operation) { return operation.id == id; });
+    if (found == m_operations.end())
+    {
+        throw ContractError("the contract has no operation " + id);
+    }
+    return *found;
+}
+
+Contract::Match Contract::find(const std::string& method, const std::string& path) const
+{
+    const std::vector<std::string> segments = Split(path, '/');
+    Match best;
+    std::string bestPath;
+    for (const Operation& operation : m_operations)
+    {
+        std::optional<PathValues> values = ValuesOf(operation.path, segments);
+        if (!values)
+        {
+            continue;
+        }
+        // '{' sorts behind every letter, so of two templates that fit the more literal one is the smaller.
+        if (!best.pathKnown || operation.path < bestPath)
+        {
+            best = Match{true, nullptr, *values};
+            bestPath = operation.path;
+        }
+        if (operation.path == bestPath && operation.method == method)
+        {
+            best.operation = &operation;
+        }
+    }
+    return best;
+}
+
+const Operation* Contract::readerOf(const Operation& writer) const
+{
+    const auto found = std::find_if(m_operations.begin(), m_operations.end(), [&](const Operation& operation) {
+        return operation.method == "GET" && operation.path == writer.path;
+    });
+    return found == m_operations.end() ? nullptr : &*found;
+}
+
+}  // namespace emulator

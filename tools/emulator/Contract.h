@@ -1,0 +1,76 @@
+#pragma once
+
+#include "Schema.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace emulator
+{
+
+/// The contract on disk is not as it should be; the text names file and place.
+class ContractError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct QueryParameter
+{
+    std::string name;
+    bool required = false;
+    Schema schema;
+};
+
+/// One endpoint, its references resolved.
+struct Operation
+{
+    std::string id;      ///< such as "BRMS.GetTimeSyncConfig"
+    std::string method;  ///< upper case
+    std::string path;    ///< the template, such as "/brms/api/v1.1/user/group/{groupId}"
+    std::vector<QueryParameter> query;
+    std::optional<Schema> body;  ///< empty where the call has none
+    Schema reply;                ///< every envelope that may come
+    Schema success;              ///< the envelope of a call that was carried out
+    Json dataSchema;             ///< of the successful reply's "data"; an empty object where it has none
+    std::vector<Json> bodyExamples;
+    std::vector<Json> replyExamples;
+};
+
+using PathValues = std::map<std::string, std::string>;
+
+/// The endpoints that the files of one folder describe.
+class Contract
+{
+public:
+    /// Reads every *.yaml file of the folder.
+    /// @throws ContractError for a file that cannot be read, a reference that leads nowhere, in a circle or has
+    /// siblings, a schema keyword that the validator would pass over, an operation told twice.
+    static Contract Load(const std::filesystem::path& folder);
+
+    [[nodiscard]] const std::vector<Operation>& operations() const { return m_operations; }
+
+    /// @throws ContractError for an unknown identifier.
+    [[nodiscard]] const Operation& operation(const std::string& id) const;
+
+    struct Match
+    {
+        bool pathKnown = false;
+        const Operation* operation = nullptr;  ///< null when the path is unknown or knows no such method
+        PathValues values;                     ///< decoded
+    };
+    /// @param path as it came over the wire, without query. A literal segment wins over a placeholder.
+    [[nodiscard]] Match find(const std::string& method, const std::string& path) const;
+
+    /// The operation that reads what this one writes: the GET of the same path; null when there is none.
+    [[nodiscard]] const Operation* readerOf(const Operation& writer) const;
+
+private:
+    std::vector<Operation> m_operations;
+};
+
+}  // namespace emulator

@@ -1,0 +1,180 @@
+#include "Faults.h"
+
+#include "Text.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+
+namespace emulator
+{
+namespace
+{
+
+struct KindName
+{
+    Fault::Kind kind;
+    const char* name;
+};
+constexpr std::array kKinds = {KindName{Fault::Kind::Delay, "delay"},
+                               KindName{Fault::Kind::Status, "status"},
+                               KindName{Fault::Kind::Envelope, "envelope"},
+                               KindName{Fault::Kind::Empty, "empty"},
+                               KindName{Fault::Kind::Cut, "cut"},
+                               KindName{Fault::Kind::NotJson, "notJson"},
+                               KindName{Fault::Kind::Text, "text"},
+                               KindName{Fault::Kind::Large, "large"},
+                               KindName{Fault::Kind::CloseBefore, "closeBefore"},
+                               KindName{Fault::Kind::CloseMiddle, "closeMiddle"},
+                               KindName{Fault::Kind::Silent, "silent"}};
+constexpr int kDayMilliseconds = 24 * 60 * 60 * 1000;
+constexpr int kLargestBody = 1024 * 1024 * 1024;
+
+Fault::Kind KindOf(const std::string& name)
+{
+    const auto* found =
+        std::find_if(kKinds.begin(), kKinds.end(), [&](const KindName& entry) { return name == entry.name; });
+    if (found == kKinds.end())
+    {
+        throw std::invalid_argument("kind: unknown '" + name + "'");
+    }
+    return found->kind;
+}
+
+int NumberIn(const Json& value, const std::string& name, int least, int most)
+{
+    if (!value.is_number_integer() || value < least || value > most)
+    {
+        throw std::invalid_argument(name + ": expected a number from " + std::to_string(least) + " to " +
+                                    std::to_string(most));
+    }
+    return value;
+}
+
+std::string TextIn(const Json& value, const std::string& name)
+{
+    if (!value.is_string())
+    {
+        throw std::invalid_argument(name + ": expected a text");
+    }
+    return value;
+}
+
+void SetMember(Fault& fault, const std::string& name, const Json& value)
+{
+    if (name == "path")
+    {
+        fault.path = TextIn(value, name);
+    }
+    else if (name == "kind")
+    {
+        fault.kind = KindOf(TextIn(value, name));
+    }
+    else if (name == "times")
+    {
+        fault.times = NumberIn(value, name, 0, INT_MAX);
+    }
+    else if (name == "delayMs")
+    {
+        fault.delay = std::chrono::milliseconds(NumberIn(value, name, 0, kDayMilliseconds));
+    }
+    else if (name == "status")
+    {
+        fault.status = NumberIn(value, name, 200, 599);
+    }
+    else if (name == "headers" && value.is_object())
+    {
+        for (const auto& header : value.items())
+        {
+            fault.headers.emplace_back(header.key(), TextIn(header.value(), "headers"));
+        }
+    }
+    else if (name == "code")
+    {
+        fault.code = NumberIn(value, name, INT_MIN, INT_MAX);
+    }
+    else if (name == "desc")
+    {
+        fault.desc = TextIn(value, name);
+    }
+    else if (name == "body")
+    {
+        fault.body = TextIn(value, name);
+    }
+    else if (name == "size")
+    {
+        fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestBody));
+    }
+    else
+    {
+        throw std::invalid_argument(name + ": not expected");
+    }
+}
+
+}  // namespace
+
+Fault Fault::FromJson(const Json& json)
+{
+    if (!json.is_object() || !json.contains("kind"))
+    {
+        throw std::invalid_argument("expected an object with \"kind\"");
+    }
+    Fault fault;
+    for (const auto& member : json.items())
+    {
+        SetMember(fault, member.key(), member.value());
+    }
+    return fault;
+}
+
+Json Fault::toJson() const
+{
+    const auto* found =
+        std::find_if(kKinds.begin(), kKinds.end(), [this](const KindName& entry) { return entry.kind == kind; });
+    Json json{{"path", path},     {"kind", found->name}, {"times", times}, {"delayMs", delay.count()},
+              {"status", status}, {"code", code},        {"desc", desc},   {"body", body},
+              {"size", size}};
+    json["headers"] = Json::object();
+    for (const auto& [name, value] : headers)
+    {
+        json["headers"][name] = value;
+    }
+    return json;
+}
+
+void Faults::add(Fault fault)
+{
+    const std::lock_guard lock(m_mutex);
+    m_faults.push_back(std::move(fault));
+}
+
+std::vector<Fault> Faults::list() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_faults;
+}
+
+void Faults::clear()
+{
+    const std::lock_guard lock(m_mutex);
+    m_faults.clear();
+}
+
+std::optional<Fault> Faults::take(const std::string& target)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto found = std::find_if(m_faults.begin(), m_faults.end(),
+                                    [&](const Fault& fault) { return StartsWith(target, fault.path); });
+    if (found == m_faults.end())
+    {
+        return std::nullopt;
+    }
+    Fault fault = *found;
+    if (found->times > 0 && --found->times == 0)
+    {
+        m_faults.erase(found);
+    }
+    return fault;
+}
+
+}  // namespace emulator

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Contract.h"
+#include "HttpListener.h"
+
+#include <mutex>
+#include <string>
+
+namespace emulator
+{
+
+/// Judges calls by the contract, carries them out on the state and answers with envelopes.
+class Platform
+{
+public:
+    Platform(Contract contract, Json seeds, std::string token);
+
+    /// Safe from several threads; calls take turns.
+    HttpResponse answer(const HttpRequest& request);
+
+    [[nodiscard]] Json state() const;
+    void setState(Json state);
+    void reset();
+
+private:
+    Json envelopeFor(const HttpRequest& request);
+    Json carryOut(const Operation& operation, const PathValues& path, const Json& query, const Json& body);
+
+    const Contract m_contract;
+    const Json m_seeds;
+    const std::string m_token;
+    mutable std::mutex m_mutex;
+    Json m_state;
+};
+
+}  // namespace emulator

@@ -1,0 +1,363 @@
+#include "PlatformEmulator.h"
+
+#include "Contract.h"
+#include "Platform.h"
+#include "State.h"
+#include "Text.h"
+
+#include <atomic>
+#include <iostream>
+#include <mutex>
+#include <utility>
+
+namespace emulator
+{
+namespace
+{
+
+constexpr const char* kControlPath = "/emulator/";
+
+HttpResponse Plain(int status, const Json& body)
+{
+    HttpResponse response;
+    response.status = status;
+    response.body = body.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return response;
+}
+
+HttpResponse PlainError(int status, const std::string& text)
+{
+    return Plain(status, Json{{"error", text}});
+}
+
+template <typename List>
+Json ListOf(const List& list)
+{
+    Json json = Json::array();
+    for (const auto& element : list)
+    {
+        json.push_back(element.toJson());
+    }
+    return json;
+}
+
+/// Makes the envelope's "desc" long enough for the whole body to have the size.
+std::string Enlarged(const std::string& body, std::size_t size)
+{
+    Json envelope = Json::parse(body);
+    if (size > body.size())
+    {
+        envelope["desc"] = envelope.at("desc").get<std::string>() + std::string(size - body.size(), 'x');
+    }
+    return envelope.dump();
+}
+
+HttpResponse Replacement(const Fault& fault)
+{
+    HttpResponse response;
+    switch (fault.kind)
+    {
+    case Fault::Kind::Status:
+        response.status = fault.status;
+        response.headers = fault.headers;
+        response.body = fault.body;
+        break;
+    case Fault::Kind::Envelope:
+        response.body = Json{{"code", fault.code}, {"desc", fault.desc}}.dump();
+        break;
+    case Fault::Kind::NotJson:
+        response.body = "<html><body>The service is being started.</body></html>";
+        break;
+    case Fault::Kind::Text:
+        response.body = fault.body;
+        break;
+    case Fault::Kind::CloseBefore:
+    case Fault::Kind::Silent:
+        response.ending = HttpResponse::Ending::CloseBefore;
+        break;
+    default:
+        break;
+    }
+    return response;
+}
+
+bool SpoilsTrueAnswer(Fault::Kind kind)
+{
+    return kind == Fault::Kind::Delay || kind == Fault::Kind::Cut || kind == Fault::Kind::CloseMiddle ||
+           kind == Fault::Kind::Large;
+}
+
+void Spoil(HttpResponse& response, const Fault& fault)
+{
+    switch (fault.kind)
+    {
+    case Fault::Kind::Cut:
+        response.body.resize(response.body.size() / 2);
+        break;
+    case Fault::Kind::CloseMiddle:
+        response.ending = HttpResponse::Ending::CloseMiddle;
+        break;
+    case Fault::Kind::Large:
+        response.body = Enlarged(response.body, fault.size);
+        break;
+    default:
+        break;
+    }
+}
+
+std::optional<int> EnvelopeCodeOf(const HttpResponse& response)
+{
+    const Json envelope = Json::parse(response.body, nullptr, false);
+    return envelope.is_object() && envelope.contains("code") && envelope.at("code").is_number_integer()
+               ? std::optional<int>(envelope.at("code"))
+               : std::nullopt;
+}
+
+std::string Masked(std::string line, const std::string& secret)
+{
+    for (std::size_t at = line.find(secret); !secret.empty() && at != std::string::npos; at = line.find(secret, at))
+    {
+        line.replace(at, secret.size(), "***");
+    }
+    return line;
+}
+
+}  // namespace
+
+std::filesystem::path DefaultShareFolder()
+{
+    std::error_code fault;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", fault);
+    return program.parent_path().parent_path() / "share" / "apimodule";
+}
+
+class PlatformEmulator::Private
+{
+public:
+    explicit Private(Options options)
+        : m_options(std::move(options)),
+          m_platform(Contract::Load(m_options.contract), LoadSeeds(m_options.seed, m_options.scale), m_options.token),
+          m_http(handler(), counter()), m_https(handler(), counter(), MakeServerTls())
+    {
+    }
+
+    void start()
+    {
+        m_http.start(m_options.address, m_options.httpPort);
+        m_https.start(m_options.address, m_options.httpsPort);
+    }
+
+    void stop()
+    {
+        m_http.stop();
+        m_https.stop();
+    }
+
+    const Options m_options;
+    Platform m_platform;
+    Faults m_faults;
+    RequestLog m_log;
+    std::atomic<std::size_t> m_connections = 0;
+    std::mutex m_output;
+    HttpListener m_http;
+    HttpListener m_https;
+
+private:
+    HttpHandler handler()
+    {
+        return [this](const HttpRequest& request, Peer& peer) {
+            return StartsWith(request.target, kControlPath) ? control(request) : serve(request, peer);
+        };
+    }
+
+    std::function<std::size_t()> counter()
+    {
+        return [this] { return ++m_connections; };
+    }
+
+    HttpResponse serve(const HttpRequest& request, Peer& peer)
+    {
+        const std::size_t number = m_log.add(request);
+        HttpResponse response = answer(request, peer);
+        const bool answered = response.ending != HttpResponse::Ending::CloseBefore;
+        const std::optional<int> code = EnvelopeCodeOf(response);
+        m_log.answered(number, answered ? response.status : 0, code);
+        if (m_options.verbose)
+        {
+            const std::string line = request.method + " " + request.target + " -> " +
+                                     (answered ? std::to_string(response.status) : "no answer") +
+                                     (code ? " " + std::to_string(*code) : "") + ", connection " +
+                                     std::to_string(request.connection) + "\n";
+            const std::lock_guard lock(m_output);
+            std::cout << Masked(line, m_options.token) << std::flush;
+        }
+        return response;
+    }
+
+    HttpResponse answer(const HttpRequest& request, Peer& peer)
+    {
+        const std::optional<Fault> fault = m_faults.take(request.target);
+        if (!fault)
+        {
+            return m_platform.answer(request);
+        }
+        if (fault->delay.count() > 0 && peer.waitGone(fault->delay))
+        {
+            return gone();
+        }
+        if (fault->kind == Fault::Kind::Silent)
+        {
+            peer.waitGone();
+        }
+        if (!SpoilsTrueAnswer(fault->kind))
+        {
+            return Replacement(*fault);
+        }
+        HttpResponse response = m_platform.answer(request);
+        Spoil(response, *fault);
+        return response;
+    }
+
+    static HttpResponse gone()
+    {
+        HttpResponse response;
+        response.ending = HttpResponse::Ending::CloseBefore;
+        return response;
+    }
+
+    HttpResponse control(const HttpRequest& request)
+    {
+        if (!m_options.controlPath)
+        {
+            return PlainError(403, "the control path is switched off");
+        }
+        const std::string path = PathOf(request.target).substr(std::string(kControlPath).size());
+        const std::map<std::string, std::map<std::string, std::function<HttpResponse()>>> routes = {
+            {"v1/faults",
+             {{"GET", [this] { return Plain(200, ListOf(m_faults.list())); }},
+              {"POST", [this, &request] { return addFault(request.body); }},
+              {"DELETE", [this] { return done([this] { m_faults.clear(); }); }}}},
+            {"v1/requests",
+             {{"GET", [this] { return Plain(200, ListOf(m_log.list())); }},
+              {"DELETE", [this] { return done([this] { m_log.clear(); }); }}}},
+            {"v1/state", {{"GET", [this] { return Plain(200, m_platform.state()); }}}},
+            {"v1/reset", {{"POST", [this] { return done([this] { m_platform.reset(); }); }}}},
+            {"v1/connections", {{"GET", [this] {
+                                     return Plain(200, Json{{"connections", m_connections.load()}});
+                                 }}}}};
+        const auto route = routes.find(path);
+        if (route == routes.end())
+        {
+            return PlainError(404, "no such control path");
+        }
+        const auto action = route->second.find(request.method);
+        return action == route->second.end() ? PlainError(405, "method not allowed") : action->second();
+    }
+
+    HttpResponse addFault(const std::string& text)
+    {
+        const Json json = Json::parse(text, nullptr, false);
+        if (json.is_discarded())
+        {
+            return PlainError(400, "body: not JSON");
+        }
+        try
+        {
+            Fault fault = Fault::FromJson(json);
+            const Json added = fault.toJson();
+            m_faults.add(std::move(fault));
+            return Plain(201, added);
+        }
+        catch (const std::invalid_argument& error)
+        {
+            return PlainError(400, error.what());
+        }
+    }
+
+    static HttpResponse done(const std::function<void()>& action)
+    {
+        action();
+        HttpResponse response;
+        response.status = 204;
+        return response;
+    }
+};
+
+PlatformEmulator::PlatformEmulator(Options options) : m_private(std::make_unique<Private>(std::move(options))) {}
+
+PlatformEmulator::~PlatformEmulator()
+{
+    stop();
+}
+
+void PlatformEmulator::start()
+{
+    m_private->start();
+}
+
+void PlatformEmulator::stop()
+{
+    m_private->stop();
+}
+
+int PlatformEmulator::httpPort() const
+{
+    return m_private->m_http.port();
+}
+
+int PlatformEmulator::httpsPort() const
+{
+    return m_private->m_https.port();
+}
+
+void PlatformEmulator::addFault(Fault fault)
+{
+    m_private->m_faults.add(std::move(fault));
+}
+
+std::vector<Fault> PlatformEmulator::faults() const
+{
+    return m_private->m_faults.list();
+}
+
+void PlatformEmulator::clearFaults()
+{
+    m_private->m_faults.clear();
+}
+
+std::vector<RecordedRequest> PlatformEmulator::requests() const
+{
+    return m_private->m_log.list();
+}
+
+void PlatformEmulator::clearRequests()
+{
+    m_private->m_log.clear();
+}
+
+bool PlatformEmulator::waitForRequests(std::size_t count, std::chrono::milliseconds time) const
+{
+    return m_private->m_log.waitFor(count, time);
+}
+
+Json PlatformEmulator::state() const
+{
+    return m_private->m_platform.state();
+}
+
+void PlatformEmulator::setState(Json state)
+{
+    m_private->m_platform.setState(std::move(state));
+}
+
+void PlatformEmulator::reset()
+{
+    m_private->m_platform.reset();
+}
+
+std::size_t PlatformEmulator::connections() const
+{
+    return m_private->m_connections;
+}
+
+}  // namespace emulator

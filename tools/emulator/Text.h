@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace emulator
+{
+
+/// "a,,b" split at ',' gives "a", "", "b"; an empty text gives one empty part.
+std::vector<std::string> Split(std::string_view text, char separator);
+
+bool StartsWith(std::string_view text, std::string_view start);
+
+/// "%41" becomes "A"; a '%' that no two hexadecimal digits follow stays. '+' becomes a blank where asked.
+std::string PercentDecode(std::string_view text, bool plusIsBlank);
+
+}  // namespace emulator
