@@ -4,10 +4,12 @@
 
 #include <QDialog>
 
-namespace ORNGUI {
+namespace ORNGUI
+{
 
 /// Base of the client's dialogs: a dialog without the context-help button.
-class ORNGUI_EXPORT OrnDialog : public QDialog {
+class ORNGUI_EXPORT OrnDialog : public QDialog
+{
     Q_OBJECT
 
 public:

@@ -6,21 +6,23 @@
 #include <QObject>
 #include <QString>
 
-namespace ORNGUI {
+namespace ORNGUI
+{
 
 /// Short messages to the user, as toasts that stack in a corner of the active window, or of the screen without one.
 ///
 /// Toasts take no focus and do not keep the application from ending with its last window; open ones go when it quits.
 /// Hosts use the one instance of the process, OrnSingleton<OrnMessageNotify>::Instance(). GUI thread only.
-class ORNGUI_EXPORT OrnMessageNotify : public QObject {
+class ORNGUI_EXPORT OrnMessageNotify : public QObject
+{
     Q_OBJECT
 
 public:
     /// Shows a toast. A click on it closes it; otherwise it goes by itself after about five seconds.
     ///
     /// Where more toasts are wanted than have room, the others wait; one that would not be gone within ten seconds of
-    /// its call is left out, unless it is to stay open. A text too long for a toast is cut short. Without a QApplication
-    /// nothing is shown; nor is a toast with neither a text nor a button.
+    /// its call is left out, unless it is to stay open. A text too long for a toast is cut short. Without a
+    /// QApplication nothing is shown; nor is a toast with neither a text nor a button.
     ///
     /// @param strText the message, shown as plain text
     /// @param bWithButton add a button that opens @p strLink and closes the toast

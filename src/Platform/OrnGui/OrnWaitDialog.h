@@ -7,7 +7,8 @@
 #include <QTimer>
 #include <QVector>
 
-namespace ORNGUI {
+namespace ORNGUI
+{
 
 /// A moving busy indicator over a widget, without a title bar.
 ///
@@ -15,10 +16,11 @@ namespace ORNGUI {
 /// and done() do not end it, nor does hiding or closing its parent's window; OnStopWaitImmediately() does. It takes no
 /// focus from the window under it, and does not keep the application from ending with its last window.
 ///
-/// The dialog belongs to whoever made it. @p pParent is its Qt parent while both live; when the parent is destroyed, the
-/// dialog ends as by OnStopWaitImmediately() and stays behind hidden, without a parent, to be deleted by its maker.
+/// The dialog belongs to whoever made it. @p pParent is its Qt parent while both live; when the parent is destroyed,
+/// the dialog ends as by OnStopWaitImmediately() and stays behind hidden, without a parent, to be deleted by its maker.
 /// GUI thread only.
-class ORNGUI_EXPORT OrnWaitDialog : public OrnDialog {
+class ORNGUI_EXPORT OrnWaitDialog : public OrnDialog
+{
     Q_OBJECT
 
 public:
@@ -40,7 +42,6 @@ public slots:
 protected:
     bool event(QEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
-    void closeEvent(QCloseEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;
     void hideEvent(QHideEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
@@ -50,8 +51,10 @@ private:
     void WatchAncestors();
     void ParentDestroyed();
     void PlaceOverParent();
+    void Cover(const QRect& area);
 
     const bool m_bCoverParent;
+    bool m_bExecuting = false;
     QMetaObject::Connection m_parentDestroyed;
     QVector<QPointer<QWidget>> m_watched;
     QPointer<QWidget> m_pVeil;

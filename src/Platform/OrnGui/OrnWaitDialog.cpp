@@ -1,0 +1,270 @@
+#include "OrnWaitDialog.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+namespace ORNGUI
+{
+namespace
+{
+
+constexpr int kSize = 88;
+constexpr int kCornerRadius = 14;
+constexpr int kRingDiameter = 44;
+constexpr int kRingWidth = 4;
+constexpr int kFrameMs = 40;
+constexpr int kTurnMs = 1200;
+constexpr int kArcDegrees = 100;
+constexpr int kVeilAlpha = 110;
+
+/// Dims what it lies on and keeps the mouse from it. A child of the window, so that no compositor is needed.
+class Veil : public QWidget
+{
+public:
+    explicit Veil(QWidget* pWindow) : QWidget(pWindow)
+    {
+        setObjectName(QStringLiteral("OrnWaitVeil"));
+        setAttribute(Qt::WA_NoMousePropagation);
+        setCursor(Qt::BusyCursor);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*pEvent*/) override { QPainter(this).fillRect(rect(), QColor(0, 0, 0, kVeilAlpha)); }
+};
+
+bool IsOnScreen(const QWidget& widget)
+{
+    return widget.isVisible() && !widget.window()->isMinimized();
+}
+
+/// The part of a widget that its window shows, in coordinates of the window.
+QRect AreaInWindow(const QWidget& widget)
+{
+    QRect area = widget.rect();
+    for (const QWidget* pLevel = &widget; !pLevel->isWindow(); pLevel = pLevel->parentWidget())
+    {
+        area = area.translated(pLevel->pos()) & pLevel->parentWidget()->rect();
+    }
+    return area;
+}
+
+QColor Faint(QColor color, int nAlpha)
+{
+    color.setAlpha(nAlpha);
+    return color;
+}
+
+}  // namespace
+
+OrnWaitDialog::OrnWaitDialog(QWidget* pParent, bool bCoverParent) : OrnDialog(pParent), m_bCoverParent(bCoverParent)
+{
+    setWindowFlag(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAccessibleName(tr("Please wait"));
+    setWindowTitle(tr("Please wait"));
+
+    setFixedSize(kSize, kSize);
+    QPainterPath shape;
+    shape.addRoundedRect(rect(), kCornerRadius, kCornerRadius);
+    setMask(QRegion(shape.toFillPolygon().toPolygon()));
+
+    m_frameTimer.setInterval(kFrameMs);
+    connect(&m_frameTimer, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    WatchParent();
+}
+
+OrnWaitDialog::~OrnWaitDialog()
+{
+    delete m_pVeil;
+}
+
+void OrnWaitDialog::OnStopWaitImmediately()
+{
+    if (isVisible())
+    {
+        OrnDialog::done(Rejected);
+    }
+}
+
+int OrnWaitDialog::exec()
+{
+    if (m_bExecuting)
+    {
+        return Rejected;
+    }
+    if (isVisible() && !isModal())
+    {
+        hide();  // a window becomes modal only when it is shown
+    }
+    m_bExecuting = true;
+    const QPointer<OrnWaitDialog> pSelf(this);
+    const int nResult = OrnDialog::exec();
+    if (pSelf)
+    {
+        m_bExecuting = false;
+        OnStopWaitImmediately();  // still shown when the application quits
+    }
+    return nResult;
+}
+
+void OrnWaitDialog::done(int /*nResult*/)
+{
+    // Escape, the close button, accept() and reject() all end here.
+}
+
+bool OrnWaitDialog::event(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::ParentChange)
+    {
+        WatchParent();
+    }
+    return OrnDialog::event(pEvent);
+}
+
+bool OrnWaitDialog::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    switch (pEvent->type())
+    {
+    case QEvent::ParentChange:
+        WatchAncestors();
+        PlaceOverParent();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::WindowStateChange:
+        PlaceOverParent();
+        break;
+    default:
+        break;
+    }
+    return OrnDialog::eventFilter(pWatched, pEvent);
+}
+
+void OrnWaitDialog::showEvent(QShowEvent* pEvent)
+{
+    m_clock.start();
+    m_frameTimer.start();
+    PlaceOverParent();
+    OrnDialog::showEvent(pEvent);
+}
+
+void OrnWaitDialog::hideEvent(QHideEvent* pEvent)
+{
+    m_frameTimer.stop();
+    delete m_pVeil;
+    OrnDialog::hideEvent(pEvent);
+}
+
+void OrnWaitDialog::paintEvent(QPaintEvent* /*pEvent*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+
+    const QColor foreground = palette().color(QPalette::WindowText);
+    painter.setPen(QPen(Faint(foreground, 60), 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius, kCornerRadius);
+
+    QRectF ring(0, 0, kRingDiameter, kRingDiameter);
+    ring.moveCenter(QRectF(rect()).center());
+    painter.setPen(QPen(Faint(foreground, 40), kRingWidth));
+    painter.drawEllipse(ring);
+
+    constexpr int kSixteenthsPerTurn = 360 * 16;
+    const auto nTurned = static_cast<int>(m_clock.elapsed() % kTurnMs * kSixteenthsPerTurn / kTurnMs);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), kRingWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(ring, -nTurned, kArcDegrees * 16);
+}
+
+void OrnWaitDialog::WatchParent()
+{
+    disconnect(m_parentDestroyed);
+    if (parentWidget() != nullptr)
+    {
+        // Emitted before a widget deletes its children, of which this dialog is one.
+        m_parentDestroyed = connect(parentWidget(), &QObject::destroyed, this, &OrnWaitDialog::ParentDestroyed);
+    }
+    WatchAncestors();
+}
+
+/// The parent moves on the screen when any widget up to its window moves.
+void OrnWaitDialog::WatchAncestors()
+{
+    for (const QPointer<QWidget>& pWidget : qAsConst(m_watched))
+    {
+        if (pWidget)
+        {
+            pWidget->removeEventFilter(this);
+        }
+    }
+    m_watched.clear();
+    for (QWidget* pWidget = parentWidget(); pWidget != nullptr; pWidget = pWidget->parentWidget())
+    {
+        pWidget->installEventFilter(this);
+        m_watched.append(pWidget);
+        if (pWidget->isWindow())
+        {
+            break;
+        }
+    }
+}
+
+void OrnWaitDialog::ParentDestroyed()
+{
+    const QPointer<OrnWaitDialog> pSelf(this);
+    OnStopWaitImmediately();
+    if (pSelf)
+    {
+        setParent(nullptr, windowFlags());
+    }
+}
+
+void OrnWaitDialog::PlaceOverParent()
+{
+    if (!isVisible())
+    {
+        return;
+    }
+    const QWidget* pParent = parentWidget();
+    if (pParent != nullptr && !IsOnScreen(*pParent))
+    {
+        pParent = pParent->window();
+    }
+    const bool bOnParent = pParent != nullptr && IsOnScreen(*pParent);
+    QRect area = bOnParent ? AreaInWindow(*pParent) : QRect();
+    Cover(area);
+    if (area.isEmpty())
+    {
+        area = screen()->availableGeometry();
+    }
+    else
+    {
+        area.translate(pParent->window()->mapToGlobal(QPoint()));
+    }
+    move(area.center() - rect().center());
+}
+
+void OrnWaitDialog::Cover(const QRect& area)
+{
+    if (!m_bCoverParent || area.isEmpty())
+    {
+        delete m_pVeil;
+        return;
+    }
+    QWidget* const pWindow = parentWidget()->window();
+    if (!m_pVeil || m_pVeil->parentWidget() != pWindow)
+    {
+        delete m_pVeil;
+        m_pVeil = new Veil(pWindow);
+    }
+    m_pVeil->setGeometry(area);
+    m_pVeil->raise();
+    m_pVeil->show();
+}
+
+}  // namespace ORNGUI

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Toast.h"
+
+#include <QDeadlineTimer>
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QVector>
+
+#include <deque>
+
+namespace ORNGUI::detail
+{
+
+/// The toasts on the screen and those that wait for room. It lives as long as the QApplication that it was made under.
+class ToastStack : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ToastStack& Instance();
+    ~ToastStack() override;
+
+    void Add(const ToastContent& content);
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+private:
+    struct Waiting
+    {
+        ToastContent content;
+        QDeadlineTimer goneBy;
+    };
+
+    ToastStack();
+
+    QVector<Toast*> OpenToasts() const;
+    int Capacity() const;
+    bool HasRoom(bool bStayOpen) const;
+    QRect Area() const;
+
+    void ShowWaiting();
+    void Show(const ToastContent& content, int nLifetimeMs);
+    void FollowActiveWindow();
+    void Arrange();
+    void CloseAll();
+
+    QVector<QPointer<Toast>> m_toasts;
+    std::deque<Waiting> m_passing;
+    std::deque<ToastContent> m_staying;
+    QPointer<QWidget> m_pAnchor;
+};
+
+}  // namespace ORNGUI::detail
