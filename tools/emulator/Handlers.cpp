@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
+#include <iterator>
 #include <utility>
 
 namespace emulator
@@ -18,27 +20,39 @@ std::string Lower(std::string text)
     return text;
 }
 
-std::vector<std::string> NonEmptyParts(const std::string& text)
+/// Identifiers are texts, a few are numbers.
+bool IsIdentifiedBy(const Json& element, const std::string& field, const std::string& id)
 {
-    std::vector<std::string> parts = Split(text, ',');
-    parts.erase(std::remove(parts.begin(), parts.end(), std::string()), parts.end());
-    return parts;
+    const Json& value = element.at(field);
+    return value.is_string() ? value == id : value.dump() == id;
 }
 
-[[noreturn]] void RefuseUnknown(const std::string& id)
+template <typename List>
+auto PositionOf(List& list, const std::string& field, const std::string& id)
 {
-    throw Refusal(code::UnknownObject, "object '" + id + "' does not exist");
+    return std::find_if(list.begin(), list.end(),
+                        [&](const Json& element) { return IsIdentifiedBy(element, field, id); });
 }
 
-Json::iterator PositionOf(Json& list, const std::string& field, const std::string& id)
+/// The number that a text begins with; 0 without one.
+std::uint64_t LeadingNumber(const std::string& text)
 {
-    const auto found =
-        std::find_if(list.begin(), list.end(), [&](const Json& element) { return element.value(field, "") == id; });
-    if (found == list.end())
+    std::uint64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+/// One more than the highest identifier of the list, and never one that was given before.
+std::string NewIdentifier(const Call& call, const Collection& collection)
+{
+    Json& last = call.state[Place("/lastIdentifiers")][collection.list.to_string()];
+    std::uint64_t highest = last.is_null() ? 0 : last.get<std::uint64_t>();
+    for (const Json& element : call.state.at(collection.list))
     {
-        RefuseUnknown(id);
+        highest = std::max(highest, LeadingNumber(element.at(collection.identifier)));
     }
-    return found;
+    last = highest + 1;
+    return last.dump();
 }
 
 Json Filtered(const Json& list, const std::vector<Filter>& filters, const Call& call)
@@ -67,11 +81,6 @@ std::size_t CountOf(const Call& call, const std::string& name)
     return std::stoul(text);
 }
 
-Json AnswerAt(const Call& call, const Place& answer)
-{
-    return answer.empty() ? Json::object() : call.state.at(answer);
-}
-
 }  // namespace
 
 Filter HasKeyword(std::vector<std::string> fields)
@@ -95,14 +104,40 @@ Filter Equals(const std::string& name)
 Filter OneOf(const std::string& name, const std::string& field)
 {
     return [name, field](const Json& element, const Call& call) {
-        const std::vector<std::string> wanted = NonEmptyParts(ValueOf(call, name));
+        const std::vector<std::string> wanted = Listed(ValueOf(call, name));
         return wanted.empty() || std::count(wanted.begin(), wanted.end(), element.value(field, "")) > 0;
+    };
+}
+
+Filter InOrganisation()
+{
+    return [](const Json& element, const Call& call) {
+        const std::string wanted = ValueOf(call, "orgCode");
+        const std::string code = element.value("orgCode", "");
+        return IsOn(ValueOf(call, "containChild")) ? StartsWith(code, wanted) : wanted.empty() || code == wanted;
     };
 }
 
 Json& Collection::find(Json& state, const std::string& id) const
 {
-    return *PositionOf(state.at(list), identifier, id);
+    Json& elements = state.at(list);
+    const auto found = PositionOf(elements, identifier, id);
+    if (found == elements.end())
+    {
+        RefuseUnknown(id);
+    }
+    return *found;
+}
+
+bool Collection::has(const Json& state, const std::string& id) const
+{
+    const Json& elements = state.at(list);
+    return PositionOf(elements, identifier, id) != elements.end();
+}
+
+Json RefuseUnknown(const std::string& id)
+{
+    throw Refusal(code::UnknownObject, "object '" + id + "' does not exist");
 }
 
 const std::string& PathValue(const Call& call)
@@ -123,6 +158,18 @@ std::string ValueOf(const Call& call, const std::string& name)
     return {};
 }
 
+std::vector<std::string> Listed(const std::string& text)
+{
+    std::vector<std::string> parts = Split(text, ',');
+    parts.erase(std::remove(parts.begin(), parts.end(), std::string()), parts.end());
+    return parts;
+}
+
+bool IsOn(const std::string& text)
+{
+    return text == "1" || text == "true";
+}
+
 Json BodyAsRead(const Call& call, const std::string& reader)
 {
     const Operation* operation =
@@ -132,6 +179,13 @@ Json BodyAsRead(const Call& call, const std::string& reader)
         throw ContractError("no operation reads what " + call.operation.id + " writes");
     }
     return ConvertTo(operation->dataSchema, call.body);
+}
+
+std::string NextNumber(const Call& call, const std::string& name)
+{
+    Json& number = call.state[Place("/numbers")][name];
+    number = number.is_null() ? 1 : number.get<int>() + 1;
+    return number.dump();
 }
 
 void Remember(const Call& call)
@@ -199,17 +253,14 @@ Handler Page(const Place& place, std::vector<Filter> filters)
     };
 }
 
-Handler Create(const Collection& collection, const std::string& reader, const std::string& idPrefix)
+Handler Create(const Collection& collection, const std::string& reader)
 {
-    return [collection, reader, idPrefix](const Call& call) {
-        Json& list = call.state.at(collection.list);
-        Json& count = call.state[Place("/created") / idPrefix];
-        count = count.is_number() ? count.get<int>() + 1 : 1;
-        const std::string id = idPrefix + "-new-" + count.dump();
+    return [collection, reader](const Call& call) {
         Json element = BodyAsRead(call, reader);
-        element[collection.identifier] = id;
+        element[collection.identifier] = NewIdentifier(call, collection);
+        Json& list = call.state.at(collection.list);
         list.push_back(std::move(element));
-        return Json{{collection.identifier, id}};
+        return Json{{collection.identifier, list.back().at(collection.identifier)}};
     };
 }
 
@@ -224,32 +275,36 @@ Handler Update(const Collection& collection)
 Handler Delete(const Collection& collection)
 {
     return [collection](const Call& call) {
-        const std::vector<std::string> ids = NonEmptyParts(ValueOf(call, "ids"));
         Json& list = call.state.at(collection.list);
         Json left = list;
-        for (const std::string& id : ids)
+        for (const std::string& id : Listed(ValueOf(call, "ids")))
         {
-            left.erase(PositionOf(left, collection.identifier, id));
+            const auto position = PositionOf(left, collection.identifier, id);
+            if (position == left.end())
+            {
+                RefuseUnknown(id);
+            }
+            left.erase(position);
         }
         list = std::move(left);
         return Json::object();
     };
 }
 
-Handler Accept(const Place& answer)
+Handler Accept()
 {
-    return [answer](const Call& call) {
+    return [](const Call& call) {
         Remember(call);
-        return AnswerAt(call, answer);
+        return Json::object();
     };
 }
 
-Handler AcceptFor(const Collection& owners, const Place& answer)
+Handler AcceptFor(const Collection& owners)
 {
-    return [owners, answer](const Call& call) {
+    return [owners](const Call& call) {
         owners.find(call.state, PathValue(call));
         Remember(call);
-        return AnswerAt(call, answer);
+        return Json::object();
     };
 }
 
@@ -257,7 +312,8 @@ const HandlerTable& AllHandlers()
 {
     static const HandlerTable all = [] {
         HandlerTable table;
-        for (HandlerTable family : {families::Brms()})
+        for (HandlerTable family : {families::Brms(), families::Dms(), families::Iams(), families::Ipms(),
+                                    families::Obms(), families::Omms()})
         {
             table.merge(family);
         }

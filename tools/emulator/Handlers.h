@@ -69,6 +69,8 @@ Filter HasKeyword(std::vector<std::string> fields);
 Filter Equals(const std::string& name);
 /// The field is one of the texts that the value names, separated by ','.
 Filter OneOf(const std::string& name, const std::string& field);
+/// The field "orgCode" equals the value of that name or, when "containChild" is on, begins with it.
+Filter InOrganisation();
 /// @}
 
 /// A list in the state whose elements know their identifier.
@@ -79,7 +81,11 @@ struct Collection
 
     /// @throws Refusal when there is no such element.
     Json& find(Json& state, const std::string& id) const;
+    [[nodiscard]] bool has(const Json& state, const std::string& id) const;
 };
+
+/// @throws Refusal that says that there is no such object. It claims to return for use in an expression.
+Json RefuseUnknown(const std::string& id);
 
 /// @name Values of a call
 /// @{
@@ -87,11 +93,18 @@ struct Collection
 const std::string& PathValue(const Call& call);
 /// The value from query or body; empty text when it is in neither.
 std::string ValueOf(const Call& call, const std::string& name);
+/// The texts of a list that is separated by ','; empty ones are left out.
+std::vector<std::string> Listed(const std::string& text);
+/// A switch is on as "1" and as "true".
+bool IsOn(const std::string& text);
 /// The body in the types of the data that the named operation (the GET of the same path if empty) returns.
 Json BodyAsRead(const Call& call, const std::string& reader = {});
 /// @}
 
-/// Keeps method, path values, query and body of a write that no call reads back, under "/accepted/<operation>".
+/// 1, 2, 3 and so on for each name, as text.
+std::string NextNumber(const Call& call, const std::string& name);
+
+/// Keeps path values, query and body of a write that no call reads back, under "/accepted/<operation>".
 void Remember(const Call& call);
 
 /// @name Ready-made handlers
@@ -115,15 +128,16 @@ Handler List(const Place& place, std::vector<Filter> filters = {});
 Handler Page(const Place& place, std::vector<Filter> filters = {});
 
 /// A new element with the body's values and an identifier of its own, which is the reply.
-Handler Create(const Collection& collection, const std::string& reader, const std::string& idPrefix);
+/// @param reader the operation whose data has the types to keep
+Handler Create(const Collection& collection, const std::string& reader);
 Handler Update(const Collection& collection);
 /// Removes the elements that the query value "ids" names, separated by ','; refused when one is unknown.
 Handler Delete(const Collection& collection);
 
-/// Takes the call and remembers it; the answer is what the state holds at the place, or empty.
-Handler Accept(const Place& answer = {});
+/// Takes the call and remembers it.
+Handler Accept();
 /// The same, refused when the path value names no element of the collection.
-Handler AcceptFor(const Collection& owners, const Place& answer = {});
+Handler AcceptFor(const Collection& owners);
 /// @}
 
 /// The handlers of all families.

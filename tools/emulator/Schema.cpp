@@ -78,6 +78,10 @@ std::string Describe(const Json& schema, const Json& root, const Error& error)
             return place.to_string() + ": expected " + type + ", got " + value.type_name();
         }
     }
+    if (wanted != nullptr && wanted->contains("enum") && value.is_primitive())
+    {
+        return place.to_string() + ": expected one of " + wanted->at("enum").dump() + ", got " + value.dump();
+    }
     if (wanted != nullptr && value.is_object())
     {
         for (const Json& key : wanted->value("required", Json::array()))
@@ -196,15 +200,21 @@ Json ConvertTo(const Json& schema, const Json& value)
 
 Json ProjectOn(const Json& schema, const Json& value)
 {
-    if (value.is_object() && schema.contains("properties"))
+    static const Json kNone = Json::object();
+    if (value.is_object())
     {
+        const bool isClosed = schema.value("additionalProperties", Json(true)) == Json(false);
+        const Json& properties = schema.contains("properties") ? schema.at("properties") : kNone;
         Json kept = Json::object();
         for (const auto& member : value.items())
         {
-            const Json& properties = schema.at("properties");
             if (properties.contains(member.key()))
             {
                 kept[member.key()] = ProjectOn(properties.at(member.key()), member.value());
+            }
+            else if (!isClosed)
+            {
+                kept[member.key()] = member.value();
             }
         }
         return kept;

@@ -22,19 +22,33 @@ Json ReadFile(const std::filesystem::path& file)
     }
 }
 
+/// Appends the mark to a text, or to each text of a list; an empty text names nothing and stays.
+void MarkTexts(Json& value, const std::string& mark)
+{
+    if (value.is_array())
+    {
+        for (Json& element : value)
+        {
+            MarkTexts(element, mark);
+        }
+    }
+    else if (value.is_string() && !value.get_ref<const std::string&>().empty())
+    {
+        value = value.get<std::string>() + mark;
+    }
+}
+
 void MarkCopy(Json& node, const Json& identifiers, const std::string& mark)
 {
     for (auto& member : node.items())
     {
-        Json& value = member.value();
-        if (value.is_structured())
+        if (std::find(identifiers.begin(), identifiers.end(), member.key()) != identifiers.end())
         {
-            MarkCopy(value, identifiers, mark);
+            MarkTexts(member.value(), mark);
         }
-        const bool identifies = std::find(identifiers.begin(), identifiers.end(), member.key()) != identifiers.end();
-        if (identifies && value.is_string() && !value.get_ref<const std::string&>().empty())
+        else if (member.value().is_structured())
         {
-            value = value.get<std::string>() + mark;
+            MarkCopy(member.value(), identifiers, mark);
         }
     }
 }

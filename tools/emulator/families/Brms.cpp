@@ -1,10 +1,18 @@
 #include "Families.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace emulator::families
 {
 namespace
 {
 
+const Collection kUserGroups{"/brms/userGroups", "id"};
+const Collection kUsers{"/brms/users", "id"};
+const Collection kQuickCommands{"/brms/quickCommands", "id"};
+const Collection kAlarmPlans{"/brms/alarmPlans", "id"};
+const Collection kAlarmRecords{"/brms/alarmRecords", "id"};
 const Place kSettings("/brms/localSettings");
 const Place kLastSetting("/brms/lastSettingType");
 
@@ -34,6 +42,198 @@ Json WriteSetting(const Call& call)
     return Json::object();
 }
 
+Json ReadEncodeCapability(const Call& call)
+{
+    const Json streams = ReadEntry("/brms/encodeCapability", kChannels)(call);
+    const std::string type = ValueOf(call, "streamType");
+    return streams.contains(type) ? streams.at(type) : RefuseUnknown("stream " + type);
+}
+
+/// Switches one stream; a stream that is not configured yet is unknown.
+Json SetMultiCastStreamStatus(const Call& call)
+{
+    Json config = ReadEntry("/brms/multicast", kChannels)(call);
+    Json& stream = Collection{"/streams", "streamType"}.find(config, ValueOf(call, "streamType"));
+    stream["status"] = call.body.at("status") == "1";
+    call.state.at(Place("/brms/multicast"))[PathValue(call)] = config;
+    return Json::object();
+}
+
+Json DiscoverDevices(const Call& call)
+{
+    for (const Json& code : call.body.at("deviceCodes"))
+    {
+        kDevices.find(call.state, code);
+    }
+    Remember(call);
+    return Json{{"session", "discover-" + NextNumber(call, "discover")}};
+}
+
+/// The channels that are seeded as failing, with their code, and those that do not exist.
+Json ControlChannels(const Call& call, const std::vector<std::string>& channelIds)
+{
+    const Json& failing = call.state.at(Place("/brms/failingChannels"));
+    Json failed = Json::array();
+    for (const std::string& id : channelIds)
+    {
+        if (!kChannels.has(call.state, id))
+        {
+            failed.push_back(Json{{"channelId", id}, {"errorCode", code::UnknownObject}});
+        }
+        else if (failing.contains(id))
+        {
+            failed.push_back(Json{{"channelId", id}, {"errorCode", failing.at(id)}});
+        }
+    }
+    Remember(call);
+    return Json{{"failedChannels", failed}};
+}
+
+Json ControlNamedChannels(const Call& call)
+{
+    return ControlChannels(call, call.body.at("channelIds"));
+}
+
+Json ControlSpeakers(const Call& call)
+{
+    std::vector<std::string> ids;
+    const Json& speakers = call.body.at("channels");
+    std::transform(speakers.begin(), speakers.end(), std::back_inserter(ids),
+                   [](const Json& speaker) { return speaker.at("channelId"); });
+    return ControlChannels(call, ids);
+}
+
+/// Takes the users out of the groups; they stay as users without a group.
+void LeaveGroups(Json& state, const std::vector<std::string>& groupIds)
+{
+    for (Json& user : state.at(kUsers.list))
+    {
+        if (std::count(groupIds.begin(), groupIds.end(), user.at("groupId")) > 0)
+        {
+            user["groupId"] = "";
+        }
+    }
+}
+
+Json MoveUsers(const Call& call)
+{
+    const std::string group = call.body.at("groupId");
+    kUserGroups.find(call.state, group);
+    for (const Json& id : call.body.at("userIds"))
+    {
+        kUsers.find(call.state, id);
+    }
+    for (const Json& id : call.body.at("userIds"))
+    {
+        kUsers.find(call.state, id)["groupId"] = group;
+    }
+    Remember(call);
+    return Json::object();
+}
+
+Json ClearGroup(const Call& call)
+{
+    kUserGroups.find(call.state, PathValue(call));
+    LeaveGroups(call.state, {PathValue(call)});
+    Remember(call);
+    return Json::object();
+}
+
+Json DeleteGroups(const Call& call)
+{
+    Json done = Delete(kUserGroups)(call);
+    LeaveGroups(call.state, Listed(ValueOf(call, "ids")));
+    return done;
+}
+
+/// The plan's commands as they are stored now; deleted ones are left out.
+Json ReadPlanCommands(const Call& call)
+{
+    Json commands = Json::array();
+    for (const Json& id : kAlarmPlans.find(call.state, PathValue(call)).at("quickCommandIds"))
+    {
+        if (kQuickCommands.has(call.state, id))
+        {
+            commands.push_back(kQuickCommands.find(call.state, id));
+        }
+    }
+    return Json{{"results", commands}};
+}
+
+/// A device or channel without a linkage for this type of alarm sets nothing off.
+Json ReadLinkage(const Call& call)
+{
+    const std::string source = ValueOf(call, "sourceCode");
+    for (const Json& linkage : call.state.at(Place("/brms/alarmLinkages")))
+    {
+        if (linkage.at("sourceCode") == source && linkage.at("alarmType") == call.query.at("alarmType"))
+        {
+            return linkage;
+        }
+    }
+    if (!kChannels.has(call.state, source))
+    {
+        kDevices.find(call.state, source);
+    }
+    return Json{{"linkAudioLightChannels", Json::array()},
+                {"linkAlarmOutputChannels", Json::array()},
+                {"linkAudioChannels", Json::array()}};
+}
+
+Json ReadLayer(const Call& call)
+{
+    const std::string resource = ValueOf(call, "resourceCode");
+    for (const Json& layer : call.state.at(Place("/brms/layers")))
+    {
+        if (layer.at("resourceCode") == resource && layer.at("resourceType") == call.query.at("resourceType"))
+        {
+            return layer;
+        }
+    }
+    return RefuseUnknown(resource);
+}
+
+Json ReadMenu(const Call& call)
+{
+    const Json& menus = call.state.at(Place("/brms/menus"));
+    return menus.contains(PathValue(call)) ? menus.at(PathValue(call)) : RefuseUnknown(PathValue(call));
+}
+
+Json DeriveToken(const Call& call)
+{
+    Remember(call);
+    return Json{{"token", "derived-" + NextNumber(call, "derivedToken")}};
+}
+
+/// The account may use on every channel what its menu functions allow.
+Json CheckFunction(const Call& call)
+{
+    kChannels.find(call.state, call.body.at("channelId"));
+    const Json& functions = call.state.at(Place("/brms/permission/menuFunctionCodes"));
+    const bool allowed = std::count(functions.begin(), functions.end(), call.body.at("functionCode")) > 0;
+    return Json{{"authorized", allowed ? "1" : "0"}};
+}
+
+Json CountDevices(const Call& call)
+{
+    const std::vector<Filter> filters = {HasKeyword({"deviceName", "deviceCode"}), InOrganisation(), Equals("domain"),
+                                         Equals("sourceType"), [](const Json& device, const Call& asked) {
+                                             return !IsOn(ValueOf(asked, "permitted")) ||
+                                                    device.at("permitted") == true;
+                                         }};
+    std::map<int, int> counts;
+    for (const Json& device : List(kDevices.list, filters)(call).at("results"))
+    {
+        ++counts[device.at("deviceCategory").get<int>()];
+    }
+    Json results = Json::array();
+    for (const auto& [category, count] : counts)
+    {
+        results.push_back(Json{{"deviceCategory", category}, {"deviceCount", count}});
+    }
+    return Json{{"results", results}};
+}
+
 }  // namespace
 
 HandlerTable Brms()
@@ -53,6 +253,61 @@ HandlerTable Brms()
         {"BRMS.UpdateLocalSetting", WriteSetting},
         {"BRMS.GetAIPrivacyConfig", ReadDocument("/brms/aiPrivacy")},
         {"BRMS.UpdateAIPrivacyConfig", WriteDocument("/brms/aiPrivacy")},
+
+        {"BRMS.GetNetworkConfig", ReadEntry("/brms/network", kDevices)},
+        {"BRMS.UpdateNetworkConfig", WriteEntry("/brms/network", kDevices)},
+        {"BRMS.GetEncodeConfig", ReadEntry("/brms/encode", kChannels)},
+        {"BRMS.UpdateEncodeConfig", WriteEntry("/brms/encode", kChannels)},
+        {"BRMS.GetEncodeCapability", ReadEncodeCapability},
+        {"BRMS.GetImageConfig", ReadEntry("/brms/image", kChannels)},
+        {"BRMS.UpdateImageConfig", WriteEntry("/brms/image", kChannels)},
+        {"BRMS.GetMultiCastConfig", ReadEntry("/brms/multicast", kChannels)},
+        {"BRMS.SetMultiCastConfig", WriteEntry("/brms/multicast", kChannels)},
+        {"BRMS.SetMultiCastStreamStatus", SetMultiCastStreamStatus},
+
+        {"BRMS.BatchDiscoverDevices", DiscoverDevices},
+        {"BRMS.AlarmOutputControl", ControlNamedChannels},
+        {"BRMS.AudioLightControl", ControlNamedChannels},
+        {"BRMS.IPSpeakerControl", ControlSpeakers},
+
+        {"BRMS.CheckHotSpareWarning", ReadDocument("/brms/hotSpareWarning")},
+        {"BRMS.GetBasicServiceWarm", ReadDocument("/brms/basicServiceWarning")},
+        {"BRMS.GetDiskWarm", List("/brms/warnDisks")},
+        {"BRMS.GetMemoryOutOfServerList", List("/brms/outOfMemory")},
+        {"BRMS.GetNetWorks", List("/brms/networks")},
+
+        {"BRMS.GetUserGroupList", List(kUserGroups.list, {HasKeyword({"groupName"})})},
+        {"BRMS.GetUserGroup", ReadElement(kUserGroups)},
+        {"BRMS.AddUserGroup", Create(kUserGroups, "BRMS.GetUserGroup")},
+        {"BRMS.UpdateUserGroup", Update(kUserGroups)},
+        {"BRMS.MoveUserGroup", MoveUsers},
+        {"BRMS.ClearUserGroup", ClearGroup},
+        {"BRMS.DeleteUserGroup", DeleteGroups},
+
+        {"BRMS.AddQuickCommand", Create(kQuickCommands, "BRMS.GetQuickCommand")},
+        {"BRMS.UpdateQuickCommand", Update(kQuickCommands)},
+        {"BRMS.DelQuickCommand", Delete(kQuickCommands)},
+        {"BRMS.GetQuickCommand", ReadElement(kQuickCommands)},
+        {"BRMS.GetQuickCommands", List(kQuickCommands.list, {HasKeyword({"quickCommandName"})})},
+        {"BRMS.GetAlarmPlanQuickCommands", ReadPlanCommands},
+
+        {"BRMS.GetPageSummaryAlarmPlans", Page(kAlarmPlans.list, {HasKeyword({"planName"})})},
+        {"BRMS.GetAlarmLinkControlList", ReadLinkage},
+        {"BRMS.GetAlarmLayerDetail", ReadLayer},
+        {"BRMS.GetAlarmHostFileInfo", ReadElement(kAlarmRecords)},
+        {"BRMS.GetAudioFileInfo", ReadDocument("/brms/audioTask")},
+        {"BRMS.GetPluginLogType", List("/brms/pluginLogTypes")},
+        {"BRMS.GetGeneralEvents", List("/brms/generalEvents")},
+
+        {"BRMS.GetChannelWebTunnel", ReadEntry("/brms/webTunnel", kChannels)},
+        {"BRMS.GetChannelWebAuthorization", ReadEntry("/brms/webAuthorization", kChannels)},
+        {"BRMS.GetChannelWebEnablement", ReadElement(kChannels)},
+        {"BRMS.GetWebEnablement", ReadElement(kDevices)},
+        {"BRMS.GetMenuAvailable", ReadMenu},
+        {"BRMS.GetDeriveToken", DeriveToken},
+        {"BRMS.GetPermissionResourceCollection", ReadDocument("/brms/permission")},
+        {"BRMS.FunctionChannelCheck", CheckFunction},
+        {"BRMS.GetDeviceCategoryCount", CountDevices},
     };
 }
 

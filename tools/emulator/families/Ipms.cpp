@@ -1,0 +1,29 @@
+#include "Families.h"
+
+namespace emulator::families
+{
+namespace
+{
+
+const Collection kCaptureRecords{"/ipms/captureRecords", "id"};
+
+Json CorrectPlate(const Call& call)
+{
+    kCaptureRecords.find(call.state, call.body.at("id"))["plateNo"] = call.body.at("plateNo");
+    Remember(call);
+    return Json::object();
+}
+
+}  // namespace
+
+HandlerTable Ipms()
+{
+    return {
+        {"IPMS.GetSimpleParkingLots", List("/ipms/parkingLots", {OneOf("parkingLotIds", "id")})},
+        {"IPMS.GetDetailParkingLots", List("/ipms/parkingLots", {OneOf("parkingLotIds", "id"), Equals("orgCode")})},
+        {"IPMS.GetParkingOrganization", List("/ipms/organisations")},
+        {"IPMS.UpdateVehicleCaptureRecord", CorrectPlate},
+    };
+}
+
+}  // namespace emulator::families
