@@ -1,0 +1,110 @@
+#include "Arguments.h"
+
+#include "Options.h"
+
+#include <nlohmann/json.hpp>
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+namespace apicall
+{
+namespace
+{
+
+using nlohmann::json;
+
+std::string ReadAll(std::istream& stream, const std::string& name)
+{
+    std::string text(std::istreambuf_iterator<char>(stream), {});
+    if (!stream)
+    {
+        throw WrongUsage("cannot read " + name);
+    }
+    return text;
+}
+
+std::string ReadFile(const std::string& name)
+{
+    std::ifstream file(name, std::ios::binary);
+    if (!file)
+    {
+        throw WrongUsage("cannot open " + name);
+    }
+    return ReadAll(file, name);
+}
+
+json ParseJson(const std::string& text, const std::string& what)
+{
+    try
+    {
+        return json::parse(text);
+    }
+    catch (const json::parse_error& error)
+    {
+        throw WrongUsage(what + " is not JSON: " + error.what());
+    }
+}
+
+bool IsOneObject(const std::vector<std::string>& arguments)
+{
+    if (arguments.empty())
+    {
+        return false;
+    }
+    const std::string& first = arguments.front();
+    return first == "-" || first.rfind('@', 0) == 0 || first.rfind('{', 0) == 0;
+}
+
+json OneObject(const std::vector<std::string>& arguments)
+{
+    if (arguments.size() > 1)
+    {
+        throw WrongUsage("nothing may follow the JSON object with the arguments");
+    }
+    const std::string& argument = arguments.front();
+    if (argument == "-")
+    {
+        return ParseJson(ReadAll(std::cin, "standard input"), "standard input");
+    }
+    if (argument.front() == '@')
+    {
+        const std::string file = argument.substr(1);
+        return ParseJson(ReadFile(file), file);
+    }
+    return ParseJson(argument, "the argument");
+}
+
+json ByName(const catalogue::Call& call, const std::vector<std::string>& arguments)
+{
+    json object = json::object();
+    for (const std::string& argument : arguments)
+    {
+        const auto separator = argument.find('=');
+        if (separator == std::string::npos)
+        {
+            throw WrongUsage("argument \"" + argument + "\" is neither name=value nor a JSON object");
+        }
+        const std::string name = argument.substr(0, separator);
+        const std::string value = argument.substr(separator + 1);
+        if (object.contains(name))
+        {
+            throw WrongUsage("argument \"" + name + "\" is given twice");
+        }
+        const catalogue::Argument* known = call.FindArgument(name);
+        const bool isJson = known != nullptr && known->type->kind != catalogue::Kind::Text;
+        object[name] =
+            isJson ? ParseJson(value, "argument \"" + name + "\" (" + NameOf(*known->type) + ")") : json(value);
+    }
+    return object;
+}
+
+}  // namespace
+
+std::vector<catalogue::Value> ReadArguments(const catalogue::Call& call, const std::vector<std::string>& arguments)
+{
+    return catalogue::ReadArguments(call, IsOneObject(arguments) ? OneObject(arguments) : ByName(call, arguments));
+}
+
+}  // namespace apicall

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <catalogue/Run.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace apicall
+{
+
+/// A command line that cannot be followed; the text says why.
+class WrongUsage : public std::invalid_argument
+{
+public:
+    using std::invalid_argument::invalid_argument;
+};
+
+struct Server
+{
+    std::string host;
+    int port = 0;
+    bool https = true;
+};
+
+struct Options
+{
+    std::string server;
+    std::string token;
+    std::string language = "en";
+    catalogue::RunSettings settings;
+    std::string call;                    ///< name of the call, empty for none
+    std::vector<std::string> arguments;  ///< as they were given
+    bool list = false;
+    bool help = false;
+    std::string usage;  ///< how the program is called
+};
+
+/// Throws WrongUsage.
+Options ReadOptions(int argc, char** argv);
+
+/// The server of a URL such as "https://127.0.0.1:8443". Throws WrongUsage.
+Server ServerOf(const std::string& url);
+
+}  // namespace apicall

@@ -1,0 +1,127 @@
+#include "Arguments.h"
+#include "Help.h"
+#include "OneServer.h"
+#include "Options.h"
+
+#include <catalogue/Run.h>
+
+#include <APIModule.h>
+#include <ErrorLexicon/ErrorLexicon.h>
+
+#include <QCoreApplication>
+
+#include <exception>
+#include <iostream>
+
+namespace
+{
+
+using apicall::WrongUsage;
+using catalogue::Outcome;
+
+constexpr int kSuccess = 0;
+constexpr int kFailedCall = 1;
+constexpr int kWrongUsage = 2;
+
+const catalogue::Call& NamedCall(const std::string& name)
+{
+    const catalogue::Call* call = catalogue::FindCall(name);
+    if (call == nullptr)
+    {
+        throw WrongUsage("there is no call \"" + name + "\"; apicall --list names them");
+    }
+    return *call;
+}
+
+std::string FailureText(const Outcome& outcome)
+{
+    if (outcome.result == 0)
+    {
+        return "the reply was not confirmed";
+    }
+    if (!outcome.notification.empty())
+    {
+        return outcome.notification;
+    }
+    return APIModule::CAPIModule::GetErroCodeInfor(QString(), outcome.result, false).toStdString();
+}
+
+Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& arguments,
+            const apicall::Options& options, const apicall::Server& server)
+{
+    ErrorLexicon::SetLanguage(options.language);
+    apicall::OneServer users(server, options.token);
+    auto& library = APIModule::CAPIModule::GetInstance();
+    library.SetHttpsMode(server.https ? 1 : 0);
+    library.SetLanguage(options.language);
+    library.Init(&users);
+    const Outcome outcome = catalogue::Run(call, arguments, options.settings);
+    library.UnInit();
+    return outcome;
+}
+
+int RunCall(const apicall::Options& options)
+{
+    const catalogue::Call& call = NamedCall(options.call);
+    const auto arguments = apicall::ReadArguments(call, options.arguments);
+    if (options.server.empty())
+    {
+        throw WrongUsage("--server is missing");
+    }
+    const Outcome outcome = Run(call, arguments, options, apicall::ServerOf(options.server));
+    if (!outcome.Succeeded())
+    {
+        std::cerr << "apicall: " << call.name << " failed with " << outcome.result << ": " << FailureText(outcome)
+                  << std::endl;
+        return kFailedCall;
+    }
+    std::cout << outcome.record.dump(4, ' ', false, nlohmann::json::error_handler_t::replace) << std::endl;
+    if (!std::cout)
+    {
+        std::cerr << "apicall: the result cannot be written" << std::endl;
+        return kFailedCall;
+    }
+    return kSuccess;
+}
+
+int Main(int argc, char** argv)
+{
+    const apicall::Options options = apicall::ReadOptions(argc, argv);
+    if (options.list)
+    {
+        std::cout << apicall::ListOfCalls();
+    }
+    else if (options.help)
+    {
+        std::cout << (options.call.empty() ? options.usage : apicall::HelpFor(NamedCall(options.call)));
+    }
+    else if (options.call.empty())
+    {
+        throw WrongUsage("no call is named; apicall --help tells how it is used");
+    }
+    else
+    {
+        return RunCall(options);
+    }
+    return kSuccess;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    try
+    {
+        return Main(argc, argv);
+    }
+    catch (const WrongUsage& error)
+    {
+        std::cerr << "apicall: " << error.what() << std::endl;
+    }
+    catch (const catalogue::Mismatch& error)
+    {
+        std::cerr << "apicall: " << error.what() << std::endl;
+    }
+    return kWrongUsage;
+}

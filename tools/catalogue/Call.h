@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Value.h"
+
+#include <nlohmann/json_fwd.hpp>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QJsonObject;
+
+namespace catalogue
+{
+
+/// An argument of a Pack, between the request and the server identifier.
+struct Argument
+{
+    std::string_view name;
+    const Type* type;
+};
+
+/// A call of the library: a Pack and, where its reply carries data for the caller, a Parse.
+struct Call
+{
+    std::string name;            ///< "BRMS.GetTimeSyncConfig"
+    std::string family;          ///< "BRMS"
+    std::string_view subject;    ///< "System configuration"
+    std::string_view summary;    ///< one line
+    std::string_view packName;   ///< "APIModule::CBRMSModule::PacketGetTimeSyncConfig"
+    std::string_view parseName;  ///< empty without a Parse
+    std::vector<Argument> arguments;
+    const Type* result = nullptr;  ///< what the Parse fills; null without a Parse
+
+    int (*pack)(void* pReqParamData, void* const* arguments, int nServerId) = nullptr;
+    int (*parse)(const QJsonObject& data, void* record) = nullptr;  ///< null without a Parse
+
+    const Argument* FindArgument(std::string_view argumentName) const;
+};
+
+/// Every call of the library, by family.
+const std::vector<Call>& Calls();
+
+/// Null for an unknown name.
+const Call* FindCall(std::string_view name);
+
+/// The arguments of a call in their order, from an object that holds each of them under its name. Throws Mismatch.
+std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& arguments);
+
+}  // namespace catalogue

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Call.h"
+
+#include <nlohmann/json.hpp>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace catalogue
+{
+
+struct RunSettings
+{
+    int serverId = -1;                       ///< -1 for the user manager's current server
+    std::optional<int> timeoutSeconds = {};  ///< instead of the call's own
+};
+
+/// How a call ended.
+struct Outcome
+{
+    int result = -1;           ///< of CAPIModule::ExecuteFuncs
+    bool confirmed = false;    ///< the success tip came
+    std::string notification;  ///< other text that was notified, empty for none
+    nlohmann::json record;     ///< as far as it was read; null for a call without a Parse
+
+    bool Succeeded() const { return result == 0 && confirmed; }
+};
+
+/// Runs a call through CAPIModule::ExecuteFuncs, without a wait dialog; statuses and envelope codes come back as the
+/// result. @p arguments are those of ReadArguments(); a Pack that takes them by reference may change them.
+Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSettings& settings);
+
+}  // namespace catalogue

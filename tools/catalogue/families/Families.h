@@ -1,0 +1,12 @@
+#pragma once
+
+#include "../Call.h"
+
+#include <vector>
+
+namespace catalogue
+{
+
+std::vector<Call> BrmsCalls();
+
+}  // namespace catalogue
