@@ -1,0 +1,117 @@
+#pragma once
+
+#include "Readings.h"
+#include "Records.h"
+
+#include "support/Recorders.h"
+#include "support/Rows.h"
+
+#include <APIModule.h>
+
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+/// Tables of Packs and Parses: a test file lists its rows and instantiates PackTest and ParseTest with them.
+namespace family_testing
+{
+
+using testing_support::RowName;
+
+/// Which server identifier a Pack hands on.
+enum class Server
+{
+    OfCaller,  ///< the one that it is given
+    One,       ///< always 1
+    Current,   ///< always -1, the user manager's current server
+};
+
+/// One call of a Pack with what it must make of its arguments.
+struct PackRow
+{
+    std::string name;
+    std::string call;                    ///< such as "CBRMSModule::PacketGetTimeSyncConfig"
+    std::function<int(void*, int)> run;  ///< calls the Pack with the RequestParam and the server identifier
+    APIModule::Method method;
+    std::string url;
+    std::string body = {};  ///< JSON text, empty where the Pack sends none
+    Server server = Server::OfCaller;
+    std::string failed = {};   ///< log text, where it is not the Pack's name followed by " failed."
+    std::string success = {};  ///< log text, where it is not the Pack's name followed by " success."
+};
+
+std::ostream& operator<<(std::ostream& stream, const PackRow& row);
+
+/// Runs the Pack for known servers and for an unknown one and compares the request, the server identifier that
+/// reached the user manager, the result and the log line.
+class PackTest : public testing::TestWithParam<PackRow>
+{
+};
+
+/// A Parse with its record told as JSON; a value that is no record is told as itself.
+struct Parse
+{
+    std::string call;                                   ///< such as "CBRMSModule::ParseGetTimeSyncConfig"
+    Json fresh;                                         ///< the record as it is made
+    Json filled;                                        ///< the record with other values in every field
+    std::function<int(const QJsonObject&, Json&)> run;  ///< starts with the given record and tells what became of it
+};
+
+/// Also for a function of the test that gathers several outputs in a record of its own (+[](...) {...}).
+template <typename Record>
+Parse MakeParse(const std::string& call, int (*parse)(const QJsonObject&, Record&))
+{
+    Record filled{};
+    Fill(filled);
+    return {call, ToJson(Record{}), ToJson(filled), [parse](const QJsonObject& reply, Json& json) {
+                Record record{};
+                FromJson(json, record);
+                const int nResult = parse(reply, record);
+                json = ToJson(record);
+                return nResult;
+            }};
+}
+
+/// One call of a Parse with what must come of it.
+struct ParseRow
+{
+    std::string name;
+    Parse parse;
+    QJsonObject reply;
+    Json start;  ///< the caller's record before the call
+    int result;
+    Json record;  ///< and after it
+    testing_support::LogLines lines;
+};
+
+std::ostream& operator<<(std::ostream& stream, const ParseRow& row);
+
+/// Runs the Parse and compares the result, the record and the log lines.
+class ParseTest : public testing::TestWithParam<ParseRow>
+{
+};
+
+/// A row written by hand: reply and records are JSON texts.
+ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
+             const char* record, const testing_support::LogLines& lines = {});
+
+/// The lines of a failed read.
+testing_support::LogLine EmptyObject();
+testing_support::LogLine MissingKey(const std::string& key);
+testing_support::LogLine UndefinedValue(const std::string& key);
+
+/// Rows for a whole reply and for every reply that differs from it in one place: a key removed or undefined, a value
+/// or an element replaced by others, a list or an object emptied, an element removed; each with a fresh and with a
+/// filled record. What must come of them is told from @p readings. In the whole reply every list has two elements or
+/// more.
+std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply);
+
+/// Several lists of rows as one.
+std::vector<ParseRow> Joined(const std::vector<std::vector<ParseRow>>& lists);
+
+}  // namespace family_testing

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <boost/describe.hpp>
+#include <boost/mp11.hpp>
+#include <boost/pfr/tuple_size.hpp>
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include <functional>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+/// Records told as JSON, each field under its name, in both directions. A test describes its records with
+/// BOOST_DESCRIBE_STRUCT in the namespace APIModule, in the order in which the interface lists their fields.
+namespace family_testing
+{
+
+using Json = nlohmann::json;
+
+template <typename T>
+constexpr bool IsRecord = boost::describe::has_describe_members<T>::value;
+
+template <typename T>
+constexpr bool IsVector = false;
+template <typename T>
+constexpr bool IsVector<std::vector<T>> = true;
+
+template <typename Record, typename Visit>
+void ForEachField(Visit visit)
+{
+    using Fields = boost::describe::describe_members<Record, boost::describe::mod_public>;
+    static_assert(boost::mp11::mp_size<Fields>::value == boost::pfr::tuple_size_v<Record>, "a field is not described");
+    boost::mp11::mp_for_each<Fields>(visit);
+}
+
+template <typename T>
+Json ToJson(const T& value)
+{
+    if constexpr (IsRecord<T>)
+    {
+        Json object = Json::object();
+        const void* previous = nullptr;
+        ForEachField<T>([&](auto field) {
+            const void* current = &(value.*field.pointer);
+            EXPECT_TRUE(std::less<>()(previous, current)) << field.name << " is not declared at its place";
+            previous = current;
+            object[field.name] = ToJson(value.*field.pointer);
+        });
+        return object;
+    }
+    else if constexpr (IsVector<T>)
+    {
+        Json array = Json::array();
+        for (const auto& element : value)
+        {
+            array.push_back(ToJson(element));
+        }
+        return array;
+    }
+    else
+    {
+        return value;
+    }
+}
+
+template <typename T>
+void FromJson(const Json& json, T& value)
+{
+    if constexpr (IsRecord<T>)
+    {
+        ForEachField<T>([&](auto field) { FromJson(json.at(field.name), value.*field.pointer); });
+    }
+    else if constexpr (IsVector<T>)
+    {
+        for (const Json& element : json)
+        {
+            FromJson(element, value.emplace_back());
+        }
+    }
+    else
+    {
+        json.get_to(value);
+    }
+}
+
+/// Gives every field a value that differs from a fresh one, and every list one element.
+template <typename T>
+void Fill(T& value)
+{
+    if constexpr (IsRecord<T>)
+    {
+        ForEachField<T>([&](auto field) { Fill(value.*field.pointer); });
+    }
+    else if constexpr (IsVector<T>)
+    {
+        Fill(value.emplace_back());
+    }
+    else if constexpr (std::is_same_v<T, std::string>)
+    {
+        value = "before";
+    }
+    else
+    {
+        value = T(77);
+    }
+}
+
+}  // namespace family_testing
