@@ -1,6 +1,9 @@
 #pragma once
 
 #include "../APIModuleGlobal.h"
+#include "DeviceConfig.h"
+#include "DeviceControl.h"
+#include "ServerWarning.h"
 #include "SystemConfig.h"
 
 #include <QJsonObject>
@@ -97,6 +100,143 @@ public:
     ///
     /// Body: "enable", the number 1 or 0, where every other switch sends a text.
     static int PacketUpdateAIPrivacyConfig(void* pReqParamData, const bool& enable, int nServerId);
+    /// @}
+
+    /// @name Device and channel configuration
+    /// Settings of one device or channel, which is named in the URL as it stands, nothing escaped. Encoding and image
+    /// settings travel as numbers, network and multicast settings as texts ("1"/"0", decimal) that end at their first
+    /// zero byte.
+    /// @{
+
+    /// Reads the network settings of a device: GET /brms/api/v1.1/device/{deviceCode}/config/network
+    static int PacketGetNetworkConfig(void* pReqParamData, const std::string& deviceCode, int nServerId);
+    /// Fills "ip", "mask", "gateway" and "dns" in this order; the device code stays as it is.
+    static int ParseGetNetworkConfig(const QJsonObject& data, NetworkConfig& config);
+
+    /// Writes the network settings of a device: PUT /brms/api/v1.1/device/{config.deviceCode}/config/network
+    ///
+    /// Body: "ip", "mask", "gateway" and "dns", texts.
+    static int PacketUpdateNetworkConfig(void* pReqParamData, NetworkConfig& config, int nServerId);
+
+    /// Reads the encoding of a channel's streams: GET /brms/api/v1.1/device/channel/{channelId}/config/encode
+    static int PacketGetEncodeConfig(void* pReqParamData, const std::string& channelId, int nServerId);
+    /// Appends the streams of "encodeConfigurations" up to the first that is not whole. Their channel stays empty.
+    static int ParseGetEncodeConfig(const QJsonObject& data, std::vector<EncodeConfig>& configs);
+
+    /// Writes the encoding of a channel's streams: PUT /brms/api/v1.1/device/channel/{channelId}/config/encode
+    ///
+    /// Body: "encodeConfigurations", a list with the nine numbers of each stream; empty for no @p configs.
+    static int PacketUpdateEncodeConfig(void* pReqParamData, const std::string& channelId,
+                                        std::vector<EncodeConfig>& configs, int nServerId);
+
+    /// Reads what the encoder of a stream offers:
+    /// GET /brms/api/v1.1/device/channel/{channelId}/capability/encode?streamType={streamType}
+    ///
+    /// @param pReqParamData the RequestParam
+    /// @param channelId the channel
+    /// @param streamType which stream, the server's code
+    /// @param nServerId the server, -1 for the current one
+    static int PacketGetEncodeCapability(void* pReqParamData, const std::string& channelId, int streamType,
+                                         int nServerId);
+    /// Appends the codes of "supportCompressions", a list of decimal texts in which anything else counts as 0, then
+    /// the capabilities of "encodeCapabilities" up to the first that is not whole, its formats included.
+    static int ParseGetEncodeCapability(const QJsonObject& data, EncodeCapability& capability);
+
+    /// Reads the image adjustment of a channel: GET /brms/api/v1.1/device/channel/{channelId}/config/video
+    static int PacketGetImageConfig(void* pReqParamData, const std::string& channelId, int nServerId);
+    /// Fills the four adjustments in their order; the channel stays as it is.
+    static int ParseGetImageConfig(const QJsonObject& data, ImageConfig& config);
+
+    /// Writes the image adjustment of a channel: PUT /brms/api/v1.1/device/channel/{config.channelId}/config/video
+    ///
+    /// Body: "brightness", "saturation", "contrast" and "sharpness", numbers.
+    static int PacketUpdateImageConfig(void* pReqParamData, ImageConfig& config, int nServerId);
+
+    /// Reads the multicast settings of a channel: GET /brms/api/v1.1/device/channel/{channelId}/config/multicast
+    static int PacketGetMultiCastConfig(void* pReqParamData, const std::string& channelId, int nServerId);
+    /// Fills "status", then appends the streams of "streams" up to the first that is not whole; the channel stays as
+    /// it is.
+    static int ParseGetMultiCastConfig(const QJsonObject& data, MultiCastConfigInfo& info);
+
+    /// Writes the multicast settings of a channel: PUT /brms/api/v1.1/device/channel/{info.channelId}/config/multicast
+    ///
+    /// Body: "status", the text "1" or "0", and "streams", a list with "status", "multicastIp", "multicastPort" and
+    /// "streamType" of each stream, all of them texts.
+    static int PacketSetMultiCastConfig(void* pReqParamData, const MultiCastConfigInfo& info, int nServerId);
+
+    /// Switches the multicast of one stream:
+    /// PUT /brms/api/v1.1/device/channel/{status.channelId}/config/multicast/stream/status
+    ///
+    /// Body: "status", the text "1" or "0", and "streamType", a decimal text.
+    static int PacketSetMultiCastStreamStatus(void* pReqParamData, const MultiCastStreamStatus& status, int nServerId);
+    /// @}
+
+    /// @name Device control
+    /// Commands that act at once. Flags and numbers travel as numbers; an empty list of channels is sent as such.
+    /// @{
+
+    /// Starts the discovery of several devices: POST /brms/api/v1.1/device/discover/async/batch
+    ///
+    /// Body: "deviceCodes", a list of texts, and "discoverMode", a number that the server defines.
+    static int PacketBatchDiscoverDevices(void* pReqParamData, const std::vector<std::string>& deviceCodes,
+                                          int discoverMode, int nServerId);
+    /// Reads "session", which names the discovery that the server started.
+    static int ParseBatchDiscoverDevices(const QJsonObject& data, std::string& session);
+
+    /// Switches alarm outputs: POST /brms/api/v1.1/device/channel/alarm-output/control; the reply is read by
+    /// ParseChannelControl().
+    ///
+    /// Body: "channelIds", a list of texts, "action", always the number 0, and "command", the number 1 or 0.
+    static int PacketAlarmOutputControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
+                                        int nServerId);
+
+    /// Switches audio-light alarms: POST /brms/api/v1.1/device/channel/audio-light/regulate; the reply is read by
+    /// ParseChannelControl().
+    ///
+    /// Body: "channelIds", a list of texts, and "command", the number 1 or 0; no "action" here.
+    static int PacketAudioLightControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
+                                       int nServerId);
+
+    /// Lets IP speakers play audio files: POST /brms/api/v1.1/device/channel/audio/ip-speaker/control; the reply is
+    /// read by ParseChannelControl().
+    ///
+    /// Body: "channels", a list with the three texts of each speaker, and "command", a number.
+    static int PacketIPSpeakerControl(void* pReqParamData, IPSpeakerControl control, int nServerId);
+
+    /// Appends the channels of "failedChannels", on which a command failed, up to the first that is not whole; none
+    /// when all channels succeeded.
+    static int ParseChannelControl(const QJsonObject& data, std::vector<ChannelControlRsp>& failedChannels);
+    /// @}
+
+    /// @name Server status warnings
+    /// States of the platform's servers that a user must hear of.
+    /// @{
+
+    /// Asks for a switch-over to the hot-spare server: GET /brms/api/v1.1/system/hot-spare/switch/warning
+    static int PacketCheckHotSpareWarning(void* pReqParamData, int nServerId);
+    /// Fills the fields of @p warning in their order.
+    static int ParseCheckHotSpareWarning(const QJsonObject& data, CheckHostSpareWarning& warning);
+
+    /// Asks whether only the basic services were started:
+    /// GET /brms/api/v1.1/system/only-startup-basic-service/warning
+    static int PacketGetBasicServiceWarm(void* pReqParamData, int nServerId);
+    /// Reads "warningHappened".
+    static int ParseGetBasicServiceWarm(const QJsonObject& data, bool& warningHappened);
+
+    /// Lists the servers with disks that raise warnings: GET /brms/api/v1.1/system/warn/disk/list
+    static int PacketGetDiskWarm(void* pReqParamData, int nServerId);
+    /// Appends the servers of "results" up to the first that is not whole, its disks included.
+    static int ParseGetDiskWarm(const QJsonObject& data, std::vector<DiskWarmParam>& servers);
+
+    /// Lists the servers that ran out of memory: GET /brms/api/v1.1/system/out/memory/server/list
+    static int PacketGetMemoryOutOfServerList(void* pReqParamData, int nServerId);
+    /// Appends the "serverIp" of each element of "results" up to the first that has none.
+    static int ParseGetMemoryOutOfServerList(const QJsonObject& data, std::vector<std::string>& serverIps);
+
+    /// Lists the networks that the system knows: GET /brms/api/v1.1/system/network/list
+    static int PacketGetNetWorks(void* pReqParamData, int nServerId);
+    /// Appends the networks of "results" up to the first that is not whole.
+    static int ParseGetNetWorks(const QJsonObject& data, NetWorksParam& netWorks);
     /// @}
 };
 

@@ -2,6 +2,82 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+#include <vector>
+
 namespace APIModule {
+
+/// Network settings of one device.
+struct NetworkConfig {
+    std::string deviceCode;  ///< the device; stands in the URL, neither sent in a body nor filled by a Parse
+    std::string ip;          ///< "ip": address
+    std::string mask;        ///< "mask": subnet mask
+    std::string gateway;     ///< "gateway": address of the gateway
+    std::string dns;         ///< "dns": address of the name server
+};
+
+/// Video encoding of one stream of a channel. The codes are the server's.
+struct EncodeConfig {
+    std::string channelId;   ///< neither sent nor filled: the channel stands in the URL
+    int streamType = 0;      ///< "streamType": which stream
+    int bitRate = 0;         ///< "bitRate": bit rate
+    int bitRateControl = 0;  ///< "bitRateControl": code of the bit-rate control
+    int compression = 0;     ///< "compression": code of the compression
+    int enable = 0;          ///< "enable": whether the stream is on, as the server's number
+    int frameRate = 0;       ///< "frameRate": frame rate
+    int iFrameInterval = 0;  ///< "iFrameInterval": between two I frames
+    int height = 0;          ///< "height": of the picture
+    int width = 0;           ///< "width": of the picture
+};
+
+/// A picture format that an encoder offers.
+struct EncodeFormat {
+    int frameRateMax = 0;  ///< "frameRateMax": highest frame rate
+    int videoHeight = 0;   ///< "videoHeight": of the picture
+    int videoWidth = 0;    ///< "videoWidth": of the picture
+};
+
+/// What an encoder offers with one compression.
+struct EncodeCompressionCapability {
+    int compression = 0;                ///< "compression": code of the compression
+    std::vector<EncodeFormat> formats;  ///< "formats": the picture formats
+};
+
+/// What the encoder of one stream offers.
+struct EncodeCapability {
+    std::vector<int> supportCompressions;  ///< "supportCompressions": codes, which the reply holds as decimal texts
+    std::vector<EncodeCompressionCapability> encodeCapabilities;  ///< "encodeCapabilities": by compression
+};
+
+/// Image adjustment of one channel. The ranges are the server's.
+struct ImageConfig {
+    std::string channelId;  ///< the channel; stands in the URL, neither sent in a body nor filled by a Parse
+    int brightness = 0;     ///< "brightness"
+    int saturation = 0;     ///< "saturation"
+    int contrast = 0;       ///< "contrast"
+    int sharpness = 0;      ///< "sharpness"
+};
+
+/// Multicast of one stream of a channel.
+struct MultiCastStream {
+    std::string multicastIp;    ///< "multicastIp": the group's address
+    std::string multicastPort;  ///< "multicastPort": the group's port, kept as text
+    int streamType = 1;         ///< "streamType": which stream, the server's code
+    bool status = false;        ///< "status": multicast of the stream is on
+};
+
+/// Multicast of one channel.
+struct MultiCastConfigInfo {
+    std::string channelId;                 ///< the channel; stands in the URL, not filled by a Parse
+    bool status = false;                   ///< "status": multicast of the channel is on
+    std::vector<MultiCastStream> streams;  ///< "streams": its streams
+};
+
+/// Switch of the multicast of one stream.
+struct MultiCastStreamStatus {
+    std::string channelId;  ///< the channel; stands in the URL
+    int streamType = 0;     ///< "streamType": which stream, the server's code
+    bool status = false;    ///< "status": multicast of the stream is on
+};
 
 }  // namespace APIModule

@@ -2,6 +2,40 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+#include <vector>
+
 namespace APIModule {
+
+/// A switch-over to the hot-spare server.
+struct CheckHostSpareWarning {
+    bool warningHappened = false;  ///< "warningHappened": a switch-over happened and is to be reported
+    int64 warningTime = 0;         ///< "warningTime": when it happened, the server's time stamp
+    std::string warningContent;    ///< "warningContent": the server's description
+};
+
+/// A disk that raises a warning.
+struct WarnDisk {
+    std::string path;  ///< "path": the disk's path as the server reports it
+    int slot = 0;      ///< "slot": number of the disk's slot
+};
+
+/// One server with disks that raise warnings.
+struct DiskWarmParam {
+    std::string serverIp;             ///< "serverIp": address of the server
+    int serverType = 0;               ///< "serverType": kind of server, the server's number
+    std::vector<WarnDisk> warnDisks;  ///< "warnDisks": the disks
+};
+
+/// A network that is known to the system.
+struct NetWorkItem {
+    std::string netWorkName;  ///< "netWorkName": name
+    int netWorkValue = 0;     ///< "netWorkValue": the server's number
+};
+
+/// The networks that are known to the system.
+struct NetWorksParam {
+    std::vector<NetWorkItem> netWorks;  ///< "results": the networks
+};
 
 }  // namespace APIModule
