@@ -1,6 +1,7 @@
 # apimodule_test(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>])
 # One test program, registered with ctest under its own name. It has no window server unless it asks for one.
 find_package(GTest REQUIRED)
+include(GoogleTest)
 function(apimodule_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
     if(NOT arg_TIMEOUT)

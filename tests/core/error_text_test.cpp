@@ -38,9 +38,8 @@ TEST_F(ErrorText, UnknownCodeWithUiText)
     for (const bool bAppend : {true, false}) {
         EXPECT_EQ(CAPIModule::GetErroCodeInfor(QStringLiteral("No %s settings"), kUnknownCode, bAppend),
                   QStringLiteral("No %s settings"));
-        EXPECT_EQ(logs.Take(),
-                  (LogLines{{kFacadeFile, kFunction, 6,
-                             "Error code is not exist, strUIError=No %s settings, errorCode=987654"}}));
+        EXPECT_EQ(logs.Take(), (LogLines{{kFacadeFile, kFunction, 6,
+                                          "Error code is not exist, strUIError=No %s settings, errorCode=987654"}}));
     }
 }
 
@@ -74,8 +73,8 @@ TEST_P(FailureNotice, IsShown)
     EXPECT_EQ(Execute(call), -1);
     QStringList expected;
     if (row.shown) {
-        expected.append(QString::fromUtf8(row.shown).replace(QStringLiteral("<7000>"),
-                                                             QString::fromStdString(KnownText(7000))));
+        expected.append(
+            QString::fromUtf8(row.shown).replace(QStringLiteral("<7000>"), QString::fromStdString(KnownText(7000))));
     }
     EXPECT_EQ(notifications.Take(), expected);
 }

@@ -24,8 +24,8 @@ protected:
     int Fill(RequestParam* pParam, int nServerId, const QString& url = QStringLiteral("/path"))
     {
         return CAPIModule::GetInstance().GetRequestParam(pParam, APIModule::Method_Put, url, nServerId,
-                                                         QStringLiteral("{\"a\":\"\u00fc\"}"),
-                                                         QStringLiteral("seq-1"), 33, true);
+                                                         QStringLiteral("{\"a\":\"\u00fc\"}"), QStringLiteral("seq-1"),
+                                                         33, true);
     }
 };
 
@@ -91,8 +91,7 @@ TEST_F(Request, RefusesNullAndEmptyUrlBeforeAMissingUserManager)
     }
     RequestParam param;
     EXPECT_EQ(Fill(&param, 1), -1);
-    EXPECT_EQ(logs.Take(),
-              (LogLines{{kFacadeFile, kGetRequestParam, 6, "GetRequestParam failed! no user manager."}}));
+    EXPECT_EQ(logs.Take(), (LogLines{{kFacadeFile, kGetRequestParam, 6, "GetRequestParam failed! no user manager."}}));
     EXPECT_EQ(param.nTimeout, 10) << "untouched";
 }
 
@@ -246,8 +245,7 @@ TEST_P(InvalidUrlTest, IsRefused)
     EXPECT_EQ(Execute(call), -1);
     EXPECT_EQ(logs.Take(),
               (LogLines{{kFacadeFile, kBuildRequest, 4, std::string("Invalid url, request url: ") + row.shown}}));
-    EXPECT_EQ(notifications.Take(),
-              QStringList{CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), -4, true)});
+    EXPECT_EQ(notifications.Take(), QStringList{CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), -4, true)});
 }
 
 const InvalidUrl kInvalidUrls[] = {
@@ -275,8 +273,8 @@ TEST_F(Request, HeaderBreaksAreRefused)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
     Use(server);
-    const LogLines refusal{{kFacadeFile, kBuildRequest, 6,
-                            "Invalid request header, a value holds a line break or a zero byte."}};
+    const LogLines refusal{
+        {kFacadeFile, kBuildRequest, 6, "Invalid request header, a value holds a line break or a zero byte."}};
     const QStringList notice{CAPIModule::GetErroCodeInfor(QString(), -4, true)};
     const std::string breaks[] = {"a\rb", "a\nb", "a\r\nX-Evil: 1", std::string("a\0b", 3)};
     for (const std::string& value : breaks) {

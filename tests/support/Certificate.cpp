@@ -37,9 +37,8 @@ Certificate MakeCertificate()
     X509_set_issuer_name(certificate.get(), pName);
     X509_sign(certificate.get(), key.get(), EVP_sha256());
 
-    const QByteArray keyPem = Pem([&](BIO* pBio) {
-        PEM_write_bio_PrivateKey(pBio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
-    });
+    const QByteArray keyPem =
+        Pem([&](BIO* pBio) { PEM_write_bio_PrivateKey(pBio, key.get(), nullptr, nullptr, 0, nullptr, nullptr); });
     const QByteArray certificatePem = Pem([&](BIO* pBio) { PEM_write_bio_X509(pBio, certificate.get()); });
     return {QSslCertificate(certificatePem), QSslKey(keyPem, QSsl::Rsa)};
 }

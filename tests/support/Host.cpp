@@ -6,13 +6,11 @@ int Execute(const HostCall& call)
 {
     const auto pack = [call](void* pReqParamData) {
         static_cast<APIModule::RequestParam*>(pReqParamData)->bExcludeUserInput = call.excludeUserInput;
-        return APIModule::CAPIModule::GetInstance().GetRequestParam(pReqParamData, call.method, call.url, -1,
-                                                                    call.body, call.sequence, call.timeout,
-                                                                    call.compress);
+        return APIModule::CAPIModule::GetInstance().GetRequestParam(pReqParamData, call.method, call.url, -1, call.body,
+                                                                    call.sequence, call.timeout, call.compress);
     };
     return APIModule::CAPIModule::GetInstance().ExecuteFuncs(pack, call.parse, call.uiError, call.parent,
-                                                             call.successTip, call.showErrorCode,
-                                                             call.notifyOnFailure);
+                                                             call.successTip, call.showErrorCode, call.notifyOnFailure);
 }
 
 Host::Host()

@@ -32,7 +32,6 @@ struct HostCall {
     QString successTip;
     bool showErrorCode = true;
     bool notifyOnFailure = true;
-
 };
 
 /// Runs a call with a Pack of its own.

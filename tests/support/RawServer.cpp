@@ -44,7 +44,8 @@ public:
         : m_server(server), m_responder(std::move(responder))
     {
         if (scheme == Https) {
-            m_certificate = std::make_unique<Certificate>(MakeCertificate());
+            static const Certificate certificate = MakeCertificate();
+            m_certificate = &certificate;
         }
         EXPECT_TRUE(listen(QHostAddress::LocalHost));
     }
@@ -129,7 +130,7 @@ private:
 
     RawServer& m_server;
     Responder m_responder;
-    std::unique_ptr<Certificate> m_certificate;
+    const Certificate* m_certificate = nullptr;
 };
 
 RawServer::RawServer(Responder responder, Scheme scheme)

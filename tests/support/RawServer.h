@@ -28,11 +28,15 @@ struct RawRequest {
 
 /// What to do with one request.
 struct RawAnswer {
-    enum Then { KeepOpen, Close, Reset };
+    enum Then {
+        KeepOpen,
+        Close,
+        Reset
+    };
 
-    QByteArray bytes;          ///< goes over the wire as it is; nothing when empty
-    int delayMilliseconds = 0; ///< before the bytes
-    Then then = KeepOpen;      ///< after the bytes
+    QByteArray bytes;           ///< goes over the wire as it is; nothing when empty
+    int delayMilliseconds = 0;  ///< before the bytes
+    Then then = KeepOpen;       ///< after the bytes
 };
 
 /// A complete HTTP answer.
@@ -43,7 +47,10 @@ class RawServer {
 public:
     using Responder = std::function<RawAnswer(const RawRequest&)>;
 
-    enum Scheme { Http, Https };
+    enum Scheme {
+        Http,
+        Https
+    };
 
     explicit RawServer(Responder responder, Scheme scheme = Http);
     ~RawServer();

@@ -57,3 +57,8 @@ QStringList NotificationRecorder::Take()
 }
 
 }  // namespace testing_support
+
+void PrintTo(const QString& text, std::ostream* pStream)
+{
+    *pStream << '"' << text.toStdString() << '"';
+}

@@ -3,6 +3,7 @@
 #include <libornl/TalPrintLog.h>
 
 #include <QMetaObject>
+#include <QString>
 #include <QStringList>
 
 #include <iosfwd>
@@ -56,3 +57,6 @@ private:
 };
 
 }  // namespace testing_support
+
+/// Shows the text where a comparison fails.
+void PrintTo(const QString& text, std::ostream* pStream);

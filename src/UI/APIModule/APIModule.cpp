@@ -151,10 +151,9 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
 
 // The callables come by value: they are released before the call returns.
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
-int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc,
-                             boost::function<int(QJsonObject const&)> parseFunc, const QString& strUIError,
-                             QWidget* pParent, const QString& strSuccessTip, bool bShowErrorCode,
-                             bool bNotifyOnFailure)
+int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::function<int(QJsonObject const&)> parseFunc,
+                             const QString& strUIError, QWidget* pParent, const QString& strSuccessTip,
+                             bool bShowErrorCode, bool bNotifyOnFailure)
 {
     Q_D(CAPIModule);
     constexpr const char* kFunction = "APIModule::CAPIModule::ExecuteFuncs";
@@ -180,8 +179,7 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc,
         NotifyErrorMessage(strUIError, nResult, bShowErrorCode);
         return -1;
     }
-    LogInfo({kFile, kFunction},
-            QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
+    LogInfo({kFile, kFunction}, QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
 
     ReplyInfo reply;
     if (const int nResult = ExecuteRequest(request, parent, reply)) {

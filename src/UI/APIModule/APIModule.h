@@ -105,7 +105,8 @@ public:
     /// call, the end of the application) the call returns, with the result of a time-out where the wait ended without
     /// a reply.
     ///
-    /// @param packetFunc describes the request in the RequestParam that it is given; a result other than 0 ends the call
+    /// @param packetFunc describes the request in the RequestParam that it is given; a result other than 0 ends the
+    /// call
     /// @param parseFunc reads the "data" object of the reply into the caller's record; may be empty
     /// @param strUIError the failure in the user's words, for notifications; may be empty
     /// @param pParent widget under the wait dialog, or null to wait without one

@@ -1,16 +1,16 @@
 #include "APIModule_p.h"
 
-#include "Wait.h"
 #include "detail/Log.h"
 #include "detail/Mask.h"
+#include "Wait.h"
 
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSslConfiguration>
 #include <QThread>
-#include <QTimeZone>
 #include <QTimer>
+#include <QTimeZone>
 #include <QUrl>
 #include <QVariant>
 
@@ -32,7 +32,6 @@ constexpr int kTimedOut = -101;
 constexpr int kAuthenticationRequired = 7000;
 
 constexpr int kStatusOk = 200;
-constexpr int kStatusUnauthorized = 401;
 constexpr int kCodeSuccess = 1000;
 
 constexpr auto kMethodAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 100);
@@ -56,12 +55,10 @@ QByteArray Bytes(const std::string& text)
     return QByteArray::fromStdString(text);
 }
 
-/// Qt tells of a whole answer with a status of 400 and above by an error, too. These are those errors; any other one
-/// means that there is no whole answer.
+/// Whether the error is one by which Qt tells of a status of 400 and above.
 bool IsErrorOfStatus(QNetworkReply::NetworkError error)
 {
     switch (error) {
-    case QNetworkReply::NoError:
     case QNetworkReply::AuthenticationRequiredError:
     case QNetworkReply::ProxyAuthenticationRequiredError:
     case QNetworkReply::ContentAccessDenied:
@@ -79,6 +76,17 @@ bool IsErrorOfStatus(QNetworkReply::NetworkError error)
     default:
         return false;
     }
+}
+
+/// Whether a whole HTTP answer came. Qt takes one of status 400 and above for whole even where its body is cut short.
+bool HasAnswer(const QNetworkReply& finished)
+{
+    if (finished.error() == QNetworkReply::NoError) {
+        return true;
+    }
+    return IsErrorOfStatus(finished.error()) &&
+           finished.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid() &&
+           finished.bytesAvailable() >= finished.header(QNetworkRequest::ContentLengthHeader).toLongLong();
 }
 
 /// Unpacks the envelope; a body that is empty or not JSON leaves the code at -1.
@@ -103,17 +111,15 @@ void Unpack(ReplyInfo& reply)
 int TakeReply(QNetworkReply& finished, const QNetworkRequest& request, ReplyInfo& reply, const LogSite& site)
 {
     const QNetworkReply::NetworkError error = finished.error();
-    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    const bool bHasAnswer = IsErrorOfStatus(error) && (error == QNetworkReply::NoError || status.isValid());
-    const bool bUnauthorized = error == QNetworkReply::AuthenticationRequiredError ||
-                               (bHasAnswer && status.toInt() == kStatusUnauthorized);
-    if (!bHasAnswer || bUnauthorized) {
+    const bool bUnauthorized = error == QNetworkReply::AuthenticationRequiredError;
+    if (bUnauthorized || !HasAnswer(finished)) {
         LogFailure(site, QStringLiteral("Request failed, an internal network error occurred, qt network error code: "
                                         "%1, network error info: %2")
                              .arg(QString::number(error), MaskToken(finished.errorString())));
         return bUnauthorized ? kAuthenticationRequired : kNetworkError;
     }
 
+    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
     const int nStatus = status.isValid() ? status.toInt() : -1;
     if (nStatus == kStatusOk) {
         reply.byteBody = finished.readAll();

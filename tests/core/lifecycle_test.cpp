@@ -1,0 +1,251 @@
+// The library and the life of the application object. Each test is a process of its own.
+#include "support/Host.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+using namespace testing_support;
+using APIModule::CAPIModule;
+
+namespace {
+
+constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
+constexpr const char* kGetRequestParam = "APIModule::CAPIModule::GetRequestParam";
+
+int g_argc = 1;
+char g_name[] = "lifecycle_test";
+char* g_argv[] = {g_name, nullptr};
+
+RawAnswer Respond(const RawRequest& request)
+{
+    return request.target == "/silent" ? RawAnswer{} : HttpAnswer(200, R"({"code":1000})");
+}
+
+HostCall Call(const QString& url, int nTimeout = 20)
+{
+    HostCall call;
+    call.url = url;
+    call.timeout = nTimeout;
+    call.notifyOnFailure = true;
+    return call;
+}
+
+QStringList TimeOutNotice()
+{
+    return {CAPIModule::GetErroCodeInfor(QString(), -101, true)};
+}
+
+/// The host as in the other tests, without an application object made for it.
+class Lifecycle : public Host {
+protected:
+    /// A server's thread needs the application object, too.
+    class Server : public RawServer {
+    public:
+        explicit Server(Lifecycle& host) : RawServer(Respond) { host.Use(*this); }
+    };
+};
+
+TEST_F(Lifecycle, WithoutApplicationObject)
+{
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
+    EXPECT_EQ(logs.Take(),
+              (LogLines{{kFacadeFile, kExecuteFuncs, 6, "ExecuteFuncs failed! wrong thread or no application."}}));
+    EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs({}, {}, {}, nullptr, {}, true, true), -1);
+    EXPECT_EQ(logs.Take(),
+              (LogLines{{kFacadeFile, kExecuteFuncs, 6, "ExecuteFuncs failed! wrong thread or no application."}}));
+    EXPECT_EQ(CAPIModule::GetInstance().GetRequestParam(nullptr, APIModule::Method_Get, {}, -1, {}, {}, 1, false), -1);
+    EXPECT_EQ(logs.Take(), (LogLines{{kFacadeFile, kGetRequestParam, 6,
+                                      "GetRequestParam failed! wrong thread or no application."}}));
+    EXPECT_EQ(notifications.Take(), QStringList());
+}
+
+TEST_F(Lifecycle, ApplicationMadeAfterTheInstance)
+{
+    const QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    EXPECT_EQ(CAPIModule::GetInstance().thread(), QThread::currentThread());
+}
+
+TEST_F(Lifecycle, ApplicationsOneAfterTheOther)
+{
+    for (int i = 0; i < 3; ++i) {
+        {
+            const QCoreApplication application(g_argc, g_argv);
+            const Server server(*this);
+            EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+        }
+        EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
+    }
+    for (int i = 0; i < 2; ++i) {
+        QApplication application(g_argc, g_argv);
+        const Server server(*this);
+        QWidget parent;
+        HostCall call = Call(QStringLiteral("/ok"));
+        call.parent = &parent;
+        EXPECT_EQ(Execute(call), 0);
+    }
+}
+
+TEST_F(Lifecycle, AnotherThreadIsRefused)
+{
+    const QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    logs.Take();
+    std::thread([] {
+        EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
+        EXPECT_EQ(CAPIModule::GetInstance().GetRequestParam(nullptr, APIModule::Method_Get, {}, -1, {}, {}, 1, false),
+                  -1);
+    }).join();
+    EXPECT_EQ(
+        logs.Take(),
+        (LogLines{{kFacadeFile, kExecuteFuncs, 6, "ExecuteFuncs failed! wrong thread or no application."},
+                  {kFacadeFile, kGetRequestParam, 6, "GetRequestParam failed! wrong thread or no application."}}));
+    EXPECT_EQ(notifications.Take(), QStringList());
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+}
+
+// Without the fixture, which would make the instance first.
+TEST(Instance, IsOneForManyThreads)
+{
+    const QCoreApplication application(g_argc, g_argv);
+    std::atomic<int> waiting{8};
+    std::vector<CAPIModule*> instances(8);
+    std::vector<std::thread> threads;
+    for (CAPIModule*& pInstance : instances) {
+        threads.emplace_back([&] {
+            --waiting;
+            while (waiting > 0) {
+            }
+            pInstance = &CAPIModule::GetInstance();
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (const CAPIModule* pInstance : instances) {
+        EXPECT_EQ(pInstance, &CAPIModule::GetInstance());
+    }
+    EXPECT_EQ(CAPIModule::GetInstance().thread(), QThread::currentThread());
+
+    UserManager users;
+    RawServer server(Respond);
+    users.servers[1].port = server.Port();
+    CAPIModule::GetInstance().Init(&users);
+    CAPIModule::GetInstance().SetHttpsMode(0);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    CAPIModule::GetInstance().UnInit();
+}
+
+TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
+{
+    std::thread([] { CAPIModule::GetInstance().SetLanguage("de"); }).join();
+    const QCoreApplication application(g_argc, g_argv);
+    UserManager users;
+    RawServer server(Respond);
+    users.servers[1].port = server.Port();
+    CAPIModule::GetInstance().Init(&users);
+    CAPIModule::GetInstance().SetHttpsMode(0);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    EXPECT_EQ(server.TakeRequests().at(0).Value("Accept-Language"), "de");
+    EXPECT_EQ(CAPIModule::GetInstance().thread(), QThread::currentThread());
+    CAPIModule::GetInstance().UnInit();
+}
+
+TEST_F(Lifecycle, QuitEndsAWaitAndAllThatFollow)
+{
+    for (const bool bDialog : {false, true}) {
+        QApplication application(g_argc, g_argv);
+        const Server server(*this);
+        QWidget parent;
+        parent.show();
+        int nDuring = 99;
+        int nAfter = 99;
+        QTimer::singleShot(0, &application, [&] {
+            QTimer::singleShot(100, &application, &QCoreApplication::quit);
+            HostCall call = Call(QStringLiteral("/silent"));
+            call.parent = bDialog ? &parent : nullptr;
+            nDuring = Execute(call);
+            EXPECT_EQ(notifications.Take(), TimeOutNotice());
+            nAfter = Execute(Call(QStringLiteral("/silent")));
+            EXPECT_EQ(notifications.Take(), TimeOutNotice());
+        });
+        QApplication::exec();
+        EXPECT_EQ(nDuring, -1);
+        EXPECT_EQ(nAfter, -1);
+        EXPECT_EQ(Execute(Call(QStringLiteral("/silent"))), -1) << "the façade has seen the end";
+        EXPECT_EQ(notifications.Take(), TimeOutNotice());
+        const LogLines lines = logs.Take();
+        EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                                [](const LogLine& line) {
+                                    return line.message.rfind("Request time out, request url: ", 0) == 0;
+                                }),
+                  3);
+    }
+}
+
+TEST_F(Lifecycle, QuitWithoutARunningLoopEndsTheNextCall)
+{
+    const QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    QCoreApplication::quit();
+    EXPECT_EQ(Execute(Call(QStringLiteral("/silent"))), -1);
+    EXPECT_EQ(notifications.Take(), TimeOutNotice());
+}
+
+TEST_F(Lifecycle, CallsAboutToQuit)
+{
+    QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    int nEarlier = 99;
+    int nLater = 99;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit,
+                     [&] { nEarlier = Execute(Call(QStringLiteral("/ok"))); });
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit,
+                     [&] { nLater = Execute(Call(QStringLiteral("/silent"))); });
+    QTimer::singleShot(0, &application, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    EXPECT_EQ(nEarlier, 0) << "before the façade's own slot a call still completes";
+    EXPECT_EQ(nLater, -1);
+    EXPECT_EQ(notifications.Take(), TimeOutNotice());
+}
+
+TEST_F(Lifecycle, ApplicationDestroyedAfterACall)
+{
+    auto application = std::make_unique<QApplication>(g_argc, g_argv);
+    auto server = std::make_unique<Server>(*this);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/silent"), 0)), -1);
+    server.reset();
+    application.reset();
+}
+
+/// A widget that is still there when the application goes makes a last call.
+TEST_F(Lifecycle, CallWhileTheApplicationIsDestroyed)
+{
+    int nResult = 99;
+    {
+        QApplication application(g_argc, g_argv);
+        const Server server(*this);
+        EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+        auto* pLast = new QObject(&application);
+        QObject::connect(pLast, &QObject::destroyed, [&] { nResult = Execute(Call(QStringLiteral("/ok"))); });
+    }
+    EXPECT_EQ(nResult, -1);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,464 @@
+// What can happen while a call waits. Each call returns its own result, in time, and leaves nothing behind.
+#include "support/Host.h"
+#include "support/Rows.h"
+
+#include <OrnGui/OrnWaitDialog.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <qpa/qwindowsysteminterface.h>
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
+#include <climits>
+#include <memory>
+#include <thread>
+
+using namespace testing_support;
+using APIModule::CAPIModule;
+
+namespace {
+
+constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
+
+enum Waiting {
+    InLoop,
+    BehindDialog
+};
+
+const char* FunctionOf(Waiting waiting)
+{
+    return waiting == InLoop ? "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg"
+                             : "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg";
+}
+
+/// Ends the process when a test hangs, so that a hang is a failure and not a time-out of the whole program.
+class Watchdog {
+public:
+    Watchdog()
+    {
+        m_thread = std::thread([this] {
+            std::unique_lock<std::mutex> lock(m_mutex);
+            if (!m_done.wait_for(lock, std::chrono::seconds(60), [this] { return m_bDone; })) {
+                std::fputs("A wait did not end.\n", stderr);
+                std::abort();
+            }
+        });
+    }
+    ~Watchdog()
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_bDone = true;
+        }
+        m_done.notify_one();
+        m_thread.join();
+    }
+    Watchdog(const Watchdog&) = delete;
+    Watchdog& operator=(const Watchdog&) = delete;
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_done;
+    bool m_bDone = false;
+    std::thread m_thread;
+};
+
+/// Answers "/ok" at once, "/after/<ms>" after a while, "/<status>" with that status, and "/silent" never.
+RawAnswer Respond(const RawRequest& request)
+{
+    const RawAnswer success = HttpAnswer(200, R"({"code":1000,"data":{"a":1}})");
+    if (request.target == "/silent") {
+        return {};
+    }
+    if (request.target.startsWith("/after/")) {
+        RawAnswer late = success;
+        late.delayMilliseconds = request.target.mid(7).toInt();
+        return late;
+    }
+    return request.target == "/ok" ? success : HttpAnswer(request.target.mid(1).toInt(), "");
+}
+
+class WaitBase : public Host {
+protected:
+    WaitBase() : m_server(Respond)
+    {
+        Use(m_server);
+        m_parent = new QWidget;
+        m_parent->resize(300, 200);
+        m_parent->show();
+    }
+    ~WaitBase() override { delete m_parent; }
+
+    HostCall Call(Waiting waiting, const QString& url, int nTimeout = 20)
+    {
+        HostCall call;
+        call.url = url;
+        call.timeout = nTimeout;
+        call.uiError = QStringLiteral("No settings");
+        call.successTip = QStringLiteral("Done");
+        call.parse = [](const QJsonObject&) { return 0; };
+        call.notifyOnFailure = false;
+        call.parent = waiting == BehindDialog ? m_parent.data() : nullptr;
+        return call;
+    }
+
+    LogLines TimedOut(Waiting waiting, const std::string& path) const
+    {
+        const std::string url = "http://127.0.0.1:" + std::to_string(m_server.Port()) + path;
+        return {{kFacadeFile, kExecuteFuncs, 4, "ExecuteRequest url=" + url},
+                {kFacadeFile, FunctionOf(waiting), 6, "Request time out, request url: " + url}};
+    }
+
+    QString TimeOutNotice() const { return CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), -101, true); }
+
+    void During(int nMilliseconds, const std::function<void()>& act)
+    {
+        QTimer::singleShot(nMilliseconds, &m_context, act);
+    }
+
+    Watchdog m_watchdog;
+    RawServer m_server;
+    QPointer<QWidget> m_parent;
+    QObject m_context;
+};
+
+class WaitTest : public WaitBase, public testing::WithParamInterface<Waiting> {};
+
+INSTANTIATE_TEST_SUITE_P(Waits, WaitTest, testing::Values(InLoop, BehindDialog),
+                         [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
+
+TEST_P(WaitTest, TimeOutIsPreciseAndClientGoesOn)
+{
+    int nTicks = 0;
+    QTimer ticker;
+    QObject::connect(&ticker, &QTimer::timeout, [&nTicks] { ++nTicks; });
+    ticker.start(10);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), 1)), -1);
+    EXPECT_GE(elapsed.elapsed(), 1000);
+    EXPECT_GE(nTicks, 30) << "timers of the client stand still";
+    EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/silent"));
+    EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
+
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/ok"))), 0);
+    EXPECT_EQ(notifications.Take(), QStringList{QStringLiteral("Done")});
+}
+
+TEST_P(WaitTest, LateAnswerIsNoMoreThanALateAnswer)
+{
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/1300"), 1)), -1);
+    EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/after/1300"));
+    notifications.Take();
+    QEventLoop loop;
+    QTimer::singleShot(600, &loop, &QEventLoop::quit);
+    loop.exec();
+    EXPECT_EQ(logs.Take(), LogLines());
+    EXPECT_EQ(notifications.Take(), QStringList());
+}
+
+TEST_P(WaitTest, NoTimeLeft)
+{
+    for (const int nTimeout : {0, -1, INT_MIN}) {
+        EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), nTimeout)), -1);
+        EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/silent"));
+        EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
+    }
+}
+
+TEST_P(WaitTest, TimeBeyondATimer)
+{
+    for (const int nTimeout : {INT_MAX / 1000, INT_MAX / 1000 + 1, INT_MAX}) {
+        EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/50"), nTimeout)), 0);
+    }
+}
+
+TEST_P(WaitTest, TenTimeOutsStarveNoCall)
+{
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), i == 0 ? 1 : 0)), -1);
+    }
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), 1)), -1);
+    }
+    notifications.Take();
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/ok"))), 0);
+    EXPECT_EQ(notifications.Take(), QStringList{QStringLiteral("Done")});
+}
+
+TEST_F(WaitBase, TenWholeTimeOutsStarveNoCall)
+{
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/silent"), 1)), -1);
+    }
+    EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/ok"), 5)), 0);
+}
+
+TEST_P(WaitTest, UnInitLeavesTheCallItsResult)
+{
+    During(50, [] { CAPIModule::GetInstance().UnInit(); });
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/200"))), 0);
+    EXPECT_EQ(notifications.Take(), QStringList());
+    CAPIModule::GetInstance().Init(&users);
+    During(50, [] { CAPIModule::GetInstance().UnInit(); });
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), 1)), -1);
+    EXPECT_EQ(notifications.Take(), QStringList());
+}
+
+TEST_P(WaitTest, SettingsAndServersMayChange)
+{
+    During(50, [this] {
+        CAPIModule::GetInstance().SetLanguage("de");
+        CAPIModule::GetInstance().SetHttpsMode(1);
+        users.servers.clear();
+    });
+    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/200"))), 0);
+}
+
+/// A call inside another one's wait, each in either way of waiting.
+class NestedTest : public WaitBase, public testing::WithParamInterface<std::tuple<Waiting, Waiting>> {};
+
+INSTANTIATE_TEST_SUITE_P(Waits, NestedTest,
+                         testing::Combine(testing::Values(InLoop, BehindDialog), testing::Values(InLoop, BehindDialog)),
+                         [](const auto& row) {
+                             return std::string(std::get<0>(row.param) == InLoop ? "loop" : "dialog") +
+                                    (std::get<1>(row.param) == InLoop ? "_loop" : "_dialog");
+                         });
+
+TEST_P(NestedTest, InnerEndsFirst)
+{
+    const auto [outer, inner] = GetParam();
+    int nInner = 99;
+    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/404"))); });
+    EXPECT_EQ(Execute(Call(outer, QStringLiteral("/after/400"))), 0);
+    EXPECT_EQ(nInner, 404);
+}
+
+TEST_P(NestedTest, OuterFinishesFirst)
+{
+    const auto [outer, inner] = GetParam();
+    int nInner = 99;
+    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/after/600"))); });
+    EXPECT_EQ(Execute(Call(outer, QStringLiteral("/after/200"))), 0);
+    EXPECT_EQ(nInner, 0);
+}
+
+TEST_P(NestedTest, OuterTimesOutFirst)
+{
+    const auto [outer, inner] = GetParam();
+    int nInner = 99;
+    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/after/1500"))); });
+    EXPECT_EQ(Execute(Call(outer, QStringLiteral("/silent"), 1)), -1);
+    EXPECT_EQ(nInner, 0);
+    EXPECT_EQ(notifications.Take(), (QStringList{QStringLiteral("Done"), TimeOutNotice()}));
+}
+
+TEST_P(NestedTest, BothTimeOut)
+{
+    const auto [outer, inner] = GetParam();
+    int nInner = 99;
+    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/silent"), 1)); });
+    EXPECT_EQ(Execute(Call(outer, QStringLiteral("/silent"), 1)), -1);
+    EXPECT_EQ(nInner, -1);
+    EXPECT_EQ(notifications.Take(), (QStringList{TimeOutNotice(), TimeOutNotice()}));
+    EXPECT_EQ(Execute(Call(outer, QStringLiteral("/ok"))), 0);
+}
+
+TEST_P(NestedTest, ParentOfBothGoes)
+{
+    const auto [outer, inner] = GetParam();
+    int nInner = 99;
+    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/after/600"))); });
+    During(200, [this] { delete m_parent; });
+    EXPECT_EQ(Execute(Call(outer, QStringLiteral("/after/1500"))), outer == InLoop ? 0 : -1);
+    EXPECT_EQ(nInner, inner == InLoop ? 0 : -1);
+}
+
+TEST_F(WaitBase, TenNestedCalls)
+{
+    std::vector<int> results;
+    std::function<void(int)> nest = [&](int nDepth) {
+        if (nDepth < 10) {
+            During(10, [&nest, nDepth] { nest(nDepth + 1); });
+        }
+        const QString url = nDepth % 3 == 0 ? QStringLiteral("/404") : QStringLiteral("/after/%1").arg(50 * nDepth);
+        results.push_back(Execute(Call(nDepth % 2 == 0 ? InLoop : BehindDialog, url)));
+    };
+    nest(1);
+    ASSERT_EQ(results.size(), 10U);
+    EXPECT_EQ(std::count(results.begin(), results.end(), 404), 3);
+    EXPECT_EQ(std::count(results.begin(), results.end(), 0), 7);
+}
+
+TEST_F(WaitBase, ParentsDestructionEndsTheWait)
+{
+    for (const bool bLater : {false, true}) {
+        if (!m_parent) {
+            m_parent = new QWidget;
+            m_parent->show();
+        }
+        During(100, [&] {
+            if (bLater) {
+                m_parent->deleteLater();
+            } else {
+                delete m_parent;
+            }
+        });
+        QElapsedTimer elapsed;
+        elapsed.start();
+        EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/silent"))), -1);
+        EXPECT_LT(elapsed.elapsed(), 10000);
+        EXPECT_EQ(logs.Take(), TimedOut(BehindDialog, "/silent"));
+        EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
+    }
+}
+
+TEST_F(WaitBase, GrandparentsDestructionEndsTheWait)
+{
+    auto* pWindow = new QWidget;
+    auto* pPage = new QWidget(pWindow);
+    pWindow->show();
+    During(100, [&] { delete pWindow; });
+    HostCall call = Call(BehindDialog, QStringLiteral("/silent"));
+    call.parent = pPage;
+    EXPECT_EQ(Execute(call), -1);
+    EXPECT_EQ(logs.Take(), TimedOut(BehindDialog, "/silent"));
+}
+
+TEST_F(WaitBase, ParentGoneBeforeTheWait)
+{
+    HostCall call = Call(BehindDialog, QStringLiteral("/ok"));
+    const auto pack = [&](void* pReqParamData) {
+        delete m_parent;
+        return CAPIModule::GetInstance().GetRequestParam(pReqParamData, APIModule::Method_Get, call.url, -1, {}, {}, 5,
+                                                         false);
+    };
+    EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs(pack, call.parse, {}, call.parent, {}, true, true), 0);
+}
+
+/// What a user may do to the parent or the dialog without ending the wait.
+struct Disturbance {
+    const char* name;
+    void (*act)(QWidget& parent, QWidget& dialog);
+};
+
+class DisturbanceTest : public WaitBase, public testing::WithParamInterface<Disturbance> {};
+
+const Disturbance kDisturbances[] = {
+    {"parent_hidden", [](QWidget& parent, QWidget&) { parent.hide(); }},
+    {"parent_closed", [](QWidget& parent, QWidget&) { parent.close(); }},
+    {"escape",
+     [](QWidget&, QWidget& dialog) {
+         QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+         QApplication::sendEvent(&dialog, &press);
+     }},
+    {"close_button", [](QWidget&, QWidget& dialog) { dialog.close(); }},
+    {"close_event",
+     [](QWidget&, QWidget& dialog) {
+         QCloseEvent close;
+         QApplication::sendEvent(&dialog, &close);
+     }},
+    {"dialog_hidden", [](QWidget&, QWidget& dialog) { dialog.hide(); }},
+    {"dialog_deleted", [](QWidget&, QWidget& dialog) { delete &dialog; }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Disturbances, DisturbanceTest, testing::ValuesIn(kDisturbances), RowName());
+
+TEST_P(DisturbanceTest, DoesNotEndTheWait)
+{
+    bool bDone = false;
+    During(100, [&] {
+        auto* pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(pDialog, nullptr);
+        GetParam().act(*m_parent, *pDialog);
+        bDone = true;
+    });
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), 0);
+    EXPECT_TRUE(bDone);
+    EXPECT_EQ(notifications.Take(), QStringList{QStringLiteral("Done")});
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(WaitBase, DialogIsModalOverItsParentAndGoesAway)
+{
+    QPointer<QWidget> dialog;
+    During(100, [&] { dialog = QApplication::activeModalWidget(); });
+    QPointer<QWidget> seen;
+    During(150, [&] { seen = dialog; });
+    bool bCovered = false;
+    During(200, [&] { bCovered = seen && seen->isVisible() && seen->parentWidget() == m_parent; });
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), 0);
+    EXPECT_TRUE(bCovered);
+    EXPECT_TRUE(dialog.isNull());
+}
+
+/// A host that runs an event loop of its own while the dialog comes up lets the reply finish before the wait begins.
+TEST_F(WaitBase, ReplyBeforeTheWait)
+{
+    class Filter : public QObject {
+    public:
+        bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+        {
+            if (pEvent->type() == QEvent::Show && qobject_cast<ORNGUI::OrnWaitDialog*>(pWatched)) {
+                ++count;
+                QEventLoop loop;
+                QTimer::singleShot(300, &loop, &QEventLoop::quit);
+                loop.exec();
+            }
+            return false;
+        }
+        int count = 0;
+    } filter;
+    qApp->installEventFilter(&filter);
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/ok"))), 0);
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/silent"), 0)), -1);
+    qApp->removeEventFilter(&filter);
+    EXPECT_GE(filter.count, 1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+/// A key that the user presses during a wait in the event loop.
+class UserInputTest : public WaitBase, public testing::WithParamInterface<bool> {};
+
+INSTANTIATE_TEST_SUITE_P(Waits, UserInputTest, testing::Bool(),
+                         [](const auto& row) { return row.param ? "held_back" : "goes_on"; });
+
+TEST_P(UserInputTest, DuringAWaitWithoutDialog)
+{
+    class Keys : public QWidget {
+    public:
+        int count = 0;
+
+    protected:
+        void keyPressEvent(QKeyEvent*) override { ++count; }
+    } keys;
+    keys.show();
+    keys.activateWindow();
+    keys.setFocus();
+    During(100, [&] {
+        QWindowSystemInterface::handleKeyEvent(keys.windowHandle(), QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    });
+    HostCall call = Call(InLoop, QStringLiteral("/after/300"));
+    call.excludeUserInput = GetParam();
+    EXPECT_EQ(Execute(call), 0);
+    EXPECT_EQ(keys.count, GetParam() ? 0 : 1);
+    QEventLoop loop;
+    QTimer::singleShot(50, &loop, &QEventLoop::quit);
+    loop.exec();
+    EXPECT_EQ(keys.count, 1) << "what was held back comes afterwards";
+}
+
+TEST_F(WaitBase, ThousandCallsUseOneConnection)
+{
+    for (int i = 0; i < 1000; ++i) {
+        ASSERT_EQ(Execute(Call(InLoop, QStringLiteral("/ok"))), 0);
+    }
+    EXPECT_EQ(m_server.ConnectionCount(), 1);
+}
+
+}  // namespace
