@@ -2,4 +2,136 @@
 
 namespace APIModule {
 
+static int ReadRecord(const QJsonObject& element, SummaryAlarmPlan& plan)
+{
+    return ReadFields(element, "id", plan.id, "planName", plan.planName);
+}
+
+static int ReadRecord(const QJsonObject& element, AlarmLinkChannel& channel)
+{
+    return ReadFields(element, "channelId", channel.channelId, "channelName", channel.channelName);
+}
+
+static int ReadRecord(const QJsonObject& element, AlarmLinkAudioChannel& channel)
+{
+    return ReadFields(element, "channelId", channel.channelId, "channelName", channel.channelName, "fileIds",
+                      channel.fileIds);
+}
+
+static int ReadRecord(const QJsonObject& element, AlarmRecordFile& file)
+{
+    return ReadFields(element, "fileType", file.fileType, "filePath", file.filePath, "ssId", file.ssId, "channelId",
+                      file.channelId, "recordTime", file.recordTime, "fileTimeLength", file.fileTimeLength,
+                      "fileLength", file.fileLength);
+}
+
+static int ReadRecord(const QJsonObject& element, PluginLogEventType& type)
+{
+    return ReadFields(element, "eventType", type.eventType, "eventTypeName", type.eventTypeName, "sort", type.sort);
+}
+
+static int ReadRecord(const QJsonObject& element, PluginLogTypeGroupInfo& group)
+{
+    return ReadFields(element, "groupId", group.groupId, "groupName", group.groupName, "sort", group.sort, "eventTypes",
+                      group.eventTypes);
+}
+
+static int ReadRecord(const QJsonObject& element, GeneralEventRsp& event)
+{
+    return ReadFields(element, "id", event.id, "eventName", event.eventName);
+}
+
+int CBRMSModule::PacketGetPageSummaryAlarmPlans(void* pReqParamData, const GetPageSummaryAlarmPlansParam& query,
+                                                int nServerId)
+{
+    return Pack(pReqParamData, kBrms, Method_Get,
+                Url(QStringLiteral("/brms/api/v1.1/alarm/plan/summary/page?page=%1&pageSize=%2&keyword=%3"), query.page,
+                    query.pageSize, Text(query.keyword)),
+                nServerId);
+}
+
+int CBRMSModule::ParseGetPageSummaryAlarmPlans(const QJsonObject& data, std::vector<SummaryAlarmPlan>& plans)
+{
+    return ReadFields(data, "pageData", plans);
+}
+
+int CBRMSModule::PacketGetAlarmLinkControlList(void* pReqParamData, const std::string& sourceCode, int alarmType,
+                                               int nServerId)
+{
+    return Pack(
+        pReqParamData, kBrms, Method_Get,
+        Url(QStringLiteral("/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?sourceCode=%1&alarmType=%2"),
+            Text(sourceCode), alarmType),
+        nServerId);
+}
+
+int CBRMSModule::ParseGetAlarmLinkControlList(const QJsonObject& data, AlarmLinkControl& control)
+{
+    return ReadFields(data, "linkAudioLightChannels", control.linkAudioLightChannels, "linkAlarmOutputChannels",
+                      control.linkAlarmOutputChannels, "linkAudioChannels", control.linkAudioChannels);
+}
+
+int CBRMSModule::PacketGetAlarmLayerDetail(void* pReqParamData, const std::string& resourceCode, int resourceType,
+                                           int nServerId)
+{
+    return Pack(pReqParamData, kBrms, Method_Get,
+                Url(QStringLiteral("/ipms/api/v1.1/parking-lot/layer/detail?resourceType=%1&resourceCode=%2"),
+                    resourceType, Text(resourceCode)),
+                nServerId);
+}
+
+int CBRMSModule::ParseGetAlarmLayerDetail(const QJsonObject& data, AlarmLayerInfo& layer)
+{
+    return ReadFields(data, "layerId", layer.layerId, "layerName", layer.layerName, "layerPicture", layer.layerPicture,
+                      "height", layer.height, "width", layer.width, "locationX", layer.locationX, "locationY",
+                      layer.locationY, "angle", layer.angle);
+}
+
+int CBRMSModule::PacketGetAlarmHostFileInfo(void* pReqParamData, const std::string& alarmRecordId, int nServerId)
+{
+    return Pack(pReqParamData, kBrms, Method_Get,
+                Url(QStringLiteral("/brms/api/v1.1/alarm/record/%1/file/detail"), Text(alarmRecordId)), nServerId);
+}
+
+int CBRMSModule::ParseGetAlarmHostFileInfo(const QJsonObject& data, AlarmHostFileInfo& info)
+{
+    return ReadFields(data, "alarmCode", info.alarmCode, "files", info.files);
+}
+
+int CBRMSModule::PacketGetAudioFileInfo(void* pReqParamData, const std::string& url, const std::string& body,
+                                        int nServerId)
+{
+    return Pack(pReqParamData, kBrms, Method_Get, CText(url), nServerId, CText(body));
+}
+
+int CBRMSModule::ParseGetAudioFileInfo(const QJsonObject& data, AudioFileInfo& info)
+{
+    return ReadFields(data, "fileUrl", info.fileUrl, "taskProgress", info.taskProgress);
+}
+
+int CBRMSModule::PacketGetPluginLogType(void* pReqParamData, int nServerId)
+{
+    return Pack(pReqParamData, kBrms, Method_Get, QStringLiteral("/brms/api/v1.1/log/plugin-log/event-type/list"),
+                nServerId);
+}
+
+int CBRMSModule::ParseGetPluginLogType(const QJsonObject& data, std::vector<PluginLogTypeGroupInfo>& groups)
+{
+    return ReadFields(data, "results", groups);
+}
+
+int CBRMSModule::PacketGetGeneralEvents(void* pReqParamData, GetGeneralEventsParam& query, int nServerId)
+{
+    // A GET travels without its body; the filter is part of the request all the same.
+    return Pack(pReqParamData, kBrms, Method_Get, QStringLiteral("/brms/api/v1.1/alarm/general/event/list"), nServerId,
+                Body({{"transportType", Text(query.transportType)},
+                      {"matchType", Text(query.matchType)},
+                      {"keyword", Text(query.keyword)}}));
+}
+
+int CBRMSModule::ParseGetGeneralEvents(const QJsonObject& data, std::vector<GeneralEventRsp>& events)
+{
+    return ReadFields(data, "results", events);
+}
+
 }  // namespace APIModule

@@ -2,6 +2,105 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+#include <vector>
+
 namespace APIModule {
+
+/// Which page of the alarm plans is asked for. All of it goes into the URL.
+struct GetPageSummaryAlarmPlansParam {
+    int page = 0;         ///< "page": number of the page
+    int pageSize = 0;     ///< "pageSize": plans on a page
+    std::string keyword;  ///< "keyword": filter on the plan's name, empty for all plans
+};
+
+/// An alarm plan in a list.
+struct SummaryAlarmPlan {
+    std::string id;        ///< "id": identifier
+    std::string planName;  ///< "planName": display name
+};
+
+/// A channel that an alarm sets off.
+struct AlarmLinkChannel {
+    std::string channelId;    ///< "channelId": the channel
+    std::string channelName;  ///< "channelName": its display name
+};
+
+/// An audio channel that an alarm sets off.
+struct AlarmLinkAudioChannel {
+    std::string channelId;    ///< "channelId": the channel
+    std::string channelName;  ///< "channelName": its display name
+    std::string fileIds;      ///< "fileIds": the audio files to play, one text in the server's format
+};
+
+/// What an alarm sets off.
+struct AlarmLinkControl {
+    std::vector<AlarmLinkChannel> linkAlarmOutputChannels;  ///< "linkAlarmOutputChannels": alarm outputs
+    std::vector<AlarmLinkChannel> linkAudioLightChannels;   ///< "linkAudioLightChannels": audio-light alarms
+    std::vector<AlarmLinkAudioChannel> linkAudioChannels;   ///< "linkAudioChannels": audio channels
+};
+
+/// A map layer with the place of an alarm resource on it, in the server's units.
+struct AlarmLayerInfo {
+    std::string layerId;       ///< "layerId": the layer
+    std::string layerName;     ///< "layerName": its display name
+    std::string layerPicture;  ///< "layerPicture": reference to its picture as the server gives it
+    double locationX = 0.0;    ///< "locationX": horizontal place of the resource on the layer
+    double locationY = 0.0;    ///< "locationY": vertical place of the resource on the layer
+    double width = 0.0;        ///< "width": width of the picture
+    double height = 0.0;       ///< "height": height of the picture
+    double angle = 0.0;        ///< "angle": rotation of the resource on the layer
+};
+
+/// A recorded file of an alarm.
+struct AlarmRecordFile {
+    int fileType = 0;        ///< "fileType": kind of file, the server's code
+    std::string filePath;    ///< "filePath": path of the file
+    std::string ssId;        ///< "ssId": the storage server that holds it
+    std::string channelId;   ///< "channelId": the channel that was recorded
+    int64 recordTime = 0;    ///< "recordTime": time of the recording, in the server's unit
+    int fileTimeLength = 0;  ///< "fileTimeLength": duration, in the server's unit
+    int64 fileLength = 0;    ///< "fileLength": size of the file, in the server's unit
+};
+
+/// The recorded files of one alarm record.
+struct AlarmHostFileInfo {
+    std::string alarmCode;               ///< "alarmCode": code of the alarm
+    std::vector<AlarmRecordFile> files;  ///< "files": its files
+};
+
+/// The state of an audio file task.
+struct AudioFileInfo {
+    std::string taskProgress;  ///< "taskProgress": how far the task is, as the server's text
+    std::string fileUrl;       ///< "fileUrl": where the file is
+};
+
+/// A type of event that plug-in logs know.
+struct PluginLogEventType {
+    std::string eventType;      ///< "eventType": code of the type
+    std::string eventTypeName;  ///< "eventTypeName": its display name
+    int sort = 0;               ///< "sort": its place within the group
+};
+
+/// A group of event types of plug-in logs.
+struct PluginLogTypeGroupInfo {
+    std::string groupId;                         ///< "groupId": the group
+    std::string groupName;                       ///< "groupName": its display name
+    int sort = 0;                                ///< "sort": its place among the groups
+    std::vector<PluginLogEventType> eventTypes;  ///< "eventTypes": the types in it
+};
+
+/// Which general events are asked for.
+struct GetGeneralEventsParam {
+    std::string transportType;  ///< "transportType": the server's code of the transport
+    std::string matchType;      ///< "matchType": the server's code of how to match
+    std::string keyword;        ///< "keyword": what to match
+};
+
+/// A general event.
+struct GeneralEventRsp {
+    std::string id;         ///< "id": identifier
+    std::string eventName;  ///< "eventName": display name
+};
 
 }  // namespace APIModule

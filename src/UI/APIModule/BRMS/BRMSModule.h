@@ -1,10 +1,14 @@
 #pragma once
 
 #include "../APIModuleGlobal.h"
+#include "AccountAccess.h"
+#include "AlarmEvent.h"
 #include "DeviceConfig.h"
 #include "DeviceControl.h"
+#include "QuickCommand.h"
 #include "ServerWarning.h"
 #include "SystemConfig.h"
+#include "UserGroup.h"
 
 #include <QJsonObject>
 
@@ -237,6 +241,212 @@ public:
     static int PacketGetNetWorks(void* pReqParamData, int nServerId);
     /// Appends the networks of "results" up to the first that is not whole.
     static int ParseGetNetWorks(const QJsonObject& data, NetWorksParam& netWorks);
+    /// @}
+
+    /// @name User groups
+    /// Groups of the platform's users. Identifiers and keywords go into the URL as they stand, nothing escaped.
+    /// @{
+
+    /// Lists the user groups: GET /brms/api/v1.1/user/group/list?keyword={keyword}
+    static int PacketGetUserGroupList(void* pReqParamData, const std::string& keyword, int nServerId);
+    /// Appends the groups of "results" up to the first that is not whole.
+    static int ParseGetUserGroupList(const QJsonObject& data, std::vector<UserConfigUserGroups>& groups);
+
+    /// Reads one user group: GET /brms/api/v1.1/user/group/{groupId}
+    static int PacketGetUserGroup(void* pReqParamData, const std::string& groupId, int nServerId);
+    /// Fills the fields of @p group in their order.
+    static int ParseGetUserGroup(const QJsonObject& data, UserConfigUserGroups& group);
+
+    /// Creates a user group: POST /brms/api/v1.1/user/group
+    ///
+    /// Body: "groupName" and "memo", texts, sent when empty, too.
+    static int PacketAddUserGroup(void* pReqParamData, const AddUserGroupsParam& group, int nServerId);
+    /// Reads "id", the identifier that the server gave to the new group.
+    static int ParseAddUserGroup(const QJsonObject& data, std::string& groupId);
+
+    /// Renames or describes a user group: PUT /brms/api/v1.1/user/group/{groupId}
+    ///
+    /// Body: "groupName" and "memo", texts, sent when empty, too.
+    static int PacketUpdateUserGroup(void* pReqParamData, const std::string& groupId, const AddUserGroupsParam& group,
+                                     int nServerId);
+
+    /// Moves users into one group: POST /brms/api/v1.1/user/group/move/batch
+    ///
+    /// Body: "userIds", a list of texts, empty for no users, and "groupId".
+    static int PacketMoveUserGroup(void* pReqParamData, const MoveUserGroupsParam& move, int nServerId);
+
+    /// Empties a user group: POST /brms/api/v1.1/user/group/{groupId}/clear, no body
+    static int PacketClearUserGroup(void* pReqParamData, const std::string& groupId, int nServerId);
+
+    /// Deletes user groups: DELETE /brms/api/v1.1/user/group?ids={groupIds, with a comma between two}, no body
+    ///
+    /// Its log texts are those of PacketClearUserGroup().
+    static int PacketDeleteUserGroup(void* pReqParamData, const std::vector<std::string>& groupIds, int nServerId);
+    /// @}
+
+    /// @name Quick commands
+    /// Named lists of HTTP requests that the server stores. A command is sent with texts alone ("1"/"0", decimal) and
+    /// read by the types of its fields. Identifiers and keywords go into the URL as they stand, nothing escaped.
+    /// @{
+
+    /// Creates a quick command: POST /brms/api/v1.1/config/quick/command
+    ///
+    /// Body: every field of @p command but "id", each a text; "httpUrls" is a list with the four texts of each request.
+    /// The reply does not tell the identifier of the new command: PacketGetQuickCommands() does.
+    static int PacketAddQuickCommand(void* pReqParamData, const QuickCommand& command, int nServerId);
+
+    /// Changes a quick command: PUT /brms/api/v1.1/config/quick/command/{command.id}
+    ///
+    /// Body: as that of PacketAddQuickCommand().
+    static int PacketUpdateQuickCommand(void* pReqParamData, const QuickCommand& command, int nServerId);
+
+    /// Deletes quick commands: DELETE /brms/api/v1.1/config/quick/command?ids={ids, with a comma between two}, no body
+    static int PacketDelQuickCommand(void* pReqParamData, std::vector<std::string> ids, int nServerId);
+
+    /// Reads one quick command: GET /brms/api/v1.1/config/quick/command/{id}
+    static int PacketGetQuickCommand(void* pReqParamData, const std::string& id, int nServerId);
+    /// Fills "id", "quickCommandName", "shortcutKeys", "remark", "enableShortcutKeys" and "executeMode" in this order,
+    /// then appends the requests of "httpUrls" up to the first that is not whole.
+    static int ParseGetQuickCommand(const QJsonObject& data, QuickCommand& command);
+
+    /// Lists the quick commands: GET /brms/api/v1.1/config/quick/command/list?keyword={keyword}
+    static int PacketGetQuickCommands(void* pReqParamData, const std::string& keyword, int nServerId);
+    /// Appends the commands of "results" up to the first that is not whole, each with its name, identifier, shortcut
+    /// keys, their switch and remark. The mode stays 0 and the requests empty.
+    static int ParseGetQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands);
+
+    /// Lists the quick commands of an alarm plan: GET /brms/api/v1.1/alarm/plan/{planId}/quick/command/list
+    static int PacketGetAlarmPlanQuickCommands(void* pReqParamData, const std::string& planId, int nServerId);
+    /// Appends the commands of "results" up to the first that is not whole, its requests included. A command has its
+    /// name and requests, a request its method, URL and place; all other fields stay empty.
+    static int ParseGetAlarmPlanQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands);
+    /// @}
+
+    /// @name Alarm and event information
+    /// What the client shows about alarms and events. Codes and texts go into the URL as they stand, nothing escaped.
+    /// @{
+
+    /// Reads one page of the alarm plans:
+    /// GET /brms/api/v1.1/alarm/plan/summary/page?page={page}&pageSize={pageSize}&keyword={keyword}
+    static int PacketGetPageSummaryAlarmPlans(void* pReqParamData, const GetPageSummaryAlarmPlansParam& query,
+                                              int nServerId);
+    /// Appends the plans of "pageData" up to the first that is not whole; the counts of the page are not read.
+    static int ParseGetPageSummaryAlarmPlans(const QJsonObject& data, std::vector<SummaryAlarmPlan>& plans);
+
+    /// Reads what an alarm sets off:
+    /// GET /brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?sourceCode={sourceCode}&alarmType={alarmType}
+    ///
+    /// @param pReqParamData the RequestParam
+    /// @param sourceCode where the alarm comes from
+    /// @param alarmType kind of alarm, the server's code
+    /// @param nServerId the server, -1 for the current one
+    static int PacketGetAlarmLinkControlList(void* pReqParamData, const std::string& sourceCode, int alarmType,
+                                             int nServerId);
+    /// Appends the channels of "linkAudioLightChannels", then those of "linkAlarmOutputChannels" and of
+    /// "linkAudioChannels", up to the first that is not whole. All three lists must be there.
+    static int ParseGetAlarmLinkControlList(const QJsonObject& data, AlarmLinkControl& control);
+
+    /// Reads the map layer on which an alarm resource lies, from the parking management service:
+    /// GET /ipms/api/v1.1/parking-lot/layer/detail?resourceType={resourceType}&resourceCode={resourceCode}
+    ///
+    /// @param pReqParamData the RequestParam
+    /// @param resourceCode the resource
+    /// @param resourceType kind of resource, the server's code
+    /// @param nServerId the server, -1 for the current one
+    static int PacketGetAlarmLayerDetail(void* pReqParamData, const std::string& resourceCode, int resourceType,
+                                         int nServerId);
+    /// Fills "layerId", "layerName", "layerPicture", "height", "width", "locationX", "locationY" and "angle" in this
+    /// order.
+    static int ParseGetAlarmLayerDetail(const QJsonObject& data, AlarmLayerInfo& layer);
+
+    /// Reads the recorded files of an alarm: GET /brms/api/v1.1/alarm/record/{alarmRecordId}/file/detail
+    static int PacketGetAlarmHostFileInfo(void* pReqParamData, const std::string& alarmRecordId, int nServerId);
+    /// Fills "alarmCode", then appends the files of "files" up to the first that is not whole.
+    static int ParseGetAlarmHostFileInfo(const QJsonObject& data, AlarmHostFileInfo& info);
+
+    /// Asks for the state of an audio file task: GET {url}
+    ///
+    /// @param pReqParamData the RequestParam
+    /// @param url path and query of the request, up to its first zero byte
+    /// @param body body of the request, up to its first zero byte; a GET travels without it
+    /// @param nServerId the server, -1 for the current one
+    static int PacketGetAudioFileInfo(void* pReqParamData, const std::string& url, const std::string& body,
+                                      int nServerId);
+    /// Fills "fileUrl", then "taskProgress".
+    static int ParseGetAudioFileInfo(const QJsonObject& data, AudioFileInfo& info);
+
+    /// Lists the event types of plug-in logs: GET /brms/api/v1.1/log/plugin-log/event-type/list
+    static int PacketGetPluginLogType(void* pReqParamData, int nServerId);
+    /// Appends the groups of "results" up to the first that is not whole, its event types included.
+    static int ParseGetPluginLogType(const QJsonObject& data, std::vector<PluginLogTypeGroupInfo>& groups);
+
+    /// Lists the general events: GET /brms/api/v1.1/alarm/general/event/list
+    ///
+    /// Body: "transportType", "matchType" and "keyword", texts. A GET travels without its body, so the server does not
+    /// see this filter.
+    static int PacketGetGeneralEvents(void* pReqParamData, GetGeneralEventsParam& query, int nServerId);
+    /// Appends the events of "results" up to the first that is not whole.
+    static int ParseGetGeneralEvents(const QJsonObject& data, std::vector<GeneralEventRsp>& events);
+    /// @}
+
+    /// @name Account and web access
+    /// What the account may use, and how a device's own web page is opened. Identifiers and codes go into the URL as
+    /// they stand, nothing escaped.
+    /// @{
+
+    /// Asks where the web page of a channel is reached: GET /brms/api/v1.1/device/channel/{channelId}/web/tunnel
+    static int PacketGetChannelWebTunnel(void* pReqParamData, const std::string& channelId, int nServerId);
+    /// Fills "https", "port" and "ip" in this order; user name and token stay as they are.
+    static int ParseGetChannelWebTunnel(const QJsonObject& data, GetChannelWebTunnelRsp& tunnel);
+
+    /// Asks how to log in to the web page of a channel:
+    /// GET /brms/api/v1.1/device/channel/{channelId}/web/authorization
+    static int PacketGetChannelWebAuthorization(void* pReqParamData, const std::string& channelId, int nServerId);
+    /// Fills "username", then "token"; scheme, port and address stay as they are.
+    static int ParseGetChannelWebAuthorization(const QJsonObject& data, GetChannelWebTunnelRsp& tunnel);
+
+    /// Asks whether a channel's web page may be opened: GET /brms/api/v1.1/device/channel/{channelId}/web/enablement
+    static int PacketGetChannelWebEnablement(void* pReqParamData, const std::string& channelId, int nServerId);
+    /// Reads "enableWeb".
+    static int ParseGetChannelWebEnablement(const QJsonObject& data, bool& enabled);
+
+    /// Asks whether a device's web page may be opened: GET /brms/api/v1.1/device/{deviceCode}/web/enablement
+    static int PacketGetWebEnablement(void* pReqParamData, const std::string& deviceCode, int nServerId);
+    /// Reads "enableWeb".
+    static int ParseGetWebEnablement(const QJsonObject& data, bool& enabled);
+
+    /// Asks whether a menu is available: GET /brms/api/v1.1/menu/{menuCode}/available
+    static int PacketGetMenuAvailable(void* pReqParamData, const std::string& menuCode, int nServerId);
+    /// Reads "available".
+    static int ParseGetMenuAvailable(const QJsonObject& data, bool& available);
+
+    /// Has a token derived from the account's session: POST /brms/api/v1.1/account/token/derive, no body
+    static int PacketGetDeriveToken(void* pReqParamData, int nServerId);
+    /// Reads "token".
+    static int ParseGetDeriveToken(const QJsonObject& data, std::string& token);
+
+    /// Reads what the account may use: GET /brms/api/v1.1/account/permission/resource/collection
+    static int PacketGetPermissionResourceCollection(void* pReqParamData, int nServerId);
+    /// Appends the codes of "menuFunctionCodes" and of "localConfigItemCodes"; anything in them that is no text counts
+    /// as an empty one. Where either list is missing, @p collection is untouched.
+    static int ParseGetPermissionResourceCollection(const QJsonObject& data,
+                                                    PermissionResourceCollectionResp& collection);
+
+    /// Asks whether the account may use a function on a channel: POST /brms/api/v1.1/account/function/channel/check
+    ///
+    /// Body: "channelId" and "functionCode", texts.
+    static int PacketFunctionChannelCheck(void* pReqParamData, FunctionChannelCheck& check, int nServerId);
+    /// Reads the text "authorized" and keeps the whole number that it begins with, 0 where there is none.
+    static int ParseFunctionChannelCheck(const QJsonObject& data, FunctionChannelCheckResult& result);
+
+    /// Counts the devices of each category:
+    /// GET /brms/api/v1.1/device/statistics/count-by-device-category/list with the fields of @p query in their order as
+    /// its "keyword", "orgCode", "domain", "permitted", "sourceType" and "containChild". An empty field leaves its
+    /// place empty.
+    static int PacketGetDeviceCategoryCount(void* pReqParamData, const DeviceCategoryParamReq& query, int nServerId);
+    /// Appends the counts of "results" up to the first that is not whole.
+    static int ParseGetGetDeviceCategoryCount(const QJsonObject& data,
+                                              std::vector<DeviceCategoryQueryResult>& categories);
     /// @}
 };
 
