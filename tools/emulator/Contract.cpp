@@ -10,10 +10,8 @@
 #include <set>
 #include <utility>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 constexpr std::array kMethods = {"get", "put", "post", "delete"};
 
@@ -35,12 +33,10 @@ const std::set<std::string>& SharedKeywords()
 Json ScalarOf(const YAML::Node& node)
 {
     const std::string text = node.Scalar();
-    if (node.Tag() == "!")
-    {
+    if (node.Tag() == "!") {
         return text;
     }
-    if (text == "true" || text == "false")
-    {
+    if (text == "true" || text == "false") {
         return text == "true";
     }
     const Json number = Json::parse(text, nullptr, false);
@@ -50,23 +46,19 @@ Json ScalarOf(const YAML::Node& node)
 Json JsonOf(const YAML::Node& node)
 {
     Json json;
-    switch (node.Type())
-    {
+    switch (node.Type()) {
     case YAML::NodeType::Scalar:
         return ScalarOf(node);
     case YAML::NodeType::Sequence:
         json = Json::array();
-        for (const YAML::Node& element : node)
-        {
+        for (const YAML::Node& element : node) {
             json.push_back(JsonOf(element));
         }
         return json;
     case YAML::NodeType::Map:
         json = Json::object();
-        for (const auto& member : node)
-        {
-            if (!json.emplace(member.first.Scalar(), JsonOf(member.second)).second)
-            {
+        for (const auto& member : node) {
+            if (!json.emplace(member.first.Scalar(), JsonOf(member.second)).second) {
                 throw ContractError("key '" + member.first.Scalar() + "' is there twice");
             }
         }
@@ -77,17 +69,13 @@ Json JsonOf(const YAML::Node& node)
 }
 
 /// The files of a folder with their references to each other.
-class Files
-{
+class Files {
 public:
     void read(const std::filesystem::path& file)
     {
-        try
-        {
+        try {
             m_documents[file.filename().string()] = JsonOf(YAML::LoadFile(file.string()));
-        }
-        catch (const std::exception& error)
-        {
+        } catch (const std::exception& error) {
             throw ContractError(file.filename().string() + ": " + error.what());
         }
     }
@@ -98,26 +86,21 @@ public:
     [[nodiscard]] Json resolved(const Json& node, const std::string& file, const std::string& place,
                                 std::set<std::string> passed = {}) const
     {
-        if (node.is_array())
-        {
+        if (node.is_array()) {
             Json result = Json::array();
-            for (std::size_t i = 0; i < node.size(); ++i)
-            {
+            for (std::size_t i = 0; i < node.size(); ++i) {
                 result.push_back(resolved(node[i], file, place + "/" + std::to_string(i), passed));
             }
             return result;
         }
-        if (!node.is_object())
-        {
+        if (!node.is_object()) {
             return node;
         }
-        if (node.contains("$ref"))
-        {
+        if (node.contains("$ref")) {
             return target(node, file, place, std::move(passed));
         }
         Json result = Json::object();
-        for (const auto& member : node.items())
-        {
+        for (const auto& member : node.items()) {
             result[member.key()] = resolved(member.value(), file, place + "/" + member.key(), passed);
         }
         return withoutWrapper(std::move(result));
@@ -128,8 +111,7 @@ private:
     static Json withoutWrapper(Json node)
     {
         const bool wrapped = node.contains("allOf") && node.at("allOf").is_array() && node.at("allOf").size() == 1;
-        if (wrapped && node.at("allOf").at(0).is_object())
-        {
+        if (wrapped && node.at("allOf").at(0).is_object()) {
             Json inner = node.at("allOf").at(0);
             node.erase("allOf");
             inner.update(node);
@@ -142,29 +124,23 @@ private:
                               std::set<std::string> passed) const
     {
         const std::string where = file + ": " + place;
-        if (node.size() != 1 || !node.at("$ref").is_string())
-        {
+        if (node.size() != 1 || !node.at("$ref").is_string()) {
             throw ContractError(where + ": $ref is a text and stands alone");
         }
         const std::string reference = node.at("$ref");
         const std::size_t mark = reference.find('#');
         const std::string targetFile = mark == 0 ? file : reference.substr(0, mark);
-        if (mark == std::string::npos || m_documents.count(targetFile) == 0)
-        {
+        if (mark == std::string::npos || m_documents.count(targetFile) == 0) {
             throw ContractError(where + ": '" + reference + "' names no file of the contract");
         }
         const std::string pointer = reference.substr(mark + 1);
-        if (!passed.insert(targetFile + "#" + pointer).second)
-        {
+        if (!passed.insert(targetFile + "#" + pointer).second) {
             throw ContractError(where + ": '" + reference + "' leads back to itself");
         }
         const Json& document = m_documents.at(targetFile);
-        try
-        {
+        try {
             return resolved(document.at(Json::json_pointer(pointer)), targetFile, pointer, std::move(passed));
-        }
-        catch (const Json::exception&)
-        {
+        } catch (const Json::exception&) {
             throw ContractError(where + ": '" + reference + "' leads nowhere");
         }
     }
@@ -176,38 +152,30 @@ void RefuseOtherKeywords(const Json& schema, const std::string& where);
 
 void RefuseInEach(const Json& schemas, const std::string& where)
 {
-    for (const auto& member : schemas.items())
-    {
+    for (const auto& member : schemas.items()) {
         RefuseOtherKeywords(member.value(), where + "/" + member.key());
     }
 }
 
 void RefuseOtherKeywords(const Json& schema, const std::string& where)
 {
-    if (schema.is_boolean())
-    {
+    if (schema.is_boolean()) {
         return;
     }
-    if (!schema.is_object())
-    {
+    if (!schema.is_object()) {
         throw ContractError(where + ": a schema is an object");
     }
-    for (const auto& member : schema.items())
-    {
+    for (const auto& member : schema.items()) {
         const std::string& keyword = member.key();
         const std::string place = where + "/" + keyword;
-        if (SharedKeywords().count(keyword) == 0)
-        {
+        if (SharedKeywords().count(keyword) == 0) {
             throw ContractError(place + ": draft 7 and 2020-12 do not share this keyword");
         }
         if (keyword == "properties" || keyword == "patternProperties" || keyword == "allOf" || keyword == "anyOf" ||
-            keyword == "oneOf")
-        {
+            keyword == "oneOf") {
             RefuseInEach(member.value(), place);
-        }
-        else if (keyword == "items" || keyword == "additionalProperties" || keyword == "not" || keyword == "if" ||
-                 keyword == "then" || keyword == "else" || keyword == "contains" || keyword == "propertyNames")
-        {
+        } else if (keyword == "items" || keyword == "additionalProperties" || keyword == "not" || keyword == "if" ||
+                   keyword == "then" || keyword == "else" || keyword == "contains" || keyword == "propertyNames") {
             RefuseOtherKeywords(member.value(), place);
         }
     }
@@ -216,12 +184,9 @@ void RefuseOtherKeywords(const Json& schema, const std::string& where)
 Schema SchemaOf(const Json& document, const std::string& where)
 {
     RefuseOtherKeywords(document, where);
-    try
-    {
+    try {
         return Schema(document);
-    }
-    catch (const std::exception& error)
-    {
+    } catch (const std::exception& error) {
         throw ContractError(where + ": " + error.what());
     }
 }
@@ -229,12 +194,11 @@ Schema SchemaOf(const Json& document, const std::string& where)
 std::vector<Json> ExamplesOf(const Json& content)
 {
     std::vector<Json> examples;
-    if (content.contains("example"))
-    {
+    if (content.contains("example")) {
         examples.push_back(content.at("example"));
     }
-    for (const auto& named : content.value("examples", Json::object()).items())
-    {
+    const Json several = content.value("examples", Json::object());
+    for (const auto& named : several.items()) {
         examples.push_back(named.value().at("value"));
     }
     return examples;
@@ -244,10 +208,8 @@ std::vector<Json> ExamplesOf(const Json& content)
 const Json& SuccessOf(const Json& reply, const std::string& where)
 {
     static const Json::json_pointer code("/properties/code/const");
-    for (const Json& envelope : reply.at("oneOf"))
-    {
-        if (envelope.contains(code) && envelope.at(code) == 1000)
-        {
+    for (const Json& envelope : reply.at("oneOf")) {
+        if (envelope.contains(code) && envelope.at(code) == 1000) {
             return envelope;
         }
     }
@@ -257,12 +219,9 @@ const Json& SuccessOf(const Json& reply, const std::string& where)
 std::vector<QueryParameter> QueryOf(const Json& path, const Json& operation, const std::string& where)
 {
     std::vector<QueryParameter> query;
-    for (const Json* holder : {&path, &operation})
-    {
-        for (const Json& parameter : holder->value("parameters", Json::array()))
-        {
-            if (parameter.at("in") == "query")
-            {
+    for (const Json* holder : {&path, &operation}) {
+        for (const Json& parameter : holder->value("parameters", Json::array())) {
+            if (parameter.at("in") == "query") {
                 query.push_back(QueryParameter{parameter.at("name"), parameter.value("required", false),
                                                SchemaOf(parameter.at("schema"), where + "/parameters")});
             }
@@ -278,8 +237,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     const Json& described = path.at(method);
     std::optional<Schema> body;
     std::vector<Json> bodyExamples;
-    if (described.contains("requestBody"))
-    {
+    if (described.contains("requestBody")) {
         const Json& content = described.at("requestBody").at(jsonContent);
         body = SchemaOf(content.at("schema"), where + "/requestBody");
         bodyExamples = ExamplesOf(content);
@@ -310,19 +268,14 @@ bool IsPlaceholder(const std::string& segment)
 std::optional<PathValues> ValuesOf(const std::string& template_, const std::vector<std::string>& segments)
 {
     const std::vector<std::string> wanted = Split(template_, '/');
-    if (wanted.size() != segments.size())
-    {
+    if (wanted.size() != segments.size()) {
         return std::nullopt;
     }
     PathValues values;
-    for (std::size_t i = 0; i < wanted.size(); ++i)
-    {
-        if (IsPlaceholder(wanted[i]))
-        {
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (IsPlaceholder(wanted[i])) {
             values[wanted[i].substr(1, wanted[i].size() - 2)] = PercentDecode(segments[i], false);
-        }
-        else if (wanted[i] != PercentDecode(segments[i], false))
-        {
+        } else if (wanted[i] != PercentDecode(segments[i], false)) {
             return std::nullopt;
         }
     }
@@ -335,44 +288,33 @@ Contract Contract::Load(const std::filesystem::path& folder)
 {
     Files files;
     std::error_code fault;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, fault))
-    {
-        if (entry.path().extension() == ".yaml")
-        {
+    for (const auto& entry : std::filesystem::directory_iterator(folder, fault)) {
+        if (entry.path().extension() == ".yaml") {
             files.read(entry.path());
         }
     }
     Contract contract;
     std::set<std::string> known;
-    for (const auto& [file, document] : files.documents())
-    {
+    for (const auto& [file, document] : files.documents()) {
         const Json paths = files.resolved(document.value("paths", Json::object()), file, "/paths");
-        for (const auto& path : paths.items())
-        {
-            for (const char* method : kMethods)
-            {
-                if (!path.value().contains(method))
-                {
+        for (const auto& path : paths.items()) {
+            for (const char* method : kMethods) {
+                if (!path.value().contains(method)) {
                     continue;
                 }
                 const std::string where = file + ": " + path.key() + "/" + method;
-                try
-                {
+                try {
                     contract.m_operations.push_back(OperationOf(path.key(), method, path.value(), where));
-                }
-                catch (const Json::exception& error)
-                {
+                } catch (const Json::exception& error) {
                     throw ContractError(where + ": " + error.what());
                 }
-                if (!known.insert(contract.m_operations.back().id).second)
-                {
+                if (!known.insert(contract.m_operations.back().id).second) {
                     throw ContractError(where + ": operation '" + contract.m_operations.back().id + "' is told twice");
                 }
             }
         }
     }
-    if (contract.m_operations.empty())
-    {
+    if (contract.m_operations.empty()) {
         throw ContractError("no operation in the contract folder " + folder.string());
     }
     return contract;
@@ -382,8 +324,7 @@ const Operation& Contract::operation(const std::string& id) const
 {
     const auto found = std::find_if(m_operations.begin(), m_operations.end(),
                                     [&](const Operation& operation) { return operation.id == id; });
-    if (found == m_operations.end())
-    {
+    if (found == m_operations.end()) {
         throw ContractError("the contract has no operation " + id);
     }
     return *found;
@@ -394,21 +335,17 @@ Contract::Match Contract::find(const std::string& method, const std::string& pat
     const std::vector<std::string> segments = Split(path, '/');
     Match best;
     std::string bestPath;
-    for (const Operation& operation : m_operations)
-    {
+    for (const Operation& operation : m_operations) {
         std::optional<PathValues> values = ValuesOf(operation.path, segments);
-        if (!values)
-        {
+        if (!values) {
             continue;
         }
         // '{' sorts behind every letter, so of two templates that fit the more literal one is the smaller.
-        if (!best.pathKnown || operation.path < bestPath)
-        {
+        if (!best.pathKnown || operation.path < bestPath) {
             best = Match{true, nullptr, *values};
             bestPath = operation.path;
         }
-        if (operation.path == bestPath && operation.method == method)
-        {
+        if (operation.path == bestPath && operation.method == method) {
             best.operation = &operation;
         }
     }

@@ -6,13 +6,10 @@
 #include <array>
 #include <climits>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
-struct KindName
-{
+struct KindName {
     Fault::Kind kind;
     const char* name;
 };
@@ -34,8 +31,7 @@ Fault::Kind KindOf(const std::string& name)
 {
     const auto* found =
         std::find_if(kKinds.begin(), kKinds.end(), [&](const KindName& entry) { return name == entry.name; });
-    if (found == kKinds.end())
-    {
+    if (found == kKinds.end()) {
         throw std::invalid_argument("kind: unknown '" + name + "'");
     }
     return found->kind;
@@ -43,8 +39,7 @@ Fault::Kind KindOf(const std::string& name)
 
 int NumberIn(const Json& value, const std::string& name, int least, int most)
 {
-    if (!value.is_number_integer() || value < least || value > most)
-    {
+    if (!value.is_number_integer() || value < least || value > most) {
         throw std::invalid_argument(name + ": expected a number from " + std::to_string(least) + " to " +
                                     std::to_string(most));
     }
@@ -53,8 +48,7 @@ int NumberIn(const Json& value, const std::string& name, int least, int most)
 
 std::string TextIn(const Json& value, const std::string& name)
 {
-    if (!value.is_string())
-    {
+    if (!value.is_string()) {
         throw std::invalid_argument(name + ": expected a text");
     }
     return value;
@@ -62,51 +56,29 @@ std::string TextIn(const Json& value, const std::string& name)
 
 void SetMember(Fault& fault, const std::string& name, const Json& value)
 {
-    if (name == "path")
-    {
+    if (name == "path") {
         fault.path = TextIn(value, name);
-    }
-    else if (name == "kind")
-    {
+    } else if (name == "kind") {
         fault.kind = KindOf(TextIn(value, name));
-    }
-    else if (name == "times")
-    {
+    } else if (name == "times") {
         fault.times = NumberIn(value, name, 0, INT_MAX);
-    }
-    else if (name == "delayMs")
-    {
+    } else if (name == "delayMs") {
         fault.delay = std::chrono::milliseconds(NumberIn(value, name, 0, kDayMilliseconds));
-    }
-    else if (name == "status")
-    {
+    } else if (name == "status") {
         fault.status = NumberIn(value, name, 200, 599);
-    }
-    else if (name == "headers" && value.is_object())
-    {
-        for (const auto& header : value.items())
-        {
+    } else if (name == "headers" && value.is_object()) {
+        for (const auto& header : value.items()) {
             fault.headers.emplace_back(header.key(), TextIn(header.value(), "headers"));
         }
-    }
-    else if (name == "code")
-    {
+    } else if (name == "code") {
         fault.code = NumberIn(value, name, INT_MIN, INT_MAX);
-    }
-    else if (name == "desc")
-    {
+    } else if (name == "desc") {
         fault.desc = TextIn(value, name);
-    }
-    else if (name == "body")
-    {
+    } else if (name == "body") {
         fault.body = TextIn(value, name);
-    }
-    else if (name == "size")
-    {
+    } else if (name == "size") {
         fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestBody));
-    }
-    else
-    {
+    } else {
         throw std::invalid_argument(name + ": not expected");
     }
 }
@@ -115,13 +87,11 @@ void SetMember(Fault& fault, const std::string& name, const Json& value)
 
 Fault Fault::FromJson(const Json& json)
 {
-    if (!json.is_object() || !json.contains("kind"))
-    {
+    if (!json.is_object() || !json.contains("kind")) {
         throw std::invalid_argument("expected an object with \"kind\"");
     }
     Fault fault;
-    for (const auto& member : json.items())
-    {
+    for (const auto& member : json.items()) {
         SetMember(fault, member.key(), member.value());
     }
     return fault;
@@ -135,8 +105,7 @@ Json Fault::toJson() const
               {"status", status}, {"code", code},        {"desc", desc},   {"body", body},
               {"size", size}};
     json["headers"] = Json::object();
-    for (const auto& [name, value] : headers)
-    {
+    for (const auto& [name, value] : headers) {
         json["headers"][name] = value;
     }
     return json;
@@ -165,13 +134,11 @@ std::optional<Fault> Faults::take(const std::string& target)
     const std::lock_guard lock(m_mutex);
     const auto found = std::find_if(m_faults.begin(), m_faults.end(),
                                     [&](const Fault& fault) { return StartsWith(target, fault.path); });
-    if (found == m_faults.end())
-    {
+    if (found == m_faults.end()) {
         return std::nullopt;
     }
     Fault fault = *found;
-    if (found->times > 0 && --found->times == 0)
-    {
+    if (found->times > 0 && --found->times == 0) {
         m_faults.erase(found);
     }
     return fault;

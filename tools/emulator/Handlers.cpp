@@ -9,10 +9,8 @@
 #include <iterator>
 #include <utility>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 std::string Lower(std::string text)
 {
@@ -47,8 +45,7 @@ std::string NewIdentifier(const Call& call, const Collection& collection)
 {
     Json& last = call.state[Place("/lastIdentifiers")][collection.list.to_string()];
     std::uint64_t highest = last.is_null() ? 0 : last.get<std::uint64_t>();
-    for (const Json& element : call.state.at(collection.list))
-    {
+    for (const Json& element : call.state.at(collection.list)) {
         highest = std::max(highest, LeadingNumber(element.at(collection.identifier)));
     }
     last = highest + 1;
@@ -58,10 +55,8 @@ std::string NewIdentifier(const Call& call, const Collection& collection)
 Json Filtered(const Json& list, const std::vector<Filter>& filters, const Call& call)
 {
     Json kept = Json::array();
-    for (const Json& element : list)
-    {
-        if (std::all_of(filters.begin(), filters.end(), [&](const Filter& passes) { return passes(element, call); }))
-        {
+    for (const Json& element : list) {
+        if (std::all_of(filters.begin(), filters.end(), [&](const Filter& passes) { return passes(element, call); })) {
             kept.push_back(element);
         }
     }
@@ -74,8 +69,7 @@ std::size_t CountOf(const Call& call, const std::string& name)
     const std::string text = ValueOf(call, name);
     const bool isCount =
         !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c); });
-    if (!isCount || text.size() > 9)
-    {
+    if (!isCount || text.size() > 9) {
         throw Refusal(code::InvalidParameter, name + ": expected a count, got '" + text + "'");
     }
     return std::stoul(text);
@@ -122,8 +116,7 @@ Json& Collection::find(Json& state, const std::string& id) const
 {
     Json& elements = state.at(list);
     const auto found = PositionOf(elements, identifier, id);
-    if (found == elements.end())
-    {
+    if (found == elements.end()) {
         RefuseUnknown(id);
     }
     return *found;
@@ -147,10 +140,8 @@ const std::string& PathValue(const Call& call)
 
 std::string ValueOf(const Call& call, const std::string& name)
 {
-    for (const Json* values : {&call.query, &call.body})
-    {
-        if (values->is_object() && values->contains(name))
-        {
+    for (const Json* values : {&call.query, &call.body}) {
+        if (values->is_object() && values->contains(name)) {
             const Json& value = values->at(name);
             return value.is_string() ? value.get<std::string>() : value.dump();
         }
@@ -174,8 +165,7 @@ Json BodyAsRead(const Call& call, const std::string& reader)
 {
     const Operation* operation =
         reader.empty() ? call.contract.readerOf(call.operation) : &call.contract.operation(reader);
-    if (operation == nullptr)
-    {
+    if (operation == nullptr) {
         throw ContractError("no operation reads what " + call.operation.id + " writes");
     }
     return ConvertTo(operation->dataSchema, call.body);
@@ -277,11 +267,9 @@ Handler Delete(const Collection& collection)
     return [collection](const Call& call) {
         Json& list = call.state.at(collection.list);
         Json left = list;
-        for (const std::string& id : Listed(ValueOf(call, "ids")))
-        {
+        for (const std::string& id : Listed(ValueOf(call, "ids"))) {
             const auto position = PositionOf(left, collection.identifier, id);
-            if (position == left.end())
-            {
+            if (position == left.end()) {
                 RefuseUnknown(id);
             }
             left.erase(position);
@@ -313,8 +301,7 @@ const HandlerTable& AllHandlers()
     static const HandlerTable all = [] {
         HandlerTable table;
         for (HandlerTable family : {families::Brms(), families::Dms(), families::Iams(), families::Ipms(),
-                                    families::Obms(), families::Omms()})
-        {
+                                    families::Obms(), families::Omms()}) {
             table.merge(family);
         }
         return table;

@@ -16,10 +16,8 @@
 #include <stdexcept>
 #include <thread>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 constexpr int kIdleMilliseconds = 10 * 60 * 1000;
 constexpr time_t kTransferSeconds = 120;
@@ -27,15 +25,13 @@ constexpr std::size_t kReadSize = 16 * 1024;
 constexpr const char* kContentType = "application/json;charset=UTF-8";
 
 /// One accepted connection; the HTTP engine reads and writes through it.
-class Connection final : public httplib::Stream, public Peer
-{
+class Connection final : public httplib::Stream, public Peer {
 public:
     Connection(int socket, std::size_t number, SSL_CTX* tls) : m_socket(socket), m_number(number)
     {
         const int on = 1;
         ::setsockopt(m_socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-        if (tls != nullptr)
-        {
+        if (tls != nullptr) {
             m_tls.reset(SSL_new(tls));
             SSL_set_fd(m_tls.get(), m_socket);
         }
@@ -46,8 +42,7 @@ public:
     Connection& operator=(Connection&&) = delete;
     ~Connection() override
     {
-        if (m_tls && !m_aborted)
-        {
+        if (m_tls && !m_aborted) {
             SSL_shutdown(m_tls.get());
         }
         m_tls.reset();
@@ -61,17 +56,14 @@ public:
     {
         m_input.erase(0, m_used);
         m_used = 0;
-        while (m_input.find("\r\n") == std::string::npos)
-        {
+        while (m_input.find("\r\n") == std::string::npos) {
             const bool atStart = m_input.empty();
             pollfd idle{m_socket, POLLIN, 0};
             const bool pending = m_tls && SSL_pending(m_tls.get()) > 0;
-            if (atStart && !pending && ::poll(&idle, 1, kIdleMilliseconds) <= 0)
-            {
+            if (atStart && !pending && ::poll(&idle, 1, kIdleMilliseconds) <= 0) {
                 return false;
             }
-            if (m_input.size() > CPPHTTPLIB_REQUEST_URI_MAX_LENGTH || !fill())
-            {
+            if (m_input.size() > CPPHTTPLIB_REQUEST_URI_MAX_LENGTH || !fill()) {
                 return !m_input.empty();
             }
         }
@@ -97,15 +89,13 @@ public:
 
     ssize_t read(char* data, size_t size) override
     {
-        if (m_input.empty() && !fill())
-        {
+        if (m_input.empty() && !fill()) {
             return m_aborted ? -1 : 0;
         }
         const std::size_t count = std::min(size, m_input.size() - m_used);
         std::copy_n(m_input.data() + m_used, count, data);
         m_used += count;
-        if (m_used == m_input.size())
-        {
+        if (m_used == m_input.size()) {
             m_input.clear();
             m_used = 0;
         }
@@ -114,11 +104,9 @@ public:
 
     ssize_t write(const char* data, size_t size) override
     {
-        for (std::size_t done = 0; done < size;)
-        {
+        for (std::size_t done = 0; done < size;) {
             const ssize_t count = writeSome(data + done, size - done);
-            if (count <= 0)
-            {
+            if (count <= 0) {
                 m_aborted = true;
                 return -1;
             }
@@ -132,8 +120,7 @@ public:
     [[nodiscard]] socket_t socket() const override { return m_socket; }
 
 private:
-    struct FreeTls
-    {
+    struct FreeTls {
         void operator()(SSL* tls) const { SSL_free(tls); }
     };
 
@@ -142,8 +129,7 @@ private:
         std::array<char, kReadSize> buffer{};
         const ssize_t count = m_tls ? SSL_read(m_tls.get(), buffer.data(), static_cast<int>(buffer.size()))
                                     : ::recv(m_socket, buffer.data(), buffer.size(), 0);
-        if (count > 0)
-        {
+        if (count > 0) {
             m_input.append(buffer.data(), static_cast<std::size_t>(count));
         }
         return count > 0;
@@ -164,13 +150,11 @@ private:
         const std::size_t last = std::max(begin, std::min(m_input.rfind(' ', end), end));
         m_target = begin < last ? m_input.substr(begin + 1, last - begin - 1) : std::string();
         const std::size_t query = m_target.find('?');
-        if (query == std::string::npos)
-        {
+        if (query == std::string::npos) {
             return;
         }
         std::string encoded = m_target.substr(0, query + 1);
-        for (const char c : m_target.substr(query + 1))
-        {
+        for (const char c : m_target.substr(query + 1)) {
             encoded += c == '?' ? "%3F" : std::string(1, c);
         }
         m_input.replace(begin + 1, m_target.size(), encoded);
@@ -192,8 +176,7 @@ private:
         auto* const name = reinterpret_cast<sockaddr*>(&address);
         if (nameOf(m_socket, name, &length) == 0 &&
             ::getnameinfo(name, length, host.data(), host.size(), service.data(), service.size(),
-                          NI_NUMERICHOST | NI_NUMERICSERV) == 0)
-        {
+                          NI_NUMERICHOST | NI_NUMERICSERV) == 0) {
             ip = host.data();
             port = std::stoi(service.data());
         }
@@ -209,15 +192,13 @@ private:
 };
 
 /// The connections that are open, so that stopping can end them.
-class Connections
-{
+class Connections {
 public:
     void add(Connection& connection)
     {
         const std::lock_guard lock(m_mutex);
         m_open.insert(&connection);
-        if (m_stopped)
-        {
+        if (m_stopped) {
             connection.abort();
         }
     }
@@ -230,8 +211,7 @@ public:
     {
         const std::lock_guard lock(m_mutex);
         m_stopped = true;
-        for (Connection* connection : m_open)
-        {
+        for (Connection* connection : m_open) {
             connection->abort();
         }
     }
@@ -243,8 +223,7 @@ private:
 };
 
 /// A thread for each connection: however many requests hang, the next one is served.
-class ConnectionThreads final : public httplib::TaskQueue
-{
+class ConnectionThreads final : public httplib::TaskQueue {
 public:
     explicit ConnectionThreads(std::function<void()> abortAll) : m_abortAll(std::move(abortAll)) {}
 
@@ -252,8 +231,7 @@ public:
     {
         m_workers.remove_if([](Worker& worker) {
             const bool done = worker.done;
-            if (done)
-            {
+            if (done) {
                 worker.thread.join();
             }
             return done;
@@ -268,16 +246,14 @@ public:
     void shutdown() override
     {
         m_abortAll();
-        for (Worker& worker : m_workers)
-        {
+        for (Worker& worker : m_workers) {
             worker.thread.join();
         }
         m_workers.clear();
     }
 
 private:
-    struct Worker
-    {
+    struct Worker {
         std::thread thread;
         std::atomic<bool> done = false;
     };
@@ -292,8 +268,7 @@ bool CarriesBody(const std::string& method)
 }
 
 /// The HTTP engine on sockets of our own.
-class Engine final : public httplib::Server
-{
+class Engine final : public httplib::Server {
 public:
     Engine(HttpHandler handler, std::function<std::size_t()> nextConnection, SSL_CTX* tls)
         : m_handler(std::move(handler)), m_nextConnection(std::move(nextConnection)), m_tls(tls)
@@ -330,8 +305,7 @@ public:
 
 private:
     /// The exchange that a connection's thread works on.
-    struct Exchange
-    {
+    struct Exchange {
         Connection& connection;
         httplib::Headers headers;
         std::string body;
@@ -341,8 +315,7 @@ private:
     {
         Connection connection(socket, m_nextConnection(), m_tls);
         m_connections.add(connection);
-        if (connection.handshake())
-        {
+        if (connection.handshake()) {
             serve(connection);
         }
         m_connections.remove(connection);
@@ -352,8 +325,7 @@ private:
     void serve(Connection& connection)
     {
         bool open = true;
-        while (open && connection.awaitRequest())
-        {
+        while (open && connection.awaitRequest()) {
             Exchange exchange{connection, {}, {}};
             t_exchange = &exchange;
             bool closed = false;
@@ -370,19 +342,15 @@ private:
         exchange.headers = request.headers;
         request.headers.erase("Content-Type");
         request.headers.erase("Content-Encoding");
-        if (!request.has_header("Content-Length") && !request.has_header("Transfer-Encoding"))
-        {
+        if (!request.has_header("Content-Length") && !request.has_header("Transfer-Encoding")) {
             request.set_header("Content-Length", "0");
         }
-        if (!CarriesBody(request.method))
-        {
+        if (!CarriesBody(request.method)) {
             std::size_t left = request.get_header_value<std::uint64_t>("Content-Length");
             std::array<char, kReadSize> buffer{};
-            while (left > 0)
-            {
+            while (left > 0) {
                 const ssize_t count = exchange.connection.read(buffer.data(), std::min(left, buffer.size()));
-                if (count <= 0)
-                {
+                if (count <= 0) {
                     return;
                 }
                 exchange.body.append(buffer.data(), static_cast<std::size_t>(count));
@@ -406,12 +374,10 @@ private:
     static void send(HttpResponse&& plain, Connection& connection, httplib::Response& response)
     {
         response.status = plain.status;
-        for (const auto& [name, value] : plain.headers)
-        {
+        for (const auto& [name, value] : plain.headers) {
             response.set_header(name, value);
         }
-        switch (plain.ending)
-        {
+        switch (plain.ending) {
         case HttpResponse::Ending::Complete:
             response.body = std::move(plain.body);
             response.set_header("Content-Type", kContentType);
@@ -443,13 +409,11 @@ thread_local Engine::Exchange* Engine::t_exchange = nullptr;
 
 }  // namespace
 
-class HttpListener::Implementation
-{
+class HttpListener::Implementation {
 public:
     Implementation(HttpHandler handler, std::function<std::size_t()> nextConnection, std::shared_ptr<SSL_CTX> tls)
         : m_tls(std::move(tls)), m_engine(std::move(handler), std::move(nextConnection), m_tls.get())
-    {
-    }
+    {}
     Implementation(const Implementation&) = delete;
     Implementation& operator=(const Implementation&) = delete;
     Implementation(Implementation&&) = delete;
@@ -460,8 +424,7 @@ public:
     {
         const bool any = port == 0;
         m_port = any ? m_engine.bind_to_any_port(address) : port;
-        if (m_port <= 0 || (!any && !m_engine.bind_to_port(address, port)))
-        {
+        if (m_port <= 0 || (!any && !m_engine.bind_to_port(address, port))) {
             throw std::runtime_error("cannot listen on " + address + ":" + std::to_string(port));
         }
         m_engine.widenBacklog();
@@ -472,8 +435,7 @@ public:
 
     void stop()
     {
-        if (m_thread.joinable())
-        {
+        if (m_thread.joinable()) {
             m_engine.stop();
             m_thread.join();
         }
@@ -491,8 +453,7 @@ private:
 HttpListener::HttpListener(HttpHandler handler, std::function<std::size_t()> nextConnection,
                            std::shared_ptr<ssl_ctx_st> tls)
     : m_implementation(std::make_unique<Implementation>(std::move(handler), std::move(nextConnection), std::move(tls)))
-{
-}
+{}
 
 HttpListener::~HttpListener() = default;
 

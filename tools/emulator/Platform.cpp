@@ -7,10 +7,8 @@
 #include <strings.h>
 #include <utility>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 Json Envelope(int envelopeCode, const std::string& desc)
 {
@@ -37,8 +35,7 @@ Json TypedValue(const QueryParameter& parameter, const std::string& text)
 {
     Json value = ConvertTo(parameter.schema.document(), text);
     const std::string breach = parameter.schema.breach(value);
-    if (!breach.empty())
-    {
+    if (!breach.empty()) {
         throw Refusal(code::InvalidParameter, "query '" + parameter.name + "'" + breach + " in '" + text + "'");
     }
     return value;
@@ -47,24 +44,19 @@ Json TypedValue(const QueryParameter& parameter, const std::string& text)
 Json CheckedQuery(const Operation& operation, const std::string& target)
 {
     Json query = Json::object();
-    for (const auto& [name, text] : QueryOf(target))
-    {
+    for (const auto& [name, text] : QueryOf(target)) {
         const auto parameter = std::find_if(operation.query.begin(), operation.query.end(),
                                             [&name = name](const QueryParameter& known) { return known.name == name; });
-        if (parameter == operation.query.end())
-        {
+        if (parameter == operation.query.end()) {
             throw Refusal(code::InvalidParameter, "query '" + name + "': not expected");
         }
-        if (query.contains(name))
-        {
+        if (query.contains(name)) {
             throw Refusal(code::InvalidParameter, "query '" + name + "': there twice");
         }
         query[name] = TypedValue(*parameter, text);
     }
-    for (const QueryParameter& parameter : operation.query)
-    {
-        if (parameter.required && !query.contains(parameter.name))
-        {
+    for (const QueryParameter& parameter : operation.query) {
+        if (parameter.required && !query.contains(parameter.name)) {
             throw Refusal(code::InvalidParameter, "query '" + parameter.name + "': missing");
         }
     }
@@ -73,22 +65,18 @@ Json CheckedQuery(const Operation& operation, const std::string& target)
 
 Json CheckedBody(const Operation& operation, const std::string& text)
 {
-    if (!operation.body)
-    {
-        if (!text.empty())
-        {
+    if (!operation.body) {
+        if (!text.empty()) {
             throw Refusal(code::InvalidParameter, "body: not expected");
         }
         return {};
     }
     Json body = Json::parse(text, nullptr, false);
-    if (body.is_discarded())
-    {
+    if (body.is_discarded()) {
         throw Refusal(code::BodyIsNotJson, text.empty() ? "body: missing" : "body: not JSON");
     }
     const std::string breach = operation.body->breach(body);
-    if (!breach.empty())
-    {
+    if (!breach.empty()) {
         throw Refusal(code::InvalidParameter, breach);
     }
     return body;
@@ -98,25 +86,18 @@ Json CheckedBody(const Operation& operation, const std::string& text)
 
 Platform::Platform(Contract contract, Json seeds, std::string token)
     : m_contract(std::move(contract)), m_seeds(std::move(seeds)), m_token(std::move(token)), m_state(m_seeds)
-{
-}
+{}
 
 HttpResponse Platform::answer(const HttpRequest& request)
 {
-    if (!HasToken(request, m_token))
-    {
+    if (!HasToken(request, m_token)) {
         return ResponseWith(401, Envelope(401, "X-Subject-Token is missing or wrong"));
     }
-    try
-    {
+    try {
         return ResponseWith(200, envelopeFor(request));
-    }
-    catch (const Refusal& refusal)
-    {
+    } catch (const Refusal& refusal) {
         return ResponseWith(200, Envelope(refusal.code(), refusal.what()));
-    }
-    catch (const std::exception& error)
-    {
+    } catch (const std::exception& error) {
         return ResponseWith(200, Envelope(code::ContractBroken, error.what()));
     }
 }
@@ -125,12 +106,10 @@ Json Platform::envelopeFor(const HttpRequest& request)
 {
     const std::string path = PathOf(request.target);
     const Contract::Match match = m_contract.find(request.method, path);
-    if (!match.pathKnown)
-    {
+    if (!match.pathKnown) {
         throw Refusal(code::UnknownPath, "no service at " + path);
     }
-    if (match.operation == nullptr)
-    {
+    if (match.operation == nullptr) {
         throw Refusal(code::WrongMethod, request.method + " is not allowed for " + path);
     }
     const Operation& operation = *match.operation;
@@ -139,8 +118,7 @@ Json Platform::envelopeFor(const HttpRequest& request)
     Json envelope = Envelope(code::Success, "Success");
     envelope["data"] = ProjectOn(operation.dataSchema, carryOut(operation, match.values, query, body));
     const std::string breach = operation.success.breach(envelope);
-    if (!breach.empty())
-    {
+    if (!breach.empty()) {
         throw Refusal(code::ContractBroken, "answer of " + operation.id + ": " + breach);
     }
     return envelope;
@@ -149,8 +127,7 @@ Json Platform::envelopeFor(const HttpRequest& request)
 Json Platform::carryOut(const Operation& operation, const PathValues& path, const Json& query, const Json& body)
 {
     const auto handler = AllHandlers().find(operation.id);
-    if (handler == AllHandlers().end())
-    {
+    if (handler == AllHandlers().end()) {
         throw Refusal(code::ContractBroken, operation.id + " is in the contract but has no handler");
     }
     const std::lock_guard lock(m_mutex);

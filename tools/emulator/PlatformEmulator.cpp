@@ -10,10 +10,8 @@
 #include <mutex>
 #include <utility>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 constexpr const char* kControlPath = "/emulator/";
 
@@ -34,8 +32,7 @@ template <typename List>
 Json ListOf(const List& list)
 {
     Json json = Json::array();
-    for (const auto& element : list)
-    {
+    for (const auto& element : list) {
         json.push_back(element.toJson());
     }
     return json;
@@ -45,8 +42,7 @@ Json ListOf(const List& list)
 std::string Enlarged(const std::string& body, std::size_t size)
 {
     Json envelope = Json::parse(body);
-    if (size > body.size())
-    {
+    if (size > body.size()) {
         envelope["desc"] = envelope.at("desc").get<std::string>() + std::string(size - body.size(), 'x');
     }
     return envelope.dump();
@@ -55,8 +51,7 @@ std::string Enlarged(const std::string& body, std::size_t size)
 HttpResponse Replacement(const Fault& fault)
 {
     HttpResponse response;
-    switch (fault.kind)
-    {
+    switch (fault.kind) {
     case Fault::Kind::Status:
         response.status = fault.status;
         response.headers = fault.headers;
@@ -89,8 +84,7 @@ bool SpoilsTrueAnswer(Fault::Kind kind)
 
 void Spoil(HttpResponse& response, const Fault& fault)
 {
-    switch (fault.kind)
-    {
+    switch (fault.kind) {
     case Fault::Kind::Cut:
         response.body.resize(response.body.size() / 2);
         break;
@@ -115,8 +109,7 @@ std::optional<int> EnvelopeCodeOf(const HttpResponse& response)
 
 std::string Masked(std::string line, const std::string& secret)
 {
-    for (std::size_t at = line.find(secret); !secret.empty() && at != std::string::npos; at = line.find(secret, at))
-    {
+    for (std::size_t at = line.find(secret); !secret.empty() && at != std::string::npos; at = line.find(secret, at)) {
         line.replace(at, secret.size(), "***");
     }
     return line;
@@ -131,15 +124,13 @@ std::filesystem::path DefaultShareFolder()
     return program.parent_path().parent_path() / "share" / "apimodule";
 }
 
-class PlatformEmulator::Private
-{
+class PlatformEmulator::Private {
 public:
     explicit Private(Options options)
         : m_options(std::move(options)),
           m_platform(Contract::Load(m_options.contract), LoadSeeds(m_options.seed, m_options.scale), m_options.token),
           m_http(handler(), counter()), m_https(handler(), counter(), MakeServerTls())
-    {
-    }
+    {}
 
     void start()
     {
@@ -182,8 +173,7 @@ private:
         const bool answered = response.ending != HttpResponse::Ending::CloseBefore;
         const std::optional<int> code = EnvelopeCodeOf(response);
         m_log.answered(number, answered ? response.status : 0, code);
-        if (m_options.verbose)
-        {
+        if (m_options.verbose) {
             const std::string line = request.method + " " + request.target + " -> " +
                                      (answered ? std::to_string(response.status) : "no answer") +
                                      (code ? " " + std::to_string(*code) : "") + ", connection " +
@@ -197,20 +187,16 @@ private:
     HttpResponse answer(const HttpRequest& request, Peer& peer)
     {
         const std::optional<Fault> fault = m_faults.take(request.target);
-        if (!fault)
-        {
+        if (!fault) {
             return m_platform.answer(request);
         }
-        if (fault->delay.count() > 0 && peer.waitGone(fault->delay))
-        {
+        if (fault->delay.count() > 0 && peer.waitGone(fault->delay)) {
             return gone();
         }
-        if (fault->kind == Fault::Kind::Silent)
-        {
+        if (fault->kind == Fault::Kind::Silent) {
             peer.waitGone();
         }
-        if (!SpoilsTrueAnswer(fault->kind))
-        {
+        if (!SpoilsTrueAnswer(fault->kind)) {
             return Replacement(*fault);
         }
         HttpResponse response = m_platform.answer(request);
@@ -227,8 +213,7 @@ private:
 
     HttpResponse control(const HttpRequest& request)
     {
-        if (!m_options.controlPath)
-        {
+        if (!m_options.controlPath) {
             return PlainError(403, "the control path is switched off");
         }
         const std::string path = PathOf(request.target).substr(std::string(kControlPath).size());
@@ -246,8 +231,7 @@ private:
                                      return Plain(200, Json{{"connections", m_connections.load()}});
                                  }}}}};
         const auto route = routes.find(path);
-        if (route == routes.end())
-        {
+        if (route == routes.end()) {
             return PlainError(404, "no such control path");
         }
         const auto action = route->second.find(request.method);
@@ -257,19 +241,15 @@ private:
     HttpResponse addFault(const std::string& text)
     {
         const Json json = Json::parse(text, nullptr, false);
-        if (json.is_discarded())
-        {
+        if (json.is_discarded()) {
             return PlainError(400, "body: not JSON");
         }
-        try
-        {
+        try {
             Fault fault = Fault::FromJson(json);
             const Json added = fault.toJson();
             m_faults.add(std::move(fault));
             return Plain(201, added);
-        }
-        catch (const std::invalid_argument& error)
-        {
+        } catch (const std::invalid_argument& error) {
             return PlainError(400, error.what());
         }
     }

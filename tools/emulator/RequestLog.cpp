@@ -5,10 +5,8 @@
 #include <algorithm>
 #include <strings.h>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 constexpr std::size_t kMostRequests = 10'000;
 constexpr std::size_t kMostBodyBytes = 64UL * 1024 * 1024;
@@ -16,8 +14,7 @@ constexpr std::size_t kMostBodyBytes = 64UL * 1024 * 1024;
 Json PairsOf(const std::vector<std::pair<std::string, std::string>>& pairs)
 {
     Json json = Json::array();
-    for (const auto& [name, value] : pairs)
-    {
+    for (const auto& [name, value] : pairs) {
         json.push_back(Json{{"name", name}, {"value", value}});
     }
     return json;
@@ -72,8 +69,7 @@ void RequestLog::answered(std::size_t number, int status, std::optional<int> cod
     const std::lock_guard lock(m_mutex);
     const auto found = std::find_if(m_requests.rbegin(), m_requests.rend(),
                                     [&](const RecordedRequest& request) { return request.number == number; });
-    if (found != m_requests.rend())
-    {
+    if (found != m_requests.rend()) {
         found->status = status;
         found->code = code;
     }
@@ -100,8 +96,7 @@ bool RequestLog::waitFor(std::size_t count, std::chrono::milliseconds time) cons
 
 void RequestLog::forgetOldest()
 {
-    while (m_requests.size() > kMostRequests || (m_requests.size() > 1 && m_bodyBytes > kMostBodyBytes))
-    {
+    while (m_requests.size() > kMostRequests || (m_requests.size() > 1 && m_bodyBytes > kMostBodyBytes)) {
         m_bodyBytes -= m_requests.front().body.size();
         m_requests.pop_front();
     }
@@ -111,14 +106,11 @@ std::vector<std::pair<std::string, std::string>> QueryOf(const std::string& targ
 {
     std::vector<std::pair<std::string, std::string>> query;
     const std::size_t mark = target.find('?');
-    if (mark == std::string::npos)
-    {
+    if (mark == std::string::npos) {
         return query;
     }
-    for (const std::string& pair : Split(std::string_view(target).substr(mark + 1), '&'))
-    {
-        if (!pair.empty())
-        {
+    for (const std::string& pair : Split(std::string_view(target).substr(mark + 1), '&')) {
+        if (!pair.empty()) {
             const std::size_t equals = std::min(pair.find('='), pair.size());
             const std::size_t value = std::min(equals + 1, pair.size());
             query.emplace_back(PercentDecode(std::string_view(pair).substr(0, equals), true),

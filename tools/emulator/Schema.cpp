@@ -9,10 +9,8 @@
 #include <valijson/validation_results.hpp>
 #include <valijson/validator.hpp>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 using Adapter = valijson::adapters::NlohmannJsonAdapter;
 using Error = valijson::ValidationResults::Error;
@@ -21,8 +19,7 @@ using Error = valijson::ValidationResults::Error;
 Json::json_pointer PlaceOf(const Error& error)
 {
     Json::json_pointer place;
-    for (std::size_t i = 1; i < error.context.size(); ++i)
-    {
+    for (std::size_t i = 1; i < error.context.size(); ++i) {
         const std::string& step = error.context[i];
         place /= step.substr(1, step.size() - 2);
     }
@@ -32,23 +29,16 @@ Json::json_pointer PlaceOf(const Error& error)
 const Json* SchemaAt(const Json& schema, Json::json_pointer place)
 {
     std::vector<std::string> steps;
-    for (; !place.empty(); place.pop_back())
-    {
+    for (; !place.empty(); place.pop_back()) {
         steps.push_back(place.back());
     }
     const Json* node = &schema;
-    for (auto step = steps.rbegin(); step != steps.rend(); ++step)
-    {
-        if (node->contains("properties") && node->at("properties").contains(*step))
-        {
+    for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
+        if (node->contains("properties") && node->at("properties").contains(*step)) {
             node = &node->at("properties").at(*step);
-        }
-        else if (node->contains("items"))
-        {
+        } else if (node->contains("items")) {
             node = &node->at("items");
-        }
-        else
-        {
+        } else {
             return nullptr;
         }
     }
@@ -57,8 +47,7 @@ const Json* SchemaAt(const Json& schema, Json::json_pointer place)
 
 bool HasType(const Json& value, const std::string& type)
 {
-    if (type == "integer")
-    {
+    if (type == "integer") {
         return value.is_number_integer();
     }
     return type == value.type_name();
@@ -70,32 +59,25 @@ std::string Describe(const Json& schema, const Json& root, const Error& error)
     const Json::json_pointer place = PlaceOf(error);
     const Json* wanted = SchemaAt(schema, place);
     const Json& value = root.at(place);
-    if (wanted != nullptr && wanted->contains("type") && wanted->at("type").is_string())
-    {
+    if (wanted != nullptr && wanted->contains("type") && wanted->at("type").is_string()) {
         const std::string type = wanted->at("type");
-        if (!HasType(value, type))
-        {
+        if (!HasType(value, type)) {
             return place.to_string() + ": expected " + type + ", got " + value.type_name();
         }
     }
-    if (wanted != nullptr && wanted->contains("enum") && value.is_primitive())
-    {
+    if (wanted != nullptr && wanted->contains("enum") && value.is_primitive()) {
         return place.to_string() + ": expected one of " + wanted->at("enum").dump() + ", got " + value.dump();
     }
-    if (wanted != nullptr && value.is_object())
-    {
-        for (const Json& key : wanted->value("required", Json::array()))
-        {
-            if (!value.contains(key.get<std::string>()))
-            {
+    if (wanted != nullptr && value.is_object()) {
+        for (const Json& key : wanted->value("required", Json::array())) {
+            if (!value.contains(key.get<std::string>())) {
                 return (place / key.get<std::string>()).to_string() + ": missing";
             }
         }
         const Json properties = wanted->value("properties", Json::object());
-        for (const auto& member : value.items())
-        {
-            if (wanted->value("additionalProperties", Json(true)) == Json(false) && !properties.contains(member.key()))
-            {
+        for (const auto& member : value.items()) {
+            if (wanted->value("additionalProperties", Json(true)) == Json(false) &&
+                !properties.contains(member.key())) {
                 return (place / member.key()).to_string() + ": not expected";
             }
         }
@@ -112,25 +94,20 @@ std::optional<std::int64_t> IntegerOf(const std::string& text)
 
 Json ConvertScalar(const std::string& type, const Json& value)
 {
-    if (type == "boolean" && (value == "1" || value == 1 || value == "true"))
-    {
+    if (type == "boolean" && (value == "1" || value == 1 || value == "true")) {
         return true;
     }
-    if (type == "boolean" && (value == "0" || value == 0 || value == "false"))
-    {
+    if (type == "boolean" && (value == "0" || value == 0 || value == "false")) {
         return false;
     }
-    if (type == "integer" && value.is_boolean())
-    {
+    if (type == "integer" && value.is_boolean()) {
         return value.get<bool>() ? 1 : 0;
     }
-    if ((type == "integer" || type == "number") && value.is_string())
-    {
+    if ((type == "integer" || type == "number") && value.is_string()) {
         const std::optional<std::int64_t> number = IntegerOf(value);
         return number ? Json(*number) : value;
     }
-    if (type == "string" && value.is_number())
-    {
+    if (type == "string" && value.is_number()) {
         return value.dump();
     }
     return value;
@@ -138,8 +115,7 @@ Json ConvertScalar(const std::string& type, const Json& value)
 
 }  // namespace
 
-struct Schema::Compiled
-{
+struct Schema::Compiled {
     valijson::Schema schema;
 };
 
@@ -156,15 +132,12 @@ std::string Schema::breach(const Json& value) const
 {
     valijson::Validator validator(valijson::Validator::kStrongTypes);
     valijson::ValidationResults results;
-    if (validator.validate(m_compiled->schema, Adapter(value), &results))
-    {
+    if (validator.validate(m_compiled->schema, Adapter(value), &results)) {
         return {};
     }
     const Error* deepest = nullptr;
-    for (const Error& error : results)
-    {
-        if (deepest == nullptr || error.context.size() > deepest->context.size())
-        {
+    for (const Error& error : results) {
+        if (deepest == nullptr || error.context.size() > deepest->context.size()) {
             deepest = &error;
         }
     }
@@ -173,23 +146,18 @@ std::string Schema::breach(const Json& value) const
 
 Json ConvertTo(const Json& schema, const Json& value)
 {
-    if (value.is_object() && schema.contains("properties"))
-    {
+    if (value.is_object() && schema.contains("properties")) {
         Json converted = value;
-        for (const auto& member : schema.at("properties").items())
-        {
-            if (converted.contains(member.key()))
-            {
+        for (const auto& member : schema.at("properties").items()) {
+            if (converted.contains(member.key())) {
                 converted[member.key()] = ConvertTo(member.value(), converted[member.key()]);
             }
         }
         return converted;
     }
-    if (value.is_array() && schema.contains("items"))
-    {
+    if (value.is_array() && schema.contains("items")) {
         Json converted = Json::array();
-        for (const Json& element : value)
-        {
+        for (const Json& element : value) {
             converted.push_back(ConvertTo(schema.at("items"), element));
         }
         return converted;
@@ -201,29 +169,22 @@ Json ConvertTo(const Json& schema, const Json& value)
 Json ProjectOn(const Json& schema, const Json& value)
 {
     static const Json kNone = Json::object();
-    if (value.is_object())
-    {
+    if (value.is_object()) {
         const bool isClosed = schema.value("additionalProperties", Json(true)) == Json(false);
         const Json& properties = schema.contains("properties") ? schema.at("properties") : kNone;
         Json kept = Json::object();
-        for (const auto& member : value.items())
-        {
-            if (properties.contains(member.key()))
-            {
+        for (const auto& member : value.items()) {
+            if (properties.contains(member.key())) {
                 kept[member.key()] = ProjectOn(properties.at(member.key()), member.value());
-            }
-            else if (!isClosed)
-            {
+            } else if (!isClosed) {
                 kept[member.key()] = member.value();
             }
         }
         return kept;
     }
-    if (value.is_array() && schema.contains("items"))
-    {
+    if (value.is_array() && schema.contains("items")) {
         Json kept = Json::array();
-        for (const Json& element : value)
-        {
+        for (const Json& element : value) {
             kept.push_back(ProjectOn(schema.at("items"), element));
         }
         return kept;

@@ -5,16 +5,13 @@
 #include <openssl/x509v3.h>
 #include <stdexcept>
 
-namespace emulator
-{
-namespace
-{
+namespace emulator {
+namespace {
 
 constexpr long kSecondsPerYear = 365L * 24 * 60 * 60;
 
 template <typename T, void (*Free)(T*)>
-struct Freeing
-{
+struct Freeing {
     void operator()(T* object) const { Free(object); }
 };
 using Key = std::unique_ptr<EVP_PKEY, Freeing<EVP_PKEY, EVP_PKEY_free>>;
@@ -23,8 +20,7 @@ using Extension = std::unique_ptr<X509_EXTENSION, Freeing<X509_EXTENSION, X509_E
 
 void Require(bool done)
 {
-    if (!done)
-    {
+    if (!done) {
         throw std::runtime_error("the server certificate cannot be made");
     }
 }

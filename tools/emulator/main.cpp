@@ -7,8 +7,7 @@
 #include <exception>
 #include <iostream>
 
-namespace
-{
+namespace {
 
 constexpr int kWrongUse = 2;
 constexpr int kHighestPort = 65535;
@@ -72,20 +71,14 @@ int main(int argc, char** argv)
         ->capture_default_str();
     app.add_flag("!--no-control", options.controlPath, "Refuse the control path /emulator/v1/");
     app.add_flag("--verbose", options.verbose, "Print a line for each request");
-    try
-    {
+    try {
         app.parse(argc, argv);
-    }
-    catch (const CLI::ParseError& error)
-    {
+    } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : kWrongUse;
     }
-    try
-    {
+    try {
         return Run(options);
-    }
-    catch (const std::exception& error)
-    {
+    } catch (const std::exception& error) {
         std::cerr << "platform-emulator: " << error.what() << std::endl;
         return kWrongUse;
     }

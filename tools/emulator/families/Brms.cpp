@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-namespace emulator::families
-{
-namespace
-{
+namespace emulator::families {
+namespace {
 
 const Collection kUserGroups{"/brms/userGroups", "id"};
 const Collection kUsers{"/brms/users", "id"};
@@ -19,8 +17,7 @@ const Place kLastSetting("/brms/lastSettingType");
 Json& SettingEntry(Json& state, int type)
 {
     Json& entry = state.at(kSettings)[std::to_string(type)];
-    if (entry.is_null())
-    {
+    if (entry.is_null()) {
         entry = Json{{"apply", false}, {"settingType", type}, {"settingVersion", 0}, {"settingContent", ""}};
     }
     return entry;
@@ -61,8 +58,7 @@ Json SetMultiCastStreamStatus(const Call& call)
 
 Json DiscoverDevices(const Call& call)
 {
-    for (const Json& code : call.body.at("deviceCodes"))
-    {
+    for (const Json& code : call.body.at("deviceCodes")) {
         kDevices.find(call.state, code);
     }
     Remember(call);
@@ -74,14 +70,10 @@ Json ControlChannels(const Call& call, const std::vector<std::string>& channelId
 {
     const Json& failing = call.state.at(Place("/brms/failingChannels"));
     Json failed = Json::array();
-    for (const std::string& id : channelIds)
-    {
-        if (!kChannels.has(call.state, id))
-        {
+    for (const std::string& id : channelIds) {
+        if (!kChannels.has(call.state, id)) {
             failed.push_back(Json{{"channelId", id}, {"errorCode", code::UnknownObject}});
-        }
-        else if (failing.contains(id))
-        {
+        } else if (failing.contains(id)) {
             failed.push_back(Json{{"channelId", id}, {"errorCode", failing.at(id)}});
         }
     }
@@ -106,10 +98,8 @@ Json ControlSpeakers(const Call& call)
 /// Takes the users out of the groups; they stay as users without a group.
 void LeaveGroups(Json& state, const std::vector<std::string>& groupIds)
 {
-    for (Json& user : state.at(kUsers.list))
-    {
-        if (std::count(groupIds.begin(), groupIds.end(), user.at("groupId")) > 0)
-        {
+    for (Json& user : state.at(kUsers.list)) {
+        if (std::count(groupIds.begin(), groupIds.end(), user.at("groupId")) > 0) {
             user["groupId"] = "";
         }
     }
@@ -119,12 +109,10 @@ Json MoveUsers(const Call& call)
 {
     const std::string group = call.body.at("groupId");
     kUserGroups.find(call.state, group);
-    for (const Json& id : call.body.at("userIds"))
-    {
+    for (const Json& id : call.body.at("userIds")) {
         kUsers.find(call.state, id);
     }
-    for (const Json& id : call.body.at("userIds"))
-    {
+    for (const Json& id : call.body.at("userIds")) {
         kUsers.find(call.state, id)["groupId"] = group;
     }
     Remember(call);
@@ -150,10 +138,8 @@ Json DeleteGroups(const Call& call)
 Json ReadPlanCommands(const Call& call)
 {
     Json commands = Json::array();
-    for (const Json& id : kAlarmPlans.find(call.state, PathValue(call)).at("quickCommandIds"))
-    {
-        if (kQuickCommands.has(call.state, id))
-        {
+    for (const Json& id : kAlarmPlans.find(call.state, PathValue(call)).at("quickCommandIds")) {
+        if (kQuickCommands.has(call.state, id)) {
             commands.push_back(kQuickCommands.find(call.state, id));
         }
     }
@@ -164,15 +150,12 @@ Json ReadPlanCommands(const Call& call)
 Json ReadLinkage(const Call& call)
 {
     const std::string source = ValueOf(call, "sourceCode");
-    for (const Json& linkage : call.state.at(Place("/brms/alarmLinkages")))
-    {
-        if (linkage.at("sourceCode") == source && linkage.at("alarmType") == call.query.at("alarmType"))
-        {
+    for (const Json& linkage : call.state.at(Place("/brms/alarmLinkages"))) {
+        if (linkage.at("sourceCode") == source && linkage.at("alarmType") == call.query.at("alarmType")) {
             return linkage;
         }
     }
-    if (!kChannels.has(call.state, source))
-    {
+    if (!kChannels.has(call.state, source)) {
         kDevices.find(call.state, source);
     }
     return Json{{"linkAudioLightChannels", Json::array()},
@@ -183,10 +166,8 @@ Json ReadLinkage(const Call& call)
 Json ReadLayer(const Call& call)
 {
     const std::string resource = ValueOf(call, "resourceCode");
-    for (const Json& layer : call.state.at(Place("/brms/layers")))
-    {
-        if (layer.at("resourceCode") == resource && layer.at("resourceType") == call.query.at("resourceType"))
-        {
+    for (const Json& layer : call.state.at(Place("/brms/layers"))) {
+        if (layer.at("resourceCode") == resource && layer.at("resourceType") == call.query.at("resourceType")) {
             return layer;
         }
     }
@@ -222,13 +203,12 @@ Json CountDevices(const Call& call)
                                                     device.at("permitted") == true;
                                          }};
     std::map<int, int> counts;
-    for (const Json& device : List(kDevices.list, filters)(call).at("results"))
-    {
+    const Json devices = List(kDevices.list, filters)(call);
+    for (const Json& device : devices.at("results")) {
         ++counts[device.at("deviceCategory").get<int>()];
     }
     Json results = Json::array();
-    for (const auto& [category, count] : counts)
-    {
+    for (const auto& [category, count] : counts) {
         results.push_back(Json{{"deviceCategory", category}, {"deviceCount", count}});
     }
     return Json{{"results", results}};

@@ -1,9 +1,7 @@
 #include "Families.h"
 
-namespace emulator::families
-{
-namespace
-{
+namespace emulator::families {
+namespace {
 
 /// The user who holds the lock of the channel; empty when nobody does.
 Json LockUserOf(const Call& call, const std::string& channelId)
@@ -34,8 +32,7 @@ Json WashBatch(const Call& call)
 {
     const Json& commands = call.body.at("data").at("ptzAuxControlXos");
     std::size_t locked = 0;
-    for (const Json& command : commands)
-    {
+    for (const Json& command : commands) {
         const std::string channelId = command.at("channelId");
         kChannels.find(call.state, channelId);
         locked += LockUserOf(call, channelId).empty() ? 0 : 1;

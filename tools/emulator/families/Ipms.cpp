@@ -1,9 +1,7 @@
 #include "Families.h"
 
-namespace emulator::families
-{
-namespace
-{
+namespace emulator::families {
+namespace {
 
 const Collection kCaptureRecords{"/ipms/captureRecords", "id"};
 

@@ -2,10 +2,8 @@
 
 #include <algorithm>
 
-namespace emulator::families
-{
-namespace
-{
+namespace emulator::families {
+namespace {
 
 const Collection kPersons{"/obms/persons", "personId"};
 const Collection kPoints{"/obms/points", "pointId"};
@@ -35,8 +33,7 @@ Json ReadManagedPersons(const Call& call)
     kDevices.find(call.state, PathValue(call));
     const Json& errors = call.state.at(Place("/obms/managedErrors"));
     Json results = Json::array();
-    for (const std::string id : call.state.at(kManaged).value(PathValue(call), Json::array()))
-    {
+    for (const std::string id : call.state.at(kManaged).value(PathValue(call), Json::array())) {
         Json person = kPersons.find(call.state, id);
         person["errorCode"] = errors.value(id, "0");
         results.push_back(std::move(person));
@@ -47,8 +44,7 @@ Json ReadManagedPersons(const Call& call)
 Json WriteManagedPersons(const Call& call)
 {
     kDevices.find(call.state, PathValue(call));
-    for (const Json& id : call.body.at("personIds"))
-    {
+    for (const Json& id : call.body.at("personIds")) {
         kPersons.find(call.state, id);
     }
     call.state.at(kManaged)[PathValue(call)] = call.body.at("personIds");
@@ -60,12 +56,10 @@ Json ReadPointRules(const Call& call)
     const std::string type = ValueOf(call, "ruleType");
     const int offline = call.query.at("hasOfflinePoint");
     Json results = Json::array();
-    for (const Json& rule : kPoints.find(call.state, PathValue(call)).at("rules"))
-    {
+    for (const Json& rule : kPoints.find(call.state, PathValue(call)).at("rules")) {
         const bool hasOffline = rule.at("hasOfflinePoint");
         const bool wanted = (offline != 0 && offline != 1) || hasOffline == (offline == 1);
-        if (wanted && (type.empty() || rule.at("ruleType") == type))
-        {
+        if (wanted && (type.empty() || rule.at("ruleType") == type)) {
             results.push_back(rule);
         }
     }
@@ -86,10 +80,8 @@ Json DeleteContacts(const Call& call)
     const std::string station = call.body.at("vtoDeviceCode");
     kDevices.find(call.state, station);
     Json left = Json::array();
-    for (const Json& contact : call.state.at(Place("/obms/contacts")).value(station, Json::array()))
-    {
-        if (call.body.at("mode") == "2" && !Holds(call.body.at("vthDeviceCodes"), contact))
-        {
+    for (const Json& contact : call.state.at(Place("/obms/contacts")).value(station, Json::array())) {
+        if (call.body.at("mode") == "2" && !Holds(call.body.at("vthDeviceCodes"), contact)) {
             left.push_back(contact);
         }
     }

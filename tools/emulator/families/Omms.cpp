@@ -1,7 +1,6 @@
 #include "Families.h"
 
-namespace emulator::families
-{
+namespace emulator::families {
 
 HandlerTable Omms()
 {

@@ -1,0 +1,329 @@
+#include "Contract.h"
+#include "EmulatorTest.h"
+#include "Handlers.h"
+#include "State.h"
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+using emulator::Contract;
+using emulator::ContractError;
+using emulator::Operation;
+
+namespace {
+
+const Contract& RealContract()
+{
+    static const Contract contract = Contract::Load(emulator::Options().contract);
+    return contract;
+}
+
+/// A folder that is gone after the test.
+class Folder {
+public:
+    Folder()
+    {
+        std::string name = std::filesystem::temp_directory_path() / "emulator-test-XXXXXX";
+        m_path = ::mkdtemp(name.data());
+    }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    Folder(Folder&&) = delete;
+    Folder& operator=(Folder&&) = delete;
+    ~Folder() { std::filesystem::remove_all(m_path); }
+
+    void write(const std::string& name, const std::string& text) const { std::ofstream(m_path / name) << text; }
+    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+std::string FileWith(const std::string& value, const std::string& id = "T.Get", const std::string& path = "/t")
+{
+    return "paths:\n  " + path + ":\n    get:\n      operationId: " + id +
+           "\n      responses:\n        '200':\n          content:\n            application/json:\n"
+           "              schema:\n                oneOf:\n                  - type: object\n"
+           "                    properties:\n                      code: {const: 1000}\n"
+           "                      data: {type: object, properties: {value: " +
+           value + "}}\ncomponents: {schemas: {Text: {type: string}, Loop: {$ref: '#/components/schemas/Loop'}}}\n";
+}
+
+struct RefusedContract {
+    const char* name;
+    std::string file;
+    std::string secondFile;
+    const char* message;
+};
+class RefusedContractTest : public testing::TestWithParam<RefusedContract> {};
+
+/// Values for the placeholders and queries with which each operation finds something in the seeds.
+const std::map<std::string, std::string>& KnownValues()
+{
+    static const std::map<std::string, std::string> values = {{"deviceCode", "1000041"},
+                                                              {"channelId", "1000001$1$0$0"},
+                                                              {"groupId", "12"},
+                                                              {"id", "5"},
+                                                              {"planId", "3"},
+                                                              {"alarmRecordId", "20240611083000001"},
+                                                              {"menuCode", "parking"},
+                                                              {"pointId", "61"},
+                                                              {"personId", "5001"},
+                                                              {"zoneId", "71"},
+                                                              {"settingType", "1"},
+                                                              {"streamType", "1"},
+                                                              {"page", "1"},
+                                                              {"pageSize", "20"},
+                                                              {"sourceCode", "1000001$1$0$0"},
+                                                              {"alarmType", "5"},
+                                                              {"resourceType", "3"},
+                                                              {"resourceCode", "1000001$1$0$0"},
+                                                              {"mode", "-1"},
+                                                              {"hasOfflinePoint", "0"},
+                                                              {"ruleType", "1"}};
+    return values;
+}
+
+std::string KnownValue(const std::string& name)
+{
+    const auto found = KnownValues().find(name);
+    return found == KnownValues().end() ? std::string() : found->second;
+}
+
+std::string TargetOf(const Operation& operation)
+{
+    std::string target = operation.path;
+    for (std::size_t begin = target.find('{'); begin != std::string::npos; begin = target.find('{')) {
+        const std::size_t end = target.find('}', begin);
+        target.replace(begin, end - begin + 1, KnownValue(target.substr(begin + 1, end - begin - 1)));
+    }
+    char separator = '?';
+    for (const emulator::QueryParameter& parameter : operation.query) {
+        target += separator + parameter.name + "=" + KnownValue(parameter.name);
+        separator = '&';
+    }
+    return target;
+}
+
+}  // namespace
+
+TEST_P(RefusedContractTest, IsNamed)
+{
+    const Folder folder;
+    folder.write("a.yaml", GetParam().file);
+    if (!GetParam().secondFile.empty()) {
+        folder.write("b.yaml", GetParam().secondFile);
+    }
+    try {
+        Contract::Load(folder.path());
+        FAIL() << "was taken";
+    } catch (const ContractError& error) {
+        EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Contracts, RefusedContractTest,
+    testing::Values(
+        RefusedContract{"NotYaml", "a: [", "", "a.yaml"},
+        RefusedContract{"NoOperation", "paths: {}", "", "no operation"},
+        RefusedContract{"KeyTwice", "paths: {}\npaths: {}", "", "key 'paths' is there twice"},
+        RefusedContract{"UnknownKeyword", FileWith("{type: string, nullable: true}"), "", "nullable"},
+        RefusedContract{"KeywordOf2020", FileWith("{type: array, prefixItems: []}"), "", "prefixItems"},
+        RefusedContract{"KeywordOfDraft7", FileWith("{type: array, additionalItems: false}"), "", "additionalItems"},
+        RefusedContract{"KeywordDeepInside", FileWith("{type: array, items: {oneOf: [{$id: x}]}}"), "", "$id"},
+        RefusedContract{"ItemsAsList", FileWith("{type: array, items: [{type: string}]}"), "", "items"},
+        RefusedContract{"ReferenceWithSibling", FileWith("{$ref: '#/components/schemas/Text', title: x}"), "",
+                        "stands alone"},
+        RefusedContract{"ReferenceToNowhere", FileWith("{$ref: '#/components/schemas/Missing'}"), "", "leads nowhere"},
+        RefusedContract{"ReferenceToNoFile", FileWith("{$ref: 'c.yaml#/components/schemas/Text'}"), "",
+                        "names no file"},
+        RefusedContract{"ReferenceToItself", FileWith("{$ref: '#/components/schemas/Loop'}"), "", "back to itself"},
+        RefusedContract{"OperationTwice", FileWith("{}"), FileWith("{}", "T.Get", "/other"), "is told twice"},
+        RefusedContract{"NoSuccess",
+                        "paths: {/t: {get: {operationId: T, responses: {'200': {content: "
+                        "{application/json: {schema: {oneOf: [{type: object}]}}}}}}}}",
+                        "", "code 1000"},
+        RefusedContract{"NoReply", "paths: {/t: {get: {operationId: T}}}", "", "a.yaml: /t/get"}),
+    RowName<RefusedContract>);
+
+TEST(ContractTest, ReferencesBetweenFilesAreResolved)
+{
+    const Folder folder;
+    folder.write("a.yaml", FileWith("{$ref: 'b.yaml#/components/schemas/Text'}"));
+    folder.write("b.yaml",
+                 "components: {schemas: {Text: {$ref: '#/components/schemas/Inner'}, Inner: {type: string}}}");
+    const Contract contract = Contract::Load(folder.path());
+    EXPECT_EQ(contract.operation("T.Get").dataSchema.at("properties").at("value"), (Json{{"type", "string"}}));
+}
+
+TEST(ContractTest, WrappedReferenceKeepsItsDescription)
+{
+    const Folder folder;
+    folder.write("a.yaml", FileWith("{description: own, allOf: [{$ref: '#/components/schemas/Text'}]}"));
+    const Contract contract = Contract::Load(folder.path());
+    EXPECT_EQ(contract.operation("T.Get").dataSchema.at("properties").at("value"),
+              (Json{{"type", "string"}, {"description", "own"}}));
+}
+
+TEST(ContractTest, QuotedScalarsAreTexts)
+{
+    const Folder folder;
+    folder.write("a.yaml", FileWith("{enum: ['1', 1, true, 'true', word, 1.5]}"));
+    const Contract contract = Contract::Load(folder.path());
+    EXPECT_EQ(contract.operation("T.Get").dataSchema.at("properties").at("value").at("enum"),
+              (Json{"1", 1, true, "true", "word", 1.5}));
+}
+
+TEST(ContractTest, LiteralPathWinsOverPlaceholder)
+{
+    const Contract::Match list = RealContract().find("GET", "/brms/api/v1.1/user/group/list");
+    ASSERT_NE(list.operation, nullptr);
+    EXPECT_EQ(list.operation->id, "BRMS.GetUserGroupList");
+    const Contract::Match group = RealContract().find("GET", "/brms/api/v1.1/user/group/lis%74s");
+    ASSERT_NE(group.operation, nullptr);
+    EXPECT_EQ(group.operation->id, "BRMS.GetUserGroup");
+    EXPECT_EQ(group.values.at("groupId"), "lists");
+}
+
+TEST(ContractTest, EncodedSlashStaysInsideItsSegment)
+{
+    const Contract::Match match = RealContract().find("GET", "/brms/api/v1.1/user/group/a%2Fb+c%zz");
+    ASSERT_NE(match.operation, nullptr);
+    EXPECT_EQ(match.values.at("groupId"), "a/b+c%zz");
+}
+
+TEST(RealContractTest, HasEveryOperationOnce)
+{
+    EXPECT_EQ(RealContract().operations().size(), 85U);
+}
+
+TEST(RealContractTest, OperationsAndHandlersMatch)
+{
+    std::set<std::string> operations;
+    for (const Operation& operation : RealContract().operations()) {
+        operations.insert(operation.id);
+    }
+    std::set<std::string> handlers;
+    for (const auto& handler : emulator::AllHandlers()) {
+        handlers.insert(handler.first);
+    }
+    EXPECT_EQ(operations, handlers);
+}
+
+TEST(RealContractTest, ExamplesAreValid)
+{
+    for (const Operation& operation : RealContract().operations()) {
+        EXPECT_FALSE(operation.replyExamples.empty()) << operation.id;
+        for (const Json& example : operation.replyExamples) {
+            EXPECT_EQ(operation.reply.breach(example), "") << operation.id;
+        }
+        EXPECT_EQ(operation.body.has_value(), !operation.bodyExamples.empty()) << operation.id;
+        for (const Json& example : operation.bodyExamples) {
+            EXPECT_EQ(operation.body->breach(example), "") << operation.id;
+        }
+    }
+}
+
+TEST(RealContractTest, BodiesAndSuccessesAreClosed)
+{
+    for (const Operation& operation : RealContract().operations()) {
+        if (operation.body) {
+            EXPECT_EQ(operation.body->document().value("additionalProperties", Json()), Json(false)) << operation.id;
+        }
+        EXPECT_EQ(operation.success.document().value("additionalProperties", Json()), Json(false)) << operation.id;
+    }
+}
+
+class ExampleTest : public EmulatorTest, public testing::WithParamInterface<TestClient::Scheme> {};
+
+TEST_P(ExampleTest, EveryExampleRequestSucceeds)
+{
+    const auto client = ClientOf(m_platform, GetParam());
+    for (const Operation& operation : RealContract().operations()) {
+        m_platform.reset();
+        const std::string body = operation.bodyExamples.empty() ? "" : operation.bodyExamples.front().dump();
+        const Answer answer = client->request(operation.method, TargetOf(operation), body);
+        EXPECT_EQ(answer.status, 200) << operation.id;
+        EXPECT_EQ(operation.success.breach(answer.json()), "") << operation.id << ": " << answer.body;
+    }
+    EXPECT_EQ(m_platform.connections(), 1U) << "the connection was not kept";
+}
+
+INSTANTIATE_TEST_SUITE_P(Schemes, ExampleTest, testing::Values(TestClient::Scheme::Http, TestClient::Scheme::Https),
+                         SchemeName);
+
+TEST(SeedTest, ScaleMultipliesListsAndKeepsIdentifiersUnique)
+{
+    const Json seeds = emulator::LoadSeeds(emulator::Options().seed, 1);
+    const Json scaled = emulator::LoadSeeds(emulator::Options().seed, 3);
+    for (const auto& [list, identifier] : std::map<std::string, std::string>{{"/inventory/devices", "deviceCode"},
+                                                                             {"/inventory/channels", "channelId"},
+                                                                             {"/brms/userGroups", "id"},
+                                                                             {"/brms/users", "id"},
+                                                                             {"/brms/quickCommands", "id"},
+                                                                             {"/brms/alarmPlans", "id"},
+                                                                             {"/brms/alarmRecords", "id"},
+                                                                             {"/brms/generalEvents", "id"},
+                                                                             {"/iams/tasks", "id"},
+                                                                             {"/ipms/parkingLots", "id"},
+                                                                             {"/ipms/captureRecords", "id"},
+                                                                             {"/obms/persons", "personId"},
+                                                                             {"/obms/points", "pointId"},
+                                                                             {"/obms/desfireFailures", "id"}}) {
+        const Json::json_pointer place(list);
+        EXPECT_EQ(scaled.at(place).size(), 3 * seeds.at(place).size()) << list;
+        std::set<std::string> identifiers;
+        for (const Json& element : scaled.at(place)) {
+            identifiers.insert(element.at(identifier).get<std::string>());
+        }
+        EXPECT_EQ(identifiers.size(), scaled.at(place).size()) << list;
+    }
+}
+
+TEST(SeedTest, CopiesFitEachOther)
+{
+    const Json scaled = emulator::LoadSeeds(emulator::Options().seed, 2);
+    std::set<std::string> devices;
+    for (const Json& device : scaled.at("inventory").at("devices")) {
+        devices.insert(device.at("deviceCode").get<std::string>());
+    }
+    for (const Json& channel : scaled.at("inventory").at("channels")) {
+        EXPECT_EQ(devices.count(channel.at("deviceCode").get<std::string>()), 1U) << channel.at("channelId");
+    }
+    EXPECT_EQ(scaled.at("brms").at("alarmPlans").at(7).at("quickCommandIds"), (Json{"5-2", "6-2"}));
+}
+
+struct RefusedSeed {
+    const char* name;
+    const char* file;
+    const char* message;
+};
+class RefusedSeedTest : public testing::TestWithParam<RefusedSeed> {};
+
+TEST_P(RefusedSeedTest, IsNamed)
+{
+    const Folder folder;
+    folder.write("family.json", GetParam().file);
+    try {
+        emulator::LoadSeeds(folder.path(), 2);
+        FAIL() << "was taken";
+    } catch (const emulator::SeedError& error) {
+        EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RefusedSeedTest,
+                         testing::Values(RefusedSeed{"NotJson", "{", "family.json: "},
+                                         RefusedSeed{"NoObject", "[]", "family.json: "},
+                                         RefusedSeed{"ScalesWhatIsNotThere",
+                                                     R"({"scale": {"lists": ["missing"], "identifiers": []}})",
+                                                     "missing"}),
+                         RowName<RefusedSeed>);
+
+TEST(SeedTest, FolderWithoutSeedsIsRefused)
+{
+    const Folder folder;
+    EXPECT_THROW(emulator::LoadSeeds(folder.path(), 1), emulator::SeedError);
+}

@@ -1,0 +1,216 @@
+#include "EmulatorTest.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+
+constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
+constexpr const char* kFaults = "/emulator/v1/faults";
+
+}  // namespace
+
+class ControlTest : public EmulatorTest {
+protected:
+    std::unique_ptr<TestClient> m_control = ClientOf(m_platform, TestClient::Scheme::Http, "");
+    std::unique_ptr<TestClient> m_client = ClientOf(m_platform, TestClient::Scheme::Https);
+};
+
+TEST_F(ControlTest, FaultsAreAddedListedAndCleared)
+{
+    const Json fault = {
+        {"path", "/brms"}, {"kind", "status"}, {"times", 0}, {"status", 503}, {"headers", {{"Retry-After", "9"}}},
+        {"body", "later"}, {"delayMs", 1},     {"code", 0},  {"desc", ""},    {"size", 0}};
+    const Answer added = m_control->post(kFaults, fault);
+    EXPECT_EQ(added.status, 201);
+    EXPECT_EQ(added.json(), fault);
+    EXPECT_EQ(m_control->get(kFaults).json(), Json::array({fault}));
+    const Answer hit = m_client->get(kTimeSync);
+    EXPECT_EQ(hit.status, 503);
+    EXPECT_EQ(hit.body, "later");
+    EXPECT_EQ(hit.headers.find("Retry-After")->second, "9");
+    EXPECT_EQ(m_control->remove(kFaults).status, 204);
+    EXPECT_EQ(m_control->get(kFaults).json(), Json::array());
+    EXPECT_EQ(m_client->get(kTimeSync).code(), 1000);
+}
+
+struct RefusedFault {
+    const char* name;
+    const char* body;
+    const char* error;
+};
+class RefusedFaultTest : public EmulatorTableTest, public testing::WithParamInterface<RefusedFault> {};
+
+TEST_P(RefusedFaultTest, IsNamed)
+{
+    const Answer answer = ClientOf(m_platform)->request("POST", kFaults, GetParam().body);
+    EXPECT_EQ(answer.status, 400);
+    EXPECT_NE(answer.json().value("error", "").find(GetParam().error), std::string::npos) << answer.body;
+    EXPECT_TRUE(m_platform.faults().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, RefusedFaultTest,
+    testing::Values(RefusedFault{"NotJson", "{", "not JSON"}, RefusedFault{"NoObject", "[]", "kind"},
+                    RefusedFault{"NoKind", "{}", "kind"}, RefusedFault{"UnknownKind", R"({"kind":"slow"})", "'slow'"},
+                    RefusedFault{"KindNoText", R"({"kind":1})", "kind: expected a text"},
+                    RefusedFault{"UnknownKey", R"({"kind":"empty","tims":1})", "tims: not expected"},
+                    RefusedFault{"TimesNegative", R"({"kind":"empty","times":-1})", "times"},
+                    RefusedFault{"TimesNoNumber", R"({"kind":"empty","times":"1"})", "times"},
+                    RefusedFault{"StatusTooLow", R"({"kind":"status","status":199})", "status"},
+                    RefusedFault{"StatusTooHigh", R"({"kind":"status","status":600})", "status"},
+                    RefusedFault{"DelayNegative", R"({"kind":"delay","delayMs":-5})", "delayMs"},
+                    RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
+                    RefusedFault{"HeadersNoObject", R"({"kind":"status","headers":[]})", "headers"},
+                    RefusedFault{"HeaderNoText", R"({"kind":"status","headers":{"A":1}})", "headers"}),
+    RowName<RefusedFault>);
+
+TEST_F(ControlTest, RequestsAreHandedOutAsTheyCame)
+{
+    m_client->get("/brms/api/v1.1/user/group/list?keyword=a%20b+c&x=%26&&y");
+    m_client->put(kTimeSync, {{"ü", 1}});
+    const Json requests = m_control->get("/emulator/v1/requests").json();
+    ASSERT_EQ(requests.size(), 2U) << "calls of the control path are not recorded";
+    const Json& first = requests.at(0);
+    EXPECT_EQ(first.at("number"), 1);
+    EXPECT_EQ(first.at("method"), "GET");
+    EXPECT_EQ(first.at("target"), "/brms/api/v1.1/user/group/list?keyword=a%20b+c&x=%26&&y");
+    EXPECT_EQ(first.at("path"), "/brms/api/v1.1/user/group/list");
+    EXPECT_EQ(first.at("query"), Json::parse(R"([{"name":"keyword","value":"a b c"},{"name":"x","value":"&"},)"
+                                             R"({"name":"y","value":""}])"));
+    EXPECT_EQ(first.at("body"), "");
+    EXPECT_EQ(first.at("status"), 200);
+    EXPECT_EQ(first.at("code"), 1003);
+    const Json token = {{"name", "X-Subject-Token"}, {"value", emulator::kDefaultToken}};
+    EXPECT_EQ(std::count(first.at("headers").begin(), first.at("headers").end(), token), 1);
+    EXPECT_EQ(requests.at(1).at("body"), R"({"ü":1})");
+    EXPECT_EQ(requests.at(1).at("connection"), first.at("connection"));
+
+    EXPECT_EQ(m_platform.requests().front().header("x-subject-token"), emulator::kDefaultToken);
+    EXPECT_EQ(m_platform.requests().front().header("Content-Type"), "application/json;charset=UTF-8");
+    EXPECT_EQ(m_platform.requests().front().header("Absent"), "");
+
+    EXPECT_EQ(m_control->remove("/emulator/v1/requests").status, 204);
+    EXPECT_EQ(m_control->get("/emulator/v1/requests").json(), Json::array());
+}
+
+TEST_F(ControlTest, TargetIsKeptByteForByte)
+{
+    const std::string target = "/brms/api/v1.1/user/group/list?keyword=a&b?c%2b\"<\xc3\xbc";
+    EXPECT_EQ(m_client->get(target).code(), 1003);
+    EXPECT_EQ(m_platform.requests().back().target, target);
+    EXPECT_EQ(m_platform.requests().back().query.at(1).first, "b?c+\"<\xc3\xbc");
+}
+
+TEST_F(ControlTest, TargetThatIsNoUtf8IsShownAllTheSame)
+{
+    m_client->get("/brms/api/v1.1/user/group/%ff");
+    EXPECT_EQ(m_control->get("/emulator/v1/requests").json().at(0).at("path"), "/brms/api/v1.1/user/group/\uFFFD");
+}
+
+TEST_F(ControlTest, RequestsWithoutAnAnswerHaveNoStatus)
+{
+    m_control->post(kFaults, Json{{"kind", "closeBefore"}});
+    m_client->get(kTimeSync);
+    const Json requests = m_control->get("/emulator/v1/requests").json();
+    EXPECT_EQ(requests.at(0).at("status"), 0);
+    EXPECT_EQ(requests.at(0).at("code"), Json());
+}
+
+TEST_F(ControlTest, OldRequestsAreForgotten)
+{
+    const std::string large(1024UL * 1024, 'x');
+    for (int i = 0; i < 70; ++i) {
+        EXPECT_EQ(m_client->request("PUT", kTimeSync, large).code(), 1004);
+    }
+    EXPECT_EQ(m_platform.requests().size(), 64U);
+    EXPECT_EQ(m_platform.requests().back().number, 70U);
+    EXPECT_EQ(m_platform.requests().back().body, large) << "a body of a megabyte arrives whole";
+}
+
+TEST_F(ControlTest, StateShowsWritesAndResetTakesThemBack)
+{
+    const Json seeds = m_control->get("/emulator/v1/state").json();
+    EXPECT_EQ(seeds, m_platform.state());
+    m_client->post("/brms/api/v1.1/config/time-sync/immediate");
+    const Json changed = m_control->get("/emulator/v1/state").json();
+    EXPECT_EQ(changed.at("accepted").at("BRMS.ImmediatelySyncTime"),
+              Json::parse(R"([{"path":{},"query":{},"body":null}])"));
+    EXPECT_EQ(m_control->post("/emulator/v1/reset").status, 204);
+    EXPECT_EQ(m_control->get("/emulator/v1/state").json(), seeds);
+    EXPECT_EQ(m_platform.requests().size(), 1U) << "requests stay";
+}
+
+TEST_F(ControlTest, ConnectionsAreCounted)
+{
+    const auto count = [this] { return m_control->get("/emulator/v1/connections").json().at("connections"); };
+    EXPECT_EQ(count(), 1);
+    m_client->get(kTimeSync);
+    m_client->get(kTimeSync);
+    EXPECT_EQ(count(), 2) << "the second call uses the first one's connection";
+    ClientOf(m_platform)->get(kTimeSync);
+    EXPECT_EQ(count(), 3);
+    EXPECT_EQ(m_platform.connections(), 3U);
+}
+
+TEST_F(ControlTest, WhatItDoesNotKnowIsRefusedWithAStatus)
+{
+    EXPECT_EQ(m_control->get("/emulator/v1/nothing").status, 404);
+    EXPECT_EQ(m_control->get("/emulator/").status, 404);
+    EXPECT_EQ(m_control->put(kFaults, Json::object()).status, 405);
+    EXPECT_EQ(m_control->post("/emulator/v1/state").status, 405);
+}
+
+TEST(ControlOffTest, ControlPathIsForbidden)
+{
+    emulator::Options options;
+    options.controlPath = false;
+    emulator::PlatformEmulator platform(options);
+    platform.start();
+    const auto client = ClientOf(platform);
+    EXPECT_EQ(client->post(kFaults, Json{{"kind", "empty"}}).status, 403);
+    EXPECT_EQ(client->get("/emulator/v1/state").status, 403);
+    EXPECT_EQ(client->get(kTimeSync).code(), 1000);
+}
+
+TEST(OptionsTest, OtherTokenIsAsked)
+{
+    emulator::Options options;
+    options.token = "другой";
+    emulator::PlatformEmulator platform(options);
+    platform.start();
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).status, 401);
+    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, options.token)->get(kTimeSync).code(), 1000);
+}
+
+TEST(OptionsTest, TakenPortIsRefused)
+{
+    emulator::PlatformEmulator first;
+    first.start();
+    emulator::Options options;
+    options.httpPort = first.httpPort();
+    emulator::PlatformEmulator second(options);
+    EXPECT_THROW(second.start(), std::runtime_error);
+}
+
+TEST(OptionsTest, StopsWithoutHavingStarted)
+{
+    emulator::PlatformEmulator platform;
+    platform.stop();
+    EXPECT_EQ(platform.httpPort(), 0);
+}
+
+TEST(OptionsTest, StopsAtOnceWithIdleConnections)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    const auto plain = ClientOf(platform);
+    const auto secure = ClientOf(platform, TestClient::Scheme::Https);
+    EXPECT_EQ(plain->get(kTimeSync).code(), 1000);
+    EXPECT_EQ(secure->get(kTimeSync).code(), 1000);
+    const auto begin = std::chrono::steady_clock::now();
+    platform.stop();
+    platform.stop();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(10));
+    EXPECT_FALSE(plain->get(kTimeSync).arrived);
+}
