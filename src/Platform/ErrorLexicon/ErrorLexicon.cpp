@@ -9,10 +9,8 @@
 #include <map>
 #include <unordered_map>
 
-namespace ErrorLexicon
-{
-namespace
-{
+namespace ErrorLexicon {
+namespace {
 
 using Texts = std::unordered_map<int, std::string>;
 
@@ -22,11 +20,9 @@ Texts ReadTexts(const QString& fileName)
 {
     QFile file(fileName);
     Texts texts;
-    if (file.open(QIODevice::ReadOnly))
-    {
+    if (file.open(QIODevice::ReadOnly)) {
         const QJsonObject entries = QJsonDocument::fromJson(file.readAll()).object();
-        for (auto entry = entries.begin(); entry != entries.end(); ++entry)
-        {
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
             texts.emplace(entry.key().toInt(), entry.value().toString().toStdString());
         }
     }
@@ -34,8 +30,7 @@ Texts ReadTexts(const QString& fileName)
 }
 
 /// All texts of all languages, and the choice among them.
-class Lexicon
-{
+class Lexicon {
 public:
     /// Never destroyed, so that texts can be asked for until the very end of the process.
     static Lexicon& Instance()
@@ -61,8 +56,7 @@ private:
     Lexicon()
     {
         const QDir folder(QStringLiteral(":/ErrorLexicon/texts"));
-        for (const QFileInfo& file : folder.entryInfoList())
-        {
+        for (const QFileInfo& file : folder.entryInfoList()) {
             m_languages.emplace(file.baseName().toStdString(), ReadTexts(file.filePath()));
         }
         Choose(kDefaultLanguage);
@@ -87,8 +81,7 @@ char LowerCase(char letter)
 std::string FirstPart(const std::string& strLanguage)
 {
     std::string part = strLanguage.substr(0, strLanguage.find_first_of("-_"));
-    for (char& letter : part)
-    {
+    for (char& letter : part) {
         letter = LowerCase(letter);
     }
     return part;
@@ -100,12 +93,10 @@ int ErrorLexiconQuery(int nErrorCode, std::string& strText)
 {
     const Lexicon& lexicon = Lexicon::Instance();
     const std::string* pText = lexicon.Find(nErrorCode);
-    if (pText == nullptr)
-    {
+    if (pText == nullptr) {
         pText = lexicon.Find(StatusClass(nErrorCode));
     }
-    if (pText == nullptr)
-    {
+    if (pText == nullptr) {
         return -1;
     }
     strText = *pText;

@@ -6,8 +6,7 @@
 
 /// The user's words for error codes. Every function may be called from any thread, and before an application object
 /// exists.
-namespace ErrorLexicon
-{
+namespace ErrorLexicon {
 
 /// Looks up the text of an error code in the language that is set.
 ///

@@ -1,7 +1,6 @@
 #include "OrnDialog.h"
 
-namespace ORNGUI
-{
+namespace ORNGUI {
 
 OrnDialog::OrnDialog(QWidget* pParent) : QDialog(pParent)
 {

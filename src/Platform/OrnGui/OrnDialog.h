@@ -4,12 +4,10 @@
 
 #include <QDialog>
 
-namespace ORNGUI
-{
+namespace ORNGUI {
 
 /// Base of the client's dialogs: a dialog without the context-help button.
-class ORNGUI_EXPORT OrnDialog : public QDialog
-{
+class ORNGUI_EXPORT OrnDialog : public QDialog {
     Q_OBJECT
 
 public:

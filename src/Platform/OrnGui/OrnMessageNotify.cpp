@@ -4,8 +4,7 @@
 
 #include <QApplication>
 
-namespace ORNGUI
-{
+namespace ORNGUI {
 
 template class OrnSingleton<OrnMessageNotify>;
 
@@ -14,8 +13,7 @@ void OrnMessageNotify::AddTextNotification(const QString& strText, bool bWithBut
 {
     const bool bHasWindows = qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
     const bool bHasContent = bWithButton || !strText.trimmed().isEmpty();
-    if (bHasWindows && !QCoreApplication::closingDown() && bHasContent)
-    {
+    if (bHasWindows && !QCoreApplication::closingDown() && bHasContent) {
         detail::ToastStack::Instance().Add({strText, bWithButton, strButtonText, strLink, bStayOpen});
     }
     emit TextNotificationAdded(strText);

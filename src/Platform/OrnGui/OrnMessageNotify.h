@@ -6,15 +6,13 @@
 #include <QObject>
 #include <QString>
 
-namespace ORNGUI
-{
+namespace ORNGUI {
 
 /// Short messages to the user, as toasts that stack in a corner of the active window, or of the screen without one.
 ///
 /// Toasts take no focus and do not keep the application from ending with its last window; open ones go when it quits.
 /// Hosts use the one instance of the process, OrnSingleton<OrnMessageNotify>::Instance(). GUI thread only.
-class ORNGUI_EXPORT OrnMessageNotify : public QObject
-{
+class ORNGUI_EXPORT OrnMessageNotify : public QObject {
     Q_OBJECT
 
 public:

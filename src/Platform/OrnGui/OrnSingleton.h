@@ -1,13 +1,11 @@
 #pragma once
 
 /// Components of the client's user interface.
-namespace ORNGUI
-{
+namespace ORNGUI {
 
 /// The one object of a default-constructible type.
 template <typename T>
-class OrnSingleton
-{
+class OrnSingleton {
 public:
     /// The object, made on first use from whichever thread. It is never destroyed, so it can be used until the very end
     /// of the process.

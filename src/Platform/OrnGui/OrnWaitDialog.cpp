@@ -1,17 +1,15 @@
 #include "OrnWaitDialog.h"
 
+#include "detail/QuitWatcher.h"
+
 #include <QEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 
-namespace ORNGUI
-{
-namespace
-{
+namespace ORNGUI {
+namespace {
 
 constexpr int kSize = 88;
-constexpr int kCornerRadius = 14;
 constexpr int kRingDiameter = 44;
 constexpr int kRingWidth = 4;
 constexpr int kFrameMs = 40;
@@ -20,8 +18,7 @@ constexpr int kArcDegrees = 100;
 constexpr int kVeilAlpha = 110;
 
 /// Dims what it lies on and keeps the mouse from it. A child of the window, so that no compositor is needed.
-class Veil : public QWidget
-{
+class Veil : public QWidget {
 public:
     explicit Veil(QWidget* pWindow) : QWidget(pWindow)
     {
@@ -34,20 +31,19 @@ protected:
     void paintEvent(QPaintEvent* /*pEvent*/) override { QPainter(this).fillRect(rect(), QColor(0, 0, 0, kVeilAlpha)); }
 };
 
-bool IsOnScreen(const QWidget& widget)
+/// The part of a widget that its window shows, or the whole window when that is nothing, in coordinates of the window.
+/// Empty when the window is not on the screen either.
+QRect SeenInWindow(const QWidget& widget)
 {
-    return widget.isVisible() && !widget.window()->isMinimized();
-}
-
-/// The part of a widget that its window shows, in coordinates of the window.
-QRect AreaInWindow(const QWidget& widget)
-{
-    QRect area = widget.rect();
-    for (const QWidget* pLevel = &widget; !pLevel->isWindow(); pLevel = pLevel->parentWidget())
-    {
+    const QWidget* const pWindow = widget.window();
+    if (!pWindow->isVisible() || pWindow->isMinimized()) {
+        return {};
+    }
+    QRect area = widget.isVisible() ? widget.rect() : QRect();
+    for (const QWidget* pLevel = &widget; pLevel != pWindow; pLevel = pLevel->parentWidget()) {
         area = area.translated(pLevel->pos()) & pLevel->parentWidget()->rect();
     }
-    return area;
+    return area.isEmpty() ? pWindow->rect() : area;
 }
 
 QColor Faint(QColor color, int nAlpha)
@@ -67,45 +63,47 @@ OrnWaitDialog::OrnWaitDialog(QWidget* pParent, bool bCoverParent) : OrnDialog(pP
     setWindowTitle(tr("Please wait"));
 
     setFixedSize(kSize, kSize);
-    QPainterPath shape;
-    shape.addRoundedRect(rect(), kCornerRadius, kCornerRadius);
-    setMask(QRegion(shape.toFillPolygon().toPolygon()));
 
     m_frameTimer.setInterval(kFrameMs);
     connect(&m_frameTimer, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    const auto* pQuitWatcher = new detail::QuitWatcher(this);
+    connect(pQuitWatcher, &detail::QuitWatcher::Quitting, this, &OrnWaitDialog::OnStopWaitImmediately);
     WatchParent();
 }
 
 OrnWaitDialog::~OrnWaitDialog()
 {
-    delete m_pVeil;
+    Uncover();
 }
 
 void OrnWaitDialog::OnStopWaitImmediately()
 {
-    if (isVisible())
-    {
+    if (isVisible()) {
         OrnDialog::done(Rejected);
     }
 }
 
 int OrnWaitDialog::exec()
 {
-    if (m_bExecuting)
-    {
+    if (m_bExecuting) {
         return Rejected;
     }
-    if (isVisible() && !isModal())
-    {
+    if (isVisible() && !isModal()) {
         hide();  // a window becomes modal only when it is shown
     }
     m_bExecuting = true;
     const QPointer<OrnWaitDialog> pSelf(this);
     const int nResult = OrnDialog::exec();
-    if (pSelf)
-    {
+    if (pSelf) {
         m_bExecuting = false;
-        OnStopWaitImmediately();  // still shown when the application quits
+    }
+    if (pSelf && isVisible()) {
+        // The application quits. A window leaves its modal state only when it is hidden as a modal one.
+        setModal(true);
+        OnStopWaitImmediately();
+    }
+    if (pSelf) {
+        setModal(false);
     }
     return nResult;
 }
@@ -117,8 +115,7 @@ void OrnWaitDialog::done(int /*nResult*/)
 
 bool OrnWaitDialog::event(QEvent* pEvent)
 {
-    if (pEvent->type() == QEvent::ParentChange)
-    {
+    if (pEvent->type() == QEvent::ParentChange) {
         WatchParent();
     }
     return OrnDialog::event(pEvent);
@@ -126,8 +123,7 @@ bool OrnWaitDialog::event(QEvent* pEvent)
 
 bool OrnWaitDialog::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    switch (pEvent->type())
-    {
+    switch (pEvent->type()) {
     case QEvent::ParentChange:
         WatchAncestors();
         PlaceOverParent();
@@ -156,7 +152,7 @@ void OrnWaitDialog::showEvent(QShowEvent* pEvent)
 void OrnWaitDialog::hideEvent(QHideEvent* pEvent)
 {
     m_frameTimer.stop();
-    delete m_pVeil;
+    Uncover();
     OrnDialog::hideEvent(pEvent);
 }
 
@@ -167,8 +163,8 @@ void OrnWaitDialog::paintEvent(QPaintEvent* /*pEvent*/)
     painter.fillRect(rect(), palette().color(QPalette::Window));
 
     const QColor foreground = palette().color(QPalette::WindowText);
-    painter.setPen(QPen(Faint(foreground, 60), 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius, kCornerRadius);
+    painter.setPen(Faint(foreground, 60));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 
     QRectF ring(0, 0, kRingDiameter, kRingDiameter);
     ring.moveCenter(QRectF(rect()).center());
@@ -184,8 +180,7 @@ void OrnWaitDialog::paintEvent(QPaintEvent* /*pEvent*/)
 void OrnWaitDialog::WatchParent()
 {
     disconnect(m_parentDestroyed);
-    if (parentWidget() != nullptr)
-    {
+    if (parentWidget() != nullptr) {
         // Emitted before a widget deletes its children, of which this dialog is one.
         m_parentDestroyed = connect(parentWidget(), &QObject::destroyed, this, &OrnWaitDialog::ParentDestroyed);
     }
@@ -195,20 +190,16 @@ void OrnWaitDialog::WatchParent()
 /// The parent moves on the screen when any widget up to its window moves.
 void OrnWaitDialog::WatchAncestors()
 {
-    for (const QPointer<QWidget>& pWidget : qAsConst(m_watched))
-    {
-        if (pWidget)
-        {
+    for (const QPointer<QWidget>& pWidget : qAsConst(m_watched)) {
+        if (pWidget) {
             pWidget->removeEventFilter(this);
         }
     }
     m_watched.clear();
-    for (QWidget* pWidget = parentWidget(); pWidget != nullptr; pWidget = pWidget->parentWidget())
-    {
+    for (QWidget* pWidget = parentWidget(); pWidget != nullptr; pWidget = pWidget->parentWidget()) {
         pWidget->installEventFilter(this);
         m_watched.append(pWidget);
-        if (pWidget->isWindow())
-        {
+        if (pWidget->isWindow()) {
             break;
         }
     }
@@ -218,53 +209,50 @@ void OrnWaitDialog::ParentDestroyed()
 {
     const QPointer<OrnWaitDialog> pSelf(this);
     OnStopWaitImmediately();
-    if (pSelf)
-    {
+    if (pSelf) {
         setParent(nullptr, windowFlags());
     }
 }
 
 void OrnWaitDialog::PlaceOverParent()
 {
-    if (!isVisible())
-    {
+    if (!isVisible()) {
         return;
     }
-    const QWidget* pParent = parentWidget();
-    if (pParent != nullptr && !IsOnScreen(*pParent))
-    {
-        pParent = pParent->window();
+    const QRect area = parentWidget() != nullptr ? SeenInWindow(*parentWidget()) : QRect();
+    if (area.isEmpty()) {
+        Uncover();
+        move(screen()->availableGeometry().center() - rect().center());
+        return;
     }
-    const bool bOnParent = pParent != nullptr && IsOnScreen(*pParent);
-    QRect area = bOnParent ? AreaInWindow(*pParent) : QRect();
-    Cover(area);
-    if (area.isEmpty())
-    {
-        area = screen()->availableGeometry();
+    if (m_bCoverParent) {
+        Cover(area);
     }
-    else
-    {
-        area.translate(pParent->window()->mapToGlobal(QPoint()));
-    }
-    move(area.center() - rect().center());
+    move(parentWidget()->window()->mapToGlobal(area.center()) - rect().center());
 }
 
 void OrnWaitDialog::Cover(const QRect& area)
 {
-    if (!m_bCoverParent || area.isEmpty())
-    {
-        delete m_pVeil;
-        return;
-    }
     QWidget* const pWindow = parentWidget()->window();
-    if (!m_pVeil || m_pVeil->parentWidget() != pWindow)
-    {
-        delete m_pVeil;
+    if (m_pVeil && m_pVeil->parentWidget() != pWindow) {
+        Uncover();
+    }
+    if (!m_pVeil) {
         m_pVeil = new Veil(pWindow);
     }
     m_pVeil->setGeometry(area);
     m_pVeil->raise();
     m_pVeil->show();
+}
+
+void OrnWaitDialog::Uncover()
+{
+    if (m_pVeil) {
+        // Not deleted here: its window may just be going through its children.
+        m_pVeil->hide();
+        m_pVeil->deleteLater();
+        m_pVeil.clear();
+    }
 }
 
 }  // namespace ORNGUI

@@ -7,8 +7,7 @@
 #include <QTimer>
 #include <QVector>
 
-namespace ORNGUI
-{
+namespace ORNGUI {
 
 /// A moving busy indicator over a widget, without a title bar.
 ///
@@ -19,8 +18,7 @@ namespace ORNGUI
 /// The dialog belongs to whoever made it. @p pParent is its Qt parent while both live; when the parent is destroyed,
 /// the dialog ends as by OnStopWaitImmediately() and stays behind hidden, without a parent, to be deleted by its maker.
 /// GUI thread only.
-class ORNGUI_EXPORT OrnWaitDialog : public OrnDialog
-{
+class ORNGUI_EXPORT OrnWaitDialog : public OrnDialog {
     Q_OBJECT
 
 public:
@@ -52,6 +50,7 @@ private:
     void ParentDestroyed();
     void PlaceOverParent();
     void Cover(const QRect& area);
+    void Uncover();
 
     const bool m_bCoverParent;
     bool m_bExecuting = false;

@@ -4,19 +4,16 @@
 #include <string>
 
 /// What the client's user management offers to the libraries that call servers.
-namespace UserLogical
-{
+namespace UserLogical {
 
 /// Where a server is reached.
-struct ServerConnection
-{
+struct ServerConnection {
     std::string strHost;  ///< host name or IP address
     int nPort = 80;       ///< TCP port
 };
 
 /// One server that the user is signed in to. Called on the GUI thread.
-class IServer
-{
+class IServer {
 public:
     virtual ~IServer() = default;
 
@@ -28,8 +25,7 @@ public:
 };
 
 /// The servers that the user is signed in to. The host implements and owns it. Called on the GUI thread.
-class IUserManager
-{
+class IUserManager {
 public:
     virtual ~IUserManager() = default;
 

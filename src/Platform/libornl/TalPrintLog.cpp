@@ -11,15 +11,14 @@
 #include <mutex>
 #include <utility>
 
-namespace ornl
-{
-namespace
-{
+namespace ornl {
+namespace {
 
 using Observer = std::function<void(const LogRecord&)>;
 
 constexpr std::size_t kMaxFileSize = 5U * 1024U * 1024U;
 constexpr std::size_t kRotatedFiles = 3;
+constexpr const char* kPattern = "%Y-%m-%d %H:%M:%S.%e %t %l %v";
 
 const char* OrEmpty(const char* text)
 {
@@ -28,12 +27,10 @@ const char* OrEmpty(const char* text)
 
 spdlog::level::level_enum SpdlogLevel(int level)
 {
-    if (level <= 2)
-    {
+    if (level <= 2) {
         return spdlog::level::trace;
     }
-    switch (level)
-    {
+    switch (level) {
     case 3:
         return spdlog::level::debug;
     case 4:
@@ -54,8 +51,7 @@ std::string Formatted(const char* format, std::va_list arguments)
     va_copy(counted, arguments);
     const int length = std::vsnprintf(nullptr, 0, format, counted);
     va_end(counted);
-    if (length < 0)
-    {
+    if (length < 0) {
         return format;
     }
     std::string text(static_cast<std::size_t>(length) + 1, '\0');
@@ -67,8 +63,7 @@ std::string Formatted(const char* format, std::va_list arguments)
 std::string Line(const LogRecord& record)
 {
     std::string line = record.strFile + ':' + std::to_string(record.nLine) + ' ' + record.strFunction + ": ";
-    if (!record.strTag.empty())
-    {
+    if (!record.strTag.empty()) {
         line += '[' + record.strTag + "] ";
     }
     return line += record.strMessage;
@@ -81,13 +76,12 @@ void ReportOnStderr(const char* what, const char* reason)
 
 }  // namespace
 
-class TalPrintLog::Private
-{
+class TalPrintLog::Private {
 public:
     Private()
     {
         logger.set_level(spdlog::level::trace);
-        logger.set_pattern("%Y-%m-%d %H:%M:%S.%e %t %l %v");
+        logger.set_pattern(kPattern);
         logger.flush_on(spdlog::level::trace);
     }
 
@@ -119,8 +113,7 @@ TalPrintLog& TalPrintLog::instance()
 
 void TalPrintLog::Log(const char* file, int line, const char* function, const char* tag, int level, const char* format,
                       ...)
-try
-{
+try {
     LogRecord record{OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, {}};
     std::va_list arguments;
     va_start(arguments, format);
@@ -128,17 +121,12 @@ try
     va_end(arguments);
 
     d->logger.log(SpdlogLevel(level), spdlog::string_view_t(Line(record)));
-    if (const auto observer = d->CurrentObserver())
-    {
+    if (const auto observer = d->CurrentObserver()) {
         (*observer)(record);
     }
-}
-catch (const std::exception& error)
-{
+} catch (const std::exception& error) {
     ReportOnStderr("a record was not logged completely", error.what());
-}
-catch (...)
-{
+} catch (...) {
     ReportOnStderr("a record was not logged completely", "unknown exception");
 }
 
@@ -151,19 +139,16 @@ void TalPrintLog::SetObserver(std::function<void(const LogRecord&)> observer)
 }
 
 void TalPrintLog::SetFile(const std::string& strFileName)
-try
-{
+try {
     const std::lock_guard<std::mutex> lock(d->fileMutex);
     d->sinks->set_sinks({d->stderrSink});
-    if (!strFileName.empty())
-    {
+    if (!strFileName.empty()) {
         auto fileSink =
             std::make_shared<spdlog::sinks::rotating_file_sink_mt>(strFileName, kMaxFileSize, kRotatedFiles);
+        fileSink->set_pattern(kPattern);
         d->sinks->add_sink(std::move(fileSink));
     }
-}
-catch (const std::exception& error)
-{
+} catch (const std::exception& error) {
     ReportOnStderr(strFileName.c_str(), error.what());
 }
 

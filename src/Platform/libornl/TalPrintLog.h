@@ -7,12 +7,10 @@
 #include <string>
 
 /// Logging of the client.
-namespace ornl
-{
+namespace ornl {
 
 /// One record as it was logged.
-struct LogRecord
-{
+struct LogRecord {
     std::string strFile;      ///< source file, empty when none was named
     int nLine = 0;            ///< line in the source file
     std::string strFunction;  ///< function, empty when none was named
@@ -24,8 +22,7 @@ struct LogRecord
 /// The log of the process: writes records to standard error and, once SetFile() named one, to a rotating file.
 ///
 /// Every function may be called from any thread, from static constructors and destructors too, and throws nothing.
-class ORNL_EXPORT TalPrintLog
-{
+class ORNL_EXPORT TalPrintLog {
 public:
     /// The log of the process. It is never destroyed.
     static TalPrintLog& instance();

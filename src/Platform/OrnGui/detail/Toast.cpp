@@ -5,20 +5,16 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QStringList>
 #include <QTextLayout>
 #include <QUrl>
 #include <QVBoxLayout>
 
-namespace ORNGUI::detail
-{
-namespace
-{
+namespace ORNGUI::detail {
+namespace {
 
 constexpr int kWidth = 340;
-constexpr int kCornerRadius = 8;
 constexpr int kAccentWidth = 4;
 constexpr QMargins kMargins(18, 12, 30, 12);
 constexpr int kTextWidth = kWidth - 18 - 30;
@@ -27,8 +23,7 @@ constexpr int kMaxLaidOutLength = 4000;
 constexpr int kCrossSize = 8;
 
 /// The lines of a text at the width of a toast, each with its first character's place in the text.
-struct Lines
-{
+struct Lines {
     QVector<int> starts;
     bool bFit = true;  ///< no more of them than a toast has room for, none too wide
 };
@@ -42,10 +37,8 @@ Lines Broken(const QString& strText, const QFont& font, QTextOption::WrapMode wr
 
     Lines lines;
     layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
-    {
-        if (lines.starts.size() == kMaxLines)
-        {
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        if (lines.starts.size() == kMaxLines) {
             lines.bFit = false;
             break;
         }
@@ -62,21 +55,18 @@ QString Fitted(const QString& strText, const QFont& font)
 {
     QString strLaidOut = strText.left(kMaxLaidOutLength);
     strLaidOut.replace(QLatin1Char('\n'), QChar::LineSeparator);
-    if (strText.size() <= kMaxLaidOutLength && Broken(strLaidOut, font, QTextOption::WordWrap).bFit)
-    {
+    if (strText.size() <= kMaxLaidOutLength && Broken(strLaidOut, font, QTextOption::WordWrap).bFit) {
         return strText;
     }
 
     const Lines lines = Broken(strLaidOut, font, QTextOption::WrapAtWordBoundaryOrAnywhere);
     QStringList parts;
-    for (int i = 0; i < lines.starts.size(); ++i)
-    {
+    for (int i = 0; i < lines.starts.size(); ++i) {
         const int nStart = lines.starts.at(i);
         const bool bLast = i + 1 == lines.starts.size();
         QString part = strLaidOut.mid(nStart, bLast ? -1 : lines.starts.at(i + 1) - nStart);
         part = part.section(QChar::LineSeparator, 0, 0).trimmed();
-        if (bLast && !lines.bFit)
-        {
+        if (bLast && !lines.bFit) {
             part = QFontMetrics(font).elidedText(part + QChar(0x2026), Qt::ElideRight, kTextWidth);
         }
         parts.append(part);
@@ -84,17 +74,10 @@ QString Fitted(const QString& strText, const QFont& font)
     return parts.join(QLatin1Char('\n'));
 }
 
-QPainterPath Outline(const QWidget& widget)
-{
-    QPainterPath outline;
-    outline.addRoundedRect(QRectF(widget.rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius, kCornerRadius);
-    return outline;
-}
-
 }  // namespace
 
 Toast::Toast(const ToastContent& content)
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
+    : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
       m_bStayOpen(content.bStayOpen)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -107,8 +90,7 @@ Toast::Toast(const ToastContent& content)
     pLayout->setContentsMargins(kMargins);
     pLayout->setSpacing(8);
     pLayout->addWidget(MakeText(content.strText));
-    if (content.bWithButton)
-    {
+    if (content.bWithButton) {
         pLayout->addWidget(MakeButton(content.strButtonText, content.strLink), 0, Qt::AlignRight);
     }
     setFixedWidth(kWidth);
@@ -139,8 +121,7 @@ QWidget* Toast::MakeButton(const QString& strButtonText, const QString& strLink)
     pButton->setText(strShown.replace(QLatin1Char('&'), QLatin1String("&&")));
     connect(pButton, &QPushButton::clicked, this, [this, strLink] {
         close();
-        if (!strLink.isEmpty())
-        {
+        if (!strLink.isEmpty()) {
             QDesktopServices::openUrl(QUrl::fromUserInput(strLink));
         }
     });
@@ -149,8 +130,7 @@ QWidget* Toast::MakeButton(const QString& strButtonText, const QString& strLink)
 
 void Toast::mouseReleaseEvent(QMouseEvent* pEvent)
 {
-    if (rect().contains(pEvent->pos()))
-    {
+    if (rect().contains(pEvent->pos())) {
         close();
     }
 }
@@ -162,26 +142,18 @@ void Toast::closeEvent(QCloseEvent* pEvent)
     emit Closed();
 }
 
-void Toast::resizeEvent(QResizeEvent* pEvent)
-{
-    QWidget::resizeEvent(pEvent);
-    QPainterPath shape;
-    shape.addRoundedRect(rect(), kCornerRadius, kCornerRadius);
-    setMask(QRegion(shape.toFillPolygon().toPolygon()));
-}
-
 void Toast::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().color(QPalette::Base));
-    painter.fillRect(0, 0, kAccentWidth, height(), palette().color(QPalette::Highlight));
 
+    painter.fillRect(0, 0, kAccentWidth, height(), palette().color(QPalette::Highlight));
     QColor line = palette().color(QPalette::Text);
     line.setAlpha(70);
-    painter.strokePath(Outline(*this), QPen(line, 1));
-    if (m_bStayOpen)
-    {
+    painter.setPen(line);
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    if (m_bStayOpen) {
         line.setAlpha(160);
         painter.setPen(QPen(line, 1.5, Qt::SolidLine, Qt::RoundCap));
         const QRectF cross(width() - kCrossSize - 11, 12, kCrossSize, kCrossSize);

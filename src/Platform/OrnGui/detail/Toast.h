@@ -5,12 +5,10 @@
 
 class QLabel;
 
-namespace ORNGUI::detail
-{
+namespace ORNGUI::detail {
 
 /// What a toast is to show.
-struct ToastContent
-{
+struct ToastContent {
     QString strText;
     bool bWithButton = false;
     QString strButtonText;
@@ -19,8 +17,7 @@ struct ToastContent
 };
 
 /// One notification on the screen. It closes when it is clicked; whoever shows it deletes it.
-class Toast : public QWidget
-{
+class Toast : public QWidget {
     Q_OBJECT
 
 public:
@@ -35,7 +32,6 @@ signals:
 protected:
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
     void closeEvent(QCloseEvent* pEvent) override;
-    void resizeEvent(QResizeEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:

@@ -1,6 +1,7 @@
 #include "ToastStack.h"
 
 #include "../OrnWaitDialog.h"
+#include "QuitWatcher.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -9,16 +10,15 @@
 
 #include <algorithm>
 
-namespace ORNGUI::detail
-{
-namespace
-{
+namespace ORNGUI::detail {
+namespace {
 
 constexpr int kLifetimeMs = 5000;
 constexpr int kGoneByMs = 9500;    ///< a timer may be late, and ten seconds are promised
 constexpr int kReadableMs = 1500;  ///< a toast is not worth showing for less
 constexpr int kMaxShown = 6;
-constexpr int kHeightPerToast = 160;    ///< of a tall one
+constexpr int kMaxStaying = 4;
+constexpr int kTallest = 160;
 constexpr std::size_t kMaxPassing = 6;  ///< no more of those that wait can have their turn in time
 constexpr int kMargin = 16;
 constexpr int kSpacing = 8;
@@ -40,19 +40,17 @@ bool IsOnScreen(const QWidget* pWindow)
 QWidget* ActiveWindow()
 {
     QWidget* pWindow = QApplication::activeWindow();
-    while (qobject_cast<OrnWaitDialog*>(pWindow) != nullptr)
-    {
+    while (qobject_cast<OrnWaitDialog*>(pWindow) != nullptr) {
         pWindow = pWindow->parentWidget() != nullptr ? pWindow->parentWidget()->window() : nullptr;
     }
-    return qobject_cast<Toast*>(pWindow) == nullptr ? pWindow : nullptr;
+    return pWindow;
 }
 
 }  // namespace
 
 ToastStack& ToastStack::Instance()
 {
-    if (g_pStack == nullptr)
-    {
+    if (g_pStack == nullptr) {
         g_pStack = new ToastStack;
         // The widgets must go while the QApplication still stands, whether or not it ever ran.
         qAddPostRoutine(DeleteStack);
@@ -62,6 +60,8 @@ ToastStack& ToastStack::Instance()
 
 ToastStack::ToastStack()
 {
+    const auto* pQuitWatcher = new QuitWatcher(this);
+    connect(pQuitWatcher, &QuitWatcher::Quitting, this, &ToastStack::CloseAll);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &ToastStack::CloseAll);
     // The active window is known only after this signal.
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &ToastStack::FollowActiveWindow, Qt::QueuedConnection);
@@ -69,34 +69,28 @@ ToastStack::ToastStack()
 
 ToastStack::~ToastStack()
 {
-    for (const QPointer<Toast>& pToast : qAsConst(m_toasts))
-    {
+    for (const QPointer<Toast>& pToast : qAsConst(m_toasts)) {
         delete pToast;
     }
 }
 
 void ToastStack::Add(const ToastContent& content)
 {
-    if (content.bStayOpen)
-    {
+    if (content.bStayOpen) {
         m_staying.push_back(content);
-    }
-    else
-    {
+    } else {
         m_passing.push_back({content, QDeadlineTimer(kGoneByMs)});
     }
     FollowActiveWindow();
     ShowWaiting();
-    if (m_passing.size() > kMaxPassing)
-    {
+    if (m_passing.size() > kMaxPassing) {
         m_passing.pop_front();
     }
 }
 
 bool ToastStack::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    switch (pEvent->type())
-    {
+    switch (pEvent->type()) {
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
@@ -113,43 +107,37 @@ bool ToastStack::eventFilter(QObject* pWatched, QEvent* pEvent)
 QVector<Toast*> ToastStack::OpenToasts() const
 {
     QVector<Toast*> open;
-    for (const QPointer<Toast>& pToast : m_toasts)
-    {
-        if (pToast && pToast->IsOpen())
-        {
+    for (const QPointer<Toast>& pToast : m_toasts) {
+        if (pToast && pToast->IsOpen()) {
             open.append(pToast);
         }
     }
     return open;
 }
 
-int ToastStack::Capacity() const
-{
-    return std::clamp(Area().height() / kHeightPerToast, 2, kMaxShown);
-}
-
 /// Toasts that stay leave room for those that pass.
 bool ToastStack::HasRoom(bool bStayOpen) const
 {
     const QVector<Toast*> open = OpenToasts();
-    const auto nStaying = std::count_if(open.begin(), open.end(), [](const Toast* p) { return p->StaysOpen(); });
-    return open.size() < Capacity() && (!bStayOpen || nStaying < Capacity() / 2);
+    int nHeight = bStayOpen ? 2 * kTallest : kTallest;
+    for (const Toast* pToast : open) {
+        nHeight += pToast->height() + kSpacing;
+    }
+    const int nMost = bStayOpen ? kMaxStaying : kMaxShown;
+    return open.isEmpty() || (open.size() < nMost && nHeight <= Area().height());
 }
 
 void ToastStack::ShowWaiting()
 {
-    while (!m_passing.empty() && HasRoom(false))
-    {
+    while (!m_passing.empty() && HasRoom(false)) {
         const Waiting next = m_passing.front();
         m_passing.pop_front();
         const auto nLeftMs = static_cast<int>(next.goneBy.remainingTime());
-        if (nLeftMs >= kReadableMs)
-        {
+        if (nLeftMs >= kReadableMs) {
             Show(next.content, std::min(kLifetimeMs, nLeftMs));
         }
     }
-    while (!m_staying.empty() && HasRoom(true))
-    {
+    while (!m_staying.empty() && HasRoom(true)) {
         const ToastContent next = m_staying.front();
         m_staying.pop_front();
         Show(next, 0);
@@ -164,11 +152,9 @@ void ToastStack::Show(const ToastContent& content, int nLifetimeMs)
     m_toasts.append(pToast);
     connect(pToast, &Toast::Closed, pToast, &QObject::deleteLater);
     connect(pToast, &Toast::Closed, this, &ToastStack::ShowWaiting, Qt::QueuedConnection);
-    if (!content.bStayOpen)
-    {
+    if (!content.bStayOpen) {
         QTimer::singleShot(nLifetimeMs, pToast, &QWidget::close);
     }
-    pToast->setWindowFlag(Qt::WindowStaysOnTopHint, !m_pAnchor);
     pToast->winId();  // makes the window
     pToast->windowHandle()->setTransientParent(m_pAnchor ? m_pAnchor->windowHandle() : nullptr);
     Arrange();
@@ -179,19 +165,15 @@ void ToastStack::Show(const ToastContent& content, int nLifetimeMs)
 void ToastStack::FollowActiveWindow()
 {
     QWidget* pActive = ActiveWindow();
-    if (pActive == nullptr && IsOnScreen(m_pAnchor))
-    {
+    if (pActive == nullptr && IsOnScreen(m_pAnchor)) {
         return;
     }
-    if (pActive != m_pAnchor)
-    {
-        if (m_pAnchor)
-        {
+    if (pActive != m_pAnchor) {
+        if (m_pAnchor) {
             m_pAnchor->removeEventFilter(this);
         }
         m_pAnchor = pActive;
-        if (m_pAnchor)
-        {
+        if (m_pAnchor) {
             m_pAnchor->installEventFilter(this);
         }
     }
@@ -211,19 +193,16 @@ void ToastStack::Arrange()
     const QVector<Toast*> open = OpenToasts();
     const QRect area = Area().adjusted(kMargin, kMargin, -kMargin, -kMargin);
     QPoint corner = area.bottomRight();
-    if (IsOnScreen(m_pAnchor))
-    {
+    if (IsOnScreen(m_pAnchor)) {
         corner = m_pAnchor->mapToGlobal(m_pAnchor->rect().bottomRight()) - QPoint(kMargin, kMargin);
     }
 
     int nHeight = 0;
-    for (const Toast* pToast : open)
-    {
+    for (const Toast* pToast : open) {
         nHeight += pToast->height() + kSpacing;
     }
     corner.setY(qBound(area.top() + nHeight, corner.y(), area.bottom()));
-    for (Toast* pToast : open)
-    {
+    for (Toast* pToast : open) {
         const int nRight = qBound(area.left() + pToast->width(), corner.x(), area.right());
         pToast->move(nRight - pToast->width() + 1, corner.y() - pToast->height() + 1);
         corner.ry() -= pToast->height() + kSpacing;
@@ -234,8 +213,7 @@ void ToastStack::CloseAll()
 {
     m_passing.clear();
     m_staying.clear();
-    for (Toast* pToast : OpenToasts())
-    {
+    for (Toast* pToast : OpenToasts()) {
         pToast->close();
     }
 }

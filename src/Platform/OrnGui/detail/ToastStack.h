@@ -10,12 +10,10 @@
 
 #include <deque>
 
-namespace ORNGUI::detail
-{
+namespace ORNGUI::detail {
 
 /// The toasts on the screen and those that wait for room. It lives as long as the QApplication that it was made under.
-class ToastStack : public QObject
-{
+class ToastStack : public QObject {
     Q_OBJECT
 
 public:
@@ -28,8 +26,7 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    struct Waiting
-    {
+    struct Waiting {
         ToastContent content;
         QDeadlineTimer goneBy;
     };
@@ -37,7 +34,6 @@ private:
     ToastStack();
 
     QVector<Toast*> OpenToasts() const;
-    int Capacity() const;
     bool HasRoom(bool bStayOpen) const;
     QRect Area() const;
 

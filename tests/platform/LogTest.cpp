@@ -1,0 +1,336 @@
+#include <libornl/TalPrintLog.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <cwchar>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+using ornl::LogRecord;
+using ornl::TalPrintLog;
+namespace fs = std::filesystem;
+
+namespace {
+
+TalPrintLog& Log()
+{
+    return TalPrintLog::instance();
+}
+
+void Say(const char* text)
+{
+    Log().Log("Here.cpp", 7, "Here::Say", "", 4, "%s", text);
+}
+
+std::string Content(const fs::path& file)
+{
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+int Count(const std::string& text, const std::string& part)
+{
+    int n = 0;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) {
+        ++n;
+    }
+    return n;
+}
+
+class LogTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string name = (fs::temp_directory_path() / "ornl-test-XXXXXX").string();
+        ASSERT_NE(mkdtemp(name.data()), nullptr);
+        folder = name;
+        Log().SetObserver([this](const LogRecord& record) { records.push_back(record); });
+        testing::internal::CaptureStderr();
+    }
+
+    void TearDown() override
+    {
+        if (capturing) {
+            (void)Stderr();
+        }
+        Log().SetObserver({});
+        Log().SetFile({});
+        fs::remove_all(folder);
+    }
+
+    std::string Stderr()
+    {
+        capturing = false;
+        return testing::internal::GetCapturedStderr();
+    }
+
+    std::vector<LogRecord> records;
+    fs::path folder;
+    bool capturing = true;
+};
+
+TEST_F(LogTest, ObserverGetsTheRecordOnceAndStandardErrorTheLine)
+{
+    Log().Log("src/File", 42, "Space::Function", "tag", 6, "%s is %d %%", "answer", 42);
+
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].strFile, "src/File");
+    EXPECT_EQ(records[0].nLine, 42);
+    EXPECT_EQ(records[0].strFunction, "Space::Function");
+    EXPECT_EQ(records[0].strTag, "tag");
+    EXPECT_EQ(records[0].nLevel, 6);
+    EXPECT_EQ(records[0].strMessage, "answer is 42 %");
+
+    const std::string line = Stderr();
+    EXPECT_NE(line.find("error src/File:42 Space::Function: [tag] answer is 42 %\n"), std::string::npos) << line;
+    EXPECT_EQ(Count(line, "\n"), 1) << line;
+}
+
+TEST_F(LogTest, LevelsAreNamedOnStandardError)
+{
+    struct Row {
+        int nLevel;
+        const char* name;
+    };
+    const Row rows[] = {{-5, "trace"},  {2, "trace"}, {3, "debug"},    {4, "info"},
+                        {5, "warning"}, {6, "error"}, {7, "critical"}, {99, "critical"}};
+    for (const Row& row : rows) {
+        Log().Log("f", row.nLevel, "g", "", row.nLevel, "level-%d-end", row.nLevel);
+        EXPECT_EQ(records.back().nLevel, row.nLevel);
+    }
+    const std::string text = Stderr();
+    for (const Row& row : rows) {
+        const std::string number = std::to_string(row.nLevel);
+        EXPECT_NE(text.find(' ' + std::string(row.name) + " f:" + number + " g: level-" + number + "-end"),
+                  std::string::npos)
+            << text;
+    }
+}
+
+TEST_F(LogTest, NullTextsAreEmpty)
+{
+    const char* const null = nullptr;
+    Log().Log(null, 0, null, null, 4, null);
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].strFile, "");
+    EXPECT_EQ(records[0].strFunction, "");
+    EXPECT_EQ(records[0].strTag, "");
+    EXPECT_EQ(records[0].strMessage, "");
+}
+
+TEST_F(LogTest, TextsThatLookLikeFormatsAreTakenAsTheyAre)
+{
+    Log().Log("{}", 1, "{0}%s", "%n{}", 4, "%s", "%s%n {} {:>99999}");
+    EXPECT_EQ(records.at(0).strMessage, "%s%n {} {:>99999}");
+    EXPECT_NE(Stderr().find("{}:1 {0}%s: [%n{}] %s%n {} {:>99999}\n"), std::string::npos);
+}
+
+TEST_F(LogTest, MessagesOfAnyLengthComeThroughWhole)
+{
+    for (const std::size_t length : {0U, 1U, 255U, 256U, 1023U, 4096U, 65536U, 20U * 1024U * 1024U}) {
+        const std::string message(length, 'm');
+        Log().SetFile((folder / std::to_string(length)).string());
+        Say(message.c_str());
+        EXPECT_EQ(records.back().strMessage, message) << length;
+        EXPECT_NE(Content(folder / std::to_string(length)).find(": " + message + '\n'), std::string::npos) << length;
+    }
+    EXPECT_NE(Stderr().find(std::string(20U * 1024U * 1024U, 'm')), std::string::npos);
+}
+
+TEST_F(LogTest, ZeroByteInAMessageDoesNotEndIt)
+{
+    Log().Log("f", 1, "g", "", 4, "a%cb", '\0');
+    EXPECT_EQ(records.at(0).strMessage, std::string("a\0b", 3));
+}
+
+TEST_F(LogTest, FormatThatCannotBeCarriedOutGivesItsOwnText)
+{
+    const wchar_t invalid[] = {static_cast<wchar_t>(0x7fffffff), 0};
+    Log().Log("f", 1, "g", "", 4, "wide %ls", invalid);
+    EXPECT_EQ(records.at(0).strMessage, "wide %ls");
+}
+
+TEST_F(LogTest, FileGetsTheRecordsUntilAnEmptyNameEndsIt)
+{
+    const fs::path file = folder / fs::u8path("Protokoll-üß-日志.log");
+    Say("before");
+    Log().SetFile(file.u8string());
+    Say("during");
+    Log().SetFile({});
+    Say("after");
+    const std::string content = Content(file);
+    EXPECT_EQ(Count(content, "\n"), 1) << content;
+    EXPECT_NE(content.find("info Here.cpp:7 Here::Say: during\n"), std::string::npos) << content;
+    const std::string text = Stderr();
+    EXPECT_EQ(Count(text, "before") + Count(text, "during") + Count(text, "after"), 3) << text;
+}
+
+TEST_F(LogTest, AnotherFileReplacesTheFirstAndTheSameOneIsContinued)
+{
+    const fs::path first = folder / "first.log";
+    const fs::path second = folder / "made" / "for it" / "second.log";
+    Log().SetFile(first.string());
+    Say("one");
+    Log().SetFile(second.string());
+    Say("two");
+    Log().SetFile(first.string());
+    Log().SetFile(first.string());
+    Say("three");
+    EXPECT_EQ(Count(Content(first), "\n"), 2) << Content(first);
+    EXPECT_NE(Content(first).find("one"), std::string::npos);
+    EXPECT_NE(Content(first).find("three"), std::string::npos);
+    EXPECT_EQ(Count(Content(second), "two"), 1);
+}
+
+TEST_F(LogTest, FileRotatesAndStaysBounded)
+{
+    Log().SetFile((folder / "rotating.log").string());
+    const std::string message(1024 * 1024, 'r');
+    for (int i = 0; i < 40; ++i) {
+        Say(message.c_str());
+    }
+    std::uintmax_t nBytes = 0;
+    int nFiles = 0;
+    for (const auto& file : fs::directory_iterator(folder)) {
+        nBytes += file.file_size();
+        ++nFiles;
+    }
+    EXPECT_EQ(nFiles, 4);
+    EXPECT_LE(nBytes, 21U * 1024U * 1024U);
+}
+
+TEST_F(LogTest, FileThatCannotBeOpenedIsReportedAndStandardErrorGoesOnAlone)
+{
+    const fs::path good = folder / "good.log";
+    Log().SetFile(good.string());
+    EXPECT_NO_THROW(Log().SetFile(folder.string()));
+    EXPECT_NO_THROW(Log().SetFile("/proc/no/such/file.log"));
+    Say("goes on");
+    EXPECT_EQ(Content(good), "");
+    const std::string text = Stderr();
+    EXPECT_EQ(Count(text, folder.string()) > 0, true) << text;
+    EXPECT_NE(text.find("/proc/no/such/file.log"), std::string::npos) << text;
+    EXPECT_NE(text.find("goes on"), std::string::npos) << text;
+}
+
+TEST_F(LogTest, ObserverMayLog)
+{
+    int nCalls = 0;
+    Log().SetObserver([&](const LogRecord& record) {
+        ++nCalls;
+        if (record.strMessage == "outer") {
+            Say("inner");
+        }
+    });
+    Say("outer");
+    EXPECT_EQ(nCalls, 2);
+}
+
+TEST_F(LogTest, ObserverMayReplaceItself)
+{
+    int nFirst = 0;
+    int nSecond = 0;
+    const auto alive = std::make_shared<int>(1);
+    Log().SetObserver([&nFirst, &nSecond, alive](const LogRecord&) {
+        Log().SetObserver([&nSecond](const LogRecord&) { ++nSecond; });
+        nFirst += *alive;  // what the running observer holds outlives its replacement
+    });
+    Say("one");
+    Say("two");
+    EXPECT_EQ(nFirst, 1);
+    EXPECT_EQ(nSecond, 1);
+    EXPECT_EQ(alive.use_count(), 1);
+}
+
+TEST_F(LogTest, ObserverThatIsReleasedMayLog)
+{
+    const std::shared_ptr<int> farewell(new int, [](const int* p) {
+        delete p;
+        Say("farewell");
+    });
+    Log().SetObserver([held = std::shared_ptr<int>(farewell)](const LogRecord&) {});
+    std::weak_ptr<int> watch = farewell;
+    const_cast<std::shared_ptr<int>&>(farewell).reset();
+    Log().SetObserver({});
+    EXPECT_TRUE(watch.expired());
+    EXPECT_NE(Stderr().find("farewell"), std::string::npos);
+}
+
+TEST_F(LogTest, EmptyObserverEndsTheWatch)
+{
+    Say("seen");
+    Log().SetObserver({});
+    Say("unseen");
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].strMessage, "seen");
+}
+
+TEST_F(LogTest, WhatAnObserverThrowsIsDropped)
+{
+    Log().SetObserver([](const LogRecord&) { throw std::runtime_error("from the observer"); });
+    EXPECT_NO_THROW(Say("first"));
+    Log().SetObserver([](const LogRecord&) { throw 5; });
+    EXPECT_NO_THROW(Say("second"));
+    const std::string text = Stderr();
+    EXPECT_NE(text.find("first"), std::string::npos);
+    EXPECT_NE(text.find("second"), std::string::npos);
+}
+
+TEST_F(LogTest, ObserverRunsOnTheThreadThatLogs)
+{
+    std::thread::id seen;
+    Log().SetObserver([&](const LogRecord&) { seen = std::this_thread::get_id(); });
+    std::thread other([] { Say("other"); });
+    const std::thread::id expected = other.get_id();
+    other.join();
+    EXPECT_EQ(seen, expected);
+}
+
+TEST_F(LogTest, ManyThreadsLogWhileObserverAndFileChange)
+{
+    constexpr int kThreads = 4;
+    constexpr int kRecords = 500;
+    std::atomic<int> nSeen = 0;
+    const auto count = [&](const LogRecord&) { ++nSeen; };
+    Log().SetObserver(count);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < kThreads; ++i) {
+        threads.emplace_back([] {
+            for (int n = 0; n < kRecords; ++n) {
+                Say("from a thread");
+            }
+        });
+    }
+    for (int n = 0; n < 50; ++n) {
+        Log().SetObserver(count);
+        Log().SetFile((folder / std::to_string(n % 2)).string());
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(nSeen, kThreads * kRecords);
+    EXPECT_EQ(Count(Stderr(), "Here::Say: from a thread\n"), kThreads * kRecords);
+}
+
+struct LogsAtTheEnd {
+    ~LogsAtTheEnd() { Say("from a static destructor"); }
+};
+
+TEST(LogLifetimeTest, StaticDestructorsMayLog)
+{
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto end = [] {
+        static const LogsAtTheEnd logsAtTheEnd;  // goes after all that logging sets up now
+        Say("first record");
+        std::exit(0);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "from a static destructor");
+}
+
+}  // namespace

@@ -1,0 +1,383 @@
+#include <OrnGui/OrnMessageNotify.h>
+#include <OrnGui/OrnWaitDialog.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using ORNGUI::OrnMessageNotify;
+using ORNGUI::OrnSingleton;
+using ORNGUI::OrnWaitDialog;
+
+namespace {
+
+OrnMessageNotify& Notify()
+{
+    return OrnSingleton<OrnMessageNotify>::Instance();
+}
+
+void Passing(const QString& strText)
+{
+    Notify().AddTextNotification(strText, false, QString(), QString(), false);
+}
+
+void Staying(const QString& strText)
+{
+    Notify().AddTextNotification(strText, false, QString(), QString(), true);
+}
+
+/// The toasts on the screen, the lowest first.
+QWidgetList Toasts()
+{
+    QWidgetList toasts;
+    for (QWidget* pWindow : QApplication::topLevelWidgets()) {
+        if (pWindow->isVisible() && pWindow->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus)) {
+            toasts.append(pWindow);
+        }
+    }
+    std::sort(toasts.begin(), toasts.end(), [](const QWidget* a, const QWidget* b) { return a->y() > b->y(); });
+    return toasts;
+}
+
+QString TextOf(const QWidget* pToast)
+{
+    return pToast->findChild<QLabel*>()->text();
+}
+
+QStringList Texts()
+{
+    QStringList texts;
+    for (const QWidget* pToast : Toasts()) {
+        texts.append(TextOf(pToast));
+    }
+    return texts;
+}
+
+QAbstractButton* ButtonOf(const QWidget* pToast)
+{
+    return pToast->findChild<QAbstractButton*>();
+}
+
+/// Stands for the desktop that opens links.
+class Desktop : public QObject {
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("vms"), this, "Open"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("vms")); }
+
+    QList<QUrl> opened;
+
+public slots:
+    void Open(const QUrl& url) { opened.append(url); }
+};
+
+class NotificationTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        window.setGeometry(100, 100, 500, 500);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(Toasts().isEmpty());
+    }
+
+    void TearDown() override
+    {
+        ASSERT_TRUE(QTest::qWaitFor([] {
+            for (QWidget* pToast : Toasts()) {
+                pToast->close();
+            }
+            QCoreApplication::sendPostedEvents();  // those that waited come up
+            return Toasts().isEmpty();
+        }));
+    }
+
+    QWidget window;
+};
+
+TEST_F(NotificationTest, SignalComesOnceAndInsideTheCall)
+{
+    QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
+    Passing(QStringLiteral("<i>text</i>"));
+    ASSERT_EQ(added.count(), 1);
+    EXPECT_EQ(added.first().first().toString(), QStringLiteral("<i>text</i>"));
+}
+
+TEST_F(NotificationTest, ToastIsShownAtOnceAndTakesNoFocus)
+{
+    Passing(QStringLiteral("Saved"));
+    ASSERT_EQ(Texts(), QStringList(QStringLiteral("Saved")));
+    const QWidget* pToast = Toasts().first();
+    EXPECT_TRUE(pToast->testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_TRUE(pToast->windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_FALSE(pToast->testAttribute(Qt::WA_QuitOnClose));
+    QTest::qWait(50);
+    EXPECT_EQ(QApplication::activeWindow(), &window);
+}
+
+TEST_F(NotificationTest, TextIsPlain)
+{
+    const QString strText = QStringLiteral("<b>bold</b> &amp; <a href=\"x\">link</a>");
+    Passing(strText);
+    const auto* pLabel = Toasts().first()->findChild<QLabel*>();
+    EXPECT_EQ(pLabel->textFormat(), Qt::PlainText);
+    EXPECT_EQ(pLabel->text(), strText);
+    EXPECT_EQ(ButtonOf(Toasts().first()), nullptr);
+}
+
+TEST_F(NotificationTest, ToastsStackInTheCornerOfTheActiveWindowAndFollowIt)
+{
+    for (const char* text : {"one", "two", "three"}) {
+        Staying(QString::fromUtf8(text));
+    }
+    Passing(QStringLiteral("four"));
+    const auto expectStacked = [&](const char* step) {
+        const QWidgetList toasts = Toasts();
+        ASSERT_GE(toasts.size(), 3) << step;
+        QRect free = window.geometry();
+        for (const QWidget* pToast : toasts) {
+            EXPECT_TRUE(free.contains(pToast->geometry())) << step;
+            EXPECT_EQ(window.geometry().right() - pToast->geometry().right(), 16) << step;
+            free.setBottom(pToast->y() - 1);
+        }
+        EXPECT_EQ(window.geometry().bottom() - toasts.first()->geometry().bottom(), 16) << step;
+    };
+    expectStacked("shown");
+    window.move(180, 120);
+    expectStacked("moved");
+    window.resize(450, 520);
+    expectStacked("resized");
+}
+
+TEST_F(NotificationTest, WithoutAnActiveWindowTheyStackInTheCornerOfTheScreen)
+{
+    window.hide();
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() == nullptr; }));
+    Staying(QStringLiteral("one"));
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(area.bottomRight() - Toasts().first()->geometry().bottomRight(), QPoint(16, 16));
+}
+
+TEST_F(NotificationTest, TheyGoToAnotherWindowThatBecomesActive)
+{
+    Staying(QStringLiteral("one"));
+    QWidget other;
+    other.setGeometry(20, 20, 400, 300);
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return other.geometry().contains(Toasts().first()->geometry()); }));
+}
+
+TEST_F(NotificationTest, WaitDialogIsNoPlaceForThem)
+{
+    OrnWaitDialog dialog(&window, true);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    Staying(QStringLiteral("one"));
+    EXPECT_EQ(window.geometry().bottomRight() - Toasts().first()->geometry().bottomRight(), QPoint(16, 16));
+}
+
+TEST_F(NotificationTest, TheyStayOnTheScreenWhateverTheWindow)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const QRect& geometry : {QRect(screen.right() - 50, screen.bottom() - 50, 300, 300),
+                                  QRect(-400, -300, 420, 320), QRect(0, 0, 60, 40)}) {
+        window.setGeometry(geometry);
+        Staying(QStringLiteral("one"));
+        Passing(QStringLiteral("two"));
+        for (const QWidget* pToast : Toasts()) {
+            EXPECT_TRUE(screen.contains(pToast->geometry())) << geometry.x() << ' ' << geometry.y();
+        }
+    }
+}
+
+TEST_F(NotificationTest, StayingToastGoesWithAClickAndTheOthersCloseUp)
+{
+    Staying(QStringLiteral("one"));
+    Staying(QStringLiteral("two"));
+    QTest::mouseClick(Toasts().first(), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return Texts() == QStringList(QStringLiteral("two")) &&
+               window.geometry().bottom() - Toasts().first()->geometry().bottom() == 16;
+    }));
+}
+
+TEST_F(NotificationTest, ClickOnTheTextCountsToo)
+{
+    Staying(QStringLiteral("one"));
+    QTest::mouseClick(Toasts().first()->findChild<QLabel*>(), Qt::LeftButton);
+    EXPECT_TRUE(Toasts().isEmpty());
+}
+
+TEST_F(NotificationTest, ToastCanBeClickedDuringAWait)
+{
+    OrnWaitDialog dialog(&window, true);
+    Staying(QStringLiteral("one"));
+    QTimer::singleShot(0, &window, [&] {
+        EXPECT_TRUE(dialog.isModal());
+        // Through the window, which a modal dialog would block.
+        QTest::mouseClick(Toasts().first()->windowHandle(), Qt::LeftButton, {}, QPoint(10, 10));
+        EXPECT_TRUE(Toasts().isEmpty());
+        dialog.OnStopWaitImmediately();
+    });
+    dialog.exec();
+}
+
+TEST_F(NotificationTest, ManyThatStayAreAllShownInTurn)
+{
+    constexpr int kMany = 40;
+    for (int i = 0; i < kMany; ++i) {
+        Staying(QString::number(i));
+    }
+    QStringList seen;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_LE(Toasts().size(), 6);
+        if (!Toasts().isEmpty()) {
+            seen.append(TextOf(Toasts().first()));
+            QTest::mouseClick(Toasts().first(), Qt::LeftButton);
+        }
+        return seen.size() == kMany;
+    }));
+    seen.removeDuplicates();
+    EXPECT_EQ(seen.size(), kMany);
+}
+
+TEST_F(NotificationTest, ThoseThatStayLeaveRoomForThosePassing)
+{
+    for (int i = 0; i < 40; ++i) {
+        Staying(QString::number(i));
+    }
+    Passing(QStringLiteral("passing"));
+    EXPECT_TRUE(Texts().contains(QStringLiteral("passing")));
+}
+
+TEST_F(NotificationTest, ButtonOpensTheLinkAndClosesItsToast)
+{
+    Desktop desktop;
+    Notify().AddTextNotification(QStringLiteral("Export finished"), true, QStringLiteral("Show & tell"),
+                                 QStringLiteral("vms://export/7?a=b&c=%20d"), true);
+    Staying(QStringLiteral("other"));
+    QAbstractButton* pButton = ButtonOf(Toasts().first());
+    ASSERT_NE(pButton, nullptr);
+    EXPECT_EQ(pButton->text(), QStringLiteral("Show && tell"));
+    EXPECT_EQ(pButton->focusPolicy(), Qt::NoFocus);
+    QTest::mouseClick(pButton, Qt::LeftButton);
+    EXPECT_EQ(Texts(), QStringList(QStringLiteral("other")));
+    EXPECT_EQ(desktop.opened, QList<QUrl>{QUrl(QStringLiteral("vms://export/7?a=b&c=%20d"))});
+}
+
+TEST_F(NotificationTest, ClickBesideTheButtonOpensNothing)
+{
+    Desktop desktop;
+    Notify().AddTextNotification(QStringLiteral("text"), true, QString(), QStringLiteral("vms://x"), true);
+    QTest::mouseClick(Toasts().first(), Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_TRUE(Toasts().isEmpty());
+    EXPECT_TRUE(desktop.opened.isEmpty());
+}
+
+TEST_F(NotificationTest, ButtonMayLackTextAndLink)
+{
+    Notify().AddTextNotification(QStringLiteral("text"), true, QString(), QString(), true);
+    ASSERT_NE(ButtonOf(Toasts().first()), nullptr);
+    EXPECT_FALSE(ButtonOf(Toasts().first())->text().isEmpty());
+    QTest::mouseClick(ButtonOf(Toasts().first()), Qt::LeftButton);
+    EXPECT_TRUE(Toasts().isEmpty());
+}
+
+TEST_F(NotificationTest, NothingToSayShowsNoToast)
+{
+    QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
+    Staying(QString());
+    Staying(QStringLiteral(" \n\t"));
+    EXPECT_EQ(added.count(), 2);
+    EXPECT_TRUE(Toasts().isEmpty());
+    Notify().AddTextNotification(QString(), true, QStringLiteral("Open"), QString(), true);
+    EXPECT_EQ(Toasts().size(), 1);
+}
+
+TEST_F(NotificationTest, ToastsAreBoundedHoweverLongTheText)
+{
+    const QString word = QStringLiteral("word ");
+    for (const QString& strText :
+         {QString(1'000'000, QLatin1Char('x')), word.repeated(100'000), QString(5000, QLatin1Char('\n')),
+          QString(3000, QChar(0x4f1a)), QStringLiteral("a\n").repeated(100), QString(300, QLatin1Char('W'))}) {
+        Notify().AddTextNotification(strText, true, strText, QString(), true);
+        ASSERT_FALSE(Toasts().isEmpty() && !strText.trimmed().isEmpty());
+        for (QWidget* pToast : Toasts()) {
+            EXPECT_LE(pToast->height(), 160);
+            EXPECT_LE(pToast->width(), 400);
+            const auto* pLabel = pToast->findChild<QLabel*>();
+            EXPECT_LE(pLabel->fontMetrics().size(0, pLabel->text()).width(), pLabel->width());
+            EXPECT_LE(ButtonOf(pToast)->geometry().right(), pToast->width());
+            EXPECT_TRUE(strText.trimmed().isEmpty() || pLabel->text().endsWith(QChar(0x2026)) || strText.size() == 300)
+                << strText.left(20).toStdString();
+            pToast->close();
+        }
+        QTest::qWait(0);
+    }
+}
+
+TEST_F(NotificationTest, TextOfAFewLinesIsShownWhole)
+{
+    const QString strText = QStringLiteral("A message that needs some lines of the toast before all of it is told,\n"
+                                           "with a break of its own.");
+    Staying(strText);
+    EXPECT_EQ(Texts(), QStringList(strText));
+    EXPECT_GT(Toasts().first()->height(), 60);
+}
+
+TEST_F(NotificationTest, PassingToastGoesAfterAboutFiveSecondsAndOneThatStaysDoesNot)
+{
+    QElapsedTimer clock;
+    clock.start();
+    Passing(QStringLiteral("passing"));
+    Staying(QStringLiteral("staying"));
+    EXPECT_TRUE(QTest::qWaitFor([] { return Texts() == QStringList(QStringLiteral("staying")); }, 8000));
+    EXPECT_GE(clock.elapsed(), 4000);
+    EXPECT_LE(clock.elapsed(), 6500);
+}
+
+TEST_F(NotificationTest, ThousandsAreGoneWithinTenSeconds)
+{
+    constexpr int kMany = 3000;
+    QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; i < kMany; ++i) {
+        Passing(QString::number(i));
+    }
+    EXPECT_EQ(added.count(), kMany);
+    EXPECT_LE(clock.elapsed(), 2000);
+
+    const qint64 nAdded = clock.elapsed();
+    QStringList seen;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            seen += Texts();
+            EXPECT_LE(Toasts().size(), 6);
+            return Toasts().isEmpty();
+        },
+        15000));
+    EXPECT_LE(clock.elapsed() - nAdded, 10000);
+    EXPECT_TRUE(seen.contains(QStringLiteral("0")));
+    EXPECT_TRUE(seen.contains(QString::number(kMany - 1))) << "the latest is told too";
+}
+
+}  // namespace
+
+#include "NotificationTest.moc"
