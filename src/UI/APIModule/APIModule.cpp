@@ -3,6 +3,7 @@
 #include "APIModule_p.h"
 #include "detail/Log.h"
 #include "detail/Mask.h"
+#include "detail/RunHosted.h"
 
 #include <ErrorLexicon/ErrorLexicon.h>
 #include <OrnGui/OrnMessageNotify.h>
@@ -125,18 +126,26 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
         return -1;
     }
 
-    if (nServerId == kCurrentServer) {
-        nServerId = m_pUserManager->GetCurrentServerId();
-    }
-    const std::shared_ptr<UserLogical::IServer> pServer = m_pUserManager->GetServer(nServerId);
-    if (!pServer) {
+    UserLogical::ServerConnection connection;
+    std::string strToken;
+    const auto askUserManager = [&] {
+        if (nServerId == kCurrentServer) {
+            nServerId = m_pUserManager->GetCurrentServerId();
+        }
+        const std::shared_ptr<UserLogical::IServer> pServer = m_pUserManager->GetServer(nServerId);
+        if (!pServer) {
+            return -1;
+        }
+        pServer->GetConnection(connection);
+        strToken = pServer->GetToken();
+        return 0;
+    };
+    if (RunHosted({kFile, kFunction}, QStringLiteral("userManager"), askUserManager) != 0) {
         return -1;
     }
-    UserLogical::ServerConnection connection;
-    pServer->GetConnection(connection);
 
     auto& param = *static_cast<RequestParam*>(pReqParamData);
-    param.strToken = pServer->GetToken();
+    param.strToken = strToken;
     param.strIp = connection.strHost;
     param.nPort = connection.nPort;
     param.bHttps = m_nHttpsMode != 0;

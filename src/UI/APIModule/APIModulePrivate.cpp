@@ -2,6 +2,7 @@
 
 #include "detail/Log.h"
 #include "detail/Mask.h"
+#include "detail/RunHosted.h"
 #include "Wait.h"
 
 #include <QEventLoop>
@@ -15,7 +16,6 @@
 #include <QVariant>
 
 #include <algorithm>
-#include <exception>
 #include <limits>
 
 namespace APIModule {
@@ -25,6 +25,7 @@ using namespace detail;
 namespace {
 
 constexpr const char* kFile = "src/UI/APIModule/APIModule";
+constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 
 constexpr int kInvalidRequest = -4;
 constexpr int kNetworkError = -18;
@@ -142,22 +143,6 @@ int Milliseconds(int nSeconds)
     return nSeconds > kMostSeconds ? std::numeric_limits<int>::max() : std::max(nSeconds, 0) * kPerSecond;
 }
 
-/// Runs a callable of the host, whose exceptions end here. @return its result, or -1 with a log line when it throws
-template <typename Call>
-int RunHosted(const char* pName, Call call)
-{
-    const LogSite site{kFile, "APIModule::CAPIModule::ExecuteFuncs"};
-    try {
-        return call();
-    } catch (const std::exception& exception) {
-        LogFailure(site, QStringLiteral("Call %1 failed! %1 threw an exception: %2")
-                             .arg(QLatin1String(pName), QString::fromUtf8(exception.what())));
-    } catch (...) {
-        LogFailure(site, QStringLiteral("Call %1 failed! %1 threw an exception.").arg(QLatin1String(pName)));
-    }
-    return -1;
-}
-
 }  // namespace
 
 CAPIModulePrivate::CAPIModulePrivate(CAPIModule* q) : q_ptr(q)
@@ -215,7 +200,7 @@ void CAPIModulePrivate::DetachFromApplication()
 
 int CAPIModulePrivate::Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param)
 {
-    return RunHosted("packetFunc", [&] { return packetFunc(&param); });
+    return RunHosted({kFile, kExecuteFuncs}, QStringLiteral("packetFunc"), [&] { return packetFunc(&param); });
 }
 
 int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& request)
@@ -342,7 +327,10 @@ std::optional<int> CAPIModulePrivate::Judge(const ReplyInfo& reply)
 
 int CAPIModulePrivate::Deliver(const boost::function<int(QJsonObject const&)>& parseFunc, const ReplyInfo& reply)
 {
-    return parseFunc ? RunHosted("parseFunc", [&] { return parseFunc(reply.jsonData); }) : 0;
+    if (!parseFunc) {
+        return 0;
+    }
+    return RunHosted({kFile, kExecuteFuncs}, QStringLiteral("parseFunc"), [&] { return parseFunc(reply.jsonData); });
 }
 
 }  // namespace APIModule
