@@ -18,22 +18,19 @@
 #include <vector>
 
 /// Tables of Packs and Parses: a test file lists its rows and instantiates PackTest and ParseTest with them.
-namespace family_testing
-{
+namespace family_testing {
 
 using testing_support::RowName;
 
 /// Which server identifier a Pack hands on.
-enum class Server
-{
+enum class Server {
     OfCaller,  ///< the one that it is given
     One,       ///< always 1
     Current,   ///< always -1, the user manager's current server
 };
 
 /// One call of a Pack with what it must make of its arguments.
-struct PackRow
-{
+struct PackRow {
     std::string name;
     std::string call;                    ///< such as "CBRMSModule::PacketGetTimeSyncConfig"
     std::function<int(void*, int)> run;  ///< calls the Pack with the RequestParam and the server identifier
@@ -49,13 +46,10 @@ std::ostream& operator<<(std::ostream& stream, const PackRow& row);
 
 /// Runs the Pack for known servers and for an unknown one and compares the request, the server identifier that
 /// reached the user manager, the result and the log line.
-class PackTest : public testing::TestWithParam<PackRow>
-{
-};
+class PackTest : public testing::TestWithParam<PackRow> {};
 
 /// A Parse with its record told as JSON; a value that is no record is told as itself.
-struct Parse
-{
+struct Parse {
     std::string call;                                   ///< such as "CBRMSModule::ParseGetTimeSyncConfig"
     Json fresh;                                         ///< the record as it is made
     Json filled;                                        ///< the record with other values in every field
@@ -78,8 +72,7 @@ Parse MakeParse(const std::string& call, int (*parse)(const QJsonObject&, Record
 }
 
 /// One call of a Parse with what must come of it.
-struct ParseRow
-{
+struct ParseRow {
     std::string name;
     Parse parse;
     QJsonObject reply;
@@ -92,18 +85,11 @@ struct ParseRow
 std::ostream& operator<<(std::ostream& stream, const ParseRow& row);
 
 /// Runs the Parse and compares the result, the record and the log lines.
-class ParseTest : public testing::TestWithParam<ParseRow>
-{
-};
+class ParseTest : public testing::TestWithParam<ParseRow> {};
 
 /// A row written by hand: reply and records are JSON texts.
 ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
              const char* record, const testing_support::LogLines& lines = {});
-
-/// The lines of a failed read.
-testing_support::LogLine EmptyObject();
-testing_support::LogLine MissingKey(const std::string& key);
-testing_support::LogLine UndefinedValue(const std::string& key);
 
 /// Rows for a whole reply and for every reply that differs from it in one place: a key removed or undefined, a value
 /// or an element replaced by others, a list or an object emptied, an element removed; each with a fresh and with a

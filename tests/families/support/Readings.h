@@ -12,16 +12,13 @@
 
 /// What a Parse reads from a reply, step by step in its order. A step names its key and the field that it fills, which
 /// has the key's name unless another is given.
-namespace family_testing
-{
+namespace family_testing {
 
 struct Reading;
 using Readings = std::vector<Reading>;
 
-struct Reading
-{
-    enum Type
-    {
+struct Reading {
+    enum Type {
         Found,
         Int,
         Int64,
@@ -70,6 +67,11 @@ Reading Records(const std::string& key, const Readings& inner, const FieldName& 
 {
     return {Reading::Records, key, field.value_or(key), inner, ToJson(Element{})};
 }
+
+/// The lines of a failed read.
+testing_support::LogLine EmptyObject();
+testing_support::LogLine MissingKey(const std::string& key);
+testing_support::LogLine UndefinedValue(const std::string& key);
 
 /// Follows the steps as a plain reader that shares no code with the library. @return 0 or -1
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines);

@@ -15,8 +15,7 @@
 
 /// Records told as JSON, each field under its name, in both directions. A test describes its records with
 /// BOOST_DESCRIBE_STRUCT in the namespace APIModule, in the order in which the interface lists their fields.
-namespace family_testing
-{
+namespace family_testing {
 
 using Json = nlohmann::json;
 
@@ -39,8 +38,7 @@ void ForEachField(Visit visit)
 template <typename T>
 Json ToJson(const T& value)
 {
-    if constexpr (IsRecord<T>)
-    {
+    if constexpr (IsRecord<T>) {
         Json object = Json::object();
         const void* previous = nullptr;
         ForEachField<T>([&](auto field) {
@@ -50,18 +48,13 @@ Json ToJson(const T& value)
             object[field.name] = ToJson(value.*field.pointer);
         });
         return object;
-    }
-    else if constexpr (IsVector<T>)
-    {
+    } else if constexpr (IsVector<T>) {
         Json array = Json::array();
-        for (const auto& element : value)
-        {
+        for (const auto& element : value) {
             array.push_back(ToJson(element));
         }
         return array;
-    }
-    else
-    {
+    } else {
         return value;
     }
 }
@@ -69,19 +62,13 @@ Json ToJson(const T& value)
 template <typename T>
 void FromJson(const Json& json, T& value)
 {
-    if constexpr (IsRecord<T>)
-    {
+    if constexpr (IsRecord<T>) {
         ForEachField<T>([&](auto field) { FromJson(json.at(field.name), value.*field.pointer); });
-    }
-    else if constexpr (IsVector<T>)
-    {
-        for (const Json& element : json)
-        {
+    } else if constexpr (IsVector<T>) {
+        for (const Json& element : json) {
             FromJson(element, value.emplace_back());
         }
-    }
-    else
-    {
+    } else {
         json.get_to(value);
     }
 }
@@ -90,20 +77,13 @@ void FromJson(const Json& json, T& value)
 template <typename T>
 void Fill(T& value)
 {
-    if constexpr (IsRecord<T>)
-    {
+    if constexpr (IsRecord<T>) {
         ForEachField<T>([&](auto field) { Fill(value.*field.pointer); });
-    }
-    else if constexpr (IsVector<T>)
-    {
+    } else if constexpr (IsVector<T>) {
         Fill(value.emplace_back());
-    }
-    else if constexpr (std::is_same_v<T, std::string>)
-    {
+    } else if constexpr (std::is_same_v<T, std::string>) {
         value = "before";
-    }
-    else
-    {
+    } else {
         value = T(77);
     }
 }

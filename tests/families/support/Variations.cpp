@@ -1,0 +1,148 @@
+#include "Family.h"
+#include "Json.h"
+
+#include <QJsonArray>
+#include <QJsonValue>
+
+#include <cctype>
+#include <iterator>
+#include <stdexcept>
+#include <utility>
+
+namespace family_testing {
+
+namespace {
+
+/// A changed value, named after the change.
+struct Variation {
+    std::string name;
+    QJsonValue value;
+};
+
+/// The object with the key there, its value of undefined type.
+QJsonObject WithUndefined(QJsonObject object, const QString& key)
+{
+    object.remove(key);
+    object[key];
+    return object;
+}
+
+std::vector<Variation> Replacements(const QJsonValue& value)
+{
+    std::vector<Variation> variations{{"by_null", QJsonValue()},
+                                      {"by_true", true},
+                                      {"by_fraction", 2.5},
+                                      {"by_digits", QStringLiteral("12")},
+                                      {"by_letters", QStringLiteral("abc")},
+                                      {"by_object", QJsonObject{{QStringLiteral("other"), 1}}},
+                                      {"by_array", QJsonArray{1}}};
+    if (value.isObject()) {
+        variations.push_back({"emptied", QJsonObject()});
+    }
+    if (value.isArray()) {
+        variations.push_back({"emptied", QJsonArray()});
+    }
+    return variations;
+}
+
+/// The value replaced, and the value with one change inside.
+std::vector<Variation> Changes(const QJsonValue& value)
+{
+    std::vector<Variation> changes = Replacements(value);
+    const QJsonObject object = value.toObject();
+    for (const QString& key : object.keys()) {
+        const std::string name = key.toStdString() + "_";
+        QJsonObject changed = object;
+        changed.remove(key);
+        changes.push_back({name + "removed", changed});
+        changes.push_back({name + "undefined", WithUndefined(object, key)});
+        for (const Variation& inner : Changes(object.value(key))) {
+            changed[key] = inner.value;
+            changes.push_back({name + inner.name, changed});
+        }
+    }
+    const QJsonArray array = value.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        const std::string name = std::to_string(i) + "_";
+        QJsonArray changed = array;
+        changed.removeAt(i);
+        changes.push_back({name + "removed", changed});
+        for (const Variation& inner : Changes(array.at(i))) {
+            changed = array;
+            changed[i] = inner.value;
+            changes.push_back({name + inner.name, changed});
+        }
+    }
+    return changes;
+}
+
+std::string TestName(std::string text)
+{
+    for (char& character : text) {
+        if (std::isalnum(static_cast<unsigned char>(character)) == 0) {
+            character = '_';
+        }
+    }
+    return text;
+}
+
+/// Without its class.
+std::string FunctionName(const std::string& call)
+{
+    return call.substr(call.rfind(':') + 1);
+}
+
+ParseRow Predicted(const std::string& name, const Parse& parse, const Readings& readings, const QJsonObject& reply,
+                   const Json& start)
+{
+    ParseRow row{FunctionName(parse.call) + TestName(name), parse, reply, start, 0, start, {}};
+    row.result = ReadReference(reply, readings, row.record, row.lines);
+    return row;
+}
+
+void RequireTwoElements(const QJsonValue& value)
+{
+    if (value.isArray() && value.toArray().size() < 2) {
+        throw std::logic_error("a list of the whole reply has less than two elements");
+    }
+    for (const QJsonValue inner : value.toArray()) {
+        RequireTwoElements(inner);
+    }
+    for (const QJsonValue inner : value.toObject()) {
+        RequireTwoElements(inner);
+    }
+}
+
+}  // namespace
+
+std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply)
+{
+    const QJsonObject whole = JsonObject(wholeReply);
+    RequireTwoElements(whole);
+
+    std::vector<ParseRow> rows;
+    const std::pair<const char*, Json> starts[] = {{"_fresh_", parse.fresh}, {"_filled_", parse.filled}};
+    for (const auto& [startName, start] : starts) {
+        rows.push_back(Predicted(startName + std::string("whole"), parse, readings, whole, start));
+        if (rows.back().result != 0) {
+            throw std::logic_error(parse.call + ": the whole reply lacks something");
+        }
+        for (const Variation& change : Changes(whole)) {
+            if (change.value.isObject()) {
+                rows.push_back(Predicted(startName + change.name, parse, readings, change.value.toObject(), start));
+            }
+        }
+    }
+    return rows;
+}
+
+std::vector<ParseRow> Joined(const std::vector<std::vector<ParseRow>>& lists)
+{
+    std::vector<ParseRow> joined;
+    for (const std::vector<ParseRow>& list : lists) {
+        joined.insert(joined.end(), list.begin(), list.end());
+    }
+    return joined;
+}
+
+}  // namespace family_testing

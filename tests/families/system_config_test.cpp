@@ -1,0 +1,216 @@
+// Settings of the whole platform.
+#include "support/Family.h"
+
+#include <BRMS/BRMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(TimeSyncConfig, (),
+                      (enable, startTime, interval, deviceOnlineTimeSync, enableNtp, ntpIp, ntpPort, ntpSyncInterval))
+BOOST_DESCRIBE_STRUCT(RemoteLogConfigInfo, (), (enable, ip, port, platformId))
+BOOST_DESCRIBE_STRUCT(LocalSettingQueryResult, (), (apply, settingType, settingVersion, settingContent))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::CBRMSModule;
+using APIModule::Method_Get;
+using APIModule::Method_Post;
+using APIModule::Method_Put;
+
+std::function<int(void*, int)> SetTimeSync(const APIModule::TimeSyncConfig& config)
+{
+    return
+        [config](void* param, int nServerId) { return CBRMSModule::PacketSetTimeSyncConfig(param, config, nServerId); };
+}
+
+std::function<int(void*, int)> SetRemoteLog(const APIModule::RemoteLogConfigInfo& config)
+{
+    return [config](void* param, int nServerId) {
+        return CBRMSModule::PacketSetRemoteLogConfig(param, config, nServerId);
+    };
+}
+
+std::function<int(void*, int)> SetLoginModel(int model)
+{
+    return
+        [model](void* param, int nServerId) { return CBRMSModule::PacketSetDeviceLoginModel(param, model, nServerId); };
+}
+
+std::function<int(void*, int)> SetPushAppMsg(bool enable)
+{
+    return [enable](void* param, int nServerId) {
+        return CBRMSModule::PacketSetPushAppMsgConfig(param, enable, nServerId);
+    };
+}
+
+std::function<int(void*, int)> GetLocalSetting(int settingType)
+{
+    return [settingType](void* param, int nServerId) {
+        return CBRMSModule::PacketGetLocalSetting(param, settingType, nServerId);
+    };
+}
+
+std::function<int(void*, int)> UpdateLocalSetting(bool apply, const std::string& content)
+{
+    return [apply, content](void* param, int nServerId) {
+        bool argument = apply;
+        const int nResult = CBRMSModule::PacketUpdateLocalSetting(param, argument, content, nServerId);
+        EXPECT_EQ(argument, apply) << "the argument changed";
+        return nResult;
+    };
+}
+
+std::function<int(void*, int)> UpdateAIPrivacy(bool enable)
+{
+    return [enable](void* param, int nServerId) {
+        return CBRMSModule::PacketUpdateAIPrivacyConfig(param, enable, nServerId);
+    };
+}
+
+const PackRow kPacks[] = {
+    {"GetTimeSyncConfig", "CBRMSModule::PacketGetTimeSyncConfig", &CBRMSModule::PacketGetTimeSyncConfig, Method_Get,
+     "/brms/api/v1.1/config/time-sync"},
+    {"SetTimeSyncConfig", "CBRMSModule::PacketSetTimeSyncConfig",
+     SetTimeSync({true, "02:30:00", 7, false, true, "ntp.example", 123, 60}), Method_Put,
+     "/brms/api/v1.1/config/time-sync",
+     R"({"enable": "1", "startTime": "02:30:00", "interval": "7", "deviceOnlineTimeSync": "0", "enableNtp": "1",
+         "ntpIp": "ntp.example", "ntpPort": "123", "ntpSyncInterval": "60"})"},
+    {"SetTimeSyncConfig_enabled_interval_30_port_minus_1_all_texts", "CBRMSModule::PacketSetTimeSyncConfig",
+     SetTimeSync({true, "", 30, true, false, "", -1, -2147483647 - 1}), Method_Put, "/brms/api/v1.1/config/time-sync",
+     R"({"enable": "1", "startTime": "", "interval": "30", "deviceOnlineTimeSync": "1", "enableNtp": "0",
+         "ntpIp": "", "ntpPort": "-1", "ntpSyncInterval": "-2147483648"})"},
+    {"SetTimeSyncConfig_fresh", "CBRMSModule::PacketSetTimeSyncConfig", SetTimeSync({}), Method_Put,
+     "/brms/api/v1.1/config/time-sync",
+     R"({"enable": "0", "startTime": "", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
+         "ntpIp": "", "ntpPort": "0", "ntpSyncInterval": "0"})"},
+    {"SetTimeSyncConfig_texts_end_at_a_zero_byte", "CBRMSModule::PacketSetTimeSyncConfig",
+     SetTimeSync({false, "a\0b"s, 0, false, false, "\0b"s, 0, 0}), Method_Put, "/brms/api/v1.1/config/time-sync",
+     R"({"enable": "0", "startTime": "a", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
+         "ntpIp": "", "ntpPort": "0", "ntpSyncInterval": "0"})"},
+    {"SetTimeSyncConfig_texts_are_utf8", "CBRMSModule::PacketSetTimeSyncConfig",
+     SetTimeSync({false, "\xC3\xBC \xE4\xB8\xAD", 0, false, false, "invalid \xFF", 0, 0}), Method_Put,
+     "/brms/api/v1.1/config/time-sync",
+     R"({"enable": "0", "startTime": "\u00fc \u4e2d", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
+         "ntpIp": "invalid \ufffd", "ntpPort": "0", "ntpSyncInterval": "0"})"},
+    {"ImmediatelySyncTime", "CBRMSModule::PacketImmediatelySyncTime", &CBRMSModule::PacketImmediatelySyncTime,
+     Method_Post, "/brms/api/v1.1/config/time-sync/immediate"},
+    {"GetRemoteLogConfig", "CBRMSModule::PacketGetRemoteLogConfig", &CBRMSModule::PacketGetRemoteLogConfig, Method_Get,
+     "/brms/api/v1.1/config/remote-log"},
+    {"SetRemoteLogConfig", "CBRMSModule::PacketSetRemoteLogConfig", SetRemoteLog({true, "10.0.0.9", 514, "site 1"}),
+     Method_Put, "/brms/api/v1.1/config/remote-log",
+     R"({"enable": "1", "ip": "10.0.0.9", "port": "514", "platformId": "site 1"})"},
+    {"SetRemoteLogConfig_fresh", "CBRMSModule::PacketSetRemoteLogConfig", SetRemoteLog({}), Method_Put,
+     "/brms/api/v1.1/config/remote-log", R"({"enable": "0", "ip": "", "port": "0", "platformId": ""})"},
+    {"SetRemoteLogConfig_texts_end_at_a_zero_byte", "CBRMSModule::PacketSetRemoteLogConfig",
+     SetRemoteLog({false, "10.0.0.9\0x"s, -514, "site\0x"s}), Method_Put, "/brms/api/v1.1/config/remote-log",
+     R"({"enable": "0", "ip": "10.0.0.9", "port": "-514", "platformId": "site"})"},
+    {"GetDeviceLoginModel", "CBRMSModule::PacketGetDeviceLoginModel", &CBRMSModule::PacketGetDeviceLoginModel,
+     Method_Get, "/brms/api/v1.1/config/device-login-model"},
+    {"SetDeviceLoginModel", "CBRMSModule::PacketSetDeviceLoginModel", SetLoginModel(2), Method_Put,
+     "/brms/api/v1.1/config/device-login-model", R"({"deviceLoginModel": "2"})"},
+    {"SetDeviceLoginModel_negative", "CBRMSModule::PacketSetDeviceLoginModel", SetLoginModel(-2), Method_Put,
+     "/brms/api/v1.1/config/device-login-model", R"({"deviceLoginModel": "-2"})"},
+    {"GetPushAppMsgConfig", "CBRMSModule::PacketGetPushAppMsgConfig", &CBRMSModule::PacketGetPushAppMsgConfig,
+     Method_Get, "/brms/api/v1.1/config/app/push-message"},
+    {"SetPushAppMsgConfig_on_is_a_text", "CBRMSModule::PacketSetPushAppMsgConfig", SetPushAppMsg(true), Method_Put,
+     "/brms/api/v1.1/config/app/push-message", R"({"enablePushMessage": "1"})"},
+    {"SetPushAppMsgConfig_off_is_a_text", "CBRMSModule::PacketSetPushAppMsgConfig", SetPushAppMsg(false), Method_Put,
+     "/brms/api/v1.1/config/app/push-message", R"({"enablePushMessage": "0"})"},
+    {"GetSupportDataBaseType", "CBRMSModule::PacketGetSupportDataBaseType", &CBRMSModule::PacketGetSupportDataBaseType,
+     Method_Get, "/brms/api/v1.1/config/outside-database/support/list"},
+    {"GetLocalSetting_of_type_3", "CBRMSModule::PacketGetLocalSetting", GetLocalSetting(3), Method_Get,
+     "/brms/api/v1.1/config/local/setting?settingType=3"},
+    {"GetLocalSetting_of_negative_type", "CBRMSModule::PacketGetLocalSetting", GetLocalSetting(-12), Method_Get,
+     "/brms/api/v1.1/config/local/setting?settingType=-12"},
+    {"UpdateLocalSetting_apply", "CBRMSModule::PacketUpdateLocalSetting",
+     UpdateLocalSetting(true, "{\"theme\": \"dark %1\"}\n"), Method_Put, "/brms/api/v1.1/config/local/setting",
+     R"({"apply": "1", "settingContent": "{\"theme\": \"dark %1\"}\n"})"},
+    {"UpdateLocalSetting_not_apply", "CBRMSModule::PacketUpdateLocalSetting", UpdateLocalSetting(false, ""), Method_Put,
+     "/brms/api/v1.1/config/local/setting", R"({"apply": "0", "settingContent": ""})"},
+    {"UpdateLocalSetting_content_ends_at_a_zero_byte", "CBRMSModule::PacketUpdateLocalSetting",
+     UpdateLocalSetting(false, "a\0b"s), Method_Put, "/brms/api/v1.1/config/local/setting",
+     R"({"apply": "0", "settingContent": "a"})"},
+    {"GetAIPrivacyConfig", "CBRMSModule::PacketGetAIPrivacyConfig", &CBRMSModule::PacketGetAIPrivacyConfig, Method_Get,
+     "/brms/api/v1.1/config/ai/privacy"},
+    {"UpdateAIPrivacyConfig_on_is_a_number", "CBRMSModule::PacketUpdateAIPrivacyConfig", UpdateAIPrivacy(true),
+     Method_Put, "/brms/api/v1.1/config/ai/privacy", R"({"enable": 1})"},
+    {"UpdateAIPrivacyConfig_off_is_a_number", "CBRMSModule::PacketUpdateAIPrivacyConfig", UpdateAIPrivacy(false),
+     Method_Put, "/brms/api/v1.1/config/ai/privacy", R"({"enable": 0})"},
+};
+
+INSTANTIATE_TEST_SUITE_P(SystemConfig, PackTest, testing::ValuesIn(kPacks), RowName());
+
+const Parse kTimeSync = MakeParse("CBRMSModule::ParseGetTimeSyncConfig", &CBRMSModule::ParseGetTimeSyncConfig);
+const Parse kRemoteLog = MakeParse("CBRMSModule::ParseGetRemoteLogConfig", &CBRMSModule::ParseGetRemoteLogConfig);
+const Parse kLoginModel = MakeParse("CBRMSModule::ParseGetDeviceLoginModel", &CBRMSModule::ParseGetDeviceLoginModel);
+const Parse kPushAppMsg = MakeParse("CBRMSModule::ParseGetPushAppMsgConfig", &CBRMSModule::ParseGetPushAppMsgConfig);
+const Parse kDataBaseType =
+    MakeParse("CBRMSModule::ParseGetSupportDataBaseType", &CBRMSModule::ParseGetSupportDataBaseType);
+const Parse kLocalSetting = MakeParse("CBRMSModule::ParseGetLocalSetting", &CBRMSModule::ParseGetLocalSetting);
+const Parse kAIPrivacy = MakeParse("CBRMSModule::ParseGetAIPrivacyConfig", &CBRMSModule::ParseGetAIPrivacyConfig);
+
+std::vector<ParseRow> ParseRows()
+{
+    return Joined({
+        Variations(kTimeSync,
+                   {Bool("enable"), Text("startTime"), Int("interval"), Bool("deviceOnlineTimeSync"), Bool("enableNtp"),
+                    Text("ntpIp"), Int("ntpPort"), Int("ntpSyncInterval")},
+                   R"({"enable": true, "startTime": "02:30:00", "interval": 7, "deviceOnlineTimeSync": false,
+                       "enableNtp": true, "ntpIp": "ntp.example", "ntpPort": 123, "ntpSyncInterval": 60})"),
+        Variations(kRemoteLog, {Bool("enable"), Text("ip"), Int("port"), Text("platformId")},
+                   R"({"enable": true, "ip": "10.0.0.9", "port": 514, "platformId": "site 1"})"),
+        Variations(kLoginModel, {Int("deviceLoginModel", kItself)}, R"({"deviceLoginModel": 2})"),
+        Variations(kPushAppMsg, {Bool("enablePushMessage", kItself)}, R"({"enablePushMessage": true})"),
+        Variations(kDataBaseType, {NumbersOfTexts("databaseTypes", kItself)}, R"({"databaseTypes": ["1", "3"]})"),
+        Variations(kLocalSetting, {Bool("apply"), Int("settingType"), Int64("settingVersion"), Text("settingContent")},
+                   R"({"apply": true, "settingType": 3, "settingVersion": 5000000000, "settingContent": "{}"})"),
+        Variations(kAIPrivacy, {Int("enable", kItself)}, R"({"enable": 1})"),
+        {
+            Row("TimeSync_without_ntpIp_keeps_the_five_fields_before_it", kTimeSync,
+                R"({"enable": true, "startTime": "02:30:00", "interval": 7, "deviceOnlineTimeSync": false,
+                    "enableNtp": true, "ntpPort": 123, "ntpSyncInterval": 60})",
+                R"({"enable": false, "startTime": "", "interval": 0, "deviceOnlineTimeSync": true,
+                    "enableNtp": false, "ntpIp": "before", "ntpPort": 8, "ntpSyncInterval": 9})",
+                -1,
+                R"({"enable": true, "startTime": "02:30:00", "interval": 7, "deviceOnlineTimeSync": false,
+                    "enableNtp": true, "ntpIp": "before", "ntpPort": 8, "ntpSyncInterval": 9})",
+                {MissingKey("ntpIp")}),
+            Row("TimeSync_converts_texts_and_null", kTimeSync,
+                R"({"enable": "1", "startTime": null, "interval": "12", "deviceOnlineTimeSync": "false",
+                    "enableNtp": 0, "ntpIp": 12, "ntpPort": "abc", "ntpSyncInterval": true})",
+                R"({"enable": false, "startTime": "before", "interval": 0, "deviceOnlineTimeSync": true,
+                    "enableNtp": true, "ntpIp": "", "ntpPort": 8, "ntpSyncInterval": 9})",
+                0,
+                R"({"enable": true, "startTime": "", "interval": 12, "deviceOnlineTimeSync": false,
+                    "enableNtp": false, "ntpIp": "12", "ntpPort": 0, "ntpSyncInterval": 1})"),
+            Row("RemoteLog_of_an_empty_object", kRemoteLog, "{}",
+                R"({"enable": true, "ip": "a", "port": 1, "platformId": "b"})", -1,
+                R"({"enable": true, "ip": "a", "port": 1, "platformId": "b"})", {EmptyObject()}),
+            Row("DataBaseType_appends_1_and_3_behind_7", kDataBaseType, R"({"databaseTypes": ["1", "3"]})", "[7]", 0,
+                "[7, 1, 3]"),
+            Row("DataBaseType_of_numbers_appends_zeros_behind_7", kDataBaseType, R"({"databaseTypes": [1, 3]})", "[7]",
+                0, "[7, 0, 0]"),
+            Row("DataBaseType_of_texts_that_are_no_decimal_numbers", kDataBaseType,
+                R"({"databaseTypes": ["", "x", "0x10", "010", "-4", " 5", "99999999999", null]})", "[]", 0,
+                "[0, 0, 0, 10, -4, 5, 0, 0]"),
+            Row("DataBaseType_of_an_empty_list", kDataBaseType, R"({"databaseTypes": []})", "[7]", 0, "[7]"),
+            Row("LocalSetting_version_beyond_32_bits", kLocalSetting,
+                R"({"apply": false, "settingType": 3, "settingVersion": 9007199254740991, "settingContent": "a"})",
+                R"({"apply": true, "settingType": 0, "settingVersion": 0, "settingContent": ""})", 0,
+                R"({"apply": false, "settingType": 3, "settingVersion": 9007199254740991, "settingContent": "a"})"),
+            Row("LocalSetting_content_with_a_zero_byte_and_utf8", kLocalSetting,
+                R"({"apply": false, "settingType": 3, "settingVersion": 1, "settingContent": "a\u0000b\u00fc"})",
+                R"({"apply": true, "settingType": 0, "settingVersion": 0, "settingContent": ""})", 0,
+                R"({"apply": false, "settingType": 3, "settingVersion": 1, "settingContent": "a\u0000b\u00fc"})"),
+            Row("AIPrivacy_of_the_number_1", kAIPrivacy, R"({"enable": 1})", "0", 0, "1"),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(SystemConfig, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace
