@@ -7,11 +7,8 @@ namespace APIModule {
 /// The ECOS family; it has no calls.
 class APIMODULE_EXPORT CECOSModule {
 public:
-    CECOSModule() = default;
-    CECOSModule(const CECOSModule&) = default;
-    CECOSModule(CECOSModule&&) = default;
-    CECOSModule& operator=(const CECOSModule& other);
-    CECOSModule& operator=(CECOSModule&& other) noexcept;
+    CECOSModule& operator=(const CECOSModule& other);      ///< Does nothing: the class has no data.
+    CECOSModule& operator=(CECOSModule&& other) noexcept;  ///< Does nothing: the class has no data.
 };
 
 }  // namespace APIModule

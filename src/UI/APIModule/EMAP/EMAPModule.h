@@ -7,11 +7,8 @@ namespace APIModule {
 /// The EMAP family; it has no calls.
 class APIMODULE_EXPORT CEMAPModule {
 public:
-    CEMAPModule() = default;
-    CEMAPModule(const CEMAPModule&) = default;
-    CEMAPModule(CEMAPModule&&) = default;
-    CEMAPModule& operator=(const CEMAPModule& other);
-    CEMAPModule& operator=(CEMAPModule&& other) noexcept;
+    CEMAPModule& operator=(const CEMAPModule& other);      ///< Does nothing: the class has no data.
+    CEMAPModule& operator=(CEMAPModule&& other) noexcept;  ///< Does nothing: the class has no data.
 };
 
 }  // namespace APIModule

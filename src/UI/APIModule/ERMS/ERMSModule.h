@@ -7,11 +7,8 @@ namespace APIModule {
 /// The ERMS family; it has no calls.
 class APIMODULE_EXPORT CERMSModule {
 public:
-    CERMSModule() = default;
-    CERMSModule(const CERMSModule&) = default;
-    CERMSModule(CERMSModule&&) = default;
-    CERMSModule& operator=(const CERMSModule& other);
-    CERMSModule& operator=(CERMSModule&& other) noexcept;
+    CERMSModule& operator=(const CERMSModule& other);      ///< Does nothing: the class has no data.
+    CERMSModule& operator=(CERMSModule&& other) noexcept;  ///< Does nothing: the class has no data.
 };
 
 }  // namespace APIModule

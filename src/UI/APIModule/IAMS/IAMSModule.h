@@ -7,11 +7,8 @@ namespace APIModule {
 /// The IAMS family; it has no calls.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule() = default;
-    CIAMSModule(const CIAMSModule&) = default;
-    CIAMSModule(CIAMSModule&&) = default;
-    CIAMSModule& operator=(const CIAMSModule& other);
-    CIAMSModule& operator=(CIAMSModule&& other) noexcept;
+    CIAMSModule& operator=(const CIAMSModule& other);      ///< Does nothing: the class has no data.
+    CIAMSModule& operator=(CIAMSModule&& other) noexcept;  ///< Does nothing: the class has no data.
 };
 
 }  // namespace APIModule
