@@ -18,7 +18,7 @@ constexpr int kWidth = 340;
 constexpr int kAccentWidth = 4;
 constexpr QMargins kMargins(18, 12, 30, 12);
 constexpr int kTextWidth = kWidth - 18 - 30;
-constexpr int kMaxLines = 5;
+constexpr int kMaxLines = 4;
 constexpr int kMaxLaidOutLength = 4000;
 constexpr int kCrossSize = 8;
 
@@ -94,7 +94,7 @@ Toast::Toast(const ToastContent& content)
         pLayout->addWidget(MakeButton(content.strButtonText, content.strLink), 0, Qt::AlignRight);
     }
     setFixedWidth(kWidth);
-    setFixedHeight(pLayout->heightForWidth(kWidth));
+    setFixedHeight(pLayout->hasHeightForWidth() ? pLayout->heightForWidth(kWidth) : sizeHint().height());
 }
 
 QWidget* Toast::MakeText(const QString& strText)
