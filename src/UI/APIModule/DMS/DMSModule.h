@@ -1,10 +1,21 @@
 #pragma once
 
 #include "../APIModuleGlobal.h"
+#include "Ptz.h"
+
+#include <QJsonObject>
+
+#include <string>
+#include <vector>
 
 namespace APIModule {
 
-/// The DMS family; it has no calls.
+/// Calls of the device management service.
+///
+/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
+/// user manager's current one) where it has one; it returns 0, or the -1 of CAPIModule::GetRequestParam() with the
+/// record untouched, and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0,
+/// or -1 at the first key that cannot be read: what was read before that key stays filled, the rest is untouched.
 class APIMODULE_EXPORT CDMSModule {
 public:
     CDMSModule() = default;
@@ -12,6 +23,43 @@ public:
     CDMSModule(CDMSModule&&) = default;
     CDMSModule& operator=(const CDMSModule& other);
     CDMSModule& operator=(CDMSModule&& other) noexcept;
+
+    /// @name PTZ
+    /// Wash function and home position of pan-tilt-zoom cameras. The wash calls use the administration interface and
+    /// always address server 1. The home position calls use the REST interface and name the channel in the URL: its
+    /// bytes up to the first zero byte, each one a Latin-1 character, nothing escaped.
+    /// @{
+
+    /// Switches the wash function of a channel on: POST /admin/API/DMS/Ptz/AuxControl, always on server 1
+    ///
+    /// Body: "data", an object with "channelId", a text, and "command", always the number 1.
+    static int PackeWashOpen(void* pReqParamData, std::string channelId);
+    /// Reads "lockUser", then fills "result", and from a "lockUser" that is not empty "userName", "userLevel" and
+    /// "lowerDomain" in this order; with an empty one the three stay as they are. Without "lockUser" nothing is filled.
+    static int ParseWashOpen(const QJsonObject& data, PtzWashStatus& status);
+
+    /// Switches the wash function of several channels on: POST /admin/API/DMS/Ptz/AuxBatchControl, always on server 1
+    ///
+    /// Body: "data", an object with "ptzAuxControlXos", a list with "channelId", a text, and "command", always the
+    /// number 1, of each channel in the given order; an empty list for no @p channelIds, which are not changed.
+    static int PackeBatchWashOpen(void* pReqParamData, std::vector<std::string>& channelIds);
+    /// Fills "result", then "msg".
+    static int ParseBatchWashOpen(const QJsonObject& data, PtzBatchWashStatus& status);
+
+    /// Makes the present position of a channel its home position:
+    /// POST /brms/api/v1.1/ptz/channel/{channelId}/home-position/configure, no body
+    static int PackeSetHomePosition(void* pReqParamData, std::string channelId, int nServerId);
+    /// Reads as ParseWashOpen() does.
+    static int ParseSetHomePosition(const QJsonObject& data, PtzPositionResetReq& status);
+
+    /// Moves a channel to its home position:
+    /// POST /brms/api/v1.1/ptz/channel/{channelId}/home-position/goto, no body
+    ///
+    /// Its log texts are those of PackeSetHomePosition().
+    static int PackeGotoHomePosition(void* pReqParamData, std::string channelId, int nServerId);
+    /// Reads as ParseWashOpen() does.
+    static int ParseGotoHomePosition(const QJsonObject& data, PtzPositionResetReq& status);
+    /// @}
 };
 
 }  // namespace APIModule

@@ -2,6 +2,30 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+
 namespace APIModule {
+
+/// What came of the wash command of one channel, and who holds the lock of its PTZ control.
+struct PtzWashStatus {
+    std::string result;       ///< "result": the server's text or code, kept as text
+    std::string userName;     ///< "lockUser"/"userName": who holds the lock, where someone does
+    std::string userLevel;    ///< "lockUser"/"userLevel": level of that user, kept as text
+    std::string lowerDomain;  ///< "lockUser"/"lowerDomain": the lower domain of that user
+};
+
+/// What came of the wash command of several channels.
+struct PtzBatchWashStatus {
+    std::string result;  ///< "result": the server's text or code, kept as text
+    std::string msg;     ///< "msg": the server's text or code, kept as text
+};
+
+/// What came of a home position command, and who holds the lock of the channel's PTZ control.
+struct PtzPositionResetReq {
+    std::string result;       ///< "result": the server's text or code, kept as text
+    std::string userName;     ///< "lockUser"/"userName": who holds the lock, where someone does
+    std::string userLevel;    ///< "lockUser"/"userLevel": level of that user, kept as text
+    std::string lowerDomain;  ///< "lockUser"/"lowerDomain": the lower domain of that user
+};
 
 }  // namespace APIModule
