@@ -2,13 +2,35 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+#include <vector>
+
 namespace APIModule {
 
-/// The IAMS family; it has no calls.
+/// Calls of the intelligent analysis service.
+///
+/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
+/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
+/// and writes one log line either way.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule& operator=(const CIAMSModule& other);      ///< Does nothing: the class has no data.
-    CIAMSModule& operator=(CIAMSModule&& other) noexcept;  ///< Does nothing: the class has no data.
+    CIAMSModule() = default;
+    CIAMSModule(const CIAMSModule&) = default;
+    CIAMSModule(CIAMSModule&&) = default;
+    CIAMSModule& operator=(const CIAMSModule& other);
+    CIAMSModule& operator=(CIAMSModule&& other) noexcept;
+
+    /// @name Analysis tasks
+    /// @{
+
+    /// Marks the file uploads of stream analysis tasks as failed:
+    /// POST /iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch
+    ///
+    /// Body: "ids", a list of texts in the given order, empty for no @p taskIds. There is no Parse: a caller that wants
+    /// the reply reads it with a function of its own.
+    static int PacketSetAnalysisTaskUploadFailed(void* pReqParamData, const std::vector<std::string>& taskIds,
+                                                 int nServerId);
+    /// @}
 };
 
 }  // namespace APIModule
