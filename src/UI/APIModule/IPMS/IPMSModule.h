@@ -1,10 +1,22 @@
 #pragma once
 
 #include "../APIModuleGlobal.h"
+#include "Parking.h"
+
+#include <QJsonObject>
+
+#include <string>
+#include <vector>
 
 namespace APIModule {
 
-/// The IPMS family; it has no calls.
+/// Calls of the parking management service.
+///
+/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
+/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
+/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
+/// key that cannot be read. Every key is mandatory. Lists are appended to what the caller's vector holds, each element
+/// when all of it was read, its inner lists included: a failed parse leaves those before the failing one.
 class APIMODULE_EXPORT CIPMSModule {
 public:
     CIPMSModule() = default;
@@ -12,6 +24,49 @@ public:
     CIPMSModule(CIPMSModule&&) = default;
     CIPMSModule& operator=(const CIPMSModule& other);
     CIPMSModule& operator=(CIPMSModule&& other) noexcept;
+
+    /// @name Parking
+    /// Parking lots, their organisations and the vehicles captured there. Identifiers and codes go into the URL as they
+    /// stand, nothing escaped.
+    /// @{
+
+    /// Lists parking lots in short form: GET
+    /// /ipms/api/v1.1/parking-lot/summary/list?parkingLotIds={parkingLotIds}&mode={mode}
+    ///
+    /// @param pReqParamData the RequestParam
+    /// @param parkingLotIds the parking lots; the caller joins several identifiers into this one text itself
+    /// @param mode the server's code
+    /// @param nServerId the server, -1 for the current one
+    static int PacketGetSimpleParkingLots(void* pReqParamData, const std::string& parkingLotIds, int mode,
+                                          int nServerId);
+    /// Appends the parking lots of "results" up to the first that is not whole, its positions and points included.
+    static int ParseGetSimpleParkingLots(const QJsonObject& data, std::vector<SimpleParkingLotInfoRsp>& lots);
+
+    /// Lists parking lots in detail: GET
+    /// /ipms/api/v1.1/parking-lot/detail/list?parkingLotIds={parkingLotIds}&mode={mode}&orgCode={orgCode}
+    ///
+    /// @param pReqParamData the RequestParam
+    /// @param parkingLotIds the parking lots; the caller joins several identifiers into this one text itself
+    /// @param orgCode the organisation that they belong to
+    /// @param mode the server's code
+    /// @param nServerId the server, -1 for the current one
+    static int PacketGetDetailParkingLots(void* pReqParamData, const std::string& parkingLotIds,
+                                          const std::string& orgCode, int mode, int nServerId);
+    /// Appends the parking lots of "results" up to the first that is not whole, its positions, points and channels
+    /// included.
+    static int ParseGetDetailParkingLots(const QJsonObject& data, std::vector<DatailParkingLotInfoRsp>& lots);
+
+    /// Lists the organisations that parking lots belong to: GET /ipms/api/v1.1/organization/list
+    static int PacketGetParkingOrganization(void* pReqParamData, int nServerId);
+    /// Appends the organisations of "results" up to the first that is not whole.
+    static int ParseGetParkingOrganization(const QJsonObject& data, std::vector<OrganizationInfoRsp>& organizations);
+
+    /// Corrects the plate number of a vehicle capture record: PUT /ipms/api/v1.1/fusion/vehicle-capture/record
+    ///
+    /// Body: "id" and "plateNo", texts. There is no Parse.
+    static int PacketUpdateVehicleCaptureRecord(void* pReqParamData, const UpdateVehicleCaptureRecordInfo& info,
+                                                int nServerId);
+    /// @}
 };
 
 }  // namespace APIModule
