@@ -2,4 +2,87 @@
 
 namespace APIModule {
 
+/// The managed persons are always asked from the user manager's current server.
+static constexpr int kCurrentServerId = -1;
+
+static int ReadRecord(const QJsonObject& element, PersonOrgInfo& organization)
+{
+    return ReadFields(element, "orgCode", organization.orgCode, "orgName", organization.orgName);
+}
+
+static int ReadRecord(const QJsonObject& element, AccessAuthorizePersonInfo& person)
+{
+    return ReadFields(element, "personId", person.personId, "personName", person.personName, "orgCode", person.orgCode,
+                      "orgName", person.orgName, "orgInfos", person.orgInfos);
+}
+
+static int ReadRecord(const QJsonObject& element, ManagePersonInfo& person)
+{
+    return ReadFields(element, "personId", person.personId, "personName", person.personName, "orgCode", person.orgCode,
+                      "orgName", person.orgName, "errorCode", person.errorCode, "orgInfos", person.orgInfos);
+}
+
+static int ReadRecord(const QJsonObject& element, RuleInfo& rule)
+{
+    return ReadFields(element, "ruleId", rule.ruleId, "ruleName", rule.ruleName, "ruleType", rule.ruleType,
+                      "hasOfflinePoint", rule.hasOfflinePoint);
+}
+
+int COBMSModule::PacketGetPageAccessAuthorizePersons(void* pReqParamData, const GetPageAccessAuthorizePersonsReq& req,
+                                                     int nServerId)
+{
+    return Pack(pReqParamData, kObms, Method_Post,
+                QStringLiteral("/obms/api/v1.1/acs/person/access/authorize/fetch/page"), nServerId,
+                Body({{"page", NumberText(req.page)},
+                      {"pageSize", NumberText(req.pageSize)},
+                      {"containChild", FlagText(req.containChild)},
+                      {"keyword", Text(req.keyword)},
+                      {"deviceCode", Text(req.deviceCode)},
+                      {"orgCode", Text(req.orgCode)},
+                      {"pointIds", TextList(req.pointIds)}}));
+}
+
+int COBMSModule::ParseGetPageAccessAuthorizePersons(const QJsonObject& data, GetPageAccessAuthorizePersonsResp& resp)
+{
+    return ReadPage(data, resp.totalCount, resp.pageData);
+}
+
+int COBMSModule::PacketGetManagePersons(void* pReqParamData, const GetManagePersonReq& req, int /*nServerId*/)
+{
+    return Pack(pReqParamData, kObms, Method_Get,
+                Url(QStringLiteral("/obms/api/v1.1/acs/device/%1/manage/person/list"), Text(req.deviceCode)),
+                kCurrentServerId);
+}
+
+int COBMSModule::ParseGetManagePersons(const QJsonObject& data, std::vector<ManagePersonInfo>& persons)
+{
+    return ReadFields(data, "results", persons);
+}
+
+int COBMSModule::PacketSetManagePersons(void* pReqParamData, const SetManagePersonReq& req, int nServerId)
+{
+    return Pack(pReqParamData, kObms, Method_Put,
+                Url(QStringLiteral("/obms/api/v1.1/acs/device/%1/manage/person"), Text(req.deviceCode)), nServerId,
+                Body({{"personIds", TextList(req.personIds)}}));
+}
+
+int COBMSModule::PackGetPointRules(void* pReqParamData, const GetPointAccessRules& req, int nServerId)
+{
+    return Pack(pReqParamData, kObms, Method_Get,
+                Url(QStringLiteral("/obms/api/v1.1/acp/point/%1/rule/list?ruleType=%2&hasOfflinePoint=%3"),
+                    Text(req.pointId), Text(req.ruleType), req.hasOfflinePoint),
+                nServerId);
+}
+
+int COBMSModule::ParesGetPointRules(const QJsonObject& data, std::vector<RuleInfo>& rules)
+{
+    return ReadFields(data, "results", rules);
+}
+
+int COBMSModule::PackPersonResetAntiPass(void* pReqParamData, const std::string& personId, int nServerId)
+{
+    return Pack(pReqParamData, kObms, Method_Post,
+                Url(QStringLiteral("/obms/api/v1.1/acs/person/%1/anti-pass-time/reset"), Text(personId)), nServerId);
+}
+
 }  // namespace APIModule

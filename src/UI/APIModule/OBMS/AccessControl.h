@@ -2,6 +2,77 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+#include <vector>
+
 namespace APIModule {
+
+/// Which authorised persons to list, and which page of them.
+struct GetPageAccessAuthorizePersonsReq {
+    int page = 0;                       ///< "page": number of the page; sent as a decimal text
+    int pageSize = 0;                   ///< "pageSize": persons of a page; sent as a decimal text
+    bool containChild = false;          ///< "containChild": with the organisations below; sent as "1" or "0"
+    std::string keyword;                ///< "keyword": what to search for
+    std::string deviceCode;             ///< "deviceCode": the access control device
+    std::string orgCode;                ///< "orgCode": the organisation
+    std::vector<std::string> pointIds;  ///< "pointIds": the access points
+};
+
+/// One organisation of a person.
+struct PersonOrgInfo {
+    std::string orgCode;  ///< "orgCode": code of the organisation
+    std::string orgName;  ///< "orgName": its name
+};
+
+/// One person who is authorised at access points.
+struct AccessAuthorizePersonInfo {
+    std::string personId;                 ///< "personId": the person
+    std::string personName;               ///< "personName": the person's name
+    std::string orgCode;                  ///< "orgCode": the person's organisation
+    std::string orgName;                  ///< "orgName": name of that organisation
+    std::vector<PersonOrgInfo> orgInfos;  ///< "orgInfos": the organisations of the person
+};
+
+/// One page of the authorised persons.
+struct GetPageAccessAuthorizePersonsResp {
+    int totalCount = 0;                               ///< "totalCount": persons on all pages
+    std::vector<AccessAuthorizePersonInfo> pageData;  ///< "pageData": the persons of the page
+};
+
+/// The access control device whose managed persons are listed.
+struct GetManagePersonReq {
+    std::string deviceCode;  ///< the device
+};
+
+/// One person who is managed on an access control device.
+struct ManagePersonInfo {
+    std::string personId;                 ///< "personId": the person
+    std::string personName;               ///< "personName": the person's name
+    std::string orgCode;                  ///< "orgCode": the person's organisation
+    std::string orgName;                  ///< "orgName": name of that organisation
+    std::string errorCode;                ///< "errorCode": the server's code, kept as text
+    std::vector<PersonOrgInfo> orgInfos;  ///< "orgInfos": the organisations of the person
+};
+
+/// The persons whom an access control device is to manage.
+struct SetManagePersonReq {
+    std::string deviceCode;              ///< the device
+    std::vector<std::string> personIds;  ///< "personIds": the persons
+};
+
+/// Which access rules to list.
+struct GetPointAccessRules {
+    std::string pointId;      ///< the access point
+    std::string ruleType;     ///< "ruleType": kind of rule, the server's code as text
+    int hasOfflinePoint = 0;  ///< "hasOfflinePoint": a number in the query, a flag in each rule that comes back
+};
+
+/// One access rule of a point.
+struct RuleInfo {
+    std::string ruleId;            ///< "ruleId": identifier of the rule
+    std::string ruleName;          ///< "ruleName": display name
+    std::string ruleType;          ///< "ruleType": kind of rule, the server's code as text
+    bool hasOfflinePoint = false;  ///< "hasOfflinePoint": a point of the rule is offline
+};
 
 }  // namespace APIModule

@@ -2,6 +2,44 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <string>
+#include <vector>
+
 namespace APIModule {
+
+/// The DESFire card configuration of the whole service.
+struct AcsCardConfigParam {
+    bool enableDesfire = false;             ///< "enableDesfire": sent as the text "1" or "0", read as a flag
+    bool enableReadEncryptContent = false;  ///< "enableReadEncryptContent": sent as the text "1" or "0", read as a flag
+};
+
+/// Which page of the devices without the card configuration to list.
+struct ConfigDesFireFailureReq {
+    int page = 0;         ///< "page": number of the page
+    int pageSize = 0;     ///< "pageSize": devices of a page
+    std::string keyword;  ///< "keyword": what to search for
+};
+
+/// One device to which the card configuration could not be issued.
+struct DesfireFailureInfo {
+    std::string id;          ///< "id": identifier of the failure
+    std::string deviceCode;  ///< "deviceCode": the device
+    std::string deviceName;  ///< "deviceName": its name
+    std::string deviceIp;    ///< "deviceIp": its address
+    int reason = 0;          ///< "reason": the server's code
+};
+
+/// One page of the devices to which the card configuration could not be issued.
+struct GetPageConfigDesfireFailureResp {
+    int totalCount = 0;                        ///< "totalCount": devices on all pages
+    std::vector<DesfireFailureInfo> pageData;  ///< "pageData": the devices of the page
+};
+
+/// Which intercom contacts of an outdoor station to delete.
+struct DeleteAddressBookParam {
+    bool deleteAll = false;                   ///< "mode": all of them, sent as "1"; else the listed ones, sent as "2"
+    std::string vtoDeviceCode;                ///< "vtoDeviceCode": the outdoor station
+    std::vector<std::string> vthDeviceCodes;  ///< "vthDeviceCodes": the indoor stations; not sent when all are deleted
+};
 
 }  // namespace APIModule
