@@ -91,10 +91,9 @@ class ParseTest : public testing::TestWithParam<ParseRow> {};
 ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
              const char* record, const testing_support::LogLines& lines = {});
 
-/// Rows for a whole reply and for every reply that differs from it in one place: a key removed or undefined, a value
-/// or an element replaced by others, a list or an object emptied, an element removed; each with a fresh and with a
-/// filled record. What must come of them is told from @p readings. In the whole reply every list has two elements or
-/// more.
+/// Rows for a whole reply and for every reply that differs from it in one place: a key or an element removed or
+/// replaced by other values, a list or an object emptied; each with a fresh and with a filled record. What must come of
+/// them is told from @p readings. In the whole reply every list has two elements or more.
 std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply);
 
 /// Several lists of rows as one.

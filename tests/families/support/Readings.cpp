@@ -101,10 +101,6 @@ private:
             return false;
         }
         value = object.value(name);
-        if (value.type() == QJsonValue::Undefined) {
-            m_lines.push_back(UndefinedValue(key));
-            return false;
-        }
         return true;
     }
 
@@ -171,11 +167,6 @@ testing_support::LogLine EmptyObject()
 testing_support::LogLine MissingKey(const std::string& key)
 {
     return FailedRead("IsKeyValid", "Invalid key: [" + key + "], jsonObject does not contain the key.");
-}
-
-testing_support::LogLine UndefinedValue(const std::string& key)
-{
-    return FailedRead("GetJsonValue", "[" + key + "]: type mismatch. jsonValue's type is undefined.");
 }
 
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines)

@@ -19,14 +19,6 @@ struct Variation {
     QJsonValue value;
 };
 
-/// The object with the key there, its value of undefined type.
-QJsonObject WithUndefined(QJsonObject object, const QString& key)
-{
-    object.remove(key);
-    object[key];
-    return object;
-}
-
 std::vector<Variation> Replacements(const QJsonValue& value)
 {
     std::vector<Variation> variations{{"by_null", QJsonValue()},
@@ -55,7 +47,6 @@ std::vector<Variation> Changes(const QJsonValue& value)
         QJsonObject changed = object;
         changed.remove(key);
         changes.push_back({name + "removed", changed});
-        changes.push_back({name + "undefined", WithUndefined(object, key)});
         for (const Variation& inner : Changes(object.value(key))) {
             changed[key] = inner.value;
             changes.push_back({name + inner.name, changed});

@@ -1,0 +1,118 @@
+// Warnings of the platform's servers.
+#include "support/Family.h"
+
+#include <BRMS/BRMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(CheckHostSpareWarning, (), (warningHappened, warningTime, warningContent))
+BOOST_DESCRIBE_STRUCT(WarnDisk, (), (path, slot))
+BOOST_DESCRIBE_STRUCT(DiskWarmParam, (), (serverIp, serverType, warnDisks))
+BOOST_DESCRIBE_STRUCT(NetWorkItem, (), (netWorkName, netWorkValue))
+BOOST_DESCRIBE_STRUCT(NetWorksParam, (), (netWorks))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using APIModule::CBRMSModule;
+using APIModule::Method_Get;
+
+const PackRow kPacks[] = {
+    {"CheckHotSpareWarning", "CBRMSModule::PacketCheckHotSpareWarning", &CBRMSModule::PacketCheckHotSpareWarning,
+     Method_Get, "/brms/api/v1.1/system/hot-spare/switch/warning"},
+    {"GetBasicServiceWarm", "CBRMSModule::PacketGetBasicServiceWarm", &CBRMSModule::PacketGetBasicServiceWarm,
+     Method_Get, "/brms/api/v1.1/system/only-startup-basic-service/warning"},
+    {"GetDiskWarm", "CBRMSModule::PacketGetDiskWarm", &CBRMSModule::PacketGetDiskWarm, Method_Get,
+     "/brms/api/v1.1/system/warn/disk/list"},
+    {"GetMemoryOutOfServerList", "CBRMSModule::PacketGetMemoryOutOfServerList",
+     &CBRMSModule::PacketGetMemoryOutOfServerList, Method_Get, "/brms/api/v1.1/system/out/memory/server/list"},
+    {"GetNetWorks", "CBRMSModule::PacketGetNetWorks", &CBRMSModule::PacketGetNetWorks, Method_Get,
+     "/brms/api/v1.1/system/network/list"},
+};
+
+INSTANTIATE_TEST_SUITE_P(ServerWarning, PackTest, testing::ValuesIn(kPacks), RowName());
+
+const Parse kHotSpare = MakeParse("CBRMSModule::ParseCheckHotSpareWarning", &CBRMSModule::ParseCheckHotSpareWarning);
+const Parse kBasicService = MakeParse("CBRMSModule::ParseGetBasicServiceWarm", &CBRMSModule::ParseGetBasicServiceWarm);
+const Parse kDisk = MakeParse("CBRMSModule::ParseGetDiskWarm", &CBRMSModule::ParseGetDiskWarm);
+const Parse kMemory =
+    MakeParse("CBRMSModule::ParseGetMemoryOutOfServerList", &CBRMSModule::ParseGetMemoryOutOfServerList);
+const Parse kNetWorks = MakeParse("CBRMSModule::ParseGetNetWorks", &CBRMSModule::ParseGetNetWorks);
+
+std::vector<ParseRow> ParseRows()
+{
+    return Joined({
+        Variations(kHotSpare, {Bool("warningHappened"), Int64("warningTime"), Text("warningContent")},
+                   R"({"warningHappened": true, "warningTime": 1700000000123, "warningContent": "switched to spare"})"),
+        Variations(kBasicService, {Bool("warningHappened", kItself)}, R"({"warningHappened": true})"),
+        Variations(
+            kDisk,
+            {Records<APIModule::DiskWarmParam>("results",
+                                               {Text("serverIp"), Int("serverType"),
+                                                Records<APIModule::WarnDisk>("warnDisks", {Text("path"), Int("slot")})},
+                                               kItself)},
+            R"({"results": [
+                       {"serverIp": "10.0.0.1", "serverType": 2,
+                        "warnDisks": [{"path": "/dev/sda", "slot": 1}, {"path": "/dev/sdb", "slot": 2}]},
+                       {"serverIp": "10.0.0.2", "serverType": 3,
+                        "warnDisks": [{"path": "/dev/sdc", "slot": 3}, {"path": "/dev/sdd", "slot": 4}]}]})"),
+        Variations(kMemory, {Records<std::string>("results", {Text("serverIp", kItself)}, kItself)},
+                   R"({"results": [{"serverIp": "10.0.0.1"}, {"serverIp": "10.0.0.2"}]})"),
+        Variations(kNetWorks,
+                   {Records<APIModule::NetWorkItem>("results", {Text("netWorkName"), Int("netWorkValue")}, "netWorks")},
+                   R"({"results": [{"netWorkName": "LAN", "netWorkValue": 1},
+                                   {"netWorkName": "WAN", "netWorkValue": 2}]})"),
+        {
+            Row("HotSpare_without_warningContent_fills_the_first_two_fields", kHotSpare,
+                R"({"warningHappened": true, "warningTime": 1700000000123})",
+                R"({"warningHappened": false, "warningTime": 5, "warningContent": "before"})", -1,
+                R"({"warningHappened": true, "warningTime": 1700000000123, "warningContent": "before"})",
+                {MissingKey("warningContent")}),
+            Row("HotSpare_time_of_a_text", kHotSpare,
+                R"({"warningHappened": "0", "warningTime": "9007199254740993", "warningContent": null})",
+                R"({"warningHappened": true, "warningTime": 5, "warningContent": "before"})", 0,
+                R"({"warningHappened": false, "warningTime": 9007199254740993, "warningContent": ""})"),
+            Row("Disk_without_slot_drops_its_server_with_the_disk_before_it", kDisk,
+                R"({"results": [{"serverIp": "10.0.0.1", "serverType": 2,
+                                 "warnDisks": [{"path": "/dev/sda", "slot": 1}, {"path": "/dev/sdb"}]}]})",
+                "[]", -1, "[]", {MissingKey("slot")}),
+            Row("Disk_complete_alone_gives_its_server", kDisk,
+                R"({"results": [{"serverIp": "10.0.0.1", "serverType": 2,
+                                 "warnDisks": [{"path": "/dev/sda", "slot": 1}]}]})",
+                "[]", 0,
+                R"([{"serverIp": "10.0.0.1", "serverType": 2, "warnDisks": [{"path": "/dev/sda", "slot": 1}]}])"),
+            Row("Disk_second_server_without_serverType_leaves_the_first", kDisk,
+                R"({"results": [{"serverIp": "10.0.0.1", "serverType": 2, "warnDisks": [{"path": "a", "slot": 1}]},
+                                {"serverIp": "10.0.0.2", "warnDisks": []},
+                                {"serverIp": "10.0.0.3", "serverType": 2, "warnDisks": []}]})",
+                "[]", -1, R"([{"serverIp": "10.0.0.1", "serverType": 2, "warnDisks": [{"path": "a", "slot": 1}]}])",
+                {MissingKey("serverType")}),
+            Row("Disk_server_without_disks_is_appended_behind_what_was_there", kDisk,
+                R"({"results": [{"serverIp": "10.0.0.1", "serverType": 2, "warnDisks": []}]})",
+                R"([{"serverIp": "before", "serverType": 1, "warnDisks": [{"path": "a", "slot": 1}]}])", 0,
+                R"([{"serverIp": "before", "serverType": 1, "warnDisks": [{"path": "a", "slot": 1}]},
+                    {"serverIp": "10.0.0.1", "serverType": 2, "warnDisks": []}])"),
+            Row("Disk_element_that_is_no_object_reads_as_an_empty_one", kDisk, R"({"results": [7]})", "[]", -1, "[]",
+                {EmptyObject()}),
+            Row("Disk_results_that_are_no_list_read_as_an_empty_one", kDisk, R"({"results": {"serverIp": "a"}})", "[]",
+                0, "[]"),
+            Row("Memory_of_an_empty_list_leaves_the_vector", kMemory, R"({"results": []})", R"(["before"])", 0,
+                R"(["before"])"),
+            Row("Memory_appends_up_to_the_first_without_address", kMemory,
+                R"({"results": [{"serverIp": "10.0.0.1"}, {"ip": "10.0.0.2"}, {"serverIp": "10.0.0.3"}]})",
+                R"(["before"])", -1, R"(["before", "10.0.0.1"])", {MissingKey("serverIp")}),
+            Row("NetWorks_second_without_value", kNetWorks,
+                R"({"results": [{"netWorkName": "LAN", "netWorkValue": "1"}, {"netWorkName": "WAN"}]})",
+                R"({"netWorks": [{"netWorkName": "before", "netWorkValue": 9}]})", -1,
+                R"({"netWorks": [{"netWorkName": "before", "netWorkValue": 9},
+                                 {"netWorkName": "LAN", "netWorkValue": 1}]})",
+                {MissingKey("netWorkValue")}),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(ServerWarning, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace
