@@ -347,7 +347,6 @@ TEST_F(NotificationTest, ThousandsAreGoneWithinTenSeconds)
         Passing(QString::number(i));
     }
     EXPECT_EQ(added.count(), kMany);
-    EXPECT_LE(clock.elapsed(), 2000);
 
     const qint64 nAdded = clock.elapsed();
     QStringList seen;

@@ -45,7 +45,7 @@ public:
         m_pChosen = found != m_languages.end() ? &found->second : &m_languages[kDefaultLanguage];
     }
 
-    const std::string* Find(int nErrorCode) const
+    [[nodiscard]] const std::string* Find(int nErrorCode) const
     {
         const Texts& texts = *m_pChosen.load();
         const auto found = texts.find(nErrorCode);

@@ -16,7 +16,7 @@ namespace {
 
 using Observer = std::function<void(const LogRecord&)>;
 
-constexpr std::size_t kMaxFileSize = 5U * 1024U * 1024U;
+constexpr std::size_t kMaxFileSize = std::size_t{5} * 1024 * 1024;
 constexpr std::size_t kRotatedFiles = 3;
 constexpr const char* kPattern = "%Y-%m-%d %H:%M:%S.%e %t %l %v";
 

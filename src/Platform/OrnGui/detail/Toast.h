@@ -23,8 +23,8 @@ class Toast : public QWidget {
 public:
     explicit Toast(const ToastContent& content);
 
-    bool StaysOpen() const { return m_bStayOpen; }
-    bool IsOpen() const { return m_bOpen; }
+    [[nodiscard]] bool StaysOpen() const { return m_bStayOpen; }
+    [[nodiscard]] bool IsOpen() const { return m_bOpen; }
 
 signals:
     void Closed();

@@ -40,8 +40,9 @@ bool IsOnScreen(const QWidget* pWindow)
 QWidget* ActiveWindow()
 {
     QWidget* pWindow = QApplication::activeWindow();
-    while (qobject_cast<OrnWaitDialog*>(pWindow) != nullptr) {
-        pWindow = pWindow->parentWidget() != nullptr ? pWindow->parentWidget()->window() : nullptr;
+    while (const auto* pWaitDialog = qobject_cast<OrnWaitDialog*>(pWindow)) {
+        QWidget* const pParent = pWaitDialog->parentWidget();
+        pWindow = pParent != nullptr ? pParent->window() : nullptr;
     }
     return pWindow;
 }

@@ -33,9 +33,9 @@ private:
 
     ToastStack();
 
-    QVector<Toast*> OpenToasts() const;
-    bool HasRoom(bool bStayOpen) const;
-    QRect Area() const;
+    [[nodiscard]] QVector<Toast*> OpenToasts() const;
+    [[nodiscard]] bool HasRoom(bool bStayOpen) const;
+    [[nodiscard]] QRect Area() const;
 
     void ShowWaiting();
     void Show(const ToastContent& content, int nLifetimeMs);
