@@ -20,12 +20,12 @@ namespace family_testing {
 using Json = nlohmann::json;
 
 template <typename T>
-constexpr bool IsRecord = boost::describe::has_describe_members<T>::value;
+inline constexpr bool IsRecord = boost::describe::has_describe_members<T>::value;
 
 template <typename T>
-constexpr bool IsVector = false;
+inline constexpr bool IsVector = false;
 template <typename T>
-constexpr bool IsVector<std::vector<T>> = true;
+inline constexpr bool IsVector<std::vector<T>> = true;
 
 template <typename Record, typename Visit>
 void ForEachField(Visit visit)
