@@ -168,8 +168,10 @@ private:
 
     HttpResponse serve(const HttpRequest& request, Peer& peer)
     {
+        // In this order a request that is recorded has met its fault: who waits for it may add the next one.
+        const std::optional<Fault> fault = m_faults.take(request.target);
         const std::size_t number = m_log.add(request);
-        HttpResponse response = answer(request, peer);
+        HttpResponse response = fault ? answerWith(*fault, request, peer) : m_platform.answer(request);
         const bool answered = response.ending != HttpResponse::Ending::CloseBefore;
         const std::optional<int> code = EnvelopeCodeOf(response);
         m_log.answered(number, answered ? response.status : 0, code);
@@ -184,23 +186,22 @@ private:
         return response;
     }
 
-    HttpResponse answer(const HttpRequest& request, Peer& peer)
+    HttpResponse answerWith(const Fault& fault, const HttpRequest& request, Peer& peer)
     {
-        const std::optional<Fault> fault = m_faults.take(request.target);
-        if (!fault) {
-            return m_platform.answer(request);
-        }
-        if (fault->delay.count() > 0 && peer.waitGone(fault->delay)) {
+        if (fault.delay.count() > 0 && peer.waitGone(fault.delay))
+        {
             return gone();
         }
-        if (fault->kind == Fault::Kind::Silent) {
+        if (fault.kind == Fault::Kind::Silent)
+        {
             peer.waitGone();
         }
-        if (!SpoilsTrueAnswer(fault->kind)) {
-            return Replacement(*fault);
+        if (!SpoilsTrueAnswer(fault.kind))
+        {
+            return Replacement(fault);
         }
         HttpResponse response = m_platform.answer(request);
-        Spoil(response, *fault);
+        Spoil(response, fault);
         return response;
     }
 
