@@ -8,28 +8,24 @@
 #include <iostream>
 #include <iterator>
 
-namespace apicall
-{
-namespace
-{
+namespace apicall {
+namespace {
 
 using nlohmann::json;
 
 std::string ReadAll(std::istream& stream, const std::string& name)
 {
-    std::string text(std::istreambuf_iterator<char>(stream), {});
-    if (!stream)
-    {
+    try {
+        return {std::istreambuf_iterator<char>(stream), {}};
+    } catch (const std::ios_base::failure&) {
         throw WrongUsage("cannot read " + name);
     }
-    return text;
 }
 
 std::string ReadFile(const std::string& name)
 {
     std::ifstream file(name, std::ios::binary);
-    if (!file)
-    {
+    if (!file) {
         throw WrongUsage("cannot open " + name);
     }
     return ReadAll(file, name);
@@ -37,20 +33,16 @@ std::string ReadFile(const std::string& name)
 
 json ParseJson(const std::string& text, const std::string& what)
 {
-    try
-    {
+    try {
         return json::parse(text);
-    }
-    catch (const json::parse_error& error)
-    {
+    } catch (const json::parse_error& error) {
         throw WrongUsage(what + " is not JSON: " + error.what());
     }
 }
 
 bool IsOneObject(const std::vector<std::string>& arguments)
 {
-    if (arguments.empty())
-    {
+    if (arguments.empty()) {
         return false;
     }
     const std::string& first = arguments.front();
@@ -59,17 +51,14 @@ bool IsOneObject(const std::vector<std::string>& arguments)
 
 json OneObject(const std::vector<std::string>& arguments)
 {
-    if (arguments.size() > 1)
-    {
+    if (arguments.size() > 1) {
         throw WrongUsage("nothing may follow the JSON object with the arguments");
     }
     const std::string& argument = arguments.front();
-    if (argument == "-")
-    {
+    if (argument == "-") {
         return ParseJson(ReadAll(std::cin, "standard input"), "standard input");
     }
-    if (argument.front() == '@')
-    {
+    if (argument.front() == '@') {
         const std::string file = argument.substr(1);
         return ParseJson(ReadFile(file), file);
     }
@@ -79,17 +68,14 @@ json OneObject(const std::vector<std::string>& arguments)
 json ByName(const catalogue::Call& call, const std::vector<std::string>& arguments)
 {
     json object = json::object();
-    for (const std::string& argument : arguments)
-    {
+    for (const std::string& argument : arguments) {
         const auto separator = argument.find('=');
-        if (separator == std::string::npos)
-        {
+        if (separator == std::string::npos) {
             throw WrongUsage("argument \"" + argument + "\" is neither name=value nor a JSON object");
         }
         const std::string name = argument.substr(0, separator);
         const std::string value = argument.substr(separator + 1);
-        if (object.contains(name))
-        {
+        if (object.contains(name)) {
             throw WrongUsage("argument \"" + name + "\" is given twice");
         }
         const catalogue::Argument* known = call.FindArgument(name);

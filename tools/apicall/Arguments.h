@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace apicall
-{
+namespace apicall {
 
 /// The arguments of a call as they stand on the command line. Throws WrongUsage or catalogue::Mismatch.
 std::vector<catalogue::Value> ReadArguments(const catalogue::Call& call, const std::vector<std::string>& arguments);

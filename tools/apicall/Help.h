@@ -4,8 +4,7 @@
 
 #include <string>
 
-namespace apicall
-{
+namespace apicall {
 
 /// Every call on a line that begins with its name.
 std::string ListOfCalls();

@@ -8,17 +8,14 @@
 #include <string>
 #include <utility>
 
-namespace apicall
-{
+namespace apicall {
 
 /// A user manager with one server, which it knows as -1, 0 and 1.
-class OneServer : public UserLogical::IUserManager
-{
+class OneServer : public UserLogical::IUserManager {
 public:
-    OneServer(const Server& server, std::string token)
-        : m_connection(std::make_shared<Connection>(server, std::move(token)))
-    {
-    }
+    OneServer(Server server, std::string token)
+        : m_connection(std::make_shared<Connection>(std::move(server), std::move(token)))
+    {}
 
     int GetCurrentServerId() override { return 1; }
 
@@ -28,10 +25,9 @@ public:
     }
 
 private:
-    class Connection : public UserLogical::IServer
-    {
+    class Connection : public UserLogical::IServer {
     public:
-        Connection(const Server& server, std::string token) : m_server(server), m_token(std::move(token)) {}
+        Connection(Server server, std::string token) : m_server(std::move(server)), m_token(std::move(token)) {}
 
         void GetConnection(UserLogical::ServerConnection& connection) override
         {

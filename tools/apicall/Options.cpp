@@ -6,10 +6,8 @@
 
 #include <limits>
 
-namespace apicall
-{
-namespace
-{
+namespace apicall {
+namespace {
 
 constexpr const char* kDescription =
     "Runs one call of the library against a platform server and prints its record as JSON.";
@@ -49,12 +47,9 @@ Options ReadOptions(int argc, char** argv)
         ->type_name("SECONDS");
     app.add_option("CALL", options.call, "Name of the call");
     app.add_option("ARGUMENT", options.arguments, "Arguments of the call");
-    try
-    {
+    try {
         app.parse(argc, argv);
-    }
-    catch (const CLI::ParseError& error)
-    {
+    } catch (const CLI::ParseError& error) {
         throw WrongUsage(error.what());
     }
     options.usage = app.help();
@@ -66,22 +61,18 @@ Server ServerOf(const std::string& url)
     const auto refuse = [&url](const char* why) { throw WrongUsage("--server " + url + ": " + why); };
 
     const QUrl parsed(QString::fromStdString(url), QUrl::StrictMode);
-    if (!parsed.isValid())
-    {
+    if (!parsed.isValid()) {
         refuse("this is no URL");
     }
     const bool https = parsed.scheme() == QLatin1String("https");
-    if (!https && parsed.scheme() != QLatin1String("http"))
-    {
+    if (!https && parsed.scheme() != QLatin1String("http")) {
         refuse("it must begin with https:// or http://");
     }
     const QString host = parsed.host(QUrl::FullyEncoded);
-    if (host.isEmpty())
-    {
+    if (host.isEmpty()) {
         refuse("it names no host");
     }
-    if (!parsed.userInfo().isEmpty() || parsed.path().size() > 1 || parsed.hasQuery() || parsed.hasFragment())
-    {
+    if (!parsed.userInfo().isEmpty() || parsed.path().size() > 1 || parsed.hasQuery() || parsed.hasFragment()) {
         refuse("only a host and a port may follow the scheme");
     }
 

@@ -6,25 +6,21 @@
 #include <string>
 #include <vector>
 
-namespace apicall
-{
+namespace apicall {
 
 /// A command line that cannot be followed; the text says why.
-class WrongUsage : public std::invalid_argument
-{
+class WrongUsage : public std::invalid_argument {
 public:
     using std::invalid_argument::invalid_argument;
 };
 
-struct Server
-{
+struct Server {
     std::string host;
     int port = 0;
     bool https = true;
 };
 
-struct Options
-{
+struct Options {
     std::string server;
     std::string token;
     std::string language = "en";

@@ -13,8 +13,7 @@
 #include <exception>
 #include <iostream>
 
-namespace
-{
+namespace {
 
 using apicall::WrongUsage;
 using catalogue::Outcome;
@@ -26,8 +25,7 @@ constexpr int kWrongUsage = 2;
 const catalogue::Call& NamedCall(const std::string& name)
 {
     const catalogue::Call* call = catalogue::FindCall(name);
-    if (call == nullptr)
-    {
+    if (call == nullptr) {
         throw WrongUsage("there is no call \"" + name + "\"; apicall --list names them");
     }
     return *call;
@@ -35,12 +33,10 @@ const catalogue::Call& NamedCall(const std::string& name)
 
 std::string FailureText(const Outcome& outcome)
 {
-    if (outcome.result == 0)
-    {
+    if (outcome.result == 0) {
         return "the reply was not confirmed";
     }
-    if (!outcome.notification.empty())
-    {
+    if (!outcome.notification.empty()) {
         return outcome.notification;
     }
     return APIModule::CAPIModule::GetErroCodeInfor(QString(), outcome.result, false).toStdString();
@@ -55,7 +51,7 @@ Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& ar
     library.SetHttpsMode(server.https ? 1 : 0);
     library.SetLanguage(options.language);
     library.Init(&users);
-    const Outcome outcome = catalogue::Run(call, arguments, options.settings);
+    Outcome outcome = catalogue::Run(call, arguments, options.settings);
     library.UnInit();
     return outcome;
 }
@@ -64,20 +60,17 @@ int RunCall(const apicall::Options& options)
 {
     const catalogue::Call& call = NamedCall(options.call);
     const auto arguments = apicall::ReadArguments(call, options.arguments);
-    if (options.server.empty())
-    {
+    if (options.server.empty()) {
         throw WrongUsage("--server is missing");
     }
     const Outcome outcome = Run(call, arguments, options, apicall::ServerOf(options.server));
-    if (!outcome.Succeeded())
-    {
-        std::cerr << "apicall: " << call.name << " failed with " << outcome.result << ": " << FailureText(outcome)
-                  << std::endl;
+    if (!outcome.Succeeded()) {
+        const std::string text = FailureText(outcome);
+        std::cerr << "apicall: " << call.name << " failed with " << outcome.result << ": " << text << std::endl;
         return kFailedCall;
     }
     std::cout << outcome.record.dump(4, ' ', false, nlohmann::json::error_handler_t::replace) << std::endl;
-    if (!std::cout)
-    {
+    if (!std::cout) {
         std::cerr << "apicall: the result cannot be written" << std::endl;
         return kFailedCall;
     }
@@ -87,20 +80,13 @@ int RunCall(const apicall::Options& options)
 int Main(int argc, char** argv)
 {
     const apicall::Options options = apicall::ReadOptions(argc, argv);
-    if (options.list)
-    {
+    if (options.list) {
         std::cout << apicall::ListOfCalls();
-    }
-    else if (options.help)
-    {
+    } else if (options.help) {
         std::cout << (options.call.empty() ? options.usage : apicall::HelpFor(NamedCall(options.call)));
-    }
-    else if (options.call.empty())
-    {
+    } else if (options.call.empty()) {
         throw WrongUsage("no call is named; apicall --help tells how it is used");
-    }
-    else
-    {
+    } else {
         return RunCall(options);
     }
     return kSuccess;
@@ -111,16 +97,11 @@ int Main(int argc, char** argv)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    try
-    {
+    try {
         return Main(argc, argv);
-    }
-    catch (const WrongUsage& error)
-    {
+    } catch (const WrongUsage& error) {
         std::cerr << "apicall: " << error.what() << std::endl;
-    }
-    catch (const catalogue::Mismatch& error)
-    {
+    } catch (const catalogue::Mismatch& error) {
         std::cerr << "apicall: " << error.what() << std::endl;
     }
     return kWrongUsage;

@@ -5,22 +5,17 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <iterator>
 
-namespace catalogue
-{
-namespace
-{
+namespace catalogue {
+namespace {
 
 std::string Expected(const Call& call)
 {
-    if (call.arguments.empty())
-    {
+    if (call.arguments.empty()) {
         return "it takes none";
     }
     std::string names;
-    for (const Argument& argument : call.arguments)
-    {
+    for (const Argument& argument : call.arguments) {
         names += names.empty() ? "it takes " : ", ";
         names += argument.name;
     }
@@ -29,10 +24,8 @@ std::string Expected(const Call& call)
 
 void RefuseUnknown(const Call& call, const nlohmann::json& arguments)
 {
-    for (const auto& item : arguments.items())
-    {
-        if (call.FindArgument(item.key()) == nullptr)
-        {
+    for (const auto& item : arguments.items()) {
+        if (call.FindArgument(item.key()) == nullptr) {
             throw Mismatch(call.name + " has no argument \"" + item.key() + "\": " + Expected(call));
         }
     }
@@ -51,11 +44,12 @@ const std::vector<Call>& Calls()
 {
     static const std::vector<Call> calls = [] {
         std::vector<Call> all;
-        for (const auto& family : {BrmsCalls})
-        {
-            auto some = family();
-            std::move(some.begin(), some.end(), std::back_inserter(all));
-        }
+        AddBrmsCalls(all);
+        AddDmsCalls(all);
+        AddIamsCalls(all);
+        AddIpmsCalls(all);
+        AddObmsCalls(all);
+        AddOmmsCalls(all);
         return all;
     }();
     return calls;
@@ -70,19 +64,16 @@ const Call* FindCall(std::string_view name)
 
 std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& arguments)
 {
-    if (!arguments.is_object())
-    {
+    if (!arguments.is_object()) {
         throw Mismatch("the arguments of " + call.name + " must be a JSON object that holds each under its name");
     }
     RefuseUnknown(call, arguments);
 
     std::vector<Value> values;
-    for (const Argument& argument : call.arguments)
-    {
+    for (const Argument& argument : call.arguments) {
         const std::string name(argument.name);
         const auto given = arguments.find(name);
-        if (given == arguments.end())
-        {
+        if (given == arguments.end()) {
             throw Mismatch(call.name + " needs the argument \"" + name + "\" (" + NameOf(*argument.type) + ")");
         }
         values.emplace_back(*argument.type).Assign(*given, "/" + name);

@@ -10,19 +10,16 @@
 
 class QJsonObject;
 
-namespace catalogue
-{
+namespace catalogue {
 
 /// An argument of a Pack, between the request and the server identifier.
-struct Argument
-{
+struct Argument {
     std::string_view name;
     const Type* type;
 };
 
 /// A call of the library: a Pack and, where its reply carries data for the caller, a Parse.
-struct Call
-{
+struct Call {
     std::string name;            ///< "BRMS.GetTimeSyncConfig"
     std::string family;          ///< "BRMS"
     std::string_view subject;    ///< "System configuration"
@@ -35,7 +32,7 @@ struct Call
     int (*pack)(void* pReqParamData, void* const* arguments, int nServerId) = nullptr;
     int (*parse)(const QJsonObject& data, void* record) = nullptr;  ///< null without a Parse
 
-    const Argument* FindArgument(std::string_view argumentName) const;
+    [[nodiscard]] const Argument* FindArgument(std::string_view argumentName) const;
 };
 
 /// Every call of the library, by family.

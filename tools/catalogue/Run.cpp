@@ -5,23 +5,19 @@
 
 #include <QObject>
 
-namespace catalogue
-{
-namespace
-{
+namespace catalogue {
+namespace {
 
 boost::function<int(void*)> Bind(const Call& call, const std::vector<Value>& arguments, const RunSettings& settings)
 {
     std::vector<void*> values;
     values.reserve(arguments.size());
-    for (const Value& argument : arguments)
-    {
+    for (const Value& argument : arguments) {
         values.push_back(argument.Data());
     }
     return [&call, values, settings](void* pReqParamData) {
         const int result = call.pack(pReqParamData, values.data(), settings.serverId);
-        if (settings.timeoutSeconds)
-        {
+        if (settings.timeoutSeconds) {
             static_cast<APIModule::RequestParam*>(pReqParamData)->nTimeout = *settings.timeoutSeconds;
         }
         return result;
@@ -31,8 +27,7 @@ boost::function<int(void*)> Bind(const Call& call, const std::vector<Value>& arg
 boost::function<int(const QJsonObject&)> Bind(const Call& call, const std::optional<Value>& record)
 {
     // ExecuteFuncs shows no tip when data comes and there is no Parse.
-    if (!record)
-    {
+    if (!record) {
         return [](const QJsonObject& /*data*/) { return 0; };
     }
     return [&call, pRecord = record->Data()](const QJsonObject& data) { return call.parse(data, pRecord); };
@@ -43,8 +38,7 @@ boost::function<int(const QJsonObject&)> Bind(const Call& call, const std::optio
 Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSettings& settings)
 {
     std::optional<Value> record;
-    if (call.result != nullptr)
-    {
+    if (call.result != nullptr) {
         record.emplace(*call.result);
     }
 
@@ -54,12 +48,9 @@ Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSett
     QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
                      &ORNGUI::OrnMessageNotify::TextNotificationAdded, &listener,
                      [&outcome, &tip](const QString& text) {
-                         if (text == tip)
-                         {
+                         if (text == tip) {
                              outcome.confirmed = true;
-                         }
-                         else
-                         {
+                         } else {
                              outcome.notification = text.toStdString();
                          }
                      });
@@ -68,8 +59,7 @@ Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSett
     constexpr bool kNotifyOnFailure = false;
     outcome.result = APIModule::CAPIModule::GetInstance().ExecuteFuncs(
         Bind(call, arguments, settings), Bind(call, record), QString(), nullptr, tip, kShowErrorCode, kNotifyOnFailure);
-    if (record)
-    {
+    if (record) {
         outcome.record = record->ToJson();
     }
     return outcome;

@@ -8,24 +8,21 @@
 #include <string>
 #include <vector>
 
-namespace catalogue
-{
+namespace catalogue {
 
-struct RunSettings
-{
+struct RunSettings {
     int serverId = -1;                       ///< -1 for the user manager's current server
     std::optional<int> timeoutSeconds = {};  ///< instead of the call's own
 };
 
 /// How a call ended.
-struct Outcome
-{
+struct Outcome {
     int result = -1;           ///< of CAPIModule::ExecuteFuncs
     bool confirmed = false;    ///< the success tip came
     std::string notification;  ///< other text that was notified, empty for none
     nlohmann::json record;     ///< as far as it was read; null for a call without a Parse
 
-    bool Succeeded() const { return result == 0 && confirmed; }
+    [[nodiscard]] bool Succeeded() const { return result == 0 && confirmed; }
 };
 
 /// Runs a call through CAPIModule::ExecuteFuncs, without a wait dialog; statuses and envelope codes come back as the

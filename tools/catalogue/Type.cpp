@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-namespace catalogue
-{
+namespace catalogue {
 
 const Field* Type::FindField(std::string_view fieldName) const
 {
@@ -14,8 +13,7 @@ const Field* Type::FindField(std::string_view fieldName) const
 
 std::string NameOf(const Type& type)
 {
-    switch (type.kind)
-    {
+    switch (type.kind) {
     case Kind::Bool:
         return "bool";
     case Kind::Int:

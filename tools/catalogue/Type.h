@@ -7,11 +7,9 @@
 #include <vector>
 
 /// What the tools know of the library's calls: their names, their arguments and records, and how to run them.
-namespace catalogue
-{
+namespace catalogue {
 
-enum class Kind
-{
+enum class Kind {
     Bool,
     Int,
     Int64,
@@ -24,24 +22,21 @@ enum class Kind
 struct Type;
 
 /// A field of a record.
-struct Field
-{
+struct Field {
     std::string_view name;
     const Type* type;
     void* (*access)(void* record);  ///< the field in its record
 };
 
 /// How the elements of a list are reached.
-struct ListAccess
-{
+struct ListAccess {
     std::size_t (*size)(const void* list);
     void* (*at)(void* list, std::size_t index);
     void* (*append)(void* list);  ///< adds a fresh element and returns it
 };
 
 /// A type that arguments and records are made of. There is one object for each.
-struct Type
-{
+struct Type {
     Kind kind;
     std::shared_ptr<void> (*make)();  ///< a fresh value
     std::string_view name = {};       ///< of a record
@@ -49,7 +44,7 @@ struct Type
     const Type* element = nullptr;    ///< of a list
     ListAccess list = {};             ///< of a list
 
-    const Field* FindField(std::string_view fieldName) const;
+    [[nodiscard]] const Field* FindField(std::string_view fieldName) const;
 };
 
 /// "int", "TimeSyncConfig", "list of text" and so on.

@@ -6,10 +6,8 @@
 
 #include <limits>
 
-namespace catalogue
-{
-namespace
-{
+namespace catalogue {
+namespace {
 
 using nlohmann::json;
 using Pointer = json::json_pointer;
@@ -23,8 +21,7 @@ T& As(void* data)
 
 json Write(const Type& type, void* data)
 {
-    switch (type.kind)
-    {
+    switch (type.kind) {
     case Kind::Bool:
         return As<bool>(data);
     case Kind::Int:
@@ -37,16 +34,14 @@ json Write(const Type& type, void* data)
         return As<std::string>(data);
     case Kind::Record: {
         json record = json::object();
-        for (const Field& field : type.fields)
-        {
+        for (const Field& field : type.fields) {
             record[std::string(field.name)] = Write(*field.type, field.access(data));
         }
         return record;
     }
     case Kind::List: {
         json list = json::array();
-        for (std::size_t index = 0; index < type.list.size(data); ++index)
-        {
+        for (std::size_t index = 0; index < type.list.size(data); ++index) {
             list.push_back(Write(*type.element, type.list.at(data, index)));
         }
         return list;
@@ -57,15 +52,14 @@ json Write(const Type& type, void* data)
 
 const char* KindOf(const json& value)
 {
-    switch (value.type())
-    {
+    switch (value.type()) {
     case json::value_t::boolean:
         return "bool";
     case json::value_t::number_integer:
     case json::value_t::number_unsigned:
         return "integer";
     case json::value_t::number_float:
-        return "number with a fraction or exponent";
+        return "number that is no 64-bit integer";
     case json::value_t::string:
         return "text";
     case json::value_t::array:
@@ -84,8 +78,7 @@ const char* KindOf(const json& value)
 
 void Require(bool fits, const Type& type, const json& value, const Pointer& where)
 {
-    if (!fits)
-    {
+    if (!fits) {
         Fail(where, "expected " + NameOf(type) + ", got " + KindOf(value));
     }
 }
@@ -98,8 +91,7 @@ Integer ReadInteger(const Type& type, const json& value, const Pointer& where)
     const bool fits = value.is_number_unsigned()
                           ? value.get<unsigned long long>() <= static_cast<unsigned long long>(Limits::max())
                           : value.get<int64>() >= Limits::min();
-    if (!fits)
-    {
+    if (!fits) {
         Fail(where, value.dump() + " is out of the range of " + NameOf(type));
     }
     return value.get<Integer>();
@@ -110,11 +102,9 @@ void Read(const Type& type, const json& value, void* data, const Pointer& where)
 void ReadRecord(const Type& type, const json& value, void* data, const Pointer& where)
 {
     Require(value.is_object(), type, value, where);
-    for (const auto& [name, item] : value.items())
-    {
+    for (const auto& [name, item] : value.items()) {
         const Field* field = type.FindField(name);
-        if (field == nullptr)
-        {
+        if (field == nullptr) {
             Fail(where / name, NameOf(type) + " has no such field");
         }
         Read(*field->type, item, field->access(data), where / name);
@@ -124,16 +114,14 @@ void ReadRecord(const Type& type, const json& value, void* data, const Pointer& 
 void ReadList(const Type& type, const json& value, void* data, const Pointer& where)
 {
     Require(value.is_array(), type, value, where);
-    for (std::size_t index = 0; index < value.size(); ++index)
-    {
+    for (std::size_t index = 0; index < value.size(); ++index) {
         Read(*type.element, value[index], type.list.append(data), where / index);
     }
 }
 
 void Read(const Type& type, const json& value, void* data, const Pointer& where)
 {
-    switch (type.kind)
-    {
+    switch (type.kind) {
     case Kind::Bool:
         Require(value.is_boolean(), type, value, where);
         As<bool>(data) = value.get<bool>();

@@ -7,33 +7,30 @@
 #include <memory>
 #include <stdexcept>
 
-namespace catalogue
-{
+namespace catalogue {
 
 /// JSON that does not fit the type that it is for; the text says what was wrong and where.
-class Mismatch : public std::invalid_argument
-{
+class Mismatch : public std::invalid_argument {
 public:
     using std::invalid_argument::invalid_argument;
 };
 
 /// A value of a type that is known only at run time.
-class Value
-{
+class Value {
 public:
     /// A fresh value: empty, 0, false, or the defaults of a record's fields.
     explicit Value(const Type& type) : m_type(&type), m_data(type.make()) {}
 
-    const Type& GetType() const { return *m_type; }
+    [[nodiscard]] const Type& GetType() const { return *m_type; }
     /// The C++ object.
-    void* Data() const { return m_data.get(); }
+    [[nodiscard]] void* Data() const { return m_data.get(); }
 
     /// Bytes of a text that are not UTF-8 go in as they are: dump the result with an error handler.
-    nlohmann::json ToJson() const;
+    [[nodiscard]] nlohmann::json ToJson() const;
 
-    /// Takes the place of what the value held. Fields of a record that @p json leaves out get their defaults; anything
+    /// Takes the place of what the value held. Fields of a record that @p value leaves out get their defaults; anything
     /// that is not of the type throws Mismatch with @p where, a JSON pointer, before its own place in the text.
-    void Assign(const nlohmann::json& json, const std::string& where);
+    void Assign(const nlohmann::json& value, const std::string& where);
 
 private:
     const Type* m_type;

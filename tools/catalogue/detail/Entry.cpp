@@ -1,16 +1,12 @@
 #include "Entry.h"
 
-namespace catalogue::detail
-{
-namespace
-{
+namespace catalogue::detail {
+namespace {
 
 std::string_view WithoutPrefix(std::string_view name)
 {
-    for (const std::string_view prefix : {"Packet", "Packe", "Pack"})
-    {
-        if (name.substr(0, prefix.size()) == prefix)
-        {
+    for (const std::string_view prefix : {"Packet", "Packe", "Pack"}) {
+        if (name.substr(0, prefix.size()) == prefix) {
             return name.substr(prefix.size());
         }
     }
@@ -36,6 +32,14 @@ Call NamedCall(std::string_view packName, std::string_view parseName)
     call.family = FamilyOf(packName);
     call.name = call.family + "." + std::string(WithoutPrefix(Unqualified(packName)));
     return call;
+}
+
+void AddSubject(std::vector<Call>& calls, std::string_view subject, std::vector<Call> entries)
+{
+    for (Call& call : entries) {
+        call.subject = subject;
+        calls.push_back(std::move(call));
+    }
 }
 
 }  // namespace catalogue::detail

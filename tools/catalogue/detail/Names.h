@@ -2,8 +2,7 @@
 
 #include <string_view>
 
-namespace catalogue::detail
-{
+namespace catalogue::detail {
 
 /// What the one template parameter stands for, from the compiler's text for a function: "[with T = Name; ...]" or
 /// "[F = &Name]".

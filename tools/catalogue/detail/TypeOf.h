@@ -14,8 +14,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace catalogue::detail
-{
+namespace catalogue::detail {
 
 template <typename T>
 const Type& TypeOf();
@@ -28,8 +27,7 @@ std::shared_ptr<void> Make()
 
 /// Describes a type; records are described by their BOOST_DESCRIBE_STRUCT.
 template <typename T>
-struct Describer
-{
+struct Describer {
     using Members = boost::describe::describe_members<T, boost::describe::mod_public>;
     static_assert(boost::mp11::mp_size<Members>::value == boost::pfr::tuple_size_v<T>,
                   "every field of a record has to be described");
@@ -49,8 +47,7 @@ struct Describer
 };
 
 template <typename T>
-struct Describer<std::vector<T>>
-{
+struct Describer<std::vector<T>> {
     static Type Describe()
     {
         using List = std::vector<T>;
@@ -64,32 +61,27 @@ struct Describer<std::vector<T>>
 };
 
 template <>
-struct Describer<bool>
-{
+struct Describer<bool> {
     static Type Describe() { return {Kind::Bool, Make<bool>}; }
 };
 
 template <>
-struct Describer<int>
-{
+struct Describer<int> {
     static Type Describe() { return {Kind::Int, Make<int>}; }
 };
 
 template <>
-struct Describer<APIModule::int64>
-{
+struct Describer<APIModule::int64> {
     static Type Describe() { return {Kind::Int64, Make<APIModule::int64>}; }
 };
 
 template <>
-struct Describer<double>
-{
+struct Describer<double> {
     static Type Describe() { return {Kind::Double, Make<double>}; }
 };
 
 template <>
-struct Describer<std::string>
-{
+struct Describer<std::string> {
     static Type Describe() { return {Kind::Text, Make<std::string>}; }
 };
 

@@ -3,56 +3,200 @@
 
 #include <BRMS/BRMSModule.h>
 
-namespace APIModule
-{
+namespace APIModule {
 
 BOOST_DESCRIBE_STRUCT(TimeSyncConfig, (),
                       (enable, startTime, interval, deviceOnlineTimeSync, enableNtp, ntpIp, ntpPort, ntpSyncInterval))
 BOOST_DESCRIBE_STRUCT(RemoteLogConfigInfo, (), (enable, ip, port, platformId))
 BOOST_DESCRIBE_STRUCT(LocalSettingQueryResult, (), (apply, settingType, settingVersion, settingContent))
 
+BOOST_DESCRIBE_STRUCT(NetworkConfig, (), (deviceCode, ip, mask, gateway, dns))
+BOOST_DESCRIBE_STRUCT(EncodeConfig, (),
+                      (channelId, streamType, bitRate, bitRateControl, compression, enable, frameRate, iFrameInterval,
+                       height, width))
+BOOST_DESCRIBE_STRUCT(EncodeFormat, (), (frameRateMax, videoHeight, videoWidth))
+BOOST_DESCRIBE_STRUCT(EncodeCompressionCapability, (), (compression, formats))
+BOOST_DESCRIBE_STRUCT(EncodeCapability, (), (supportCompressions, encodeCapabilities))
+BOOST_DESCRIBE_STRUCT(ImageConfig, (), (channelId, brightness, saturation, contrast, sharpness))
+BOOST_DESCRIBE_STRUCT(MultiCastStream, (), (multicastIp, multicastPort, streamType, status))
+BOOST_DESCRIBE_STRUCT(MultiCastConfigInfo, (), (channelId, status, streams))
+BOOST_DESCRIBE_STRUCT(MultiCastStreamStatus, (), (channelId, streamType, status))
+
+BOOST_DESCRIBE_STRUCT(IPSpeakerChannel, (), (channelId, fileIds, playCount))
+BOOST_DESCRIBE_STRUCT(IPSpeakerControl, (), (channels, command))
+BOOST_DESCRIBE_STRUCT(ChannelControlRsp, (), (channelId, errorCode))
+
+BOOST_DESCRIBE_STRUCT(CheckHostSpareWarning, (), (warningHappened, warningTime, warningContent))
+BOOST_DESCRIBE_STRUCT(WarnDisk, (), (path, slot))
+BOOST_DESCRIBE_STRUCT(DiskWarmParam, (), (serverIp, serverType, warnDisks))
+BOOST_DESCRIBE_STRUCT(NetWorkItem, (), (netWorkName, netWorkValue))
+BOOST_DESCRIBE_STRUCT(NetWorksParam, (), (netWorks))
+
+BOOST_DESCRIBE_STRUCT(UserConfigUserGroups, (), (id, groupName, memo))
+BOOST_DESCRIBE_STRUCT(AddUserGroupsParam, (), (groupName, memo))
+BOOST_DESCRIBE_STRUCT(MoveUserGroupsParam, (), (groupId, userIds))
+
+BOOST_DESCRIBE_STRUCT(QuickCommandHttpUrl, (), (method, url, body, seq))
+BOOST_DESCRIBE_STRUCT(QuickCommand, (),
+                      (id, quickCommandName, enableShortcutKeys, shortcutKeys, executeMode, remark, httpUrls))
+
+BOOST_DESCRIBE_STRUCT(GetPageSummaryAlarmPlansParam, (), (page, pageSize, keyword))
+BOOST_DESCRIBE_STRUCT(SummaryAlarmPlan, (), (id, planName))
+BOOST_DESCRIBE_STRUCT(AlarmLinkChannel, (), (channelId, channelName))
+BOOST_DESCRIBE_STRUCT(AlarmLinkAudioChannel, (), (channelId, channelName, fileIds))
+BOOST_DESCRIBE_STRUCT(AlarmLinkControl, (), (linkAlarmOutputChannels, linkAudioLightChannels, linkAudioChannels))
+BOOST_DESCRIBE_STRUCT(AlarmLayerInfo, (),
+                      (layerId, layerName, layerPicture, locationX, locationY, width, height, angle))
+BOOST_DESCRIBE_STRUCT(AlarmRecordFile, (),
+                      (fileType, filePath, ssId, channelId, recordTime, fileTimeLength, fileLength))
+BOOST_DESCRIBE_STRUCT(AlarmHostFileInfo, (), (alarmCode, files))
+BOOST_DESCRIBE_STRUCT(AudioFileInfo, (), (taskProgress, fileUrl))
+BOOST_DESCRIBE_STRUCT(PluginLogEventType, (), (eventType, eventTypeName, sort))
+BOOST_DESCRIBE_STRUCT(PluginLogTypeGroupInfo, (), (groupId, groupName, sort, eventTypes))
+BOOST_DESCRIBE_STRUCT(GetGeneralEventsParam, (), (transportType, matchType, keyword))
+BOOST_DESCRIBE_STRUCT(GeneralEventRsp, (), (id, eventName))
+
+BOOST_DESCRIBE_STRUCT(GetChannelWebTunnelRsp, (), (https, port, ip, username, token))
+BOOST_DESCRIBE_STRUCT(PermissionResourceCollectionResp, (), (menuFunctionCodes, localConfigItemCodes))
+BOOST_DESCRIBE_STRUCT(FunctionChannelCheck, (), (channelId, functionCode))
+BOOST_DESCRIBE_STRUCT(FunctionChannelCheckResult, (), (authorized))
+BOOST_DESCRIBE_STRUCT(DeviceCategoryParamReq, (), (keyword, orgCode, domain, permitted, sourceType, containChild))
+BOOST_DESCRIBE_STRUCT(DeviceCategoryQueryResult, (), (deviceCategory, deviceCount))
+
 }  // namespace APIModule
 
-namespace catalogue
-{
-namespace
-{
+namespace catalogue {
 
+using detail::AddSubject;
 using detail::Entry;
 using Brms = APIModule::CBRMSModule;
 
-constexpr const char* kSystemConfiguration = "System configuration";
-
-}  // namespace
-
-std::vector<Call> BrmsCalls()
+void AddBrmsCalls(std::vector<Call>& calls)
 {
-    return {
-        Entry<&Brms::PacketGetTimeSyncConfig, &Brms::ParseGetTimeSyncConfig>(kSystemConfiguration,
-                                                                             "Reads the time synchronisation settings"),
-        Entry<&Brms::PacketSetTimeSyncConfig>(kSystemConfiguration, "Writes the time synchronisation settings",
-                                              "config"),
-        Entry<&Brms::PacketImmediatelySyncTime>(kSystemConfiguration, "Synchronises the time of all devices now"),
-        Entry<&Brms::PacketGetRemoteLogConfig, &Brms::ParseGetRemoteLogConfig>(kSystemConfiguration,
-                                                                               "Reads the remote log settings"),
-        Entry<&Brms::PacketSetRemoteLogConfig>(kSystemConfiguration, "Writes the remote log settings", "config"),
-        Entry<&Brms::PacketGetDeviceLoginModel, &Brms::ParseGetDeviceLoginModel>(
-            kSystemConfiguration, "Reads how devices log in to the platform"),
-        Entry<&Brms::PacketSetDeviceLoginModel>(kSystemConfiguration, "Writes how devices log in to the platform",
-                                                "model"),
-        Entry<&Brms::PacketGetPushAppMsgConfig, &Brms::ParseGetPushAppMsgConfig>(
-            kSystemConfiguration, "Reads whether messages are pushed to the mobile app"),
-        Entry<&Brms::PacketSetPushAppMsgConfig>(kSystemConfiguration, "Switches the push of messages to the mobile app",
-                                                "enable"),
-        Entry<&Brms::PacketGetSupportDataBaseType, &Brms::ParseGetSupportDataBaseType>(
-            kSystemConfiguration, "Reads which outside databases are supported"),
-        Entry<&Brms::PacketGetLocalSetting, &Brms::ParseGetLocalSetting>(
-            kSystemConfiguration, "Reads one of the client's settings", "settingType"),
-        Entry<&Brms::PacketUpdateLocalSetting>(kSystemConfiguration, "Writes the client's setting", "apply", "content"),
-        Entry<&Brms::PacketGetAIPrivacyConfig, &Brms::ParseGetAIPrivacyConfig>(kSystemConfiguration,
-                                                                               "Reads the AI privacy switch"),
-        Entry<&Brms::PacketUpdateAIPrivacyConfig>(kSystemConfiguration, "Sets the AI privacy switch", "enable"),
-    };
+    AddSubject(
+        calls, "System configuration",
+        {
+            Entry<&Brms::PacketGetTimeSyncConfig, &Brms::ParseGetTimeSyncConfig>(
+                "Reads the time synchronisation settings"),
+            Entry<&Brms::PacketSetTimeSyncConfig>("Writes the time synchronisation settings", "config"),
+            Entry<&Brms::PacketImmediatelySyncTime>("Synchronises the time of all devices now"),
+            Entry<&Brms::PacketGetRemoteLogConfig, &Brms::ParseGetRemoteLogConfig>("Reads the remote log settings"),
+            Entry<&Brms::PacketSetRemoteLogConfig>("Writes the remote log settings", "config"),
+            Entry<&Brms::PacketGetDeviceLoginModel, &Brms::ParseGetDeviceLoginModel>(
+                "Reads how devices log in to the platform"),
+            Entry<&Brms::PacketSetDeviceLoginModel>("Writes how devices log in to the platform", "model"),
+            Entry<&Brms::PacketGetPushAppMsgConfig, &Brms::ParseGetPushAppMsgConfig>(
+                "Reads whether messages are pushed to the mobile app"),
+            Entry<&Brms::PacketSetPushAppMsgConfig>("Switches the push of messages to the mobile app", "enable"),
+            Entry<&Brms::PacketGetSupportDataBaseType, &Brms::ParseGetSupportDataBaseType>(
+                "Reads which outside databases are supported"),
+            Entry<&Brms::PacketGetLocalSetting, &Brms::ParseGetLocalSetting>("Reads one of the client's settings",
+                                                                             "settingType"),
+            Entry<&Brms::PacketUpdateLocalSetting>("Writes the client's setting", "apply", "content"),
+            Entry<&Brms::PacketGetAIPrivacyConfig, &Brms::ParseGetAIPrivacyConfig>("Reads the AI privacy switch"),
+            Entry<&Brms::PacketUpdateAIPrivacyConfig>("Sets the AI privacy switch", "enable"),
+        });
+    AddSubject(calls, "Device and channel configuration",
+               {
+                   Entry<&Brms::PacketGetNetworkConfig, &Brms::ParseGetNetworkConfig>(
+                       "Reads the network settings of a device", "deviceCode"),
+                   Entry<&Brms::PacketUpdateNetworkConfig>("Writes the network settings of a device", "config"),
+                   Entry<&Brms::PacketGetEncodeConfig, &Brms::ParseGetEncodeConfig>(
+                       "Reads the encoding of a channel's streams", "channelId"),
+                   Entry<&Brms::PacketUpdateEncodeConfig>("Writes the encoding of a channel's streams", "channelId",
+                                                          "configs"),
+                   Entry<&Brms::PacketGetEncodeCapability, &Brms::ParseGetEncodeCapability>(
+                       "Reads what the encoder of a stream offers", "channelId", "streamType"),
+                   Entry<&Brms::PacketGetImageConfig, &Brms::ParseGetImageConfig>(
+                       "Reads the image adjustment of a channel", "channelId"),
+                   Entry<&Brms::PacketUpdateImageConfig>("Writes the image adjustment of a channel", "config"),
+                   Entry<&Brms::PacketGetMultiCastConfig, &Brms::ParseGetMultiCastConfig>(
+                       "Reads the multicast settings of a channel", "channelId"),
+                   Entry<&Brms::PacketSetMultiCastConfig>("Writes the multicast settings of a channel", "info"),
+                   Entry<&Brms::PacketSetMultiCastStreamStatus>("Switches the multicast of one stream", "status"),
+               });
+    AddSubject(calls, "Device control",
+               {
+                   Entry<&Brms::PacketBatchDiscoverDevices, &Brms::ParseBatchDiscoverDevices>(
+                       "Starts the discovery of several devices", "deviceCodes", "discoverMode"),
+                   Entry<&Brms::PacketAlarmOutputControl, &Brms::ParseChannelControl>("Switches alarm outputs",
+                                                                                      "channelIds", "on"),
+                   Entry<&Brms::PacketAudioLightControl, &Brms::ParseChannelControl>("Switches audio-light alarms",
+                                                                                     "channelIds", "on"),
+                   Entry<&Brms::PacketIPSpeakerControl, &Brms::ParseChannelControl>("Lets IP speakers play audio files",
+                                                                                    "control"),
+               });
+    AddSubject(calls, "Server status warnings",
+               {
+                   Entry<&Brms::PacketCheckHotSpareWarning, &Brms::ParseCheckHotSpareWarning>(
+                       "Asks for a switch-over to the hot-spare server"),
+                   Entry<&Brms::PacketGetBasicServiceWarm, &Brms::ParseGetBasicServiceWarm>(
+                       "Asks whether only the basic services were started"),
+                   Entry<&Brms::PacketGetDiskWarm, &Brms::ParseGetDiskWarm>(
+                       "Lists the servers with disks that raise warnings"),
+                   Entry<&Brms::PacketGetMemoryOutOfServerList, &Brms::ParseGetMemoryOutOfServerList>(
+                       "Lists the servers that ran out of memory"),
+                   Entry<&Brms::PacketGetNetWorks, &Brms::ParseGetNetWorks>("Lists the networks that the system knows"),
+               });
+    AddSubject(
+        calls, "User groups",
+        {
+            Entry<&Brms::PacketGetUserGroupList, &Brms::ParseGetUserGroupList>("Lists the user groups", "keyword"),
+            Entry<&Brms::PacketGetUserGroup, &Brms::ParseGetUserGroup>("Reads one user group", "groupId"),
+            Entry<&Brms::PacketAddUserGroup, &Brms::ParseAddUserGroup>("Creates a user group", "group"),
+            Entry<&Brms::PacketUpdateUserGroup>("Renames or describes a user group", "groupId", "group"),
+            Entry<&Brms::PacketMoveUserGroup>("Moves users into one group", "move"),
+            Entry<&Brms::PacketClearUserGroup>("Empties a user group", "groupId"),
+            Entry<&Brms::PacketDeleteUserGroup>("Deletes user groups", "groupIds"),
+        });
+    AddSubject(
+        calls, "Quick commands",
+        {
+            Entry<&Brms::PacketAddQuickCommand>("Creates a quick command", "command"),
+            Entry<&Brms::PacketUpdateQuickCommand>("Changes a quick command", "command"),
+            Entry<&Brms::PacketDelQuickCommand>("Deletes quick commands", "ids"),
+            Entry<&Brms::PacketGetQuickCommand, &Brms::ParseGetQuickCommand>("Reads one quick command", "id"),
+            Entry<&Brms::PacketGetQuickCommands, &Brms::ParseGetQuickCommands>("Lists the quick commands", "keyword"),
+            Entry<&Brms::PacketGetAlarmPlanQuickCommands, &Brms::ParseGetAlarmPlanQuickCommands>(
+                "Lists the quick commands of an alarm plan", "planId"),
+        });
+    AddSubject(
+        calls, "Alarm and event information",
+        {
+            Entry<&Brms::PacketGetPageSummaryAlarmPlans, &Brms::ParseGetPageSummaryAlarmPlans>(
+                "Reads one page of the alarm plans", "query"),
+            Entry<&Brms::PacketGetAlarmLinkControlList, &Brms::ParseGetAlarmLinkControlList>(
+                "Reads what an alarm sets off", "sourceCode", "alarmType"),
+            Entry<&Brms::PacketGetAlarmLayerDetail, &Brms::ParseGetAlarmLayerDetail>(
+                "Reads the map layer on which an alarm resource lies", "resourceCode", "resourceType"),
+            Entry<&Brms::PacketGetAlarmHostFileInfo, &Brms::ParseGetAlarmHostFileInfo>(
+                "Reads the recorded files of an alarm", "alarmRecordId"),
+            Entry<&Brms::PacketGetAudioFileInfo, &Brms::ParseGetAudioFileInfo>(
+                "Asks for the state of an audio file task", "url", "body"),
+            Entry<&Brms::PacketGetPluginLogType, &Brms::ParseGetPluginLogType>("Lists the event types of plug-in logs"),
+            Entry<&Brms::PacketGetGeneralEvents, &Brms::ParseGetGeneralEvents>("Lists the general events", "query"),
+        });
+    AddSubject(calls, "Account and web access",
+               {
+                   Entry<&Brms::PacketGetChannelWebTunnel, &Brms::ParseGetChannelWebTunnel>(
+                       "Asks where the web page of a channel is reached", "channelId"),
+                   Entry<&Brms::PacketGetChannelWebAuthorization, &Brms::ParseGetChannelWebAuthorization>(
+                       "Asks how to log in to the web page of a channel", "channelId"),
+                   Entry<&Brms::PacketGetChannelWebEnablement, &Brms::ParseGetChannelWebEnablement>(
+                       "Asks whether a channel's web page may be opened", "channelId"),
+                   Entry<&Brms::PacketGetWebEnablement, &Brms::ParseGetWebEnablement>(
+                       "Asks whether a device's web page may be opened", "deviceCode"),
+                   Entry<&Brms::PacketGetMenuAvailable, &Brms::ParseGetMenuAvailable>(
+                       "Asks whether a menu is available", "menuCode"),
+                   Entry<&Brms::PacketGetDeriveToken, &Brms::ParseGetDeriveToken>(
+                       "Has a token derived from the account's session"),
+                   Entry<&Brms::PacketGetPermissionResourceCollection, &Brms::ParseGetPermissionResourceCollection>(
+                       "Reads what the account may use"),
+                   Entry<&Brms::PacketFunctionChannelCheck, &Brms::ParseFunctionChannelCheck>(
+                       "Asks whether the account may use a function on a channel", "check"),
+                   Entry<&Brms::PacketGetDeviceCategoryCount, &Brms::ParseGetGetDeviceCategoryCount>(
+                       "Counts the devices of each category", "query"),
+               });
 }
 
 }  // namespace catalogue

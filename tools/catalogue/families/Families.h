@@ -4,9 +4,13 @@
 
 #include <vector>
 
-namespace catalogue
-{
+namespace catalogue {
 
-std::vector<Call> BrmsCalls();
+void AddBrmsCalls(std::vector<Call>& calls);
+void AddDmsCalls(std::vector<Call>& calls);
+void AddIamsCalls(std::vector<Call>& calls);
+void AddIpmsCalls(std::vector<Call>& calls);
+void AddObmsCalls(std::vector<Call>& calls);
+void AddOmmsCalls(std::vector<Call>& calls);
 
 }  // namespace catalogue

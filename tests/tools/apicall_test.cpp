@@ -1,0 +1,476 @@
+// apicall as a process against the emulator.
+#include "support/Rows.h"
+
+#include <catalogue/Call.h>
+#include <PlatformEmulator.h>
+
+#include <APIModule.h>
+#include <ErrorLexicon/ErrorLexicon.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QProcess>
+#include <QTcpServer>
+#include <QTemporaryFile>
+
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <sstream>
+
+using nlohmann::json;
+using testing_support::RowName;
+
+namespace {
+
+constexpr const char* kToken = "token-that-nobody-prints";
+
+struct Ended {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+/// Runs apicall as a shell without a display does.
+Ended Apicall(const QStringList& arguments, const QByteArray& input = {}, const QString& tokenInEnvironment = {})
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "APICALL_TOKEN"}) {
+        environment.remove(QString::fromLatin1(display));
+    }
+    if (!tokenInEnvironment.isEmpty()) {
+        environment.insert(QStringLiteral("APICALL_TOKEN"), tokenInEnvironment);
+    }
+
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(APICALL_FILE), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    constexpr int kMilliseconds = 60000;
+    EXPECT_TRUE(process.waitForFinished(kMilliseconds)) << process.errorString().toStdString();
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
+bool Contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+std::string ErrorText(int code, const char* language = "en")
+{
+    std::string text;
+    ErrorLexicon::SetLanguage(language);
+    EXPECT_EQ(ErrorLexicon::ErrorLexiconQuery(code, text), 0) << code;
+    return text;
+}
+
+// Wrong usage
+
+struct UsageRow {
+    const char* name;
+    QStringList arguments;
+    const char* text;
+};
+
+class WrongUsage : public testing::TestWithParam<UsageRow> {};
+
+TEST_P(WrongUsage, EndsWith2AndSaysWhy)
+{
+    const Ended ended = Apicall(GetParam().arguments);
+    EXPECT_EQ(ended.status, 2);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_EQ(ended.err.rfind("apicall: ", 0), 0U) << ended.err;
+    EXPECT_TRUE(Contains(ended.err, GetParam().text)) << ended.err;
+}
+
+QStringList Words(std::initializer_list<const char*> words)
+{
+    QStringList list;
+    for (const char* word : words) {
+        list.append(QString::fromUtf8(word));
+    }
+    return list;
+}
+
+UsageRow Url(const char* name, const char* url, const char* text)
+{
+    return {name, Words({"--server", url, "BRMS.GetTimeSyncConfig"}), text};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    CommandLine, WrongUsage,
+    testing::Values(
+        UsageRow{"Nothing", {}, "no call is named; apicall --help"},
+        UsageRow{"UnknownOption", Words({"--serve", "http://127.0.0.1:1"}), "--serve"},
+        UsageRow{"UnknownCall", Words({"BRMS.GetNothing"}), "there is no call \"BRMS.GetNothing\"; apicall --list"},
+        UsageRow{"UnknownCallToHelpWith", Words({"--help", "GetTimeSyncConfig"}),
+                 "there is no call \"GetTimeSyncConfig\""},
+        UsageRow{"NoServer", Words({"BRMS.GetTimeSyncConfig"}), "--server is missing"},
+        UsageRow{"ServerIdOutOfRange", Words({"--server-id", "2", "BRMS.GetTimeSyncConfig"}), "--server-id"},
+        UsageRow{"TimeoutOutOfRange", Words({"--timeout", "0", "BRMS.GetTimeSyncConfig"}), "--timeout"},
+        UsageRow{"TimeoutNoNumber", Words({"--timeout", "soon", "BRMS.GetTimeSyncConfig"}), "--timeout"}),
+    RowName());
+
+INSTANTIATE_TEST_SUITE_P(Servers, WrongUsage,
+                         testing::Values(Url("NoUrl", "http://[", "this is no URL"),
+                                         Url("NoScheme", "127.0.0.1:8443", "this is no URL"),
+                                         Url("HostOnly", "localhost", "must begin with https:// or http://"),
+                                         Url("OtherScheme", "ftp://127.0.0.1", "must begin with https:// or http://"),
+                                         Url("NoHost", "https://", "it names no host"),
+                                         Url("Path", "https://127.0.0.1/brms", "only a host and a port"),
+                                         Url("Query", "https://127.0.0.1?a=1", "only a host and a port"),
+                                         Url("User", "https://ada@127.0.0.1", "only a host and a port"),
+                                         Url("PortTooLarge", "https://127.0.0.1:65536", "this is no URL")),
+                         RowName());
+
+INSTANTIATE_TEST_SUITE_P(
+    Arguments, WrongUsage,
+    testing::Values(
+        UsageRow{"Unknown", Words({"BRMS.GetTimeSyncConfig", "a=1"}),
+                 "BRMS.GetTimeSyncConfig has no argument \"a\": it takes none"},
+        UsageRow{"Missing", Words({"BRMS.UpdateLocalSetting", "apply=true"}),
+                 "BRMS.UpdateLocalSetting needs the argument \"content\" (text)"},
+        UsageRow{"NoName", Words({"BRMS.GetLocalSetting", "3"}), "\"3\" is neither name=value nor a JSON object"},
+        UsageRow{"Twice", Words({"BRMS.GetLocalSetting", "settingType=3", "settingType=4"}),
+                 "\"settingType\" is given twice"},
+        UsageRow{"WrongType", Words({"BRMS.GetLocalSetting", "settingType=\"3\""}),
+                 "/settingType: expected int, got text"},
+        UsageRow{"NoJson", Words({"BRMS.GetLocalSetting", "settingType=three"}),
+                 "argument \"settingType\" (int) is not JSON"},
+        UsageRow{"Empty", Words({"BRMS.GetLocalSetting", "settingType="}),
+                 "argument \"settingType\" (int) is not JSON"},
+        UsageRow{"UnknownField", Words({"BRMS.SetTimeSyncConfig", "config={\"ntp\": 1}"}),
+                 "/config/ntp: TimeSyncConfig has no such field"},
+        UsageRow{"BrokenObject", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3"}), "the argument is not JSON"},
+        UsageRow{"ObjectAndMore", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3}", "settingType=3"}),
+                 "nothing may follow the JSON object"},
+        UsageRow{"ListOnStandardInput", Words({"BRMS.GetLocalSetting", "-"}), "standard input is not JSON"},
+        UsageRow{"NoSuchFile", Words({"BRMS.GetLocalSetting", "@/no/such/file"}), "cannot open /no/such/file"},
+        UsageRow{"FolderAsFile", Words({"BRMS.GetLocalSetting", "@/"}), "cannot read /"}),
+    RowName());
+
+// Help
+
+TEST(Help, TheListBeginsEachLineWithTheNameOfACall)
+{
+    const Ended ended = Apicall(Words({"--list"}));
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.err, "");
+
+    std::istringstream lines(ended.out);
+    std::string line;
+    std::size_t count = 0;
+    static const std::regex form("([A-Z]+\\.[A-Za-z]+)  +[A-Z].*");
+    while (std::getline(lines, line)) {
+        std::smatch match;
+        ASSERT_TRUE(std::regex_match(line, match, form)) << line;
+        ASSERT_LT(count, catalogue::Calls().size()) << line;
+        EXPECT_EQ(match[1], catalogue::Calls()[count].name);
+        ++count;
+    }
+    EXPECT_EQ(count, catalogue::Calls().size());
+}
+
+TEST(Help, ACallIsToldWithItsTypes)
+{
+    const std::string help = R"(BRMS.GetLocalSetting (System configuration)
+Reads one of the client's settings
+
+Arguments:
+  settingType: int
+
+Result: LocalSettingQueryResult
+  apply: bool
+  settingType: int
+  settingVersion: int64
+  settingContent: text
+)";
+    EXPECT_EQ(Apicall(Words({"--help", "BRMS.GetLocalSetting"})).out, help);
+    EXPECT_EQ(Apicall(Words({"BRMS.GetLocalSetting", "--help"})).out, help);
+}
+
+TEST(Help, ACallWithoutArgumentsOrResultSaysSo)
+{
+    const Ended ended = Apicall(Words({"--help", "BRMS.ImmediatelySyncTime"}));
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_TRUE(Contains(ended.out, "Arguments: none\n")) << ended.out;
+    EXPECT_TRUE(Contains(ended.out, "Result: none\n")) << ended.out;
+}
+
+TEST(Help, ThereIsHelpForEveryCall)
+{
+    for (const auto& call : catalogue::Calls()) {
+        const Ended ended = Apicall({QStringLiteral("--help"), QString::fromStdString(call.name)});
+        EXPECT_EQ(ended.status, 0);
+        EXPECT_EQ(ended.out.rfind(call.name, 0), 0U) << ended.out;
+    }
+}
+
+TEST(Help, TheProgramTellsItsUse)
+{
+    const Ended ended = Apicall(Words({"--help"}), {}, QString::fromLatin1(kToken));
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_TRUE(Contains(ended.out, "--server")) << ended.out;
+    EXPECT_FALSE(Contains(ended.out, kToken));
+}
+
+// Calls
+
+struct SchemeRow {
+    const char* name;
+    bool https;
+};
+
+class Calls : public testing::TestWithParam<SchemeRow> {
+protected:
+    Calls() : m_platform(Options()) { m_platform.start(); }
+
+    Ended Run(const QStringList& arguments, const QByteArray& input = {})
+    {
+        const Ended ended =
+            Apicall(Server() + QStringList{QStringLiteral("--token"), QString::fromLatin1(kToken)} + arguments, input);
+        EXPECT_FALSE(Contains(ended.out, kToken)) << ended.out;
+        EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
+        return ended;
+    }
+
+    /// The result of a call that succeeds.
+    json ResultOf(const QStringList& arguments, const QByteArray& input = {})
+    {
+        const Ended ended = Run(arguments, input);
+        EXPECT_EQ(ended.status, 0) << ended.err;
+        return json::parse(ended.out, nullptr, false);
+    }
+
+    void ExpectFailure(const QStringList& arguments, int code, const std::string& text)
+    {
+        const Ended ended = Run(arguments);
+        EXPECT_EQ(ended.status, 1);
+        EXPECT_EQ(ended.out, "");
+        const std::string line =
+            "apicall: " + arguments.back().toStdString() + " failed with " + std::to_string(code) + ": " + text + "\n";
+        EXPECT_TRUE(Contains(ended.err, line)) << "expected: " << line << "in: " << ended.err;
+    }
+
+    QStringList Server() const
+    {
+        const QString url = GetParam().https ? QStringLiteral("https://127.0.0.1:%1").arg(m_platform.httpsPort())
+                                             : QStringLiteral("http://127.0.0.1:%1").arg(m_platform.httpPort());
+        return {QStringLiteral("--server"), url};
+    }
+
+    emulator::PlatformEmulator& Platform() { return m_platform; }
+
+    void Spoil(emulator::Fault fault)
+    {
+        fault.path = "/brms";
+        m_platform.addFault(std::move(fault));
+    }
+
+private:
+    static emulator::Options Options()
+    {
+        emulator::Options options;
+        options.token = kToken;
+        return options;
+    }
+
+    emulator::PlatformEmulator m_platform;
+};
+
+INSTANTIATE_TEST_SUITE_P(Schemes, Calls, testing::Values(SchemeRow{"Http", false}, SchemeRow{"Https", true}),
+                         RowName());
+
+const QStringList kGetTimeSync = Words({"BRMS.GetTimeSyncConfig"});
+
+TEST_P(Calls, ARecordIsPrintedAsIndentedJson)
+{
+    const Ended ended = Run(kGetTimeSync);
+    EXPECT_EQ(ended.status, 0) << ended.err;
+    EXPECT_EQ(ended.out, Platform().state().at("brms").at("timeSync").dump(4) + "\n");
+}
+
+TEST_P(Calls, WhatIsWrittenIsReadBack)
+{
+    const json config = {{"enable", false},
+                         {"startTime", "03:15:00 \xc3\xbc"},
+                         {"interval", -7},
+                         {"enableNtp", true},
+                         {"deviceOnlineTimeSync", true},
+                         {"ntpIp", "10.0.0.1"},
+                         {"ntpPort", 1},
+                         {"ntpSyncInterval", 90}};
+    EXPECT_EQ(ResultOf({QStringLiteral("BRMS.SetTimeSyncConfig"),
+                        QStringLiteral("config=") + QString::fromStdString(config.dump())}),
+              json());
+    EXPECT_EQ(ResultOf(kGetTimeSync), config);
+}
+
+TEST_P(Calls, ValuesAndListsAreResultsToo)
+{
+    EXPECT_EQ(ResultOf(Words({"BRMS.GetDeviceLoginModel"})), json(1));
+    EXPECT_EQ(ResultOf(Words({"BRMS.GetPushAppMsgConfig"})), json(false));
+    EXPECT_EQ(ResultOf(Words({"BRMS.GetSupportDataBaseType"})), (json{1, 3, 4}));
+}
+
+TEST_P(Calls, ACallWithoutAResultPrintsNull)
+{
+    const Ended ended = Run(Words({"BRMS.ImmediatelySyncTime"}));
+    EXPECT_EQ(ended.status, 0) << ended.err;
+    EXPECT_EQ(ended.out, "null\n");
+    ASSERT_EQ(Platform().requests().size(), 1U);
+    EXPECT_EQ(Platform().requests().back().method, "POST");
+}
+
+TEST_P(Calls, ArgumentsComeAsTheUserLikes)
+{
+    const json setting = ResultOf(Words({"BRMS.GetLocalSetting", "settingType=1"}));
+    EXPECT_EQ(setting.at("settingType"), 1);
+    EXPECT_EQ(ResultOf(Words({"BRMS.GetLocalSetting", R"({"settingType": 1})"})), setting);
+    EXPECT_EQ(ResultOf(Words({"BRMS.GetLocalSetting", "-"}), R"({"settingType": 1})"), setting);
+
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write(R"({"settingType": 1})");
+    file.close();
+    EXPECT_EQ(ResultOf({QStringLiteral("BRMS.GetLocalSetting"), QStringLiteral("@") + file.fileName()}), setting);
+}
+
+TEST_P(Calls, ATextIsTakenAsItStands)
+{
+    ResultOf(Words({"BRMS.UpdateLocalSetting", "apply=true", "content={\"a\": [\"=\", 1]} \xc3\xa4"}));
+    EXPECT_EQ(json::parse(Platform().requests().back().body),
+              (json{{"apply", "1"}, {"settingContent", "{\"a\": [\"=\", 1]} \xc3\xa4"}}));
+}
+
+TEST_P(Calls, EveryServerIdIsTheSameServer)
+{
+    for (const char* serverId : {"-1", "0", "1"}) {
+        EXPECT_TRUE(ResultOf(Words({"--server-id", serverId, "BRMS.GetTimeSyncConfig"})).is_object()) << serverId;
+    }
+}
+
+TEST_P(Calls, TokenAndLanguageTravelInTheirHeaders)
+{
+    ResultOf(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}));
+    ASSERT_EQ(Platform().requests().size(), 1U);
+    EXPECT_EQ(Platform().requests().back().header("X-Subject-Token"), kToken);
+    EXPECT_EQ(Platform().requests().back().header("Accept-Language"), "de");
+}
+
+TEST_P(Calls, TheTokenMayComeFromTheEnvironment)
+{
+    const Ended ended = Apicall(Server() + kGetTimeSync, {}, QString::fromLatin1(kToken));
+    EXPECT_EQ(ended.status, 0) << ended.err;
+    EXPECT_FALSE(Contains(ended.err, kToken));
+}
+
+TEST_P(Calls, AWrongTokenFails)
+{
+    const Ended ended = Apicall(Server() + Words({"--token", "wrong"}) + kGetTimeSync);
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with -1: " + ErrorText(7000) + "\n"))
+        << ended.err;
+}
+
+TEST_P(Calls, AnEnvelopeCodeFailsWithItsText)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Envelope;
+    fault.code = 1003;
+    Spoil(fault);
+    ExpectFailure(kGetTimeSync, 1003, ErrorText(1003));
+}
+
+TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Envelope;
+    fault.code = 987654;
+    Spoil(fault);
+    ExpectFailure(kGetTimeSync, 987654, "Operation failed");
+}
+
+TEST_P(Calls, AnEnvelopeWithCode0IsNoSuccess)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Envelope;
+    fault.code = 0;
+    Spoil(fault);
+    ExpectFailure(kGetTimeSync, 0, "the reply was not confirmed");
+}
+
+TEST_P(Calls, AStatusFailsWithItsText)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Status;
+    fault.status = 503;
+    Spoil(fault);
+    ExpectFailure(kGetTimeSync, 503, ErrorText(503));
+}
+
+TEST_P(Calls, DataThatCannotBeReadFails)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Text;
+    fault.body = R"({"code": 1000, "desc": "", "data": {"enable": true}})";
+    Spoil(fault);
+    ExpectFailure(kGetTimeSync, -1, ErrorText(3101));
+}
+
+TEST_P(Calls, AnAnswerThatDoesNotComeFailsInTime)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Silent;
+    Spoil(fault);
+    ExpectFailure(Words({"--timeout", "1", "BRMS.GetTimeSyncConfig"}), -1, ErrorText(-101));
+}
+
+TEST_P(Calls, TheTextIsInTheLanguageAskedFor)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::CloseBefore;
+    fault.times = 0;
+    Spoil(fault);
+    const std::string german = ErrorText(-18, "de");
+    EXPECT_NE(german, ErrorText(-18));
+    ExpectFailure(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}), -1, german);
+}
+
+TEST(Unreachable, ServersFailWithTheTextOfANetworkError)
+{
+    QTcpServer closed;
+    ASSERT_TRUE(closed.listen(QHostAddress::LocalHost));
+    const QString server = QStringLiteral("127.0.0.1:%1").arg(closed.serverPort());
+    closed.close();
+    for (const char* scheme : {"http://", "https://"}) {
+        const Ended ended = Apicall({QStringLiteral("--server"), QString::fromLatin1(scheme) + server,
+                                     QStringLiteral("BRMS.GetTimeSyncConfig")});
+        EXPECT_EQ(ended.status, 1);
+        EXPECT_EQ(ended.out, "");
+        EXPECT_TRUE(Contains(ended.err, "failed with -1: " + ErrorText(-18) + "\n")) << ended.err;
+    }
+}
+
+TEST(Ipv6, TheHostKeepsItsBrackets)
+{
+    emulator::Options options;
+    options.address = "::1";
+    emulator::PlatformEmulator platform(options);
+    try {
+        platform.start();
+    } catch (const std::runtime_error& error) {
+        GTEST_SKIP() << "this machine has no IPv6: " << error.what();
+    }
+    const Ended ended = Apicall({QStringLiteral("--server"), QStringLiteral("http://[::1]:%1").arg(platform.httpPort()),
+                                 QStringLiteral("--token"), QString::fromLatin1(emulator::kDefaultToken),
+                                 QStringLiteral("BRMS.GetDeviceLoginModel")});
+    EXPECT_EQ(ended.status, 0) << ended.err;
+    EXPECT_EQ(ended.out, "1\n");
+}
+
+}  // namespace

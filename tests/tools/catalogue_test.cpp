@@ -1,0 +1,426 @@
+// Types, values and calls of the catalogue, with records and functions of the test's own beside the library's.
+#include "support/Host.h"
+#include "support/Rows.h"
+
+#include <catalogue/detail/Entry.h>
+#include <catalogue/Run.h>
+
+#include <APIModule.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QJsonArray>
+
+#include <set>
+
+using namespace testing_support;
+using APIModule::CAPIModule;
+using APIModule::int64;
+using catalogue::Mismatch;
+using catalogue::Value;
+using catalogue::detail::Entry;
+using catalogue::detail::TypeOf;
+using nlohmann::json;
+
+namespace APIModule {
+
+struct Wheel {
+    int inches = 26;
+    std::vector<int> spokes;
+};
+BOOST_DESCRIBE_STRUCT(Wheel, (), (inches, spokes))
+
+struct Bicycle {
+    bool electric = true;
+    int gears = 3;
+    int64 serial = 0;
+    double weight = 12.5;
+    std::string colour;
+    std::vector<Wheel> wheels;
+    std::vector<std::string> owners;
+};
+BOOST_DESCRIBE_STRUCT(Bicycle, (), (electric, gears, serial, weight, colour, wheels, owners))
+
+/// A family whose Packs take their arguments in every way that occurs and keep what they got.
+class CTESTModule {
+public:
+    static int PacketByReference(void* pReqParamData, bool& flag, Bicycle& bicycle, int number, int nServerId)
+    {
+        got = {{"flag", flag}, {"colour", bicycle.colour}, {"number", number}, {"serverId", nServerId}};
+        flag = !flag;
+        return Send(pReqParamData, nServerId);
+    }
+
+    static int PackeByValue(void* pReqParamData, std::vector<std::string> names, int nServerId)
+    {
+        got = {{"names", names}, {"serverId", nServerId}};
+        names.clear();
+        return Send(pReqParamData, nServerId);
+    }
+
+    static int PackWithoutServer(void* pReqParamData, const std::vector<std::string>& names)
+    {
+        got = {{"names", names}};
+        return Send(pReqParamData, 1);
+    }
+
+    static int PacketFails(void* /*pReqParamData*/, int /*nServerId*/) { return -1; }
+
+    /// Reads the gears, then the colour; each may be missing.
+    static int ParesBicycle(const QJsonObject& data, Bicycle& bicycle)
+    {
+        bicycle.gears = data.value(QStringLiteral("gears")).toInt();
+        if (!data.contains(QStringLiteral("colour"))) {
+            return -1;
+        }
+        bicycle.colour = data.value(QStringLiteral("colour")).toString().toStdString();
+        return 0;
+    }
+
+    static inline json got;
+
+private:
+    static int Send(void* pReqParamData, int nServerId)
+    {
+        return CAPIModule::GetInstance().GetRequestParam(pReqParamData, Method_Get, QStringLiteral("/bicycle"),
+                                                         nServerId, {}, {}, 5, false);
+    }
+};
+
+}  // namespace APIModule
+
+namespace {
+
+using APIModule::Bicycle;
+using TestModule = APIModule::CTESTModule;
+
+json Parsed(const char* text)
+{
+    return json::parse(text);
+}
+
+TEST(Types, AreNamedForTheUser)
+{
+    EXPECT_EQ(NameOf(TypeOf<bool>()), "bool");
+    EXPECT_EQ(NameOf(TypeOf<int>()), "int");
+    EXPECT_EQ(NameOf(TypeOf<int64>()), "int64");
+    EXPECT_EQ(NameOf(TypeOf<double>()), "double");
+    EXPECT_EQ(NameOf(TypeOf<std::string>()), "text");
+    EXPECT_EQ(NameOf(TypeOf<Bicycle>()), "Bicycle");
+    EXPECT_EQ(NameOf(TypeOf<std::vector<Bicycle>>()), "list of Bicycle");
+    EXPECT_EQ(NameOf(TypeOf<std::vector<std::vector<int>>>()), "list of list of int");
+}
+
+TEST(Types, ThereIsOneObjectForEach)
+{
+    const auto& type = TypeOf<Bicycle>();
+    EXPECT_EQ(type.FindField("wheels")->type->element, &TypeOf<APIModule::Wheel>());
+    EXPECT_EQ(type.FindField("owners")->type, &TypeOf<std::vector<std::string>>());
+    EXPECT_EQ(type.FindField("bell"), nullptr);
+}
+
+TEST(Types, FieldsStandInTheirOrder)
+{
+    std::vector<std::string_view> names;
+    for (const auto& field : TypeOf<Bicycle>().fields) {
+        names.push_back(field.name);
+    }
+    EXPECT_EQ(names,
+              (std::vector<std::string_view>{"electric", "gears", "serial", "weight", "colour", "wheels", "owners"}));
+}
+
+TEST(Values, AFreshRecordHasItsDefaults)
+{
+    EXPECT_EQ(Value(TypeOf<Bicycle>()).ToJson(),
+              Parsed(R"({"electric": true, "gears": 3, "serial": 0, "weight": 12.5, "colour": "", "wheels": [],
+                         "owners": []})"));
+}
+
+TEST(Values, GoToTheTypedRecordAndBack)
+{
+    const json bicycle = Parsed(R"({"electric": false, "gears": -2147483648, "serial": 9223372036854775807,
+                                    "weight": -0.25, "colour": "grün \u0000 \"x\"",
+                                    "wheels": [{"inches": 28, "spokes": [36, 0]}, {"inches": 1, "spokes": []}],
+                                    "owners": ["", "Ada"]})");
+    Value value(TypeOf<Bicycle>());
+    value.Assign(bicycle, "");
+
+    const auto& typed = *static_cast<Bicycle*>(value.Data());
+    EXPECT_FALSE(typed.electric);
+    EXPECT_EQ(typed.gears, -2147483647 - 1);
+    EXPECT_EQ(typed.serial, 9223372036854775807LL);
+    EXPECT_EQ(typed.weight, -0.25);
+    EXPECT_EQ(typed.colour, std::string("grün \0 \"x\"", 11));
+    ASSERT_EQ(typed.wheels.size(), 2U);
+    EXPECT_EQ(typed.wheels[0].spokes, (std::vector<int>{36, 0}));
+    EXPECT_EQ(typed.owners, (std::vector<std::string>{"", "Ada"}));
+    EXPECT_EQ(value.ToJson(), bicycle);
+}
+
+TEST(Values, WhatARecordLeavesOutHasItsDefault)
+{
+    Value value(TypeOf<Bicycle>());
+    value.Assign(Parsed(R"({"gears": 7, "wheels": [{}], "owners": ["Ada"]})"), "");
+    value.Assign(Parsed(R"({"colour": "red", "wheels": [{"spokes": [1]}]})"), "");
+    EXPECT_EQ(value.ToJson(), Parsed(R"({"electric": true, "gears": 3, "serial": 0, "weight": 12.5, "colour": "red",
+                         "wheels": [{"inches": 26, "spokes": [1]}], "owners": []})"));
+}
+
+TEST(Values, AWholeNumberIsADouble)
+{
+    Value value(TypeOf<double>());
+    value.Assign(3, "");
+    EXPECT_EQ(*static_cast<double*>(value.Data()), 3.0);
+}
+
+TEST(Values, ATextThatIsNotUtf8CanBePrinted)
+{
+    Value value(TypeOf<std::string>());
+    *static_cast<std::string*>(value.Data()) = "a\xff";
+    EXPECT_EQ(value.ToJson().dump(-1, ' ', false, json::error_handler_t::replace), "\"a\xef\xbf\xbd\"");
+}
+
+TEST(Values, ARefusedValueChangesNothing)
+{
+    Value value(TypeOf<Bicycle>());
+    value.Assign(Parsed(R"({"gears": 7})"), "");
+    EXPECT_THROW(value.Assign(Parsed(R"({"gears": 8, "colour": 1})"), ""), Mismatch);
+    EXPECT_EQ(static_cast<Bicycle*>(value.Data())->gears, 7);
+}
+
+struct MismatchRow {
+    const char* name;
+    const char* json;
+    const char* text;
+};
+
+class Mismatches : public testing::TestWithParam<MismatchRow> {};
+
+TEST_P(Mismatches, SayWhatIsWrongAndWhere)
+{
+    Value value(TypeOf<Bicycle>());
+    try {
+        value.Assign(Parsed(GetParam().json), "/bicycle");
+        FAIL() << "taken: " << GetParam().json;
+    } catch (const Mismatch& mismatch) {
+        EXPECT_STREQ(mismatch.what(), GetParam().text);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Mismatches,
+    testing::Values(
+        MismatchRow{"RecordFromList", "[]", "/bicycle: expected Bicycle, got list"},
+        MismatchRow{"RecordFromNull", "null", "/bicycle: expected Bicycle, got null"},
+        MismatchRow{"BoolFromInteger", R"({"electric": 1})", "/bicycle/electric: expected bool, got integer"},
+        MismatchRow{"BoolFromText", R"({"electric": "true"})", "/bicycle/electric: expected bool, got text"},
+        MismatchRow{"IntFromText", R"({"gears": "7"})", "/bicycle/gears: expected int, got text"},
+        MismatchRow{"IntFromFraction", R"({"gears": 7.0})",
+                    "/bicycle/gears: expected int, got number that is no 64-bit integer"},
+        MismatchRow{"IntFromBool", R"({"gears": true})", "/bicycle/gears: expected int, got bool"},
+        MismatchRow{"IntTooLarge", R"({"gears": 2147483648})", "/bicycle/gears: 2147483648 is out of the range of int"},
+        MismatchRow{"IntTooSmall", R"({"gears": -2147483649})",
+                    "/bicycle/gears: -2147483649 is out of the range of int"},
+        MismatchRow{"Int64TooLarge", R"({"serial": 9223372036854775808})",
+                    "/bicycle/serial: 9223372036854775808 is out of the range of int64"},
+        MismatchRow{"Int64FarTooLarge", R"({"serial": 99999999999999999999})",
+                    "/bicycle/serial: expected int64, got number that is no 64-bit integer"},
+        MismatchRow{"DoubleFromText", R"({"weight": "1.5"})", "/bicycle/weight: expected double, got text"},
+        MismatchRow{"TextFromNumber", R"({"colour": 5})", "/bicycle/colour: expected text, got integer"},
+        MismatchRow{"TextFromNull", R"({"colour": null})", "/bicycle/colour: expected text, got null"},
+        MismatchRow{"ListFromObject", R"({"wheels": {}})", "/bicycle/wheels: expected list of Wheel, got object"},
+        MismatchRow{"ElementOfList", R"({"owners": ["Ada", 2]})", "/bicycle/owners/1: expected text, got integer"},
+        MismatchRow{"FieldOfAnElement", R"({"wheels": [{}, {"spokes": [1, "2"]}]})",
+                    "/bicycle/wheels/1/spokes/1: expected int, got text"},
+        MismatchRow{"UnknownField", R"({"bell": 1})", "/bicycle/bell: Bicycle has no such field"},
+        MismatchRow{"UnknownFieldOfAnElement", R"({"wheels": [{"a/b": 1}]})",
+                    "/bicycle/wheels/0/a~1b: Wheel has no such field"}),
+    RowName());
+
+struct ArgumentRow {
+    const char* name;
+    const char* json;
+    const char* text;
+};
+
+class Arguments : public testing::TestWithParam<ArgumentRow> {};
+
+TEST_P(Arguments, AreRefusedWithAReason)
+{
+    const auto call = Entry<&TestModule::PacketByReference>("Takes references", "flag", "bicycle", "number");
+    try {
+        catalogue::ReadArguments(call, Parsed(GetParam().json));
+        FAIL() << "taken: " << GetParam().json;
+    } catch (const Mismatch& mismatch) {
+        EXPECT_STREQ(mismatch.what(), GetParam().text);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Arguments,
+    testing::Values(ArgumentRow{"NoObject", "[true]",
+                                "the arguments of TEST.ByReference must be a JSON object that holds each under its "
+                                "name"},
+                    ArgumentRow{"Unknown", R"({"flag": true, "colour": "red"})",
+                                "TEST.ByReference has no argument \"colour\": it takes flag, bicycle, number"},
+                    ArgumentRow{"Missing", R"({"flag": true, "number": 1})",
+                                "TEST.ByReference needs the argument \"bicycle\" (Bicycle)"},
+                    ArgumentRow{"WrongType", R"({"flag": 1, "bicycle": {}, "number": 1})",
+                                "/flag: expected bool, got integer"},
+                    ArgumentRow{"WrongTypeWithin", R"({"flag": true, "bicycle": {"gears": ""}, "number": 1})",
+                                "/bicycle/gears: expected int, got text"}),
+    RowName());
+
+TEST(Entries, AnUnknownArgumentOfACallWithoutAnyIsRefused)
+{
+    try {
+        catalogue::ReadArguments(Entry<&TestModule::PacketFails>("Fails"), {{"flag", true}});
+        FAIL();
+    } catch (const Mismatch& mismatch) {
+        EXPECT_STREQ(mismatch.what(), "TEST.Fails has no argument \"flag\": it takes none");
+    }
+}
+
+TEST(Entries, NamesFollowFromTheFunctions)
+{
+    const auto call = Entry<&TestModule::PackeByValue, &TestModule::ParesBicycle>("Takes values", "names");
+    EXPECT_EQ(call.name, "TEST.ByValue");
+    EXPECT_EQ(call.family, "TEST");
+    EXPECT_EQ(call.packName, "APIModule::CTESTModule::PackeByValue");
+    EXPECT_EQ(call.parseName, "APIModule::CTESTModule::ParesBicycle");
+    EXPECT_EQ((Entry<&TestModule::PackWithoutServer>("Takes no server", "names").name), "TEST.WithoutServer");
+}
+
+TEST(Entries, TypesFollowFromTheSignatures)
+{
+    const auto call = Entry<&TestModule::PacketByReference, &TestModule::ParesBicycle>("Takes references", "flag",
+                                                                                       "bicycle", "number");
+    ASSERT_EQ(call.arguments.size(), 3U);
+    EXPECT_EQ(call.arguments[0].type, &TypeOf<bool>());
+    EXPECT_EQ(call.arguments[1].type, &TypeOf<Bicycle>());
+    EXPECT_EQ(call.arguments[2].type, &TypeOf<int>());
+    EXPECT_EQ(call.result, &TypeOf<Bicycle>());
+    EXPECT_EQ(Entry<&TestModule::PacketFails>("Fails").result, nullptr);
+}
+
+TEST(Calls, AnUnknownNameIsNotFound)
+{
+    EXPECT_EQ(catalogue::FindCall("BRMS.GetNothing"), nullptr);
+    EXPECT_EQ(catalogue::FindCall("GetTimeSyncConfig"), nullptr);
+}
+
+TEST(Calls, FreshRecordsOfTheLibraryGoToJsonAndBack)
+{
+    std::set<const catalogue::Type*> types;
+    for (const auto& call : catalogue::Calls()) {
+        for (const auto& argument : call.arguments) {
+            types.insert(argument.type);
+        }
+        if (call.result != nullptr) {
+            types.insert(call.result);
+        }
+    }
+    for (const catalogue::Type* type : types) {
+        const json fresh = Value(*type).ToJson();
+        Value copy(*type);
+        copy.Assign(fresh, "");
+        EXPECT_EQ(copy.ToJson(), fresh) << NameOf(*type);
+    }
+}
+
+/// Runs calls against a server of the test.
+class Runs : public Host {
+protected:
+    catalogue::Outcome Run(const catalogue::Call& call, const json& arguments, const RawAnswer& answer,
+                           const catalogue::RunSettings& settings = {})
+    {
+        RawServer server([answer](const RawRequest&) { return answer; });
+        Use(server);
+        users.servers[-1] = users.servers[0] = users.servers[1];
+        return catalogue::Run(call, catalogue::ReadArguments(call, arguments), settings);
+    }
+
+    static RawAnswer Envelope(const QByteArray& data)
+    {
+        return HttpAnswer(200, R"({"code": 1000, "desc": "", "data": )" + data + "}");
+    }
+};
+
+TEST_F(Runs, ArgumentsReachThePack)
+{
+    const auto byReference = Entry<&TestModule::PacketByReference>("Takes references", "flag", "bicycle", "number");
+    const json arguments = {{"flag", true}, {"bicycle", {{"colour", "red"}}}, {"number", 5}};
+    catalogue::RunSettings settings;
+    settings.serverId = 0;
+    EXPECT_TRUE(Run(byReference, arguments, Envelope("{}"), settings).Succeeded());
+    EXPECT_EQ(TestModule::got, (json{{"flag", true}, {"colour", "red"}, {"number", 5}, {"serverId", 0}}));
+
+    const json names = {{"names", {"a", "b"}}};
+    EXPECT_TRUE(Run(Entry<&TestModule::PackeByValue>("Takes values", "names"), names, Envelope("{}")).Succeeded());
+    EXPECT_EQ(TestModule::got, (json{{"names", {"a", "b"}}, {"serverId", -1}}));
+
+    EXPECT_TRUE(
+        Run(Entry<&TestModule::PackWithoutServer>("Takes no server", "names"), names, Envelope("{}")).Succeeded());
+    EXPECT_EQ(TestModule::got, names);
+}
+
+TEST_F(Runs, TheRecordComesBack)
+{
+    const auto call = Entry<&TestModule::PackWithoutServer, &TestModule::ParesBicycle>("Reads a bicycle", "names");
+    const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21, "colour": "blue"})"));
+    EXPECT_TRUE(outcome.Succeeded());
+    EXPECT_EQ(outcome.result, 0);
+    EXPECT_EQ(outcome.record.at("gears"), 21);
+    EXPECT_EQ(outcome.record.at("colour"), "blue");
+    EXPECT_EQ(outcome.notification, "");
+}
+
+TEST_F(Runs, AFailedParseLeavesWhatItRead)
+{
+    const auto call = Entry<&TestModule::PackWithoutServer, &TestModule::ParesBicycle>("Reads a bicycle", "names");
+    const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21})"));
+    EXPECT_FALSE(outcome.Succeeded());
+    EXPECT_EQ(outcome.result, -1);
+    EXPECT_FALSE(outcome.confirmed);
+    EXPECT_EQ(outcome.record.at("gears"), 21);
+    EXPECT_EQ(outcome.notification, CAPIModule::GetErroCodeInfor({}, 3101, false).toStdString());
+}
+
+TEST_F(Runs, DataForACallWithoutAParseIsConfirmed)
+{
+    const auto call = Entry<&TestModule::PackWithoutServer>("Reads nothing", "names");
+    const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21})"));
+    EXPECT_TRUE(outcome.Succeeded());
+    EXPECT_TRUE(outcome.record.is_null());
+}
+
+TEST_F(Runs, AFailingPackSaysNothing)
+{
+    const auto outcome = catalogue::Run(Entry<&TestModule::PacketFails>("Fails"), {}, {});
+    EXPECT_FALSE(outcome.Succeeded());
+    EXPECT_EQ(outcome.result, -1);
+    EXPECT_EQ(outcome.notification, "");
+}
+
+TEST_F(Runs, StatusesAndCodesComeBackUnnotified)
+{
+    const auto call = Entry<&TestModule::PackWithoutServer>("Reads nothing", "names");
+    const json arguments = {{"names", json::array()}};
+    EXPECT_EQ(Run(call, arguments, HttpAnswer(503, "")).result, 503);
+    const auto outcome = Run(call, arguments, HttpAnswer(200, R"({"code": 0, "desc": "", "data": {}})"));
+    EXPECT_EQ(outcome.result, 0);
+    EXPECT_FALSE(outcome.Succeeded()) << "code 0 is no success";
+    EXPECT_EQ(outcome.notification, "");
+}
+
+TEST_F(Runs, TheWaitCanBeShortened)
+{
+    catalogue::RunSettings settings;
+    settings.timeoutSeconds = 1;
+    const auto outcome = Run(Entry<&TestModule::PackWithoutServer>("Reads nothing", "names"),
+                             {{"names", json::array()}}, RawAnswer{}, settings);
+    EXPECT_EQ(outcome.result, -1);
+    EXPECT_EQ(outcome.notification, CAPIModule::GetErroCodeInfor({}, -101, false).toStdString());
+}
+
+}  // namespace

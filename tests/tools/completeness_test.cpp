@@ -1,0 +1,108 @@
+// The catalogue against what the library really exports.
+#include <catalogue/Call.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <iterator>
+#include <memory>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::string OutputOf(const std::string& command)
+{
+    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+    std::string output;
+    std::array<char, 4096> part{};
+    while (pipe && std::fgets(part.data(), part.size(), pipe.get()) != nullptr) {
+        output += part.data();
+    }
+    return output;
+}
+
+std::set<std::string> ExportedFunctions()
+{
+    static const std::regex function(R"(APIModule::C[A-Z]+Module::(Pack|Parse|Pares)\w*(?=\())");
+    const std::string symbols = OutputOf(std::string(NM) + " --dynamic --demangle --defined-only " + LIBRARY_FILE);
+    std::set<std::string> functions;
+    for (std::sregex_iterator match(symbols.begin(), symbols.end(), function), end; match != end; ++match) {
+        functions.insert(match->str());
+    }
+    return functions;
+}
+
+std::set<std::string> CataloguedFunctions()
+{
+    std::set<std::string> functions;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        functions.emplace(call.packName);
+        if (call.parse != nullptr) {
+            functions.emplace(call.parseName);
+        }
+    }
+    return functions;
+}
+
+std::vector<std::string> Difference(const std::set<std::string>& left, const std::set<std::string>& right)
+{
+    std::vector<std::string> difference;
+    std::set_difference(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(difference));
+    return difference;
+}
+
+TEST(Completeness, TheCatalogueHasWhatTheLibraryExports)
+{
+    const auto exported = ExportedFunctions();
+    const auto catalogued = CataloguedFunctions();
+    EXPECT_EQ(exported.count("APIModule::CBRMSModule::PacketGetTimeSyncConfig"), 1U) << "is this the library?";
+    EXPECT_EQ(Difference(exported, catalogued), std::vector<std::string>()) << "not in the catalogue";
+    EXPECT_EQ(Difference(catalogued, exported), std::vector<std::string>()) << "not in the library";
+}
+
+TEST(Completeness, EveryPackIsOneCall)
+{
+    std::multiset<std::string_view> packs;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        packs.insert(call.packName);
+        EXPECT_EQ(packs.count(call.packName), 1U) << call.packName;
+    }
+}
+
+TEST(Completeness, EveryCallIsFoundByItsName)
+{
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        EXPECT_EQ(catalogue::FindCall(call.name), &call) << call.name << " stands for two calls";
+    }
+}
+
+TEST(Completeness, EveryCallIsDescribed)
+{
+    static const std::regex name("(BRMS|DMS|IAMS|IPMS|OBMS|OMMS)\\.[A-Z][A-Za-z]+");
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        EXPECT_TRUE(std::regex_match(call.name, name)) << call.name;
+        EXPECT_EQ(call.name.rfind(call.family + ".", 0), 0U) << call.name;
+        EXPECT_FALSE(call.subject.empty()) << call.name;
+        EXPECT_FALSE(call.summary.empty()) << call.name;
+        EXPECT_EQ(call.summary.find('\n'), std::string_view::npos) << call.name;
+    }
+}
+
+TEST(Completeness, ArgumentsHaveNamesOfTheirOwn)
+{
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        for (const catalogue::Argument& argument : call.arguments) {
+            EXPECT_FALSE(argument.name.empty()) << call.name;
+            EXPECT_EQ(argument.name.find_first_of("= @{"), std::string_view::npos) << call.name;
+            EXPECT_EQ(call.FindArgument(argument.name), &argument)
+                << call.name << " has two arguments named " << argument.name;
+        }
+    }
+}
+
+}  // namespace

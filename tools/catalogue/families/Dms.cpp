@@ -1,0 +1,35 @@
+#include "../detail/Entry.h"
+#include "Families.h"
+
+#include <DMS/DMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(PtzWashStatus, (), (result, userName, userLevel, lowerDomain))
+BOOST_DESCRIBE_STRUCT(PtzBatchWashStatus, (), (result, msg))
+BOOST_DESCRIBE_STRUCT(PtzPositionResetReq, (), (result, userName, userLevel, lowerDomain))
+
+}  // namespace APIModule
+
+namespace catalogue {
+
+using detail::AddSubject;
+using detail::Entry;
+using Dms = APIModule::CDMSModule;
+
+void AddDmsCalls(std::vector<Call>& calls)
+{
+    AddSubject(
+        calls, "PTZ",
+        {
+            Entry<&Dms::PackeWashOpen, &Dms::ParseWashOpen>("Switches the wash function of a channel on", "channelId"),
+            Entry<&Dms::PackeBatchWashOpen, &Dms::ParseBatchWashOpen>(
+                "Switches the wash function of several channels on", "channelIds"),
+            Entry<&Dms::PackeSetHomePosition, &Dms::ParseSetHomePosition>(
+                "Makes the position of a channel its home position", "channelId"),
+            Entry<&Dms::PackeGotoHomePosition, &Dms::ParseGotoHomePosition>("Moves a channel to its home position",
+                                                                            "channelId"),
+        });
+}
+
+}  // namespace catalogue

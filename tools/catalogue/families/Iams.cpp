@@ -1,0 +1,21 @@
+#include "../detail/Entry.h"
+#include "Families.h"
+
+#include <IAMS/IAMSModule.h>
+
+namespace catalogue {
+
+using detail::AddSubject;
+using detail::Entry;
+using Iams = APIModule::CIAMSModule;
+
+void AddIamsCalls(std::vector<Call>& calls)
+{
+    AddSubject(
+        calls, "Analysis tasks",
+        {
+            Entry<&Iams::PacketSetAnalysisTaskUploadFailed>("Marks the file uploads of tasks as failed", "taskIds"),
+        });
+}
+
+}  // namespace catalogue
