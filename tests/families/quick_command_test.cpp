@@ -1,0 +1,349 @@
+// Named lists of HTTP requests that the server stores.
+#include "support/Bind.h"
+#include "support/Family.h"
+
+#include <BRMS/BRMSModule.h>
+
+#include <limits>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(QuickCommandHttpUrl, (), (method, url, body, seq))
+BOOST_DESCRIBE_STRUCT(QuickCommand, (),
+                      (id, quickCommandName, enableShortcutKeys, shortcutKeys, executeMode, remark, httpUrls))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::CBRMSModule;
+using APIModule::Method_Delete;
+using APIModule::Method_Get;
+using APIModule::Method_Post;
+using APIModule::Method_Put;
+using APIModule::QuickCommand;
+using APIModule::QuickCommandHttpUrl;
+
+PackRow Add(const std::string& name, const QuickCommand& command, const std::string& body)
+{
+    return {"Add_" + name,
+            "CBRMSModule::PacketAddQuickCommand",
+            Bind<const QuickCommand&>(&CBRMSModule::PacketAddQuickCommand, command),
+            Method_Post,
+            "/brms/api/v1.1/config/quick/command",
+            body};
+}
+
+PackRow Update(const std::string& name, const QuickCommand& command, const std::string& url, const std::string& body)
+{
+    return {"Update_" + name,
+            "CBRMSModule::PacketUpdateQuickCommand",
+            Bind<const QuickCommand&>(&CBRMSModule::PacketUpdateQuickCommand, command),
+            Method_Put,
+            url,
+            body};
+}
+
+PackRow Delete(const std::string& name, const std::vector<std::string>& ids, const std::string& url)
+{
+    return {"Delete_" + name, "CBRMSModule::PacketDelQuickCommand",
+            Bind<std::vector<std::string>>(&CBRMSModule::PacketDelQuickCommand, ids), Method_Delete, url};
+}
+
+PackRow Get(const std::string& name, const std::string& id, const std::string& url)
+{
+    return {"Get_" + name, "CBRMSModule::PacketGetQuickCommand",
+            Bind<const std::string&>(&CBRMSModule::PacketGetQuickCommand, id), Method_Get, url};
+}
+
+PackRow List(const std::string& name, const std::string& keyword, const std::string& url)
+{
+    return {"List_" + name, "CBRMSModule::PacketGetQuickCommands",
+            Bind<const std::string&>(&CBRMSModule::PacketGetQuickCommands, keyword), Method_Get, url};
+}
+
+PackRow OfPlan(const std::string& name, const std::string& planId, const std::string& url)
+{
+    return {"OfPlan_" + name, "CBRMSModule::PacketGetAlarmPlanQuickCommands",
+            Bind<const std::string&>(&CBRMSModule::PacketGetAlarmPlanQuickCommands, planId), Method_Get, url};
+}
+
+/// What add and update alike make of a command.
+struct BodyRow {
+    std::string name;
+    QuickCommand command;
+    std::string body;
+};
+
+const BodyRow kBodies[] = {
+    {"whole",
+     {"q1",
+      "Open gate",
+      true,
+      "Ctrl+G",
+      2,
+      "at night",
+      {{2, "http://gate.example/open", "{\"door\": 1}", "1"}, {0, "http://gate.example/state", "", "2"}}},
+     R"({"quickCommandName": "Open gate", "enableShortcutKeys": "1", "shortcutKeys": "Ctrl+G", "executeMode": "2",
+         "remark": "at night",
+         "httpUrls": [
+             {"method": "2", "url": "http://gate.example/open", "body": "{\"door\": 1}", "seq": "1"},
+             {"method": "0", "url": "http://gate.example/state", "body": "", "seq": "2"}]})"},
+    {"fresh",
+     {},
+     R"({"quickCommandName": "", "enableShortcutKeys": "0", "shortcutKeys": "", "executeMode": "0", "remark": "",
+         "httpUrls": []})"},
+    {"enabled_and_mode_1_are_both_the_text_1",
+     {"q1", "n", true, "", 1, "", {}},
+     R"({"quickCommandName": "n", "enableShortcutKeys": "1", "shortcutKeys": "", "executeMode": "1", "remark": "",
+         "httpUrls": []})"},
+    {"disabled_and_negative_mode",
+     {"q1", "n", false, "F5", -3, "", {}},
+     R"({"quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "F5", "executeMode": "-3", "remark": "",
+         "httpUrls": []})"},
+    {"request_with_method_minus_1_is_the_text_minus_1",
+     {"q1", "n", false, "", 0, "", {{-1, "u", "b", "s"}}},
+     R"({"quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "", "executeMode": "0", "remark": "",
+         "httpUrls": [{"method": "-1", "url": "u", "body": "b", "seq": "s"}]})"},
+    {"fresh_request",
+     {"q1", "n", false, "", 0, "", {{}}},
+     R"({"quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "", "executeMode": "0", "remark": "",
+         "httpUrls": [{"method": "0", "url": "", "body": "", "seq": ""}]})"},
+    {"largest_and_smallest_numbers",
+     {"q1",
+      "",
+      false,
+      "",
+      std::numeric_limits<int>::max(),
+      "",
+      {{std::numeric_limits<int>::min(), "", "", "-007"}, {std::numeric_limits<int>::max(), "", "", "x"}}},
+     R"({"quickCommandName": "", "enableShortcutKeys": "0", "shortcutKeys": "", "executeMode": "2147483647",
+         "remark": "",
+         "httpUrls": [{"method": "-2147483648", "url": "", "body": "", "seq": "-007"},
+                      {"method": "2147483647", "url": "", "body": "", "seq": "x"}]})"},
+    {"requests_keep_their_order_and_seq_is_not_looked_into",
+     {"q1", "n", false, "", 0, "", {{1, "c", "", "3"}, {2, "a", "", "1"}, {3, "b", "", ""}}},
+     R"({"quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "", "executeMode": "0", "remark": "",
+         "httpUrls": [{"method": "1", "url": "c", "body": "", "seq": "3"},
+                      {"method": "2", "url": "a", "body": "", "seq": "1"},
+                      {"method": "3", "url": "b", "body": "", "seq": ""}]})"},
+    {"texts_with_quotes_line_ends_and_markers",
+     {"q1", "\"a\\b\"", false, "%1", 0, "\r\n\t", {{0, "http://h/?a=%20&b=\"c\"#%1", "[\"%2\"]\n", "%1"}}},
+     R"({"quickCommandName": "\"a\\b\"", "enableShortcutKeys": "0", "shortcutKeys": "%1", "executeMode": "0",
+         "remark": "\r\n\t",
+         "httpUrls": [
+             {"method": "0", "url": "http://h/?a=%20&b=\"c\"#%1", "body": "[\"%2\"]\n", "seq": "%1"}]})"},
+    {"texts_are_utf8",
+     {"q1", "\xC3\xBC", false, "\xE4\xB8\xAD", 0, "\xF0\x9F\x98\x80", {{0, "\xC3\xBC", "invalid \xFF", "\xC3"}}},
+     R"({"quickCommandName": "\u00fc", "enableShortcutKeys": "0", "shortcutKeys": "\u4e2d", "executeMode": "0",
+         "remark": "\ud83d\ude00",
+         "httpUrls": [{"method": "0", "url": "\u00fc", "body": "invalid \ufffd", "seq": "\ufffd"}]})"},
+    {"texts_go_on_behind_a_zero_byte",
+     {"q1", "a\0b"s, false, "c\0d"s, 0, "e\0f"s, {{0, "g\0h"s, "i\0j"s, "k\0l"s}}},
+     R"({"quickCommandName": "a\u0000b", "enableShortcutKeys": "0", "shortcutKeys": "c\u0000d", "executeMode": "0",
+         "remark": "e\u0000f",
+         "httpUrls": [{"method": "0", "url": "g\u0000h", "body": "i\u0000j", "seq": "k\u0000l"}]})"},
+};
+
+QuickCommand OnlyId(const std::string& id)
+{
+    QuickCommand command;
+    command.id = id;
+    return command;
+}
+
+std::vector<PackRow> PackRows()
+{
+    const char* const freshBody = R"({"quickCommandName": "", "enableShortcutKeys": "0", "shortcutKeys": "",
+                                      "executeMode": "0", "remark": "", "httpUrls": []})";
+    std::vector<PackRow> rows{
+        Update("id_goes_into_the_url_alone", OnlyId("q7"), "/brms/api/v1.1/config/quick/command/q7", freshBody),
+        Update("id_is_not_escaped", OnlyId("a/b&c#%1"), "/brms/api/v1.1/config/quick/command/a/b&c#%1", freshBody),
+        Update("id_goes_on_behind_a_zero_byte", OnlyId("a\0b"s), "/brms/api/v1.1/config/quick/command/a\0b"s,
+               freshBody),
+
+        Delete("two_joined_with_a_comma", {"x", "y"}, "/brms/api/v1.1/config/quick/command?ids=x,y"),
+        Delete("one_has_no_trailing_comma", {"x"}, "/brms/api/v1.1/config/quick/command?ids=x"),
+        Delete("none", {}, "/brms/api/v1.1/config/quick/command?ids="),
+        Delete("empty_ids_keep_their_commas", {"", "y", ""}, "/brms/api/v1.1/config/quick/command?ids=,y,"),
+        Delete("ids_are_not_escaped", {"x,y", "a&b", "%1"}, "/brms/api/v1.1/config/quick/command?ids=x,y,a&b,%1"),
+        Delete("ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
+               "/brms/api/v1.1/config/quick/command?ids=a\0b,\xC3\xBC\xEF\xBF\xBD"s),
+
+        Get("one", "q1", "/brms/api/v1.1/config/quick/command/q1"),
+        Get("empty_id", "", "/brms/api/v1.1/config/quick/command/"),
+        Get("id_is_not_escaped", "a/b?c&d#%1 \xC3\xBC", "/brms/api/v1.1/config/quick/command/a/b?c&d#%1 \xC3\xBC"),
+        Get("id_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/config/quick/command/a\0b"s),
+
+        List("keyword", "gate", "/brms/api/v1.1/config/quick/command/list?keyword=gate"),
+        List("empty_keyword", "", "/brms/api/v1.1/config/quick/command/list?keyword="),
+        List("keyword_is_not_escaped", "a&b#c %1%2b \xC3\xBC\xFF",
+             "/brms/api/v1.1/config/quick/command/list?keyword=a&b#c %1%2b \xC3\xBC\xEF\xBF\xBD"),
+        List("keyword_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/config/quick/command/list?keyword=a\0b"s),
+
+        OfPlan("one", "p1", "/brms/api/v1.1/alarm/plan/p1/quick/command/list"),
+        OfPlan("empty_id", "", "/brms/api/v1.1/alarm/plan//quick/command/list"),
+        OfPlan("id_is_not_escaped", "a/b&c#%1 \xC3\xBC",
+               "/brms/api/v1.1/alarm/plan/a/b&c#%1 \xC3\xBC/quick/command/list"),
+        OfPlan("id_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/alarm/plan/a\0b/quick/command/list"s),
+    };
+    for (const BodyRow& row : kBodies) {
+        rows.push_back(Add(row.name, row.command, row.body));
+        rows.push_back(
+            Update(row.name, row.command, "/brms/api/v1.1/config/quick/command/" + row.command.id, row.body));
+    }
+    return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(QuickCommand, PackTest, testing::ValuesIn(PackRows()), RowName());
+
+const Parse kGet = MakeParse("CBRMSModule::ParseGetQuickCommand", &CBRMSModule::ParseGetQuickCommand);
+const Parse kList = MakeParse("CBRMSModule::ParseGetQuickCommands", &CBRMSModule::ParseGetQuickCommands);
+const Parse kOfPlan =
+    MakeParse("CBRMSModule::ParseGetAlarmPlanQuickCommands", &CBRMSModule::ParseGetAlarmPlanQuickCommands);
+
+std::vector<ParseRow> ParseRows()
+{
+    const char* const freshCommand = R"({"id": "", "quickCommandName": "", "enableShortcutKeys": false,
+                                         "shortcutKeys": "", "executeMode": 0, "remark": "", "httpUrls": []})";
+    const char* const oneCommand = R"([{"id": "q0", "quickCommandName": "n0", "enableShortcutKeys": true,
+                                        "shortcutKeys": "F1", "executeMode": 4, "remark": "r0", "httpUrls": [
+                                            {"method": 3, "url": "u0", "body": "b0", "seq": "s0"}]}])";
+    return Joined({
+        Variations(kGet,
+                   {Text("id"), Text("quickCommandName"), Text("shortcutKeys"), Text("remark"),
+                    Bool("enableShortcutKeys"), Int("executeMode"),
+                    Records<QuickCommandHttpUrl>("httpUrls", {Int("method"), Text("url"), Text("body"), Text("seq")})},
+                   R"({"id": "q1", "quickCommandName": "Open gate", "enableShortcutKeys": true,
+                       "shortcutKeys": "Ctrl+G", "executeMode": 2, "remark": "at night", "httpUrls": [
+                           {"method": 2, "url": "http://gate.example/open", "body": "{}", "seq": "1"},
+                           {"method": 0, "url": "http://gate.example/state", "body": "", "seq": "2"}]})"),
+        Variations(kList,
+                   {Records<QuickCommand>("results",
+                                          {Text("quickCommandName"), Text("id"), Text("shortcutKeys"),
+                                           Bool("enableShortcutKeys"), Text("remark")},
+                                          kItself)},
+                   R"({"results": [
+                       {"id": "q1", "quickCommandName": "Open gate", "enableShortcutKeys": true,
+                        "shortcutKeys": "Ctrl+G", "remark": "at night"},
+                       {"id": "q2", "quickCommandName": "Close gate", "enableShortcutKeys": false,
+                        "shortcutKeys": "", "remark": ""}]})"),
+        Variations(kOfPlan,
+                   {Records<QuickCommand>(
+                       "results",
+                       {Text("quickCommandName"),
+                        Records<QuickCommandHttpUrl>("httpUrls", {Int("method"), Text("url"), Text("seq")})},
+                       kItself)},
+                   R"({"results": [
+                       {"quickCommandName": "Open gate", "httpUrls": [
+                           {"method": 2, "url": "http://gate.example/open", "seq": "1"},
+                           {"method": 0, "url": "http://gate.example/state", "seq": "2"}]},
+                       {"quickCommandName": "Siren", "httpUrls": [
+                           {"method": 1, "url": "http://siren.example/on", "seq": "1"},
+                           {"method": 3, "url": "http://siren.example/off", "seq": "2"}]}]})"),
+        {
+            Row("Get_text_forms_of_flag_and_mode_read_as_true_and_2", kGet,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": "1", "shortcutKeys": "F5",
+                    "executeMode": "2", "remark": "r", "httpUrls": [
+                        {"method": "-1", "url": "u", "body": "b", "seq": 7}]})",
+                freshCommand, 0,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+                    "executeMode": 2, "remark": "r", "httpUrls": [
+                        {"method": -1, "url": "u", "body": "b", "seq": "7"}]})"),
+            Row("Get_text_0_reads_as_false", kGet,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "F5",
+                    "executeMode": "x", "remark": "r", "httpUrls": []})",
+                R"({"id": "", "quickCommandName": "", "enableShortcutKeys": true, "shortcutKeys": "",
+                    "executeMode": 9, "remark": "", "httpUrls": []})",
+                0,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": false, "shortcutKeys": "F5",
+                    "executeMode": 0, "remark": "r", "httpUrls": []})"),
+            Row("Get_without_remark_has_three_texts_and_not_the_flag", kGet,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+                    "executeMode": 2, "httpUrls": []})",
+                freshCommand, -1,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": false, "shortcutKeys": "F5",
+                    "executeMode": 0, "remark": "", "httpUrls": []})",
+                {MissingKey("remark")}),
+            Row("Get_second_request_without_body_keeps_the_first", kGet,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+                    "executeMode": 2, "remark": "r", "httpUrls": [
+                        {"method": 1, "url": "u1", "body": "b1", "seq": "1"}, {"method": 2, "url": "u2", "seq": "2"}]})",
+                R"({"id": "", "quickCommandName": "", "enableShortcutKeys": false, "shortcutKeys": "",
+                    "executeMode": 0, "remark": "", "httpUrls": [
+                        {"method": 3, "url": "u0", "body": "b0", "seq": "s0"}]})",
+                -1,
+                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+                    "executeMode": 2, "remark": "r", "httpUrls": [
+                        {"method": 3, "url": "u0", "body": "b0", "seq": "s0"},
+                        {"method": 1, "url": "u1", "body": "b1", "seq": "1"}]})",
+                {MissingKey("body")}),
+            Row("Get_of_an_empty_object", kGet, "{}", freshCommand, -1, freshCommand, {EmptyObject()}),
+            Row("Get_texts_with_zero_bytes_and_utf8", kGet,
+                R"({"id": "a\u0000b", "quickCommandName": "\u00fc\u4e2d", "enableShortcutKeys": false,
+                    "shortcutKeys": "", "executeMode": -2147483648, "remark": "\"%1\"\n", "httpUrls": [
+                        {"method": -1, "url": "c\u0000d", "body": "{\"a\": \"%2\"}", "seq": "\ud83d\ude00"}]})",
+                freshCommand, 0,
+                R"({"id": "a\u0000b", "quickCommandName": "\u00fc\u4e2d", "enableShortcutKeys": false,
+                    "shortcutKeys": "", "executeMode": -2147483648, "remark": "\"%1\"\n", "httpUrls": [
+                        {"method": -1, "url": "c\u0000d", "body": "{\"a\": \"%2\"}", "seq": "\ud83d\ude00"}]})"),
+            Row("List_element_without_remark_keeps_earlier_elements", kList,
+                R"({"results": [
+                    {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                     "remark": "r1"},
+                    {"id": "q2", "quickCommandName": "n2", "enableShortcutKeys": true, "shortcutKeys": "F3"}]})",
+                "[]", -1,
+                R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                     "executeMode": 0, "remark": "r1", "httpUrls": []}])",
+                {MissingKey("remark")}),
+            Row("List_leaves_mode_and_requests_of_the_reply_unread", kList,
+                R"({"results": [
+                    {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                     "executeMode": 2, "remark": "r1", "httpUrls": [
+                         {"method": 2, "url": "u", "body": "b", "seq": "1"}]}]})",
+                "[]", 0,
+                R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                     "executeMode": 0, "remark": "r1", "httpUrls": []}])"),
+            Row("List_empty_results_append_nothing", kList, R"({"results": []})", oneCommand, 0, oneCommand),
+            Row("List_without_results_leaves_the_list", kList, R"({"commands": []})", oneCommand, -1, oneCommand,
+                {MissingKey("results")}),
+            Row("OfPlan_requests_without_body_parse", kOfPlan,
+                R"({"results": [
+                    {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}]})",
+                "[]", 0,
+                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
+                     "executeMode": 0, "remark": "", "httpUrls": [
+                         {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])"),
+            Row("OfPlan_request_without_seq_ends_the_parse_and_drops_its_command", kOfPlan,
+                R"({"results": [
+                    {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]},
+                    {"quickCommandName": "n2", "httpUrls": [{"method": 1, "url": "u2", "seq": "1"},
+                                                            {"method": 3, "url": "u3", "body": "b"}]}]})",
+                "[]", -1,
+                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
+                     "executeMode": 0, "remark": "", "httpUrls": [
+                         {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])",
+                {MissingKey("seq")}),
+            Row("OfPlan_leaves_everything_else_of_the_reply_unread", kOfPlan,
+                R"({"results": [
+                    {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                     "executeMode": 2, "remark": "r1", "httpUrls": [
+                         {"method": 2, "url": "u1", "body": "b1", "seq": "1"}]}]})",
+                "[]", 0,
+                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
+                     "executeMode": 0, "remark": "", "httpUrls": [
+                         {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])"),
+            Row("OfPlan_command_without_requests_is_appended", kOfPlan,
+                R"({"results": [{"quickCommandName": "n1", "httpUrls": []}]})", "[]", 0,
+                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
+                     "executeMode": 0, "remark": "", "httpUrls": []}])"),
+            Row("OfPlan_empty_results_append_nothing", kOfPlan, R"({"results": []})", oneCommand, 0, oneCommand),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(QuickCommand, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace
