@@ -38,6 +38,7 @@ private:
             return -1;
         }
         const QVariant variant = value.toVariant();
+        const QVariantList elements = variant.toJsonArray().toVariantList();
         Json& field = reading.field.empty() ? record : record[reading.field];
         switch (reading.type) {
         case Reading::Found:
@@ -58,13 +59,14 @@ private:
             field = variant.toString().toUtf8().toStdString();
             return 0;
         case Reading::Texts:
-            for (const QJsonValue element : variant.toJsonArray()) {
-                field.push_back(element.toString().toUtf8().toStdString());
+            for (const QVariant& element : elements) {
+                const bool isText = element.type() == QVariant::String;
+                field.push_back(isText ? element.toString().toUtf8().toStdString() : std::string());
             }
             return 0;
         case Reading::NumbersOfTexts:
-            for (const QJsonValue element : variant.toJsonArray()) {
-                field.push_back(element.toString().toInt(nullptr, 10));
+            for (const QVariant& element : elements) {
+                field.push_back(element.type() == QVariant::String ? element.toString().toInt(nullptr, 10) : 0);
             }
             return 0;
         case Reading::Object: {
@@ -72,16 +74,16 @@ private:
             return inner.isEmpty() ? 0 : Read(inner, reading.inner, record);
         }
         case Reading::Records:
-            return ReadRecords(variant.toJsonArray(), reading, field);
+            return ReadRecords(elements, reading, field);
         }
         throw std::logic_error("unknown type of reading");
     }
 
-    int ReadRecords(const QJsonArray& array, const Reading& reading, Json& list)
+    int ReadRecords(const QVariantList& elements, const Reading& reading, Json& list)
     {
-        for (const QJsonValue value : array) {
+        for (const QVariant& value : elements) {
             Json element = reading.freshElement;
-            if (Read(value.toVariant().toJsonObject(), reading.inner, element) != 0) {
+            if (Read(value.toJsonObject(), reading.inner, element) != 0) {
                 return -1;
             }
             list.push_back(element);

@@ -42,7 +42,8 @@ std::vector<Variation> Changes(const QJsonValue& value)
 {
     std::vector<Variation> changes = Replacements(value);
     const QJsonObject object = value.toObject();
-    for (const QString& key : object.keys()) {
+    const QStringList keys = object.keys();
+    for (const QString& key : keys) {
         const std::string name = key.toStdString() + "_";
         QJsonObject changed = object;
         changed.remove(key);
@@ -93,13 +94,15 @@ ParseRow Predicted(const std::string& name, const Parse& parse, const Readings& 
 
 void RequireTwoElements(const QJsonValue& value)
 {
-    if (value.isArray() && value.toArray().size() < 2) {
+    const QJsonArray array = value.toArray();
+    if (value.isArray() && array.size() < 2) {
         throw std::logic_error("a list of the whole reply has less than two elements");
     }
-    for (const QJsonValue inner : value.toArray()) {
+    for (const QJsonValue& inner : array) {
         RequireTwoElements(inner);
     }
-    for (const QJsonValue inner : value.toObject()) {
+    const QJsonObject object = value.toObject();
+    for (const QJsonValue& inner : object) {
         RequireTwoElements(inner);
     }
 }
