@@ -1,0 +1,269 @@
+// What the account may use, and how a device's own web page is opened.
+#include "support/Bind.h"
+#include "support/Family.h"
+#include "support/Json.h"
+
+#include <BRMS/BRMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(GetChannelWebTunnelRsp, (), (https, port, ip, username, token))
+BOOST_DESCRIBE_STRUCT(PermissionResourceCollectionResp, (), (menuFunctionCodes, localConfigItemCodes))
+BOOST_DESCRIBE_STRUCT(FunctionChannelCheck, (), (channelId, functionCode))
+BOOST_DESCRIBE_STRUCT(FunctionChannelCheckResult, (), (authorized))
+BOOST_DESCRIBE_STRUCT(DeviceCategoryParamReq, (), (keyword, orgCode, domain, permitted, sourceType, containChild))
+BOOST_DESCRIBE_STRUCT(DeviceCategoryQueryResult, (), (deviceCategory, deviceCount))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::CBRMSModule;
+using APIModule::DeviceCategoryParamReq;
+using APIModule::DeviceCategoryQueryResult;
+using APIModule::FunctionChannelCheck;
+using APIModule::Method_Get;
+using APIModule::Method_Post;
+
+using PackOfId = int (*)(void*, const std::string&, int);
+
+/// Rows for a Pack whose one argument stands between two parts of its URL.
+std::vector<PackRow> RowsOfId(const std::string& name, PackOfId pack, const std::string& before,
+                              const std::string& after)
+{
+    const std::pair<std::string, std::pair<std::string, std::string>> cases[] = {
+        {"", {"1000001$1$0$0", "1000001$1$0$0"}},
+        {"_empty", {"", ""}},
+        {"_is_not_escaped", {"a/b?c&d#e f\"g\"+%20", "a/b?c&d#e f\"g\"+%20"}},
+        {"_with_marker_stays", {"%1%2b", "%1%2b"}},
+        {"_is_utf8", {"\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"}},
+        {"_of_invalid_utf8_is_replaced", {"a\xFF", "a\xEF\xBF\xBD"}},
+        {"_goes_on_behind_a_zero_byte", {"a\0b"s, "a\0b"s}},
+    };
+    std::vector<PackRow> rows;
+    for (const auto& [suffix, texts] : cases) {
+        const auto& [argument, inUrl] = texts;
+        rows.push_back({name + "_id" + suffix, "CBRMSModule::Packet" + name, Bind<const std::string&>(pack, argument),
+                        Method_Get, before + inUrl + after});
+    }
+    return rows;
+}
+
+PackRow Check(const std::string& name, const FunctionChannelCheck& check, const std::string& body)
+{
+    return {name,
+            "CBRMSModule::PacketFunctionChannelCheck",
+            Bind<FunctionChannelCheck&>(&CBRMSModule::PacketFunctionChannelCheck, check),
+            Method_Post,
+            "/brms/api/v1.1/account/function/channel/check",
+            body};
+}
+
+PackRow Count(const std::string& name, const DeviceCategoryParamReq& query, const std::string& urlQuery)
+{
+    return {name, "CBRMSModule::PacketGetDeviceCategoryCount",
+            Bind<const DeviceCategoryParamReq&>(&CBRMSModule::PacketGetDeviceCategoryCount, query), Method_Get,
+            "/brms/api/v1.1/device/statistics/count-by-device-category/list?" + urlQuery};
+}
+
+std::vector<PackRow> PackRows()
+{
+    std::vector<PackRow> rows{
+        {"GetDeriveToken", "CBRMSModule::PacketGetDeriveToken", Bind<>(&CBRMSModule::PacketGetDeriveToken), Method_Post,
+         "/brms/api/v1.1/account/token/derive"},
+        {"GetPermissionResourceCollection", "CBRMSModule::PacketGetPermissionResourceCollection",
+         Bind<>(&CBRMSModule::PacketGetPermissionResourceCollection), Method_Get,
+         "/brms/api/v1.1/account/permission/resource/collection"},
+
+        Check("Check", {"c1", "PLAYBACK"}, R"({"channelId": "c1", "functionCode": "PLAYBACK"})"),
+        Check("Check_fresh", {}, R"({"channelId": "", "functionCode": ""})"),
+        Check("Check_texts_with_quotes_line_ends_and_markers", {"\"a\\b\"", "%1\n"},
+              R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
+        Check("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
+              R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
+        Check("Check_texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s},
+              R"({"channelId": "a\u0000b", "functionCode": "c\u0000d"})"),
+
+        Count("Count", {"k", "o", "d", "p", "s", "c"},
+              "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
+        Count("Count_with_only_the_keyword_cam", {"cam", "", "", "", "", ""},
+              "keyword=cam&orgCode=&domain=&permitted=&sourceType=&containChild="),
+        Count("Count_fresh", {}, "keyword=&orgCode=&domain=&permitted=&sourceType=&containChild="),
+        Count("Count_is_not_escaped", {"a&b#c", "0 01", "x/y?", "\"", "+", "%20"},
+              "keyword=a&b#c&orgCode=0 01&domain=x/y?&permitted=\"&sourceType=+&containChild=%20"),
+        Count("Count_marker_in_a_field_is_replaced_by_later_fields", {"a%2b", "ORG", "D", "P", "S", "C"},
+              "keyword=aORGb&orgCode=ORG&domain=D&permitted=P&sourceType=S&containChild=C"),
+        Count("Count_lowest_marker_is_replaced_first", {"%1", "ORG", "D", "P", "S", "C"},
+              "keyword=ORG&orgCode=D&domain=P&permitted=S&sourceType=C&containChild=%6"),
+        Count("Count_marker_in_the_last_field_stays", {"k", "o", "d", "p", "s", "%1%6"},
+              "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=%1%6"),
+        Count("Count_marker_beyond_the_places_stays", {"%9", "o", "d", "p", "s", "c"},
+              "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
+        Count("Count_is_utf8_and_goes_on_behind_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
+              "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
+    };
+    for (const std::vector<PackRow>& rowsOfId : {
+             RowsOfId("GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",
+                      "/web/tunnel"),
+             RowsOfId("GetChannelWebAuthorization", &CBRMSModule::PacketGetChannelWebAuthorization,
+                      "/brms/api/v1.1/device/channel/", "/web/authorization"),
+             RowsOfId("GetChannelWebEnablement", &CBRMSModule::PacketGetChannelWebEnablement,
+                      "/brms/api/v1.1/device/channel/", "/web/enablement"),
+             RowsOfId("GetWebEnablement", &CBRMSModule::PacketGetWebEnablement, "/brms/api/v1.1/device/",
+                      "/web/enablement"),
+             RowsOfId("GetMenuAvailable", &CBRMSModule::PacketGetMenuAvailable, "/brms/api/v1.1/menu/", "/available"),
+         }) {
+        rows.insert(rows.end(), rowsOfId.begin(), rowsOfId.end());
+    }
+    return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(AccountAccess, PackTest, testing::ValuesIn(PackRows()), RowName());
+
+const Parse kTunnel = MakeParse("CBRMSModule::ParseGetChannelWebTunnel", &CBRMSModule::ParseGetChannelWebTunnel);
+const Parse kAuthorization =
+    MakeParse("CBRMSModule::ParseGetChannelWebAuthorization", &CBRMSModule::ParseGetChannelWebAuthorization);
+const Parse kChannelWeb =
+    MakeParse("CBRMSModule::ParseGetChannelWebEnablement", &CBRMSModule::ParseGetChannelWebEnablement);
+const Parse kDeviceWeb = MakeParse("CBRMSModule::ParseGetWebEnablement", &CBRMSModule::ParseGetWebEnablement);
+const Parse kMenu = MakeParse("CBRMSModule::ParseGetMenuAvailable", &CBRMSModule::ParseGetMenuAvailable);
+const Parse kToken = MakeParse("CBRMSModule::ParseGetDeriveToken", &CBRMSModule::ParseGetDeriveToken);
+const Parse kPermissions =
+    MakeParse("CBRMSModule::ParseGetPermissionResourceCollection", &CBRMSModule::ParseGetPermissionResourceCollection);
+const Parse kCheck = MakeParse("CBRMSModule::ParseFunctionChannelCheck", &CBRMSModule::ParseFunctionChannelCheck);
+const Parse kCount =
+    MakeParse("CBRMSModule::ParseGetGetDeviceCategoryCount", &CBRMSModule::ParseGetGetDeviceCategoryCount);
+
+/// Rows for what the value of "authorized" is taken for.
+std::vector<ParseRow> CheckRows()
+{
+    const struct {
+        const char* name;
+        const char* value;
+        int authorized;
+    } cases[] = {
+        {"text_1", R"("1")", 1},
+        {"text_0", R"("0")", 0},
+        {"text_true", R"("true")", 0},
+        {"empty_text", R"("")", 0},
+        {"text_12abc", R"("12abc")", 12},
+        {"negative_text", R"("-3")", -3},
+        {"text_with_plus_sign", R"("+4")", 4},
+        {"text_with_spaces", R"("  5 6")", 5},
+        {"text_of_a_fraction", R"("1.9")", 1},
+        {"text_of_hexadecimal_digits", R"("0x10")", 0},
+        {"text_with_leading_zeros", R"("0010")", 10},
+        {"text_that_goes_on_behind_a_zero_byte", R"("1\u00002")", 1},
+        {"largest_number", R"("2147483647")", 2147483647},
+        {"number_1", "1", 1},
+        {"number_0", "0", 0},
+        {"fraction", "2.7", 2},
+        {"true", "true", 0},
+        {"false", "false", 0},
+        {"null", "null", 0},
+        {"object", R"({"authorized": "1"})", 0},
+        {"array", R"(["1"])", 0},
+    };
+    std::vector<ParseRow> rows{
+        Row("Check_without_authorized", kCheck, R"({"result": "1"})", R"({"authorized": 8})", -1,
+            R"({"authorized": 8})", {MissingKey("authorized")}),
+        Row("Check_of_an_empty_object", kCheck, "{}", R"({"authorized": 8})", -1, R"({"authorized": 8})",
+            {EmptyObject()}),
+    };
+    for (const auto& row : cases) {
+        const Json result{{"authorized", row.authorized}};
+        rows.push_back({std::string("Check_of_") + row.name,
+                        kCheck,
+                        JsonObject(std::string(R"({"authorized": )") + row.value + "}"),
+                        {{"authorized", 8}},
+                        0,
+                        result,
+                        {}});
+    }
+    return rows;
+}
+
+std::vector<ParseRow> ParseRows()
+{
+    return Joined({
+        Variations(kTunnel, {Bool("https"), Int("port"), Text("ip")},
+                   R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
+        Variations(kAuthorization, {Text("username"), Text("token")},
+                   R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
+        Variations(kChannelWeb, {Bool("enableWeb", kItself)}, R"({"enableWeb": true})"),
+        Variations(kDeviceWeb, {Bool("enableWeb", kItself)}, R"({"enableWeb": true})"),
+        Variations(kMenu, {Bool("available", kItself)}, R"({"available": true})"),
+        Variations(kToken, {Text("token", kItself)}, R"({"token": "derived"})"),
+        Variations(kPermissions,
+                   {Found("menuFunctionCodes"), Found("localConfigItemCodes"), Texts("menuFunctionCodes"),
+                    Texts("localConfigItemCodes")},
+                   R"({"menuFunctionCodes": ["MENU_MAP", "MENU_VIDEO"], "localConfigItemCodes": ["a", "b", "c"]})"),
+        Variations(
+            kCount,
+            {Records<DeviceCategoryQueryResult>("results", {Int("deviceCategory"), Int("deviceCount")}, kItself)},
+            R"({"results": [{"deviceCategory": 1, "deviceCount": 250},
+                                   {"deviceCategory": 8, "deviceCount": 0}]})"),
+        CheckRows(),
+        {
+            Row("Tunnel_without_ip_has_https_and_port", kTunnel, R"({"https": true, "port": 8443})",
+                R"({"https": false, "port": 1, "ip": "i", "username": "u", "token": "t"})", -1,
+                R"({"https": true, "port": 8443, "ip": "i", "username": "u", "token": "t"})", {MissingKey("ip")}),
+            Row("Tunnel_behind_authorization_keeps_user_name_and_token", kTunnel,
+                R"({"https": false, "port": 80, "ip": "10.0.0.9"})",
+                R"({"https": true, "port": 0, "ip": "", "username": "admin", "token": "t"})", 0,
+                R"({"https": false, "port": 80, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
+            Row("Tunnel_of_text_forms", kTunnel, R"({"https": "1", "port": "8443", "ip": null})",
+                R"({"https": false, "port": 0, "ip": "i", "username": "", "token": ""})", 0,
+                R"({"https": true, "port": 8443, "ip": "", "username": "", "token": ""})"),
+            Row("Authorization_behind_tunnel_keeps_the_tunnel", kAuthorization,
+                R"({"username": "admin", "token": "a\u0000b\u00fc"})",
+                R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "", "token": ""})", 0,
+                R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "a\u0000b\u00fc"})"),
+            Row("Authorization_without_token_has_the_user_name", kAuthorization, R"({"username": "admin"})",
+                R"({"https": true, "port": 8443, "ip": "i", "username": "", "token": "t"})", -1,
+                R"({"https": true, "port": 8443, "ip": "i", "username": "admin", "token": "t"})",
+                {MissingKey("token")}),
+            Row("ChannelWeb_of_text_0", kChannelWeb, R"({"enableWeb": "0"})", "true", 0, "false"),
+            Row("DeviceWeb_of_number_1", kDeviceWeb, R"({"enableWeb": 1})", "false", 0, "true"),
+            Row("Menu_without_available", kMenu, R"({"enableWeb": true})", "true", -1, "true",
+                {MissingKey("available")}),
+            Row("Permissions_of_a_text_and_a_number", kPermissions,
+                R"({"menuFunctionCodes": ["a", 5], "localConfigItemCodes": []})",
+                R"({"menuFunctionCodes": [], "localConfigItemCodes": []})", 0,
+                R"({"menuFunctionCodes": ["a", ""], "localConfigItemCodes": []})"),
+            Row("Permissions_elements_of_all_types", kPermissions,
+                R"({"menuFunctionCodes": [], "localConfigItemCodes":
+                        [null, true, 1.5, {"a": "b"}, ["c"], "", "d\u0000e\u00fc"]})",
+                R"({"menuFunctionCodes": [], "localConfigItemCodes": []})", 0,
+                R"({"menuFunctionCodes": [], "localConfigItemCodes": ["", "", "", "", "", "", "d\u0000e\u00fc"]})"),
+            Row("Permissions_without_localConfigItemCodes_leave_both_lists", kPermissions,
+                R"({"menuFunctionCodes": ["a", "b"]})",
+                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", -1,
+                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})",
+                {MissingKey("localConfigItemCodes")}),
+            Row("Permissions_without_both_lists_log_one_line", kPermissions, R"({"other": []})",
+                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", -1,
+                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", {MissingKey("menuFunctionCodes")}),
+            Row("Permissions_are_appended", kPermissions,
+                R"({"menuFunctionCodes": ["a"], "localConfigItemCodes": ["b", "c"]})",
+                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", 0,
+                R"({"menuFunctionCodes": ["m0", "a"], "localConfigItemCodes": ["l0", "b", "c"]})"),
+            Row("Count_second_element_without_deviceCount_keeps_the_first", kCount,
+                R"({"results": [{"deviceCategory": 1, "deviceCount": 250}, {"deviceCategory": 8}]})",
+                R"([{"deviceCategory": 2, "deviceCount": 3}])", -1,
+                R"([{"deviceCategory": 2, "deviceCount": 3}, {"deviceCategory": 1, "deviceCount": 250}])",
+                {MissingKey("deviceCount")}),
+            Row("Count_without_results_leaves_the_list", kCount, R"({"deviceCategory": 1, "deviceCount": 250})",
+                R"([{"deviceCategory": 2, "deviceCount": 3}])", -1, R"([{"deviceCategory": 2, "deviceCount": 3}])",
+                {MissingKey("results")}),
+            Row("Count_empty_results_append_nothing", kCount, R"({"results": []})",
+                R"([{"deviceCategory": 2, "deviceCount": 3}])", 0, R"([{"deviceCategory": 2, "deviceCount": 3}])"),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(AccountAccess, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace

@@ -1,0 +1,368 @@
+// What the client shows about alarms and events.
+#include "support/Bind.h"
+#include "support/Family.h"
+#include "support/UserManager.h"
+
+#include <BRMS/BRMSModule.h>
+
+#include <limits>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(GetPageSummaryAlarmPlansParam, (), (page, pageSize, keyword))
+BOOST_DESCRIBE_STRUCT(SummaryAlarmPlan, (), (id, planName))
+BOOST_DESCRIBE_STRUCT(AlarmLinkChannel, (), (channelId, channelName))
+BOOST_DESCRIBE_STRUCT(AlarmLinkAudioChannel, (), (channelId, channelName, fileIds))
+BOOST_DESCRIBE_STRUCT(AlarmLinkControl, (), (linkAlarmOutputChannels, linkAudioLightChannels, linkAudioChannels))
+BOOST_DESCRIBE_STRUCT(AlarmLayerInfo, (),
+                      (layerId, layerName, layerPicture, locationX, locationY, width, height, angle))
+BOOST_DESCRIBE_STRUCT(AlarmRecordFile, (),
+                      (fileType, filePath, ssId, channelId, recordTime, fileTimeLength, fileLength))
+BOOST_DESCRIBE_STRUCT(AlarmHostFileInfo, (), (alarmCode, files))
+BOOST_DESCRIBE_STRUCT(AudioFileInfo, (), (taskProgress, fileUrl))
+BOOST_DESCRIBE_STRUCT(PluginLogEventType, (), (eventType, eventTypeName, sort))
+BOOST_DESCRIBE_STRUCT(PluginLogTypeGroupInfo, (), (groupId, groupName, sort, eventTypes))
+BOOST_DESCRIBE_STRUCT(GetGeneralEventsParam, (), (transportType, matchType, keyword))
+BOOST_DESCRIBE_STRUCT(GeneralEventRsp, (), (id, eventName))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using namespace APIModule;
+
+PackRow Plans(const std::string& name, const GetPageSummaryAlarmPlansParam& query, const std::string& urlQuery)
+{
+    return {"Plans_" + name, "CBRMSModule::PacketGetPageSummaryAlarmPlans",
+            Bind<const GetPageSummaryAlarmPlansParam&>(&CBRMSModule::PacketGetPageSummaryAlarmPlans, query), Method_Get,
+            "/brms/api/v1.1/alarm/plan/summary/page?" + urlQuery};
+}
+
+PackRow Links(const std::string& name, const std::string& sourceCode, int alarmType, const std::string& urlQuery)
+{
+    return {"Links_" + name, "CBRMSModule::PacketGetAlarmLinkControlList",
+            Bind<const std::string&, int>(&CBRMSModule::PacketGetAlarmLinkControlList, sourceCode, alarmType),
+            Method_Get, "/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?" + urlQuery};
+}
+
+PackRow Layer(const std::string& name, const std::string& resourceCode, int resourceType, const std::string& urlQuery)
+{
+    return {"Layer_" + name, "CBRMSModule::PacketGetAlarmLayerDetail",
+            Bind<const std::string&, int>(&CBRMSModule::PacketGetAlarmLayerDetail, resourceCode, resourceType),
+            Method_Get, "/ipms/api/v1.1/parking-lot/layer/detail?" + urlQuery};
+}
+
+PackRow Files(const std::string& name, const std::string& alarmRecordId, const std::string& url)
+{
+    return {"Files_" + name, "CBRMSModule::PacketGetAlarmHostFileInfo",
+            Bind<const std::string&>(&CBRMSModule::PacketGetAlarmHostFileInfo, alarmRecordId), Method_Get, url};
+}
+
+std::function<int(void*, int)> GetAudioFileInfo(const std::string& url, const std::string& body)
+{
+    return Bind<const std::string&, const std::string&>(&CBRMSModule::PacketGetAudioFileInfo, url, body);
+}
+
+PackRow Audio(const std::string& name, const std::string& url, const std::string& body, const std::string& sentUrl,
+              const std::string& sentBody)
+{
+    return {"Audio_" + name, "CBRMSModule::PacketGetAudioFileInfo", GetAudioFileInfo(url, body), Method_Get, sentUrl,
+            sentBody};
+}
+
+PackRow Events(const std::string& name, const GetGeneralEventsParam& query, const std::string& body)
+{
+    return {"Events_" + name,
+            "CBRMSModule::PacketGetGeneralEvents",
+            Bind<GetGeneralEventsParam&>(&CBRMSModule::PacketGetGeneralEvents, query),
+            Method_Get,
+            "/brms/api/v1.1/alarm/general/event/list",
+            body};
+}
+
+const PackRow kPacks[] = {
+    Plans("page_2_of_20_with_the_keyword_door", {2, 20, "door"}, "page=2&pageSize=20&keyword=door"),
+    Plans("empty_keyword_ends_the_url", {1, 50, ""}, "page=1&pageSize=50&keyword="),
+    Plans("fresh", {}, "page=0&pageSize=0&keyword="),
+    Plans("negative_and_largest_number", {-1, std::numeric_limits<int>::max(), "k"},
+          "page=-1&pageSize=2147483647&keyword=k"),
+    Plans("keyword_is_not_escaped", {1, 2, "a&b#c %20\"%1%2b"}, "page=1&pageSize=2&keyword=a&b#c %20\"%1%2b"),
+    Plans("keyword_is_utf8_and_goes_on_behind_a_zero_byte", {1, 2, "\xC3\xBC\xFF\0b"s},
+          "page=1&pageSize=2&keyword=\xC3\xBC\xEF\xBF\xBD\0b"s),
+
+    Links("src1_and_type_5", "src1", 5, "sourceCode=src1&alarmType=5"),
+    Links("negative_type_has_a_minus_sign", "src1", -5, "sourceCode=src1&alarmType=-5"),
+    Links("smallest_type", "", std::numeric_limits<int>::min(), "sourceCode=&alarmType=-2147483648"),
+    Links("source_is_not_escaped", "a&b#c/%20", 0, "sourceCode=a&b#c/%20&alarmType=0"),
+    Links("marker_in_the_source_is_replaced_by_the_type", "a%1b", 5, "sourceCode=a5b&alarmType=%2"),
+    Links("equal_marker_in_the_source_is_replaced_too", "a%2b", 5, "sourceCode=a5b&alarmType=5"),
+    Links("higher_marker_in_the_source_stays", "a%3b", 5, "sourceCode=a%3b&alarmType=5"),
+    Links("source_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 5,
+          "sourceCode=\xC3\xBC\xEF\xBF\xBD\0b&alarmType=5"s),
+
+    Layer("code_c9_of_type_3", "c9", 3, "resourceType=3&resourceCode=c9"),
+    Layer("negative_type_and_empty_code", "", -3, "resourceType=-3&resourceCode="),
+    Layer("code_is_not_escaped", "a&b#c%1%2", 0, "resourceType=0&resourceCode=a&b#c%1%2"),
+    Layer("code_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 3,
+          "resourceType=3&resourceCode=\xC3\xBC\xEF\xBF\xBD\0b"s),
+
+    Files("one", "r1", "/brms/api/v1.1/alarm/record/r1/file/detail"),
+    Files("empty_id", "", "/brms/api/v1.1/alarm/record//file/detail"),
+    Files("id_is_not_escaped", "a/b?c&d#%1", "/brms/api/v1.1/alarm/record/a/b?c&d#%1/file/detail"),
+    Files("id_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s,
+          "/brms/api/v1.1/alarm/record/\xC3\xBC\xEF\xBF\xBD\0b/file/detail"s),
+
+    Audio("url_and_body_of_the_caller", "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})",
+          "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})"),
+    Audio("empty_body", "/audio", "", "/audio", ""),
+    Audio("url_is_neither_escaped_nor_filled", "http://h:8/a b?c=%1&d=%20#\"", "", "http://h:8/a b?c=%1&d=%20#\"", ""),
+    Audio("url_and_body_end_at_a_zero_byte", "/audio\0/more"s, "{\"a\":\"%1\"}\0{}"s, "/audio", R"({"a":"%1"})"),
+    Audio("body_that_begins_with_a_zero_byte_is_empty", "/audio", "\0{}"s, "/audio", ""),
+    Audio("url_and_body_are_utf8", "/\xC3\xBC\xFF", "{\"a\":\"\xE4\xB8\xAD\xFF\"}", "/\xC3\xBC\xEF\xBF\xBD",
+          R"({"a": "\u4e2d\ufffd"})"),
+
+    {"PluginLogType", "CBRMSModule::PacketGetPluginLogType", Bind<>(&CBRMSModule::PacketGetPluginLogType), Method_Get,
+     "/brms/api/v1.1/log/plugin-log/event-type/list"},
+
+    Events("filter_is_the_body_of_a_get", {"TCP", "1", "door"},
+           R"({"transportType": "TCP", "matchType": "1", "keyword": "door"})"),
+    Events("empty_texts_are_sent", {}, R"({"transportType": "", "matchType": "", "keyword": ""})"),
+    Events("texts_with_quotes_line_ends_and_markers", {"\"a\\b\"", "%1\n", "\t{}"},
+           R"({"transportType": "\"a\\b\"", "matchType": "%1\n", "keyword": "\t{}"})"),
+    Events("texts_are_utf8", {"\xC3\xBC", "\xE4\xB8\xAD", "invalid \xFF"},
+           R"({"transportType": "\u00fc", "matchType": "\u4e2d", "keyword": "invalid \ufffd"})"),
+    Events("texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s, "e\0f"s},
+           R"({"transportType": "a\u0000b", "matchType": "c\u0000d", "keyword": "e\u0000f"})"),
+};
+
+INSTANTIATE_TEST_SUITE_P(AlarmEvent, PackTest, testing::ValuesIn(kPacks), RowName());
+
+class AudioFileInfoTest : public testing::Test {
+protected:
+    AudioFileInfoTest()
+    {
+        m_users.servers = {{1, {}}};
+        CAPIModule::GetInstance().Init(&m_users);
+    }
+    ~AudioFileInfoTest() override { CAPIModule::GetInstance().UnInit(); }
+
+private:
+    testing_support::UserManager m_users;
+};
+
+TEST_F(AudioFileInfoTest, BodyIsNotLookedInto)
+{
+    for (const char* const body : {"{ \"a\" : 1 }\n", "[1,", "no JSON \"%1\"", " "}) {
+        RequestParam param;
+        EXPECT_EQ(GetAudioFileInfo("/audio", body)(&param, 1), 0);
+        EXPECT_EQ(param.strBody, body);
+    }
+}
+
+TEST_F(AudioFileInfoTest, UrlThatBeginsWithAZeroByteIsRefusedAsEmpty)
+{
+    RequestParam param;
+    testing_support::LogRecorder logs;
+    EXPECT_EQ(GetAudioFileInfo("\0/audio"s, "")(&param, 1), -1);
+    const testing_support::LogLines expected{{"src/UI/APIModule/APIModule", "APIModule::CAPIModule::GetRequestParam", 6,
+                                              "GetRequestParam failed! strUrl can not be empty."},
+                                             {"src/UI/APIModule/BRMS/BRMSModule",
+                                              "APIModule::CBRMSModule::PacketGetAudioFileInfo", 6,
+                                              "PacketGetAudioFileInfo failed."}};
+    EXPECT_EQ(logs.Take(), expected);
+}
+
+const Parse kPlans =
+    MakeParse("CBRMSModule::ParseGetPageSummaryAlarmPlans", &CBRMSModule::ParseGetPageSummaryAlarmPlans);
+const Parse kLinks = MakeParse("CBRMSModule::ParseGetAlarmLinkControlList", &CBRMSModule::ParseGetAlarmLinkControlList);
+const Parse kLayer = MakeParse("CBRMSModule::ParseGetAlarmLayerDetail", &CBRMSModule::ParseGetAlarmLayerDetail);
+const Parse kFiles = MakeParse("CBRMSModule::ParseGetAlarmHostFileInfo", &CBRMSModule::ParseGetAlarmHostFileInfo);
+const Parse kAudio = MakeParse("CBRMSModule::ParseGetAudioFileInfo", &CBRMSModule::ParseGetAudioFileInfo);
+const Parse kPluginLog = MakeParse("CBRMSModule::ParseGetPluginLogType", &CBRMSModule::ParseGetPluginLogType);
+const Parse kEvents = MakeParse("CBRMSModule::ParseGetGeneralEvents", &CBRMSModule::ParseGetGeneralEvents);
+
+std::vector<ParseRow> GeneratedRows()
+{
+    const Readings channel{Text("channelId"), Text("channelName")};
+    return Joined({
+        Variations(kPlans, {Records<SummaryAlarmPlan>("pageData", {Text("id"), Text("planName")}, kItself)},
+                   R"({"totalCount": 2, "pageData": [{"id": "p1", "planName": "Doors"},
+                                                     {"id": "p2", "planName": "Gates"}]})"),
+        Variations(kLinks,
+                   {Records<AlarmLinkChannel>("linkAudioLightChannels", channel),
+                    Records<AlarmLinkChannel>("linkAlarmOutputChannels", channel),
+                    Records<AlarmLinkAudioChannel>("linkAudioChannels",
+                                                   {Text("channelId"), Text("channelName"), Text("fileIds")})},
+                   R"({"linkAlarmOutputChannels": [{"channelId": "o1", "channelName": "Output 1"},
+                                                   {"channelId": "o2", "channelName": "Output 2"}],
+                       "linkAudioLightChannels": [{"channelId": "l1", "channelName": "Light 1"},
+                                                  {"channelId": "l2", "channelName": "Light 2"}],
+                       "linkAudioChannels": [{"channelId": "a1", "channelName": "Speaker 1", "fileIds": "1,2"},
+                                             {"channelId": "a2", "channelName": "Speaker 2", "fileIds": ""}]})"),
+        Variations(kLayer,
+                   {Text("layerId"), Text("layerName"), Text("layerPicture"), Double("height"), Double("width"),
+                    Double("locationX"), Double("locationY"), Double("angle")},
+                   R"({"layerId": "y1", "layerName": "Ground floor", "layerPicture": "/pictures/1.png",
+                       "locationX": 10.25, "locationY": -3.5, "width": 1920, "height": 1080.5, "angle": 270})"),
+        Variations(kFiles,
+                   {Text("alarmCode"), Records<AlarmRecordFile>(
+                                           "files", {Int("fileType"), Text("filePath"), Text("ssId"), Text("channelId"),
+                                                     Int64("recordTime"), Int("fileTimeLength"), Int64("fileLength")})},
+                   R"({"alarmCode": "{A-1}", "files": [
+                       {"fileType": 1, "filePath": "/a.dav", "ssId": "s1", "channelId": "c1",
+                        "recordTime": 1700000000000, "fileTimeLength": 30, "fileLength": 5000000000},
+                       {"fileType": 2, "filePath": "/a.jpg", "ssId": "s2", "channelId": "c2",
+                        "recordTime": 1700000000001, "fileTimeLength": 0, "fileLength": 40960}]})"),
+        Variations(kAudio, {Text("fileUrl"), Text("taskProgress")},
+                   R"({"taskProgress": "100", "fileUrl": "/files/1.wav"})"),
+        Variations(
+            kPluginLog,
+            {Records<PluginLogTypeGroupInfo>(
+                "results",
+                {Text("groupId"), Text("groupName"), Int("sort"),
+                 Records<PluginLogEventType>("eventTypes", {Text("eventType"), Text("eventTypeName"), Int("sort")})},
+                kItself)},
+            R"({"results": [
+                       {"groupId": "g1", "groupName": "Login", "sort": 1, "eventTypes": [
+                           {"eventType": "e1", "eventTypeName": "In", "sort": 11},
+                           {"eventType": "e2", "eventTypeName": "Out", "sort": 12}]},
+                       {"groupId": "g2", "groupName": "Video", "sort": 2, "eventTypes": [
+                           {"eventType": "e3", "eventTypeName": "Play", "sort": 21},
+                           {"eventType": "e4", "eventTypeName": "Stop", "sort": 22}]}]})"),
+        Variations(kEvents, {Records<GeneralEventRsp>("results", {Text("id"), Text("eventName")}, kItself)},
+                   R"({"results": [{"id": "1", "eventName": "Door open"}, {"id": "2", "eventName": "Door closed"}]})"),
+    });
+}
+
+std::vector<ParseRow> HandWrittenRows()
+{
+    const char* const noLinks =
+        R"({"linkAlarmOutputChannels": [], "linkAudioLightChannels": [], "linkAudioChannels": []})";
+    const char* const usedLayer = R"({"layerId": "y0", "layerName": "n0", "layerPicture": "p0", "locationX": 1.5,
+                                      "locationY": 2.5, "width": 3.5, "height": 4.5, "angle": 5.5})";
+    const char* const usedGroups = R"([{"groupId": "g0", "groupName": "n0", "sort": 0, "eventTypes": [
+                                           {"eventType": "e0", "eventTypeName": "t0", "sort": 0}]}])";
+    return {
+        Row("Plans_second_element_without_planName_keeps_the_first", kPlans,
+            R"({"pageData": [{"id": "p1", "planName": "n1"}, {"id": "p2"}, {"id": "p3", "planName": "n3"}]})",
+            R"([{"id": "p0", "planName": "n0"}])", -1,
+            R"([{"id": "p0", "planName": "n0"}, {"id": "p1", "planName": "n1"}])", {MissingKey("planName")}),
+        Row("Plans_of_results_in_place_of_pageData", kPlans, R"({"results": [{"id": "p1", "planName": "n1"}]})",
+            R"([{"id": "p0", "planName": "n0"}])", -1, R"([{"id": "p0", "planName": "n0"}])", {MissingKey("pageData")}),
+        Row("Plans_empty_page_appends_nothing", kPlans, R"({"pageData": []})", R"([{"id": "p0", "planName": "n0"}])", 0,
+            R"([{"id": "p0", "planName": "n0"}])"),
+        Row("Links_without_linkAudioChannels_have_the_first_two_lists", kLinks,
+            R"({"linkAudioLightChannels": [{"channelId": "l1", "channelName": "L1"}],
+                "linkAlarmOutputChannels": [{"channelId": "o1", "channelName": "O1"}]})",
+            noLinks, -1,
+            R"({"linkAlarmOutputChannels": [{"channelId": "o1", "channelName": "O1"}],
+                "linkAudioLightChannels": [{"channelId": "l1", "channelName": "L1"}], "linkAudioChannels": []})",
+            {MissingKey("linkAudioChannels")}),
+        Row("Links_without_linkAudioLightChannels_have_none", kLinks,
+            R"({"linkAlarmOutputChannels": [{"channelId": "o1", "channelName": "O1"}], "linkAudioChannels": []})",
+            noLinks, -1, noLinks, {MissingKey("linkAudioLightChannels")}),
+        Row("Links_without_linkAlarmOutputChannels_have_the_lights", kLinks,
+            R"({"linkAudioLightChannels": [{"channelId": "l1", "channelName": "L1"}], "linkAudioChannels": [
+                   {"channelId": "a1", "channelName": "A1", "fileIds": "1"}]})",
+            noLinks, -1,
+            R"({"linkAlarmOutputChannels": [], "linkAudioLightChannels": [{"channelId": "l1", "channelName": "L1"}],
+                "linkAudioChannels": []})",
+            {MissingKey("linkAlarmOutputChannels")}),
+        Row("Links_three_empty_lists", kLinks, noLinks, noLinks, 0, noLinks),
+        Row("Links_are_appended", kLinks,
+            R"({"linkAlarmOutputChannels": [{"channelId": "o1", "channelName": "O1"}],
+                "linkAudioLightChannels": [{"channelId": "l1", "channelName": "L1"}],
+                "linkAudioChannels": [{"channelId": "a1", "channelName": "A1", "fileIds": "1,2"}]})",
+            R"({"linkAlarmOutputChannels": [{"channelId": "o0", "channelName": "O0"}],
+                "linkAudioLightChannels": [{"channelId": "l0", "channelName": "L0"}],
+                "linkAudioChannels": [{"channelId": "a0", "channelName": "A0", "fileIds": "0"}]})",
+            0,
+            R"({"linkAlarmOutputChannels": [{"channelId": "o0", "channelName": "O0"},
+                                            {"channelId": "o1", "channelName": "O1"}],
+                "linkAudioLightChannels": [{"channelId": "l0", "channelName": "L0"},
+                                           {"channelId": "l1", "channelName": "L1"}],
+                "linkAudioChannels": [{"channelId": "a0", "channelName": "A0", "fileIds": "0"},
+                                      {"channelId": "a1", "channelName": "A1", "fileIds": "1,2"}]})"),
+        Row("Layer_without_angle_has_the_seven_earlier_fields", kLayer,
+            R"({"layerId": "y1", "layerName": "n1", "layerPicture": "p1", "locationX": 10.25, "locationY": -3.5,
+                "width": 1920, "height": 1080})",
+            usedLayer, -1,
+            R"({"layerId": "y1", "layerName": "n1", "layerPicture": "p1", "locationX": 10.25, "locationY": -3.5,
+                "width": 1920.0, "height": 1080.0, "angle": 5.5})",
+            {MissingKey("angle")}),
+        Row("Layer_without_width_has_the_height_and_no_location", kLayer,
+            R"({"layerId": "y1", "layerName": "n1", "layerPicture": "p1", "locationX": 10.25, "locationY": -3.5,
+                "height": 1080, "angle": 90})",
+            usedLayer, -1,
+            R"({"layerId": "y1", "layerName": "n1", "layerPicture": "p1", "locationX": 1.5, "locationY": 2.5,
+                "width": 3.5, "height": 1080.0, "angle": 5.5})",
+            {MissingKey("width")}),
+        Row("Layer_numbers_as_texts_true_and_null", kLayer,
+            R"({"layerId": 7, "layerName": null, "layerPicture": "", "locationX": "10.25", "locationY": "-3.5e2",
+                "width": true, "height": null, "angle": "abc"})",
+            usedLayer, 0,
+            R"({"layerId": "7", "layerName": "", "layerPicture": "", "locationX": 10.25, "locationY": -350.0,
+                "width": 1.0, "height": 0.0, "angle": 0.0})"),
+        Row("Files_numbers_beyond_32_bits", kFiles,
+            R"({"alarmCode": "A", "files": [
+                {"fileType": -1, "filePath": "a\u0000b", "ssId": "\u00fc", "channelId": "",
+                 "recordTime": 9007199254740991, "fileTimeLength": 2147483647, "fileLength": -9007199254740991}]})",
+            R"({"alarmCode": "", "files": []})", 0,
+            R"({"alarmCode": "A", "files": [
+                {"fileType": -1, "filePath": "a\u0000b", "ssId": "\u00fc", "channelId": "",
+                 "recordTime": 9007199254740991, "fileTimeLength": 2147483647, "fileLength": -9007199254740991}]})"),
+        Row("Files_second_file_without_fileLength_keeps_code_and_first_file", kFiles,
+            R"({"alarmCode": "A", "files": [
+                {"fileType": 1, "filePath": "p1", "ssId": "s1", "channelId": "c1", "recordTime": "1700000000000",
+                 "fileTimeLength": "30", "fileLength": "5000000000"},
+                {"fileType": 1, "filePath": "p2", "ssId": "s2", "channelId": "c2", "recordTime": 3,
+                 "fileTimeLength": 4}]})",
+            R"({"alarmCode": "B", "files": []})", -1,
+            R"({"alarmCode": "A", "files": [
+                {"fileType": 1, "filePath": "p1", "ssId": "s1", "channelId": "c1", "recordTime": 1700000000000,
+                 "fileTimeLength": 30, "fileLength": 5000000000}]})",
+            {MissingKey("fileLength")}),
+        Row("Files_without_files_have_the_code", kFiles, R"({"alarmCode": "A"})", R"({"alarmCode": "B", "files": []})",
+            -1, R"({"alarmCode": "A", "files": []})", {MissingKey("files")}),
+        Row("Files_empty_list", kFiles, R"({"alarmCode": "A", "files": []})", R"({"alarmCode": "B", "files": []})", 0,
+            R"({"alarmCode": "A", "files": []})"),
+        Row("Audio_without_taskProgress_has_the_fileUrl", kAudio, R"({"fileUrl": "/1.wav"})",
+            R"({"taskProgress": "t", "fileUrl": "f"})", -1, R"({"taskProgress": "t", "fileUrl": "/1.wav"})",
+            {MissingKey("taskProgress")}),
+        Row("Audio_without_fileUrl_has_nothing", kAudio, R"({"taskProgress": "100"})",
+            R"({"taskProgress": "t", "fileUrl": "f"})", -1, R"({"taskProgress": "t", "fileUrl": "f"})",
+            {MissingKey("fileUrl")}),
+        Row("Audio_progress_that_is_a_number", kAudio, R"({"taskProgress": 50, "fileUrl": ""})",
+            R"({"taskProgress": "t", "fileUrl": "f"})", 0, R"({"taskProgress": "50", "fileUrl": ""})"),
+        Row("PluginLog_group_with_no_event_types_is_appended", kPluginLog,
+            R"({"results": [{"groupId": "g1", "groupName": "n1", "sort": 1, "eventTypes": []}]})", "[]", 0,
+            R"([{"groupId": "g1", "groupName": "n1", "sort": 1, "eventTypes": []}])"),
+        Row("PluginLog_type_without_sort_drops_its_group_and_keeps_earlier_ones", kPluginLog,
+            R"({"results": [
+                {"groupId": "g1", "groupName": "n1", "sort": "-1", "eventTypes": [
+                    {"eventType": "e1", "eventTypeName": "t1", "sort": "12"}]},
+                {"groupId": "g2", "groupName": "n2", "sort": 2, "eventTypes": [
+                    {"eventType": "e2", "eventTypeName": "t2", "sort": 3}, {"eventType": "e3", "eventTypeName": "t3"}]},
+                {"groupId": "g3", "groupName": "n3", "sort": 4, "eventTypes": []}]})",
+            "[]", -1,
+            R"([{"groupId": "g1", "groupName": "n1", "sort": -1, "eventTypes": [
+                    {"eventType": "e1", "eventTypeName": "t1", "sort": 12}]}])",
+            {MissingKey("sort")}),
+        Row("PluginLog_without_results_leaves_the_list", kPluginLog, R"({"groups": []})", usedGroups, -1, usedGroups,
+            {MissingKey("results")}),
+        Row("Events_second_element_without_eventName_keeps_the_first", kEvents,
+            R"({"results": [{"id": 1, "eventName": "n1"}, {"id": "2"}]})", R"([{"id": "0", "eventName": "n0"}])", -1,
+            R"([{"id": "0", "eventName": "n0"}, {"id": "1", "eventName": "n1"}])", {MissingKey("eventName")}),
+        Row("Events_empty_results_append_nothing", kEvents, R"({"results": []})", R"([{"id": "0", "eventName": "n0"}])",
+            0, R"([{"id": "0", "eventName": "n0"}])"),
+        Row("Events_of_an_empty_object", kEvents, "{}", R"([{"id": "0", "eventName": "n0"}])", -1,
+            R"([{"id": "0", "eventName": "n0"}])", {EmptyObject()}),
+    };
+}
+
+INSTANTIATE_TEST_SUITE_P(AlarmEvent, ParseTest, testing::ValuesIn(Joined({GeneratedRows(), HandWrittenRows()})),
+                         RowName());
+
+}  // namespace
