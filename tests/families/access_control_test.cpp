@@ -1,0 +1,260 @@
+// Persons and rules of access points and devices.
+#include "support/Bound.h"
+#include "support/Family.h"
+
+#include <OBMS/OBMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(GetPageAccessAuthorizePersonsReq, (),
+                      (page, pageSize, containChild, keyword, deviceCode, orgCode, pointIds))
+BOOST_DESCRIBE_STRUCT(PersonOrgInfo, (), (orgCode, orgName))
+BOOST_DESCRIBE_STRUCT(AccessAuthorizePersonInfo, (), (personId, personName, orgCode, orgName, orgInfos))
+BOOST_DESCRIBE_STRUCT(GetPageAccessAuthorizePersonsResp, (), (totalCount, pageData))
+BOOST_DESCRIBE_STRUCT(GetManagePersonReq, (), (deviceCode))
+BOOST_DESCRIBE_STRUCT(ManagePersonInfo, (), (personId, personName, orgCode, orgName, errorCode, orgInfos))
+BOOST_DESCRIBE_STRUCT(SetManagePersonReq, (), (deviceCode, personIds))
+BOOST_DESCRIBE_STRUCT(GetPointAccessRules, (), (pointId, ruleType, hasOfflinePoint))
+BOOST_DESCRIBE_STRUCT(RuleInfo, (), (ruleId, ruleName, ruleType, hasOfflinePoint))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::COBMSModule;
+using APIModule::Method_Get;
+using APIModule::Method_Post;
+using APIModule::Method_Put;
+
+PackRow AuthorizePersonsRow(const std::string& name, const APIModule::GetPageAccessAuthorizePersonsReq& req,
+                            const std::string& body)
+{
+    return {name,
+            "COBMSModule::PacketGetPageAccessAuthorizePersons",
+            Bound(&COBMSModule::PacketGetPageAccessAuthorizePersons, req),
+            Method_Post,
+            "/obms/api/v1.1/acs/person/access/authorize/fetch/page",
+            body};
+}
+
+PackRow GetManagedRow(const std::string& name, const std::string& deviceCode, const std::string& url)
+{
+    return {name,
+            "COBMSModule::PacketGetManagePersons",
+            Bound(&COBMSModule::PacketGetManagePersons, APIModule::GetManagePersonReq{deviceCode}),
+            Method_Get,
+            url,
+            "",
+            Server::Current};
+}
+
+PackRow SetManagedRow(const std::string& name, const APIModule::SetManagePersonReq& req, const std::string& url,
+                      const std::string& body)
+{
+    return {
+        name, "COBMSModule::PacketSetManagePersons", Bound(&COBMSModule::PacketSetManagePersons, req), Method_Put, url,
+        body};
+}
+
+PackRow PointRulesRow(const std::string& name, const APIModule::GetPointAccessRules& req, const std::string& url)
+{
+    return {name, "COBMSModule::PackGetPointRules", Bound(&COBMSModule::PackGetPointRules, req), Method_Get, url};
+}
+
+PackRow ResetAntiPassRow(const std::string& name, const std::string& personId, const std::string& url)
+{
+    return {name, "COBMSModule::PackPersonResetAntiPass", Bound(&COBMSModule::PackPersonResetAntiPass, personId),
+            Method_Post, url};
+}
+
+const PackRow kPacks[] = {
+    AuthorizePersonsRow("AuthorizePersons_page_0_of_20_and_flag_are_texts", {0, 20, false, "jo", "dev 1", "001", {"7"}},
+                        R"({"page": "0", "pageSize": "20", "containChild": "0", "keyword": "jo", "deviceCode": "dev 1",
+                            "orgCode": "001", "pointIds": ["7"]})"),
+    AuthorizePersonsRow("AuthorizePersons_containChild_and_points_in_order", {3, 50, true, "", "", "", {"b", "a", "b"}},
+                        R"({"page": "3", "pageSize": "50", "containChild": "1", "keyword": "", "deviceCode": "",
+                            "orgCode": "", "pointIds": ["b", "a", "b"]})"),
+    AuthorizePersonsRow("AuthorizePersons_fresh_sends_an_empty_list_of_points", {},
+                        R"({"page": "0", "pageSize": "0", "containChild": "0", "keyword": "", "deviceCode": "",
+                            "orgCode": "", "pointIds": []})"),
+    AuthorizePersonsRow("AuthorizePersons_negative_numbers", {-1, -2147483647 - 1, false, "", "", "", {}},
+                        R"({"page": "-1", "pageSize": "-2147483648", "containChild": "0", "keyword": "",
+                            "deviceCode": "", "orgCode": "", "pointIds": []})"),
+    AuthorizePersonsRow("AuthorizePersons_zero_bytes_are_kept", {1, 2, true, "a\0b"s, "\0"s, "c\0"s, {"d\0e"s}},
+                        R"({"page": "1", "pageSize": "2", "containChild": "1", "keyword": "a\u0000b",
+                            "deviceCode": "\u0000", "orgCode": "c\u0000", "pointIds": ["d\u0000e"]})"),
+    AuthorizePersonsRow("AuthorizePersons_utf8_quotes_and_markers",
+                        {1, 2, true, "\xC3\xBC \xE4\xB8\xAD", "\"q\"\\", "%1", {"x\xFF", ""}},
+                        R"({"page": "1", "pageSize": "2", "containChild": "1", "keyword": "\u00fc \u4e2d",
+                            "deviceCode": "\"q\"\\", "orgCode": "%1", "pointIds": ["x\ufffd", ""]})"),
+    GetManagedRow("GetManagePersons_always_asks_the_current_server", "1000001",
+                  "/obms/api/v1.1/acs/device/1000001/manage/person/list"),
+    GetManagedRow("GetManagePersons_empty_text", "", "/obms/api/v1.1/acs/device//manage/person/list"),
+    GetManagedRow("GetManagePersons_nothing_is_escaped", "a b/%1?\xC3\xBC\"",
+                  "/obms/api/v1.1/acs/device/a b/%1?\xC3\xBC\"/manage/person/list"),
+    GetManagedRow("GetManagePersons_zero_byte_is_kept", "a\0b"s, "/obms/api/v1.1/acs/device/a\0b/manage/person/list"s),
+    GetManagedRow("GetManagePersons_invalid_utf8", "x\xFF",
+                  "/obms/api/v1.1/acs/device/x\xEF\xBF\xBD/manage/person/list"),
+    SetManagedRow("SetManagePersons", {"1000001", {"2", "1"}}, "/obms/api/v1.1/acs/device/1000001/manage/person",
+                  R"({"personIds": ["2", "1"]})"),
+    SetManagedRow("SetManagePersons_empty_list_is_sent", {"1000001", {}},
+                  "/obms/api/v1.1/acs/device/1000001/manage/person", R"({"personIds": []})"),
+    SetManagedRow("SetManagePersons_nothing_is_escaped", {"a b/%1?\xC3\xBC\"", {"%1", "\"q\"\\", "\xE4\xB8\xAD"}},
+                  "/obms/api/v1.1/acs/device/a b/%1?\xC3\xBC\"/manage/person",
+                  R"({"personIds": ["%1", "\"q\"\\", "\u4e2d"]})"),
+    SetManagedRow("SetManagePersons_zero_bytes_are_kept", {"a\0b"s, {"c\0d"s, ""}},
+                  "/obms/api/v1.1/acs/device/a\0b/manage/person"s, R"({"personIds": ["c\u0000d", ""]})"),
+    SetManagedRow("SetManagePersons_invalid_utf8", {"x\xFF", {"y\xC3"}},
+                  "/obms/api/v1.1/acs/device/x\xEF\xBF\xBD/manage/person", R"({"personIds": ["y\ufffd"]})"),
+    PointRulesRow("GetPointRules", {"77", "2", 1},
+                  "/obms/api/v1.1/acp/point/77/rule/list?ruleType=2&hasOfflinePoint=1"),
+    PointRulesRow("GetPointRules_hasOfflinePoint_is_a_decimal_number", {"77", "2", -12},
+                  "/obms/api/v1.1/acp/point/77/rule/list?ruleType=2&hasOfflinePoint=-12"),
+    PointRulesRow("GetPointRules_fresh", {}, "/obms/api/v1.1/acp/point//rule/list?ruleType=&hasOfflinePoint=0"),
+    PointRulesRow("GetPointRules_nothing_is_escaped", {"a b/?", "\xC3\xBC&\"#", 0},
+                  "/obms/api/v1.1/acp/point/a b/?/rule/list?ruleType=\xC3\xBC&\"#&hasOfflinePoint=0"),
+    PointRulesRow("GetPointRules_zero_bytes_are_kept", {"a\0b"s, "\0"s, 0},
+                  "/obms/api/v1.1/acp/point/a\0b/rule/list?ruleType=\0&hasOfflinePoint=0"s),
+    PointRulesRow("GetPointRules_invalid_utf8", {"x\xFF", "\xC3", 0},
+                  "/obms/api/v1.1/acp/point/x\xEF\xBF\xBD/rule/list?ruleType=\xEF\xBF\xBD&hasOfflinePoint=0"),
+    PointRulesRow("GetPointRules_markers_of_later_places_are_rewritten", {"a%2b", "t%3", 5},
+                  "/obms/api/v1.1/acp/point/at5b/rule/list?ruleType=t5&hasOfflinePoint=5"),
+    PointRulesRow("GetPointRules_marker_1_in_the_point_takes_the_type", {"%1", "t", 5},
+                  "/obms/api/v1.1/acp/point/t/rule/list?ruleType=5&hasOfflinePoint=%3"),
+    ResetAntiPassRow("PersonResetAntiPass", "31", "/obms/api/v1.1/acs/person/31/anti-pass-time/reset"),
+    ResetAntiPassRow("PersonResetAntiPass_empty_text", "", "/obms/api/v1.1/acs/person//anti-pass-time/reset"),
+    ResetAntiPassRow("PersonResetAntiPass_nothing_is_escaped", "a b/%1?\xC3\xBC\"",
+                     "/obms/api/v1.1/acs/person/a b/%1?\xC3\xBC\"/anti-pass-time/reset"),
+    ResetAntiPassRow("PersonResetAntiPass_zero_byte_is_kept", "a\0b"s,
+                     "/obms/api/v1.1/acs/person/a\0b/anti-pass-time/reset"s),
+    ResetAntiPassRow("PersonResetAntiPass_invalid_utf8", "x\xFF",
+                     "/obms/api/v1.1/acs/person/x\xEF\xBF\xBD/anti-pass-time/reset"),
+};
+
+INSTANTIATE_TEST_SUITE_P(AccessControl, PackTest, testing::ValuesIn(kPacks), RowName());
+
+const Parse kAuthorizePersons =
+    MakeParse("COBMSModule::ParseGetPageAccessAuthorizePersons", &COBMSModule::ParseGetPageAccessAuthorizePersons);
+const Parse kManagePersons = MakeParse("COBMSModule::ParseGetManagePersons", &COBMSModule::ParseGetManagePersons);
+const Parse kPointRules = MakeParse("COBMSModule::ParesGetPointRules", &COBMSModule::ParesGetPointRules);
+
+const Reading kOrganizations = Records<APIModule::PersonOrgInfo>("orgInfos", {Text("orgCode"), Text("orgName")});
+
+std::vector<ParseRow> ParseRows()
+{
+    return Joined({
+        Variations(
+            kAuthorizePersons,
+            {Found("totalCount"), Found("pageData"), Int("totalCount"),
+             Records<APIModule::AccessAuthorizePersonInfo>(
+                 "pageData", {Text("personId"), Text("personName"), Text("orgCode"), Text("orgName"), kOrganizations})},
+            R"({"totalCount": 57, "pageData": [
+                        {"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root",
+                         "orgInfos": [{"orgCode": "002", "orgName": "A"}, {"orgCode": "003", "orgName": "B"}]},
+                        {"personId": "2", "personName": "Bo", "orgCode": "004", "orgName": "Branch",
+                         "orgInfos": [{"orgCode": "005", "orgName": "C"}, {"orgCode": "006", "orgName": "D"}]}]})"),
+        Variations(kManagePersons,
+                   {Records<APIModule::ManagePersonInfo>("results",
+                                                         {Text("personId"), Text("personName"), Text("orgCode"),
+                                                          Text("orgName"), Text("errorCode"), kOrganizations},
+                                                         kItself)},
+                   R"({"results": [
+                        {"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root", "errorCode": "0",
+                         "orgInfos": [{"orgCode": "002", "orgName": "A"}, {"orgCode": "003", "orgName": "B"}]},
+                        {"personId": "2", "personName": "Bo", "orgCode": "004", "orgName": "Branch", "errorCode": "17",
+                         "orgInfos": [{"orgCode": "005", "orgName": "C"}, {"orgCode": "006", "orgName": "D"}]}]})"),
+        Variations(
+            kPointRules,
+            {Records<APIModule::RuleInfo>(
+                "results", {Text("ruleId"), Text("ruleName"), Text("ruleType"), Bool("hasOfflinePoint")}, kItself)},
+            R"({"results": [{"ruleId": "1", "ruleName": "Day", "ruleType": "2", "hasOfflinePoint": true},
+                                   {"ruleId": "3", "ruleName": "Night", "ruleType": "4", "hasOfflinePoint": false}]})"),
+        {
+            Row("AuthorizePersons_total_57_without_pageData_leaves_totalCount", kAuthorizePersons,
+                R"({"totalCount": 57})", R"({"totalCount": 5, "pageData": []})", -1,
+                R"({"totalCount": 5, "pageData": []})", {MissingKey("pageData")}),
+            Row("AuthorizePersons_without_totalCount_reads_no_page", kAuthorizePersons, R"({"pageData": []})",
+                R"({"totalCount": 5, "pageData": []})", -1, R"({"totalCount": 5, "pageData": []})",
+                {MissingKey("totalCount")}),
+            Row("AuthorizePersons_empty_page_stores_totalCount", kAuthorizePersons,
+                R"({"totalCount": 57, "pageData": []})",
+                R"({"totalCount": 5, "pageData": [{"personId": "before", "personName": "", "orgCode": "",
+                                                   "orgName": "", "orgInfos": []}]})",
+                0,
+                R"({"totalCount": 57, "pageData": [{"personId": "before", "personName": "", "orgCode": "",
+                                                    "orgName": "", "orgInfos": []}]})"),
+            Row("AuthorizePersons_pageData_of_null_counts_as_empty", kAuthorizePersons,
+                R"({"totalCount": "57", "pageData": null})", R"({"totalCount": 5, "pageData": []})", 0,
+                R"({"totalCount": 57, "pageData": []})"),
+            Row("AuthorizePersons_person_with_empty_orgInfos_is_kept", kAuthorizePersons,
+                R"({"totalCount": 1, "pageData": [{"personId": "1", "personName": "Jo", "orgCode": "001",
+                                                   "orgName": "Root", "orgInfos": []}]})",
+                R"({"totalCount": 0, "pageData": []})", 0,
+                R"({"totalCount": 1, "pageData": [{"personId": "1", "personName": "Jo", "orgCode": "001",
+                                                   "orgName": "Root", "orgInfos": []}]})"),
+            Row("AuthorizePersons_second_person_without_orgName_inside_leaves_the_first_and_the_count",
+                kAuthorizePersons,
+                R"({"totalCount": 2, "pageData": [
+                        {"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root", "orgInfos": []},
+                        {"personId": "2", "personName": "Bo", "orgCode": "001", "orgName": "Root",
+                         "orgInfos": [{"orgCode": "002"}]}]})",
+                R"({"totalCount": 0, "pageData": []})", -1,
+                R"({"totalCount": 2, "pageData": [{"personId": "1", "personName": "Jo", "orgCode": "001",
+                                                   "orgName": "Root", "orgInfos": []}]})",
+                {MissingKey("orgName")}),
+            Row("ManagePersons_of_an_empty_list_leaves_the_vector", kManagePersons, R"({"results": []})",
+                R"([{"personId": "before", "personName": "", "orgCode": "", "orgName": "", "errorCode": "",
+                     "orgInfos": [{"orgCode": "a", "orgName": "b"}]}])",
+                0,
+                R"([{"personId": "before", "personName": "", "orgCode": "", "orgName": "", "errorCode": "",
+                     "orgInfos": [{"orgCode": "a", "orgName": "b"}]}])"),
+            Row("ManagePersons_person_with_empty_orgInfos_and_a_number_as_errorCode_is_appended", kManagePersons,
+                R"({"results": [{"personId": "1", "personName": "\u00fc", "orgCode": "001", "orgName": "a\u0000b",
+                                 "errorCode": 17, "orgInfos": []}]})",
+                R"([{"personId": "before", "personName": "", "orgCode": "", "orgName": "", "errorCode": "",
+                     "orgInfos": []}])",
+                0,
+                R"([{"personId": "before", "personName": "", "orgCode": "", "orgName": "", "errorCode": "",
+                     "orgInfos": []},
+                    {"personId": "1", "personName": "\u00fc", "orgCode": "001", "orgName": "a\u0000b",
+                     "errorCode": "17", "orgInfos": []}])"),
+            Row("ManagePersons_second_without_errorCode_leaves_the_first", kManagePersons,
+                R"({"results": [
+                        {"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root", "errorCode": "0",
+                         "orgInfos": []},
+                        {"personId": "2", "personName": "Bo", "orgCode": "001", "orgName": "Root", "orgInfos": []}]})",
+                "[]", -1,
+                R"([{"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root", "errorCode": "0",
+                     "orgInfos": []}])",
+                {MissingKey("errorCode")}),
+            Row("PointRules_of_an_empty_list_leaves_the_vector", kPointRules, R"({"results": []})",
+                R"([{"ruleId": "before", "ruleName": "", "ruleType": "", "hasOfflinePoint": true}])", 0,
+                R"([{"ruleId": "before", "ruleName": "", "ruleType": "", "hasOfflinePoint": true}])"),
+            Row("PointRules_hasOfflinePoint_is_read_as_a_flag", kPointRules,
+                R"({"results": [{"ruleId": "1", "ruleName": "", "ruleType": 2, "hasOfflinePoint": true},
+                                {"ruleId": "2", "ruleName": "", "ruleType": "", "hasOfflinePoint": 12},
+                                {"ruleId": "3", "ruleName": "", "ruleType": "", "hasOfflinePoint": 0},
+                                {"ruleId": "4", "ruleName": "", "ruleType": "", "hasOfflinePoint": "1"},
+                                {"ruleId": "5", "ruleName": "", "ruleType": "", "hasOfflinePoint": "false"},
+                                {"ruleId": "6", "ruleName": "", "ruleType": "", "hasOfflinePoint": null}]})",
+                "[]", 0,
+                R"([{"ruleId": "1", "ruleName": "", "ruleType": "2", "hasOfflinePoint": true},
+                    {"ruleId": "2", "ruleName": "", "ruleType": "", "hasOfflinePoint": true},
+                    {"ruleId": "3", "ruleName": "", "ruleType": "", "hasOfflinePoint": false},
+                    {"ruleId": "4", "ruleName": "", "ruleType": "", "hasOfflinePoint": true},
+                    {"ruleId": "5", "ruleName": "", "ruleType": "", "hasOfflinePoint": false},
+                    {"ruleId": "6", "ruleName": "", "ruleType": "", "hasOfflinePoint": false}])"),
+            Row("PointRules_element_that_is_no_object_ends_behind_the_first", kPointRules,
+                R"({"results": [{"ruleId": "1", "ruleName": "Day", "ruleType": "2", "hasOfflinePoint": true}, 7,
+                                {"ruleId": "3", "ruleName": "Night", "ruleType": "4", "hasOfflinePoint": false}]})",
+                "[]", -1, R"([{"ruleId": "1", "ruleName": "Day", "ruleType": "2", "hasOfflinePoint": true}])",
+                {EmptyObject()}),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(AccessControl, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace

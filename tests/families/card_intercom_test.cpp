@@ -1,0 +1,191 @@
+// DESFire card configuration, intercom contacts and alarm host zones.
+#include "support/Bound.h"
+#include "support/Family.h"
+
+#include <OBMS/OBMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(AcsCardConfigParam, (), (enableDesfire, enableReadEncryptContent))
+BOOST_DESCRIBE_STRUCT(ConfigDesFireFailureReq, (), (page, pageSize, keyword))
+BOOST_DESCRIBE_STRUCT(DesfireFailureInfo, (), (id, deviceCode, deviceName, deviceIp, reason))
+BOOST_DESCRIBE_STRUCT(GetPageConfigDesfireFailureResp, (), (totalCount, pageData))
+BOOST_DESCRIBE_STRUCT(DeleteAddressBookParam, (), (deleteAll, vtoDeviceCode, vthDeviceCodes))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::COBMSModule;
+using APIModule::Method_Get;
+using APIModule::Method_Post;
+using APIModule::Method_Put;
+
+PackRow UpdateDesfireRow(const std::string& name, const APIModule::AcsCardConfigParam& param, const std::string& body)
+{
+    return {name,
+            "COBMSModule::PackUpdateConfigDesfireInfo",
+            Bound(&COBMSModule::PackUpdateConfigDesfireInfo, param),
+            Method_Put,
+            "/obms/api/v1.1/acs/config/desfire",
+            body,
+            Server::OfCaller,
+            "UpdateConfigDesfireInfo is failed.",
+            "UpdateConfigDesfireInfo is success."};
+}
+
+PackRow DesfireFailureRow(const std::string& name, const APIModule::ConfigDesFireFailureReq& req,
+                          const std::string& url)
+{
+    return {name, "COBMSModule::PackGetPageConfigDesfireFailInfo",
+            Bound(&COBMSModule::PackGetPageConfigDesfireFailInfo, req), Method_Get, url};
+}
+
+PackRow DeleteContactsRow(const std::string& name, const APIModule::DeleteAddressBookParam& param,
+                          const std::string& body)
+{
+    return {name,
+            "COBMSModule::PackDeleteAddressBooks",
+            Bound(&COBMSModule::PackDeleteAddressBooks, param),
+            Method_Post,
+            "/obms/api/v1.1/vtalk/issue/contact/delete",
+            body,
+            Server::OfCaller,
+            "Delete contacts failed.",
+            "Delete contacts success."};
+}
+
+PackRow SnapShotRow(const std::string& name, const std::string& zoneId, int action, const std::string& url,
+                    const std::string& body)
+{
+    return {name,
+            "COBMSModule::PacketAlarmHostZoneSnapShot",
+            Bound(&COBMSModule::PacketAlarmHostZoneSnapShot, zoneId, action),
+            Method_Post,
+            url,
+            body};
+}
+
+const PackRow kPacks[] = {
+    {"GetConfigDesfireInfo", "COBMSModule::PackGetConfigDesfireInfo", &COBMSModule::PackGetConfigDesfireInfo,
+     Method_Get, "/obms/api/v1.1/acs/config/desfire"},
+    UpdateDesfireRow("UpdateConfigDesfireInfo_both_true", {true, true},
+                     R"({"enableDesfire": "1", "enableReadEncryptContent": "1"})"),
+    UpdateDesfireRow("UpdateConfigDesfireInfo_first_true", {true, false},
+                     R"({"enableDesfire": "1", "enableReadEncryptContent": "0"})"),
+    UpdateDesfireRow("UpdateConfigDesfireInfo_second_true", {false, true},
+                     R"({"enableDesfire": "0", "enableReadEncryptContent": "1"})"),
+    UpdateDesfireRow("UpdateConfigDesfireInfo_fresh", {}, R"({"enableDesfire": "0", "enableReadEncryptContent": "0"})"),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo", {2, 20, "door"},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=2&pageSize=20&keyword=door"),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo_empty_keyword_stays_empty_at_the_end", {1, 20, ""},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword="),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo_fresh", {},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=0&pageSize=0&keyword="),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo_negative_numbers", {-1, -2147483647 - 1, "a"},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=-1&pageSize=-2147483648&keyword=a"),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo_nothing_is_escaped", {1, 20, "a&b#c \xC3\xBC\"%2b%3"},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&"
+                      "keyword=a&b#c \xC3\xBC\"%2b%3"),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo_zero_byte_is_kept", {1, 20, "a\0b"s},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a\0b"s),
+    DesfireFailureRow("GetPageConfigDesfireFailInfo_invalid_utf8", {1, 20, "x\xFF"},
+                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=x\xEF\xBF\xBD"),
+    {"ReissueConfigDesfire", "COBMSModule::PackReissueConfigDesfire", &COBMSModule::PackReissueConfigDesfire,
+     Method_Post, "/obms/api/v1.1/acs/config/desfire/failure/reissue"},
+    DeleteContactsRow("DeleteAddressBooks_all_ignores_three_indoor_codes", {true, "vto", {"a", "b", "c"}},
+                      R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
+    DeleteContactsRow("DeleteAddressBooks_all_without_indoor_codes", {true, "vto", {}},
+                      R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
+    DeleteContactsRow("DeleteAddressBooks_listed_in_order", {false, "vto", {"b", "a"}},
+                      R"({"mode": "2", "vtoDeviceCode": "vto", "vthDeviceCodes": ["b", "a"]})"),
+    DeleteContactsRow("DeleteAddressBooks_listed_with_an_empty_vector", {false, "vto", {}},
+                      R"({"mode": "2", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
+    DeleteContactsRow("DeleteAddressBooks_fresh", {}, R"({"mode": "2", "vtoDeviceCode": "", "vthDeviceCodes": []})"),
+    DeleteContactsRow("DeleteAddressBooks_zero_bytes_are_kept", {false, "a\0b"s, {"c\0d"s, ""}},
+                      R"({"mode": "2", "vtoDeviceCode": "a\u0000b", "vthDeviceCodes": ["c\u0000d", ""]})"),
+    DeleteContactsRow(
+        "DeleteAddressBooks_utf8_quotes_and_markers", {false, "\xC3\xBC\"%1\\", {"\xE4\xB8\xAD", "x\xFF", "%2"}},
+        R"({"mode": "2", "vtoDeviceCode": "\u00fc\"%1\\", "vthDeviceCodes": ["\u4e2d", "x\ufffd", "%2"]})"),
+    SnapShotRow("AlarmHostZoneSnapShot_action_is_a_number", "31", 1, "/obms/api/v1.1/alarm-host/zone/31/snapshot",
+                R"({"action": 1})"),
+    SnapShotRow("AlarmHostZoneSnapShot_action_0", "31", 0, "/obms/api/v1.1/alarm-host/zone/31/snapshot",
+                R"({"action": 0})"),
+    SnapShotRow("AlarmHostZoneSnapShot_negative_action", "", -2147483647 - 1,
+                "/obms/api/v1.1/alarm-host/zone//snapshot", R"({"action": -2147483648})"),
+    SnapShotRow("AlarmHostZoneSnapShot_nothing_is_escaped", "a b/%1?\xC3\xBC\"", 2147483647,
+                "/obms/api/v1.1/alarm-host/zone/a b/%1?\xC3\xBC\"/snapshot", R"({"action": 2147483647})"),
+    SnapShotRow("AlarmHostZoneSnapShot_zero_byte_is_kept", "a\0b"s, 1, "/obms/api/v1.1/alarm-host/zone/a\0b/snapshot"s,
+                R"({"action": 1})"),
+    SnapShotRow("AlarmHostZoneSnapShot_invalid_utf8", "x\xFF", 1,
+                "/obms/api/v1.1/alarm-host/zone/x\xEF\xBF\xBD/snapshot", R"({"action": 1})"),
+};
+
+INSTANTIATE_TEST_SUITE_P(CardIntercom, PackTest, testing::ValuesIn(kPacks), RowName());
+
+const Parse kDesfire = MakeParse("COBMSModule::ParseGetConfigDesfireInfo", &COBMSModule::ParseGetConfigDesfireInfo);
+const Parse kDesfireFailures =
+    MakeParse("COBMSModule::ParseGetPageConfigDesfireFailInfo", &COBMSModule::ParseGetPageConfigDesfireFailInfo);
+const Parse kSnapShot = MakeParse("COBMSModule::ParseAlarmHostZoneSnapShot", &COBMSModule::ParseAlarmHostZoneSnapShot);
+
+std::vector<ParseRow> ParseRows()
+{
+    return Joined({
+        Variations(kDesfire, {Bool("enableDesfire"), Bool("enableReadEncryptContent")},
+                   R"({"enableDesfire": true, "enableReadEncryptContent": true})"),
+        Variations(
+            kDesfireFailures,
+            {Found("totalCount"), Found("pageData"), Int("totalCount"),
+             Records<APIModule::DesfireFailureInfo>(
+                 "pageData", {Text("id"), Text("deviceCode"), Text("deviceName"), Text("deviceIp"), Int("reason")})},
+            R"({"totalCount": 31, "pageData": [
+                        {"id": "1", "deviceCode": "1001", "deviceName": "Door A", "deviceIp": "10.0.0.1", "reason": 4},
+                        {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2",
+                         "reason": 5}]})"),
+        Variations(kSnapShot, {Text("session", kItself)}, R"({"session": "s-1"})"),
+        {
+            Row("Desfire_without_the_second_flag_sets_the_first", kDesfire, R"({"enableDesfire": true})",
+                R"({"enableDesfire": false, "enableReadEncryptContent": true})", -1,
+                R"({"enableDesfire": true, "enableReadEncryptContent": true})",
+                {MissingKey("enableReadEncryptContent")}),
+            Row("Desfire_without_the_first_flag_leaves_the_second", kDesfire, R"({"enableReadEncryptContent": true})",
+                R"({"enableDesfire": false, "enableReadEncryptContent": false})", -1,
+                R"({"enableDesfire": false, "enableReadEncryptContent": false})", {MissingKey("enableDesfire")}),
+            Row("Desfire_reads_flags_where_texts_were_sent", kDesfire,
+                R"({"enableDesfire": true, "enableReadEncryptContent": false})",
+                R"({"enableDesfire": false, "enableReadEncryptContent": true})", 0,
+                R"({"enableDesfire": true, "enableReadEncryptContent": false})"),
+            Row("Desfire_converts_the_texts_1_and_0", kDesfire,
+                R"({"enableDesfire": "1", "enableReadEncryptContent": "0"})",
+                R"({"enableDesfire": false, "enableReadEncryptContent": true})", 0,
+                R"({"enableDesfire": true, "enableReadEncryptContent": false})"),
+            Row("DesfireFailures_without_pageData_leaves_totalCount", kDesfireFailures, R"({"totalCount": 31})",
+                R"({"totalCount": 5, "pageData": []})", -1, R"({"totalCount": 5, "pageData": []})",
+                {MissingKey("pageData")}),
+            Row("DesfireFailures_empty_page_stores_totalCount", kDesfireFailures,
+                R"({"totalCount": 31, "pageData": []})",
+                R"({"totalCount": 5, "pageData": [{"id": "before", "deviceCode": "", "deviceName": "",
+                                                   "deviceIp": "", "reason": 1}]})",
+                0,
+                R"({"totalCount": 31, "pageData": [{"id": "before", "deviceCode": "", "deviceName": "",
+                                                    "deviceIp": "", "reason": 1}]})"),
+            Row("DesfireFailures_second_without_reason_leaves_the_first_and_the_count", kDesfireFailures,
+                R"({"totalCount": 2, "pageData": [
+                        {"id": 1, "deviceCode": "1001", "deviceName": "\u00fc", "deviceIp": "a\u0000b", "reason": "4"},
+                        {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2"}]})",
+                R"({"totalCount": 5, "pageData": []})", -1,
+                R"({"totalCount": 2, "pageData": [{"id": "1", "deviceCode": "1001", "deviceName": "\u00fc",
+                                                   "deviceIp": "a\u0000b", "reason": 4}]})",
+                {MissingKey("reason")}),
+            Row("SnapShot_without_session_fails", kSnapShot, R"({"sessionId": "s-1"})", R"("before")", -1,
+                R"("before")", {MissingKey("session")}),
+            Row("SnapShot_session_of_a_number", kSnapShot, R"({"session": 12})", R"("before")", 0, R"("12")"),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(CardIntercom, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace

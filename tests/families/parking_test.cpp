@@ -1,0 +1,356 @@
+// Parking lots, their organisations and the vehicles captured there.
+#include "support/Bound.h"
+#include "support/Family.h"
+
+#include <IPMS/IPMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(SimpleParkingPointInfo, (), (id, pointName, remark, refPointId, direction, mode))
+BOOST_DESCRIBE_STRUCT(SimpleParkingPositionInfo, (), (id, positionName, remark, points))
+BOOST_DESCRIBE_STRUCT(SimpleParkingLotInfoRsp, (),
+                      (id, parkingLotName, orgCode, orgName, parentParkingLotId, parentParkingLotName, parkingLotMode,
+                       enableParkingSpaceStatistics, parkingSpaceStatisticsType, positions))
+BOOST_DESCRIBE_STRUCT(ParkingChannelInfo, (), (channelId, channelType))
+BOOST_DESCRIBE_STRUCT(DetailParkingPointInfo, (),
+                      (id, pointName, remark, refPointId, refPointName, direction, mode, channels, refChannels))
+BOOST_DESCRIBE_STRUCT(DetailParkingPositionInfo, (), (id, positionName, remark, points))
+BOOST_DESCRIBE_STRUCT(DatailParkingLotInfoRsp, (),
+                      (id, parkingLotName, orgCode, orgName, parentParkingLotId, parentParkingLotName, parkingLotMode,
+                       enableParkingSpaceStatistics, parkingSpaceStatisticsType, issueVehicles, issueStatus,
+                       totalParkingSpaceCount, idleParkingSpaceCount, positions))
+BOOST_DESCRIBE_STRUCT(OrganizationInfoRsp, (), (orgCode, orgName, parentOrgCode, hasChild, hasAuthority))
+BOOST_DESCRIBE_STRUCT(UpdateVehicleCaptureRecordInfo, (), (id, plateNo))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::CIPMSModule;
+using APIModule::Method_Get;
+using APIModule::Method_Put;
+
+PackRow SimpleRow(const std::string& name, const std::string& parkingLotIds, int mode, const std::string& url)
+{
+    return {name, "CIPMSModule::PacketGetSimpleParkingLots",
+            Bound(&CIPMSModule::PacketGetSimpleParkingLots, parkingLotIds, mode), Method_Get, url};
+}
+
+PackRow DetailRow(const std::string& name, const std::string& parkingLotIds, const std::string& orgCode, int mode,
+                  const std::string& url)
+{
+    return {name, "CIPMSModule::PacketGetDetailParkingLots",
+            Bound(&CIPMSModule::PacketGetDetailParkingLots, parkingLotIds, orgCode, mode), Method_Get, url};
+}
+
+PackRow CaptureRow(const std::string& name, const APIModule::UpdateVehicleCaptureRecordInfo& info,
+                   const std::string& body)
+{
+    return {name,
+            "CIPMSModule::PacketUpdateVehicleCaptureRecord",
+            Bound(&CIPMSModule::PacketUpdateVehicleCaptureRecord, info),
+            Method_Put,
+            "/ipms/api/v1.1/fusion/vehicle-capture/record",
+            body};
+}
+
+const PackRow kPacks[] = {
+    SimpleRow("GetSimpleParkingLots", "11,12", 2, "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=11,12&mode=2"),
+    SimpleRow("GetSimpleParkingLots_mode_minus_1", "11", -1,
+              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=11&mode=-1"),
+    SimpleRow("GetSimpleParkingLots_all", "", 0, "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=&mode=0"),
+    SimpleRow("GetSimpleParkingLots_nothing_is_escaped", "a b&c#\"\xC3\xBC", 2147483647,
+              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a b&c#\"\xC3\xBC&mode=2147483647"),
+    SimpleRow("GetSimpleParkingLots_zero_byte_is_kept", "a\0b"s, 1,
+              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a\0b&mode=1"s),
+    SimpleRow("GetSimpleParkingLots_invalid_utf8", "x\xFF", 1,
+              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=x\xEF\xBF\xBD&mode=1"),
+    SimpleRow("GetSimpleParkingLots_marker_2_in_the_ids_is_rewritten", "a%2b", 5,
+              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a5b&mode=5"),
+    SimpleRow("GetSimpleParkingLots_marker_1_in_the_ids_takes_the_mode", "a%1b", 5,
+              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a5b&mode=%2"),
+    DetailRow("GetDetailParkingLots_mode_stands_before_orgCode", "11,12", "001", 2,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=11,12&mode=2&orgCode=001"),
+    DetailRow("GetDetailParkingLots_mode_minus_1", "11", "001001", -1,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=11&mode=-1&orgCode=001001"),
+    DetailRow("GetDetailParkingLots_all", "", "", 0,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=&mode=0&orgCode="),
+    DetailRow("GetDetailParkingLots_nothing_is_escaped", "a b&c", "\xE4\xB8\xAD#\"", 1,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a b&c&mode=1&orgCode=\xE4\xB8\xAD#\""),
+    DetailRow("GetDetailParkingLots_zero_bytes_are_kept", "a\0b"s, "\0"s, 1,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a\0b&mode=1&orgCode=\0"s),
+    DetailRow("GetDetailParkingLots_invalid_utf8", "x\xFF", "\xC3", 1,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=x\xEF\xBF\xBD&mode=1&orgCode=\xEF\xBF\xBD"),
+    DetailRow("GetDetailParkingLots_markers_in_the_ids_are_rewritten", "a%2b%3", "c", 5,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a5bc&mode=5&orgCode=c"),
+    DetailRow("GetDetailParkingLots_marker_in_orgCode_stays", "a", "%3%1", 5,
+              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a&mode=5&orgCode=%3%1"),
+    {"GetParkingOrganization", "CIPMSModule::PacketGetParkingOrganization", &CIPMSModule::PacketGetParkingOrganization,
+     Method_Get, "/ipms/api/v1.1/organization/list"},
+    CaptureRow("UpdateVehicleCaptureRecord", {"55", "AB 123"}, R"({"id": "55", "plateNo": "AB 123"})"),
+    CaptureRow("UpdateVehicleCaptureRecord_fresh", {}, R"({"id": "", "plateNo": ""})"),
+    CaptureRow("UpdateVehicleCaptureRecord_zero_bytes_are_kept", {"5\0"s, "a\0b"s},
+               R"({"id": "5\u0000", "plateNo": "a\u0000b"})"),
+    CaptureRow("UpdateVehicleCaptureRecord_utf8_quote_and_marker",
+               {"%1\"\\", "\xE4\xBA\xAC"
+                          "A-123\xFF"},
+               R"({"id": "%1\"\\", "plateNo": "\u4eacA-123\ufffd"})"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Parking, PackTest, testing::ValuesIn(kPacks), RowName());
+
+const Parse kSimple = MakeParse("CIPMSModule::ParseGetSimpleParkingLots", &CIPMSModule::ParseGetSimpleParkingLots);
+const Parse kDetail = MakeParse("CIPMSModule::ParseGetDetailParkingLots", &CIPMSModule::ParseGetDetailParkingLots);
+const Parse kOrganization =
+    MakeParse("CIPMSModule::ParseGetParkingOrganization", &CIPMSModule::ParseGetParkingOrganization);
+
+const Readings kSimplePoint = {Text("id"),         Text("pointName"), Text("remark"),
+                               Text("refPointId"), Int("direction"),  Int("mode")};
+const Readings kSimplePosition = {Text("id"), Text("positionName"), Text("remark"),
+                                  Records<APIModule::SimpleParkingPointInfo>("points", kSimplePoint)};
+const Readings kSimpleLot = {Text("id"),
+                             Text("parkingLotName"),
+                             Text("orgCode"),
+                             Text("orgName"),
+                             Text("parentParkingLotId"),
+                             Text("parentParkingLotName"),
+                             Int("parkingLotMode"),
+                             Int("enableParkingSpaceStatistics"),
+                             Int("parkingSpaceStatisticsType"),
+                             Records<APIModule::SimpleParkingPositionInfo>("positions", kSimplePosition)};
+
+const Readings kChannel = {Text("channelId"), Int("channelType")};
+const Readings kDetailPoint = {Text("id"),
+                               Text("pointName"),
+                               Text("remark"),
+                               Text("refPointId"),
+                               Text("refPointName"),
+                               Int("direction"),
+                               Int("mode"),
+                               Records<APIModule::ParkingChannelInfo>("channels", kChannel),
+                               Records<APIModule::ParkingChannelInfo>("refChannels", kChannel)};
+const Readings kDetailPosition = {Text("id"), Text("positionName"), Text("remark"),
+                                  Records<APIModule::DetailParkingPointInfo>("points", kDetailPoint)};
+const Readings kDetailLot = {Text("id"),
+                             Text("parkingLotName"),
+                             Text("orgCode"),
+                             Text("orgName"),
+                             Text("parentParkingLotId"),
+                             Text("parentParkingLotName"),
+                             Int("parkingLotMode"),
+                             Int("enableParkingSpaceStatistics"),
+                             Int("parkingSpaceStatisticsType"),
+                             Int("issueVehicles"),
+                             Int("issueStatus"),
+                             Int("totalParkingSpaceCount"),
+                             Int("idleParkingSpaceCount"),
+                             Records<APIModule::DetailParkingPositionInfo>("positions", kDetailPosition)};
+
+const char* const kTwoSimpleLots = R"({"results": [
+    {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "1",
+     "parentParkingLotName": "Campus", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+     "parkingSpaceStatisticsType": 2, "positions": [
+        {"id": "p1", "positionName": "Gate A", "remark": "main", "points": [
+            {"id": "e1", "pointName": "Entry", "remark": "left", "refPointId": "x1", "direction": 1, "mode": 3},
+            {"id": "e2", "pointName": "Exit", "remark": "right", "refPointId": "e1", "direction": 2, "mode": 4}]},
+        {"id": "p2", "positionName": "Gate B", "remark": "rear", "points": [
+            {"id": "e3", "pointName": "Entry B", "remark": "a", "refPointId": "x3", "direction": 1, "mode": 3},
+            {"id": "e4", "pointName": "Exit B", "remark": "b", "refPointId": "e3", "direction": 2, "mode": 4}]}]},
+    {"id": "12", "parkingLotName": "South", "orgCode": "002", "orgName": "Branch", "parentParkingLotId": "11",
+     "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
+     "parkingSpaceStatisticsType": 3, "positions": [
+        {"id": "p3", "positionName": "Gate C", "remark": "c", "points": [
+            {"id": "e5", "pointName": "Entry C", "remark": "d", "refPointId": "x5", "direction": 1, "mode": 5},
+            {"id": "e6", "pointName": "Exit C", "remark": "e", "refPointId": "e5", "direction": 2, "mode": 6}]},
+        {"id": "p4", "positionName": "Gate D", "remark": "f", "points": [
+            {"id": "e7", "pointName": "Entry D", "remark": "g", "refPointId": "x7", "direction": 1, "mode": 5},
+            {"id": "e8", "pointName": "Exit D", "remark": "h", "refPointId": "e7", "direction": 2, "mode": 6}]}]}]})";
+
+const char* const kTwoDetailLots = R"({"results": [
+    {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "1",
+     "parentParkingLotName": "Campus", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+     "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 200,
+     "idleParkingSpaceCount": 17, "positions": [
+        {"id": "p1", "positionName": "Gate 1", "remark": "main 1", "points": [
+            {"id": "e1", "pointName": "Point 1", "remark": "left 1", "refPointId": "x1", "refPointName": "Ref 1",
+             "direction": 1, "mode": 11,
+             "channels": [{"channelId": "c1", "channelType": 1}, {"channelId": "d1", "channelType": 2}],
+             "refChannels": [{"channelId": "r1", "channelType": 3}, {"channelId": "s1", "channelType": 4}]},
+            {"id": "e2", "pointName": "Point 2", "remark": "left 2", "refPointId": "x2", "refPointName": "Ref 2",
+             "direction": 2, "mode": 12,
+             "channels": [{"channelId": "c2", "channelType": 1}, {"channelId": "d2", "channelType": 2}],
+             "refChannels": [{"channelId": "r2", "channelType": 3}, {"channelId": "s2", "channelType": 4}]}]},
+        {"id": "p2", "positionName": "Gate 2", "remark": "main 2", "points": [
+            {"id": "e3", "pointName": "Point 3", "remark": "left 3", "refPointId": "x3", "refPointName": "Ref 3",
+             "direction": 0, "mode": 13,
+             "channels": [{"channelId": "c3", "channelType": 1}, {"channelId": "d3", "channelType": 2}],
+             "refChannels": [{"channelId": "r3", "channelType": 3}, {"channelId": "s3", "channelType": 4}]},
+            {"id": "e4", "pointName": "Point 4", "remark": "left 4", "refPointId": "x4", "refPointName": "Ref 4",
+             "direction": 1, "mode": 14,
+             "channels": [{"channelId": "c4", "channelType": 1}, {"channelId": "d4", "channelType": 2}],
+             "refChannels": [{"channelId": "r4", "channelType": 3}, {"channelId": "s4", "channelType": 4}]}]}]},
+    {"id": "12", "parkingLotName": "South", "orgCode": "002", "orgName": "Branch", "parentParkingLotId": "11",
+     "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
+     "parkingSpaceStatisticsType": 3, "issueVehicles": 5, "issueStatus": 6, "totalParkingSpaceCount": 20,
+     "idleParkingSpaceCount": 8, "positions": [
+        {"id": "p3", "positionName": "Gate 3", "remark": "main 3", "points": [
+            {"id": "e5", "pointName": "Point 5", "remark": "left 5", "refPointId": "x5", "refPointName": "Ref 5",
+             "direction": 2, "mode": 15,
+             "channels": [{"channelId": "c5", "channelType": 1}, {"channelId": "d5", "channelType": 2}],
+             "refChannels": [{"channelId": "r5", "channelType": 3}, {"channelId": "s5", "channelType": 4}]},
+            {"id": "e6", "pointName": "Point 6", "remark": "left 6", "refPointId": "x6", "refPointName": "Ref 6",
+             "direction": 0, "mode": 16,
+             "channels": [{"channelId": "c6", "channelType": 1}, {"channelId": "d6", "channelType": 2}],
+             "refChannels": [{"channelId": "r6", "channelType": 3}, {"channelId": "s6", "channelType": 4}]}]},
+        {"id": "p4", "positionName": "Gate 4", "remark": "main 4", "points": [
+            {"id": "e7", "pointName": "Point 7", "remark": "left 7", "refPointId": "x7", "refPointName": "Ref 7",
+             "direction": 1, "mode": 17,
+             "channels": [{"channelId": "c7", "channelType": 1}, {"channelId": "d7", "channelType": 2}],
+             "refChannels": [{"channelId": "r7", "channelType": 3}, {"channelId": "s7", "channelType": 4}]},
+            {"id": "e8", "pointName": "Point 8", "remark": "left 8", "refPointId": "x8", "refPointName": "Ref 8",
+             "direction": 2, "mode": 18,
+             "channels": [{"channelId": "c8", "channelType": 1}, {"channelId": "d8", "channelType": 2}],
+             "refChannels": [{"channelId": "r8", "channelType": 3}, {"channelId": "s8", "channelType": 4}]}]}]}]})";
+
+std::vector<ParseRow> VariationRows()
+{
+    return Joined({
+        Variations(kSimple, {Records<APIModule::SimpleParkingLotInfoRsp>("results", kSimpleLot, kItself)},
+                   kTwoSimpleLots),
+        Variations(kDetail, {Records<APIModule::DatailParkingLotInfoRsp>("results", kDetailLot, kItself)},
+                   kTwoDetailLots),
+        Variations(
+            kOrganization,
+            {Records<APIModule::OrganizationInfoRsp>(
+                "results",
+                {Text("orgCode"), Text("orgName"), Text("parentOrgCode"), Int("hasChild"), Int("hasAuthority")},
+                kItself)},
+            R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 1},
+                            {"orgCode": "001001", "orgName": "Branch", "parentOrgCode": "001", "hasChild": 0,
+                             "hasAuthority": 0}]})"),
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(ParkingVariations, ParseTest, testing::ValuesIn(VariationRows()), RowName());
+
+constexpr const char* kLotBefore =
+    R"([{"id": "before", "parkingLotName": "", "orgCode": "", "orgName": "", "parentParkingLotId": "",
+         "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
+         "parkingSpaceStatisticsType": 3, "positions": []}])";
+
+constexpr const char* kDetailLotBefore =
+    R"([{"id": "before", "parkingLotName": "", "orgCode": "", "orgName": "", "parentParkingLotId": "",
+         "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
+         "parkingSpaceStatisticsType": 3, "issueVehicles": 4, "issueStatus": 5, "totalParkingSpaceCount": 6,
+         "idleParkingSpaceCount": 7, "positions": []}])";
+
+constexpr const char* kOrganizationBefore =
+    R"([{"orgCode": "before", "orgName": "", "parentOrgCode": "", "hasChild": 3, "hasAuthority": 4}])";
+
+const ParseRow kRows[] = {
+    Row("Simple_of_an_empty_list_leaves_the_vector", kSimple, R"({"results": []})", kLotBefore, 0, kLotBefore),
+    Row("Detail_of_an_empty_list_leaves_the_vector", kDetail, R"({"results": []})", kDetailLotBefore, 0,
+        kDetailLotBefore),
+    Row("Organization_of_an_empty_list_leaves_the_vector", kOrganization, R"({"results": []})", kOrganizationBefore, 0,
+        kOrganizationBefore),
+    Row("Simple_without_results_leaves_the_vector", kSimple, R"({"result": []})", kLotBefore, -1, kLotBefore,
+        {MissingKey("results")}),
+    Row("Detail_of_an_empty_object_leaves_the_vector", kDetail, "{}", kDetailLotBefore, -1, kDetailLotBefore,
+        {EmptyObject()}),
+    Row("Simple_results_of_null_count_as_an_empty_list", kSimple, R"({"results": null})", kLotBefore, 0, kLotBefore),
+    Row("Simple_element_that_is_no_object_reads_as_an_empty_one", kSimple, R"({"results": ["11"]})", kLotBefore, -1,
+        kLotBefore, {EmptyObject()}),
+    Row("Simple_first_point_of_the_second_lot_without_mode_leaves_the_first_lot", kSimple,
+        R"({"results": [
+            {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "positions": []},
+            {"id": "12", "parkingLotName": "South", "orgCode": "002", "orgName": "Branch", "parentParkingLotId": "11",
+             "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
+             "parkingSpaceStatisticsType": 3, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
+                 {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "direction": 1}]}]}]})",
+        "[]", -1,
+        R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "positions": []}])",
+        {MissingKey("mode")}),
+    Row("Detail_first_point_of_the_second_lot_without_mode_leaves_the_first_lot", kDetail,
+        R"({"results": [
+            {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
+             "idleParkingSpaceCount": 6, "positions": []},
+            {"id": "12", "parkingLotName": "South", "orgCode": "002", "orgName": "Branch", "parentParkingLotId": "11",
+             "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
+             "parkingSpaceStatisticsType": 3, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
+             "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
+                 {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
+                  "channels": [], "refChannels": []}]}]}]})",
+        "[]", -1,
+        R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
+             "idleParkingSpaceCount": 6, "positions": []}])",
+        {MissingKey("mode")}),
+    Row("Simple_lot_is_appended_without_the_detailed_fields", kSimple,
+        R"({"results": [
+            {"id": "11", "parkingLotName": "\u00fc", "orgCode": 1, "orgName": "a\u0000b", "parentParkingLotId": null,
+             "parentParkingLotName": "", "parkingLotMode": "2", "enableParkingSpaceStatistics": true,
+             "parkingSpaceStatisticsType": "x", "issueVehicles": 3, "positions": [
+                 {"id": "p", "positionName": "Gate", "remark": "", "points": [
+                     {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "not read",
+                      "direction": -1, "mode": null, "channels": [{"channelId": "c", "channelType": 1}]}]}]}]})",
+        kLotBefore, 0,
+        R"([{"id": "before", "parkingLotName": "", "orgCode": "", "orgName": "", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
+             "parkingSpaceStatisticsType": 3, "positions": []},
+            {"id": "11", "parkingLotName": "\u00fc", "orgCode": "1", "orgName": "a\u0000b", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 2, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 0, "positions": [
+                 {"id": "p", "positionName": "Gate", "remark": "", "points": [
+                     {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "direction": -1,
+                      "mode": 0}]}]}])"),
+    Row("Detail_point_with_empty_channels_and_refChannels_gives_two_empty_vectors", kDetail,
+        R"({"results": [
+            {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
+             "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
+                 {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
+                  "mode": 2, "channels": [], "refChannels": []}]}]}]})",
+        "[]", 0,
+        R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
+             "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
+                 {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
+                  "mode": 2, "channels": [], "refChannels": []}]}]}])"),
+    Row("Detail_point_without_refChannels_drops_its_lot", kDetail,
+        R"({"results": [
+            {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
+             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
+             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
+             "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
+                 {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
+                  "mode": 2, "channels": [{"channelId": "c", "channelType": 1}]}]}]}]})",
+        kDetailLotBefore, -1, kDetailLotBefore, {MissingKey("refChannels")}),
+    Row("Organization_flags_are_numbers", kOrganization,
+        R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 2,
+                         "hasAuthority": true}]})",
+        kOrganizationBefore, 0,
+        R"([{"orgCode": "before", "orgName": "", "parentOrgCode": "", "hasChild": 3, "hasAuthority": 4},
+            {"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 2, "hasAuthority": 1}])"),
+    Row("Organization_second_without_hasAuthority_leaves_the_first", kOrganization,
+        R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 0},
+                        {"orgCode": "002", "orgName": "Branch", "parentOrgCode": "001", "hasChild": 0},
+                        {"orgCode": "003", "orgName": "Site", "parentOrgCode": "001", "hasChild": 0,
+                         "hasAuthority": 0}]})",
+        "[]", -1, R"([{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 0}])",
+        {MissingKey("hasAuthority")}),
+};
+
+INSTANTIATE_TEST_SUITE_P(Parking, ParseTest, testing::ValuesIn(kRows), RowName());
+
+}  // namespace

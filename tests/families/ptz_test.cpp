@@ -1,0 +1,172 @@
+// Wash function and home position of PTZ channels.
+#include "support/Bound.h"
+#include "support/Family.h"
+
+#include <DMS/DMSModule.h>
+
+namespace APIModule {
+
+BOOST_DESCRIBE_STRUCT(PtzWashStatus, (), (result, userName, userLevel, lowerDomain))
+BOOST_DESCRIBE_STRUCT(PtzBatchWashStatus, (), (result, msg))
+BOOST_DESCRIBE_STRUCT(PtzPositionResetReq, (), (result, userName, userLevel, lowerDomain))
+
+}  // namespace APIModule
+
+namespace {
+
+using namespace family_testing;
+using namespace std::string_literals;
+using APIModule::CDMSModule;
+using APIModule::Method_Post;
+
+std::function<int(void*, int)> WashOpen(const std::string& channelId)
+{
+    return [channelId](void* param, int) { return CDMSModule::PackeWashOpen(param, channelId); };
+}
+
+std::function<int(void*, int)> BatchWashOpen(const std::vector<std::string>& channelIds)
+{
+    return [channelIds](void* param, int) {
+        std::vector<std::string> argument = channelIds;
+        const int nResult = CDMSModule::PackeBatchWashOpen(param, argument);
+        EXPECT_EQ(argument, channelIds) << "the argument changed";
+        return nResult;
+    };
+}
+
+PackRow WashRow(const std::string& name, const std::string& channelId, const std::string& body)
+{
+    return {name,        "CDMSModule::PackeWashOpen",     WashOpen(channelId),
+            Method_Post, "/admin/API/DMS/Ptz/AuxControl", body,
+            Server::One};
+}
+
+PackRow BatchWashRow(const std::string& name, const std::vector<std::string>& channelIds, const std::string& body)
+{
+    return {name,        "CDMSModule::PackeBatchWashOpen",     BatchWashOpen(channelIds),
+            Method_Post, "/admin/API/DMS/Ptz/AuxBatchControl", body,
+            Server::One};
+}
+
+PackRow SetHomeRow(const std::string& name, const std::string& channelId, const std::string& url)
+{
+    return {name, "CDMSModule::PackeSetHomePosition", Bound(&CDMSModule::PackeSetHomePosition, channelId), Method_Post,
+            url};
+}
+
+PackRow GotoHomeRow(const std::string& name, const std::string& channelId, const std::string& url)
+{
+    return {name,
+            "CDMSModule::PackeGotoHomePosition",
+            Bound(&CDMSModule::PackeGotoHomePosition, channelId),
+            Method_Post,
+            url,
+            "",
+            Server::OfCaller,
+            "PackeSetHomePosition failed.",
+            "PackeSetHomePosition success."};
+}
+
+const PackRow kPacks[] = {
+    WashRow("WashOpen_command_is_the_number_1", "1000001$1$0$0",
+            R"({"data": {"channelId": "1000001$1$0$0", "command": 1}})"),
+    WashRow("WashOpen_empty_text", "", R"({"data": {"channelId": "", "command": 1}})"),
+    WashRow("WashOpen_zero_byte_is_kept", "a\0b"s, R"({"data": {"channelId": "a\u0000b", "command": 1}})"),
+    WashRow("WashOpen_utf8_quote_and_marker", "\xC3\xBC \xE4\xB8\xAD \"%1\\",
+            R"({"data": {"channelId": "\u00fc \u4e2d \"%1\\", "command": 1}})"),
+    WashRow("WashOpen_invalid_utf8", "x\xFF", R"({"data": {"channelId": "x\ufffd", "command": 1}})"),
+    BatchWashRow("BatchWashOpen_two_channels_in_order", {"b", "a"},
+                 R"({"data": {"ptzAuxControlXos": [{"channelId": "b", "command": 1},
+                                                   {"channelId": "a", "command": 1}]}})"),
+    BatchWashRow("BatchWashOpen_empty_list_is_sent", {}, R"({"data": {"ptzAuxControlXos": []}})"),
+    BatchWashRow("BatchWashOpen_texts_stand_as_they_are", {"", "a\0b"s, "\xC3\xBC\"%1", "x\xFF", "same", "same"},
+                 R"({"data": {"ptzAuxControlXos": [{"channelId": "", "command": 1},
+                                                   {"channelId": "a\u0000b", "command": 1},
+                                                   {"channelId": "\u00fc\"%1", "command": 1},
+                                                   {"channelId": "x\ufffd", "command": 1},
+                                                   {"channelId": "same", "command": 1},
+                                                   {"channelId": "same", "command": 1}]}})"),
+    SetHomeRow("SetHomePosition", "1000001$1$0$0", "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/configure"),
+    SetHomeRow("SetHomePosition_bytes_are_latin1", "\xC3\xBC\xFF",
+               "/brms/api/v1.1/ptz/channel/\xC3\x83\xC2\xBC\xC3\xBF/home-position/configure"),
+    SetHomeRow("SetHomePosition_ends_at_a_zero_byte", "a\0b"s, "/brms/api/v1.1/ptz/channel/a/home-position/configure"),
+    SetHomeRow("SetHomePosition_empty_text", "", "/brms/api/v1.1/ptz/channel//home-position/configure"),
+    SetHomeRow("SetHomePosition_nothing_is_escaped", "a b/%1?%20&\"",
+               "/brms/api/v1.1/ptz/channel/a b/%1?%20&\"/home-position/configure"),
+    GotoHomeRow("GotoHomePosition_logs_the_texts_of_SetHomePosition", "1000001$1$0$0",
+                "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/goto"),
+    GotoHomeRow("GotoHomePosition_bytes_are_latin1", "\xC3\xBC\xFF",
+                "/brms/api/v1.1/ptz/channel/\xC3\x83\xC2\xBC\xC3\xBF/home-position/goto"),
+    GotoHomeRow("GotoHomePosition_ends_at_a_zero_byte", "a\0b"s, "/brms/api/v1.1/ptz/channel/a/home-position/goto"),
+    GotoHomeRow("GotoHomePosition_empty_text", "", "/brms/api/v1.1/ptz/channel//home-position/goto"),
+    GotoHomeRow("GotoHomePosition_nothing_is_escaped", "a b/%1?%20&\"",
+                "/brms/api/v1.1/ptz/channel/a b/%1?%20&\"/home-position/goto"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Ptz, PackTest, testing::ValuesIn(kPacks), RowName());
+
+const Parse kWash = MakeParse("CDMSModule::ParseWashOpen", &CDMSModule::ParseWashOpen);
+const Parse kBatchWash = MakeParse("CDMSModule::ParseBatchWashOpen", &CDMSModule::ParseBatchWashOpen);
+const Parse kSetHome = MakeParse("CDMSModule::ParseSetHomePosition", &CDMSModule::ParseSetHomePosition);
+const Parse kGotoHome = MakeParse("CDMSModule::ParseGotoHomePosition", &CDMSModule::ParseGotoHomePosition);
+
+/// The user is read from "lockUser" only after "result".
+const Readings kStatus = {Found("lockUser"), Text("result"),
+                          Object("lockUser", {Text("userName"), Text("userLevel"), Text("lowerDomain")})};
+const char* const kWholeStatus = R"({"lockUser": {"userName": "operator", "userLevel": "3", "lowerDomain": "0"},
+                                     "result": "locked"})";
+
+constexpr const char* kFresh = R"({"result": "", "userName": "", "userLevel": "", "lowerDomain": ""})";
+constexpr const char* kBefore = R"({"result": "r", "userName": "n", "userLevel": "l", "lowerDomain": "d"})";
+
+/// The three Parses with a lock read alike.
+std::vector<ParseRow> StatusRows(const std::string& name, const Parse& parse)
+{
+    return {
+        Row(name + "_without_lockUser_fails_though_result_is_there", parse, R"({"result": "0"})", kFresh, -1, kFresh,
+            {MissingKey("lockUser")}),
+        Row(name + "_empty_lockUser_leaves_empty_user_fields", parse, R"({"lockUser": {}, "result": "0"})", kFresh, 0,
+            R"({"result": "0", "userName": "", "userLevel": "", "lowerDomain": ""})"),
+        Row(name + "_empty_lockUser_leaves_the_user_fields_as_they_were", parse, R"({"lockUser": {}, "result": "0"})",
+            kBefore, 0, R"({"result": "0", "userName": "n", "userLevel": "l", "lowerDomain": "d"})"),
+        Row(name + "_null_lockUser_counts_as_empty", parse, R"({"lockUser": null, "result": "0"})", kBefore, 0,
+            R"({"result": "0", "userName": "n", "userLevel": "l", "lowerDomain": "d"})"),
+        Row(name + "_lockUser_without_userLevel_leaves_result_and_userName", parse,
+            R"({"lockUser": {"userName": "operator", "lowerDomain": "0"}, "result": "locked"})", kFresh, -1,
+            R"({"result": "locked", "userName": "operator", "userLevel": "", "lowerDomain": ""})",
+            {MissingKey("userLevel")}),
+        Row(name + "_without_result_fails_before_the_user_is_read", parse,
+            R"({"lockUser": {"userName": "operator", "userLevel": "3", "lowerDomain": "0"}})", kBefore, -1, kBefore,
+            {MissingKey("result")}),
+        Row(name + "_numbers_become_texts", parse,
+            R"({"lockUser": {"userName": 12, "userLevel": 3, "lowerDomain": true}, "result": 0})", kBefore, 0,
+            R"({"result": "0", "userName": "12", "userLevel": "3", "lowerDomain": "true"})"),
+        Row(name + "_of_an_empty_object", parse, "{}", kBefore, -1, kBefore, {EmptyObject()}),
+    };
+}
+
+std::vector<ParseRow> ParseRows()
+{
+    return Joined({
+        Variations(kWash, kStatus, kWholeStatus),
+        Variations(kBatchWash, {Text("result"), Text("msg")}, R"({"result": "0", "msg": "done"})"),
+        Variations(kSetHome, kStatus, kWholeStatus),
+        Variations(kGotoHome, kStatus, kWholeStatus),
+        StatusRows("Wash", kWash),
+        StatusRows("SetHome", kSetHome),
+        StatusRows("GotoHome", kGotoHome),
+        {
+            Row("BatchWash_without_msg_fills_result", kBatchWash, R"({"result": "0"})",
+                R"({"result": "r", "msg": "m"})", -1, R"({"result": "0", "msg": "m"})", {MissingKey("msg")}),
+            Row("BatchWash_without_result_leaves_msg", kBatchWash, R"({"msg": "done"})",
+                R"({"result": "r", "msg": "m"})", -1, R"({"result": "r", "msg": "m"})", {MissingKey("result")}),
+            Row("BatchWash_texts_with_zero_byte_and_utf8", kBatchWash,
+                R"({"result": "a\u0000b", "msg": "\u00fc\u4e2d"})", R"({"result": "", "msg": ""})", 0,
+                R"({"result": "a\u0000b", "msg": "\u00fc\u4e2d"})"),
+        },
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Ptz, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+
+}  // namespace
