@@ -2,6 +2,8 @@
 # One test program, registered with ctest under its own name. It has no window server unless it asks for one.
 find_package(GTest REQUIRED)
 include(GoogleTest)
+set(APIMODULE_TEST_ENVIRONMENT
+    QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp")
 function(apimodule_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
     if(NOT arg_TIMEOUT)
@@ -12,5 +14,5 @@ function(apimodule_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=;LC_ALL=C.UTF-8")
+        ENVIRONMENT "${APIMODULE_TEST_ENVIRONMENT}")
 endfunction()

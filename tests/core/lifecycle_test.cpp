@@ -1,7 +1,7 @@
 // The library and the life of the application object. Each test is a process of its own.
 #include "support/Host.h"
+#include "support/TestApplication.h"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -83,7 +83,7 @@ TEST_F(Lifecycle, ApplicationsOneAfterTheOther)
         EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
     }
     for (int i = 0; i < 2; ++i) {
-        QApplication application(g_argc, g_argv);
+        TestApplication application(g_argc, g_argv);
         const Server server(*this);
         QWidget parent;
         HostCall call = Call(QStringLiteral("/ok"));
@@ -161,7 +161,7 @@ TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
 TEST_F(Lifecycle, QuitEndsAWaitAndAllThatFollow)
 {
     for (const bool bDialog : {false, true}) {
-        QApplication application(g_argc, g_argv);
+        TestApplication application(g_argc, g_argv);
         const Server server(*this);
         QWidget parent;
         parent.show();
@@ -220,7 +220,7 @@ TEST_F(Lifecycle, CallsAboutToQuit)
 
 TEST_F(Lifecycle, ApplicationDestroyedAfterACall)
 {
-    auto application = std::make_unique<QApplication>(g_argc, g_argv);
+    auto application = std::make_unique<TestApplication>(g_argc, g_argv);
     auto server = std::make_unique<Server>(*this);
     EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
     EXPECT_EQ(Execute(Call(QStringLiteral("/silent"), 0)), -1);
@@ -233,7 +233,7 @@ TEST_F(Lifecycle, CallWhileTheApplicationIsDestroyed)
 {
     int nResult = 99;
     {
-        QApplication application(g_argc, g_argv);
+        TestApplication application(g_argc, g_argv);
         const Server server(*this);
         EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
         auto* pLast = new QObject(&application);

@@ -1,4 +1,6 @@
 // Each test brings the application objects that it needs, or none.
+#include "support/TestApplication.h"
+
 #include <OrnGui/OrnMessageNotify.h>
 #include <OrnGui/OrnWaitDialog.h>
 
@@ -12,6 +14,7 @@
 using ORNGUI::OrnMessageNotify;
 using ORNGUI::OrnSingleton;
 using ORNGUI::OrnWaitDialog;
+using testing_support::TestApplication;
 
 namespace {
 
@@ -59,7 +62,7 @@ TEST(ApplicationLifetimeTest, WithoutWindowsTheSignalIsAllThatHappens)
 TEST(ApplicationLifetimeTest, ApplicationsComeAndGoWithToastsOpen)
 {
     for (int i = 0; i < 3; ++i) {
-        const QApplication application(g_nArguments, g_arguments);
+        const TestApplication application(g_nArguments, g_arguments);
         Notify("one");
         Notify("two", false);
         EXPECT_EQ(VisibleWindows(), 2) << "application " << i;
@@ -69,7 +72,7 @@ TEST(ApplicationLifetimeTest, ApplicationsComeAndGoWithToastsOpen)
 
 TEST(ApplicationLifetimeTest, ToastClosedButNotYetDeletedGoesWithTheApplication)
 {
-    const QApplication application(g_nArguments, g_arguments);
+    const TestApplication application(g_nArguments, g_arguments);
     Notify("one");
     for (QWidget* pWindow : QApplication::topLevelWidgets()) {
         pWindow->close();
@@ -79,7 +82,7 @@ TEST(ApplicationLifetimeTest, ToastClosedButNotYetDeletedGoesWithTheApplication)
 
 TEST(ApplicationLifetimeTest, OpenToastsGoWhenTheApplicationQuits)
 {
-    const QApplication application(g_nArguments, g_arguments);
+    const TestApplication application(g_nArguments, g_arguments);
     for (int i = 0; i < 20; ++i) {
         Notify("stays");
     }
@@ -92,7 +95,7 @@ TEST(ApplicationLifetimeTest, OpenToastsGoWhenTheApplicationQuits)
 
 TEST(ApplicationLifetimeTest, NeitherToastNorWaitDialogHoldsTheApplicationWhenItsLastWindowCloses)
 {
-    const QApplication application(g_nArguments, g_arguments);
+    const TestApplication application(g_nArguments, g_arguments);
     QWidget window;
     window.show();
     OrnWaitDialog over(&window, true);
@@ -112,7 +115,7 @@ TEST(ApplicationLifetimeTest, NeitherToastNorWaitDialogHoldsTheApplicationWhenIt
 
 TEST(ApplicationLifetimeTest, LastWindowClosedDuringAWaitEndsTheApplication)
 {
-    const QApplication application(g_nArguments, g_arguments);
+    const TestApplication application(g_nArguments, g_arguments);
     for (const bool bOverTheWindow : {true, false}) {
         QWidget window;
         window.show();
@@ -135,7 +138,7 @@ TEST(ApplicationLifetimeTest, LastWindowClosedDuringAWaitEndsTheApplication)
 
 TEST(ApplicationLifetimeTest, ClosedToastOrStoppedWaitDialogDoesNotEndTheApplication)
 {
-    const QApplication application(g_nArguments, g_arguments);
+    const TestApplication application(g_nArguments, g_arguments);
     QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
     OrnWaitDialog dialog(nullptr, false);
     dialog.show();
@@ -149,7 +152,7 @@ TEST(ApplicationLifetimeTest, ClosedToastOrStoppedWaitDialogDoesNotEndTheApplica
 
 TEST(ApplicationLifetimeTest, QuitEndsAWaitAndTakesTheDialogAway)
 {
-    const QApplication application(g_nArguments, g_arguments);
+    const TestApplication application(g_nArguments, g_arguments);
     QWidget window;
     window.show();
     OrnWaitDialog dialog(&window, true);

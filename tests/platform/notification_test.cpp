@@ -365,4 +365,4 @@ TEST_F(NotificationTest, ThousandsAreGoneWithinTenSeconds)
 
 }  // namespace
 
-#include "NotificationTest.moc"
+#include "notification_test.moc"

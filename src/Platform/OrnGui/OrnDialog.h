@@ -11,6 +11,7 @@ class ORNGUI_EXPORT OrnDialog : public QDialog {
     Q_OBJECT
 
 public:
+    /// A dialog over @p pParent, or on its own when it is null.
     explicit OrnDialog(QWidget* pParent = nullptr);
 };
 

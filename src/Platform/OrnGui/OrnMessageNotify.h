@@ -35,6 +35,7 @@ signals:
     void TextNotificationAdded(const QString& strText);
 };
 
+/// The one instance of the process, whichever library asks for it.
 extern template class ORNGUI_EXPORT OrnSingleton<OrnMessageNotify>;
 
 }  // namespace ORNGUI

@@ -3,6 +3,7 @@
 #include "detail/QuitWatcher.h"
 
 #include <QEvent>
+#include <QEventLoop>
 #include <QPainter>
 #include <QScreen>
 
@@ -73,39 +74,50 @@ OrnWaitDialog::OrnWaitDialog(QWidget* pParent, bool bCoverParent) : OrnDialog(pP
 
 OrnWaitDialog::~OrnWaitDialog()
 {
+    EndExecution();
     Uncover();
 }
 
 void OrnWaitDialog::OnStopWaitImmediately()
 {
+    EndExecution();
     if (isVisible()) {
         OrnDialog::done(Rejected);
     }
 }
 
+// The loop is the dialog's own: the one of QDialog does not end when the dialog is stopped while it comes up.
 int OrnWaitDialog::exec()
 {
-    if (m_bExecuting) {
+    if (m_pLoop) {
         return Rejected;
     }
     if (isVisible() && !isModal()) {
         hide();  // a window becomes modal only when it is shown
     }
-    m_bExecuting = true;
     const QPointer<OrnWaitDialog> pSelf(this);
-    const int nResult = OrnDialog::exec();
-    if (pSelf) {
-        m_bExecuting = false;
+    QEventLoop loop;
+    m_pLoop = &loop;
+    setModal(true);
+    show();
+    if (pSelf && m_pLoop) {
+        loop.exec(QEventLoop::DialogExec);
     }
-    if (pSelf && isVisible()) {
-        // The application quits. A window leaves its modal state only when it is hidden as a modal one.
-        setModal(true);
-        OnStopWaitImmediately();
+    if (pSelf) {
+        OnStopWaitImmediately();  // still shown when the application quits
     }
     if (pSelf) {
         setModal(false);
     }
-    return nResult;
+    return Rejected;
+}
+
+void OrnWaitDialog::EndExecution()
+{
+    if (m_pLoop) {
+        m_pLoop->quit();
+        m_pLoop = nullptr;
+    }
 }
 
 void OrnWaitDialog::done(int /*nResult*/)

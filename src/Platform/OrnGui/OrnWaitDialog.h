@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QVector>
 
+class QEventLoop;
+
 namespace ORNGUI {
 
 /// A moving busy indicator over a widget, without a title bar.
@@ -37,14 +39,14 @@ public slots:  // NOLINT(readability-redundant-access-specifiers): tells moc tha
     /// Does nothing: only OnStopWaitImmediately() ends the dialog.
     void done(int nResult) override;
 
-protected:
+private:
     bool event(QEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;
     void hideEvent(QHideEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
-private:
+    void EndExecution();
     void WatchParent();
     void WatchAncestors();
     void ParentDestroyed();
@@ -53,7 +55,7 @@ private:
     void Uncover();
 
     const bool m_bCoverParent;
-    bool m_bExecuting = false;
+    QEventLoop* m_pLoop = nullptr;  // of exec(), until it is to end
     QMetaObject::Connection m_parentDestroyed;
     QVector<QPointer<QWidget>> m_watched;
     QPointer<QWidget> m_pVeil;

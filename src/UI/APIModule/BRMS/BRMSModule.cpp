@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CBRMSModule& CBRMSModule::operator=(const CBRMSModule& other) = default;
-CBRMSModule& CBRMSModule::operator=(CBRMSModule&& other) noexcept = default;
+CBRMSModule& CBRMSModule::operator=(const CBRMSModule&) = default;
+CBRMSModule& CBRMSModule::operator=(CBRMSModule&&) noexcept = default;
 
 }  // namespace APIModule

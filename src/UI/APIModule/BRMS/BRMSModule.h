@@ -26,11 +26,8 @@ namespace APIModule {
 /// what the caller's vector holds.
 class APIMODULE_EXPORT CBRMSModule {
 public:
-    CBRMSModule() = default;
-    CBRMSModule(const CBRMSModule&) = default;
-    CBRMSModule(CBRMSModule&&) = default;
-    CBRMSModule& operator=(const CBRMSModule& other);
-    CBRMSModule& operator=(CBRMSModule&& other) noexcept;
+    CBRMSModule& operator=(const CBRMSModule&);      ///< Does nothing: the class has no data.
+    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< Does nothing: the class has no data.
 
     /// @name System configuration
     /// Settings of the whole platform. Flags and numbers travel to the server as texts ("1"/"0", decimal), with the

@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CDMSModule& CDMSModule::operator=(const CDMSModule& other) = default;
-CDMSModule& CDMSModule::operator=(CDMSModule&& other) noexcept = default;
+CDMSModule& CDMSModule::operator=(const CDMSModule&) = default;
+CDMSModule& CDMSModule::operator=(CDMSModule&&) noexcept = default;
 
 }  // namespace APIModule

@@ -18,11 +18,8 @@ namespace APIModule {
 /// or -1 at the first key that cannot be read: what was read before that key stays filled, the rest is untouched.
 class APIMODULE_EXPORT CDMSModule {
 public:
-    CDMSModule() = default;
-    CDMSModule(const CDMSModule&) = default;
-    CDMSModule(CDMSModule&&) = default;
-    CDMSModule& operator=(const CDMSModule& other);
-    CDMSModule& operator=(CDMSModule&& other) noexcept;
+    CDMSModule& operator=(const CDMSModule&);      ///< Does nothing: the class has no data.
+    CDMSModule& operator=(CDMSModule&&) noexcept;  ///< Does nothing: the class has no data.
 
     /// @name PTZ
     /// Wash function and home position of pan-tilt-zoom cameras. The wash calls use the administration interface and

@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CECOSModule& CECOSModule::operator=(const CECOSModule& other) = default;
-CECOSModule& CECOSModule::operator=(CECOSModule&& other) noexcept = default;
+CECOSModule& CECOSModule::operator=(const CECOSModule&) = default;
+CECOSModule& CECOSModule::operator=(CECOSModule&&) noexcept = default;
 
 }  // namespace APIModule

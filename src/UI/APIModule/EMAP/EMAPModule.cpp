@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CEMAPModule& CEMAPModule::operator=(const CEMAPModule& other) = default;
-CEMAPModule& CEMAPModule::operator=(CEMAPModule&& other) noexcept = default;
+CEMAPModule& CEMAPModule::operator=(const CEMAPModule&) = default;
+CEMAPModule& CEMAPModule::operator=(CEMAPModule&&) noexcept = default;
 
 }  // namespace APIModule

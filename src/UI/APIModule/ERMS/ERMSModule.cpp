@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CERMSModule& CERMSModule::operator=(const CERMSModule& other) = default;
-CERMSModule& CERMSModule::operator=(CERMSModule&& other) noexcept = default;
+CERMSModule& CERMSModule::operator=(const CERMSModule&) = default;
+CERMSModule& CERMSModule::operator=(CERMSModule&&) noexcept = default;
 
 }  // namespace APIModule

@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CIAMSModule& CIAMSModule::operator=(const CIAMSModule& other) = default;
-CIAMSModule& CIAMSModule::operator=(CIAMSModule&& other) noexcept = default;
+CIAMSModule& CIAMSModule::operator=(const CIAMSModule&) = default;
+CIAMSModule& CIAMSModule::operator=(CIAMSModule&&) noexcept = default;
 
 }  // namespace APIModule

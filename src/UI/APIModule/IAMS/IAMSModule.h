@@ -14,11 +14,8 @@ namespace APIModule {
 /// and writes one log line either way.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule() = default;
-    CIAMSModule(const CIAMSModule&) = default;
-    CIAMSModule(CIAMSModule&&) = default;
-    CIAMSModule& operator=(const CIAMSModule& other);
-    CIAMSModule& operator=(CIAMSModule&& other) noexcept;
+    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing: the class has no data.
+    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing: the class has no data.
 
     /// @name Analysis tasks
     /// @{

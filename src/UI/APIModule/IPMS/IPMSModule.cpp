@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-CIPMSModule& CIPMSModule::operator=(const CIPMSModule& other) = default;
-CIPMSModule& CIPMSModule::operator=(CIPMSModule&& other) noexcept = default;
+CIPMSModule& CIPMSModule::operator=(const CIPMSModule&) = default;
+CIPMSModule& CIPMSModule::operator=(CIPMSModule&&) noexcept = default;
 
 }  // namespace APIModule

@@ -19,11 +19,8 @@ namespace APIModule {
 /// when all of it was read, its inner lists included: a failed parse leaves those before the failing one.
 class APIMODULE_EXPORT CIPMSModule {
 public:
-    CIPMSModule() = default;
-    CIPMSModule(const CIPMSModule&) = default;
-    CIPMSModule(CIPMSModule&&) = default;
-    CIPMSModule& operator=(const CIPMSModule& other);
-    CIPMSModule& operator=(CIPMSModule&& other) noexcept;
+    CIPMSModule& operator=(const CIPMSModule&);      ///< Does nothing: the class has no data.
+    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< Does nothing: the class has no data.
 
     /// @name Parking
     /// Parking lots, their organisations and the vehicles captured there. Identifiers and codes go into the URL as they

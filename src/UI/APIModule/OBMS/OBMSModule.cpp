@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-COBMSModule& COBMSModule::operator=(const COBMSModule& other) = default;
-COBMSModule& COBMSModule::operator=(COBMSModule&& other) noexcept = default;
+COBMSModule& COBMSModule::operator=(const COBMSModule&) = default;
+COBMSModule& COBMSModule::operator=(COBMSModule&&) noexcept = default;
 
 }  // namespace APIModule

@@ -20,11 +20,8 @@ namespace APIModule {
 /// what the caller's vector holds.
 class APIMODULE_EXPORT COBMSModule {
 public:
-    COBMSModule() = default;
-    COBMSModule(const COBMSModule&) = default;
-    COBMSModule(COBMSModule&&) = default;
-    COBMSModule& operator=(const COBMSModule& other);
-    COBMSModule& operator=(COBMSModule&& other) noexcept;
+    COBMSModule& operator=(const COBMSModule&);      ///< Does nothing: the class has no data.
+    COBMSModule& operator=(COBMSModule&&) noexcept;  ///< Does nothing: the class has no data.
 
     /// @name Access control
     /// Persons and rules of access points and devices. Identifiers and codes go into the URL as they stand, nothing

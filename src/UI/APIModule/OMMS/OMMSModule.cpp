@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-COMMSModule& COMMSModule::operator=(const COMMSModule& other) = default;
-COMMSModule& COMMSModule::operator=(COMMSModule&& other) noexcept = default;
+COMMSModule& COMMSModule::operator=(const COMMSModule&) = default;
+COMMSModule& COMMSModule::operator=(COMMSModule&&) noexcept = default;
 
 }  // namespace APIModule

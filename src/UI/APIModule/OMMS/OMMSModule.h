@@ -19,11 +19,8 @@ namespace APIModule {
 /// what the caller's vector holds.
 class APIMODULE_EXPORT COMMSModule {
 public:
-    COMMSModule() = default;
-    COMMSModule(const COMMSModule&) = default;
-    COMMSModule(COMMSModule&&) = default;
-    COMMSModule& operator=(const COMMSModule& other);
-    COMMSModule& operator=(COMMSModule&& other) noexcept;
+    COMMSModule& operator=(const COMMSModule&);      ///< Does nothing: the class has no data.
+    COMMSModule& operator=(COMMSModule&&) noexcept;  ///< Does nothing: the class has no data.
 
     /// @name Maintenance
     /// Alert types, and what maintenance shows of one channel or device: status, fault, health of recordings and

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QApplication>
+#include <QScreen>
+
+extern "C" void __lsan_ignore_object(const void*) __attribute__((weak));  // NOLINT(bugprone-reserved-identifier)
+
+namespace testing_support {
+
+/// The application object of a test. The window-system plugin without windows never deletes its screens, which is no
+/// leak of ours.
+class TestApplication : public QApplication {
+public:
+    TestApplication(int& argc, char** argv) : QApplication(argc, argv)
+    {
+        if (__lsan_ignore_object) {
+            for (const QScreen* pScreen : screens()) {
+                __lsan_ignore_object(pScreen);
+            }
+        }
+    }
+};
+
+}  // namespace testing_support
