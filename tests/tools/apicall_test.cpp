@@ -230,7 +230,7 @@ protected:
 
     Ended Run(const QStringList& arguments, const QByteArray& input = {})
     {
-        const Ended ended =
+        Ended ended =
             Apicall(Server() + QStringList{QStringLiteral("--token"), QString::fromLatin1(kToken)} + arguments, input);
         EXPECT_FALSE(Contains(ended.out, kToken)) << ended.out;
         EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
@@ -255,7 +255,7 @@ protected:
         EXPECT_TRUE(Contains(ended.err, line)) << "expected: " << line << "in: " << ended.err;
     }
 
-    QStringList Server() const
+    [[nodiscard]] QStringList Server() const
     {
         const QString url = GetParam().https ? QStringLiteral("https://127.0.0.1:%1").arg(m_platform.httpsPort())
                                              : QStringLiteral("http://127.0.0.1:%1").arg(m_platform.httpPort());
@@ -284,11 +284,14 @@ private:
 INSTANTIATE_TEST_SUITE_P(Schemes, Calls, testing::Values(SchemeRow{"Http", false}, SchemeRow{"Https", true}),
                          RowName());
 
-const QStringList kGetTimeSync = Words({"BRMS.GetTimeSyncConfig"});
+QStringList GetTimeSync()
+{
+    return Words({"BRMS.GetTimeSyncConfig"});
+}
 
 TEST_P(Calls, ARecordIsPrintedAsIndentedJson)
 {
-    const Ended ended = Run(kGetTimeSync);
+    const Ended ended = Run(GetTimeSync());
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, Platform().state().at("brms").at("timeSync").dump(4) + "\n");
 }
@@ -306,7 +309,7 @@ TEST_P(Calls, WhatIsWrittenIsReadBack)
     EXPECT_EQ(ResultOf({QStringLiteral("BRMS.SetTimeSyncConfig"),
                         QStringLiteral("config=") + QString::fromStdString(config.dump())}),
               json());
-    EXPECT_EQ(ResultOf(kGetTimeSync), config);
+    EXPECT_EQ(ResultOf(GetTimeSync()), config);
 }
 
 TEST_P(Calls, ValuesAndListsAreResultsToo)
@@ -363,14 +366,14 @@ TEST_P(Calls, TokenAndLanguageTravelInTheirHeaders)
 
 TEST_P(Calls, TheTokenMayComeFromTheEnvironment)
 {
-    const Ended ended = Apicall(Server() + kGetTimeSync, {}, QString::fromLatin1(kToken));
+    const Ended ended = Apicall(Server() + GetTimeSync(), {}, QString::fromLatin1(kToken));
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_FALSE(Contains(ended.err, kToken));
 }
 
 TEST_P(Calls, AWrongTokenFails)
 {
-    const Ended ended = Apicall(Server() + Words({"--token", "wrong"}) + kGetTimeSync);
+    const Ended ended = Apicall(Server() + Words({"--token", "wrong"}) + GetTimeSync());
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.out, "");
     EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with -1: " + ErrorText(7000) + "\n"))
@@ -383,7 +386,7 @@ TEST_P(Calls, AnEnvelopeCodeFailsWithItsText)
     fault.kind = emulator::Fault::Kind::Envelope;
     fault.code = 1003;
     Spoil(fault);
-    ExpectFailure(kGetTimeSync, 1003, ErrorText(1003));
+    ExpectFailure(GetTimeSync(), 1003, ErrorText(1003));
 }
 
 TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
@@ -392,7 +395,7 @@ TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
     fault.kind = emulator::Fault::Kind::Envelope;
     fault.code = 987654;
     Spoil(fault);
-    ExpectFailure(kGetTimeSync, 987654, "Operation failed");
+    ExpectFailure(GetTimeSync(), 987654, "Operation failed");
 }
 
 TEST_P(Calls, AnEnvelopeWithCode0IsNoSuccess)
@@ -401,7 +404,7 @@ TEST_P(Calls, AnEnvelopeWithCode0IsNoSuccess)
     fault.kind = emulator::Fault::Kind::Envelope;
     fault.code = 0;
     Spoil(fault);
-    ExpectFailure(kGetTimeSync, 0, "the reply was not confirmed");
+    ExpectFailure(GetTimeSync(), 0, "the reply was not confirmed");
 }
 
 TEST_P(Calls, AStatusFailsWithItsText)
@@ -410,7 +413,7 @@ TEST_P(Calls, AStatusFailsWithItsText)
     fault.kind = emulator::Fault::Kind::Status;
     fault.status = 503;
     Spoil(fault);
-    ExpectFailure(kGetTimeSync, 503, ErrorText(503));
+    ExpectFailure(GetTimeSync(), 503, ErrorText(503));
 }
 
 TEST_P(Calls, DataThatCannotBeReadFails)
@@ -419,7 +422,7 @@ TEST_P(Calls, DataThatCannotBeReadFails)
     fault.kind = emulator::Fault::Kind::Text;
     fault.body = R"({"code": 1000, "desc": "", "data": {"enable": true}})";
     Spoil(fault);
-    ExpectFailure(kGetTimeSync, -1, ErrorText(3101));
+    ExpectFailure(GetTimeSync(), -1, ErrorText(3101));
 }
 
 TEST_P(Calls, AnAnswerThatDoesNotComeFailsInTime)
