@@ -32,7 +32,7 @@ const std::set<std::string>& SharedKeywords()
 /// Plain scalars by YAML's core schema; quoted ones are texts.
 Json ScalarOf(const YAML::Node& node)
 {
-    const std::string text = node.Scalar();
+    const std::string& text = node.Scalar();
     if (node.Tag() == "!") {
         return text;
     }
@@ -167,7 +167,8 @@ void RefuseOtherKeywords(const Json& schema, const std::string& where)
     }
     for (const auto& member : schema.items()) {
         const std::string& keyword = member.key();
-        const std::string place = where + "/" + keyword;
+        std::string place = where;
+        place.append("/").append(keyword);
         if (SharedKeywords().count(keyword) == 0) {
             throw ContractError(place + ": draft 7 and 2020-12 do not share this keyword");
         }

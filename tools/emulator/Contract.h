@@ -9,26 +9,22 @@
 #include <string>
 #include <vector>
 
-namespace emulator
-{
+namespace emulator {
 
 /// The contract on disk is not as it should be; the text names file and place.
-class ContractError : public std::runtime_error
-{
+class ContractError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-struct QueryParameter
-{
+struct QueryParameter {
     std::string name;
     bool required = false;
     Schema schema;
 };
 
 /// One endpoint, its references resolved.
-struct Operation
-{
+struct Operation {
     std::string id;      ///< such as "BRMS.GetTimeSyncConfig"
     std::string method;  ///< upper case
     std::string path;    ///< the template, such as "/brms/api/v1.1/user/group/{groupId}"
@@ -44,8 +40,7 @@ struct Operation
 using PathValues = std::map<std::string, std::string>;
 
 /// The endpoints that the files of one folder describe.
-class Contract
-{
+class Contract {
 public:
     /// Reads every *.yaml file of the folder.
     /// @throws ContractError for a file that cannot be read, a reference that leads nowhere, in a circle or has
@@ -57,8 +52,7 @@ public:
     /// @throws ContractError for an unknown identifier.
     [[nodiscard]] const Operation& operation(const std::string& id) const;
 
-    struct Match
-    {
+    struct Match {
         bool pathKnown = false;
         const Operation* operation = nullptr;  ///< null when the path is unknown or knows no such method
         PathValues values;                     ///< decoded

@@ -10,16 +10,13 @@
 #include <utility>
 #include <vector>
 
-namespace emulator
-{
+namespace emulator {
 
 /// Something that goes wrong with the next requests whose target begins with a prefix.
-struct Fault
-{
+struct Fault {
     /// Delay, Cut, CloseMiddle and Large carry the call out and spoil its answer. All others stand in its place: the
     /// state does not change, and neither token nor path is looked at.
-    enum class Kind
-    {
+    enum class Kind {
         Delay,        ///< the true answer, late
         Status,       ///< an HTTP status, with the headers and the body given
         Envelope,     ///< an envelope with the code and text given
@@ -50,8 +47,7 @@ struct Fault
 };
 
 /// The faults that are switched on; safe to use from several threads.
-class Faults
-{
+class Faults {
 public:
     void add(Fault fault);
     [[nodiscard]] std::vector<Fault> list() const;

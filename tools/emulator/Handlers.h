@@ -8,12 +8,10 @@
 #include <string>
 #include <vector>
 
-namespace emulator
-{
+namespace emulator {
 
 /// Codes of the envelopes with which the emulator refuses a call or owns up to a mistake.
-namespace code
-{
+namespace code {
 constexpr int Success = 1000;
 constexpr int UnknownPath = 1001;
 constexpr int WrongMethod = 1002;
@@ -24,8 +22,7 @@ constexpr int ContractBroken = 1006;
 }  // namespace code
 
 /// A call is refused with an envelope of this code and text.
-class Refusal : public std::runtime_error
-{
+class Refusal : public std::runtime_error {
 public:
     Refusal(int envelopeCode, const std::string& text) : std::runtime_error(text), m_code(envelopeCode) {}
     [[nodiscard]] int code() const { return m_code; }
@@ -35,8 +32,7 @@ private:
 };
 
 /// One call that the contract has found to be right. Query values have the type that the contract gives them.
-struct Call
-{
+struct Call {
     const Contract& contract;
     const Operation& operation;
     const PathValues& path;
@@ -53,8 +49,7 @@ using Handler = std::function<Json(const Call&)>;
 using HandlerTable = std::map<std::string, Handler>;
 
 /// Where something is in the state, such as "/brms/timeSync".
-struct Place : Json::json_pointer
-{
+struct Place : Json::json_pointer {
     Place(const char* text = "") : json_pointer(text) {}
 };
 
@@ -74,8 +69,7 @@ Filter InOrganisation();
 /// @}
 
 /// A list in the state whose elements know their identifier.
-struct Collection
-{
+struct Collection {
     Place list;
     std::string identifier;  ///< the field that holds it
 

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kIdleMilliseconds = 10 * 60 * 1000;
 constexpr time_t kTransferSeconds = 120;
-constexpr std::size_t kReadSize = 16 * 1024;
+constexpr std::size_t kReadSize = 16UL * 1024;
 constexpr const char* kContentType = "application/json;charset=UTF-8";
 
 /// One accepted connection; the HTTP engine reads and writes through it.
@@ -346,7 +346,7 @@ private:
             request.set_header("Content-Length", "0");
         }
         if (!CarriesBody(request.method)) {
-            std::size_t left = request.get_header_value<std::uint64_t>("Content-Length");
+            auto left = request.get_header_value<std::uint64_t>("Content-Length");
             std::array<char, kReadSize> buffer{};
             while (left > 0) {
                 const ssize_t count = exchange.connection.read(buffer.data(), std::min(left, buffer.size()));

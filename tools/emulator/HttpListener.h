@@ -10,11 +10,9 @@
 
 struct ssl_ctx_st;
 
-namespace emulator
-{
+namespace emulator {
 
-struct HttpRequest
-{
+struct HttpRequest {
     std::string method;
     std::string target;  ///< as it came, query included
     std::vector<std::pair<std::string, std::string>> headers;
@@ -22,10 +20,8 @@ struct HttpRequest
     std::size_t connection = 0;  ///< number of the TCP connection, from 1
 };
 
-struct HttpResponse
-{
-    enum class Ending
-    {
+struct HttpResponse {
+    enum class Ending {
         Complete,
         CloseBefore,  ///< the connection is closed instead of an answer
         CloseMiddle   ///< half of the body is sent, then the connection is closed
@@ -38,8 +34,7 @@ struct HttpResponse
 };
 
 /// The client's side of the connection that a request came over.
-class Peer
-{
+class Peer {
 public:
     virtual ~Peer() = default;
 
@@ -57,8 +52,7 @@ std::shared_ptr<ssl_ctx_st> MakeServerTls();
 
 /// Serves HTTP, or HTTPS when it is given a TLS context, on one port; a thread for each connection, which is kept
 /// alive.
-class HttpListener
-{
+class HttpListener {
 public:
     /// @param nextConnection gives each accepted connection its number.
     HttpListener(HttpHandler handler, std::function<std::size_t()> nextConnection,

@@ -6,12 +6,10 @@
 #include <mutex>
 #include <string>
 
-namespace emulator
-{
+namespace emulator {
 
 /// Judges calls by the contract, carries them out on the state and answers with envelopes.
-class Platform
-{
+class Platform {
 public:
     Platform(Contract contract, Json seeds, std::string token);
 

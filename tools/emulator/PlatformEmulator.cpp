@@ -188,16 +188,13 @@ private:
 
     HttpResponse answerWith(const Fault& fault, const HttpRequest& request, Peer& peer)
     {
-        if (fault.delay.count() > 0 && peer.waitGone(fault.delay))
-        {
+        if (fault.delay.count() > 0 && peer.waitGone(fault.delay)) {
             return gone();
         }
-        if (fault.kind == Fault::Kind::Silent)
-        {
+        if (fault.kind == Fault::Kind::Silent) {
             peer.waitGone();
         }
-        if (!SpoilsTrueAnswer(fault.kind))
-        {
+        if (!SpoilsTrueAnswer(fault.kind)) {
             return Replacement(fault);
         }
         HttpResponse response = m_platform.answer(request);

@@ -12,8 +12,7 @@
 #include <vector>
 
 /// The platform server to develop and test against.
-namespace emulator
-{
+namespace emulator {
 
 /// The token that an emulator accepts unless told otherwise.
 constexpr const char* kDefaultToken = "emulator-token";
@@ -21,8 +20,7 @@ constexpr const char* kDefaultToken = "emulator-token";
 /// share/apimodule beside the folder of the running program: what the build makes from contract and seed.
 std::filesystem::path DefaultShareFolder();
 
-struct Options
-{
+struct Options {
     std::string address = "127.0.0.1";
     int httpPort = 0;   ///< 0: any free one
     int httpsPort = 0;  ///< 0: any free one
@@ -43,8 +41,7 @@ struct Options
 /// call("127.0.0.1", platform.httpsPort());
 /// platform.requests().back().header("X-Subject-Token");
 /// @endcode
-class PlatformEmulator
-{
+class PlatformEmulator {
 public:
     /// Reads contract and seeds; serves nothing yet.
     /// @throws std::exception when one of them cannot be used.

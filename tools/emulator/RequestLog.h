@@ -12,12 +12,10 @@
 #include <utility>
 #include <vector>
 
-namespace emulator
-{
+namespace emulator {
 
 /// A request as it came, and what it was answered with.
-struct RecordedRequest
-{
+struct RecordedRequest {
     std::size_t number = 0;  ///< from 1, in the order of arrival
     std::string method;
     std::string target;                                      ///< as received, query included, nothing decoded
@@ -35,8 +33,7 @@ struct RecordedRequest
 };
 
 /// Keeps the requests, the latest 10,000 of them and 64 MiB of bodies at most; safe to use from several threads.
-class RequestLog
-{
+class RequestLog {
 public:
     /// @return the number under which the request is kept
     std::size_t add(const HttpRequest& request);

@@ -5,14 +5,12 @@
 #include <memory>
 #include <string>
 
-namespace emulator
-{
+namespace emulator {
 
 using Json = nlohmann::json;
 
 /// A JSON Schema that is compiled once and can then be asked from several threads.
-class Schema
-{
+class Schema {
 public:
     /// @throws std::exception when the schema itself is wrong.
     explicit Schema(Json document);

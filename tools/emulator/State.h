@@ -5,12 +5,10 @@
 #include <filesystem>
 #include <stdexcept>
 
-namespace emulator
-{
+namespace emulator {
 
 /// A seed file cannot be used; the text names it.
-class SeedError : public std::runtime_error
-{
+class SeedError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };

@@ -4,8 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace emulator
-{
+namespace emulator {
 
 /// "a,,b" split at ',' gives "a", "", "b"; an empty text gives one empty part.
 std::vector<std::string> Split(std::string_view text, char separator);

@@ -3,8 +3,7 @@
 #include "../Handlers.h"
 
 /// What the platform does for each call of a family: one table a family, on the state of the seed file of its name.
-namespace emulator::families
-{
+namespace emulator::families {
 
 HandlerTable Brms();
 HandlerTable Dms();
