@@ -27,28 +27,31 @@ using APIModule::FunctionChannelCheck;
 using APIModule::Method_Get;
 using APIModule::Method_Post;
 
-using PackOfId = int (*)(void*, const std::string&, int);
+/// A call whose one argument stands between two parts of its URL.
+struct CallOfId {
+    std::string name;
+    int (*pack)(void*, const std::string&, int);
+    std::string before;
+    std::string after;
+};
 
-/// Rows for a Pack whose one argument stands between two parts of its URL.
-std::vector<PackRow> RowsOfId(const std::string& name, PackOfId pack, const std::string& before,
-                              const std::string& after)
+PackRow OfId(const CallOfId& call, const std::string& suffix, const std::string& id, const std::string& inUrl)
 {
-    const std::pair<std::string, std::pair<std::string, std::string>> cases[] = {
-        {"", {"1000001$1$0$0", "1000001$1$0$0"}},
-        {"_empty", {"", ""}},
-        {"_is_not_escaped", {"a/b?c&d#e f\"g\"+%20", "a/b?c&d#e f\"g\"+%20"}},
-        {"_with_marker_stays", {"%1%2b", "%1%2b"}},
-        {"_is_utf8", {"\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"}},
-        {"_of_invalid_utf8_is_replaced", {"a\xFF", "a\xEF\xBF\xBD"}},
-        {"_goes_on_behind_a_zero_byte", {"a\0b"s, "a\0b"s}},
+    return {call.name + "_id" + suffix, "CBRMSModule::Packet" + call.name, Bind<const std::string&>(call.pack, id),
+            Method_Get, call.before + inUrl + call.after};
+}
+
+std::vector<PackRow> RowsOfId(const CallOfId& call)
+{
+    return {
+        OfId(call, "", "1000001$1$0$0", "1000001$1$0$0"),
+        OfId(call, "_empty", "", ""),
+        OfId(call, "_is_not_escaped", R"(a/b?c&d#e f"g"+%20)", R"(a/b?c&d#e f"g"+%20)"),
+        OfId(call, "_with_marker_stays", "%1%2b", "%1%2b"),
+        OfId(call, "_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
+        OfId(call, "_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"),
+        OfId(call, "_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
     };
-    std::vector<PackRow> rows;
-    for (const auto& [suffix, texts] : cases) {
-        const auto& [argument, inUrl] = texts;
-        rows.push_back({name + "_id" + suffix, "CBRMSModule::Packet" + name, Bind<const std::string&>(pack, argument),
-                        Method_Get, before + inUrl + after});
-    }
-    return rows;
 }
 
 PackRow Check(const std::string& name, const FunctionChannelCheck& check, const std::string& body)
@@ -79,7 +82,7 @@ std::vector<PackRow> PackRows()
 
         Check("Check", {"c1", "PLAYBACK"}, R"({"channelId": "c1", "functionCode": "PLAYBACK"})"),
         Check("Check_fresh", {}, R"({"channelId": "", "functionCode": ""})"),
-        Check("Check_texts_with_quotes_line_ends_and_markers", {"\"a\\b\"", "%1\n"},
+        Check("Check_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n"},
               R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
         Check("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
               R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
@@ -104,17 +107,17 @@ std::vector<PackRow> PackRows()
         Count("Count_is_utf8_and_goes_on_behind_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
               "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
     };
-    for (const std::vector<PackRow>& rowsOfId : {
-             RowsOfId("GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",
-                      "/web/tunnel"),
-             RowsOfId("GetChannelWebAuthorization", &CBRMSModule::PacketGetChannelWebAuthorization,
-                      "/brms/api/v1.1/device/channel/", "/web/authorization"),
-             RowsOfId("GetChannelWebEnablement", &CBRMSModule::PacketGetChannelWebEnablement,
-                      "/brms/api/v1.1/device/channel/", "/web/enablement"),
-             RowsOfId("GetWebEnablement", &CBRMSModule::PacketGetWebEnablement, "/brms/api/v1.1/device/",
-                      "/web/enablement"),
-             RowsOfId("GetMenuAvailable", &CBRMSModule::PacketGetMenuAvailable, "/brms/api/v1.1/menu/", "/available"),
+    for (const CallOfId& call : std::initializer_list<CallOfId>{
+             {"GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",
+              "/web/tunnel"},
+             {"GetChannelWebAuthorization", &CBRMSModule::PacketGetChannelWebAuthorization,
+              "/brms/api/v1.1/device/channel/", "/web/authorization"},
+             {"GetChannelWebEnablement", &CBRMSModule::PacketGetChannelWebEnablement, "/brms/api/v1.1/device/channel/",
+              "/web/enablement"},
+             {"GetWebEnablement", &CBRMSModule::PacketGetWebEnablement, "/brms/api/v1.1/device/", "/web/enablement"},
+             {"GetMenuAvailable", &CBRMSModule::PacketGetMenuAvailable, "/brms/api/v1.1/menu/", "/available"},
          }) {
+        const std::vector<PackRow> rowsOfId = RowsOfId(call);
         rows.insert(rows.end(), rowsOfId.begin(), rowsOfId.end());
     }
     return rows;

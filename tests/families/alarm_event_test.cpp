@@ -129,7 +129,7 @@ const PackRow kPacks[] = {
     Events("filter_is_the_body_of_a_get", {"TCP", "1", "door"},
            R"({"transportType": "TCP", "matchType": "1", "keyword": "door"})"),
     Events("empty_texts_are_sent", {}, R"({"transportType": "", "matchType": "", "keyword": ""})"),
-    Events("texts_with_quotes_line_ends_and_markers", {"\"a\\b\"", "%1\n", "\t{}"},
+    Events("texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n", "\t{}"},
            R"({"transportType": "\"a\\b\"", "matchType": "%1\n", "keyword": "\t{}"})"),
     Events("texts_are_utf8", {"\xC3\xBC", "\xE4\xB8\xAD", "invalid \xFF"},
            R"({"transportType": "\u00fc", "matchType": "\u4e2d", "keyword": "invalid \ufffd"})"),

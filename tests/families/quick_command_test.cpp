@@ -130,7 +130,7 @@ const BodyRow kBodies[] = {
                       {"method": "2", "url": "a", "body": "", "seq": "1"},
                       {"method": "3", "url": "b", "body": "", "seq": ""}]})"},
     {"texts_with_quotes_line_ends_and_markers",
-     {"q1", "\"a\\b\"", false, "%1", 0, "\r\n\t", {{0, "http://h/?a=%20&b=\"c\"#%1", "[\"%2\"]\n", "%1"}}},
+     {"q1", R"("a\b")", false, "%1", 0, "\r\n\t", {{0, "http://h/?a=%20&b=\"c\"#%1", "[\"%2\"]\n", "%1"}}},
      R"({"quickCommandName": "\"a\\b\"", "enableShortcutKeys": "0", "shortcutKeys": "%1", "executeMode": "0",
          "remark": "\r\n\t",
          "httpUrls": [

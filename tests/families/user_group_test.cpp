@@ -106,7 +106,7 @@ const PackRow kPacks[] = {
     Add("Add", {"Night shift", "guards"}, R"({"groupName": "Night shift", "memo": "guards"})"),
     Add("Add_empty_memo_is_sent", {"Night shift", ""}, R"({"groupName": "Night shift", "memo": ""})"),
     Add("Add_fresh", {}, R"({"groupName": "", "memo": ""})"),
-    Add("Add_texts_with_quotes_line_ends_and_markers", {"\"a\\b\"", "%1\n\t{}"},
+    Add("Add_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n\t{}"},
         R"({"groupName": "\"a\\b\"", "memo": "%1\n\t{}"})"),
     Add("Add_texts_are_utf8", {"\xC3\xBC \xE4\xB8\xAD", "invalid \xFF"},
         R"({"groupName": "\u00fc \u4e2d", "memo": "invalid \ufffd"})"),
