@@ -1,5 +1,5 @@
 // Persons and rules of access points and devices.
-#include "support/Bound.h"
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <OBMS/OBMSModule.h>
@@ -33,7 +33,8 @@ PackRow AuthorizePersonsRow(const std::string& name, const APIModule::GetPageAcc
 {
     return {name,
             "COBMSModule::PacketGetPageAccessAuthorizePersons",
-            Bound(&COBMSModule::PacketGetPageAccessAuthorizePersons, req),
+            Bind<const APIModule::GetPageAccessAuthorizePersonsReq&>(&COBMSModule::PacketGetPageAccessAuthorizePersons,
+                                                                     req),
             Method_Post,
             "/obms/api/v1.1/acs/person/access/authorize/fetch/page",
             body};
@@ -43,7 +44,7 @@ PackRow GetManagedRow(const std::string& name, const std::string& deviceCode, co
 {
     return {name,
             "COBMSModule::PacketGetManagePersons",
-            Bound(&COBMSModule::PacketGetManagePersons, APIModule::GetManagePersonReq{deviceCode}),
+            Bind<const APIModule::GetManagePersonReq&>(&COBMSModule::PacketGetManagePersons, {deviceCode}),
             Method_Get,
             url,
             "",
@@ -53,20 +54,24 @@ PackRow GetManagedRow(const std::string& name, const std::string& deviceCode, co
 PackRow SetManagedRow(const std::string& name, const APIModule::SetManagePersonReq& req, const std::string& url,
                       const std::string& body)
 {
-    return {
-        name, "COBMSModule::PacketSetManagePersons", Bound(&COBMSModule::PacketSetManagePersons, req), Method_Put, url,
-        body};
+    return {name,
+            "COBMSModule::PacketSetManagePersons",
+            Bind<const APIModule::SetManagePersonReq&>(&COBMSModule::PacketSetManagePersons, req),
+            Method_Put,
+            url,
+            body};
 }
 
 PackRow PointRulesRow(const std::string& name, const APIModule::GetPointAccessRules& req, const std::string& url)
 {
-    return {name, "COBMSModule::PackGetPointRules", Bound(&COBMSModule::PackGetPointRules, req), Method_Get, url};
+    return {name, "COBMSModule::PackGetPointRules",
+            Bind<const APIModule::GetPointAccessRules&>(&COBMSModule::PackGetPointRules, req), Method_Get, url};
 }
 
 PackRow ResetAntiPassRow(const std::string& name, const std::string& personId, const std::string& url)
 {
-    return {name, "COBMSModule::PackPersonResetAntiPass", Bound(&COBMSModule::PackPersonResetAntiPass, personId),
-            Method_Post, url};
+    return {name, "COBMSModule::PackPersonResetAntiPass",
+            Bind<const std::string&>(&COBMSModule::PackPersonResetAntiPass, personId), Method_Post, url};
 }
 
 const PackRow kPacks[] = {

@@ -1,5 +1,5 @@
 // File uploads of stream analysis tasks.
-#include "support/Bound.h"
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <IAMS/IAMSModule.h>
@@ -14,7 +14,7 @@ PackRow UploadFailedRow(const std::string& name, const std::vector<std::string>&
 {
     return {name,
             "CIAMSModule::PacketSetAnalysisTaskUploadFailed",
-            Bound(&CIAMSModule::PacketSetAnalysisTaskUploadFailed, taskIds),
+            Bind<const std::vector<std::string>&>(&CIAMSModule::PacketSetAnalysisTaskUploadFailed, taskIds),
             APIModule::Method_Post,
             "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch",
             body};

@@ -1,5 +1,5 @@
 // DESFire card configuration, intercom contacts and alarm host zones.
-#include "support/Bound.h"
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <OBMS/OBMSModule.h>
@@ -27,7 +27,7 @@ PackRow UpdateDesfireRow(const std::string& name, const APIModule::AcsCardConfig
 {
     return {name,
             "COBMSModule::PackUpdateConfigDesfireInfo",
-            Bound(&COBMSModule::PackUpdateConfigDesfireInfo, param),
+            Bind<const APIModule::AcsCardConfigParam&>(&COBMSModule::PackUpdateConfigDesfireInfo, param),
             Method_Put,
             "/obms/api/v1.1/acs/config/desfire",
             body,
@@ -40,7 +40,8 @@ PackRow DesfireFailureRow(const std::string& name, const APIModule::ConfigDesFir
                           const std::string& url)
 {
     return {name, "COBMSModule::PackGetPageConfigDesfireFailInfo",
-            Bound(&COBMSModule::PackGetPageConfigDesfireFailInfo, req), Method_Get, url};
+            Bind<const APIModule::ConfigDesFireFailureReq&>(&COBMSModule::PackGetPageConfigDesfireFailInfo, req),
+            Method_Get, url};
 }
 
 PackRow DeleteContactsRow(const std::string& name, const APIModule::DeleteAddressBookParam& param,
@@ -48,7 +49,7 @@ PackRow DeleteContactsRow(const std::string& name, const APIModule::DeleteAddres
 {
     return {name,
             "COBMSModule::PackDeleteAddressBooks",
-            Bound(&COBMSModule::PackDeleteAddressBooks, param),
+            Bind<const APIModule::DeleteAddressBookParam&>(&COBMSModule::PackDeleteAddressBooks, param),
             Method_Post,
             "/obms/api/v1.1/vtalk/issue/contact/delete",
             body,
@@ -62,7 +63,7 @@ PackRow SnapShotRow(const std::string& name, const std::string& zoneId, int acti
 {
     return {name,
             "COBMSModule::PacketAlarmHostZoneSnapShot",
-            Bound(&COBMSModule::PacketAlarmHostZoneSnapShot, zoneId, action),
+            Bind<const std::string&, int>(&COBMSModule::PacketAlarmHostZoneSnapShot, zoneId, action),
             Method_Post,
             url,
             body};

@@ -1,5 +1,5 @@
 // Alert types, and the maintenance view of channels and devices.
-#include "support/Bound.h"
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <OMMS/OMMSModule.h>
@@ -29,14 +29,14 @@ using APIModule::Method_Get;
 
 PackRow ChannelRow(const std::string& name, const std::string& channelId, const std::string& url)
 {
-    return {name, "COMMSModule::PacketGetChannelInfo", Bound(&COMMSModule::PacketGetChannelInfo, channelId), Method_Get,
-            url};
+    return {name, "COMMSModule::PacketGetChannelInfo", Bind<std::string>(&COMMSModule::PacketGetChannelInfo, channelId),
+            Method_Get, url};
 }
 
 PackRow DeviceRow(const std::string& name, const std::string& deviceCode, const std::string& url)
 {
-    return {name, "COMMSModule::PacketGetDeviceInfo", Bound(&COMMSModule::PacketGetDeviceInfo, deviceCode), Method_Get,
-            url};
+    return {name, "COMMSModule::PacketGetDeviceInfo", Bind<std::string>(&COMMSModule::PacketGetDeviceInfo, deviceCode),
+            Method_Get, url};
 }
 
 const PackRow kPacks[] = {

@@ -1,5 +1,5 @@
 // Parking lots, their organisations and the vehicles captured there.
-#include "support/Bound.h"
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <IPMS/IPMSModule.h>
@@ -35,25 +35,29 @@ using APIModule::Method_Put;
 PackRow SimpleRow(const std::string& name, const std::string& parkingLotIds, int mode, const std::string& url)
 {
     return {name, "CIPMSModule::PacketGetSimpleParkingLots",
-            Bound(&CIPMSModule::PacketGetSimpleParkingLots, parkingLotIds, mode), Method_Get, url};
+            Bind<const std::string&, int>(&CIPMSModule::PacketGetSimpleParkingLots, parkingLotIds, mode), Method_Get,
+            url};
 }
 
 PackRow DetailRow(const std::string& name, const std::string& parkingLotIds, const std::string& orgCode, int mode,
                   const std::string& url)
 {
     return {name, "CIPMSModule::PacketGetDetailParkingLots",
-            Bound(&CIPMSModule::PacketGetDetailParkingLots, parkingLotIds, orgCode, mode), Method_Get, url};
+            Bind<const std::string&, const std::string&, int>(&CIPMSModule::PacketGetDetailParkingLots, parkingLotIds,
+                                                              orgCode, mode),
+            Method_Get, url};
 }
 
 PackRow CaptureRow(const std::string& name, const APIModule::UpdateVehicleCaptureRecordInfo& info,
                    const std::string& body)
 {
-    return {name,
-            "CIPMSModule::PacketUpdateVehicleCaptureRecord",
-            Bound(&CIPMSModule::PacketUpdateVehicleCaptureRecord, info),
-            Method_Put,
-            "/ipms/api/v1.1/fusion/vehicle-capture/record",
-            body};
+    return {
+        name,
+        "CIPMSModule::PacketUpdateVehicleCaptureRecord",
+        Bind<const APIModule::UpdateVehicleCaptureRecordInfo&>(&CIPMSModule::PacketUpdateVehicleCaptureRecord, info),
+        Method_Put,
+        "/ipms/api/v1.1/fusion/vehicle-capture/record",
+        body};
 }
 
 const PackRow kPacks[] = {
@@ -155,64 +159,37 @@ const char* const kTwoSimpleLots = R"({"results": [
         {"id": "p1", "positionName": "Gate A", "remark": "main", "points": [
             {"id": "e1", "pointName": "Entry", "remark": "left", "refPointId": "x1", "direction": 1, "mode": 3},
             {"id": "e2", "pointName": "Exit", "remark": "right", "refPointId": "e1", "direction": 2, "mode": 4}]},
-        {"id": "p2", "positionName": "Gate B", "remark": "rear", "points": [
-            {"id": "e3", "pointName": "Entry B", "remark": "a", "refPointId": "x3", "direction": 1, "mode": 3},
-            {"id": "e4", "pointName": "Exit B", "remark": "b", "refPointId": "e3", "direction": 2, "mode": 4}]}]},
+        {"id": "p2", "positionName": "Gate B", "remark": "rear", "points": []}]},
     {"id": "12", "parkingLotName": "South", "orgCode": "002", "orgName": "Branch", "parentParkingLotId": "11",
      "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
      "parkingSpaceStatisticsType": 3, "positions": [
         {"id": "p3", "positionName": "Gate C", "remark": "c", "points": [
-            {"id": "e5", "pointName": "Entry C", "remark": "d", "refPointId": "x5", "direction": 1, "mode": 5},
-            {"id": "e6", "pointName": "Exit C", "remark": "e", "refPointId": "e5", "direction": 2, "mode": 6}]},
-        {"id": "p4", "positionName": "Gate D", "remark": "f", "points": [
-            {"id": "e7", "pointName": "Entry D", "remark": "g", "refPointId": "x7", "direction": 1, "mode": 5},
-            {"id": "e8", "pointName": "Exit D", "remark": "h", "refPointId": "e7", "direction": 2, "mode": 6}]}]}]})";
+            {"id": "e3", "pointName": "Entry C", "remark": "d", "refPointId": "x3", "direction": 1, "mode": 5}]}]}]})";
 
 const char* const kTwoDetailLots = R"({"results": [
     {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "1",
      "parentParkingLotName": "Campus", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
      "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 200,
      "idleParkingSpaceCount": 17, "positions": [
-        {"id": "p1", "positionName": "Gate 1", "remark": "main 1", "points": [
+        {"id": "p1", "positionName": "Gate 1", "remark": "main", "points": [
             {"id": "e1", "pointName": "Point 1", "remark": "left 1", "refPointId": "x1", "refPointName": "Ref 1",
              "direction": 1, "mode": 11,
-             "channels": [{"channelId": "c1", "channelType": 1}, {"channelId": "d1", "channelType": 2}],
-             "refChannels": [{"channelId": "r1", "channelType": 3}, {"channelId": "s1", "channelType": 4}]},
+             "channels": [{"channelId": "c1", "channelType": 1}, {"channelId": "c2", "channelType": 2}],
+             "refChannels": [{"channelId": "r1", "channelType": 3}, {"channelId": "r2", "channelType": 4}]},
             {"id": "e2", "pointName": "Point 2", "remark": "left 2", "refPointId": "x2", "refPointName": "Ref 2",
              "direction": 2, "mode": 12,
-             "channels": [{"channelId": "c2", "channelType": 1}, {"channelId": "d2", "channelType": 2}],
-             "refChannels": [{"channelId": "r2", "channelType": 3}, {"channelId": "s2", "channelType": 4}]}]},
-        {"id": "p2", "positionName": "Gate 2", "remark": "main 2", "points": [
-            {"id": "e3", "pointName": "Point 3", "remark": "left 3", "refPointId": "x3", "refPointName": "Ref 3",
-             "direction": 0, "mode": 13,
-             "channels": [{"channelId": "c3", "channelType": 1}, {"channelId": "d3", "channelType": 2}],
-             "refChannels": [{"channelId": "r3", "channelType": 3}, {"channelId": "s3", "channelType": 4}]},
-            {"id": "e4", "pointName": "Point 4", "remark": "left 4", "refPointId": "x4", "refPointName": "Ref 4",
-             "direction": 1, "mode": 14,
-             "channels": [{"channelId": "c4", "channelType": 1}, {"channelId": "d4", "channelType": 2}],
-             "refChannels": [{"channelId": "r4", "channelType": 3}, {"channelId": "s4", "channelType": 4}]}]}]},
+             "channels": [{"channelId": "c3", "channelType": 5}],
+             "refChannels": []}]},
+        {"id": "p2", "positionName": "Gate 2", "remark": "rear", "points": []}]},
     {"id": "12", "parkingLotName": "South", "orgCode": "002", "orgName": "Branch", "parentParkingLotId": "11",
      "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
      "parkingSpaceStatisticsType": 3, "issueVehicles": 5, "issueStatus": 6, "totalParkingSpaceCount": 20,
      "idleParkingSpaceCount": 8, "positions": [
-        {"id": "p3", "positionName": "Gate 3", "remark": "main 3", "points": [
-            {"id": "e5", "pointName": "Point 5", "remark": "left 5", "refPointId": "x5", "refPointName": "Ref 5",
-             "direction": 2, "mode": 15,
-             "channels": [{"channelId": "c5", "channelType": 1}, {"channelId": "d5", "channelType": 2}],
-             "refChannels": [{"channelId": "r5", "channelType": 3}, {"channelId": "s5", "channelType": 4}]},
-            {"id": "e6", "pointName": "Point 6", "remark": "left 6", "refPointId": "x6", "refPointName": "Ref 6",
-             "direction": 0, "mode": 16,
-             "channels": [{"channelId": "c6", "channelType": 1}, {"channelId": "d6", "channelType": 2}],
-             "refChannels": [{"channelId": "r6", "channelType": 3}, {"channelId": "s6", "channelType": 4}]}]},
-        {"id": "p4", "positionName": "Gate 4", "remark": "main 4", "points": [
-            {"id": "e7", "pointName": "Point 7", "remark": "left 7", "refPointId": "x7", "refPointName": "Ref 7",
-             "direction": 1, "mode": 17,
-             "channels": [{"channelId": "c7", "channelType": 1}, {"channelId": "d7", "channelType": 2}],
-             "refChannels": [{"channelId": "r7", "channelType": 3}, {"channelId": "s7", "channelType": 4}]},
-            {"id": "e8", "pointName": "Point 8", "remark": "left 8", "refPointId": "x8", "refPointName": "Ref 8",
-             "direction": 2, "mode": 18,
-             "channels": [{"channelId": "c8", "channelType": 1}, {"channelId": "d8", "channelType": 2}],
-             "refChannels": [{"channelId": "r8", "channelType": 3}, {"channelId": "s8", "channelType": 4}]}]}]}]})";
+        {"id": "p3", "positionName": "Gate 3", "remark": "main", "points": [
+            {"id": "e3", "pointName": "Point 3", "remark": "left 3", "refPointId": "x3", "refPointName": "Ref 3",
+             "direction": 0, "mode": 13,
+             "channels": [{"channelId": "c4", "channelType": 6}],
+             "refChannels": [{"channelId": "r4", "channelType": 7}]}]}]}]})";
 
 std::vector<ParseRow> VariationRows()
 {

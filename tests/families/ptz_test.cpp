@@ -1,5 +1,5 @@
 // Wash function and home position of PTZ channels.
-#include "support/Bound.h"
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <DMS/DMSModule.h>
@@ -50,15 +50,15 @@ PackRow BatchWashRow(const std::string& name, const std::vector<std::string>& ch
 
 PackRow SetHomeRow(const std::string& name, const std::string& channelId, const std::string& url)
 {
-    return {name, "CDMSModule::PackeSetHomePosition", Bound(&CDMSModule::PackeSetHomePosition, channelId), Method_Post,
-            url};
+    return {name, "CDMSModule::PackeSetHomePosition", Bind<std::string>(&CDMSModule::PackeSetHomePosition, channelId),
+            Method_Post, url};
 }
 
 PackRow GotoHomeRow(const std::string& name, const std::string& channelId, const std::string& url)
 {
     return {name,
             "CDMSModule::PackeGotoHomePosition",
-            Bound(&CDMSModule::PackeGotoHomePosition, channelId),
+            Bind<std::string>(&CDMSModule::PackeGotoHomePosition, channelId),
             Method_Post,
             url,
             "",

@@ -92,14 +92,15 @@ ParseRow Predicted(const std::string& name, const Parse& parse, const Readings& 
     return row;
 }
 
+/// Of the lists inside a list's elements those of the first one count, so that deep replies stay of a size.
 void RequireTwoElements(const QJsonValue& value)
 {
-    const QJsonArray array = value.toArray();
-    if (value.isArray() && array.size() < 2) {
-        throw std::logic_error("a list of the whole reply has less than two elements");
-    }
-    for (const QJsonValue& inner : array) {
-        RequireTwoElements(inner);
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        if (array.size() < 2) {
+            throw std::logic_error("a list of the whole reply has less than two elements");
+        }
+        RequireTwoElements(array.first());
     }
     const QJsonObject object = value.toObject();
     for (const QJsonValue& inner : object) {
