@@ -66,8 +66,8 @@ int CBRMSModule::ParseGetDeviceLoginModel(const QJsonObject& data, int& model)
 
 int CBRMSModule::PacketSetDeviceLoginModel(void* pReqParamData, const int& model, int nServerId)
 {
-    return Pack(pReqParamData, kBrms, Method_Put, QStringLiteral("/brms/api/v1.1/config/device-login-model"),
-                nServerId, Body({{"deviceLoginModel", NumberText(model)}}));
+    return Pack(pReqParamData, kBrms, Method_Put, QStringLiteral("/brms/api/v1.1/config/device-login-model"), nServerId,
+                Body({{"deviceLoginModel", NumberText(model)}}));
 }
 
 int CBRMSModule::PacketGetPushAppMsgConfig(void* pReqParamData, int nServerId)
@@ -88,8 +88,8 @@ int CBRMSModule::PacketSetPushAppMsgConfig(void* pReqParamData, const bool& enab
 
 int CBRMSModule::PacketGetSupportDataBaseType(void* pReqParamData, int nServerId)
 {
-    return Pack(pReqParamData, kBrms, Method_Get,
-                QStringLiteral("/brms/api/v1.1/config/outside-database/support/list"), nServerId);
+    return Pack(pReqParamData, kBrms, Method_Get, QStringLiteral("/brms/api/v1.1/config/outside-database/support/list"),
+                nServerId);
 }
 
 int CBRMSModule::ParseGetSupportDataBaseType(const QJsonObject& data, std::vector<int>& types)

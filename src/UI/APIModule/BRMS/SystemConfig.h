@@ -28,10 +28,10 @@ struct RemoteLogConfigInfo {
 
 /// One kind of settings that the server stores for the client.
 struct LocalSettingQueryResult {
-    bool apply = false;            ///< "apply": the apply flag of the setting
-    int settingType = 0;           ///< "settingType": kind of setting, the number that the query passed
-    int64 settingVersion = 0;       ///< "settingVersion": version of the stored content
-    std::string settingContent;    ///< "settingContent": the setting itself, opaque to the server
+    bool apply = false;          ///< "apply": the apply flag of the setting
+    int settingType = 0;         ///< "settingType": kind of setting, the number that the query passed
+    int64 settingVersion = 0;    ///< "settingVersion": version of the stored content
+    std::string settingContent;  ///< "settingContent": the setting itself, opaque to the server
 };
 
 }  // namespace APIModule
