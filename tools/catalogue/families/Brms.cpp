@@ -83,8 +83,8 @@ void AddBrmsCalls(std::vector<Call>& calls)
             Entry<&Brms::PacketGetRemoteLogConfig, &Brms::ParseGetRemoteLogConfig>("Reads the remote log settings"),
             Entry<&Brms::PacketSetRemoteLogConfig>("Writes the remote log settings", "config"),
             Entry<&Brms::PacketGetDeviceLoginModel, &Brms::ParseGetDeviceLoginModel>(
-                "Reads how devices log in to the platform"),
-            Entry<&Brms::PacketSetDeviceLoginModel>("Writes how devices log in to the platform", "model"),
+                "Reads the login model of devices"),
+            Entry<&Brms::PacketSetDeviceLoginModel>("Writes the login model of devices", "model"),
             Entry<&Brms::PacketGetPushAppMsgConfig, &Brms::ParseGetPushAppMsgConfig>(
                 "Reads whether messages are pushed to the mobile app"),
             Entry<&Brms::PacketSetPushAppMsgConfig>("Switches the push of messages to the mobile app", "enable"),

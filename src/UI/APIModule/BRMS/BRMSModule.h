@@ -57,12 +57,12 @@ public:
     /// Body: every field of @p config under its key, all of them texts.
     static int PacketSetRemoteLogConfig(void* pReqParamData, const RemoteLogConfigInfo& config, int nServerId);
 
-    /// Reads how devices log in to the platform: GET /brms/api/v1.1/config/device-login-model
+    /// Reads the login model of devices: GET /brms/api/v1.1/config/device-login-model
     static int PacketGetDeviceLoginModel(void* pReqParamData, int nServerId);
     /// Reads "deviceLoginModel", a number defined by the server.
     static int ParseGetDeviceLoginModel(const QJsonObject& data, int& model);
 
-    /// Writes how devices log in to the platform: PUT /brms/api/v1.1/config/device-login-model
+    /// Writes the login model of devices: PUT /brms/api/v1.1/config/device-login-model
     ///
     /// Body: "deviceLoginModel", the decimal text of @p model.
     static int PacketSetDeviceLoginModel(void* pReqParamData, const int& model, int nServerId);
@@ -187,14 +187,16 @@ public:
     /// Switches alarm outputs: POST /brms/api/v1.1/device/channel/alarm-output/control; the reply is read by
     /// ParseChannelControl().
     ///
-    /// Body: "channelIds", a list of texts, "action", always the number 0, and "command", the number 1 or 0.
+    /// Body: "channelIds", a list of texts, "action", always the number 0, and "command", the number 1 when @p on is
+    /// true and 0 when it is false.
     static int PacketAlarmOutputControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
                                         int nServerId);
 
     /// Switches audio-light alarms: POST /brms/api/v1.1/device/channel/audio-light/regulate; the reply is read by
     /// ParseChannelControl().
     ///
-    /// Body: "channelIds", a list of texts, and "command", the number 1 or 0; no "action" here.
+    /// Body: "channelIds", a list of texts, and "command", the number 1 when @p on is true and 0 when it is false; no
+    /// "action" here.
     static int PacketAudioLightControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
                                        int nServerId);
 
