@@ -37,9 +37,9 @@ void AddObmsCalls(std::vector<Call>& calls)
         {
             Entry<&Obms::PacketGetPageAccessAuthorizePersons, &Obms::ParseGetPageAccessAuthorizePersons>(
                 "Reads one page of the persons with access", "req"),
-            Entry<&Obms::PacketGetManagePersons, &Obms::ParseGetManagePersons>("Lists the managing persons of a device",
+            Entry<&Obms::PacketGetManagePersons, &Obms::ParseGetManagePersons>("Lists the persons managed on a device",
                                                                                "req"),
-            Entry<&Obms::PacketSetManagePersons>("Writes the managing persons of a device", "req"),
+            Entry<&Obms::PacketSetManagePersons>("Replaces the persons managed on a device", "req"),
             Entry<&Obms::PackGetPointRules, &Obms::ParesGetPointRules>("Lists the rules of an access point", "req"),
             Entry<&Obms::PackPersonResetAntiPass>("Resets the anti-pass time of a person", "personId"),
         });
