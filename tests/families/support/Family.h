@@ -92,10 +92,10 @@ class ParseTest : public testing::TestWithParam<ParseRow> {};
 ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
              const char* record, const testing_support::LogLines& lines = {});
 
-/// Rows for a whole reply and for every reply that differs from it in one place: a key or an element removed or
-/// replaced by other values, a list or an object emptied; each with a fresh and with a filled record. What must come of
-/// them is told from @p readings. In the whole reply every list has two elements or more; only those inside a
-/// later element may be shorter.
+/// Rows for a whole reply and for every reply that differs from it in one place: a key, two keys or an element
+/// removed, a value replaced by others, a list or an object emptied; each with a fresh and with a filled record. What
+/// must come of them is told from @p readings. In the whole reply every list has two elements or more; only those
+/// inside a later element may be shorter.
 std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply);
 
 /// Several lists of rows as one.

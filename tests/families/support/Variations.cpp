@@ -48,6 +48,12 @@ std::vector<Variation> Changes(const QJsonValue& value)
         QJsonObject changed = object;
         changed.remove(key);
         changes.push_back({name + "removed", changed});
+        const QStringList others = keys.mid(keys.indexOf(key) + 1);
+        for (const QString& other : others) {  // the line names the one that is read first
+            QJsonObject without = changed;
+            without.remove(other);
+            changes.push_back({name + "and_" + other.toStdString() + "_removed", without});
+        }
         for (const Variation& inner : Changes(object.value(key))) {
             changed[key] = inner.value;
             changes.push_back({name + inner.name, changed});
