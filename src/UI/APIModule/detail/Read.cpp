@@ -41,14 +41,14 @@ int ReadValue(const QJsonObject& object, QLatin1String key, bool& value)
 
 void AppendTexts(const QJsonArray& array, std::vector<std::string>& texts)
 {
-    for (const QJsonValue value : array) {
+    for (const QJsonValue& value : array) {
         texts.push_back(value.toString().toStdString());
     }
 }
 
 void AppendNumbersOfTexts(const QJsonArray& array, std::vector<int>& numbers)
 {
-    for (const QJsonValue value : array) {
+    for (const QJsonValue& value : array) {
         numbers.push_back(value.toString().toInt(nullptr, 10));
     }
 }

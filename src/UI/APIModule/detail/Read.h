@@ -32,7 +32,7 @@ template <typename Element, typename ReadElement>
 int ReadElements(const QJsonArray& array, std::vector<Element>& list, ReadElement readElement)
 {
     list.reserve(list.size() + std::size_t(array.size()));
-    for (const QJsonValue value : array) {
+    for (const QJsonValue& value : array) {
         Element element;
         if (readElement(value.toObject(), element) != 0) {
             return -1;
