@@ -1,0 +1,114 @@
+// Every call of the library against the emulator, over HTTP and over HTTPS.
+#include "rows/Rows.h"
+#include "support/EndToEnd.h"
+
+#include <catalogue/Call.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <tuple>
+
+namespace e2e {
+namespace {
+
+class EveryCall : public EndToEnd, public testing::WithParamInterface<std::tuple<Scheme, Row>> {
+protected:
+    EveryCall()
+    {
+        Use(std::get<Scheme>(GetParam()));
+        Json state = Platform().state();
+        for (const auto& [place, value] : TheRow().state.items()) {
+            state[Json::json_pointer(place)] = value;
+        }
+        Platform().setState(state);
+    }
+
+    static const Row& TheRow() { return std::get<Row>(GetParam()); }
+
+    /// What is there to see now.
+    static Json Seen(const Trace& trace)
+    {
+        if (trace.call.empty()) {
+            const Json state = Platform().state();
+            const Json::json_pointer place(trace.place);
+            return state.contains(place) ? state.at(place) : Json();
+        }
+        const catalogue::Outcome outcome = Run(trace.call, trace.arguments);
+        return outcome.Succeeded() ? outcome.record : Json{{"failed", outcome.result}};
+    }
+
+    static std::string Described(const Trace& trace)
+    {
+        return trace.call.empty() ? trace.place : trace.call + " " + trace.arguments.dump();
+    }
+};
+
+TEST_P(EveryCall, GivesWhatThePlatformHoldsAndChangesIt)
+{
+    const Row& row = TheRow();
+    for (const Trace& trace : row.traces) {
+        EXPECT_NE(Seen(trace), trace.expected) << Described(trace) << ": nothing is left to change";
+    }
+
+    Platform().clearRequests();
+    const catalogue::Outcome outcome = Run(row.call, row.arguments);
+    const std::vector<emulator::RecordedRequest> requests = Platform().requests();
+    ASSERT_EQ(requests.size(), 1U);
+    EXPECT_EQ(outcome.result, 0) << outcome.notification << "\n" << requests.front().toJson().dump(4);
+    EXPECT_TRUE(outcome.confirmed);
+    EXPECT_EQ(outcome.notification, "");
+    if (row.record) {
+        EXPECT_EQ(outcome.record, row.record(Platform().state()));
+        EXPECT_NE(outcome.record, FreshRecord(row.call)) << "a record that nothing was read into looks the same";
+    } else {
+        EXPECT_EQ(outcome.record, Json()) << "the row expects no record";
+    }
+    for (const Trace& trace : row.traces) {
+        EXPECT_EQ(Seen(trace), trace.expected) << Described(trace);
+    }
+
+    static const std::set<std::string> onlyAsk = {"BRMS.FunctionChannelCheck", "OBMS.GetPageAccessAuthorizePersons"};
+    if (requests.front().method != "GET" && onlyAsk.count(row.call) == 0) {
+        EXPECT_FALSE(row.traces.empty()) << "nobody looks for what it wrote";
+    }
+}
+
+std::string NameOf(const testing::TestParamInfo<std::tuple<Scheme, Row>>& info)
+{
+    return std::get<Row>(info.param).Name();
+}
+
+INSTANTIATE_TEST_SUITE_P(Http, EveryCall, testing::Combine(testing::Values(Scheme::Http), testing::ValuesIn(Rows())),
+                         NameOf);
+INSTANTIATE_TEST_SUITE_P(Https, EveryCall, testing::Combine(testing::Values(Scheme::Https), testing::ValuesIn(Rows())),
+                         NameOf);
+
+std::set<std::string> RegisteredTests(const std::string& suite)
+{
+    std::set<std::string> names;
+    const testing::UnitTest& program = *testing::UnitTest::GetInstance();
+    for (int index = 0; index < program.total_test_suite_count(); ++index) {
+        const testing::TestSuite& found = *program.GetTestSuite(index);
+        for (int test = 0; suite == found.name() && test < found.total_test_count(); ++test) {
+            names.insert(found.GetTestInfo(test)->name());
+        }
+    }
+    return names;
+}
+
+TEST(Completeness, EveryCallOfTheCatalogueHasARowInBothSchemes)
+{
+    for (const char* suite : {"Http/EveryCall", "Https/EveryCall"}) {
+        const std::set<std::string> tests = RegisteredTests(suite);
+        for (const catalogue::Call& call : catalogue::Calls()) {
+            const std::string test = "GivesWhatThePlatformHoldsAndChangesIt/" + Row{call.name, {}}.Name();
+            EXPECT_EQ(tests.count(test), 1U) << call.name << " has no row in " << suite;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace e2e

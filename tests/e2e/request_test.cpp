@@ -1,0 +1,203 @@
+// Requests as the platform got them: texts in URLs, the server they went to, and objects that do not exist.
+#include "support/EndToEnd.h"
+#include "support/Rows.h"
+
+#include <gtest/gtest.h>
+
+namespace e2e {
+namespace {
+
+constexpr int kInvalidParameter = 1003;
+constexpr int kUnknownObject = 1005;
+
+struct KeywordRow {
+    std::string name;
+    std::string call;
+    Json arguments;
+    std::string target;  ///< what went over the wire
+    int result;
+};
+
+class Keyword : public EndToEnd, public testing::WithParamInterface<KeywordRow> {};
+
+TEST_P(Keyword, GoesIntoTheRequest)
+{
+    const catalogue::Outcome outcome = Run(GetParam().call, GetParam().arguments);
+    ASSERT_EQ(Platform().requests().size(), 1U);
+    EXPECT_EQ(Platform().requests().front().target, GetParam().target);
+    EXPECT_EQ(outcome.result, GetParam().result) << outcome.notification;
+}
+
+Json Query(const std::string& keyword)
+{
+    return {{"page", 1}, {"pageSize", 20}, {"keyword", keyword}};
+}
+
+// An ampersand begins a further value, which the platform refuses; a hash sign ends the request's target.
+INSTANTIATE_TEST_SUITE_P(
+    AmpersandAndHash, Keyword,
+    testing::Values(
+        KeywordRow{"UserGroups",
+                   "BRMS.GetUserGroupList",
+                   {{"keyword", "a&b#c"}},
+                   "/brms/api/v1.1/user/group/list?keyword=a&b",
+                   kInvalidParameter},
+        KeywordRow{
+            "HashAlone", "BRMS.GetUserGroupList", {{"keyword", "a#c"}}, "/brms/api/v1.1/user/group/list?keyword=a", 0},
+        KeywordRow{"QuickCommands",
+                   "BRMS.GetQuickCommands",
+                   {{"keyword", "a&b#c"}},
+                   "/brms/api/v1.1/config/quick/command/list?keyword=a&b",
+                   kInvalidParameter},
+        KeywordRow{"AlarmPlans",
+                   "BRMS.GetPageSummaryAlarmPlans",
+                   {{"query", Query("a&b#c")}},
+                   "/brms/api/v1.1/alarm/plan/summary/page?page=1&pageSize=20&keyword=a&b",
+                   kInvalidParameter},
+        KeywordRow{"CardFailures",
+                   "OBMS.GetPageConfigDesfireFailInfo",
+                   {{"req", Query("a&b#c")}},
+                   "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a&b",
+                   kInvalidParameter},
+        KeywordRow{"DeviceCount",
+                   "BRMS.GetDeviceCategoryCount",
+                   {{"query", {{"keyword", "a&b#c"}, {"orgCode", "001"}}}},
+                   "/brms/api/v1.1/device/statistics/count-by-device-category/list?keyword=a&b",
+                   kInvalidParameter}),
+    testing_support::RowName());
+
+INSTANTIATE_TEST_SUITE_P(PercentSign, Keyword,
+                         testing::Values(KeywordRow{"OnlyPlaceOfTheUrl",
+                                                    "BRMS.GetUserGroupList",
+                                                    {{"keyword", "a%2b"}},
+                                                    "/brms/api/v1.1/user/group/list?keyword=a%2B",
+                                                    0},
+                                         KeywordRow{
+                                             "MarkerOfALaterPlace",
+                                             "BRMS.GetDeviceCategoryCount",
+                                             {{"query", {{"keyword", "a%2b"}, {"orgCode", "001"}}}},
+                                             "/brms/api/v1.1/device/statistics/count-by-device-category/list"
+                                             "?keyword=a001b&orgCode=001&domain=&permitted=&sourceType=&containChild=",
+                                             0}),
+                         testing_support::RowName());
+
+TEST_F(EndToEnd, AKeywordInABodyArrivesWhole)
+{
+    const catalogue::Outcome outcome = Run("OBMS.GetPageAccessAuthorizePersons", {{"req", Query("a&b#c%2")}});
+    EXPECT_EQ(outcome.result, 0) << outcome.notification;
+    ASSERT_EQ(Platform().requests().size(), 1U);
+    EXPECT_EQ(Json::parse(Platform().requests().front().body).at("keyword"), "a&b#c%2");
+}
+
+/// Two servers, told apart by the token that the host sends them; the emulator refuses that of the second one.
+class TwoServers : public EndToEnd {
+protected:
+    TwoServers()
+    {
+        users.servers[2] = users.servers[1];
+        users.servers[2].token = "token-of-server-2";
+    }
+
+    /// The server that a call asks, of those that the host knows.
+    int ServerOf(const std::string& call, const Json& arguments, int serverId = -1)
+    {
+        Platform().clearRequests();
+        catalogue::RunSettings settings;
+        settings.serverId = serverId;
+        const catalogue::Outcome outcome = Run(call, arguments, settings);
+        EXPECT_EQ(Platform().requests().size(), 1U) << call;
+        const bool second = Platform().requests().back().header("X-Subject-Token") == users.servers[2].token;
+        EXPECT_EQ(outcome.result == 0, !second) << call << ": " << outcome.notification;
+        return second ? 2 : 1;
+    }
+};
+
+TEST_F(TwoServers, TheWashFunctionAlwaysAsksServer1)
+{
+    const Json channel = {{"channelId", "1000001$1$0$0"}};
+    users.currentServerId = 2;
+    EXPECT_EQ(ServerOf("DMS.WashOpen", channel), 1);
+    EXPECT_EQ(ServerOf("DMS.BatchWashOpen", {{"channelIds", Json::array({"1000001$1$0$0"})}}), 1);
+    EXPECT_EQ(ServerOf("DMS.SetHomePosition", channel), 2) << "others ask the current server";
+}
+
+TEST_F(TwoServers, TheManagingPersonsAreAlwaysReadFromTheCurrentServer)
+{
+    const Json device = {{"req", {{"deviceCode", "1000041"}}}};
+    EXPECT_EQ(ServerOf("OBMS.GetManagePersons", device, 2), 1);
+    EXPECT_EQ(ServerOf("OBMS.GetConfigDesfireInfo", {}, 2), 2) << "others ask the server that is named";
+    users.currentServerId = 2;
+    EXPECT_EQ(ServerOf("OBMS.GetManagePersons", device, 1), 2);
+}
+
+struct UnknownRow {
+    std::string name;
+    std::string call;
+    Json arguments;
+};
+
+class UnknownObject : public EndToEnd, public testing::WithParamInterface<UnknownRow> {};
+
+TEST_P(UnknownObject, GivesTheCodeOfTheEnvelopeAndChangesNothing)
+{
+    const Json before = Platform().state();
+    const catalogue::Outcome outcome = Run(GetParam().call, GetParam().arguments);
+    EXPECT_EQ(outcome.result, kUnknownObject);
+    EXPECT_EQ(outcome.notification, "");
+    EXPECT_FALSE(outcome.confirmed);
+    EXPECT_EQ(outcome.record, FreshRecord(GetParam().call));
+    EXPECT_EQ(Platform().state(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Brms, UnknownObject,
+    testing::Values(
+        UnknownRow{"NetworkOfADevice", "BRMS.GetNetworkConfig", {{"deviceCode", "404"}}},
+        UnknownRow{"NetworkToWrite", "BRMS.UpdateNetworkConfig", {{"config", {{"deviceCode", "404"}}}}},
+        UnknownRow{"EncodingOfAChannel", "BRMS.GetEncodeConfig", {{"channelId", "404"}}},
+        UnknownRow{
+            "CapabilityOfAStream", "BRMS.GetEncodeCapability", {{"channelId", "1000001$1$0$0"}, {"streamType", 9}}},
+        UnknownRow{"ImageToWrite", "BRMS.UpdateImageConfig", {{"config", {{"channelId", "404"}}}}},
+        UnknownRow{"MulticastOfAStream",
+                   "BRMS.SetMultiCastStreamStatus",
+                   {{"status", {{"channelId", "1000001$1$0$0"}, {"streamType", 9}}}}},
+        UnknownRow{"OneOfTheDevicesToDiscover",
+                   "BRMS.BatchDiscoverDevices",
+                   {{"deviceCodes", {"1000001", "404"}}, {"discoverMode", 1}}},
+        UnknownRow{"UserGroup", "BRMS.GetUserGroup", {{"groupId", "404"}}},
+        UnknownRow{"UserGroupToClear", "BRMS.ClearUserGroup", {{"groupId", "404"}}},
+        UnknownRow{
+            "OneOfTheUsersToMove", "BRMS.MoveUserGroup", {{"move", {{"groupId", "12"}, {"userIds", {"31", "404"}}}}}},
+        UnknownRow{"OneOfTheUserGroupsToDelete", "BRMS.DeleteUserGroup", {{"groupIds", {"12", "404"}}}},
+        UnknownRow{"QuickCommand", "BRMS.GetQuickCommand", {{"id", "404"}}},
+        UnknownRow{"QuickCommandToChange", "BRMS.UpdateQuickCommand", {{"command", {{"id", "404"}}}}},
+        UnknownRow{"OneOfTheQuickCommandsToDelete", "BRMS.DelQuickCommand", {{"ids", {"5", "404"}}}},
+        UnknownRow{"AlarmPlan", "BRMS.GetAlarmPlanQuickCommands", {{"planId", "404"}}},
+        UnknownRow{"SourceOfAnAlarm", "BRMS.GetAlarmLinkControlList", {{"sourceCode", "404"}, {"alarmType", 5}}},
+        UnknownRow{"ResourceOnALayer", "BRMS.GetAlarmLayerDetail", {{"resourceCode", "404"}, {"resourceType", 3}}},
+        UnknownRow{"AlarmRecord", "BRMS.GetAlarmHostFileInfo", {{"alarmRecordId", "404"}}},
+        UnknownRow{"ChannelWithAWebPage", "BRMS.GetChannelWebTunnel", {{"channelId", "404"}}},
+        UnknownRow{"Menu", "BRMS.GetMenuAvailable", {{"menuCode", "no.such.menu"}}}),
+    testing_support::RowName());
+
+INSTANTIATE_TEST_SUITE_P(
+    OtherFamilies, UnknownObject,
+    testing::Values(
+        UnknownRow{"ChannelToWash", "DMS.WashOpen", {{"channelId", "404"}}},
+        UnknownRow{"ChannelToMove", "DMS.GotoHomePosition", {{"channelId", "404"}}},
+        UnknownRow{"OneOfTheTasks", "IAMS.SetAnalysisTaskUploadFailed", {{"taskIds", {"701", "404"}}}},
+        UnknownRow{"CaptureRecord", "IPMS.UpdateVehicleCaptureRecord", {{"info", {{"id", "404"}, {"plateNo", "X"}}}}},
+        UnknownRow{"DeviceWithManagers", "OBMS.GetManagePersons", {{"req", {{"deviceCode", "404"}}}}},
+        UnknownRow{"OneOfTheManagers",
+                   "OBMS.SetManagePersons",
+                   {{"req", {{"deviceCode", "1000041"}, {"personIds", {"5001", "404"}}}}}},
+        UnknownRow{"AccessPoint", "OBMS.GetPointRules", {{"req", {{"pointId", "404"}}}}},
+        UnknownRow{"Person", "OBMS.PersonResetAntiPass", {{"personId", "404"}}},
+        UnknownRow{"OutdoorStation", "OBMS.DeleteAddressBooks", {{"param", {{"vtoDeviceCode", "404"}}}}},
+        UnknownRow{"Zone", "OBMS.AlarmHostZoneSnapShot", {{"zoneId", "404"}, {"action", 1}}},
+        UnknownRow{"Channel", "OMMS.GetChannelInfo", {{"channelId", "404"}}},
+        UnknownRow{"Device", "OMMS.GetDeviceInfo", {{"deviceCode", "404"}}}),
+    testing_support::RowName());
+
+}  // namespace
+}  // namespace e2e

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Records as they must come, made of what the emulator holds.
+namespace e2e {
+
+using Json = nlohmann::json;
+using Keys = std::vector<std::string>;
+
+/// A record by the emulator's state.
+using Expectation = std::function<Json(const Json& state)>;
+
+/// What stands at a JSON pointer.
+Expectation At(const std::string& place);
+
+/// The object with further members.
+Json With(Json object, const Json& more);
+/// The object with these members alone.
+Json Pick(const Json& object, const Keys& keys);
+Json PickEach(const Json& list, const Keys& keys);
+/// The elements of a page, which count from 1.
+Json PageOf(const Json& list, std::size_t page, std::size_t pageSize);
+/// The element whose member has this value.
+const Json& Element(const Json& list, const std::string& key, const Json& value);
+/// Each element changed by a function.
+template <typename Change>
+Json Each(const Json& list, Change change)
+{
+    Json changed = Json::array();
+    for (const Json& element : list) {
+        changed.push_back(change(element));
+    }
+    return changed;
+}
+/// The elements for which a function is true.
+template <typename Test>
+Json Where(const Json& list, Test test)
+{
+    Json found = Json::array();
+    for (const Json& element : list) {
+        if (test(element)) {
+            found.push_back(element);
+        }
+    }
+    return found;
+}
+
+}  // namespace e2e
