@@ -5,8 +5,9 @@ namespace e2e {
 std::vector<Row> SystemConfigRows()
 {
     const Json timeSync = R"({
-        "enable": false, "startTime": "23:59:01", "interval": 7, "deviceOnlineTimeSync": false, "enableNtp": false,
+        "enable": false, "startTime": "23:59:01", "interval": 7, "deviceOnlineTimeSync": true, "enableNtp": false,
         "ntpIp": "ntp.example", "ntpPort": 1123, "ntpSyncInterval": 5})"_json;
+    const Json withNtp = With(timeSync, {{"deviceOnlineTimeSync", false}, {"enableNtp", true}});
     const Json remoteLog = R"({"enable": false, "ip": "10.9.8.7", "port": 1514, "platformId": "Süd & Co #2"})"_json;
     const Json readSetting = {{"settingType", 3}};
     return {
@@ -16,6 +17,11 @@ std::vector<Row> SystemConfigRows()
          {{"config", timeSync}},
          {},
          {ReadBack("BRMS.GetTimeSyncConfig", {}, timeSync), Held("/brms/timeSync", timeSync)}},
+        {"BRMS.SetTimeSyncConfig",
+         "WithNtp",
+         {{"config", withNtp}},
+         {},
+         {ReadBack("BRMS.GetTimeSyncConfig", {}, withNtp), Held("/brms/timeSync", withNtp)}},
         {"BRMS.ImmediatelySyncTime", "", {}, {}, {Accepted("BRMS.ImmediatelySyncTime", Json::object(), {})}},
         {"BRMS.GetRemoteLogConfig", "", {}, At("/brms/remoteLog")},
         {"BRMS.SetRemoteLogConfig",

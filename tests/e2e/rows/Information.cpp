@@ -119,7 +119,7 @@ std::vector<Row> AlarmEventRows()
          }},
         {"BRMS.GetAudioFileInfo",
          "",
-         {{"url", "/brms/api/v1.1/audio/file/task/info"}, {"body", "{\"taskId\": \"4\"}"}},
+         {{"url", "/brms/api/v1.1/audio/file/task/info"}, {"body", R"({"taskId": "4"})"}},
          At("/brms/audioTask")},
         {"BRMS.GetPluginLogType", "", {}, At("/brms/pluginLogTypes")},
         {"BRMS.GetGeneralEvents",

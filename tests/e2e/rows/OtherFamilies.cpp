@@ -228,19 +228,24 @@ std::vector<Row> OmmsRows()
     };
     return {
         {"OMMS.GetAlertTypes", "", {}, At("/omms/alertTypes")},
+        // No two fields hold the same value.
         {"OMMS.GetChannelInfo",
          "",
          {{"channelId", "1000002$1$0$1"}},
          [without](const Json& state) {
              return without(Element(state.at("inventory").at("channels"), "channelId", "1000002$1$0$1"), {"enableWeb"});
-         }},
+         },
+         {},
+         {{"/inventory/channels/7/deviceCategory", 4}, {"/inventory/channels/7/recordPlan", "Weekend"}}},
         {"OMMS.GetDeviceInfo",
          "",
-         {{"deviceCode", "1000041"}},
+         {{"deviceCode", "1000044"}},
          [without](const Json& state) {
-             return without(Element(state.at("inventory").at("devices"), "deviceCode", "1000041"),
+             return without(Element(state.at("inventory").at("devices"), "deviceCode", "1000044"),
                             {"domain", "sourceType", "permitted", "enableWeb"});
-         }},
+         },
+         {},
+         {{"/inventory/devices/13/manufacturer", "3"}}},
     };
 }
 
