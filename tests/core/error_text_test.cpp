@@ -4,6 +4,11 @@
 
 #include <ErrorLexicon/ErrorLexicon.h>
 
+#include <QCoreApplication>
+#include <QTranslator>
+
+#include <cstring>
+
 using namespace testing_support;
 using APIModule::CAPIModule;
 
@@ -48,6 +53,25 @@ TEST_F(ErrorText, UnknownCodeWithoutUiText)
     EXPECT_EQ(CAPIModule::GetErroCodeInfor(QString(), kUnknownCode, true), QStringLiteral("Operation failed"));
     const char* const line = "Error code is not exist, strUIError=, errorCode=987654";
     EXPECT_EQ(logs.Take(), (LogLines{{kFacadeFile, kFunction, 6, line}, {kFacadeFile, kFunction, 4, line}}));
+}
+
+TEST_F(ErrorText, OwnTextsAreTranslatedInTheContextOfTheClass)
+{
+    class Translator : public QTranslator {
+    public:
+        QString translate(const char* context, const char* source, const char*, int) const override
+        {
+            return std::strcmp(context, "APIModule::CAPIModule") == 0
+                       ? QLatin1Char('<') + QLatin1String(source) + QLatin1Char('>')
+                       : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    QCoreApplication::installTranslator(&translator);
+    EXPECT_EQ(CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), -101, true),
+              QStringLiteral("No settings<:> ") + QString::fromStdString(KnownText(-101)));
+    EXPECT_EQ(CAPIModule::GetErroCodeInfor(QString(), kUnknownCode, true), QStringLiteral("<Operation failed>"));
+    QCoreApplication::removeTranslator(&translator);
 }
 
 /// What a call that fails with the envelope code 987654, or 7000, shows.

@@ -2,6 +2,7 @@
 #include "support/Host.h"
 #include "support/TestApplication.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -118,6 +119,7 @@ TEST(Instance, IsOneForManyThreads)
     std::atomic<int> waiting{8};
     std::vector<CAPIModule*> instances(8);
     std::vector<std::thread> threads;
+    threads.reserve(instances.size());
     for (CAPIModule*& pInstance : instances) {
         threads.emplace_back([&] {
             --waiting;
@@ -143,6 +145,14 @@ TEST(Instance, IsOneForManyThreads)
     CAPIModule::GetInstance().UnInit();
 }
 
+TEST(Instance, BelongsToAnApplicationMadeLater)
+{
+    CAPIModule& facade = CAPIModule::GetInstance();
+    const QCoreApplication application(g_argc, g_argv);
+    EXPECT_EQ(&facade, &CAPIModule::GetInstance());
+    EXPECT_EQ(facade.thread(), QThread::currentThread());
+}
+
 TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
 {
     std::thread([] { CAPIModule::GetInstance().SetLanguage("de"); }).join();
@@ -158,26 +168,33 @@ TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
     CAPIModule::GetInstance().UnInit();
 }
 
-TEST_F(Lifecycle, QuitEndsAWaitAndAllThatFollow)
-{
-    for (const bool bDialog : {false, true}) {
+/// Quits while a call waits, and calls again.
+class QuitTest : public Lifecycle {
+protected:
+    void ExpectQuitToEndCalls(bool bDialog)
+    {
         TestApplication application(g_argc, g_argv);
         const Server server(*this);
         QWidget parent;
         parent.show();
         int nDuring = 99;
         int nAfter = 99;
+        qint64 nWaited = 0;
         QTimer::singleShot(0, &application, [&] {
             QTimer::singleShot(100, &application, &QCoreApplication::quit);
             HostCall call = Call(QStringLiteral("/silent"));
             call.parent = bDialog ? &parent : nullptr;
+            QElapsedTimer elapsed;
+            elapsed.start();
             nDuring = Execute(call);
+            nWaited = elapsed.elapsed();
             EXPECT_EQ(notifications.Take(), TimeOutNotice());
-            nAfter = Execute(Call(QStringLiteral("/silent")));
+            nAfter = Execute(call);
             EXPECT_EQ(notifications.Take(), TimeOutNotice());
         });
         QApplication::exec();
         EXPECT_EQ(nDuring, -1);
+        EXPECT_GE(nWaited, 90);
         EXPECT_EQ(nAfter, -1);
         EXPECT_EQ(Execute(Call(QStringLiteral("/silent"))), -1) << "the façade has seen the end";
         EXPECT_EQ(notifications.Take(), TimeOutNotice());
@@ -188,6 +205,16 @@ TEST_F(Lifecycle, QuitEndsAWaitAndAllThatFollow)
                                 }),
                   3);
     }
+};
+
+TEST_F(QuitTest, EndsAWaitInTheLoopAndAllThatFollow)
+{
+    ExpectQuitToEndCalls(false);
+}
+
+TEST_F(QuitTest, EndsAWaitBehindTheDialogAndAllThatFollow)
+{
+    ExpectQuitToEndCalls(true);
 }
 
 TEST_F(Lifecycle, QuitWithoutARunningLoopEndsTheNextCall)
@@ -203,11 +230,11 @@ TEST_F(Lifecycle, QuitWithoutARunningLoopEndsTheNextCall)
 TEST_F(Lifecycle, CallsAboutToQuit)
 {
     QCoreApplication application(g_argc, g_argv);
-    const Server server(*this);
     int nEarlier = 99;
     int nLater = 99;
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      [&] { nEarlier = Execute(Call(QStringLiteral("/ok"))); });
+    const Server server(*this);
     EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      [&] { nLater = Execute(Call(QStringLiteral("/silent"))); });
@@ -228,18 +255,18 @@ TEST_F(Lifecycle, ApplicationDestroyedAfterACall)
     application.reset();
 }
 
-/// A widget that is still there when the application goes makes a last call.
+/// A host's own clean-up, which runs after the library's, makes a last call.
 TEST_F(Lifecycle, CallWhileTheApplicationIsDestroyed)
 {
-    int nResult = 99;
+    static int s_nResult = 99;
+    qAddPostRoutine([] { s_nResult = Execute(Call(QStringLiteral("/ok"))); });
     {
         TestApplication application(g_argc, g_argv);
         const Server server(*this);
         EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
-        auto* pLast = new QObject(&application);
-        QObject::connect(pLast, &QObject::destroyed, [&] { nResult = Execute(Call(QStringLiteral("/ok"))); });
     }
-    EXPECT_EQ(nResult, -1);
+    EXPECT_EQ(s_nResult, -1);
+    EXPECT_EQ(notifications.Take(), QStringList{CAPIModule::GetErroCodeInfor(QString(), -4, true)});
 }
 
 }  // namespace

@@ -16,7 +16,8 @@ namespace {
 QList<ORNGUI::OrnWaitDialog*> Dialogs()
 {
     QList<ORNGUI::OrnWaitDialog*> dialogs;
-    for (QWidget* pWidget : QApplication::topLevelWidgets()) {
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* pWidget : widgets) {
         if (auto* pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(pWidget)) {
             dialogs.append(pDialog);
         }
@@ -24,16 +25,24 @@ QList<ORNGUI::OrnWaitDialog*> Dialogs()
     return dialogs;
 }
 
-/// Records whether a widget was hidden before it was destroyed.
-class HideWatch : public QObject {
+/// Records what happens to a dialog while it is still whole.
+class EndWatch : public QObject {
 public:
-    explicit HideWatch(QWidget* pWidget) { pWidget->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* pEvent) override
+    explicit EndWatch(QWidget* pWidget) { pWidget->installEventFilter(this); }
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
     {
-        hidden = hidden || pEvent->type() == QEvent::Hide;
+        if (const auto* pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(pWatched)) {
+            if (pEvent->type() == QEvent::Hide) {
+                parentWhenHidden = pDialog->parentWidget();
+                hidden = true;
+            }
+            detached = detached || (hidden && pEvent->type() == QEvent::ParentChange && !pDialog->parentWidget());
+        }
         return false;
     }
     bool hidden = false;
+    bool detached = false;
+    const QWidget* parentWhenHidden = nullptr;
 };
 
 TEST(WaitDialog, IsShownForAsLongAsTheObjectLives)
@@ -43,14 +52,16 @@ TEST(WaitDialog, IsShownForAsLongAsTheObjectLives)
         parent.show();
         auto wait = std::make_unique<CAPIWaitDialog>(bWithParent ? &parent : nullptr);
         ASSERT_EQ(Dialogs().size(), 1);
-        const QPointer<ORNGUI::OrnWaitDialog> dialog = Dialogs().first();
+        const QPointer<ORNGUI::OrnWaitDialog> dialog = Dialogs().at(0);
         EXPECT_TRUE(dialog->isVisible());
         EXPECT_FALSE(dialog->isModal());
         EXPECT_EQ(dialog->parentWidget(), bWithParent ? &parent : nullptr);
-        const HideWatch watch(dialog);
+        const EndWatch watch(dialog);
         wait.reset();
         EXPECT_TRUE(dialog.isNull());
         EXPECT_TRUE(watch.hidden);
+        EXPECT_EQ(watch.parentWhenHidden, bWithParent ? &parent : nullptr);
+        EXPECT_EQ(watch.detached, bWithParent);
     }
 }
 
@@ -61,7 +72,8 @@ TEST(WaitDialog, ParentGoesFirst)
     const CAPIWaitDialog wait(parent.get());
     ASSERT_EQ(Dialogs().size(), 1);
     parent.reset();
-    for (const ORNGUI::OrnWaitDialog* pDialog : Dialogs()) {
+    const QList<ORNGUI::OrnWaitDialog*> dialogs = Dialogs();
+    for (const ORNGUI::OrnWaitDialog* pDialog : dialogs) {
         EXPECT_FALSE(pDialog->isVisible());
     }
 }

@@ -74,6 +74,9 @@ private:
     void Read(QSslSocket& socket, int nConnection)
     {
         QByteArray received = socket.property("received").toByteArray() + socket.readAll();
+        if (m_server.m_bAnswersAnything) {
+            received += "\r\n\r\n";
+        }
         for (int nEnd = received.indexOf("\r\n\r\n"); nEnd >= 0; nEnd = received.indexOf("\r\n\r\n")) {
             RawRequest request = Parse(received.left(nEnd));
             const QList<QByteArray> lengths = request.Values("Content-Length");
@@ -119,6 +122,9 @@ private:
                 break;
             case RawAnswer::Close:
                 socket.disconnectFromHost();
+                break;
+            case RawAnswer::CloseLater:
+                QTimer::singleShot(20, &socket, [&socket] { socket.disconnectFromHost(); });
                 break;
             case RawAnswer::Reset:
                 socket.flush();

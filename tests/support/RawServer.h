@@ -31,6 +31,7 @@ struct RawAnswer {
     enum Then {
         KeepOpen,
         Close,
+        CloseLater,
         Reset
     };
 
@@ -58,6 +59,10 @@ public:
     RawServer& operator=(const RawServer&) = delete;
 
     int Port() const { return m_port; }
+
+    /// From now on whatever a client sends is answered as if it were a request.
+    void AnswerAnything() { m_bAnswersAnything = true; }
+
     std::vector<RawRequest> TakeRequests();
     int ConnectionCount() const { return m_connections; }
     /// Connections that the client still holds open.
@@ -70,6 +75,7 @@ private:
     Listener* m_listener = nullptr;  // in m_thread, deleted there
     std::mutex m_mutex;
     std::vector<RawRequest> m_requests;
+    std::atomic<bool> m_bAnswersAnything{false};
     std::atomic<int> m_port{0};
     std::atomic<int> m_connections{0};
     std::atomic<int> m_openConnections{0};

@@ -14,7 +14,8 @@ public:
     TestApplication(int& argc, char** argv) : QApplication(argc, argv)
     {
         if (__lsan_ignore_object) {
-            for (const QScreen* pScreen : screens()) {
+            const QList<QScreen*> all = screens();
+            for (const QScreen* pScreen : all) {
                 __lsan_ignore_object(pScreen);
             }
         }

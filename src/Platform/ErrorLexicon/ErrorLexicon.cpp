@@ -55,8 +55,8 @@ public:
 private:
     Lexicon()
     {
-        const QDir folder(QStringLiteral(":/ErrorLexicon/texts"));
-        for (const QFileInfo& file : folder.entryInfoList()) {
+        const QFileInfoList files = QDir(QStringLiteral(":/ErrorLexicon/texts")).entryInfoList();
+        for (const QFileInfo& file : files) {
             m_languages.emplace(file.baseName().toStdString(), ReadTexts(file.filePath()));
         }
         Choose(kDefaultLanguage);

@@ -30,7 +30,7 @@ public:
     void AddTextNotification(const QString& strText, bool bWithButton, const QString& strButtonText,
                              const QString& strLink, bool bStayOpen);
 
-signals:
+Q_SIGNALS:
     /// Emitted once inside each AddTextNotification(), whether or not a toast can be shown.
     void TextNotificationAdded(const QString& strText);
 };

@@ -29,7 +29,7 @@ public:
     OrnWaitDialog(QWidget* pParent, bool bCoverParent);
     ~OrnWaitDialog() override;
 
-public slots:  // NOLINT(readability-redundant-access-specifiers): tells moc that these are slots
+public Q_SLOTS:  // NOLINT(readability-redundant-access-specifiers): tells moc that these are slots
     /// Ends exec() or show() at once. Harmless when the dialog is not shown: a later exec() or show() is not affected.
     void OnStopWaitImmediately();
 

@@ -45,7 +45,7 @@ spdlog::level::level_enum SpdlogLevel(int level)
 }
 
 /// A format that cannot be carried out gives its own text.
-std::string Formatted(const char* format, std::va_list arguments)
+ORNL_PRINTF(1, 0) std::string Formatted(const char* format, std::va_list arguments)
 {
     std::va_list counted;
     va_copy(counted, arguments);

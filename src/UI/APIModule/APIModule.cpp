@@ -69,6 +69,7 @@ CAPIModule& CAPIModule::GetInstance()
             pInstance.store(pCreated, std::memory_order_release);
         }
     }
+    pCreated->d_func()->AttachToApplication();  // belongs to the application object as soon as there is one
     return *pCreated;
 }
 
@@ -109,7 +110,8 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
 {
     Q_D(CAPIModule);
     constexpr const char* kFunction = "APIModule::CAPIModule::GetRequestParam";
-    if (!d->IsOnApplicationThread()) {
+    constexpr const char* kNoUserManager = "GetRequestParam failed! no user manager.";
+    if (!d->AttachToApplication()) {
         LogFailure({kFile, kFunction}, "GetRequestParam failed! wrong thread or no application.");
         return -1;
     }
@@ -122,7 +124,7 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
         return -1;
     }
     if (!m_pUserManager) {
-        LogFailure({kFile, kFunction}, "GetRequestParam failed! no user manager.");
+        LogFailure({kFile, kFunction}, kNoUserManager);
         return -1;
     }
 
@@ -131,6 +133,10 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
     const auto askUserManager = [&] {
         if (nServerId == kCurrentServer) {
             nServerId = m_pUserManager->GetCurrentServerId();
+        }
+        if (!m_pUserManager) {  // the host may have ended use meanwhile
+            LogFailure({kFile, kFunction}, kNoUserManager);
+            return -1;
         }
         const std::shared_ptr<UserLogical::IServer> pServer = m_pUserManager->GetServer(nServerId);
         if (!pServer) {
@@ -167,9 +173,12 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
     Q_D(CAPIModule);
     constexpr const char* kFunction = "APIModule::CAPIModule::ExecuteFuncs";
     const ReleaseOnReturn release(packetFunc, parseFunc);
+    // The host may delete what it owns while the call waits.
     const QPointer<QWidget> parent(pParent);
+    const QString uiError(strUIError);
+    const QString successTip(strSuccessTip);
 
-    if (!d->IsOnApplicationThread()) {
+    if (!d->AttachToApplication()) {
         LogFailure({kFile, kFunction}, "ExecuteFuncs failed! wrong thread or no application.");
         return -1;
     }
@@ -185,14 +194,14 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
 
     QNetworkRequest request;
     if (const int nResult = BuildRequest(param, request)) {
-        NotifyErrorMessage(strUIError, nResult, bShowErrorCode);
+        NotifyErrorMessage(uiError, nResult, bShowErrorCode);
         return -1;
     }
     LogInfo({kFile, kFunction}, QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
 
     ReplyInfo reply;
     if (const int nResult = ExecuteRequest(request, parent, reply)) {
-        NotifyErrorMessage(strUIError, nResult, bShowErrorCode);
+        NotifyErrorMessage(uiError, nResult, bShowErrorCode);
         return -1;
     }
 
@@ -200,18 +209,18 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
         if (!bNotifyOnFailure) {
             return *failure;
         }
-        NotifyErrorMessage(strUIError, *failure, bShowErrorCode);
+        NotifyErrorMessage(uiError, *failure, bShowErrorCode);
         return -1;
     }
 
     const bool bHasData = !reply.jsonData.isEmpty();
     if (const int nResult = bHasData ? CAPIModulePrivate::Deliver(parseFunc, reply) : 0) {
-        NotifyErrorMessage(strUIError, kParseFailed, bShowErrorCode);
+        NotifyErrorMessage(uiError, kParseFailed, bShowErrorCode);
         return nResult;
     }
     const bool bDelivered = !bHasData || parseFunc;
-    if (bDelivered && !strSuccessTip.isEmpty() && m_bInitialised) {
-        Notify(strSuccessTip);
+    if (bDelivered && !successTip.isEmpty() && m_bInitialised) {
+        Notify(successTip);
     }
     return 0;
 }

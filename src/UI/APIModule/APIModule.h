@@ -34,7 +34,7 @@ using Method_e = Method;
 /// Description of one request. A Pack receives it as `void*` and fills it through CAPIModule::GetRequestParam.
 struct RequestParam {
     int nPort = 443;                ///< TCP port of the server
-    int nTimeout = 10;              ///< longest wait for the reply, in seconds; 0 or less ends the wait at once
+    int nTimeout = 10;              ///< longest wait for the reply, in seconds; 0 or less does not wait for it
     bool bHttps = true;             ///< https:// instead of http://
     bool bCompress = false;         ///< send the header "Compress-Type" with the value "1"
     Method eMethod = Method_Get;    ///< HTTP verb

@@ -79,15 +79,22 @@ bool IsErrorOfStatus(QNetworkReply::NetworkError error)
     }
 }
 
-/// Whether a whole HTTP answer came. Qt takes one of status 400 and above for whole even where its body is cut short.
+/// Whether the body has the length that its answer tells. Qt does not always take a shorter one for an error.
+bool IsBodyWhole(const QNetworkReply& finished, int nStatus)
+{
+    constexpr int kNoContent = 204;
+    constexpr int kNotModified = 304;
+    return nStatus == kNoContent || nStatus == kNotModified ||
+           finished.bytesAvailable() >= finished.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+}
+
+/// Whether a whole HTTP answer came, of whatever status.
 bool HasAnswer(const QNetworkReply& finished)
 {
-    if (finished.error() == QNetworkReply::NoError) {
-        return true;
-    }
-    return IsErrorOfStatus(finished.error()) &&
-           finished.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid() &&
-           finished.bytesAvailable() >= finished.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    const bool bRead =
+        finished.error() == QNetworkReply::NoError || (status.isValid() && IsErrorOfStatus(finished.error()));
+    return bRead && IsBodyWhole(finished, status.toInt());
 }
 
 /// Unpacks the envelope; a body that is empty or not JSON leaves the code at -1.
@@ -164,7 +171,7 @@ CAPIModulePrivate::~CAPIModulePrivate()
     }
 }
 
-bool CAPIModulePrivate::IsOnApplicationThread()
+bool CAPIModulePrivate::AttachToApplication()
 {
     QCoreApplication* pApplication = QCoreApplication::instance();
     if (!pApplication || pApplication->thread() != QThread::currentThread()) {
@@ -222,7 +229,8 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
                             QString::fromStdString(param.strIp) + QLatin1Char(':') + QString::number(param.nPort) +
                             QString::fromStdString(param.strUrl);
     const QUrl url(urlText, QUrl::TolerantMode);
-    if (!url.isValid()) {
+    // A path that changes the address would carry the token to another server.
+    if (!url.isValid() || url.port() != param.nPort || !url.userInfo().isEmpty()) {
         LogInfo(site, QStringLiteral("Invalid url, request url: %1").arg(MaskToken(urlText)));
         return kInvalidRequest;
     }
@@ -282,6 +290,9 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
         pReply = Send(request);
         connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
             timer.stop();
+            if (wait.IsOrphaned()) {
+                return;
+            }
             result = TakeReply(*pReply, request, reply, {kFile, pFunction});
             wait.End();
         });
@@ -289,12 +300,12 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
         wait.Run();
     }
 
+    // No signal of the reply is under way any more, and none is to come. Deleted now, a reply that timed out gives its
+    // connection to the requests after it even when the host makes them without a return to its event loop.
+    delete pReply;
     if (!result) {
         LogFailure({kFile, pFunction}, QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
     }
-    // No signal of the reply is under way any more. Deleted now, a reply that timed out gives its connection to the
-    // requests after it even when the host makes them without a return to its event loop.
-    delete pReply;
     return result.value_or(kTimedOut);
 }
 

@@ -25,8 +25,8 @@ public:
     explicit CAPIModulePrivate(CAPIModule* q);
     ~CAPIModulePrivate() override;
 
-    /// Whether the calling thread may run calls: it is the application object's, to which the façade then belongs.
-    bool IsOnApplicationThread();
+    /// Whether the calling thread is the application object's and may run calls; the façade then belongs to it.
+    bool AttachToApplication();
 
     /// Runs the Pack. @return 0, its own result, or -1 when it throws
     static int Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param);

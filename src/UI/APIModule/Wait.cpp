@@ -10,7 +10,10 @@ Wait::Wait(QEventLoop::ProcessEventsFlags flags) : m_flags(flags) {}
 
 Wait::Wait(QWidget& parent) : m_pDialog(new ORNGUI::OrnWaitDialog(&parent, true))
 {
-    QObject::connect(&parent, &QObject::destroyed, &m_loop, [this] { End(); });
+    QObject::connect(&parent, &QObject::destroyed, &m_loop, [this] {
+        m_bOrphaned = true;
+        End();
+    });
 }
 
 Wait::~Wait()

@@ -33,6 +33,9 @@ public:
     /// Ends the wait, also one that has not begun.
     void End();
 
+    /// Whether the parent is gone: what comes after that is no result of the call.
+    bool IsOrphaned() const { return m_bOrphaned; }
+
     /// Lives as long as the wait: a context for connections that end it.
     QObject* Context() { return &m_loop; }
 
@@ -41,6 +44,7 @@ private:
     QEventLoop::ProcessEventsFlags m_flags = QEventLoop::AllEvents;
     QPointer<ORNGUI::OrnWaitDialog> m_pDialog;
     bool m_bEnded = false;
+    bool m_bOrphaned = false;
 };
 
 }  // namespace APIModule

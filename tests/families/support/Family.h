@@ -30,7 +30,6 @@ enum class Server {
 };
 
 /// One call of a Pack with what it must make of its arguments.
-// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): fields in the order in which a row reads
 struct PackRow {
     std::string name;
     std::string call;                    ///< such as "CBRMSModule::PacketGetTimeSyncConfig"

@@ -214,7 +214,8 @@ void ToastStack::CloseAll()
 {
     m_passing.clear();
     m_staying.clear();
-    for (Toast* pToast : OpenToasts()) {
+    const auto open = OpenToasts();
+    for (Toast* pToast : open) {
         pToast->close();
     }
 }

@@ -313,6 +313,7 @@ TEST_F(ConcurrencyTest, WritesOfManyClientsAllArrive)
     constexpr int kClients = 8;
     constexpr int kCalls = 25;
     std::vector<std::thread> threads;
+    threads.reserve(kClients);
     std::atomic<int> succeeded = 0;
     for (int i = 0; i < kClients; ++i) {
         threads.emplace_back([this, i, &succeeded] {

@@ -31,6 +31,7 @@ public:
     {
         arguments.insert(arguments.begin(), EMULATOR_PROGRAM);
         std::vector<char*> argv;
+        argv.reserve(arguments.size() + 1);
         for (std::string& argument : arguments) {
             argv.push_back(argument.data());
         }
