@@ -117,7 +117,9 @@ try {
     LogRecord record{OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, {}};
     std::va_list arguments;
     va_start(arguments, format);
-    record.strMessage = Formatted(OrEmpty(format), arguments);
+    if (format) {
+        record.strMessage = Formatted(format, arguments);
+    }
     va_end(arguments);
 
     d->logger.log(SpdlogLevel(level), spdlog::string_view_t(Line(record)));

@@ -175,8 +175,8 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
     const ReleaseOnReturn release(packetFunc, parseFunc);
     // The host may delete what it owns while the call waits.
     const QPointer<QWidget> parent(pParent);
-    const QString uiError(strUIError);
-    const QString successTip(strSuccessTip);
+    const QString uiError(strUIError);        // NOLINT(performance-unnecessary-copy-initialization)
+    const QString successTip(strSuccessTip);  // NOLINT(performance-unnecessary-copy-initialization)
 
     if (!d->AttachToApplication()) {
         LogFailure({kFile, kFunction}, "ExecuteFuncs failed! wrong thread or no application.");
