@@ -14,7 +14,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-                    -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wextra-semi)
+                    -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wextra-semi
+                    -Wno-gnu-zero-variadic-macro-arguments)  # macros of Boost.Describe and GoogleTest, for clang
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
                         QT_DEPRECATED_WARNINGS)
 

@@ -64,7 +64,7 @@ class FamilyTest : public testing::Test {};
 using Families = testing::Types<APIModule::CBRMSModule, APIModule::CDMSModule, APIModule::CIAMSModule,
                                 APIModule::CIPMSModule, APIModule::COBMSModule, APIModule::COMMSModule,
                                 APIModule::CECOSModule, APIModule::CEMAPModule, APIModule::CERMSModule>;
-TYPED_TEST_SUITE(FamilyTest, Families, );
+TYPED_TEST_SUITE(FamilyTest, Families);
 
 TYPED_TEST(FamilyTest, IsAnEmptyAssignableClass)
 {

@@ -264,7 +264,15 @@ TEST_P(WaitTest, LeavesNothingBehind)
         Execute(Call(GetParam(), QLatin1String(target), target == std::string("/silent") ? 1 : 20));
     }
     QEventLoop loop;
-    QTimer::singleShot(100, &loop, &QEventLoop::quit);
+    QTimer poll;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (m_server.OpenConnectionCount() <= 1 || elapsed.elapsed() > 10000) {
+            loop.quit();
+        }
+    });
+    poll.start(10);
     loop.exec();
     EXPECT_LE(m_server.OpenConnectionCount(), 1) << "but for a connection kept for reuse";
     EXPECT_TRUE(m_parent->children().isEmpty());

@@ -31,7 +31,8 @@ void Notify(const char* text, bool bStayOpen = true)
 int VisibleWindows()
 {
     int n = 0;
-    for (const QWidget* pWindow : QApplication::topLevelWidgets()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* pWindow : windows) {
         n += pWindow->isVisible() ? 1 : 0;
     }
     return n;
@@ -74,7 +75,8 @@ TEST(ApplicationLifetimeTest, ToastClosedButNotYetDeletedGoesWithTheApplication)
 {
     const TestApplication application(g_nArguments, g_arguments);
     Notify("one");
-    for (QWidget* pWindow : QApplication::topLevelWidgets()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* pWindow : windows) {
         pWindow->close();
     }
     EXPECT_EQ(VisibleWindows(), 0);
@@ -144,7 +146,8 @@ TEST(ApplicationLifetimeTest, ClosedToastOrStoppedWaitDialogDoesNotEndTheApplica
     dialog.show();
     dialog.OnStopWaitImmediately();
     Notify("one");
-    for (QWidget* pWindow : QApplication::topLevelWidgets()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* pWindow : windows) {
         pWindow->close();
     }
     EXPECT_EQ(lastWindowClosed.count(), 0);

@@ -37,7 +37,7 @@ QJsonObject TextsOf(const QString& fileName)
     QFile file(fileName);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QJsonParseError error;
-    const QJsonObject texts = QJsonDocument::fromJson(file.readAll(), &error).object();
+    QJsonObject texts = QJsonDocument::fromJson(file.readAll(), &error).object();
     EXPECT_EQ(error.error, QJsonParseError::NoError) << fileName.toStdString();
     return texts;
 }
@@ -142,6 +142,7 @@ TEST_F(ErrorLexiconTest, AnswersFromManyThreadsWhileTheLanguageChanges)
 
     std::atomic<int> nWrong = 0;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&, i] {
             for (int n = 0; n < 5000; ++n) {

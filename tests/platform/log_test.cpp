@@ -107,9 +107,9 @@ TEST_F(LogTest, LevelsAreNamedOnStandardError)
     const std::string text = Stderr();
     for (const Row& row : rows) {
         const std::string number = std::to_string(row.nLevel);
-        EXPECT_NE(text.find(' ' + std::string(row.name) + " f:" + number + " g: level-" + number + "-end"),
-                  std::string::npos)
-            << text;
+        std::string line = " ";
+        line.append(row.name).append(" f:").append(number).append(" g: level-").append(number).append("-end");
+        EXPECT_NE(text.find(line), std::string::npos) << text;
     }
 }
 
@@ -140,7 +140,7 @@ TEST_F(LogTest, MessagesOfAnyLengthComeThroughWhole)
         EXPECT_EQ(records.back().strMessage, message) << length;
         EXPECT_NE(Content(folder / std::to_string(length)).find(": " + message + '\n'), std::string::npos) << length;
     }
-    EXPECT_NE(Stderr().find(std::string(20U * 1024U * 1024U, 'm')), std::string::npos);
+    EXPECT_NE(Stderr().find(std::string(std::size_t{20} * 1024 * 1024, 'm')), std::string::npos);
 }
 
 TEST_F(LogTest, ZeroByteInAMessageDoesNotEndIt)
@@ -191,7 +191,7 @@ TEST_F(LogTest, AnotherFileReplacesTheFirstAndTheSameOneIsContinued)
 TEST_F(LogTest, FileRotatesAndStaysBounded)
 {
     Log().SetFile((folder / "rotating.log").string());
-    const std::string message(1024 * 1024, 'r');
+    const std::string message(std::size_t{1024} * 1024, 'r');
     for (int i = 0; i < 40; ++i) {
         Say(message.c_str());
     }
@@ -300,6 +300,7 @@ TEST_F(LogTest, ManyThreadsLogWhileObserverAndFileChange)
     const auto count = [&](const LogRecord&) { ++nSeen; };
     Log().SetObserver(count);
     std::vector<std::thread> threads;
+    threads.reserve(kThreads);
     for (int i = 0; i < kThreads; ++i) {
         threads.emplace_back([] {
             for (int n = 0; n < kRecords; ++n) {

@@ -40,7 +40,8 @@ void Staying(const QString& strText)
 QWidgetList Toasts()
 {
     QWidgetList toasts;
-    for (QWidget* pWindow : QApplication::topLevelWidgets()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* pWindow : windows) {
         if (pWindow->isVisible() && pWindow->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus)) {
             toasts.append(pWindow);
         }
@@ -57,7 +58,8 @@ QString TextOf(const QWidget* pToast)
 QStringList Texts()
 {
     QStringList texts;
-    for (const QWidget* pToast : Toasts()) {
+    const QWidgetList toasts = Toasts();
+    for (const QWidget* pToast : toasts) {
         texts.append(TextOf(pToast));
     }
     return texts;
@@ -78,7 +80,7 @@ public:
 
     QList<QUrl> opened;
 
-public slots:
+public Q_SLOTS:  // NOLINT(readability-redundant-access-specifiers): tells moc that this is a slot
     void Open(const QUrl& url) { opened.append(url); }
 };
 
@@ -96,7 +98,8 @@ protected:
     void TearDown() override
     {
         ASSERT_TRUE(QTest::qWaitFor([] {
-            for (QWidget* pToast : Toasts()) {
+            const QWidgetList toasts = Toasts();
+            for (QWidget* pToast : toasts) {
                 pToast->close();
             }
             QCoreApplication::sendPostedEvents();  // those that waited come up
@@ -119,7 +122,7 @@ TEST_F(NotificationTest, ToastIsShownAtOnceAndTakesNoFocus)
 {
     Passing(QStringLiteral("Saved"));
     ASSERT_EQ(Texts(), QStringList(QStringLiteral("Saved")));
-    const QWidget* pToast = Toasts().first();
+    const QWidget* pToast = Toasts().at(0);
     EXPECT_TRUE(pToast->testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_TRUE(pToast->windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_FALSE(pToast->testAttribute(Qt::WA_QuitOnClose));
@@ -131,10 +134,10 @@ TEST_F(NotificationTest, TextIsPlain)
 {
     const QString strText = QStringLiteral("<b>bold</b> &amp; <a href=\"x\">link</a>");
     Passing(strText);
-    const auto* pLabel = Toasts().first()->findChild<QLabel*>();
+    const auto* pLabel = Toasts().at(0)->findChild<QLabel*>();
     EXPECT_EQ(pLabel->textFormat(), Qt::PlainText);
     EXPECT_EQ(pLabel->text(), strText);
-    EXPECT_EQ(ButtonOf(Toasts().first()), nullptr);
+    EXPECT_EQ(ButtonOf(Toasts().at(0)), nullptr);
 }
 
 TEST_F(NotificationTest, ToastsStackInTheCornerOfTheActiveWindowAndFollowIt)
@@ -167,7 +170,7 @@ TEST_F(NotificationTest, WithoutAnActiveWindowTheyStackInTheCornerOfTheScreen)
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() == nullptr; }));
     Staying(QStringLiteral("one"));
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-    EXPECT_EQ(area.bottomRight() - Toasts().first()->geometry().bottomRight(), QPoint(16, 16));
+    EXPECT_EQ(area.bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
 TEST_F(NotificationTest, TheyGoToAnotherWindowThatBecomesActive)
@@ -178,7 +181,7 @@ TEST_F(NotificationTest, TheyGoToAnotherWindowThatBecomesActive)
     other.show();
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return other.geometry().contains(Toasts().first()->geometry()); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return other.geometry().contains(Toasts().at(0)->geometry()); }));
 }
 
 TEST_F(NotificationTest, WaitDialogIsNoPlaceForThem)
@@ -188,7 +191,7 @@ TEST_F(NotificationTest, WaitDialogIsNoPlaceForThem)
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     Staying(QStringLiteral("one"));
-    EXPECT_EQ(window.geometry().bottomRight() - Toasts().first()->geometry().bottomRight(), QPoint(16, 16));
+    EXPECT_EQ(window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
 TEST_F(NotificationTest, TheyStayOnTheScreenWhateverTheWindow)
@@ -199,7 +202,8 @@ TEST_F(NotificationTest, TheyStayOnTheScreenWhateverTheWindow)
         window.setGeometry(geometry);
         Staying(QStringLiteral("one"));
         Passing(QStringLiteral("two"));
-        for (const QWidget* pToast : Toasts()) {
+        const QWidgetList toasts = Toasts();
+        for (const QWidget* pToast : toasts) {
             EXPECT_TRUE(screen.contains(pToast->geometry())) << geometry.x() << ' ' << geometry.y();
         }
     }
@@ -209,17 +213,17 @@ TEST_F(NotificationTest, StayingToastGoesWithAClickAndTheOthersCloseUp)
 {
     Staying(QStringLiteral("one"));
     Staying(QStringLiteral("two"));
-    QTest::mouseClick(Toasts().first(), Qt::LeftButton);
+    QTest::mouseClick(Toasts().at(0), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return Texts() == QStringList(QStringLiteral("two")) &&
-               window.geometry().bottom() - Toasts().first()->geometry().bottom() == 16;
+               window.geometry().bottom() - Toasts().at(0)->geometry().bottom() == 16;
     }));
 }
 
 TEST_F(NotificationTest, ClickOnTheTextCountsToo)
 {
     Staying(QStringLiteral("one"));
-    QTest::mouseClick(Toasts().first()->findChild<QLabel*>(), Qt::LeftButton);
+    QTest::mouseClick(Toasts().at(0)->findChild<QLabel*>(), Qt::LeftButton);
     EXPECT_TRUE(Toasts().isEmpty());
 }
 
@@ -233,8 +237,8 @@ TEST_F(NotificationTest, ManyThatStayAreAllShownInTurn)
     EXPECT_TRUE(QTest::qWaitFor([&] {
         EXPECT_LE(Toasts().size(), 6);
         if (!Toasts().isEmpty()) {
-            seen.append(TextOf(Toasts().first()));
-            QTest::mouseClick(Toasts().first(), Qt::LeftButton);
+            seen.append(TextOf(Toasts().at(0)));
+            QTest::mouseClick(Toasts().at(0), Qt::LeftButton);
         }
         return seen.size() == kMany;
     }));
@@ -257,7 +261,7 @@ TEST_F(NotificationTest, ButtonOpensTheLinkAndClosesItsToast)
     Notify().AddTextNotification(QStringLiteral("Export finished"), true, QStringLiteral("Show & tell"),
                                  QStringLiteral("vms://export/7?a=b&c=%20d"), true);
     Staying(QStringLiteral("other"));
-    QAbstractButton* pButton = ButtonOf(Toasts().first());
+    QAbstractButton* pButton = ButtonOf(Toasts().at(0));
     ASSERT_NE(pButton, nullptr);
     EXPECT_EQ(pButton->text(), QStringLiteral("Show && tell"));
     EXPECT_EQ(pButton->focusPolicy(), Qt::NoFocus);
@@ -270,7 +274,7 @@ TEST_F(NotificationTest, ClickBesideTheButtonOpensNothing)
 {
     Desktop desktop;
     Notify().AddTextNotification(QStringLiteral("text"), true, QString(), QStringLiteral("vms://x"), true);
-    QTest::mouseClick(Toasts().first(), Qt::LeftButton, {}, QPoint(3, 3));
+    QTest::mouseClick(Toasts().at(0), Qt::LeftButton, {}, QPoint(3, 3));
     EXPECT_TRUE(Toasts().isEmpty());
     EXPECT_TRUE(desktop.opened.isEmpty());
 }
@@ -278,9 +282,9 @@ TEST_F(NotificationTest, ClickBesideTheButtonOpensNothing)
 TEST_F(NotificationTest, ButtonMayLackTextAndLink)
 {
     Notify().AddTextNotification(QStringLiteral("text"), true, QString(), QString(), true);
-    ASSERT_NE(ButtonOf(Toasts().first()), nullptr);
-    EXPECT_FALSE(ButtonOf(Toasts().first())->text().isEmpty());
-    QTest::mouseClick(ButtonOf(Toasts().first()), Qt::LeftButton);
+    ASSERT_NE(ButtonOf(Toasts().at(0)), nullptr);
+    EXPECT_FALSE(ButtonOf(Toasts().at(0))->text().isEmpty());
+    QTest::mouseClick(ButtonOf(Toasts().at(0)), Qt::LeftButton);
     EXPECT_TRUE(Toasts().isEmpty());
 }
 
@@ -323,7 +327,7 @@ TEST_F(NotificationTest, TextOfAFewLinesIsShownWhole)
                                            "with a break of its own.");
     Staying(strText);
     EXPECT_EQ(Texts(), QStringList(strText));
-    EXPECT_GT(Toasts().first()->height(), 60);
+    EXPECT_GT(Toasts().at(0)->height(), 60);
 }
 
 TEST_F(NotificationTest, PassingToastGoesAfterAboutFiveSecondsAndOneThatStaysDoesNot)

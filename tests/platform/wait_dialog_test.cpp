@@ -164,9 +164,9 @@ TEST(WaitDialogTest, CoverTakesTheParentsResizesAndStaysWithinWhatIsSeen)
     dialog.show();
     ASSERT_EQ(Veils(*host.window).size(), 1);
     host.panel->resize(1000, 1000);
-    EXPECT_EQ(OnScreen(*Veils(*host.window).first()), OnScreen(*host.panel) & OnScreen(*host.frame));
+    EXPECT_EQ(OnScreen(*Veils(*host.window).at(0)), OnScreen(*host.panel) & OnScreen(*host.frame));
     host.panel->hide();
-    EXPECT_EQ(OnScreen(*Veils(*host.window).first()), OnScreen(*host.window));
+    EXPECT_EQ(OnScreen(*Veils(*host.window).at(0)), OnScreen(*host.window));
     host.window->hide();
     EXPECT_TRUE(Veils(*host.window).isEmpty());
 }
@@ -394,7 +394,8 @@ TEST_P(WaitDialogParentDestroyedTest, WhileNotShown)
 TEST_P(WaitDialogParentDestroyedTest, WhileAnObserverDeletesTheDialog)
 {
     dialog->show();
-    QObject::connect(dialog, &QDialog::finished, [this] { delete dialog; });
+    QObject context;
+    QObject::connect(dialog, &QDialog::finished, &context, [this] { delete dialog; });
     Destroy();
     EXPECT_TRUE(dialog.isNull());
 }

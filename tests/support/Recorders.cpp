@@ -41,14 +41,10 @@ LogLines LogRecorder::Take()
 }
 
 NotificationRecorder::NotificationRecorder()
-    : m_connection(QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
-                                    &ORNGUI::OrnMessageNotify::TextNotificationAdded,
-                                    [this](const QString& text) { m_texts.append(text); }))
-{}
-
-NotificationRecorder::~NotificationRecorder()
 {
-    QObject::disconnect(m_connection);
+    QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
+                     &ORNGUI::OrnMessageNotify::TextNotificationAdded, &m_context,
+                     [this](const QString& text) { m_texts.append(text); });
 }
 
 QStringList NotificationRecorder::Take()

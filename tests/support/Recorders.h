@@ -2,7 +2,7 @@
 
 #include <libornl/TalPrintLog.h>
 
-#include <QMetaObject>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -44,16 +44,13 @@ private:
 class NotificationRecorder {
 public:
     NotificationRecorder();
-    ~NotificationRecorder();
-    NotificationRecorder(const NotificationRecorder&) = delete;
-    NotificationRecorder& operator=(const NotificationRecorder&) = delete;
 
     /// The texts since the last call.
     QStringList Take();
 
 private:
     QStringList m_texts;
-    QMetaObject::Connection m_connection;
+    QObject m_context;
 };
 
 }  // namespace testing_support
