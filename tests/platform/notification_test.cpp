@@ -307,7 +307,8 @@ TEST_F(NotificationTest, ToastsAreBoundedHoweverLongTheText)
           QString(3000, QChar(0x4f1a)), QStringLiteral("a\n").repeated(100), QString(300, QLatin1Char('W'))}) {
         Notify().AddTextNotification(strText, true, strText, QString(), true);
         ASSERT_FALSE(Toasts().isEmpty() && !strText.trimmed().isEmpty());
-        for (QWidget* pToast : Toasts()) {
+        const QWidgetList toasts = Toasts();
+        for (const QWidget* pToast : toasts) {
             EXPECT_LE(pToast->height(), 160);
             EXPECT_LE(pToast->width(), 400);
             const auto* pLabel = pToast->findChild<QLabel*>();

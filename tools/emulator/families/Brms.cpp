@@ -11,12 +11,12 @@ const Collection kUsers{"/brms/users", "id"};
 const Collection kQuickCommands{"/brms/quickCommands", "id"};
 const Collection kAlarmPlans{"/brms/alarmPlans", "id"};
 const Collection kAlarmRecords{"/brms/alarmRecords", "id"};
-const Place kSettings("/brms/localSettings");
-const Place kLastSetting("/brms/lastSettingType");
+constexpr const char* kSettings = "/brms/localSettings";
+constexpr const char* kLastSetting = "/brms/lastSettingType";
 
 Json& SettingEntry(Json& state, int type)
 {
-    Json& entry = state.at(kSettings)[std::to_string(type)];
+    Json& entry = state.at(Place(kSettings))[std::to_string(type)];
     if (entry.is_null()) {
         entry = Json{{"apply", false}, {"settingType", type}, {"settingVersion", 0}, {"settingContent", ""}};
     }
@@ -26,14 +26,14 @@ Json& SettingEntry(Json& state, int type)
 Json ReadSetting(const Call& call)
 {
     const int type = call.query.at("settingType");
-    call.state[kLastSetting] = type;
+    call.state[Place(kLastSetting)] = type;
     return SettingEntry(call.state, type);
 }
 
 /// The call names no type: it changes the setting that was read last, the first one when none was.
 Json WriteSetting(const Call& call)
 {
-    Json& entry = SettingEntry(call.state, call.state.value(kLastSetting, 1));
+    Json& entry = SettingEntry(call.state, call.state.value(Place(kLastSetting), 1));
     entry.update(BodyAsRead(call));
     entry["settingVersion"] = entry.at("settingVersion").get<std::int64_t>() + 1;
     return Json::object();

@@ -8,7 +8,7 @@ namespace {
 const Collection kPersons{"/obms/persons", "personId"};
 const Collection kPoints{"/obms/points", "pointId"};
 const Collection kZones{"/obms/zones", "zoneId"};
-const Place kManaged("/obms/managedPersons");
+constexpr const char* kManaged = "/obms/managedPersons";
 
 bool Holds(const Json& list, const Json& value)
 {
@@ -33,7 +33,8 @@ Json ReadManagedPersons(const Call& call)
     kDevices.find(call.state, PathValue(call));
     const Json& errors = call.state.at(Place("/obms/managedErrors"));
     Json results = Json::array();
-    for (const std::string id : call.state.at(kManaged).value(PathValue(call), Json::array())) {
+    const auto ids = call.state.at(Place(kManaged)).value(PathValue(call), std::vector<std::string>());
+    for (const std::string& id : ids) {
         Json person = kPersons.find(call.state, id);
         person["errorCode"] = errors.value(id, "0");
         results.push_back(std::move(person));
@@ -47,7 +48,7 @@ Json WriteManagedPersons(const Call& call)
     for (const Json& id : call.body.at("personIds")) {
         kPersons.find(call.state, id);
     }
-    call.state.at(kManaged)[PathValue(call)] = call.body.at("personIds");
+    call.state.at(Place(kManaged))[PathValue(call)] = call.body.at("personIds");
     return Json::object();
 }
 
