@@ -57,14 +57,14 @@ public:
 };
 
 /// A request in which every field differs from what a Pack must make of it.
-APIModule::RequestParam UsedRequest()
+APIModule::RequestParam UsedRequest(const PackRow& row)
 {
     APIModule::RequestParam param;
     param.nPort = 1;
     param.nTimeout = 99;
     param.bHttps = false;
     param.bCompress = true;
-    param.eMethod = APIModule::Method(-1);
+    param.eMethod = row.method == APIModule::Method_Delete ? APIModule::Method_Get : APIModule::Method_Delete;
     param.strIp = param.strUrl = param.strBody = param.strToken = param.strSequence = "before";
     param.bExcludeUserInput = false;
     return param;
@@ -111,7 +111,7 @@ void ExpectPacked(const PackRow& row, int nServerId)
     RecordingUserManager users;
     const Host host(users);
     LogRecorder logs;
-    APIModule::RequestParam param = UsedRequest();
+    APIModule::RequestParam param = UsedRequest(row);
     EXPECT_EQ(row.run(&param, nServerId), 0);
     EXPECT_EQ(logs.Take(), OutcomeLine(row, 4, row.success, " success."));
 
@@ -141,11 +141,11 @@ void ExpectRefused(const PackRow& row)
     users.servers.clear();
     const Host host(users);
     LogRecorder logs;
-    APIModule::RequestParam param = UsedRequest();
+    APIModule::RequestParam param = UsedRequest(row);
     EXPECT_EQ(row.run(&param, kUnknownServer), -1);
     EXPECT_EQ(logs.Take(), OutcomeLine(row, 6, row.failed, " failed."));
     EXPECT_EQ(users.asked, std::vector<int>{ExpectedServer(row, kUnknownServer)});
-    EXPECT_EQ(ToJson(param), ToJson(UsedRequest()));
+    EXPECT_EQ(ToJson(param), ToJson(UsedRequest(row)));
 }
 
 }  // namespace
