@@ -308,7 +308,7 @@ TEST_F(NotificationTest, ToastsAreBoundedHoweverLongTheText)
         Notify().AddTextNotification(strText, true, strText, QString(), true);
         ASSERT_FALSE(Toasts().isEmpty() && !strText.trimmed().isEmpty());
         const QWidgetList toasts = Toasts();
-        for (const QWidget* pToast : toasts) {
+        for (QWidget* pToast : toasts) {
             EXPECT_LE(pToast->height(), 160);
             EXPECT_LE(pToast->width(), 400);
             const auto* pLabel = pToast->findChild<QLabel*>();
