@@ -301,6 +301,8 @@ TEST(Entries, TypesFollowFromTheSignatures)
     EXPECT_EQ(call.arguments[2].type, &TypeOf<int>());
     EXPECT_EQ(call.result, &TypeOf<Bicycle>());
     EXPECT_EQ(Entry<&TestModule::PacketFails>("Fails").result, nullptr);
+    EXPECT_TRUE(call.takesServerId);
+    EXPECT_FALSE((Entry<&TestModule::PackWithoutServer>("Takes no server", "names").takesServerId));
 }
 
 TEST(Calls, AnUnknownNameIsNotFound)

@@ -28,6 +28,7 @@ struct Call {
     std::string_view parseName;  ///< empty without a Parse
     std::vector<Argument> arguments;
     const Type* result = nullptr;  ///< what the Parse fills; null without a Parse
+    bool takesServerId = true;     ///< of the Pack, behind its arguments
 
     int (*pack)(void* pReqParamData, void* const* arguments, int nServerId) = nullptr;
     int (*parse)(const QJsonObject& data, void* record) = nullptr;  ///< null without a Parse

@@ -67,6 +67,7 @@ Call DescribedCall(const std::vector<std::string_view>& argumentNames, std::inde
     }
     Call call = NamedCall(FunctionName<Pack>(), parseName);
     call.pack = CallPack<Pack, Index...>;
+    call.takesServerId = Signature::kTakesServerId;
     call.arguments = {{argumentNames[Index], &TypeOf<typename Signature::template Argument<Index>>()}...};
     if constexpr (kHasParse) {
         call.parse = CallParse<Parse>;
