@@ -1,0 +1,33 @@
+#include "Bench.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace bench {
+
+void Require(bool isSame, const std::string& what)
+{
+    if (!isSame) {
+        std::cerr << "not the same: " << what << std::endl;
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+}  // namespace bench
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return EXIT_FAILURE;
+    }
+    bench::RegisterBenchmarks();
+    // A filter that names no benchmark is a mistake.
+    return benchmark::RunSpecifiedBenchmarks() > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
