@@ -1,6 +1,7 @@
 // What ExecuteFuncs makes of each kind of reply: result, log lines, notifications.
 #include "support/Host.h"
 #include "support/Rows.h"
+#include "support/Waiting.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -16,21 +17,9 @@ using APIModule::CAPIModule;
 namespace {
 
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
-constexpr const char* kWithoutDialog = "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg";
-constexpr const char* kWithDialog = "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg";
 
 /// Marks the rows in which the call succeeds; no code of a reply.
 constexpr int kSuccess = 1000;
-
-enum Waiting {
-    InLoop,
-    BehindDialog
-};
-
-const char* FunctionOf(Waiting waiting)
-{
-    return waiting == InLoop ? kWithoutDialog : kWithDialog;
-}
 
 QString Notice(int code)
 {

@@ -1,6 +1,7 @@
 // What can happen while a call waits. Each call returns its own result, in time, and leaves nothing behind.
 #include "support/Host.h"
 #include "support/Rows.h"
+#include "support/Waiting.h"
 
 #include <OrnGui/OrnMessageNotify.h>
 #include <OrnGui/OrnSingleton.h>
@@ -26,17 +27,6 @@ using APIModule::CAPIModule;
 namespace {
 
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
-
-enum Waiting {
-    InLoop,
-    BehindDialog
-};
-
-const char* FunctionOf(Waiting waiting)
-{
-    return waiting == InLoop ? "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg"
-                             : "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg";
-}
 
 /// Ends the process when a test hangs, so that a hang is a failure and not a time-out of the whole program.
 class Watchdog {

@@ -22,18 +22,19 @@ QByteArray Pem(Write write)
 
 }  // namespace
 
-Certificate MakeCertificate()
+Certificate MakeCertificate(const CertificateSubject& subject)
 {
     const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_RSA_gen(2048), &EVP_PKEY_free);
     const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), &X509_free);
     constexpr long kDay = 24L * 60 * 60;
     ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), 1);
-    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -kDay);
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), kDay);
+    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), subject.fromDay * kDay);
+    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), subject.toDay * kDay);
     X509_set_pubkey(certificate.get(), key.get());
     X509_NAME* pName = X509_get_subject_name(certificate.get());
-    X509_NAME_add_entry_by_txt(pName, "CN", MBSTRING_ASC, reinterpret_cast<const unsigned char*>("localhost"), -1, -1,
-                               0);
+    X509_NAME_add_entry_by_txt(pName, "CN", MBSTRING_ASC,
+                               reinterpret_cast<const unsigned char*>(subject.name.constData()), subject.name.size(),
+                               -1, 0);
     X509_set_issuer_name(certificate.get(), pName);
     X509_sign(certificate.get(), key.get(), EVP_sha256());
 

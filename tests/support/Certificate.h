@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QSslCertificate>
 #include <QSslKey>
 
@@ -10,7 +11,14 @@ struct Certificate {
     QSslKey key;
 };
 
-/// A self-signed certificate of this moment.
-Certificate MakeCertificate();
+/// Whom a certificate names, and from when to when it holds, in days from now.
+struct CertificateSubject {
+    QByteArray name = "localhost";
+    int fromDay = -1;
+    int toDay = 1;
+};
+
+/// A self-signed certificate.
+Certificate MakeCertificate(const CertificateSubject& subject = {});
 
 }  // namespace testing_support

@@ -1,14 +1,15 @@
 #include "RawServer.h"
 
-#include "Certificate.h"
-
-#include <QSslConfiguration>
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 #include <utility>
 
 namespace testing_support {
@@ -37,16 +38,80 @@ RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreH
             "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body};
 }
 
+QSslConfiguration ServerConfiguration(const Certificate& certificate)
+{
+    QSslConfiguration configuration;
+    configuration.setLocalCertificate(certificate.certificate);
+    configuration.setPrivateKey(certificate.key);
+    configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+    return configuration;
+}
+
+namespace {
+
+std::optional<QSslConfiguration> ConfigurationOf(RawServer::Scheme scheme)
+{
+    if (scheme == RawServer::Http) {
+        return std::nullopt;
+    }
+    static const QSslConfiguration configuration = ServerConfiguration(MakeCertificate());
+    return configuration;
+}
+
+/// Acknowledges at once what came. A client that sends head and body one after the other waits for it.
+void Acknowledge(const QAbstractSocket& socket)
+{
+    const int nOn = 1;
+    setsockopt(int(socket.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &nOn, sizeof(nOn));
+}
+
+/// Ends a connection so that the other side is told of it as an error.
+void Reset(QAbstractSocket& socket)
+{
+    socket.flush();
+    const linger hard{1, 0};
+    setsockopt(int(socket.socketDescriptor()), SOL_SOCKET, SO_LINGER, &hard, sizeof(hard));
+    socket.abort();
+}
+
+void Finish(QAbstractSocket& socket, RawAnswer::Then then)
+{
+    switch (then) {
+    case RawAnswer::KeepOpen:
+        break;
+    case RawAnswer::Close:
+        socket.disconnectFromHost();
+        break;
+    case RawAnswer::CloseLater:
+        QTimer::singleShot(20, &socket, [&socket] { socket.disconnectFromHost(); });
+        break;
+    case RawAnswer::Reset:
+        Reset(socket);
+        break;
+    }
+}
+
+void Send(QAbstractSocket& socket, const RawAnswer& answer)
+{
+    if (answer.trickleMilliseconds == 0 || answer.bytes.isEmpty()) {
+        socket.write(answer.bytes);
+        Finish(socket, answer.then);
+        return;
+    }
+    socket.write(answer.bytes.left(1));
+    RawAnswer rest = answer;
+    rest.bytes.remove(0, 1);
+    QTimer::singleShot(answer.trickleMilliseconds, &socket, [&socket, rest] { Send(socket, rest); });
+}
+
+}  // namespace
+
 /// Lives in the server's thread.
 class RawServer::Listener : public QTcpServer {
 public:
-    Listener(RawServer& server, Responder responder, Scheme scheme)
-        : m_server(server), m_responder(std::move(responder))
+    Listener(RawServer& server, const Responder& responder, const std::optional<QSslConfiguration>& configuration)
+        : m_server(server), m_responder(responder), m_configuration(configuration)
     {
-        if (scheme == Https) {
-            static const Certificate certificate = MakeCertificate();
-            m_certificate = &certificate;
-        }
         EXPECT_TRUE(listen(QHostAddress::LocalHost));
     }
 
@@ -62,10 +127,8 @@ protected:
             pSocket->deleteLater();
         });
         connect(pSocket, &QSslSocket::readyRead, this, [this, pSocket, nConnection] { Read(*pSocket, nConnection); });
-        if (m_certificate) {
-            pSocket->setLocalCertificate(m_certificate->certificate);
-            pSocket->setPrivateKey(m_certificate->key);
-            pSocket->setPeerVerifyMode(QSslSocket::VerifyNone);
+        if (m_configuration) {
+            pSocket->setSslConfiguration(*m_configuration);
             pSocket->startServerEncryption();
         }
     }
@@ -73,6 +136,7 @@ protected:
 private:
     void Read(QSslSocket& socket, int nConnection)
     {
+        Acknowledge(socket);
         QByteArray received = socket.property("received").toByteArray() + socket.readAll();
         if (m_server.m_bAnswersAnything) {
             received += "\r\n\r\n";
@@ -96,6 +160,7 @@ private:
     static RawRequest Parse(const QByteArray& head)
     {
         RawRequest request;
+        request.head = head;
         const QList<QByteArray> lines = head.split('\n');
         const QList<QByteArray> words = lines.first().trimmed().split(' ');
         request.method = words.value(0);
@@ -115,31 +180,21 @@ private:
             m_server.m_requests.push_back(request);
         }
         const RawAnswer answer = m_responder(request);
-        QTimer::singleShot(answer.delayMilliseconds, &socket, [&socket, answer] {
-            socket.write(answer.bytes);
-            switch (answer.then) {
-            case RawAnswer::KeepOpen:
-                break;
-            case RawAnswer::Close:
-                socket.disconnectFromHost();
-                break;
-            case RawAnswer::CloseLater:
-                QTimer::singleShot(20, &socket, [&socket] { socket.disconnectFromHost(); });
-                break;
-            case RawAnswer::Reset:
-                socket.flush();
-                socket.abort();
-                break;
-            }
-        });
+        QTimer::singleShot(answer.delayMilliseconds, &socket, [&socket, answer] { Send(socket, answer); });
     }
 
     RawServer& m_server;
     Responder m_responder;
-    const Certificate* m_certificate = nullptr;
+    std::optional<QSslConfiguration> m_configuration;
 };
 
-RawServer::RawServer(Responder responder, Scheme scheme)
+RawServer::RawServer(const Responder& responder, Scheme scheme) : RawServer(responder, ConfigurationOf(scheme)) {}
+
+RawServer::RawServer(const Responder& responder, const QSslConfiguration& configuration)
+    : RawServer(responder, std::optional<QSslConfiguration>(configuration))
+{}
+
+RawServer::RawServer(const Responder& responder, const std::optional<QSslConfiguration>& configuration)
 {
     auto context = std::make_unique<QObject>();
     context->moveToThread(&m_thread);
@@ -147,7 +202,7 @@ RawServer::RawServer(Responder responder, Scheme scheme)
     QMetaObject::invokeMethod(
         context.get(),
         [&] {
-            m_listener = new Listener(*this, std::move(responder), scheme);
+            m_listener = new Listener(*this, responder, configuration);
             m_port = m_listener->serverPort();
         },
         Qt::BlockingQueuedConnection);

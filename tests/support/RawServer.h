@@ -1,19 +1,24 @@
 #pragma once
 
+#include "Certificate.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QPair>
+#include <QSslConfiguration>
 #include <QThread>
 
 #include <atomic>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace testing_support {
 
 /// An HTTP request as it came over the wire.
 struct RawRequest {
+    QByteArray head;  ///< from the first byte to the empty line, which is left out
     QByteArray method;
     QByteArray target;
     QList<QPair<QByteArray, QByteArray>> headers;
@@ -35,13 +40,17 @@ struct RawAnswer {
         Reset
     };
 
-    QByteArray bytes;           ///< goes over the wire as it is; nothing when empty
-    int delayMilliseconds = 0;  ///< before the bytes
-    Then then = KeepOpen;       ///< after the bytes
+    QByteArray bytes;             ///< goes over the wire as it is; nothing when empty
+    int delayMilliseconds = 0;    ///< before the bytes
+    Then then = KeepOpen;         ///< after the bytes
+    int trickleMilliseconds = 0;  ///< between one byte and the next; 0 sends all at once
 };
 
 /// A complete HTTP answer.
 RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
+
+/// What an HTTPS server with this certificate needs.
+QSslConfiguration ServerConfiguration(const Certificate& certificate);
 
 /// A server on loopback in a thread of its own, with full control of the bytes that it sends.
 class RawServer {
@@ -53,7 +62,9 @@ public:
         Https
     };
 
-    explicit RawServer(Responder responder, Scheme scheme = Http);
+    explicit RawServer(const Responder& responder, Scheme scheme = Http);
+    /// An HTTPS server of its own kind.
+    RawServer(const Responder& responder, const QSslConfiguration& configuration);
     ~RawServer();
     RawServer(const RawServer&) = delete;
     RawServer& operator=(const RawServer&) = delete;
@@ -70,6 +81,8 @@ public:
 
 private:
     class Listener;
+
+    RawServer(const Responder& responder, const std::optional<QSslConfiguration>& configuration);
 
     QThread m_thread;
     Listener* m_listener = nullptr;  // in m_thread, deleted there
