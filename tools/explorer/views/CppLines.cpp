@@ -1,0 +1,238 @@
+#include "CppLines.h"
+
+#include <catalogue/Call.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
+#include <limits>
+
+namespace explorer {
+namespace {
+
+using catalogue::Kind;
+using catalogue::Type;
+using nlohmann::json;
+
+QString FromView(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), int(text.size()));
+}
+
+bool IsPlain(const Type& type)
+{
+    return type.kind != Kind::Record && type.kind != Kind::List;
+}
+
+QString TypeName(const Type& type)
+{
+    switch (type.kind) {
+    case Kind::Bool:
+        return QStringLiteral("bool");
+    case Kind::Int:
+        return QStringLiteral("int");
+    case Kind::Int64:
+        return QStringLiteral("APIModule::int64");
+    case Kind::Double:
+        return QStringLiteral("double");
+    case Kind::Text:
+        return QStringLiteral("std::string");
+    case Kind::Record:
+        return QLatin1String("APIModule::") + FromView(type.name);
+    case Kind::List:
+        return QLatin1String("std::vector<") + TypeName(*type.element) + QLatin1Char('>');
+    }
+    return {};
+}
+
+QString IntegerLiteral(long long value)
+{
+    // The smallest number has no literal: the minus sign is not part of one.
+    return value == std::numeric_limits<long long>::min() ? QStringLiteral("%1 - 1").arg(value + 1)
+                                                          : QString::number(value);
+}
+
+QString DoubleLiteral(double value)
+{
+    const QString text = QString::number(value, 'g', QLocale::FloatingPointShortest);
+    const bool looksWhole =
+        std::all_of(text.begin(), text.end(), [](QChar letter) { return letter.isDigit() || letter == u'-'; });
+    return looksWhole ? text + QLatin1String(".0") : text;
+}
+
+QString Literal(const Type& type, const json& value)
+{
+    switch (type.kind) {
+    case Kind::Bool:
+        return value.get<bool>() ? QStringLiteral("true") : QStringLiteral("false");
+    case Kind::Double:
+        return DoubleLiteral(value.get<double>());
+    case Kind::Text:
+        return CppText(value.get_ref<const std::string&>());
+    default:
+        return IntegerLiteral(value.get<long long>());
+    }
+}
+
+QString PlainList(const Type& type, const json& list)
+{
+    QStringList literals;
+    for (const json& element : list) {
+        literals.append(Literal(*type.element, element));
+    }
+    return QLatin1Char('{') + literals.join(QLatin1String(", ")) + QLatin1Char('}');
+}
+
+/// The statements that give a fresh object its value, element by element and field by field.
+void AddFilling(QStringList& lines, const QString& place, const Type& type, const json& value)
+{
+    if (type.kind == Kind::Record) {
+        for (const catalogue::Field& field : type.fields) {
+            const auto given = value.find(std::string(field.name));
+            if (given != value.end()) {
+                AddFilling(lines, place + QLatin1Char('.') + FromView(field.name), *field.type, *given);
+            }
+        }
+        return;
+    }
+    if (IsPlain(type)) {
+        lines.append(place + QLatin1String(" = ") + Literal(type, value) + QLatin1Char(';'));
+        return;
+    }
+    if (value.empty()) {
+        return;
+    }
+    if (IsPlain(*type.element)) {
+        lines.append(place + QLatin1String(" = ") + PlainList(type, value) + QLatin1Char(';'));
+        return;
+    }
+    lines.append(QStringLiteral("%1.resize(%2);").arg(place).arg(value.size()));
+    for (std::size_t index = 0; index < value.size(); ++index) {
+        AddFilling(lines, QStringLiteral("%1[%2]").arg(place).arg(index), *type.element, value[index]);
+    }
+}
+
+void AddVariable(QStringList& lines, const catalogue::Argument& argument, const json& value)
+{
+    const Type& type = *argument.type;
+    const QString name = FromView(argument.name);
+    const QString declaration = TypeName(type) + QLatin1Char(' ') + name;
+    if (IsPlain(type)) {
+        lines.append(declaration + QLatin1String(" = ") + Literal(type, value) + QLatin1Char(';'));
+    } else if (type.kind == Kind::List && IsPlain(*type.element) && !value.empty()) {
+        lines.append(declaration + QLatin1String(" = ") + PlainList(type, value) + QLatin1Char(';'));
+    } else {
+        lines.append(declaration + QLatin1Char(';'));
+        AddFilling(lines, name, type, value);
+    }
+}
+
+QString Pack(const catalogue::Call& call, int serverId)
+{
+    QStringList captures;
+    QStringList arguments{QStringLiteral("pReqParamData")};
+    for (const catalogue::Argument& argument : call.arguments) {
+        captures.append(QLatin1Char('&') + FromView(argument.name));
+        arguments.append(FromView(argument.name));
+    }
+    if (call.takesServerId) {
+        arguments.append(QString::number(serverId));
+    }
+    return QLatin1Char('[') + captures.join(QLatin1String(", ")) +
+           QLatin1String("](void* pReqParamData) {\n"
+                         "            return ") +
+           FromView(call.packName) + QLatin1Char('(') + arguments.join(QLatin1String(", ")) +
+           QLatin1String(");\n        }");
+}
+
+QString Parse(const catalogue::Call& call)
+{
+    return call.result == nullptr ? QStringLiteral("{}")
+                                  : QLatin1String("[&record](const QJsonObject& data) {\n            return ") +
+                                        FromView(call.parseName) + QLatin1String("(data, record);\n        }");
+}
+
+QString Signature(const catalogue::Call& call)
+{
+    const QString name = QString::fromStdString(call.name.substr(call.name.find('.') + 1));
+    const QString record =
+        call.result == nullptr ? QString() : QLatin1String(", ") + TypeName(*call.result) + QLatin1String("& record");
+    return QLatin1String("int ") + name + QLatin1String("(QWidget* pParent") + record + QLatin1Char(')');
+}
+
+QString EscapedByte(char byte)
+{
+    // Three octal digits, so that a digit that follows is not taken for a part of it.
+    return QStringLiteral("\\%1").arg(uint(uchar(byte)), 3, 8, QLatin1Char('0'));
+}
+
+QString Escaped(QChar letter)
+{
+    switch (letter.unicode()) {
+    case '\n':
+        return QStringLiteral("\\n");
+    case '\r':
+        return QStringLiteral("\\r");
+    case '\t':
+        return QStringLiteral("\\t");
+    case '"':
+        return QStringLiteral("\\\"");
+    case '\\':
+        return QStringLiteral("\\\\");
+    case '?':
+        return QStringLiteral("\\?");  // two of them begin what older compilers take for another character
+    default:
+        return letter;
+    }
+}
+
+}  // namespace
+
+QString CppText(const std::string& text)
+{
+    const QString decoded = QString::fromStdString(text);
+    const bool isUtf8 = decoded.toStdString() == text;
+    QString literal;
+    if (isUtf8) {
+        for (const QChar letter : decoded) {
+            const QString escaped = Escaped(letter);
+            const bool isControl = escaped.size() == 1 && (letter < u' ' || letter == QChar(0x7F));
+            literal += isControl ? EscapedByte(char(letter.unicode())) : escaped;
+        }
+    } else {
+        for (const char byte : text) {
+            literal += EscapedByte(byte);
+        }
+    }
+    literal = QLatin1Char('"') + literal + QLatin1Char('"');
+    return text.find('\0') == std::string::npos ? literal
+                                                : QStringLiteral("std::string(%1, %2)").arg(literal).arg(text.size());
+}
+
+QString CppLines(const catalogue::Call& call, const json& arguments, int serverId)
+{
+    QStringList lines;
+    for (const catalogue::Argument& argument : call.arguments) {
+        AddVariable(lines, argument, arguments.at(std::string(argument.name)));
+    }
+    if (!lines.isEmpty()) {
+        lines.append(QString());
+    }
+
+    const QString family = QString::fromStdString(call.family);
+    QString text = QLatin1String("#include \"APIModule.h\"\n#include \"") + family + QLatin1Char('/') + family +
+                   QLatin1String("Module.h\"\n\n") + Signature(call) + QLatin1String("\n{\n");
+    for (const QString& line : qAsConst(lines)) {
+        text += line.isEmpty() ? QStringLiteral("\n") : QLatin1String("    ") + line + QLatin1Char('\n');
+    }
+    text += QLatin1String("    return APIModule::CAPIModule::GetInstance().ExecuteFuncs(\n        ") +
+            Pack(call, serverId) + QLatin1String(",\n        ") + Parse(call) +
+            QLatin1String(",\n        QStringLiteral(\"") + QString::fromStdString(call.name) +
+            QLatin1String(" failed\"), pParent, QString(), /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);\n}\n");
+    return text;
+}
+
+}  // namespace explorer

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+
+#include <QString>
+
+namespace catalogue {
+struct Call;
+}
+
+namespace explorer {
+
+/// A call as a client engineer writes it: a function, with its includes, that makes the call with these arguments.
+/// @p arguments holds each of them under its name and fits the call.
+QString CppLines(const catalogue::Call& call, const nlohmann::json& arguments, int serverId);
+
+/// A text as a C++ literal. A plain literal ends at its first zero byte, so a text with one is a std::string.
+QString CppText(const std::string& text);
+
+}  // namespace explorer

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+/// Between the JSON of Qt, which widgets and settings speak, and that of the catalogue. Whole numbers keep all their
+/// 64 bits, which QJsonDocument does not print.
+namespace explorer {
+
+nlohmann::json FromQt(const QJsonValue& value);
+QJsonValue ToQt(const nlohmann::json& value);
+
+/// Indented; bytes of a text that are not UTF-8 are shown as replacement characters.
+QString JsonText(const nlohmann::json& value);
+/// On one line.
+QString CompactJsonText(const nlohmann::json& value);
+
+}  // namespace explorer
