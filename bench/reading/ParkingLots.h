@@ -1,0 +1,22 @@
+#pragma once
+
+#include <IPMS/Parking.h>
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace bench {
+
+/// The code of an envelope that carries data.
+constexpr int kSuccess = 1000;
+
+using ParkingLots = std::vector<APIModule::DatailParkingLotInfoRsp>;
+
+/// Parking lots as a platform has them, the same ones in every run.
+ParkingLots MakeParkingLots(int count);
+
+/// The whole reply that lists them, its envelope included.
+QByteArray ReplyOf(ParkingLots& lots);
+
+}  // namespace bench
