@@ -1,0 +1,190 @@
+#include "ArgumentForm.h"
+
+#include "Json.h"
+#include "RecordEditor.h"
+#include "Theme.h"
+#include "TintedLabel.h"
+
+#include <catalogue/Call.h>
+
+#include <QClipboard>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QJsonDocument>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+namespace {
+
+using catalogue::Argument;
+using nlohmann::json;
+
+QPushButton* MakeButton(const QString& text, const QString& objectName, Qt::Key key)
+{
+    auto* pButton = new QPushButton(text);
+    const QKeySequence shortcut(int(Qt::CTRL) + int(Qt::SHIFT) + int(key));
+    pButton->setObjectName(objectName);
+    pButton->setShortcut(shortcut);
+    pButton->setToolTip(shortcut.toString(QKeySequence::NativeText));
+    pButton->setAutoDefault(false);
+    return pButton;
+}
+
+}  // namespace
+
+ArgumentForm::ArgumentForm(QWidget* pParent)
+    : QWidget(pParent), m_pArea(new QScrollArea),
+      m_pCopy(MakeButton(tr("Copy as JSON"), QStringLiteral("copyArguments"), Qt::Key_C)),
+      m_pPaste(MakeButton(tr("Paste JSON"), QStringLiteral("pasteArguments"), Qt::Key_V)),
+      m_pProblem(new TintedLabel(theme::Error))
+{
+    m_pArea->setWidgetResizable(true);
+    m_pArea->setFrameShape(QFrame::NoFrame);
+    m_pProblem->setObjectName(QStringLiteral("pasteProblem"));
+    m_pProblem->hide();
+
+    auto* pButtons = new QHBoxLayout;
+    pButtons->addWidget(m_pCopy);
+    pButtons->addWidget(m_pPaste);
+    pButtons->addStretch();
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pArea, 1);
+    pLayout->addWidget(m_pProblem);
+    pLayout->addLayout(pButtons);
+
+    connect(m_pCopy, &QPushButton::clicked, this, &ArgumentForm::Copy);
+    connect(m_pPaste, &QPushButton::clicked, this, &ArgumentForm::Paste);
+    ShowHint(tr("Choose a call to see its arguments here."));
+}
+
+void ArgumentForm::SetCall(const catalogue::Call& call)
+{
+    m_pCall = &call;
+    m_editors.clear();
+    m_pProblem->hide();
+    if (call.arguments.empty()) {
+        ShowHint(tr("This call takes no arguments."));
+        emit Changed();
+        return;
+    }
+
+    auto* pContent = new QWidget;
+    QFormLayout* pForm = MakeForm(pContent);
+    for (const Argument& argument : call.arguments) {
+        std::string name(argument.name);
+        ValueEditor* pEditor = AddMember(pForm, *argument.type, QString::fromStdString(name));
+        pEditor->SetValue(catalogue::Value(*argument.type).ToJson());
+        connect(pEditor, &ValueEditor::Changed, this, &ArgumentForm::OnChanged);
+        connect(pEditor, &ValueEditor::Rearranged, this, &ArgumentForm::OrderTabs);
+        m_editors.emplace_back(std::move(name), pEditor);
+    }
+    FillArea(pContent);
+    OrderTabs();
+    OnChanged();
+}
+
+QJsonObject ArgumentForm::Arguments() const
+{
+    QJsonObject arguments;
+    for (const auto& [name, pEditor] : m_editors) {
+        arguments.insert(QString::fromStdString(name), ToQt(pEditor->Value()));
+    }
+    return arguments;
+}
+
+void ArgumentForm::SetArguments(const QJsonObject& arguments)
+{
+    for (const auto& [name, pEditor] : m_editors) {
+        const auto given = arguments.constFind(QString::fromStdString(name));
+        if (given == arguments.constEnd()) {
+            continue;
+        }
+        catalogue::Value value(*m_pCall->FindArgument(name)->type);
+        try {
+            value.Assign(FromQt(*given), "/" + name);
+            pEditor->SetValue(value.ToJson());
+        } catch (const catalogue::Mismatch&) {
+            continue;  // of an earlier form of the call, perhaps
+        }
+    }
+}
+
+bool ArgumentForm::IsValid() const
+{
+    return m_pCall != nullptr &&
+           std::all_of(m_editors.begin(), m_editors.end(), [](const auto& editor) { return editor.second->IsValid(); });
+}
+
+void ArgumentForm::Copy()
+{
+    QGuiApplication::clipboard()->setText(JsonText(FromQt(Arguments())));
+}
+
+void ArgumentForm::Paste()
+{
+    m_pProblem->hide();
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(QGuiApplication::clipboard()->text().toUtf8(), &error);
+    try {
+        if (error.error != QJsonParseError::NoError) {
+            throw catalogue::Mismatch(
+                tr("it is no JSON, %1 at byte %2").arg(error.errorString()).arg(error.offset).toStdString());
+        }
+        const json given = document.isArray() ? json::array() : FromQt(document.object());
+        const std::vector<catalogue::Value> values = ReadArguments(*m_pCall, given);
+        for (std::size_t index = 0; index < values.size(); ++index) {
+            m_editors[index].second->SetValue(values[index].ToJson());
+        }
+    } catch (const catalogue::Mismatch& mismatch) {
+        m_pProblem->setText(tr("The clipboard does not fit: %1").arg(QString::fromUtf8(mismatch.what())));
+        m_pProblem->show();
+    }
+}
+
+void ArgumentForm::ShowHint(const QString& text)
+{
+    auto* pHint = new TintedLabel(theme::Hint);
+    pHint->setText(text);
+    pHint->setAlignment(Qt::AlignCenter);
+    FillArea(pHint);
+    m_pCopy->setEnabled(false);
+    m_pPaste->setEnabled(false);
+}
+
+void ArgumentForm::FillArea(QWidget* pContent)
+{
+    // The old content may be the one whose signal brought us here.
+    if (QWidget* pOld = m_pArea->takeWidget()) {
+        pOld->deleteLater();
+    }
+    m_pArea->setWidget(pContent);
+    m_pPaste->setEnabled(true);
+}
+
+void ArgumentForm::OnChanged()
+{
+    m_pProblem->hide();
+    m_pCopy->setEnabled(IsValid());
+    emit Changed();
+}
+
+void ArgumentForm::OrderTabs()
+{
+    QList<QWidget*> stops;
+    for (const auto& [name, pEditor] : m_editors) {
+        stops += pEditor->TabStops();
+    }
+    stops << m_pCopy << m_pPaste;
+    for (int index = 1; index < stops.size(); ++index) {
+        setTabOrder(stops[index - 1], stops[index]);
+    }
+}
+
+}  // namespace explorer

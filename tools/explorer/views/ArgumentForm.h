@@ -1,0 +1,64 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <QJsonObject>
+#include <QWidget>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+class QLabel;
+class QPushButton;
+class QScrollArea;
+
+namespace catalogue {
+struct Call;
+}
+
+namespace explorer {
+
+class ValueEditor;
+
+/// The arguments of a call as a form made of the call's description; checked as they are typed.
+class ArgumentForm : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ArgumentForm(QWidget* pParent = nullptr);
+
+    /// Shows the arguments of a call with the values of fresh ones.
+    void SetCall(const catalogue::Call& call);
+
+    /// Each argument under its name. Fields that are not valid count as 0.
+    [[nodiscard]] QJsonObject Arguments() const;
+    /// Takes over what fits the call; everything else stays as it is.
+    void SetArguments(const QJsonObject& arguments);
+
+    /// Whether there is a call and each field holds a value of its type.
+    [[nodiscard]] bool IsValid() const;
+
+    /// Puts the form on the clipboard as a JSON object.
+    void Copy();
+    /// Fills the form from the clipboard. What is wrong with it is shown, and then nothing changes.
+    void Paste();
+
+signals:
+    void Changed();
+
+private:
+    void ShowHint(const QString& text);
+    void FillArea(QWidget* pContent);
+    void OnChanged();
+    void OrderTabs();
+
+    const catalogue::Call* m_pCall = nullptr;
+    std::vector<std::pair<std::string, ValueEditor*>> m_editors;
+    QScrollArea* m_pArea;
+    QPushButton* m_pCopy;
+    QPushButton* m_pPaste;
+    QLabel* m_pProblem;
+};
+
+}  // namespace explorer

@@ -1,0 +1,185 @@
+#include "ListEditor.h"
+
+#include "Theme.h"
+#include "TintedLabel.h"
+
+#include <catalogue/Value.h>
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+namespace {
+
+using nlohmann::json;
+
+QToolButton* MakeButton(const QString& objectName, const QString& tip)
+{
+    auto* pButton = new QToolButton;
+    pButton->setObjectName(objectName);
+    pButton->setToolTip(tip);
+    pButton->setAccessibleName(tip);
+    pButton->setAutoRaise(true);
+    pButton->setFocusPolicy(Qt::StrongFocus);
+    return pButton;
+}
+
+QToolButton* MakeArrow(Qt::ArrowType arrow, const QString& objectName, const QString& tip)
+{
+    QToolButton* pButton = MakeButton(objectName, tip);
+    pButton->setArrowType(arrow);
+    return pButton;
+}
+
+}  // namespace
+
+ListEditor::ListEditor(const catalogue::Type& type, const QString& name, QWidget* pParent)
+    : ValueEditor(pParent), m_element(*type.element), m_name(name), m_pLayout(new QVBoxLayout(this)),
+      m_pHint(new TintedLabel(theme::Hint)), m_pAdd(new QPushButton(tr("Add element")))
+{
+    m_pLayout->setContentsMargins(0, 0, 0, 0);
+    m_pHint->setText(tr("The list is empty."));
+    m_pAdd->setObjectName(name + QLatin1String(".add"));
+    m_pAdd->setAccessibleName(tr("Add an element to %1").arg(name));
+    m_pAdd->setAutoDefault(false);
+
+    auto* pFooter = new QHBoxLayout;
+    pFooter->addWidget(m_pAdd);
+    pFooter->addWidget(m_pHint, 1);
+    m_pLayout->addLayout(pFooter);
+    connect(m_pAdd, &QPushButton::clicked, this, &ListEditor::AddByUser);
+}
+
+json ListEditor::Value() const
+{
+    json list = json::array();
+    for (const Row& row : m_rows) {
+        list.push_back(row.pEditor->Value());
+    }
+    return list;
+}
+
+void ListEditor::SetValue(const json& value)
+{
+    while (m_rows.size() > value.size()) {
+        delete m_rows.back().pWidget;
+        m_rows.pop_back();
+    }
+    while (m_rows.size() < value.size()) {
+        Append();
+    }
+    for (std::size_t index = 0; index < value.size(); ++index) {
+        m_rows[index].pEditor->SetValue(value[index]);
+    }
+    Number();
+    emit Rearranged();
+    emit Changed();
+}
+
+bool ListEditor::IsValid() const
+{
+    return std::all_of(m_rows.begin(), m_rows.end(), [](const Row& row) { return row.pEditor->IsValid(); });
+}
+
+QList<QWidget*> ListEditor::TabStops() const
+{
+    QList<QWidget*> stops;
+    for (const Row& row : m_rows) {
+        stops += row.pEditor->TabStops();
+        stops << row.pUp << row.pDown << row.pRemove;
+    }
+    return stops << m_pAdd;
+}
+
+void ListEditor::Append()
+{
+    auto* pWidget = new QWidget(this);
+    Row row{pWidget,
+            new TintedLabel(theme::Hint),
+            MakeEditor(m_element, m_name, pWidget),
+            MakeArrow(Qt::UpArrow, m_name + QLatin1String(".up"), tr("Move up")),
+            MakeArrow(Qt::DownArrow, m_name + QLatin1String(".down"), tr("Move down")),
+            MakeButton(m_name + QLatin1String(".remove"), tr("Remove"))};
+    row.pRemove->setText(QString(QChar(0x00D7)));  // a multiplication sign looks like a cross in every font
+
+    auto* pLayout = new QHBoxLayout(pWidget);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    row.pNumber->setMinimumWidth(row.pNumber->fontMetrics().horizontalAdvance(QStringLiteral("000.")));
+    row.pNumber->setWordWrap(false);
+    constexpr Qt::Alignment kTop = Qt::AlignTop;
+    pLayout->addWidget(row.pNumber, 0, row.pEditor->TabStops().size() > 1 ? kTop : Qt::AlignVCenter);
+    pLayout->addWidget(row.pEditor, 1);
+    for (QToolButton* pButton : {row.pUp, row.pDown, row.pRemove}) {
+        pLayout->addWidget(pButton, 0, kTop);
+    }
+
+    connect(row.pEditor, &ValueEditor::Changed, this, &ListEditor::Changed);
+    connect(row.pEditor, &ValueEditor::Rearranged, this, &ListEditor::Rearranged);
+    connect(row.pUp, &QToolButton::clicked, this, [this, pWidget] { Move(pWidget, -1); });
+    connect(row.pDown, &QToolButton::clicked, this, [this, pWidget] { Move(pWidget, 1); });
+    connect(row.pRemove, &QToolButton::clicked, this, [this, pWidget] { Remove(pWidget); });
+
+    m_pLayout->insertWidget(int(m_rows.size()), pWidget);
+    m_rows.push_back(row);
+}
+
+void ListEditor::AddByUser()
+{
+    Append();
+    m_rows.back().pEditor->SetValue(catalogue::Value(m_element).ToJson());
+    Number();
+    emit Rearranged();
+    emit Changed();
+    m_rows.back().pEditor->TabStops().constFirst()->setFocus(Qt::TabFocusReason);
+}
+
+void ListEditor::Remove(const QWidget* pRow)
+{
+    const std::size_t index = IndexOf(pRow);
+    QWidget* pWidget = m_rows[index].pWidget;
+    m_rows.erase(m_rows.begin() + std::ptrdiff_t(index));
+    // The button that was clicked is a child of the row.
+    pWidget->hide();
+    m_pLayout->removeWidget(pWidget);
+    pWidget->deleteLater();
+
+    Number();
+    emit Rearranged();
+    emit Changed();
+    (m_rows.empty() ? static_cast<QWidget*>(m_pAdd) : m_rows[std::min(index, m_rows.size() - 1)].pRemove)->setFocus();
+}
+
+void ListEditor::Move(const QWidget* pRow, int steps)
+{
+    const std::size_t from = IndexOf(pRow);
+    const std::size_t to = std::size_t(std::ptrdiff_t(from) + steps);
+    std::swap(m_rows[from], m_rows[to]);
+    m_pLayout->insertWidget(int(to), m_rows[to].pWidget);
+    Number();
+    emit Rearranged();
+    emit Changed();
+}
+
+void ListEditor::Number()
+{
+    for (std::size_t index = 0; index < m_rows.size(); ++index) {
+        const Row& row = m_rows[index];
+        row.pNumber->setText(QStringLiteral("%1.").arg(index + 1));
+        row.pUp->setEnabled(index > 0);
+        row.pDown->setEnabled(index + 1 < m_rows.size());
+    }
+    m_pHint->setVisible(m_rows.empty());
+}
+
+std::size_t ListEditor::IndexOf(const QWidget* pRow) const
+{
+    const auto found =
+        std::find_if(m_rows.begin(), m_rows.end(), [pRow](const Row& row) { return row.pWidget == pRow; });
+    return std::size_t(found - m_rows.begin());
+}
+
+}  // namespace explorer

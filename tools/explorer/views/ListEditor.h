@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ValueEditor.h"
+
+#include <vector>
+
+class QLabel;
+class QPushButton;
+class QToolButton;
+class QVBoxLayout;
+
+namespace explorer {
+
+/// The elements of a list under each other, to add, to remove and to move.
+class ListEditor : public ValueEditor {
+    Q_OBJECT
+
+public:
+    ListEditor(const catalogue::Type& type, const QString& name, QWidget* pParent);
+
+    [[nodiscard]] nlohmann::json Value() const override;
+    void SetValue(const nlohmann::json& value) override;
+    [[nodiscard]] bool IsValid() const override;
+    [[nodiscard]] QList<QWidget*> TabStops() const override;
+
+private:
+    struct Row {
+        QWidget* pWidget;
+        QLabel* pNumber;
+        ValueEditor* pEditor;
+        QToolButton* pUp;
+        QToolButton* pDown;
+        QToolButton* pRemove;
+    };
+
+    void Append();
+    void AddByUser();
+    void Remove(const QWidget* pRow);
+    void Move(const QWidget* pRow, int steps);
+    void Number();
+    [[nodiscard]] std::size_t IndexOf(const QWidget* pRow) const;
+
+    const catalogue::Type& m_element;
+    const QString m_name;
+    std::vector<Row> m_rows;
+    QVBoxLayout* m_pLayout;
+    QLabel* m_pHint;
+    QPushButton* m_pAdd;
+};
+
+}  // namespace explorer

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <catalogue/Type.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QAbstractSpinBox>
+
+namespace explorer {
+
+/// Edits a number of the catalogue. Whatever is typed stays; Problem() says what is wrong with it.
+class NumberBox : public QAbstractSpinBox {
+    Q_OBJECT
+
+public:
+    /// @p kind is Int, Int64 or Double.
+    explicit NumberBox(catalogue::Kind kind, QWidget* pParent = nullptr);
+
+    /// Empty when the text is a number of the kind.
+    [[nodiscard]] QString Problem() const;
+    /// 0 while there is a problem.
+    [[nodiscard]] nlohmann::json Value() const;
+    void SetValue(const nlohmann::json& value);
+
+    void stepBy(int steps) override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    void Changed();
+
+protected:
+    [[nodiscard]] StepEnabled stepEnabled() const override;
+    void wheelEvent(QWheelEvent* pEvent) override;
+
+private:
+    [[nodiscard]] qint64 Smallest() const;
+    [[nodiscard]] qint64 Largest() const;
+
+    const catalogue::Kind m_kind;
+};
+
+}  // namespace explorer

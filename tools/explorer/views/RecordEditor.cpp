@@ -1,0 +1,85 @@
+#include "RecordEditor.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+
+using catalogue::Kind;
+using nlohmann::json;
+
+RecordEditor::RecordEditor(const catalogue::Type& type, const QString& /*name*/, QWidget* pParent)
+    : ValueEditor(pParent)
+{
+    QFormLayout* pForm = MakeForm(this);
+    pForm->setContentsMargins(0, 0, 0, 0);
+    for (const catalogue::Field& field : type.fields) {
+        std::string name(field.name);
+        ValueEditor* pEditor = AddMember(pForm, *field.type, QString::fromStdString(name));
+        connect(pEditor, &ValueEditor::Changed, this, &RecordEditor::Changed);
+        connect(pEditor, &ValueEditor::Rearranged, this, &RecordEditor::Rearranged);
+        m_members.emplace_back(std::move(name), pEditor);
+    }
+}
+
+json RecordEditor::Value() const
+{
+    json record = json::object();
+    for (const auto& [name, pEditor] : m_members) {
+        record[name] = pEditor->Value();
+    }
+    return record;
+}
+
+void RecordEditor::SetValue(const json& value)
+{
+    for (const auto& [name, pEditor] : m_members) {
+        pEditor->SetValue(value.at(name));
+    }
+}
+
+bool RecordEditor::IsValid() const
+{
+    return std::all_of(m_members.begin(), m_members.end(), [](const auto& member) { return member.second->IsValid(); });
+}
+
+QList<QWidget*> RecordEditor::TabStops() const
+{
+    QList<QWidget*> stops;
+    for (const auto& [name, pEditor] : m_members) {
+        stops += pEditor->TabStops();
+    }
+    return stops;
+}
+
+ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QString& name)
+{
+    const QString typeName = QString::fromStdString(NameOf(type));
+    if (type.kind != Kind::Record && type.kind != Kind::List) {
+        ValueEditor* pEditor = MakeEditor(type, name, nullptr);
+        auto* pLabel = new QLabel(name);
+        pLabel->setBuddy(pEditor->TabStops().constFirst());
+        pLabel->setToolTip(typeName);
+        pForm->addRow(pLabel, pEditor);
+        return pEditor;
+    }
+    auto* pBox = new QGroupBox(QStringLiteral("%1 \u2013 %2").arg(name, typeName));
+    ValueEditor* pEditor = MakeEditor(type, name, pBox);
+    (new QVBoxLayout(pBox))->addWidget(pEditor);
+    pForm->addRow(pBox);
+    return pEditor;
+}
+
+QFormLayout* MakeForm(QWidget* pWidget)
+{
+    auto* pForm = new QFormLayout(pWidget);
+    pForm->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    pForm->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    return pForm;
+}
+
+}  // namespace explorer

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ValueEditor.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+class QFormLayout;
+class QLabel;
+
+namespace explorer {
+
+/// The members of a record, or the arguments of a call, under each other.
+class RecordEditor : public ValueEditor {
+    Q_OBJECT
+
+public:
+    RecordEditor(const catalogue::Type& type, const QString& name, QWidget* pParent);
+
+    [[nodiscard]] nlohmann::json Value() const override;
+    void SetValue(const nlohmann::json& value) override;
+    [[nodiscard]] bool IsValid() const override;
+    [[nodiscard]] QList<QWidget*> TabStops() const override;
+
+private:
+    std::vector<std::pair<std::string, ValueEditor*>> m_members;
+};
+
+/// Adds a value to a form: plain ones behind their label, others in a box of their own.
+ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QString& name);
+
+/// A form whose labels and fields stand alike wherever it is.
+QFormLayout* MakeForm(QWidget* pWidget);
+
+}  // namespace explorer

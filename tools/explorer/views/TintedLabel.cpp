@@ -1,0 +1,34 @@
+#include "TintedLabel.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace explorer {
+
+TintedLabel::TintedLabel(Tint tint, QWidget* pParent) : QLabel(pParent), m_tint(tint)
+{
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    Colour();
+}
+
+void TintedLabel::changeEvent(QEvent* pEvent)
+{
+    QLabel::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::PaletteChange || pEvent->type() == QEvent::ParentChange) {
+        Colour();
+    }
+}
+
+void TintedLabel::Colour()
+{
+    const QPalette around = parentWidget() != nullptr ? parentWidget()->palette() : QApplication::palette(this);
+    const QColor colour = m_tint(around);
+    if (palette().color(foregroundRole()) != colour) {
+        QPalette own;
+        own.setColor(foregroundRole(), colour);
+        setPalette(own);
+    }
+}
+
+}  // namespace explorer
