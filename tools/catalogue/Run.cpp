@@ -17,20 +17,29 @@ boost::function<int(void*)> Bind(const Call& call, const std::vector<Value>& arg
     }
     return [&call, values, settings](void* pReqParamData) {
         const int result = call.pack(pReqParamData, values.data(), settings.serverId);
+        auto& request = *static_cast<APIModule::RequestParam*>(pReqParamData);
+        request.bExcludeUserInput = settings.excludeUserInput;
         if (settings.timeoutSeconds) {
-            static_cast<APIModule::RequestParam*>(pReqParamData)->nTimeout = *settings.timeoutSeconds;
+            request.nTimeout = *settings.timeoutSeconds;
+        }
+        if (result == 0 && settings.onPacked) {
+            settings.onPacked(request);
         }
         return result;
     };
 }
 
-boost::function<int(const QJsonObject&)> Bind(const Call& call, const std::optional<Value>& record)
+boost::function<int(const QJsonObject&)> Bind(const Call& call, const std::optional<Value>& record,
+                                              const RunSettings& settings)
 {
-    // ExecuteFuncs shows no tip when data comes and there is no Parse.
-    if (!record) {
-        return [](const QJsonObject& /*data*/) { return 0; };
-    }
-    return [&call, pRecord = record->Data()](const QJsonObject& data) { return call.parse(data, pRecord); };
+    void* const pRecord = record ? record->Data() : nullptr;
+    return [&call, pRecord, onData = settings.onData](const QJsonObject& data) {
+        if (onData) {
+            onData(data);
+        }
+        // ExecuteFuncs shows no tip when data comes and there is no Parse.
+        return pRecord == nullptr ? 0 : call.parse(data, pRecord);
+    };
 }
 
 }  // namespace
@@ -43,7 +52,8 @@ Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSett
     }
 
     Outcome outcome;
-    const QString tip = QString::fromStdString(call.name + " succeeded");
+    const QString tip =
+        settings.successTip.isEmpty() ? QString::fromStdString(call.name + " succeeded") : settings.successTip;
     const QObject listener;
     QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
                      &ORNGUI::OrnMessageNotify::TextNotificationAdded, &listener,
@@ -58,7 +68,8 @@ Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSett
     constexpr bool kShowErrorCode = true;
     constexpr bool kNotifyOnFailure = false;
     outcome.result = APIModule::CAPIModule::GetInstance().ExecuteFuncs(
-        Bind(call, arguments, settings), Bind(call, record), QString(), nullptr, tip, kShowErrorCode, kNotifyOnFailure);
+        Bind(call, arguments, settings), Bind(call, record, settings), settings.caption, settings.parent, tip,
+        kShowErrorCode, kNotifyOnFailure);
     if (record) {
         outcome.record = record->ToJson();
     }

@@ -1,0 +1,89 @@
+#include "CallIndex.h"
+
+#include <Contract.h>
+
+namespace explorer {
+namespace {
+
+QString ToText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+void AddKeys(const emulator::Json& schema, QStringList& keys)
+{
+    if (!schema.is_structured()) {
+        return;
+    }
+    for (const auto& [name, value] : schema.items()) {
+        if (schema.is_object() && name == "properties" && value.is_object()) {
+            for (const auto& property : value.items()) {
+                keys.append(QString::fromStdString(property.key()));
+            }
+        }
+        AddKeys(value, keys);
+    }
+}
+
+Endpoint Describe(const emulator::Operation& operation)
+{
+    Endpoint endpoint{QString::fromStdString(operation.method), QString::fromStdString(operation.path), {}};
+    for (const emulator::QueryParameter& parameter : operation.query) {
+        endpoint.keys.append(QString::fromStdString(parameter.name));
+    }
+    if (operation.body) {
+        AddKeys(operation.body->document(), endpoint.keys);
+    }
+    AddKeys(operation.dataSchema, endpoint.keys);
+    endpoint.keys.removeDuplicates();
+    return endpoint;
+}
+
+void AddFields(const catalogue::Type& type, QStringList& words)
+{
+    if (type.element != nullptr) {
+        AddFields(*type.element, words);
+    }
+    for (const catalogue::Field& field : type.fields) {
+        words.append(ToText(field.name));
+        AddFields(*field.type, words);
+    }
+}
+
+}  // namespace
+
+Endpoints ReadEndpoints(const std::filesystem::path& contract)
+{
+    Endpoints endpoints;
+    try {
+        const emulator::Contract read = emulator::Contract::Load(contract);
+        for (const emulator::Operation& operation : read.operations()) {
+            endpoints.insert(QString::fromStdString(operation.id), Describe(operation));
+        }
+    } catch (const std::exception&) {
+        return {};  // the calls are found by their names and fields all the same
+    }
+    return endpoints;
+}
+
+QString SearchText(const catalogue::Call& call)
+{
+    QStringList words{QString::fromStdString(call.name), ToText(call.summary), ToText(call.subject),
+                      ToText(call.packName), ToText(call.parseName)};
+    for (const catalogue::Argument& argument : call.arguments) {
+        words.append(ToText(argument.name));
+        AddFields(*argument.type, words);
+    }
+    if (call.result != nullptr) {
+        AddFields(*call.result, words);
+    }
+    words.removeDuplicates();
+    return words.join(QLatin1Char('\n'));
+}
+
+QString ShortName(const catalogue::Call& call)
+{
+    return QString::fromStdString(call.name).section(QLatin1Char('.'), 1);
+}
+
+}  // namespace explorer

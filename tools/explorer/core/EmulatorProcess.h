@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QProcess;
+
+namespace explorer {
+
+/// The platform emulator as a child of this program, on free ports of the loopback address.
+class EmulatorProcess : public QObject {
+    Q_OBJECT
+
+public:
+    enum State {
+        Stopped,
+        Starting,
+        Running
+    };
+
+    /// @param program path of platform-emulator
+    explicit EmulatorProcess(QString program, QObject* parent = nullptr);
+    /// Stops.
+    ~EmulatorProcess() override;
+
+    /// The program as the build places it, beside this one.
+    static QString DefaultProgram();
+
+    void Start();
+    void Stop();
+
+    [[nodiscard]] State GetState() const { return m_state; }
+    [[nodiscard]] int HttpPort() const { return m_httpPort; }
+    [[nodiscard]] int HttpsPort() const { return m_httpsPort; }
+    /// Fresh for each start.
+    [[nodiscard]] const QString& Token() const { return m_token; }
+
+Q_SIGNALS:
+    void StateChanged();
+    /// It ended by itself or could not be started.
+    void Failed(const QString& why);
+
+private:
+    void ReadAddresses();
+    void SetState(State state);
+    void Ended();
+
+    const QString m_program;
+    const std::unique_ptr<QProcess> m_process;
+    QString m_token;
+    State m_state = Stopped;
+    int m_httpPort = 0;
+    int m_httpsPort = 0;
+    bool m_stopping = false;
+};
+
+}  // namespace explorer

@@ -1,0 +1,124 @@
+#include "Feed.h"
+
+#include <libornl/TalPrintLog.h>
+#include <OrnGui/OrnMessageNotify.h>
+
+namespace explorer {
+
+void Feed::Append(const Line& line)
+{
+    if (m_lines.size() >= kMostLines) {
+        constexpr int kAtOnce = kMostLines / 10;
+        beginRemoveRows({}, 0, kAtOnce - 1);
+        m_lines.remove(0, kAtOnce);
+        endRemoveRows();
+    }
+    beginInsertRows({}, m_lines.size(), m_lines.size());
+    m_lines.append(line);
+    endInsertRows();
+}
+
+void Feed::Clear()
+{
+    beginResetModel();
+    m_lines.clear();
+    endResetModel();
+}
+
+int Feed::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_lines.size();
+}
+
+int Feed::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant Feed::data(const QModelIndex& index, int role) const
+{
+    const Line& line = m_lines.at(index.row());
+    if (role == kLevelRole) {
+        return line.level;
+    }
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
+        return {};
+    }
+    switch (index.column()) {
+    case TimeColumn:
+        return line.time.toString(QStringLiteral("HH:mm:ss.zzz"));
+    case LevelColumn:
+        return LevelName(line.level);
+    case TextColumn:
+        return line.text;
+    case SourceColumn:
+        return line.source;
+    default:
+        return {};
+    }
+}
+
+QVariant Feed::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    switch (section) {
+    case TimeColumn:
+        return tr("Time");
+    case LevelColumn:
+        return tr("Level");
+    case TextColumn:
+        return tr("Text");
+    case SourceColumn:
+        return tr("Function");
+    default:
+        return {};
+    }
+}
+
+QString Feed::LevelName(int level)
+{
+    switch (level) {
+    case 2:
+        return tr("Verbose");
+    case 3:
+        return tr("Debug");
+    case 4:
+        return tr("Information");
+    case 5:
+        return tr("Warning");
+    case 6:
+        return tr("Failure");
+    case 7:
+        return tr("Fatal");
+    default:
+        return QString::number(level);
+    }
+}
+
+LogFeed::LogFeed(QObject* parent) : Feed(parent)
+{
+    // Any thread may log.
+    ornl::TalPrintLog::instance().SetObserver([this](const ornl::LogRecord& record) {
+        const Line line{QTime::currentTime(), record.nLevel, QString::fromStdString(record.strMessage),
+                        QString::fromStdString(record.strFunction)};
+        QMetaObject::invokeMethod(
+            this, [this, line] { Append(line); }, Qt::QueuedConnection);
+    });
+}
+
+LogFeed::~LogFeed()
+{
+    ornl::TalPrintLog::instance().SetObserver({});
+}
+
+NotificationFeed::NotificationFeed(QObject* parent) : Feed(parent)
+{
+    connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
+            &ORNGUI::OrnMessageNotify::TextNotificationAdded, this, [this](const QString& text) {
+                Append({QTime::currentTime(), 0, text, {}});
+            });
+}
+
+}  // namespace explorer

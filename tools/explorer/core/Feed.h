@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTime>
+#include <QVector>
+
+namespace explorer {
+
+/// Lines as they come, the oldest first; the oldest go when there are too many.
+class Feed : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column {
+        TimeColumn,
+        LevelColumn,
+        TextColumn,
+        SourceColumn,
+        ColumnCount
+    };
+    static constexpr int kLevelRole = Qt::UserRole;  ///< the level's number
+    static constexpr int kMostLines = 5000;
+
+    struct Line {
+        QTime time;
+        int level = 0;
+        QString text;
+        QString source;
+    };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void Append(const Line& line);
+    void Clear();
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// "Information", "Failure" and so on.
+    static QString LevelName(int level);
+
+private:
+    QVector<Line> m_lines;
+};
+
+/// The lines that the library and others log in this process, for as long as it lives.
+class LogFeed : public Feed {
+    Q_OBJECT
+
+public:
+    explicit LogFeed(QObject* parent = nullptr);
+    ~LogFeed() override;
+};
+
+/// What the user was notified of.
+class NotificationFeed : public Feed {
+    Q_OBJECT
+
+public:
+    explicit NotificationFeed(QObject* parent = nullptr);
+};
+
+}  // namespace explorer

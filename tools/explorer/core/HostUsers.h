@@ -1,0 +1,50 @@
+#pragma once
+
+#include <UserLogical/IUserManager.h>
+
+#include <memory>
+#include <string>
+
+namespace explorer {
+
+/// The user manager of this host: one server at a time, which calls know as -1, 0 and 1.
+class HostUsers : public UserLogical::IUserManager {
+public:
+    /// From now on calls go there; those under way keep the server they were packed for.
+    void Use(const std::string& host, int port, const std::string& token)
+    {
+        m_server = std::make_shared<Connection>(host, port, token);
+    }
+
+    int GetCurrentServerId() override { return 1; }
+
+    std::shared_ptr<UserLogical::IServer> GetServer(int nServerId) override
+    {
+        return nServerId >= -1 && nServerId <= 1 ? m_server : nullptr;
+    }
+
+private:
+    class Connection : public UserLogical::IServer {
+    public:
+        Connection(std::string host, int port, std::string token)
+            : m_host(std::move(host)), m_port(port), m_token(std::move(token))
+        {}
+
+        void GetConnection(UserLogical::ServerConnection& connection) override
+        {
+            connection.strHost = m_host;
+            connection.nPort = m_port;
+        }
+
+        std::string GetToken() override { return m_token; }
+
+    private:
+        const std::string m_host;
+        const int m_port;
+        const std::string m_token;
+    };
+
+    std::shared_ptr<Connection> m_server;
+};
+
+}  // namespace explorer

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "EmulatorProcess.h"
+#include "Feed.h"
+#include "HostUsers.h"
+#include "Runner.h"
+#include "Servers.h"
+#include "Tokens.h"
+#include "TrafficTap.h"
+
+#include <QObject>
+
+#include <optional>
+
+class QSettings;
+
+namespace explorer {
+
+/// The host of the library without its windows: servers and tokens, the emulator, runs, and what is told of them. It
+/// lives as long as the program, while windows come and go.
+class Session : public QObject {
+    Q_OBJECT
+
+public:
+    /// @param settings and @p vault (null for none) must outlive the session
+    Session(QSettings& settings, Tokens::Vault* vault, const QString& emulatorProgram, QObject* parent = nullptr);
+    /// Ends the use of the library.
+    ~Session() override;
+
+    QSettings& settings;
+    Servers servers;
+    Tokens tokens;
+    EmulatorProcess emulator;
+    TrafficTap tap;
+    Runner runner;
+    LogFeed log;
+    NotificationFeed notifications;
+
+    /// The current server's token, nothing while it is not known.
+    [[nodiscard]] std::optional<QString> CurrentToken() const;
+
+    /// Whether calls can be made: always but for an emulator that does not run.
+    [[nodiscard]] bool IsReady() const;
+
+private:
+    void UseCurrentServer();
+
+    HostUsers m_users;
+};
+
+}  // namespace explorer
