@@ -4,7 +4,7 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, DeviceCategoryQueryResult& category)
+static int ReadRecord(const JsonObject& element, DeviceCategoryQueryResult& category)
 {
     return ReadFields(element, "deviceCategory", category.deviceCategory, "deviceCount", category.deviceCount);
 }
@@ -83,8 +83,8 @@ int CBRMSModule::PacketGetPermissionResourceCollection(void* pReqParamData, int 
 int CBRMSModule::ParseGetPermissionResourceCollection(const QJsonObject& data,
                                                       PermissionResourceCollectionResp& collection)
 {
-    QJsonArray menuFunctionCodes;
-    QJsonArray localConfigItemCodes;
+    JsonArray menuFunctionCodes;
+    JsonArray localConfigItemCodes;
     if (ReadFields(data, "menuFunctionCodes", menuFunctionCodes, "localConfigItemCodes", localConfigItemCodes) != 0) {
         return -1;
     }

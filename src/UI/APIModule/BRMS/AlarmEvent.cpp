@@ -2,41 +2,41 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, SummaryAlarmPlan& plan)
+static int ReadRecord(const JsonObject& element, SummaryAlarmPlan& plan)
 {
     return ReadFields(element, "id", plan.id, "planName", plan.planName);
 }
 
-static int ReadRecord(const QJsonObject& element, AlarmLinkChannel& channel)
+static int ReadRecord(const JsonObject& element, AlarmLinkChannel& channel)
 {
     return ReadFields(element, "channelId", channel.channelId, "channelName", channel.channelName);
 }
 
-static int ReadRecord(const QJsonObject& element, AlarmLinkAudioChannel& channel)
+static int ReadRecord(const JsonObject& element, AlarmLinkAudioChannel& channel)
 {
     return ReadFields(element, "channelId", channel.channelId, "channelName", channel.channelName, "fileIds",
                       channel.fileIds);
 }
 
-static int ReadRecord(const QJsonObject& element, AlarmRecordFile& file)
+static int ReadRecord(const JsonObject& element, AlarmRecordFile& file)
 {
     return ReadFields(element, "fileType", file.fileType, "filePath", file.filePath, "ssId", file.ssId, "channelId",
                       file.channelId, "recordTime", file.recordTime, "fileTimeLength", file.fileTimeLength,
                       "fileLength", file.fileLength);
 }
 
-static int ReadRecord(const QJsonObject& element, PluginLogEventType& type)
+static int ReadRecord(const JsonObject& element, PluginLogEventType& type)
 {
     return ReadFields(element, "eventType", type.eventType, "eventTypeName", type.eventTypeName, "sort", type.sort);
 }
 
-static int ReadRecord(const QJsonObject& element, PluginLogTypeGroupInfo& group)
+static int ReadRecord(const JsonObject& element, PluginLogTypeGroupInfo& group)
 {
     return ReadFields(element, "groupId", group.groupId, "groupName", group.groupName, "sort", group.sort, "eventTypes",
                       group.eventTypes);
 }
 
-static int ReadRecord(const QJsonObject& element, GeneralEventRsp& event)
+static int ReadRecord(const JsonObject& element, GeneralEventRsp& event)
 {
     return ReadFields(element, "id", event.id, "eventName", event.eventName);
 }

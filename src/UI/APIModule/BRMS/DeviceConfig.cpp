@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, EncodeConfig& config)
+static int ReadRecord(const JsonObject& element, EncodeConfig& config)
 {
     return ReadFields(element, "streamType", config.streamType, "bitRate", config.bitRate, "bitRateControl",
                       config.bitRateControl, "compression", config.compression, "enable", config.enable, "frameRate",
@@ -10,18 +10,18 @@ static int ReadRecord(const QJsonObject& element, EncodeConfig& config)
                       config.width);
 }
 
-static int ReadRecord(const QJsonObject& element, EncodeFormat& format)
+static int ReadRecord(const JsonObject& element, EncodeFormat& format)
 {
     return ReadFields(element, "frameRateMax", format.frameRateMax, "videoHeight", format.videoHeight, "videoWidth",
                       format.videoWidth);
 }
 
-static int ReadRecord(const QJsonObject& element, EncodeCompressionCapability& capability)
+static int ReadRecord(const JsonObject& element, EncodeCompressionCapability& capability)
 {
     return ReadFields(element, "compression", capability.compression, "formats", capability.formats);
 }
 
-static int ReadRecord(const QJsonObject& element, MultiCastStream& stream)
+static int ReadRecord(const JsonObject& element, MultiCastStream& stream)
 {
     return ReadFields(element, "multicastIp", stream.multicastIp, "multicastPort", stream.multicastPort, "streamType",
                       stream.streamType, "status", stream.status);

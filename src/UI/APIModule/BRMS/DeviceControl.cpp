@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, ChannelControlRsp& failed)
+static int ReadRecord(const JsonObject& element, ChannelControlRsp& failed)
 {
     return ReadFields(element, "channelId", failed.channelId, "errorCode", failed.errorCode);
 }

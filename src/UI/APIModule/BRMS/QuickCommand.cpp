@@ -49,7 +49,7 @@ int CBRMSModule::ParseGetQuickCommand(const QJsonObject& data, QuickCommand& com
                                    command.shortcutKeys, "remark", command.remark, "enableShortcutKeys",
                                    command.enableShortcutKeys, "executeMode", command.executeMode);
     return nResult == 0 ? ReadList(data, QLatin1String("httpUrls"), command.httpUrls,
-                                   [](const QJsonObject& element, QuickCommandHttpUrl& request) {
+                                   [](const JsonObject& element, QuickCommandHttpUrl& request) {
                                        return ReadFields(element, "method", request.method, "url", request.url, "body",
                                                          request.body, "seq", request.seq);
                                    })
@@ -64,7 +64,7 @@ int CBRMSModule::PacketGetQuickCommands(void* pReqParamData, const std::string& 
 
 int CBRMSModule::ParseGetQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands)
 {
-    return ReadList(data, QLatin1String("results"), commands, [](const QJsonObject& element, QuickCommand& command) {
+    return ReadList(data, QLatin1String("results"), commands, [](const JsonObject& element, QuickCommand& command) {
         return ReadFields(element, "quickCommandName", command.quickCommandName, "id", command.id, "shortcutKeys",
                           command.shortcutKeys, "enableShortcutKeys", command.enableShortcutKeys, "remark",
                           command.remark);
@@ -77,14 +77,14 @@ int CBRMSModule::PacketGetAlarmPlanQuickCommands(void* pReqParamData, const std:
                 Url(QStringLiteral("/brms/api/v1.1/alarm/plan/%1/quick/command/list"), Text(planId)), nServerId);
 }
 
-static int ReadPlanRequest(const QJsonObject& element, QuickCommandHttpUrl& request)
+static int ReadPlanRequest(const JsonObject& element, QuickCommandHttpUrl& request)
 {
     return ReadFields(element, "method", request.method, "url", request.url, "seq", request.seq);
 }
 
 int CBRMSModule::ParseGetAlarmPlanQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands)
 {
-    return ReadList(data, QLatin1String("results"), commands, [](const QJsonObject& element, QuickCommand& command) {
+    return ReadList(data, QLatin1String("results"), commands, [](const JsonObject& element, QuickCommand& command) {
         return ReadFields(element, "quickCommandName", command.quickCommandName) == 0
                    ? ReadList(element, QLatin1String("httpUrls"), command.httpUrls, ReadPlanRequest)
                    : -1;

@@ -2,18 +2,18 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, WarnDisk& disk)
+static int ReadRecord(const JsonObject& element, WarnDisk& disk)
 {
     return ReadFields(element, "path", disk.path, "slot", disk.slot);
 }
 
-static int ReadRecord(const QJsonObject& element, DiskWarmParam& server)
+static int ReadRecord(const JsonObject& element, DiskWarmParam& server)
 {
     return ReadFields(element, "serverIp", server.serverIp, "serverType", server.serverType, "warnDisks",
                       server.warnDisks);
 }
 
-static int ReadRecord(const QJsonObject& element, NetWorkItem& netWork)
+static int ReadRecord(const JsonObject& element, NetWorkItem& netWork)
 {
     return ReadFields(element, "netWorkName", netWork.netWorkName, "netWorkValue", netWork.netWorkValue);
 }
@@ -59,7 +59,7 @@ int CBRMSModule::PacketGetMemoryOutOfServerList(void* pReqParamData, int nServer
 
 int CBRMSModule::ParseGetMemoryOutOfServerList(const QJsonObject& data, std::vector<std::string>& serverIps)
 {
-    return ReadList(data, QLatin1String("results"), serverIps, [](const QJsonObject& element, std::string& serverIp) {
+    return ReadList(data, QLatin1String("results"), serverIps, [](const JsonObject& element, std::string& serverIp) {
         return ReadFields(element, "serverIp", serverIp);
     });
 }

@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& object, UserConfigUserGroups& group)
+static int ReadRecord(const JsonObject& object, UserConfigUserGroups& group)
 {
     return ReadFields(object, "id", group.id, "groupName", group.groupName, "memo", group.memo);
 }

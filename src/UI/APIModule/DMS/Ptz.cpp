@@ -13,9 +13,9 @@ static QJsonObject WashCommand(const std::string& channelId)
 
 /// PtzWashStatus and PtzPositionResetReq are read alike.
 template <typename Status>
-static int ReadStatus(const QJsonObject& data, Status& status)
+static int ReadStatus(const JsonObject& data, Status& status)
 {
-    QJsonObject lockUser;
+    JsonObject lockUser;
     if (ReadFields(data, "lockUser", lockUser, "result", status.result) != 0) {
         return -1;
     }

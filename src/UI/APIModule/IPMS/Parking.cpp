@@ -2,19 +2,19 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, SimpleParkingPointInfo& point)
+static int ReadRecord(const JsonObject& element, SimpleParkingPointInfo& point)
 {
     return ReadFields(element, "id", point.id, "pointName", point.pointName, "remark", point.remark, "refPointId",
                       point.refPointId, "direction", point.direction, "mode", point.mode);
 }
 
-static int ReadRecord(const QJsonObject& element, SimpleParkingPositionInfo& position)
+static int ReadRecord(const JsonObject& element, SimpleParkingPositionInfo& position)
 {
     return ReadFields(element, "id", position.id, "positionName", position.positionName, "remark", position.remark,
                       "points", position.points);
 }
 
-static int ReadRecord(const QJsonObject& element, SimpleParkingLotInfoRsp& lot)
+static int ReadRecord(const JsonObject& element, SimpleParkingLotInfoRsp& lot)
 {
     return ReadFields(element, "id", lot.id, "parkingLotName", lot.parkingLotName, "orgCode", lot.orgCode, "orgName",
                       lot.orgName, "parentParkingLotId", lot.parentParkingLotId, "parentParkingLotName",
@@ -23,25 +23,25 @@ static int ReadRecord(const QJsonObject& element, SimpleParkingLotInfoRsp& lot)
                       "positions", lot.positions);
 }
 
-static int ReadRecord(const QJsonObject& element, ParkingChannelInfo& channel)
+static int ReadRecord(const JsonObject& element, ParkingChannelInfo& channel)
 {
     return ReadFields(element, "channelId", channel.channelId, "channelType", channel.channelType);
 }
 
-static int ReadRecord(const QJsonObject& element, DetailParkingPointInfo& point)
+static int ReadRecord(const JsonObject& element, DetailParkingPointInfo& point)
 {
     return ReadFields(element, "id", point.id, "pointName", point.pointName, "remark", point.remark, "refPointId",
                       point.refPointId, "refPointName", point.refPointName, "direction", point.direction, "mode",
                       point.mode, "channels", point.channels, "refChannels", point.refChannels);
 }
 
-static int ReadRecord(const QJsonObject& element, DetailParkingPositionInfo& position)
+static int ReadRecord(const JsonObject& element, DetailParkingPositionInfo& position)
 {
     return ReadFields(element, "id", position.id, "positionName", position.positionName, "remark", position.remark,
                       "points", position.points);
 }
 
-static int ReadRecord(const QJsonObject& element, DatailParkingLotInfoRsp& lot)
+static int ReadRecord(const JsonObject& element, DatailParkingLotInfoRsp& lot)
 {
     return ReadFields(element, "id", lot.id, "parkingLotName", lot.parkingLotName, "orgCode", lot.orgCode, "orgName",
                       lot.orgName, "parentParkingLotId", lot.parentParkingLotId, "parentParkingLotName",
@@ -52,7 +52,7 @@ static int ReadRecord(const QJsonObject& element, DatailParkingLotInfoRsp& lot)
                       lot.positions);
 }
 
-static int ReadRecord(const QJsonObject& element, OrganizationInfoRsp& organization)
+static int ReadRecord(const JsonObject& element, OrganizationInfoRsp& organization)
 {
     return ReadFields(element, "orgCode", organization.orgCode, "orgName", organization.orgName, "parentOrgCode",
                       organization.parentOrgCode, "hasChild", organization.hasChild, "hasAuthority",

@@ -5,24 +5,24 @@ namespace APIModule {
 /// The managed persons are always asked from the user manager's current server.
 static constexpr int kCurrentServerId = -1;
 
-static int ReadRecord(const QJsonObject& element, PersonOrgInfo& organization)
+static int ReadRecord(const JsonObject& element, PersonOrgInfo& organization)
 {
     return ReadFields(element, "orgCode", organization.orgCode, "orgName", organization.orgName);
 }
 
-static int ReadRecord(const QJsonObject& element, AccessAuthorizePersonInfo& person)
+static int ReadRecord(const JsonObject& element, AccessAuthorizePersonInfo& person)
 {
     return ReadFields(element, "personId", person.personId, "personName", person.personName, "orgCode", person.orgCode,
                       "orgName", person.orgName, "orgInfos", person.orgInfos);
 }
 
-static int ReadRecord(const QJsonObject& element, ManagePersonInfo& person)
+static int ReadRecord(const JsonObject& element, ManagePersonInfo& person)
 {
     return ReadFields(element, "personId", person.personId, "personName", person.personName, "orgCode", person.orgCode,
                       "orgName", person.orgName, "errorCode", person.errorCode, "orgInfos", person.orgInfos);
 }
 
-static int ReadRecord(const QJsonObject& element, RuleInfo& rule)
+static int ReadRecord(const JsonObject& element, RuleInfo& rule)
 {
     return ReadFields(element, "ruleId", rule.ruleId, "ruleName", rule.ruleName, "ruleType", rule.ruleType,
                       "hasOfflinePoint", rule.hasOfflinePoint);

@@ -5,7 +5,7 @@ namespace APIModule {
 static constexpr int kDeleteAllContacts = 1;
 static constexpr int kDeleteListedContacts = 2;
 
-static int ReadRecord(const QJsonObject& element, DesfireFailureInfo& failure)
+static int ReadRecord(const JsonObject& element, DesfireFailureInfo& failure)
 {
     return ReadFields(element, "id", failure.id, "deviceCode", failure.deviceCode, "deviceName", failure.deviceName,
                       "deviceIp", failure.deviceIp, "reason", failure.reason);

@@ -2,7 +2,7 @@
 
 namespace APIModule {
 
-static int ReadRecord(const QJsonObject& element, AlertInfoResp& alertType)
+static int ReadRecord(const JsonObject& element, AlertInfoResp& alertType)
 {
     return ReadFields(element, "alertTypeId", alertType.alertTypeId, "alertTypeName", alertType.alertTypeName);
 }

@@ -1,44 +1,70 @@
 #pragma once
 
-#include "Log.h"
-
+#include <QCborArray>
+#include <QCborMap>
+#include <QCborValue>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
 #include <QVariant>
 
+#include <limits>
+#include <optional>
 #include <string>
 
-/// Access to JSON values by a key of either text type, so that a constant key needs no QString. Results and log lines
-/// are those of CCommonFunc.
+/// Access to JSON values by key. Results and log lines are those of CCommonFunc.
 namespace APIModule::detail {
 
-inline constexpr const char* kCommonFuncFile = "src/UI/APIModule/public/CommonFunc";
+/// Stores the text as UTF-8.
+void StoreUtf8(const QString& text, std::string& result);
 
-inline void Convert(const QJsonValue& value, int& result)
+/// The value when it is a whole number of usual size.
+inline std::optional<long long> WholeNumber(const QJsonValue& value)
 {
-    result = value.toVariant().toInt();
+    constexpr int kOther = std::numeric_limits<int>::min();
+    const int number = value.toInt(kOther);
+    return number != kOther ? std::optional<long long>(number) : std::nullopt;
 }
 
-inline void Convert(const QJsonValue& value, double& result)
+inline std::optional<long long> WholeNumber(const QCborValue& value)
 {
-    result = value.toVariant().toDouble();
+    return value.isInteger() ? std::optional<long long>(value.toInteger()) : std::nullopt;
 }
 
-inline void Convert(const QJsonValue& value, long long& result)
+// Each conversion gives what the value's variant gives; what is usual goes without the variant.
+
+template <typename Value>
+void Convert(const Value& value, int& result)
 {
-    result = value.toVariant().toLongLong();
+    const std::optional<long long> number = WholeNumber(value);
+    result = number ? int(*number) : value.toVariant().toInt();
 }
 
-inline void Convert(const QJsonValue& value, bool& result)
+template <typename Value>
+void Convert(const Value& value, double& result)
+{
+    const std::optional<long long> number = WholeNumber(value);
+    result = number ? double(*number) : value.toVariant().toDouble();
+}
+
+template <typename Value>
+void Convert(const Value& value, long long& result)
+{
+    const std::optional<long long> number = WholeNumber(value);
+    result = number ? *number : value.toVariant().toLongLong();
+}
+
+template <typename Value>
+void Convert(const Value& value, bool& result)
 {
     result = value.isBool() ? value.toBool() : value.toVariant().toBool();
 }
 
-inline void Convert(const QJsonValue& value, std::string& result)
+template <typename Value>
+void Convert(const Value& value, std::string& result)
 {
-    result = (value.isString() ? value.toString() : value.toVariant().toString()).toStdString();
+    StoreUtf8(value.isString() ? value.toString() : value.toVariant().toString(), result);
 }
 
 // A variant knows a way to objects from maps and to arrays from lists alone, which gives the value itself again.
@@ -53,33 +79,40 @@ inline void Convert(const QJsonValue& value, QJsonArray& result)
     result = value.toArray();
 }
 
-/// True, with a log line, when the object has no keys.
-inline bool IsEmpty(const QJsonObject& object)
+inline void Convert(const QCborValue& value, QCborMap& result)
 {
-    if (!object.isEmpty()) {
-        return false;
-    }
-    LogFailure({kCommonFuncFile, "APIModule::CCommonFunc::IsEmpty"}, "Invalid parameter, jsonObject is empty.");
-    return true;
+    result = value.toMap();
 }
 
+inline void Convert(const QCborValue& value, QCborArray& result)
+{
+    result = value.toArray();
+}
+
+void LogEmptyObject();
 void LogMissingKey(const QString& key);
 void LogUndefinedValue(const QString& key);
 
-template <typename Key, typename Result>
-int ReadConverted(const QJsonObject& object, const Key& key, Result& result)
+/// Logs why an object gives no value for the key.
+template <typename Object>
+void LogNoValue(const Object& object, const QString& key)
 {
-    if (IsEmpty(object)) {
-        return -1;
-    }
-    const auto found = object.constFind(key);
-    if (found == object.constEnd()) {
+    if (object.isEmpty()) {
+        LogEmptyObject();
+    } else if (!object.contains(key)) {
         LogMissingKey(key);
-        return -1;
-    }
-    const QJsonValue value = *found;
-    if (value.isUndefined()) {
+    } else {
         LogUndefinedValue(key);
+    }
+}
+
+/// One value by its key. @return 0, or -1 with a log line
+template <typename Object, typename Key, typename Result>
+int ReadConverted(const Object& object, const Key& key, Result& result)
+{
+    const auto value = object.value(key);
+    if (value.isUndefined()) {
+        LogNoValue(object, key);
         return -1;
     }
     Convert(value, result);

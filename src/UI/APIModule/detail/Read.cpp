@@ -4,58 +4,58 @@
 
 namespace APIModule::detail {
 
-int ReadValue(const QJsonObject& object, QLatin1String key, int& value)
+int ReadValue(const JsonObject& object, QLatin1String key, int& value)
 {
     return ReadConverted(object, key, value);
 }
 
-int ReadValue(const QJsonObject& object, QLatin1String key, double& value)
+int ReadValue(const JsonObject& object, QLatin1String key, double& value)
 {
     return ReadConverted(object, key, value);
 }
 
-int ReadValue(const QJsonObject& object, QLatin1String key, QJsonObject& value)
+int ReadValue(const JsonObject& object, QLatin1String key, JsonObject& value)
 {
     return ReadConverted(object, key, value);
 }
 
-int ReadValue(const QJsonObject& object, QLatin1String key, std::string& value)
+int ReadValue(const JsonObject& object, QLatin1String key, std::string& value)
 {
     return ReadConverted(object, key, value);
 }
 
-int ReadValue(const QJsonObject& object, QLatin1String key, QJsonArray& value)
+int ReadValue(const JsonObject& object, QLatin1String key, JsonArray& value)
 {
     return ReadConverted(object, key, value);
 }
 
-int ReadValue(const QJsonObject& object, QLatin1String key, int64& value)
+int ReadValue(const JsonObject& object, QLatin1String key, int64& value)
 {
     return ReadConverted(object, key, value);
 }
 
-int ReadValue(const QJsonObject& object, QLatin1String key, bool& value)
+int ReadValue(const JsonObject& object, QLatin1String key, bool& value)
 {
     return ReadConverted(object, key, value);
 }
 
-void AppendTexts(const QJsonArray& array, std::vector<std::string>& texts)
+void AppendTexts(const JsonArray& array, std::vector<std::string>& texts)
 {
-    for (const QJsonValue& value : array) {
+    for (const QCborValue& value : array) {
         texts.push_back(value.toString().toStdString());
     }
 }
 
-void AppendNumbersOfTexts(const QJsonArray& array, std::vector<int>& numbers)
+void AppendNumbersOfTexts(const JsonArray& array, std::vector<int>& numbers)
 {
-    for (const QJsonValue& value : array) {
+    for (const QCborValue& value : array) {
         numbers.push_back(value.toString().toInt(nullptr, 10));
     }
 }
 
-int ReadNumbersOfTexts(const QJsonObject& object, QLatin1String key, std::vector<int>& numbers)
+int ReadNumbersOfTexts(const JsonObject& object, QLatin1String key, std::vector<int>& numbers)
 {
-    QJsonArray array;
+    JsonArray array;
     if (ReadValue(object, key, array) != 0) {
         return -1;
     }

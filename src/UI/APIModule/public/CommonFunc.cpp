@@ -41,7 +41,11 @@ int CCommonFunc::GetJsonValue(const QJsonObject& jsonObject, const QString& key,
 
 bool CCommonFunc::IsEmpty(const QJsonObject& jsonObject)
 {
-    return detail::IsEmpty(jsonObject);
+    if (!jsonObject.isEmpty()) {
+        return false;
+    }
+    detail::LogEmptyObject();
+    return true;
 }
 
 bool CCommonFunc::IsKeyValid(const QJsonObject& jsonObject, const QString& key)
