@@ -1,6 +1,7 @@
 // Reading of replies: what the library's Parses cost beside reading the JSON text itself, and the way from the text to
 // the records beside other libraries.
 #include "Bench.h"
+#include "reading/Lists.h"
 #include "reading/ParkingLots.h"
 #include "reading/Peers.h"
 #include "reading/Same.h"
@@ -13,13 +14,16 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
 
 namespace bench {
 namespace {
 
-QJsonObject Envelope(const QByteArray& text)
+constexpr const char* kFromJson = "fromJson";
+
+QJsonObject ObjectOf(const QByteArray& text)
 {
     return QJsonDocument::fromJson(text).object();
 }
@@ -47,7 +51,7 @@ ParkingLots Read(const QJsonObject& data)
 /// From the text to the records, the envelope included. The way of a call itself begins at the network.
 ParkingLots ReadWithLibrary(const Reply& reply)
 {
-    const QJsonObject envelope = Envelope(reply.text);
+    const QJsonObject envelope = ObjectOf(reply.text);
     benchmark::DoNotOptimize(envelope.value(QLatin1String("desc")).toString());
     return envelope.value(QLatin1String("code")).toInt(0) == kSuccess ? Read(DataOf(envelope)) : ParkingLots();
 }
@@ -78,7 +82,7 @@ const Reply& ReplyWith(int count)
         ParkingLots lots = MakeParkingLots(count);
         reply.text = ReplyOf(lots);
         reply.text.reserve(reply.text.size() + PaddingOfSimdjson());
-        reply.data = DataOf(Envelope(reply.text));
+        reply.data = DataOf(ObjectOf(reply.text));
         const catalogue::Type& type = *catalogue::FindCall("IPMS.GetDetailParkingLots")->result;
         for (const Reader& reader : kReaders) {
             ParkingLots read = reader.read(reply);
@@ -109,16 +113,50 @@ void RegisterParkingLots(int count)
 {
     const char* records = "detailed parking lots, records";
     Register(records, count, kLibrary, [](const Reply& reply) { return Read(reply.data); });
-    Register(records, count, "fromJson", [](const Reply& reply) { return QJsonDocument::fromJson(reply.text); });
+    Register(records, count, kFromJson, [](const Reply& reply) { return QJsonDocument::fromJson(reply.text); });
     for (const Reader& reader : kReaders) {
         Register("detailed parking lots, text to records", count, reader.name, reader.read);
     }
+}
+
+/// Reads a list reply into a fresh record.
+catalogue::Value Read(const catalogue::Call& call, const QJsonObject& data)
+{
+    catalogue::Value record(*call.result);
+    Require(call.parse(data, record.Data()) == 0, call.name + " read");
+    return record;
+}
+
+void Register(const ListReply& reply)
+{
+    const catalogue::Call& call = *reply.call;
+    const QJsonObject data = ObjectOf(reply.text);
+    const auto countLists =
+        std::count_if(data.begin(), data.end(), [](const QJsonValue& value) { return value.isArray(); });
+    const catalogue::Value record = Read(call, data);
+    Require(CountElements(*call.result, record.Data()) == std::size_t(countLists) * kElements,
+            call.name + " read whole");
+
+    const std::string work = "list of " + std::to_string(kElements) + ", " + call.name + "/";
+    benchmark::RegisterBenchmark((work + kLibrary).c_str(), [=, &call](benchmark::State& state) {
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(Read(call, data));
+        }
+    });
+    benchmark::RegisterBenchmark((work + kFromJson).c_str(), [text = reply.text](benchmark::State& state) {
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(QJsonDocument::fromJson(text));
+        }
+    });
 }
 
 }  // namespace
 
 void RegisterBenchmarks()
 {
+    for (const ListReply& reply : ListReplies()) {
+        Register(reply);
+    }
     for (const int count : {30, 100, 300, 3000, 30000}) {
         RegisterParkingLots(count);
     }

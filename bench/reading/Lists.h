@@ -1,0 +1,25 @@
+#pragma once
+
+#include <catalogue/Call.h>
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace bench {
+
+/// The data of a reply whose lists have a thousand elements each.
+struct ListReply {
+    const catalogue::Call* call;
+    QByteArray text;
+};
+
+constexpr std::size_t kElements = 1000;
+
+/// One for every Parse that reads a list, but for the detailed parking lots.
+std::vector<ListReply> ListReplies();
+
+/// The number of elements in the lists of a record that is read from such a reply, inner lists not counted.
+std::size_t CountElements(const catalogue::Type& type, void* record);
+
+}  // namespace bench
