@@ -41,14 +41,14 @@ int ReadValue(const JsonObject& object, QLatin1String key, bool& value)
 
 void AppendTexts(const JsonArray& array, std::vector<std::string>& texts)
 {
-    for (const QCborValue& value : array) {
+    for (const auto& value : array) {
         texts.push_back(value.toString().toStdString());
     }
 }
 
 void AppendNumbersOfTexts(const JsonArray& array, std::vector<int>& numbers)
 {
-    for (const QCborValue& value : array) {
+    for (const auto& value : array) {
         numbers.push_back(value.toString().toInt(nullptr, 10));
     }
 }

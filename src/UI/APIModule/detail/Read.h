@@ -44,7 +44,7 @@ template <typename Element, typename ReadElement>
 int ReadElements(const JsonArray& array, std::vector<Element>& list, ReadElement readElement)
 {
     list.reserve(list.size() + std::size_t(array.size()));
-    for (const QCborValue& value : array) {
+    for (const auto& value : array) {
         if (readElement(JsonObject(value), list.emplace_back()) != 0) {
             list.pop_back();
             return -1;
