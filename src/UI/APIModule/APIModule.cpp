@@ -269,3 +269,6 @@ void CAPIModule::NotifyErrorMessage(const QString& strUIError, int errorCode, bo
 }
 
 }  // namespace APIModule
+
+// Here, so that one unit holds the whole class: abidw loses functions of a class whose definitions are spread.
+#include "moc_APIModule.cpp"  // NOLINT(bugprone-suspicious-include)

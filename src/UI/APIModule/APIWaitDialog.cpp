@@ -32,3 +32,6 @@ CAPIWaitDialog::~CAPIWaitDialog()
 }
 
 }  // namespace APIModule
+
+// Here, so that one unit holds the whole class: abidw loses functions of a class whose definitions are spread.
+#include "moc_APIWaitDialog.cpp"  // NOLINT(bugprone-suspicious-include)
