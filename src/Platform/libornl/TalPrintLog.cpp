@@ -1,6 +1,7 @@
 #include "TalPrintLog.h"
 
 #include <spdlog/logger.h>
+#include <spdlog/pattern_formatter.h>
 #include <spdlog/sinks/dist_sink.h>
 #include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/sinks/stdout_sinks.h>
@@ -9,7 +10,9 @@
 #include <cstdio>
 #include <exception>
 #include <mutex>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace ornl {
 namespace {
@@ -47,27 +50,74 @@ spdlog::level::level_enum SpdlogLevel(int level)
 /// A format that cannot be carried out gives its own text.
 ORNL_PRINTF(1, 0) std::string Formatted(const char* format, std::va_list arguments)
 {
-    std::va_list counted;
-    va_copy(counted, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, counted);
-    va_end(counted);
-    if (length < 0) {
-        return format;
+    constexpr std::size_t kUsualSize = 256;
+    std::va_list again;
+    va_copy(again, arguments);
+    std::string text(kUsualSize, '\0');
+    const int length = std::vsnprintf(text.data(), text.size(), format, arguments);
+    if (length >= 0) {
+        text.resize(static_cast<std::size_t>(length) + 1);
+        if (text.size() > kUsualSize) {
+            (void)std::vsnprintf(text.data(), text.size(), format, again);
+        }
+        text.pop_back();
     }
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    (void)std::vsnprintf(text.data(), text.size(), format, arguments);
-    text.pop_back();
-    return text;
+    va_end(again);
+    return length < 0 ? format : text;
 }
 
-std::string Line(const LogRecord& record)
+std::string Line(const char* file, int line, const char* function, std::string_view tag, const std::string& message)
 {
-    std::string line = record.strFile + ':' + std::to_string(record.nLine) + ' ' + record.strFunction + ": ";
-    if (!record.strTag.empty()) {
-        line += '[' + record.strTag + "] ";
+    constexpr std::size_t kUsualSize = 256;
+    std::string text;
+    text.reserve(kUsualSize + message.size());
+    text.append(file).append(1, ':').append(std::to_string(line)).append(1, ' ').append(function).append(": ");
+    if (!tag.empty()) {
+        text.append(1, '[').append(tag).append("] ");
     }
-    return line += record.strMessage;
+    return text.append(message);
 }
+
+/// Writes a line that is complete already.
+class CompleteLine : public spdlog::formatter {
+public:
+    void format(const spdlog::details::log_msg& line, spdlog::memory_buf_t& written) override
+    {
+        written.append(line.payload.begin(), line.payload.end());
+    }
+    std::unique_ptr<spdlog::formatter> clone() const override { return std::make_unique<CompleteLine>(); }
+};
+
+/// Completes each line once for all sinks.
+class Sinks : public spdlog::sinks::dist_sink_mt {
+public:
+    /// Standard error and, when it is not null, a second sink.
+    void Set(const spdlog::sink_ptr& second)
+    {
+        std::vector<spdlog::sink_ptr> all{m_stderr};
+        if (second) {
+            all.push_back(second);
+        }
+        for (const spdlog::sink_ptr& each : all) {
+            each->set_formatter(std::make_unique<CompleteLine>());
+        }
+        set_sinks(std::move(all));
+    }
+
+protected:
+    void sink_it_(const spdlog::details::log_msg& message) override
+    {
+        spdlog::memory_buf_t line;
+        m_pattern.format(message, line);
+        spdlog::details::log_msg complete = message;
+        complete.payload = {line.data(), line.size()};
+        dist_sink::sink_it_(complete);
+    }
+
+private:
+    const spdlog::sink_ptr m_stderr = std::make_shared<spdlog::sinks::stderr_sink_mt>();
+    spdlog::pattern_formatter m_pattern{kPattern};
+};
 
 void ReportOnStderr(const char* what, const char* reason)
 {
@@ -80,8 +130,8 @@ class TalPrintLog::Private {
 public:
     Private()
     {
+        sinks->Set(nullptr);
         logger.set_level(spdlog::level::trace);
-        logger.set_pattern(kPattern);
         logger.flush_on(spdlog::level::trace);
     }
 
@@ -91,9 +141,7 @@ public:
         return observer;
     }
 
-    const spdlog::sink_ptr stderrSink = std::make_shared<spdlog::sinks::stderr_sink_mt>();
-    const std::shared_ptr<spdlog::sinks::dist_sink_mt> sinks =
-        std::make_shared<spdlog::sinks::dist_sink_mt>(std::vector<spdlog::sink_ptr>{stderrSink});
+    const std::shared_ptr<Sinks> sinks = std::make_shared<Sinks>();
     spdlog::logger logger{"ornl", sinks};
     std::mutex fileMutex;
 
@@ -114,17 +162,18 @@ TalPrintLog& TalPrintLog::instance()
 void TalPrintLog::Log(const char* file, int line, const char* function, const char* tag, int level, const char* format,
                       ...)
 try {
-    LogRecord record{OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, {}};
+    std::string message;
     std::va_list arguments;
     va_start(arguments, format);
     if (format) {
-        record.strMessage = Formatted(format, arguments);
+        message = Formatted(format, arguments);
     }
     va_end(arguments);
 
-    d->logger.log(SpdlogLevel(level), spdlog::string_view_t(Line(record)));
+    const std::string text = Line(OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), message);
+    d->logger.log(SpdlogLevel(level), spdlog::string_view_t(text));
     if (const auto observer = d->CurrentObserver()) {
-        (*observer)(record);
+        (*observer)({OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, std::move(message)});
     }
 } catch (const std::exception& error) {
     ReportOnStderr("a record was not logged completely", error.what());
@@ -143,12 +192,9 @@ void TalPrintLog::SetObserver(std::function<void(const LogRecord&)> observer)
 void TalPrintLog::SetFile(const std::string& strFileName)
 try {
     const std::lock_guard<std::mutex> lock(d->fileMutex);
-    d->sinks->set_sinks({d->stderrSink});
+    d->sinks->Set(nullptr);
     if (!strFileName.empty()) {
-        auto fileSink =
-            std::make_shared<spdlog::sinks::rotating_file_sink_mt>(strFileName, kMaxFileSize, kRotatedFiles);
-        fileSink->set_pattern(kPattern);
-        d->sinks->add_sink(std::move(fileSink));
+        d->sinks->Set(std::make_shared<spdlog::sinks::rotating_file_sink_mt>(strFileName, kMaxFileSize, kRotatedFiles));
     }
 } catch (const std::exception& error) {
     ReportOnStderr(strFileName.c_str(), error.what());
