@@ -34,6 +34,9 @@ void Wait::Run()
 
 void Wait::End()
 {
+    if (m_bEnded) {
+        return;
+    }
     m_bEnded = true;
     if (m_pDialog) {
         m_pDialog->OnStopWaitImmediately();
