@@ -41,13 +41,15 @@ int ReadValue(const JsonObject& object, QLatin1String key, bool& value)
 
 void AppendTexts(const JsonArray& array, std::vector<std::string>& texts)
 {
+    texts.reserve(texts.size() + std::size_t(array.size()));
     for (const auto& value : array) {
-        texts.push_back(value.toString().toStdString());
+        StoreUtf8(value.toString(), texts.emplace_back());
     }
 }
 
 void AppendNumbersOfTexts(const JsonArray& array, std::vector<int>& numbers)
 {
+    numbers.reserve(numbers.size() + std::size_t(array.size()));
     for (const auto& value : array) {
         numbers.push_back(value.toString().toInt(nullptr, 10));
     }
