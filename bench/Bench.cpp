@@ -9,11 +9,16 @@
 
 namespace bench {
 
+void Fail(const std::string& why)
+{
+    std::cerr << why << std::endl;
+    std::_Exit(EXIT_FAILURE);
+}
+
 void Require(bool isSame, const std::string& what)
 {
     if (!isSame) {
-        std::cerr << "not the same: " << what << std::endl;
-        std::_Exit(EXIT_FAILURE);
+        Fail("not the same: " + what);
     }
 }
 

@@ -13,6 +13,9 @@ namespace bench {
 /// The contender that is measured against the others.
 constexpr const char* kLibrary = "APIModule";
 
+/// Ends the program.
+[[noreturn]] void Fail(const std::string& why);
+
 /// Ends the program when contenders do not give the same: what one of them leaves out would cost it nothing.
 void Require(bool isSame, const std::string& what);
 

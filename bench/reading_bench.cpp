@@ -44,7 +44,9 @@ struct Reply {
 ParkingLots Read(const QJsonObject& data)
 {
     ParkingLots lots;
-    Require(APIModule::CIPMSModule::ParseGetDetailParkingLots(data, lots) == 0, "a parse failed");
+    if (APIModule::CIPMSModule::ParseGetDetailParkingLots(data, lots) != 0) {
+        Fail("detailed parking lots were not read");
+    }
     return lots;
 }
 
@@ -123,7 +125,9 @@ void RegisterParkingLots(int count)
 catalogue::Value Read(const catalogue::Call& call, const QJsonObject& data)
 {
     catalogue::Value record(*call.result);
-    Require(call.parse(data, record.Data()) == 0, call.name + " read");
+    if (call.parse(data, record.Data()) != 0) {
+        Fail(call.name + " was not read");
+    }
     return record;
 }
 

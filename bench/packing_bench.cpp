@@ -1,0 +1,129 @@
+// Packing of requests: what each Pack of the library costs beside the same request written by hand with Qt.
+#include "Bench.h"
+#include "packing/Allocations.h"
+#include "packing/ByHand.h"
+
+#include <catalogue/Call.h>
+#include <e2e/rows/Rows.h>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace bench {
+namespace {
+
+using APIModule::RequestParam;
+
+/// Knows one server and gives it without work of its own.
+class UserManager : public UserLogical::IUserManager {
+public:
+    int GetCurrentServerId() override { return 1; }
+    std::shared_ptr<UserLogical::IServer> GetServer(int /*nServerId*/) override { return m_pServer; }
+
+private:
+    class Server : public UserLogical::IServer {
+    public:
+        void GetConnection(UserLogical::ServerConnection& connection) override
+        {
+            connection.strHost = "192.168.10.2";
+            connection.nPort = 443;
+        }
+        std::string GetToken() override { return "0123456789abcdef0123456789abcdef"; }
+    };
+
+    const std::shared_ptr<Server> m_pServer = std::make_shared<Server>();
+};
+
+/// Arguments as the tests against the emulator have them.
+std::vector<catalogue::Value> MakeArguments(const catalogue::Call& call)
+{
+    const e2e::Json& arguments = e2e::RowOf(call.name).arguments;
+    return catalogue::ReadArguments(call, arguments.is_null() ? e2e::Json::object() : arguments);
+}
+
+/// A Pack with arguments of its own.
+class Packing {
+public:
+    Packing(Pack pack, const catalogue::Call& call) : m_pack(std::move(pack)), m_values(MakeArguments(call))
+    {
+        for (const catalogue::Value& value : m_values) {
+            m_arguments.push_back(value.Data());
+        }
+    }
+
+    [[nodiscard]] RequestParam Run() const
+    {
+        RequestParam request;
+        if (m_pack(&request, m_arguments.data(), -1) != 0) {
+            Fail("a request was not packed");
+        }
+        return request;
+    }
+
+private:
+    Pack m_pack;
+    std::vector<catalogue::Value> m_values;
+    std::vector<void*> m_arguments;
+};
+
+bool Same(const RequestParam& left, const RequestParam& right)
+{
+    const auto all = [](const RequestParam& request) {
+        return std::tie(request.nPort, request.nTimeout, request.bHttps, request.bCompress, request.eMethod,
+                        request.strIp, request.strUrl, request.strBody, request.strToken, request.strSequence,
+                        request.bExcludeUserInput);
+    };
+    return all(left) == all(right);
+}
+
+std::size_t AllocationsOf(const Packing& packing)
+{
+    const std::size_t before = Allocations();
+    benchmark::DoNotOptimize(packing.Run());
+    return Allocations() - before;
+}
+
+void Register(const std::string& name, const std::shared_ptr<const Packing>& pPacking)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [pPacking](benchmark::State& state) {
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(pPacking->Run());
+        }
+        state.counters["allocations"] = double(AllocationsOf(*pPacking));
+    });
+}
+
+void Register(const catalogue::Call& call, const Pack& byHand)
+{
+    const auto pLibrary = std::make_shared<const Packing>(call.pack, call);
+    const auto pByHand = std::make_shared<const Packing>(byHand, call);
+    Require(Same(pLibrary->Run(), pByHand->Run()), call.name + " packed by hand");
+
+    Register("pack " + call.name + "/" + kLibrary, pLibrary);
+    Register("pack " + call.name + "/by hand", pByHand);
+}
+
+}  // namespace
+
+void RegisterBenchmarks()
+{
+    static UserManager userManager;
+    APIModule::CAPIModule::GetInstance().Init(&userManager);
+
+    std::size_t count = 0;
+    for (const std::vector<HandWritten>& family : {BrmsByHand(), OtherFamiliesByHand()}) {
+        for (const HandWritten& row : family) {
+            const catalogue::Call* pCall = catalogue::FindCall(row.call);
+            Require(pCall != nullptr, std::string(row.call) + " is a call");
+            Register(*pCall, row.pack);
+            ++count;
+        }
+    }
+    Require(count == catalogue::Calls().size(), "the calls and those that are packed by hand");
+}
+
+}  // namespace bench
