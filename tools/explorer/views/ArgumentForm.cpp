@@ -92,11 +92,11 @@ void ArgumentForm::SetCall(const catalogue::Call& call)
 
 QJsonObject ArgumentForm::Arguments() const
 {
-    QJsonObject arguments;
+    json arguments = json::object();
     for (const auto& [name, pEditor] : m_editors) {
-        arguments.insert(QString::fromStdString(name), ToQt(pEditor->Value()));
+        arguments[name] = pEditor->Value();
     }
-    return arguments;
+    return ToQt(arguments);
 }
 
 void ArgumentForm::SetArguments(const QJsonObject& arguments)

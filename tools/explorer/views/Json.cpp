@@ -1,6 +1,7 @@
 #include "Json.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QVariant>
 
 namespace explorer {
@@ -51,35 +52,12 @@ json FromQt(const QJsonValue& value)
     }
 }
 
-QJsonValue ToQt(const json& value)
+QJsonObject ToQt(const json& object)
 {
-    switch (value.type()) {
-    case json::value_t::boolean:
-        return value.get<bool>();
-    case json::value_t::number_integer:
-    case json::value_t::number_unsigned:
-        return QJsonValue(value.get<qint64>());
-    case json::value_t::number_float:
-        return value.get<double>();
-    case json::value_t::string:
-        return QString::fromStdString(value.get_ref<const std::string&>());
-    case json::value_t::array: {
-        QJsonArray array;
-        for (const json& element : value) {
-            array.append(ToQt(element));
-        }
-        return array;
-    }
-    case json::value_t::object: {
-        QJsonObject object;
-        for (const auto& [name, member] : value.items()) {
-            object.insert(QString::fromStdString(name), ToQt(member));
-        }
-        return object;
-    }
-    default:
-        return QJsonValue::Null;
-    }
+    // Its parser keeps whole numbers as they are; a value that is put into an object is a double on the way.
+    return QJsonDocument::fromJson(
+               QByteArray::fromStdString(object.dump(-1, ' ', false, json::error_handler_t::replace)))
+        .object();
 }
 
 QString JsonText(const json& value)

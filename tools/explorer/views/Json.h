@@ -11,7 +11,7 @@
 namespace explorer {
 
 nlohmann::json FromQt(const QJsonValue& value);
-QJsonValue ToQt(const nlohmann::json& value);
+QJsonObject ToQt(const nlohmann::json& object);
 
 /// Indented; bytes of a text that are not UTF-8 are shown as replacement characters.
 QString JsonText(const nlohmann::json& value);

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <catalogue/Type.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QAbstractTableModel>
+#include <QList>
+#include <QStringList>
+
+#include <vector>
+
+namespace explorer {
+
+/// A list that can be shown as a table.
+struct ListInRecord {
+    QString path;  ///< "pageData"; empty for the record itself
+    const catalogue::Type* type;
+    const nlohmann::json* list;
+};
+
+/// The lists of a record that do not stand in another list. @p record outlives the result.
+std::vector<ListInRecord> ListsIn(const catalogue::Type& type, const nlohmann::json& record);
+
+/// A list as a table with a row for each element. Fields of records inside an element have columns of their own.
+class RecordTableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    /// The value to sort by: a number, a truth value or a text.
+    static constexpr int kSortRole = Qt::UserRole;
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void SetList(const catalogue::Type& type, const nlohmann::json& list);
+    void Clear();
+
+    /// Whether the column holds counts, which have a total: numbers that are named so, and lists.
+    [[nodiscard]] bool IsCount(int column) const;
+    /// The count in a cell of such a column.
+    [[nodiscard]] qint64 Count(int row, int column) const;
+    /// The text of a cell in full: lists are JSON.
+    [[nodiscard]] QString Exported(int row, int column) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role = Qt::DisplayRole) const override;
+
+private:
+    struct Column {
+        QString title;
+        nlohmann::json::json_pointer place;  // in an element
+        const catalogue::Type* type;
+    };
+
+    void AddColumns(const catalogue::Type& type, const QString& title, const nlohmann::json::json_pointer& place);
+    [[nodiscard]] QVariant SortValue(int row, int column) const;
+    [[nodiscard]] const nlohmann::json& Cell(int row, int column) const;
+
+    nlohmann::json m_list = nlohmann::json::array();
+    std::vector<Column> m_columns;
+};
+
+}  // namespace explorer

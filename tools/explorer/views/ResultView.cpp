@@ -1,0 +1,142 @@
+#include "ResultView.h"
+
+#include "CodeView.h"
+#include "Json.h"
+#include "RecordTable.h"
+#include "Theme.h"
+#include "TintedLabel.h"
+
+#include <explorer/CallOutcome.h>
+
+#include <QHeaderView>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace explorer {
+namespace {
+
+TintedLabel* MakeHint()
+{
+    auto* pHint = new TintedLabel(theme::Hint);
+    pHint->setAlignment(Qt::AlignCenter);
+    return pHint;
+}
+
+/// Status line, headers and body with the line ends of this machine.
+QString TextOf(const RawReply& reply)
+{
+    QString text = QString::fromUtf8(reply.statusLine) + QLatin1Char('\n');
+    for (const Header& header : reply.headers) {
+        text += header.name + QLatin1String(": ") + header.value + QLatin1Char('\n');
+    }
+    return text + QLatin1Char('\n') + QString::fromUtf8(reply.body);
+}
+
+/// Opens all that fits on a screen or two; of a large record, its first levels.
+void Open(QTreeView& tree, const CallOutcome& outcome)
+{
+    constexpr std::size_t kLongest = 4000;
+    if (outcome.record.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace).size() < kLongest) {
+        tree.expandAll();
+    } else {
+        tree.expandToDepth(0);
+    }
+    for (const int column : {RecordModel::NameColumn, RecordModel::ValueColumn}) {
+        constexpr int kWidest = 360;
+        constexpr int kRoom = 24;
+        tree.resizeColumnToContents(column);
+        tree.setColumnWidth(column, qMin(tree.columnWidth(column) + kRoom, kWidest));
+    }
+}
+
+}  // namespace
+
+ResultView::ResultView(QWidget* pParent)
+    : QWidget(pParent), m_pTree(new QTreeView),
+      m_pJson(new CodeView(CodeView::Language::Json, tr("The record as JSON appears here."))),
+      m_pTable(new RecordTable), m_pReply(new CodeView(CodeView::Language::Plain, tr("The reply appears here."))),
+      m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pIncomplete(new TintedLabel(theme::Error)),
+      m_pTabs(new QTabWidget)
+{
+    m_pTree->setModel(&m_model);
+    m_pTree->setAlternatingRowColors(true);
+    m_pTree->setUniformRowHeights(true);
+    m_pTree->setAllColumnsShowFocus(true);
+    m_pTree->setTextElideMode(Qt::ElideRight);
+    m_pTree->setFrameShape(QFrame::NoFrame);
+
+    m_pIncomplete->setText(tr("The reply is not complete: the connection ended or the time was over before."));
+    m_pIncomplete->setContentsMargins(12, 8, 12, 0);
+    auto* pReplyPage = new QWidget;
+    auto* pReplyLayout = new QVBoxLayout(pReplyPage);
+    pReplyLayout->setContentsMargins(0, 0, 0, 0);
+    pReplyLayout->setSpacing(0);
+    pReplyLayout->addWidget(m_pIncomplete);
+    pReplyLayout->addWidget(m_pReply, 1);
+
+    m_pTreePages = AddTab(m_pTree, m_pTreeHint, tr("&Record"));
+    m_pTabs->addTab(m_pJson, tr("&JSON"));
+    m_pTablePages = AddTab(m_pTable, m_pTableHint, tr("&Table"));
+    m_pTabs->addTab(pReplyPage, tr("Ra&w reply"));
+    m_pTabs->setDocumentMode(true);
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pTabs);
+    Clear();
+}
+
+void ResultView::Show(const CallOutcome& outcome)
+{
+    if (outcome.call != nullptr && outcome.call->result != nullptr) {
+        ShowRecord(outcome);
+    } else {
+        ShowNoRecord(tr("This call returns no record."));
+    }
+    m_pReply->SetText(outcome.reply ? TextOf(*outcome.reply) : QString());
+    m_pIncomplete->setVisible(outcome.reply && !outcome.reply->complete);
+}
+
+void ResultView::Clear()
+{
+    ShowNoRecord(tr("Run a call to see its result here."));
+    m_pReply->SetText(QString());
+    m_pIncomplete->hide();
+}
+
+void ResultView::ShowRecord(const CallOutcome& outcome)
+{
+    const catalogue::Type& type = *outcome.call->result;
+    m_model.SetRecord(type, outcome.record);
+    Open(*m_pTree, outcome);
+    m_pTreePages->setCurrentIndex(0);
+    m_pJson->SetText(JsonText(outcome.record));
+    const bool hasList = m_pTable->SetRecord(type, outcome.record);
+    m_pTableHint->setText(tr("There is no list in this record."));
+    m_pTablePages->setCurrentIndex(hasList ? 0 : 1);
+}
+
+void ResultView::ShowNoRecord(const QString& hint)
+{
+    m_model.Clear();
+    m_pJson->SetText(QString());
+    for (QLabel* pHint : {m_pTreeHint, m_pTableHint}) {
+        pHint->setText(hint);
+    }
+    for (QStackedWidget* pPages : {m_pTreePages, m_pTablePages}) {
+        pPages->setCurrentIndex(1);
+    }
+}
+
+QStackedWidget* ResultView::AddTab(QWidget* pContent, QLabel* pHint, const QString& title)
+{
+    auto* pPages = new QStackedWidget;
+    pPages->addWidget(pContent);
+    pPages->addWidget(pHint);
+    m_pTabs->addTab(pPages, title);
+    return pPages;
+}
+
+}  // namespace explorer

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "RecordModel.h"
+
+#include <QWidget>
+
+class QLabel;
+class QStackedWidget;
+class QTabWidget;
+class QTreeView;
+
+namespace explorer {
+
+struct CallOutcome;
+class CodeView;
+class RecordTable;
+
+/// What came back from a call: the record as a tree, as JSON and as a table, and the reply as it came.
+class ResultView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ResultView(QWidget* pParent = nullptr);
+
+    void Show(const CallOutcome& outcome);
+    void Clear();
+
+private:
+    void ShowRecord(const CallOutcome& outcome);
+    void ShowNoRecord(const QString& hint);
+    QStackedWidget* AddTab(QWidget* pContent, QLabel* pHint, const QString& title);
+
+    RecordModel m_model;
+    QTreeView* m_pTree;
+    CodeView* m_pJson;
+    RecordTable* m_pTable;
+    CodeView* m_pReply;
+    QLabel* m_pTreeHint;
+    QLabel* m_pTableHint;
+    QLabel* m_pIncomplete;
+    QTabWidget* m_pTabs;
+    QStackedWidget* m_pTreePages;
+    QStackedWidget* m_pTablePages;
+};
+
+}  // namespace explorer

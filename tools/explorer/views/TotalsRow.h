@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QStandardItemModel>
+#include <QStringList>
+#include <QWidget>
+
+class QHeaderView;
+class QLabel;
+class QTableView;
+
+namespace explorer {
+
+/// A row under a table, with a cell under each of its columns that moves and grows with it.
+class TotalsRow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TotalsRow(QTableView& table, QWidget* pParent = nullptr);
+
+    /// The text of each cell, empty for none.
+    void SetTotals(const QStringList& totals);
+    [[nodiscard]] QString Total(int column) const;
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+private:
+    void Align();
+
+    QTableView& m_table;
+    QStandardItemModel m_model;
+    QLabel* m_pTitle;
+    QHeaderView* m_pCells;
+};
+
+}  // namespace explorer
