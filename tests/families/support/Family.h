@@ -93,8 +93,8 @@ ParseRow Row(const std::string& name, const Parse& parse, const char* reply, con
 
 /// Rows for a whole reply and for every reply that differs from it in one place: a key, two keys or an element
 /// removed, a value replaced by others, a list or an object emptied; each with a fresh and with a filled record. What
-/// must come of them is told from @p readings. In the whole reply every list has two elements or more; only those
-/// inside a later element may be shorter.
+/// must come of them is told from @p readings. The Parse is given random replies as well. In the whole reply every list
+/// has two elements or more; only those inside a later element may be shorter.
 std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply);
 
 /// Several lists of rows as one.

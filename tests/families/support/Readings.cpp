@@ -1,8 +1,9 @@
 #include "Readings.h"
 
+#include "SlowReading.h"
+
 #include <QJsonArray>
 #include <QJsonValue>
-#include <QVariant>
 
 #include <stdexcept>
 
@@ -34,43 +35,41 @@ private:
     int ReadOne(const QJsonObject& object, const Reading& reading, Json& record)
     {
         QJsonValue value;
-        if (!Find(object, reading.key, value)) {
+        if (!FindSlowly(object, QString::fromStdString(reading.key), value, m_lines)) {
             return -1;
         }
-        const QVariant variant = value.toVariant();
-        const QVariantList elements = variant.toJsonArray().toVariantList();
+        const auto elements = Converted<QJsonArray>(value);
         Json& field = reading.field.empty() ? record : record[reading.field];
         switch (reading.type) {
         case Reading::Found:
             return 0;
         case Reading::Int:
-            field = variant.toInt();
+            field = Converted<int>(value);
             return 0;
         case Reading::Int64:
-            field = variant.toLongLong();
+            field = Converted<APIModule::int64>(value);
             return 0;
         case Reading::Double:
-            field = variant.toDouble();
+            field = Converted<double>(value);
             return 0;
         case Reading::Bool:
-            field = variant.toBool();
+            field = Converted<bool>(value);
             return 0;
         case Reading::Text:
-            field = variant.toString().toUtf8().toStdString();
+            field = Converted<std::string>(value);
             return 0;
         case Reading::Texts:
-            for (const QVariant& element : elements) {
-                const bool isText = element.type() == QVariant::String;
-                field.push_back(isText ? element.toString().toUtf8().toStdString() : std::string());
+            for (const QJsonValue& element : elements) {
+                field.push_back(element.isString() ? Converted<std::string>(element) : std::string());
             }
             return 0;
         case Reading::NumbersOfTexts:
-            for (const QVariant& element : elements) {
-                field.push_back(element.type() == QVariant::String ? element.toString().toInt(nullptr, 10) : 0);
+            for (const QJsonValue& element : elements) {
+                field.push_back(element.isString() ? element.toString().toInt(nullptr, 10) : 0);
             }
             return 0;
         case Reading::Object: {
-            const QJsonObject inner = variant.toJsonObject();
+            const auto inner = Converted<QJsonObject>(value);
             return inner.isEmpty() ? 0 : Read(inner, reading.inner, record);
         }
         case Reading::Records:
@@ -79,11 +78,11 @@ private:
         throw std::logic_error("unknown type of reading");
     }
 
-    int ReadRecords(const QVariantList& elements, const Reading& reading, Json& list)
+    int ReadRecords(const QJsonArray& elements, const Reading& reading, Json& list)
     {
-        for (const QVariant& value : elements) {
+        for (const QJsonValue& value : elements) {
             Json element = reading.freshElement;
-            if (Read(value.toJsonObject(), reading.inner, element) != 0) {
+            if (Read(value.toObject(), reading.inner, element) != 0) {
                 return -1;
             }
             list.push_back(element);
@@ -91,28 +90,8 @@ private:
         return 0;
     }
 
-    bool Find(const QJsonObject& object, const std::string& key, QJsonValue& value)
-    {
-        if (object.keys().isEmpty()) {
-            m_lines.push_back(EmptyObject());
-            return false;
-        }
-        const QString name = QString::fromStdString(key);
-        if (!object.keys().contains(name)) {
-            m_lines.push_back(MissingKey(key));
-            return false;
-        }
-        value = object.value(name);
-        return true;
-    }
-
     testing_support::LogLines& m_lines;
 };
-
-testing_support::LogLine FailedRead(const std::string& function, const std::string& message)
-{
-    return {"src/UI/APIModule/public/CommonFunc", "APIModule::CCommonFunc::" + function, 6, message};
-}
 
 }  // namespace
 
@@ -159,16 +138,6 @@ Reading Found(const std::string& key)
 Reading Object(const std::string& key, const Readings& inner)
 {
     return {Reading::Object, key, kItself, inner};
-}
-
-testing_support::LogLine EmptyObject()
-{
-    return FailedRead("IsEmpty", "Invalid parameter, jsonObject is empty.");
-}
-
-testing_support::LogLine MissingKey(const std::string& key)
-{
-    return FailedRead("IsKeyValid", "Invalid key: [" + key + "], jsonObject does not contain the key.");
 }
 
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Records.h"
+#include "SlowReading.h"
 
 #include "support/Recorders.h"
 
@@ -67,10 +68,6 @@ Reading Records(const std::string& key, const Readings& inner, const FieldName& 
 {
     return {Reading::Records, key, field.value_or(key), inner, ToJson(Element{})};
 }
-
-/// The lines of a failed read.
-testing_support::LogLine EmptyObject();
-testing_support::LogLine MissingKey(const std::string& key);
 
 /// Follows the steps as a plain reader that shares no code with the library. @return 0 or -1
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines);

@@ -1,5 +1,6 @@
 #include "Family.h"
 #include "Json.h"
+#include "RandomReplies.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
@@ -120,6 +121,7 @@ std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, c
 {
     const QJsonObject whole = JsonObject(wholeReply);
     RequireTwoElements(whole);
+    KnownParses().push_back({parse, readings});
 
     std::vector<ParseRow> rows;
     const std::pair<const char*, Json> starts[] = {{"_fresh_", parse.fresh}, {"_filled_", parse.filled}};
