@@ -1,0 +1,38 @@
+# What `cmake --install` and cpack put where. Components: runtime, development, tools.
+include(CMakePackageConfigHelpers)
+
+set(headers_folder "${CMAKE_INSTALL_INCLUDEDIR}/apimodule")
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/APIModule")
+
+set(libraries APIModule)
+if(APIMODULE_BUNDLED_PLATFORM)
+    list(APPEND libraries ErrorLexicon OrnGui ornl UserLogical)
+endif()
+
+# Libraries find each other wherever they are put.
+foreach(library IN LISTS libraries)
+    get_target_property(type ${library} TYPE)
+    if(type STREQUAL SHARED_LIBRARY)
+        set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    endif()
+endforeach()
+
+# Every public header compiles on its own: target all_verify_interface_header_sets.
+set_target_properties(${libraries} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+
+install(TARGETS ${libraries} EXPORT APIModuleTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
+install(EXPORT APIModuleTargets NAMESPACE APIModule:: DESTINATION "${package_folder}" COMPONENT development)
+
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/APIModuleConfig.cmake.in"
+    "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" INSTALL_DESTINATION "${package_folder}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/APIModuleConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" "${PROJECT_BINARY_DIR}/APIModuleConfigVersion.cmake"
+    DESTINATION "${package_folder}" COMPONENT development)
+
+# From the folder of APIModule.pc to the prefix.
+file(RELATIVE_PATH to_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" /prefix)
+configure_file("${PROJECT_SOURCE_DIR}/cmake/APIModule.pc.in" "${PROJECT_BINARY_DIR}/APIModule.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/APIModule.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
