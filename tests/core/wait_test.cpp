@@ -2,6 +2,7 @@
 #include "support/Host.h"
 #include "support/Rows.h"
 #include "support/Waiting.h"
+#include "support/Watchdog.h"
 
 #include <OrnGui/OrnMessageNotify.h>
 #include <OrnGui/OrnSingleton.h>
@@ -19,7 +20,6 @@
 
 #include <climits>
 #include <memory>
-#include <thread>
 
 using namespace testing_support;
 using APIModule::CAPIModule;
@@ -27,38 +27,6 @@ using APIModule::CAPIModule;
 namespace {
 
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
-
-/// Ends the process when a test hangs, so that a hang is a failure and not a time-out of the whole program.
-class Watchdog {
-public:
-    Watchdog()
-    {
-        m_thread = std::thread([this] {
-            std::unique_lock<std::mutex> lock(m_mutex);
-            if (!m_done.wait_for(lock, std::chrono::seconds(60), [this] { return m_bDone; })) {
-                std::fputs("A wait did not end.\n", stderr);
-                std::abort();
-            }
-        });
-    }
-    ~Watchdog()
-    {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_bDone = true;
-        }
-        m_done.notify_one();
-        m_thread.join();
-    }
-    Watchdog(const Watchdog&) = delete;
-    Watchdog& operator=(const Watchdog&) = delete;
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_done;
-    bool m_bDone = false;
-    std::thread m_thread;
-};
 
 /// Without its query, answers "/ok" at once, "/after/<ms>" after a while, "/<status>" with that status, and "/silent"
 /// never.

@@ -286,6 +286,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
 
     std::optional<int> result;
     QPointer<QNetworkReply> pReply;
+    ++m_nUnderWay;
     if (!m_bQuitting) {
         pReply = Send(request);
         connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
@@ -303,10 +304,23 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
     // No signal of the reply is under way any more, and none is to come. Deleted now, a reply that timed out gives its
     // connection to the requests after it even when the host makes them without a return to its event loop.
     delete pReply;
+    --m_nUnderWay;
     if (!result) {
         LogFailure({kFile, pFunction}, QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
     }
-    return result.value_or(kTimedOut);
+    const int nResult = result.value_or(kTimedOut);
+    DropConnectionsAfter(nResult);
+    return nResult;
+}
+
+// Qt goes on connecting for a request that is no longer there, and keeps the sockets of attempts that failed.
+void CAPIModulePrivate::DropConnectionsAfter(int nResult)
+{
+    m_bConnectionsSuspect = m_bConnectionsSuspect || nResult == kTimedOut || nResult == kNetworkError;
+    if (m_bConnectionsSuspect && m_nUnderWay == 0 && m_pNetworkManager) {
+        m_pNetworkManager->clearConnectionCache();
+        m_bConnectionsSuspect = false;
+    }
 }
 
 QNetworkReply* CAPIModulePrivate::Send(const QNetworkRequest& request)

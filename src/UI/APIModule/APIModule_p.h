@@ -55,6 +55,7 @@ private:
 
     int Execute(const QNetworkRequest& request, ReplyInfo& reply, Wait& wait, const char* pFunction);
     QNetworkReply* Send(const QNetworkRequest& request);
+    void DropConnectionsAfter(int nResult);
 
     CAPIModule* const q_ptr;
     std::string m_strLanguage = "en";
@@ -62,6 +63,8 @@ private:
     QPointer<QNetworkAccessManager> m_pNetworkManager;
     QPointer<QCoreApplication> m_pApplication;
     bool m_bQuitting = false;
+    int m_nUnderWay = 0;                 ///< requests that wait, each inside the one before
+    bool m_bConnectionsSuspect = false;  ///< one of them got no answer
 };
 
 }  // namespace APIModule

@@ -1,0 +1,99 @@
+#include "Census.h"
+
+#include <QObject>
+#include <QThread>
+#include <QWidget>
+
+#include <filesystem>
+#include <mutex>
+#include <ostream>
+#include <private/qhooks_p.h>
+#include <system_error>
+#include <unordered_set>
+
+namespace testing_support {
+
+namespace {
+
+struct LiveObjects {
+    std::mutex mutex;
+    std::unordered_set<QObject*> objects;
+};
+
+/// Never deleted: objects come and go until the very end of the process.
+LiveObjects& Live()
+{
+    static auto* const pLive = new LiveObjects;
+    return *pLive;
+}
+
+void OnAdded(QObject* pObject)
+{
+    const std::lock_guard<std::mutex> lock(Live().mutex);
+    Live().objects.insert(pObject);
+}
+
+void OnRemoved(QObject* pObject)
+{
+    const std::lock_guard<std::mutex> lock(Live().mutex);
+    Live().objects.erase(pObject);
+}
+
+/// Toasts stay on the screen for a while, with what is in them; a single shot is how they end.
+bool IsOfToasts(const QObject& object)
+{
+    if (qstrcmp(object.metaObject()->className(), "QSingleShotTimer") == 0) {
+        return true;
+    }
+    const QObject* pTop = &object;
+    while (pTop->parent()) {
+        pTop = pTop->parent();
+    }
+    return QByteArray(pTop->metaObject()->className()).contains("Toast") ||
+           pTop->objectName().contains(QLatin1String("Toast"));
+}
+
+}  // namespace
+
+void CountObjects()
+{
+    qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(&OnAdded);
+    qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(&OnRemoved);
+}
+
+Census Census::Now()
+{
+    Census census;
+    {
+        // An object of another thread may be in its destructor, but not beyond the hook.
+        const std::lock_guard<std::mutex> lock(Live().mutex);
+        for (const QObject* pObject : Live().objects) {
+            if (pObject->thread() == QThread::currentThread() && !IsOfToasts(*pObject)) {
+                ++census.objects[pObject->metaObject()->className()];
+            }
+        }
+    }
+    for (const auto& descriptor : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code error;  // the iterator's own is gone when it is looked at afterwards
+        if (std::filesystem::read_symlink(descriptor, error).string().rfind("socket:", 0) == 0) {
+            ++census.sockets;
+        }
+    }
+    return census;
+}
+
+bool Census::IsWithin(const Census& before) const
+{
+    return objects == before.objects && sockets <= before.sockets;
+}
+
+std::ostream& operator<<(std::ostream& stream, const Census& census)
+{
+    stream << census.sockets << " sockets";
+    for (auto object = census.objects.begin(); object != census.objects.end(); ++object) {
+        stream << ", " << object.value() << ' ' << object.key().constData();
+    }
+    return stream;
+}
+
+}  // namespace testing_support

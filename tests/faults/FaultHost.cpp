@@ -1,0 +1,227 @@
+#include "FaultHost.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+
+#include <utility>
+
+namespace testing_support {
+
+using APIModule::CAPIModule;
+
+namespace {
+
+constexpr int kAwaitMs = 10000;
+
+QString Notice(int code)
+{
+    return CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), code, true);
+}
+
+/// Whether the line is the one that the outcome has of the wait.
+bool Matches(const LogLine& line, const Outcome& outcome, Waiting waiting, const std::string& url)
+{
+    std::string text = outcome.line;
+    const std::size_t nPlace = text.find("%1");
+    if (nPlace != std::string::npos) {
+        text.replace(nPlace, 2, url);
+    }
+    const bool bText =
+        outcome.isWhole ? line.message == text : line.message.rfind(text, 0) == 0 && line.message.size() > text.size();
+    return bText && line.file == kFacadeFile && line.function == FunctionOf(waiting) && line.level == outcome.level;
+}
+
+Outcome Unreadable(int code, const std::string& qtCode, const std::string& qtText)
+{
+    std::string line = "Request failed, an internal network error occurred, qt network error code: ";
+    if (!qtCode.empty()) {
+        line += qtCode + ", network error info: " + qtText;
+    }
+    return {code, false, 6, line, !qtText.empty(), {}};
+}
+
+}  // namespace
+
+std::vector<Way> Ways(const std::vector<RawServer::Scheme>& schemes)
+{
+    std::vector<Way> ways;
+    for (const Waiting waiting : {InLoop, BehindDialog}) {
+        for (const RawServer::Scheme scheme : schemes) {
+            for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
+                ways.push_back({waiting, scheme, method});
+            }
+        }
+    }
+    return ways;
+}
+
+std::string NameOf(const Way& way)
+{
+    return std::string(way.waiting == InLoop ? "loop" : "dialog") +
+           (way.scheme == RawServer::Http ? "_http" : "_https") +
+           (way.method == APIModule::Method_Get ? "_get" : "_post");
+}
+
+Outcome Succeeds()
+{
+    return EnvelopeFails(kSuccess);
+}
+
+Outcome EnvelopeFails(int code)
+{
+    return {code, true, 4, "Request success.", true, {}};
+}
+
+Outcome StatusFails(int status)
+{
+    return {status, true, 6, "Request failed, http status Code: " + std::to_string(status) + ", request url: %1",
+            true,   {}};
+}
+
+Outcome TimesOut()
+{
+    return {-101, false, 6, "Request time out, request url: %1", true, {}};
+}
+
+Outcome NetworkFails(const std::string& qtCode, const std::string& qtText)
+{
+    return Unreadable(-18, qtCode, qtText);
+}
+
+Outcome AsksForAuthentication()
+{
+    return Unreadable(7000, "204", "");
+}
+
+Outcome Either(Outcome first, const Outcome& second)
+{
+    first.orElse.push_back(second);
+    return first;
+}
+
+RawAnswer SuccessAnswer()
+{
+    return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})");
+}
+
+Lateness::Lateness(int nSeconds)
+{
+    m_timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_timer, &QTimer::timeout, [this] {
+        ++m_nTicks;
+        m_timer.start(kTickMs);
+    });
+    m_timer.start(nSeconds * 1000);
+}
+
+FaultHost::FaultHost()
+{
+    m_parent.resize(300, 200);
+    m_parent.show();
+}
+
+FaultHost::~FaultHost()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* pWidget : widgets) {
+        pWidget->close();  // the toasts, which make room for those that wait
+    }
+}
+
+void FaultHost::WarmUp()
+{
+    static bool s_bDone = false;
+    if (std::exchange(s_bDone, true)) {
+        return;
+    }
+    for (const Way& way : Ways()) {
+        const RawServer server([](const RawRequest&) { return SuccessAnswer(); }, way.scheme);
+        Use(server, way.scheme);
+        ExpectSuccess(way);
+    }
+    QEventLoop loop;
+    QTimer::singleShot(100, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+HostCall FaultHost::Call(const Way& way, const QString& url, int nTimeout)
+{
+    HostCall call;
+    call.method = way.method;
+    call.url = url;
+    call.body = QStringLiteral("{\"k\":1}");
+    call.timeout = nTimeout;
+    call.parse = [](const QJsonObject&) { return 0; };
+    call.uiError = QStringLiteral("No settings");
+    call.parent = way.waiting == BehindDialog ? &m_parent : nullptr;
+    call.successTip = QStringLiteral("Done");
+    call.notifyOnFailure = false;
+    return call;
+}
+
+void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout,
+                              const QString& url)
+{
+    HostCall call = Call(way, url, nTimeout);
+    call.notifyOnFailure = bNotifyOnFailure;
+    logs.Take();
+    notifications.Take();
+
+    const Lateness lateness(nTimeout);
+    const int nResult = Execute(call);
+
+    EXPECT_LT(lateness.Milliseconds(), 100);
+    const LogLines lines = logs.Take();
+    const QStringList notices = notifications.Take();
+    const std::string fullUrl = (way.scheme == RawServer::Http ? "http://" : "https://") + users.servers[1].host + ':' +
+                                std::to_string(users.servers[1].port) + url.toStdString();
+
+    const Outcome* pOutcome = &outcome;
+    for (const Outcome& other : outcome.orElse) {
+        if (lines.size() > 1 && Matches(lines[1], other, way.waiting, fullUrl)) {
+            pOutcome = &other;
+        }
+    }
+    const bool bSuccess = pOutcome->code == kSuccess;
+    const bool bNotified = !bSuccess && (bNotifyOnFailure || !pOutcome->answered);
+    const QString notice = bSuccess ? QStringLiteral("Done") : Notice(pOutcome->code);
+    EXPECT_EQ(nResult, bSuccess ? 0 : bNotified ? -1 : pOutcome->code);
+    EXPECT_EQ(notices, bSuccess || bNotified ? QStringList{notice} : QStringList());
+
+    const bool bUnknownCode = bNotified && notice == call.uiError;
+    ASSERT_EQ(lines.size(), bUnknownCode ? 3U : 2U);
+    EXPECT_EQ(lines[0],
+              (LogLine{kFacadeFile, "APIModule::CAPIModule::ExecuteFuncs", 4, "ExecuteRequest url=" + fullUrl}));
+    EXPECT_TRUE(Matches(lines[1], *pOutcome, way.waiting, fullUrl)) << lines[1] << "\nexpected: " << pOutcome->line;
+    if (bUnknownCode) {
+        EXPECT_EQ(lines[2], (LogLine{kFacadeFile, "APIModule::CAPIModule::GetErroCodeInfor", 6,
+                                     "Error code is not exist, strUIError=No settings, errorCode=" +
+                                         std::to_string(pOutcome->code)}));
+    }
+}
+
+void FaultHost::ExpectSuccess(const Way& way)
+{
+    ExpectOutcome(way, Succeeds(), true, 20, QStringLiteral("/ok"));
+}
+
+bool FaultHost::Await(const std::function<bool()>& condition)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (!condition() && elapsed.elapsed() < kAwaitMs) {
+        QEventLoop loop;
+        QTimer::singleShot(2, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    return condition();
+}
+
+void FaultHost::ExpectNothingLeft(const Census& before)
+{
+    EXPECT_TRUE(Await([&before] { return Census::Now().IsWithin(before); }))
+        << "before: " << before << "\nnow: " << Census::Now();
+}
+
+}  // namespace testing_support

@@ -1,0 +1,13 @@
+#include "Census.h"
+#include "support/TestApplication.h"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    testing_support::CountObjects();
+    const testing_support::TestApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

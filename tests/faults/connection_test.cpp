@@ -1,0 +1,122 @@
+// Connections that do not come about, and servers whose certificate or TLS is none of the best.
+#include "Descriptor.h"
+#include "FaultMatrix.h"
+
+#include <QSslSocket>
+
+using namespace testing_support;
+
+namespace {
+
+Place Refuses(RawServer::Scheme scheme)
+{
+    const auto bound = std::make_shared<Descriptor>(BoundToLoopback());
+    Place place = BesideHealthy(scheme, PortOf(*bound));
+    place.other = bound;
+    return place;
+}
+
+Place NameIsUnknown(RawServer::Scheme scheme)
+{
+    Place place = BesideHealthy(scheme, 443);
+    place.faulty.host = "no-such-host.invalid";
+    return place;
+}
+
+/// The faulty server beside one that is well.
+Place Beside(const std::shared_ptr<RawServer>& faulty, RawServer::Scheme scheme)
+{
+    Place place = BesideHealthy(scheme, faulty->Port());
+    place.servers.push_back(faulty);
+    return place;
+}
+
+RawAnswer Succeed(const RawRequest&)
+{
+    return SuccessAnswer();
+}
+
+Place HasTlsOnThePort(RawServer::Scheme scheme)
+{
+    return Beside(std::make_shared<RawServer>(Succeed, RawServer::Https), scheme);
+}
+
+Place HasNoTlsOnThePort(RawServer::Scheme scheme)
+{
+    const auto server = std::make_shared<RawServer>([](const RawRequest&) { return HttpAnswer(400, "no TLS here"); });
+    server->AnswerAnything();
+    return Beside(server, scheme);
+}
+
+std::function<Place(RawServer::Scheme)> ShowsCertificate(const CertificateSubject& subject)
+{
+    return [configuration = ServerConfiguration(MakeCertificate(subject))](RawServer::Scheme scheme) {
+        Place place = Beside(std::make_shared<RawServer>(Succeed, configuration), scheme);
+        place.keepsConnection = true;
+        return place;
+    };
+}
+
+/// Takes what the system's own settings refuse, so that it is the client that refuses an old version.
+void LowerLevel(QSslConfiguration& configuration)
+{
+    configuration.setBackendConfigurationOption("CipherString", QByteArrayLiteral("ALL:@SECLEVEL=0"));
+}
+
+QSslConfiguration Speaking(QSsl::SslProtocol protocol)
+{
+    QSslConfiguration configuration = ServerConfiguration(MakeCertificate());
+    LowerLevel(configuration);
+    configuration.setProtocol(protocol);
+    return configuration;
+}
+
+std::function<Place(RawServer::Scheme)> Speaks(QSsl::SslProtocol protocol, bool bUnderstood)
+{
+    return [configuration = Speaking(protocol), bUnderstood](RawServer::Scheme scheme) {
+        Place place = Beside(std::make_shared<RawServer>(Succeed, configuration), scheme);
+        place.keepsConnection = bUnderstood;
+        return place;
+    };
+}
+
+const std::vector<RawServer::Scheme> kHttp = {RawServer::Http};
+const std::vector<RawServer::Scheme> kHttps = {RawServer::Https};
+
+const std::vector<Fault> kFaults = {
+    {"refused", Refuses, NetworkFails("1", "Connection refused")},
+    {"name_unknown", NameIsUnknown, NetworkFails("3", "Host no-such-host.invalid not found")},
+    {"tls_on_the_port", HasTlsOnThePort, NetworkFails("2", "Connection closed"), 20, kHttp},
+    {"no_tls_on_the_port", HasNoTlsOnThePort, NetworkFails("6"), 20, kHttps},
+    {"certificate_self_signed", ShowsCertificate({"127.0.0.1"}), Succeeds(), 20, kHttps},
+    {"certificate_expired", ShowsCertificate({"127.0.0.1", -20, -10}), Succeeds(), 20, kHttps},
+    {"certificate_not_yet_valid", ShowsCertificate({"127.0.0.1", 10, 20}), Succeeds(), 20, kHttps},
+    {"certificate_of_another_host", ShowsCertificate({"other.example"}), Succeeds(), 20, kHttps},
+    {"tls_1_0", Speaks(QSsl::TlsV1_0, false), NetworkFails("6"), 20, kHttps},
+    {"tls_1_1", Speaks(QSsl::TlsV1_1, false), NetworkFails("6"), 20, kHttps},
+    {"tls_1_2", Speaks(QSsl::TlsV1_2, true), Succeeds(), 20, kHttps},
+    {"tls_1_3", Speaks(QSsl::TlsV1_3, true), Succeeds(), 20, kHttps},
+};
+
+INSTANTIATE_TEST_SUITE_P(Connections, FaultMatrix, testing::ValuesIn(Matrix(kFaults)), RowName());
+
+/// That the servers of the rows speak the one version, and it is not they who refuse.
+class Version : public testing::TestWithParam<QSsl::SslProtocol> {};
+
+TEST_P(Version, IsSpokenByTheServer)
+{
+    const RawServer server(Succeed, Speaking(GetParam()));
+    QSslSocket client;
+    QSslConfiguration configuration = client.sslConfiguration();
+    LowerLevel(configuration);
+    configuration.setProtocol(QSsl::TlsV1_0OrLater);
+    configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+    client.setSslConfiguration(configuration);
+    client.connectToHostEncrypted(QStringLiteral("127.0.0.1"), quint16(server.Port()));
+    ASSERT_TRUE(client.waitForEncrypted(10000)) << client.errorString().toStdString();
+    EXPECT_EQ(client.sessionProtocol(), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Tls, Version, testing::Values(QSsl::TlsV1_0, QSsl::TlsV1_1, QSsl::TlsV1_2, QSsl::TlsV1_3));
+
+}  // namespace
