@@ -118,7 +118,9 @@ void RegisterBenchmarks()
     for (const std::vector<HandWritten>& family : {BrmsByHand(), OtherFamiliesByHand()}) {
         for (const HandWritten& row : family) {
             const catalogue::Call* pCall = catalogue::FindCall(row.call);
-            Require(pCall != nullptr, std::string(row.call) + " is a call");
+            if (!pCall) {
+                Fail(std::string(row.call) + " is no call");
+            }
             Register(*pCall, row.pack);
             ++count;
         }

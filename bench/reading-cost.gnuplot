@@ -7,6 +7,7 @@ set xlabel "size of the reply [MB]"
 set ylabel "time [ms]"
 set logscale xy
 set format xy "%g"
+set xrange [0.08:200]
 set grid linecolor "#dddddd"
 set border 3 linecolor "#888888"
 set tics nomirror

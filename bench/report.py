@@ -161,9 +161,9 @@ def print_table(rows):
 
 def draw(works, folder, picture):
     """The cost of reading parking lots against the size of the reply."""
-    columns = [("QJsonDocument::fromJson", RECORDS, "fromJson"), ("APIModule, object to records", RECORDS, LIBRARY),
-               ("APIModule", TEXT_TO_RECORDS, LIBRARY)]
-    columns += [(name, TEXT_TO_RECORDS, name) for name in ("nlohmann", "RapidJSON", "simdjson")]
+    columns = [("QJsonDocument::fromJson", RECORDS, "fromJson"), ("APIModule, the part after fromJson", RECORDS, LIBRARY),
+               ("APIModule, text to records", TEXT_TO_RECORDS, LIBRARY)]
+    columns += [(f"{name}, text to records", TEXT_TO_RECORDS, name) for name in ("nlohmann", "RapidJSON", "simdjson")]
     sizes = sorted(elements(work) for work in works if work.startswith(RECORDS + "/"))
     lines = ["\t".join(['"bytes"'] + [f'"{title}"' for title, _, _ in columns])]
     try:

@@ -1,3 +1,4 @@
+// The calls fill the places of a URL one after the other. clazy:excludeall=qstring-arg
 #include "ByHand.h"
 
 #include <BRMS/BRMSModule.h>
@@ -458,7 +459,6 @@ std::vector<HandWritten> BrmsByHand()
                      .arg(QString::fromStdString(query.containChild)),
                  nServerId);
          })},
-
     };
 }
 // NOLINTEND(performance-unnecessary-value-param)

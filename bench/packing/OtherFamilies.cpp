@@ -1,3 +1,4 @@
+// The calls fill the places of a URL one after the other. clazy:excludeall=qstring-arg
 #include "ByHand.h"
 
 #include <DMS/DMSModule.h>
