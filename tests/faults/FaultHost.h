@@ -5,6 +5,7 @@
 #include "support/Waiting.h"
 #include "support/Watchdog.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -36,6 +37,7 @@ struct Outcome {
     std::string line;  ///< its text, "%1" for the URL
     bool isWhole;      ///< whether that is all of the line, or how it starts
     std::vector<Outcome> orElse;  ///< what may come instead
+    bool shown = true;            ///< whether anything can be notified
 };
 
 Outcome Succeeds();
@@ -47,6 +49,9 @@ Outcome NetworkFails(const std::string& qtCode = {}, const std::string& qtText =
 Outcome AsksForAuthentication();
 /// For what Qt sees in the one way or the other, as the bytes fall into packets.
 Outcome Either(Outcome first, const Outcome& second);
+
+/// The same for a host that ended use during the call.
+Outcome Unseen(Outcome outcome);
 
 /// An answer that is a success, with data.
 RawAnswer SuccessAnswer();
@@ -89,7 +94,7 @@ protected:
     /// Looks that nothing stays behind beyond what was there, toasts aside.
     static void ExpectNothingLeft(const Census& before);
 
-    QWidget m_parent;
+    QPointer<QWidget> m_parent{new QWidget};
 
 private:
     Watchdog m_watchdog;

@@ -15,6 +15,7 @@ struct Place {
     std::shared_ptr<void> other;  ///< what else is there as long as the fault
     /// Whether a connection to the faulty server stays for reuse, beside the healthy one's.
     bool keepsConnection = false;
+    const char* missing = nullptr;  ///< why the fault cannot be made on this machine
 };
 
 struct Fault {

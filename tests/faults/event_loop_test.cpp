@@ -1,0 +1,264 @@
+// What a host may do in the event loop while a call waits. The call has its own result and leaves nothing behind.
+#include "FaultHost.h"
+#include "support/Rows.h"
+
+#include <QSemaphore>
+
+#include <algorithm>
+#include <memory>
+#include <random>
+
+using namespace testing_support;
+using APIModule::CAPIModule;
+
+namespace {
+
+/// A host whose user manager can go as well.
+class EventHost : public FaultHost {
+public:
+    void UseOtherUserManager()
+    {
+        m_pOther = std::make_unique<UserManager>();
+        m_pOther->servers = users.servers;
+        CAPIModule::GetInstance().UnInit();
+        CAPIModule::GetInstance().Init(m_pOther.get());
+    }
+    void EndUse()
+    {
+        CAPIModule::GetInstance().UnInit();
+        m_pOther.reset();
+    }
+    void BeginUse()
+    {
+        EndUse();
+        CAPIModule::GetInstance().Init(&users);
+    }
+    QWidget* Parent() { return m_parent; }
+    UserManager& Users() { return users; }
+
+private:
+    std::unique_ptr<UserManager> m_pOther;
+};
+
+/// Something that happens when the server has the request.
+struct Event {
+    const char* name;
+    std::function<void(EventHost&)> act;
+    bool endsUse = false;     ///< nothing is notified any more
+    bool endsDialog = false;  ///< ends a wait behind the dialog with the result of a time-out
+};
+
+const std::vector<Event> kEvents = {
+    {"nothing", [](EventHost&) {}},
+    {"parent_deleted", [](EventHost& host) { delete host.Parent(); }, false, true},
+    {"parent_deleted_later", [](EventHost& host) { host.Parent()->deleteLater(); }, false, true},
+    {"parent_closed", [](EventHost& host) { host.Parent()->close(); }},
+    {"parent_hidden", [](EventHost& host) { host.Parent()->hide(); }},
+    {"un_init", [](EventHost& host) { host.EndUse(); }, true},
+    {"un_init_and_parent_deleted",
+     [](EventHost& host) {
+         host.EndUse();
+         delete host.Parent();
+     },
+     true, true},
+    {"init_again", [](EventHost& host) { host.BeginUse(); }},
+    {"another_user_manager", [](EventHost& host) { host.UseOtherUserManager(); }},
+    {"language", [](EventHost&) { CAPIModule::GetInstance().SetLanguage("de"); }},
+    {"https_mode_on", [](EventHost&) { CAPIModule::GetInstance().SetHttpsMode(1); }},
+    {"https_mode_off", [](EventHost&) { CAPIModule::GetInstance().SetHttpsMode(0); }},
+    {"server_gone", [](EventHost& host) { host.Users().servers.clear(); }},
+    {"current_server_changed", [](EventHost& host) { host.Users().currentServerId = 77; }},
+};
+
+struct EventCase {
+    std::string name;
+    Event event;
+    Way way;
+    bool answered;
+};
+
+void PrintTo(const EventCase& row, std::ostream* pStream)
+{
+    *pStream << row.name;
+}
+
+/// Each event in each of the ways when an answer comes, and over HTTP when none does.
+std::vector<EventCase> Cases()
+{
+    std::vector<EventCase> cases;
+    for (const Event& event : kEvents) {
+        for (const Way& way : Ways()) {
+            cases.push_back({event.name + ("_answered_" + NameOf(way)), event, way, true});
+            if (way.scheme == RawServer::Http && way.method == APIModule::Method_Get) {
+                cases.push_back({event.name + ("_silent_" + NameOf(way)), event, way, false});
+            }
+        }
+    }
+    return cases;
+}
+
+class EventTest : public EventHost, public testing::WithParamInterface<EventCase> {
+protected:
+    ~EventTest() override { BeginUse(); }
+};
+
+TEST_P(EventTest, LeavesTheCallItsResult)
+{
+    const auto& [name, event, way, answered] = GetParam();
+    WarmUp();
+    const Census atFirst = Census::Now();
+    {
+        QObject here;
+        QSemaphore happened;
+        const auto act = [&, act = event.act] {
+            act(*this);
+            happened.release();
+        };
+        // The answer waits for the event, which comes when the wait is under way.
+        const auto respond = [&, bAnswered = answered](const RawRequest& request) {
+            if (request.target == "/ok") {
+                return SuccessAnswer();
+            }
+            QMetaObject::invokeMethod(&here, act, Qt::QueuedConnection);
+            happened.acquire();
+            return bAnswered ? SuccessAnswer() : RawAnswer{};
+        };
+        RawServer server(respond, way.scheme);
+        Use(server, way.scheme);
+
+        const bool bEnded = event.endsDialog && way.waiting == BehindDialog;
+        const Outcome outcome = answered && !bEnded ? Succeeds() : TimesOut();
+        ExpectOutcome(way, event.endsUse ? Unseen(outcome) : outcome, false, bEnded || answered ? 20 : 1);
+        EXPECT_EQ(server.TakeRequests().size(), 1U);
+
+        BeginUse();
+        users.currentServerId = 1;
+        Use(server, way.scheme);
+        if (!m_parent) {
+            m_parent = new QWidget;
+            m_parent->show();
+        }
+        ExpectSuccess(way);
+    }
+    ExpectNothingLeft(atFirst);
+}
+
+INSTANTIATE_TEST_SUITE_P(Events, EventTest, testing::ValuesIn(Cases()), RowName());
+
+/// Ten calls, each inside the one before, whose ends fall in an order drawn from the seed. Some end without an answer,
+/// some because their parent goes.
+class NestedTest : public FaultHost, public testing::WithParamInterface<unsigned> {
+protected:
+    struct End {
+        const char* path;
+        int result;
+        int code;  ///< that is notified
+    };
+
+    void Nest(std::size_t nDepth);
+    int RunOne(std::size_t nDepth);
+
+    std::mt19937 m_random{GetParam()};
+    std::unique_ptr<RawServer> m_servers[2];
+    std::vector<int> m_delays;
+    std::vector<int> m_results;
+    std::vector<int> m_expected;
+    QStringList m_notices;
+    QObject m_context;
+};
+
+constexpr std::size_t kDepth = 10;
+constexpr int kStepMs = 30;
+
+/// Answers "/<what>/<ms>" after that time.
+RawAnswer RespondLater(const RawRequest& request)
+{
+    const QList<QByteArray> words = request.target.split('/');
+    RawAnswer answer = SuccessAnswer();
+    if (words.value(1) == "404") {
+        answer = HttpAnswer(404, "");
+    } else if (words.value(1) == "closed") {
+        answer = {"", 0, RawAnswer::Close};
+    } else if (words.value(1) == "silent") {
+        return {};
+    }
+    answer.delayMilliseconds = words.value(2).toInt();
+    return answer;
+}
+
+int NestedTest::RunOne(std::size_t nDepth)
+{
+    static constexpr End kEnds[] = {
+        {"ok", 0, 0}, {"404", 404, 0}, {"closed", -1, -18}, {"silent", -1, -101}, {"orphaned", -1, -101}};
+    const auto ways = Ways();
+    Way way = ways[m_random() % ways.size()];
+    const End& end = kEnds[m_random() % std::size(kEnds)];
+    const bool bOrphaned = qstrcmp(end.path, "orphaned") == 0;
+    if (bOrphaned) {
+        way.waiting = BehindDialog;
+    }
+    Use(*m_servers[way.scheme], way.scheme);
+    HostCall call = Call(way, QStringLiteral("/%1/%2").arg(QLatin1String(end.path)).arg(m_delays[nDepth]),
+                         qstrcmp(end.path, "silent") == 0 ? 1 : 20);
+    std::unique_ptr<QWidget> parent;
+    if (way.waiting == BehindDialog) {
+        parent = std::make_unique<QWidget>();
+        parent->show();
+        call.parent = parent.get();
+    }
+    if (bOrphaned) {
+        call.url.prepend(QStringLiteral("/silent"));
+        QTimer::singleShot(m_delays[nDepth], &m_context, [&parent] { parent.reset(); });
+    }
+    m_expected.push_back(end.result);
+    if (end.code != 0) {
+        m_notices.append(CAPIModule::GetErroCodeInfor(call.uiError, end.code, true));
+    } else if (end.result == 0) {
+        m_notices.append(call.successTip);
+    }
+    return Execute(call);
+}
+
+void NestedTest::Nest(std::size_t nDepth)
+{
+    if (nDepth + 1 < kDepth) {
+        QTimer::singleShot(0, &m_context, [this, nDepth] { Nest(nDepth + 1); });
+    }
+    const std::size_t nPlace = m_expected.size();
+    m_results.resize(kDepth);
+    m_results[nPlace] = RunOne(nDepth);
+}
+
+TEST_P(NestedTest, EachCallHasItsOwnResult)
+{
+    WarmUp();
+    const Census atFirst = Census::Now();
+    for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
+        m_servers[scheme] = std::make_unique<RawServer>(RespondLater, scheme);
+    }
+    for (std::size_t i = 0; i < kDepth; ++i) {
+        m_delays.push_back(kStepMs * int(i + 1));
+    }
+    std::shuffle(m_delays.begin(), m_delays.end(), m_random);
+    notifications.Take();
+
+    Nest(0);
+
+    EXPECT_EQ(m_results, m_expected);
+    QStringList notices = notifications.Take();
+    notices.sort();
+    m_notices.sort();
+    EXPECT_EQ(notices, m_notices);
+    for (const Way& way : Ways()) {
+        Use(*m_servers[way.scheme], way.scheme);
+        ExpectSuccess(way);
+    }
+    for (auto& server : m_servers) {
+        server.reset();
+    }
+    ExpectNothingLeft(atFirst);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, NestedTest, testing::Range(1U, 13U));
+
+}  // namespace

@@ -1,0 +1,74 @@
+// Addresses from which nothing comes back. They lie in a network of the program's own, where there is one.
+#include "FaultMatrix.h"
+#include "support/TestApplication.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sched.h>
+#include <string>
+#include <unistd.h>
+
+using namespace testing_support;
+
+namespace {
+
+constexpr const char* kBlackHole = "192.0.2.2";
+constexpr const char* kWithoutRoute = "198.51.100.1";
+
+bool g_bOwnNetwork = false;
+
+/// Leaves the machine's network for an empty one, as root there. Before the process has threads.
+bool EnterNetwork()
+{
+    const auto user = std::to_string(getuid());
+    const auto group = std::to_string(getgid());
+    if (unshare(CLONE_NEWNET) == 0) {
+        return true;
+    }
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0) {
+        return false;
+    }
+    std::ofstream("/proc/self/setgroups") << "deny";
+    std::ofstream("/proc/self/uid_map") << "0 " + user + " 1";
+    std::ofstream("/proc/self/gid_map") << "0 " + group + " 1";
+    return true;
+}
+
+/// A line whose other end takes what is sent to the address and drops it, since the address is none of its own.
+bool MakeBlackHole()
+{
+    const std::string command =
+        "PATH=$PATH:/usr/sbin:/sbin; ip link set lo up && ip link add near type veth peer name far && "
+        "ip addr add 192.0.2.1/24 dev near && ip link set near up && ip link set far up && ip neigh add " +
+        std::string(kBlackHole) + " lladdr 02:00:00:00:00:02 dev near";
+    return std::system(command.c_str()) == 0;  // NOLINT(cert-env33-c,concurrency-mt-unsafe): before there are threads
+}
+
+std::function<Place(RawServer::Scheme)> LiesAt(const char* host)
+{
+    return [host](RawServer::Scheme scheme) {
+        Place place = BesideHealthy(scheme, 443);
+        place.faulty.host = host;
+        place.missing = g_bOwnNetwork ? nullptr : "no network namespace can be made here, or iproute2 is not installed";
+        return place;
+    };
+}
+
+const std::vector<Fault> kFaults = {
+    {"black_hole", LiesAt(kBlackHole), TimesOut(), 1},
+    {"without_route", LiesAt(kWithoutRoute), NetworkFails("99", "Network unreachable")},
+};
+
+INSTANTIATE_TEST_SUITE_P(Unreachable, FaultMatrix, testing::ValuesIn(Matrix(kFaults)), RowName());
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    g_bOwnNetwork = EnterNetwork() && MakeBlackHole();
+    CountObjects();
+    const TestApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
