@@ -1,13 +1,12 @@
 #include "APIModule_p.h"
 
+#include "detail/Envelope.h"
 #include "detail/Log.h"
 #include "detail/Mask.h"
 #include "detail/RunHosted.h"
 #include "Wait.h"
 
 #include <QEventLoop>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSslConfiguration>
 #include <QThread>
 #include <QTimer>
@@ -95,24 +94,6 @@ bool HasAnswer(const QNetworkReply& finished)
     const bool bRead =
         finished.error() == QNetworkReply::NoError || (status.isValid() && IsErrorOfStatus(finished.error()));
     return bRead && IsBodyWhole(finished, status.toInt());
-}
-
-/// Unpacks the envelope; a body that is empty or not JSON leaves the code at -1.
-void Unpack(ReplyInfo& reply)
-{
-    if (reply.byteBody.isEmpty()) {
-        return;
-    }
-    QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(reply.byteBody, &error);
-    if (error.error != QJsonParseError::NoError) {
-        return;
-    }
-    const QJsonObject envelope = document.object();
-    const QJsonValue code = envelope.value(QLatin1String("code"));
-    reply.nCode = code.isNull() ? -1 : code.toInt(0);
-    reply.strDesc = envelope.value(QLatin1String("desc")).toString();
-    reply.jsonData = envelope.value(QLatin1String("data")).toObject();
 }
 
 /// Takes what a finished reply brought. @return 0, -18 or 7000

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "../ReplyInfo.h"
+
+namespace APIModule::detail {
+
+/// Unpacks the envelope that the body holds; a body that is empty or not JSON leaves the code at -1.
+void Unpack(ReplyInfo& reply);
+
+}  // namespace APIModule::detail
