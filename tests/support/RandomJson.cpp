@@ -238,17 +238,17 @@ QString RandomJson::Text()
 {
     enum Kind {
         Listed,
-        Number,
-        SpacedNumber,
+        OfNumber,
+        InSpaces,
         Other,
         Kinds
     };
     switch (UpTo(Kinds - 1)) {
     case Listed:
         return QString::fromUtf8(OneOf(kTexts));
-    case Number:
+    case OfNumber:
         return WrittenNumber();
-    case SpacedNumber:
+    case InSpaces:
         return QChar(int(UpTo(0x30))) + WrittenNumber() + QChar(int(UpTo(0x7F)));
     default: {
         const quint64 last = OneIn(3) ? 0xDFFF : OneIn(2) ? 0xFF : 0x7F;

@@ -1,0 +1,74 @@
+#include "ReadingDifference.h"
+
+#include "SlowReading.h"
+
+#include <public/CommonFunc.h>
+
+#include <QCborValue>
+#include <QJsonArray>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <type_traits>
+
+namespace family_testing {
+
+namespace {
+
+using APIModule::CCommonFunc;
+using testing_support::LogLines;
+using testing_support::LogRecorder;
+
+/// Bit by bit, so that no number equals another one and every not-a-number itself.
+template <typename T>
+bool AreSame(const T& left, const T& right)
+{
+    if constexpr (std::is_same_v<T, double>) {
+        return std::memcmp(&left, &right, sizeof(left)) == 0;
+    } else {
+        return left == right;
+    }
+}
+
+/// JSON with all digits of its integers, which the texts that Qt makes of it do not have.
+template <typename T>
+std::string Shown(const T& value)
+{
+    if constexpr (std::is_class_v<T> && std::is_convertible_v<T, QJsonValue>) {
+        return QCborValue::fromJsonValue(value).toDiagnosticNotation().toStdString();
+    } else {
+        return testing::PrintToString(value);
+    }
+}
+
+/// Both ways start with the same output.
+template <typename T>
+std::string DifferenceFor(const T& before, const QJsonObject& object, const QString& key, LogRecorder& logs)
+{
+    T expected = before;
+    LogLines lines;
+    const int nExpected = ReadSlowly(object, key, expected, lines);
+    T value = before;
+    const int nResult = CCommonFunc::GetJsonValue(object, key, value);
+    const LogLines logged = logs.Take();
+    if (nResult == nExpected && AreSame(value, expected) && logged == lines) {
+        return {};
+    }
+    return key.toStdString() + " of " + Shown(object) + "\ngives " + std::to_string(nResult) + ' ' + Shown(value) +
+           ' ' + testing::PrintToString(logged) + "\ninstead of " + std::to_string(nExpected) + ' ' + Shown(expected) +
+           ' ' + testing::PrintToString(lines) + '\n';
+}
+
+}  // namespace
+
+std::string ReadingDifference(const QJsonObject& object, const QString& key, LogRecorder& logs)
+{
+    return DifferenceFor(99, object, key, logs) + DifferenceFor(99.5, object, key, logs) +
+           DifferenceFor(APIModule::int64(99), object, key, logs) + DifferenceFor(true, object, key, logs) +
+           DifferenceFor(false, object, key, logs) + DifferenceFor(std::string("before"), object, key, logs) +
+           DifferenceFor(QJsonObject{{QStringLiteral("before"), 1}}, object, key, logs) +
+           DifferenceFor(QJsonArray{1}, object, key, logs);
+}
+
+}  // namespace family_testing
