@@ -3,7 +3,7 @@
 #include "Log.h"
 
 #include <array>
-#include <cstdio>
+#include <string_view>
 
 namespace APIModule::detail {
 
@@ -11,15 +11,20 @@ namespace {
 
 constexpr int kTimeoutSeconds = 10;
 
-using Buffer = std::array<char, 160>;
-
 /// Two constant texts as one, without an allocation. The longest name of the library fills less than half of it.
-Buffer Joined(const char* first, const char* second)
-{
-    Buffer text{};
-    std::snprintf(text.data(), text.size(), "%s%s", first, second);
-    return text;
-}
+class Joined {
+public:
+    Joined(std::string_view first, std::string_view second)
+    {
+        const std::size_t length = first.copy(m_text.data(), m_text.size() - 1);
+        m_text[length + second.copy(m_text.data() + length, m_text.size() - 1 - length)] = '\0';
+    }
+
+    [[nodiscard]] const char* Text() const { return m_text.data(); }
+
+private:
+    std::array<char, 160> m_text;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled as far as it is read
+};
 
 }  // namespace
 
@@ -28,12 +33,12 @@ int Pack(void* pReqParamData, const Family& family, Method method, const QString
 {
     const int nResult = CAPIModule::GetInstance().GetRequestParam(pReqParamData, method, url, nServerId, body,
                                                                   QString(), kTimeoutSeconds, false);
-    const Buffer fullName = Joined(family.className, function);
-    const LogSite site{family.file, fullName.data(), line};
+    const Joined fullName(family.className, function);
+    const LogSite site{family.file, fullName.Text(), line};
     if (nResult != 0) {
-        LogFailure(site, texts.failed ? texts.failed : Joined(function, " failed.").data());
+        LogFailure(site, texts.failed ? texts.failed : Joined(function, " failed.").Text());
     } else {
-        LogInfo(site, texts.success ? texts.success : Joined(function, " success.").data());
+        LogInfo(site, texts.success ? texts.success : Joined(function, " success.").Text());
     }
     return nResult;
 }
