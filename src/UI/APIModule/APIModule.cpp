@@ -213,6 +213,7 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
         return -1;
     }
 
+    reply.byteBody.clear();  // a large one is not kept beside the host's records
     const bool bHasData = !reply.jsonData.isEmpty();
     if (const int nResult = bHasData ? CAPIModulePrivate::Deliver(parseFunc, reply) : 0) {
         NotifyErrorMessage(uiError, kParseFailed, bShowErrorCode);
