@@ -25,6 +25,26 @@ install(TARGETS ${libraries} EXPORT APIModuleTargets
     FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
 install(EXPORT APIModuleTargets NAMESPACE APIModule:: DESTINATION "${package_folder}" COMPONENT development)
 
+if(APIMODULE_BUILD_TOOLS)
+    set(share_folder "${CMAKE_INSTALL_DATADIR}/apimodule")
+    file(RELATIVE_PATH to_libraries "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
+    set(programs apicall platform-emulator)
+    if(APIMODULE_BUILD_EXPLORER)
+        list(APPEND programs apimodule-explorer)
+    endif()
+    set_target_properties(${programs} PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
+    install(TARGETS ${programs} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/contract" "${PROJECT_SOURCE_DIR}/tools/emulator/seed"
+        DESTINATION "${share_folder}" COMPONENT tools FILES_MATCHING PATTERN *.yaml PATTERN *.json)
+
+    # The emulator for the tests of clients: find_package(APIModule CONFIG COMPONENTS Testing).
+    set_target_properties(APIModuleTesting PROPERTIES INSTALL_RPATH "$ORIGIN" VERIFY_INTERFACE_HEADER_SETS ON)
+    install(TARGETS APIModuleTesting EXPORT APIModuleTestingTargets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT tools NAMELINK_COMPONENT development
+        FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
+    install(EXPORT APIModuleTestingTargets NAMESPACE APIModule:: DESTINATION "${package_folder}" COMPONENT development)
+endif()
+
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/APIModuleConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" INSTALL_DESTINATION "${package_folder}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/APIModuleConfigVersion.cmake" COMPATIBILITY SameMajorVersion)

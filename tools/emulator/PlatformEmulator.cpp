@@ -5,6 +5,8 @@
 #include "State.h"
 #include "Text.h"
 
+#include <dlfcn.h>
+
 #include <atomic>
 #include <iostream>
 #include <mutex>
@@ -14,6 +16,7 @@ namespace emulator {
 namespace {
 
 constexpr const char* kControlPath = "/emulator/";
+constexpr const char* kShareFolder = "share/apimodule";
 
 HttpResponse Plain(int status, const Json& body)
 {
@@ -119,9 +122,19 @@ std::string Masked(std::string line, const std::string& secret)
 
 std::filesystem::path DefaultShareFolder()
 {
+    namespace fs = std::filesystem;
     std::error_code fault;
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", fault);
-    return program.parent_path().parent_path() / "share" / "apimodule";
+    Dl_info self{};
+    dladdr(reinterpret_cast<const void*>(&DefaultShareFolder), &self);
+    const fs::path program = fs::read_symlink("/proc/self/exe", fault);
+    for (const fs::path& file : {self.dli_fname ? fs::canonical(self.dli_fname, fault) : fs::path(), program}) {
+        for (fs::path folder = file.parent_path(); folder != folder.parent_path(); folder = folder.parent_path()) {
+            if (fs::exists(folder / kShareFolder / "contract", fault)) {
+                return folder / kShareFolder;
+            }
+        }
+    }
+    return program.parent_path().parent_path() / kShareFolder;
 }
 
 class PlatformEmulator::Private {

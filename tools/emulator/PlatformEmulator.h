@@ -17,7 +17,8 @@ namespace emulator {
 /// The token that an emulator accepts unless told otherwise.
 constexpr const char* kDefaultToken = "emulator-token";
 
-/// share/apimodule beside the folder of the running program: what the build makes from contract and seed.
+/// Where contract and seed data are: share/apimodule in the nearest folder above this library that has it, else above
+/// the running program.
 std::filesystem::path DefaultShareFolder();
 
 struct Options {

@@ -1,0 +1,71 @@
+// A client's first record: the time settings of a platform emulator that runs in this process.
+#include <APIModule.h>
+#include <BRMS/BRMSModule.h>
+#include <emulator/PlatformEmulator.h>
+
+#include <QApplication>
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <string>
+
+namespace {
+
+class EmulatedServer : public UserLogical::IServer {
+public:
+    explicit EmulatedServer(int port) : m_port(port) {}
+
+    void GetConnection(UserLogical::ServerConnection& connection) override
+    {
+        connection.strHost = "127.0.0.1";
+        connection.nPort = m_port;
+    }
+    std::string GetToken() override { return emulator::kDefaultToken; }
+
+private:
+    int m_port;
+};
+
+class OneServer : public UserLogical::IUserManager {
+public:
+    explicit OneServer(int port) : m_server(std::make_shared<EmulatedServer>(port)) {}
+
+    int GetCurrentServerId() override { return 1; }
+    std::shared_ptr<UserLogical::IServer> GetServer(int /*nServerId*/) override { return m_server; }
+
+private:
+    std::shared_ptr<UserLogical::IServer> m_server;
+};
+
+int Run()
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    OneServer userManager(platform.httpsPort());
+
+    APIModule::CAPIModule& api = APIModule::CAPIModule::GetInstance();
+    api.Init(&userManager);
+    APIModule::TimeSyncConfig config;
+    const int result = api.ExecuteFuncs(
+        [](void* request) { return APIModule::CBRMSModule::PacketGetTimeSyncConfig(request, -1); },
+        [&config](const QJsonObject& data) { return APIModule::CBRMSModule::ParseGetTimeSyncConfig(data, config); },
+        QStringLiteral("Reading the time settings failed"), nullptr, QString(), true, true);
+    api.UnInit();
+    std::cout << "result " << result << ", time synchronisation every " << config.interval << '\n';
+    return result == 0 && config.interval > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        const QApplication application(argc, argv);
+        return Run();
+    } catch (const std::exception& error) {
+        std::cerr << "consumer: " << error.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}
