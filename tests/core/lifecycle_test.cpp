@@ -1,12 +1,14 @@
 // The library and the life of the application object. Each test is a process of its own.
 #include "support/Host.h"
 #include "support/TestApplication.h"
+#include "support/Waiting.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 #include <vector>
 
@@ -227,31 +229,67 @@ TEST_F(Lifecycle, QuitWithoutARunningLoopEndsTheNextCall)
     EXPECT_EQ(notifications.Take(), TimeOutNotice());
 }
 
-TEST_F(Lifecycle, CallsAboutToQuit)
+/// The end of the application, for each of the ways of waiting.
+class EndTest : public Lifecycle, public testing::WithParamInterface<Waiting> {
+protected:
+    int Run(const QString& url, int nTimeout = 20)
+    {
+        QWidget parent;
+        parent.show();
+        HostCall call = Call(url, nTimeout);
+        call.parent = GetParam() == BehindDialog ? &parent : nullptr;
+        return Execute(call);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Waits, EndTest, testing::Values(InLoop, BehindDialog),
+                         [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
+
+TEST_P(EndTest, CallsAboutToQuit)
 {
-    QCoreApplication application(g_argc, g_argv);
+    TestApplication application(g_argc, g_argv);
     int nEarlier = 99;
     int nLater = 99;
-    QObject::connect(&application, &QCoreApplication::aboutToQuit,
-                     [&] { nEarlier = Execute(Call(QStringLiteral("/ok"))); });
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, [&] { nEarlier = Run(QStringLiteral("/ok")); });
     const Server server(*this);
-    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit,
-                     [&] { nLater = Execute(Call(QStringLiteral("/silent"))); });
+    EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, [&] { nLater = Run(QStringLiteral("/silent")); });
     QTimer::singleShot(0, &application, &QCoreApplication::quit);
-    QCoreApplication::exec();
+    QApplication::exec();
     EXPECT_EQ(nEarlier, 0) << "before the façade's own slot a call still completes";
     EXPECT_EQ(nLater, -1);
     EXPECT_EQ(notifications.Take(), TimeOutNotice());
 }
 
-TEST_F(Lifecycle, ApplicationDestroyedAfterACall)
+TEST_P(EndTest, QuitEndsTenNestedCalls)
+{
+    TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    std::vector<int> results;
+    std::function<void(int)> nest = [&](int nDepth) {
+        QTimer::singleShot(0, &application, [&nest, nDepth] {
+            if (nDepth < 10) {
+                nest(nDepth + 1);
+            } else {
+                QCoreApplication::quit();
+            }
+        });
+        results.push_back(Run(QStringLiteral("/silent")));
+    };
+    QTimer::singleShot(0, &application, [&nest] { nest(1); });
+    QApplication::exec();
+    EXPECT_EQ(results, std::vector<int>(10, -1));
+    EXPECT_EQ(notifications.Take().size(), 10);
+}
+
+TEST_P(EndTest, ApplicationDestroyedAfterCalls)
 {
     auto application = std::make_unique<TestApplication>(g_argc, g_argv);
     auto server = std::make_unique<Server>(*this);
-    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
-    EXPECT_EQ(Execute(Call(QStringLiteral("/silent"), 0)), -1);
+    EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
+    EXPECT_EQ(Run(QStringLiteral("/silent"), 0), -1);
     server.reset();
+    EXPECT_EQ(Run(QStringLiteral("/ok")), -1) << "refused";
     application.reset();
 }
 

@@ -58,10 +58,9 @@ protected:
     int m_parseResult = 0;
 };
 
-/// A complete HTTP answer and what the host gets.
+/// An envelope and what the host gets.
 struct Answer {
     const char* name;
-    int status;
     const char* body;
     int resultNotNotified;  ///< result with bNotifyOnFailure false
     int notice;             ///< code that is notified with bNotifyOnFailure true, kSuccess for the success tip
@@ -75,16 +74,10 @@ TEST_P(AnswerTest, Judged)
 {
     const auto& [row, waiting, scheme] = GetParam();
     const Answer answer = row;
-    RawServer server(
-        [answer](const RawRequest&) { return HttpAnswer(answer.status, answer.body, "Location: /elsewhere\r\n"); },
-        scheme);
+    RawServer server([answer](const RawRequest&) { return HttpAnswer(200, answer.body); }, scheme);
     Use(server, scheme);
     const QString schemeName = scheme == RawServer::Http ? QStringLiteral("http") : QStringLiteral("https");
-    const char* const function = FunctionOf(waiting);
-    const LogLine end = row.status == 200 ? LogLine{kFacadeFile, function, 4, "Request success."}
-                                          : LogLine{kFacadeFile, function, 6,
-                                                    "Request failed, http status Code: " + std::to_string(row.status) +
-                                                        ", request url: " + Url(schemeName)};
+    const LogLine end{kFacadeFile, FunctionOf(waiting), 4, "Request success."};
 
     EXPECT_EQ(Execute(Call(waiting, false)), row.resultNotNotified);
     const bool bSuccess = row.notice == kSuccess;
@@ -111,42 +104,21 @@ TEST_P(AnswerTest, Judged)
 }
 
 const Answer kAnswers[] = {
-    {"success_with_data", 200, R"({"code":1000,"desc":"ok","data":{"a":1}})", 0, kSuccess, R"({"a":1})"},
-    {"success_with_empty_data", 200, R"({"code":1000,"desc":"ok","data":{}})", 0, kSuccess, nullptr},
-    {"success_without_data", 200, R"({"code":1000})", 0, kSuccess, nullptr},
-    {"data_null", 200, R"({"code":1000,"data":null})", 0, kSuccess, nullptr},
-    {"data_a_text", 200, R"({"code":1000,"data":"a"})", 0, kSuccess, nullptr},
-    {"data_an_array", 200, R"({"code":1000,"data":[{"a":1}]})", 0, kSuccess, nullptr},
-    {"code_with_fraction_zero", 200, R"({"code":1000.0})", 0, kSuccess, nullptr},
-    {"code_2001", 200, R"({"code":2001,"data":{"a":1}})", 2001, 2001, nullptr},
-    {"code_negative", 200, R"({"code":-5})", -5, -5, nullptr},
-    {"code_0", 200, R"({"code":0,"data":{"a":1}})", 0, 0, nullptr},
-    {"code_missing", 200, R"({"data":{"a":1}})", 0, 0, nullptr},
-    {"code_a_text", 200, R"({"code":"1000","data":{"a":1}})", 0, 0, nullptr},
-    {"code_a_fraction", 200, R"({"code":1000.5})", 0, 0, nullptr},
-    {"code_null", 200, R"({"code":null,"data":{"a":1}})", -1, -1, nullptr},
-    {"array_envelope", 200, R"([{"code":1000}])", 0, 0, nullptr},
-    {"empty_object", 200, "{}", 0, 0, nullptr},
-    {"empty_body", 200, "", -1, -1, nullptr},
-    {"not_json", 200, "<html>", -1, -1, nullptr},
-    {"cut_json", 200, R"({"code":1000,"data":{)", -1, -1, nullptr},
-    {"json_and_more", 200, R"({"code":1000} x)", -1, -1, nullptr},
-    {"status_201", 201, R"({"code":1000})", 201, 201, nullptr},
-    {"status_204", 204, "", 204, 204, nullptr},
-    {"status_302", 302, R"({"code":1000})", 302, 302, nullptr},
-    {"status_400", 400, R"({"code":1000})", 400, 400, nullptr},
-    {"status_403", 403, "", 403, 403, nullptr},
-    {"status_404", 404, "missing", 404, 404, nullptr},
-    {"status_405", 405, "", 405, 405, nullptr},
-    {"status_407", 407, "", 407, 407, nullptr},
-    {"status_409", 409, "", 409, 409, nullptr},
-    {"status_410", 410, "", 410, 410, nullptr},
-    {"status_418", 418, "", 418, 418, nullptr},
-    {"status_429", 429, "", 429, 429, nullptr},
-    {"status_500", 500, R"({"code":1000})", 500, 500, nullptr},
-    {"status_501", 501, "", 501, 501, nullptr},
-    {"status_503", 503, "", 503, 503, nullptr},
-    {"status_599", 599, "", 599, 599, nullptr},
+    {"success_with_data", R"({"code":1000,"desc":"ok","data":{"a":1}})", 0, kSuccess, R"({"a":1})"},
+    {"success_with_empty_data", R"({"code":1000,"desc":"ok","data":{}})", 0, kSuccess, nullptr},
+    {"success_without_data", R"({"code":1000})", 0, kSuccess, nullptr},
+    {"data_null", R"({"code":1000,"data":null})", 0, kSuccess, nullptr},
+    {"data_a_text", R"({"code":1000,"data":"a"})", 0, kSuccess, nullptr},
+    {"data_an_array", R"({"code":1000,"data":[{"a":1}]})", 0, kSuccess, nullptr},
+    {"code_with_fraction_zero", R"({"code":1000.0})", 0, kSuccess, nullptr},
+    {"code_2001", R"({"code":2001,"data":{"a":1}})", 2001, 2001, nullptr},
+    {"code_negative", R"({"code":-5})", -5, -5, nullptr},
+    {"code_0", R"({"code":0,"data":{"a":1}})", 0, 0, nullptr},
+    {"code_missing", R"({"data":{"a":1}})", 0, 0, nullptr},
+    {"code_a_text", R"({"code":"1000","data":{"a":1}})", 0, 0, nullptr},
+    {"code_a_fraction", R"({"code":1000.5})", 0, 0, nullptr},
+    {"code_null", R"({"code":null,"data":{"a":1}})", -1, -1, nullptr},
+    {"empty_object", "{}", 0, 0, nullptr},
 };
 
 INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
@@ -158,129 +130,12 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
                                     (std::get<2>(row.param) == RawServer::Http ? "_http" : "_https");
                          });
 
-/// An exchange without a complete HTTP answer, or one that asks for authentication.
-struct Failure {
-    const char* name;
-    RawAnswer answer;
-    int code;
-    const char* errorCode;  ///< Qt's, as it stands in the line; null where Qt says the one or the other
-};
-
-class FailureTest : public Results, public testing::WithParamInterface<std::tuple<Failure, Waiting>> {};
-
-TEST_P(FailureTest, IsNotifiedInAnyCase)
-{
-    const auto& [row, waiting] = GetParam();
-    RawServer server([answer = row.answer](const RawRequest&) { return answer; });
-    Use(server);
-    for (const bool bNotifyOnFailure : {false, true}) {
-        EXPECT_EQ(Execute(Call(waiting, bNotifyOnFailure)), -1);
-        EXPECT_EQ(notifications.Take(), QStringList{Notice(row.code)});
-        const LogLines lines = logs.Take();
-        ASSERT_EQ(lines.size(), 2U);
-        EXPECT_EQ(lines[0], SendingLine());
-        EXPECT_EQ(lines[1].function, FunctionOf(waiting));
-        EXPECT_EQ(lines[1].level, 6);
-        std::string start = "Request failed, an internal network error occurred, qt network error code: ";
-        if (row.errorCode) {
-            start += row.errorCode + std::string(", network error info: ");
-        }
-        EXPECT_EQ(lines[1].message.substr(0, start.size()), start);
-        EXPECT_GT(lines[1].message.size(), start.size());
-    }
-    EXPECT_TRUE(m_parsed.isEmpty());
-}
-
-/// An answer that ends within its body, at once or a little later.
-RawAnswer Cut(int status, RawAnswer::Then then = RawAnswer::Close)
-{
-    return {"HTTP/1.1 " + QByteArray::number(status) + " Reason\r\nContent-Length: 1000\r\n\r\n{\"code\":1000}", 0,
-            then};
-}
-
-const Failure kFailures[] = {
-    {"closed_before_the_answer", {"", 0, RawAnswer::Close}, -18, "2"},
-    {"reset_before_the_answer", {"", 0, RawAnswer::Reset}, -18, "2"},
-    {"closed_in_the_headers", {"HTTP/1.1 200 OK\r\nContent-Le", 0, RawAnswer::Close}, -18, "2"},
-    {"closed_in_the_body", Cut(200), -18, nullptr},
-    {"closed_in_the_body_later", Cut(200, RawAnswer::CloseLater), -18, nullptr},
-    {"closed_in_the_body_of_201", Cut(201), -18, nullptr},
-    {"closed_in_the_body_of_302", Cut(302), -18, nullptr},
-    {"closed_in_the_body_of_302_later", Cut(302, RawAnswer::CloseLater), -18, nullptr},
-    {"closed_in_the_body_of_404_later", Cut(404, RawAnswer::CloseLater), -18, nullptr},
-    {"closed_in_the_body_of_404", Cut(404), -18, nullptr},
-    {"closed_in_the_body_of_500", Cut(500), -18, nullptr},
-    {"no_http", {"220 mail ready\r\n\r\n", 0, RawAnswer::Close}, -18, "2"},
-    {"401_without_challenge", HttpAnswer(401, "{}"), 7000, "204"},
-    {"401_basic", HttpAnswer(401, "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"), 7000, "204"},
-    {"401_digest", HttpAnswer(401, "{}", "WWW-Authenticate: Digest realm=\"x\", nonce=\"1\"\r\n"), 7000, "204"},
-    {"401_bearer", HttpAnswer(401, "{}", "WWW-Authenticate: Bearer\r\n"), 7000, "204"},
-};
-
-INSTANTIATE_TEST_SUITE_P(Failures, FailureTest,
-                         testing::Combine(testing::ValuesIn(kFailures), testing::Values(InLoop, BehindDialog)),
-                         [](const auto& row) {
-                             return std::string(std::get<0>(row.param).name) +
-                                    (std::get<1>(row.param) == InLoop ? "_loop" : "_dialog");
-                         });
-
-TEST_F(Results, ProxyChallengeOfTheServerIsAStatus)
-{
-    RawServer server(
-        [](const RawRequest&) { return HttpAnswer(407, "{}", "Proxy-Authenticate: Basic realm=\"x\"\r\n"); });
-    Use(server);
-    EXPECT_EQ(Execute(Call(InLoop, false)), 407);
-    EXPECT_EQ(notifications.Take(), QStringList());
-}
-
-TEST_F(Results, Refused)
-{
-    {
-        QTcpServer nobody;
-        ASSERT_TRUE(nobody.listen(QHostAddress::LocalHost));
-        users.servers[1].port = nobody.serverPort();
-    }
-    CAPIModule::GetInstance().SetHttpsMode(0);
-    EXPECT_EQ(Execute(Call(InLoop, false)), -1);
-    EXPECT_EQ(notifications.Take(), QStringList{Notice(-18)});
-    const LogLines lines = logs.Take();
-    ASSERT_EQ(lines.size(), 2U);
-    EXPECT_NE(lines[1].message.find("qt network error code: 1, network error info: "), std::string::npos);
-}
-
-TEST_F(Results, NameUnknown)
-{
-    users.servers[1].host = "no-such-host.invalid";
-    CAPIModule::GetInstance().SetHttpsMode(0);
-    HostCall call = Call(InLoop, false);
-    call.timeout = 60;
-    EXPECT_EQ(Execute(call), -1);
-    EXPECT_EQ(notifications.Take(), QStringList{Notice(-18)});
-    EXPECT_NE(logs.Take().at(1).message.find("qt network error code: 3, "), std::string::npos);
-}
-
-TEST_F(Results, HttpsToAnHttpPort)
-{
-    RawServer server([](const RawRequest&) { return HttpAnswer(400, "no TLS here"); });
-    server.AnswerAnything();
-    Use(server, RawServer::Https);
-    EXPECT_EQ(Execute(Call(InLoop, false)), -1);
-    EXPECT_EQ(notifications.Take(), QStringList{Notice(-18)});
-    EXPECT_NE(logs.Take().at(1).message.find("qt network error code: 6, "), std::string::npos);
-}
-
-TEST_F(Results, HttpToAnHttpsPort)
-{
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, "{}"); }, RawServer::Https);
-    Use(server, RawServer::Http);
-    EXPECT_EQ(Execute(Call(InLoop, false)), -1);
-    EXPECT_EQ(notifications.Take(), QStringList{Notice(-18)});
-}
-
 /// Qt's text of an error may hold the URL.
 TEST_F(Results, NetworkErrorTextIsMasked)
 {
-    RawServer server([](const RawRequest&) { return Cut(404); });
+    RawServer server([](const RawRequest&) {
+        return RawAnswer{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawAnswer::Close};
+    });
     Use(server);
     HostCall call = Call(InLoop, false);
     call.url = QStringLiteral("/path?token=0123456789secret");
@@ -448,10 +303,9 @@ int Throw()
 }
 
 const Way kWays[] = {
-    {"success", "/path", 5, Succeed, Succeed, 0},       {"failing_pack", "/path", 5, Fail, Succeed, -1},
-    {"throwing_pack", "/path", 5, Throw, Succeed, -1},  {"empty_url", "", 5, Succeed, Succeed, -1},
-    {"failing_parse", "/path", 5, Succeed, Fail, 3},    {"throwing_parse", "/path", 5, Succeed, Throw, -1},
-    {"status_404", "/other", 5, Succeed, Succeed, 404}, {"time_out", "/silent", 0, Succeed, Succeed, -1},
+    {"success", "/path", 5, Succeed, Succeed, 0},      {"failing_pack", "/path", 5, Fail, Succeed, -1},
+    {"throwing_pack", "/path", 5, Throw, Succeed, -1}, {"empty_url", "", 5, Succeed, Succeed, -1},
+    {"failing_parse", "/path", 5, Succeed, Fail, 3},   {"throwing_parse", "/path", 5, Succeed, Throw, -1},
     {"invalid_url", "@x/", 5, Succeed, Succeed, -1},
 };
 
@@ -490,16 +344,6 @@ TEST_F(Results, ReplyOf20MegabytesComesWhole)
     call.timeout = 60;
     EXPECT_EQ(Execute(call), 0);
     EXPECT_EQ(m_parsed.at(0).toObject().value(QStringLiteral("text")).toString().size(), text.size());
-}
-
-TEST_F(Results, NestingBeyondTheParserIsAnEnvelopeFailure)
-{
-    const QByteArray body = "{\"code\":1000,\"data\":{\"a\":" + QByteArray(5000, '[') + QByteArray(5000, ']') + "}}";
-    RawServer server([&](const RawRequest&) { return HttpAnswer(200, body); });
-    Use(server);
-    EXPECT_EQ(Execute(Call(InLoop, false)), -1);
-    EXPECT_EQ(notifications.Take(), QStringList());
-    EXPECT_TRUE(m_parsed.isEmpty());
 }
 
 TEST_F(Results, NothingIsNotifiedAfterUnInitDuringTheCall)

@@ -290,27 +290,6 @@ TEST_F(WaitBase, TenWholeTimeOutsStarveNoCall)
     EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/ok"), 5)), 0);
 }
 
-TEST_P(WaitTest, UnInitLeavesTheCallItsResult)
-{
-    During(50, [] { CAPIModule::GetInstance().UnInit(); });
-    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/200"))), 0);
-    EXPECT_EQ(notifications.Take(), QStringList());
-    CAPIModule::GetInstance().Init(&users);
-    During(50, [] { CAPIModule::GetInstance().UnInit(); });
-    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), 1)), -1);
-    EXPECT_EQ(notifications.Take(), QStringList());
-}
-
-TEST_P(WaitTest, SettingsAndServersMayChange)
-{
-    During(50, [this] {
-        CAPIModule::GetInstance().SetLanguage("de");
-        CAPIModule::GetInstance().SetHttpsMode(1);
-        users.servers.clear();
-    });
-    EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/200"))), 0);
-}
-
 /// A call inside another one's wait, each in either way of waiting.
 class NestedTest : public WaitBase, public testing::WithParamInterface<std::tuple<Waiting, Waiting>> {};
 
@@ -370,22 +349,6 @@ TEST_P(NestedTest, ParentOfBothGoes)
     EXPECT_EQ(nInner, inner == InLoop ? 0 : -1);
 }
 
-TEST_F(WaitBase, TenNestedCalls)
-{
-    std::vector<int> results;
-    std::function<void(int)> nest = [&](int nDepth) {
-        if (nDepth < 10) {
-            During(10, [&nest, nDepth] { nest(nDepth + 1); });
-        }
-        const QString url = nDepth % 3 == 0 ? QStringLiteral("/404") : QStringLiteral("/after/%1").arg(50 * nDepth);
-        results.push_back(Execute(Call(nDepth % 2 == 0 ? InLoop : BehindDialog, url)));
-    };
-    nest(1);
-    ASSERT_EQ(results.size(), 10U);
-    EXPECT_EQ(std::count(results.begin(), results.end(), 404), 3);
-    EXPECT_EQ(std::count(results.begin(), results.end(), 0), 7);
-}
-
 /// The reply that comes while the inner call still waits is none of an outer one whose parent is gone.
 TEST_F(WaitBase, ReplyAfterTheParentIsNoResult)
 {
@@ -395,29 +358,6 @@ TEST_F(WaitBase, ReplyAfterTheParentIsNoResult)
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), -1);
     EXPECT_EQ(nInner, 0);
     EXPECT_EQ(notifications.Take(), (QStringList{QStringLiteral("Done"), TimeOutNotice()}));
-}
-
-TEST_F(WaitBase, ParentsDestructionEndsTheWait)
-{
-    for (const bool bLater : {false, true}) {
-        if (!m_parent) {
-            m_parent = new QWidget;
-            m_parent->show();
-        }
-        During(100, [&] {
-            if (bLater) {
-                m_parent->deleteLater();
-            } else {
-                delete m_parent;
-            }
-        });
-        QElapsedTimer elapsed;
-        elapsed.start();
-        EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/silent"))), -1);
-        EXPECT_LT(elapsed.elapsed(), 5000);
-        EXPECT_EQ(logs.Take(), TimedOut(BehindDialog, "/silent"));
-        EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
-    }
 }
 
 TEST_F(WaitBase, GrandparentsDestructionEndsTheWait)
@@ -443,30 +383,28 @@ TEST_F(WaitBase, ParentGoneBeforeTheWait)
     EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs(pack, call.parse, {}, call.parent, {}, true, true), 0);
 }
 
-/// What a user may do to the parent or the dialog without ending the wait.
+/// What a user may do to the dialog without ending the wait.
 struct Disturbance {
     const char* name;
-    void (*act)(QWidget& parent, QWidget& dialog);
+    void (*act)(QWidget& dialog);
 };
 
 class DisturbanceTest : public WaitBase, public testing::WithParamInterface<Disturbance> {};
 
 const Disturbance kDisturbances[] = {
-    {"parent_hidden", [](QWidget& parent, QWidget&) { parent.hide(); }},
-    {"parent_closed", [](QWidget& parent, QWidget&) { parent.close(); }},
     {"escape",
-     [](QWidget&, QWidget& dialog) {
+     [](QWidget& dialog) {
          QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
          QApplication::sendEvent(&dialog, &press);
      }},
-    {"close_button", [](QWidget&, QWidget& dialog) { dialog.close(); }},
+    {"close_button", [](QWidget& dialog) { dialog.close(); }},
     {"close_event",
-     [](QWidget&, QWidget& dialog) {
+     [](QWidget& dialog) {
          QCloseEvent close;
          QApplication::sendEvent(&dialog, &close);
      }},
-    {"dialog_hidden", [](QWidget&, QWidget& dialog) { dialog.hide(); }},
-    {"dialog_deleted", [](QWidget&, QWidget& dialog) { delete &dialog; }},
+    {"dialog_hidden", [](QWidget& dialog) { dialog.hide(); }},
+    {"dialog_deleted", [](QWidget& dialog) { delete &dialog; }},
 };
 
 INSTANTIATE_TEST_SUITE_P(Disturbances, DisturbanceTest, testing::ValuesIn(kDisturbances), RowName());
@@ -477,7 +415,7 @@ TEST_P(DisturbanceTest, DoesNotEndTheWait)
     During(100, [&] {
         auto* pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(pDialog, nullptr);
-        GetParam().act(*m_parent, *pDialog);
+        GetParam().act(*pDialog);
         bDone = true;
     });
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), 0);

@@ -88,7 +88,7 @@ Outcome StatusFails(int status)
 
 Outcome TimesOut()
 {
-    return {-101, false, 6, "Request time out, request url: %1", true, {}};
+    return {kTimedOut, false, 6, "Request time out, request url: %1", true, {}};
 }
 
 Outcome NetworkFails(const std::string& qtCode, const std::string& qtText)
@@ -179,6 +179,11 @@ void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNoti
 {
     HostCall call = Call(way, url, nTimeout);
     call.notifyOnFailure = bNotifyOnFailure;
+    int nParsed = 0;
+    call.parse = [&nParsed](const QJsonObject&) {
+        ++nParsed;
+        return 0;
+    };
     const std::string fullUrl = (way.scheme == RawServer::Http ? "http://" : "https://") + users.servers[1].host + ':' +
                                 std::to_string(users.servers[1].port) + url.toStdString();
     logs.Take();
@@ -202,6 +207,7 @@ void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNoti
     const bool bNotified = !bSuccess && (bNotifyOnFailure || !pOutcome->answered);
     const QString notice = bSuccess ? QStringLiteral("Done") : Notice(pOutcome->code);
     EXPECT_EQ(nResult, bSuccess ? 0 : bNotified ? -1 : pOutcome->code);
+    EXPECT_EQ(nParsed, bSuccess ? 1 : 0);
     EXPECT_EQ(notices, pOutcome->shown && (bSuccess || bNotified) ? QStringList{notice} : QStringList());
 
     const bool bUnknownCode = bNotified && notice == call.uiError;

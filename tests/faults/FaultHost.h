@@ -17,6 +17,8 @@ namespace testing_support {
 
 /// The code of an envelope that tells of success.
 constexpr int kSuccess = 1000;
+/// The code of a time-out.
+constexpr int kTimedOut = -101;
 
 /// In which of the ways a call meets a fault.
 struct Way {

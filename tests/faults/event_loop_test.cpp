@@ -2,6 +2,7 @@
 #include "FaultHost.h"
 #include "support/Rows.h"
 
+#include <QElapsedTimer>
 #include <QSemaphore>
 
 #include <algorithm>
@@ -128,7 +129,12 @@ TEST_P(EventTest, LeavesTheCallItsResult)
 
         const bool bEnded = event.endsDialog && way.waiting == BehindDialog;
         const Outcome outcome = answered && !bEnded ? Succeeds() : TimesOut();
+        QElapsedTimer elapsed;
+        elapsed.start();
         ExpectOutcome(way, event.endsUse ? Unseen(outcome) : outcome, false, bEnded || answered ? 20 : 1);
+        if (bEnded) {
+            EXPECT_LT(elapsed.elapsed(), 10000) << "ends at once, not at its time-out";
+        }
         EXPECT_EQ(server.TakeRequests().size(), 1U);
 
         BeginUse();
@@ -189,7 +195,7 @@ RawAnswer RespondLater(const RawRequest& request)
 int NestedTest::RunOne(std::size_t nDepth)
 {
     static constexpr End kEnds[] = {
-        {"ok", 0, 0}, {"404", 404, 0}, {"closed", -1, -18}, {"silent", -1, -101}, {"orphaned", -1, -101}};
+        {"ok", 0, 0}, {"404", 404, 0}, {"closed", -1, -18}, {"silent", -1, kTimedOut}, {"orphaned", -1, kTimedOut}};
     const auto ways = Ways();
     Way way = ways[m_random() % ways.size()];
     const End& end = kEnds[m_random() % std::size(kEnds)];
