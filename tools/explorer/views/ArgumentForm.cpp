@@ -54,7 +54,6 @@ ArgumentForm::ArgumentForm(QWidget* pParent)
     pButtons->addStretch();
 
     auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pArea, 1);
     pLayout->addWidget(m_pProblem);
     pLayout->addLayout(pButtons);
@@ -77,6 +76,8 @@ void ArgumentForm::SetCall(const catalogue::Call& call)
 
     auto* pContent = new QWidget;
     QFormLayout* pForm = MakeForm(pContent);
+    constexpr int kRoomForTheScrollBar = 6;
+    pForm->setContentsMargins(0, 0, kRoomForTheScrollBar, 0);
     for (const Argument& argument : call.arguments) {
         std::string name(argument.name);
         ValueEditor* pEditor = AddMember(pForm, *argument.type, QString::fromStdString(name));

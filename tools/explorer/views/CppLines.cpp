@@ -1,5 +1,7 @@
 #include "CppLines.h"
 
+#include "Plain.h"
+
 #include <catalogue/Call.h>
 
 #include <nlohmann/json.hpp>
@@ -20,11 +22,6 @@ using nlohmann::json;
 QString FromView(std::string_view text)
 {
     return QString::fromUtf8(text.data(), int(text.size()));
-}
-
-bool IsPlain(const Type& type)
-{
-    return type.kind != Kind::Record && type.kind != Kind::List;
 }
 
 QString TypeName(const Type& type)
@@ -216,7 +213,8 @@ QString CppLines(const catalogue::Call& call, const json& arguments, int serverI
 {
     QStringList lines;
     for (const catalogue::Argument& argument : call.arguments) {
-        AddVariable(lines, argument, arguments.at(std::string(argument.name)));
+        const auto given = arguments.find(std::string(argument.name));
+        AddVariable(lines, argument, given == arguments.end() ? catalogue::Value(*argument.type).ToJson() : *given);
     }
     if (!lines.isEmpty()) {
         lines.append(QString());

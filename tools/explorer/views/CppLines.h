@@ -11,7 +11,7 @@ struct Call;
 namespace explorer {
 
 /// A call as a client engineer writes it: a function, with its includes, that makes the call with these arguments.
-/// @p arguments holds each of them under its name and fits the call.
+/// @p arguments holds them under their names and fits the call; what it leaves out is written as a fresh value.
 QString CppLines(const catalogue::Call& call, const nlohmann::json& arguments, int serverId);
 
 /// A text as a C++ literal. A plain literal ends at its first zero byte, so a text with one is a std::string.

@@ -1,10 +1,12 @@
 #include "ListEditor.h"
 
+#include "Plain.h"
 #include "Theme.h"
 #include "TintedLabel.h"
 
 #include <catalogue/Value.h>
 
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QToolButton>
@@ -43,13 +45,15 @@ ListEditor::ListEditor(const catalogue::Type& type, const QString& name, QWidget
 {
     m_pLayout->setContentsMargins(0, 0, 0, 0);
     m_pHint->setText(tr("The list is empty."));
+    m_pHint->setWordWrap(false);
     m_pAdd->setObjectName(name + QLatin1String(".add"));
     m_pAdd->setAccessibleName(tr("Add an element to %1").arg(name));
     m_pAdd->setAutoDefault(false);
 
     auto* pFooter = new QHBoxLayout;
     pFooter->addWidget(m_pAdd);
-    pFooter->addWidget(m_pHint, 1);
+    pFooter->addWidget(m_pHint);
+    pFooter->addStretch();
     m_pLayout->addLayout(pFooter);
     connect(m_pAdd, &QPushButton::clicked, this, &ListEditor::AddByUser);
 }
@@ -89,15 +93,15 @@ QList<QWidget*> ListEditor::TabStops() const
 {
     QList<QWidget*> stops;
     for (const Row& row : m_rows) {
-        stops += row.pEditor->TabStops();
-        stops << row.pUp << row.pDown << row.pRemove;
+        const QList<QWidget*> buttons{row.pUp, row.pDown, row.pRemove};
+        stops += IsPlain(m_element) ? row.pEditor->TabStops() + buttons : buttons + row.pEditor->TabStops();
     }
     return stops << m_pAdd;
 }
 
 void ListEditor::Append()
 {
-    auto* pWidget = new QWidget(this);
+    auto* pWidget = new QFrame(this);
     Row row{pWidget,
             new TintedLabel(theme::Hint),
             MakeEditor(m_element, m_name, pWidget),
@@ -105,16 +109,27 @@ void ListEditor::Append()
             MakeArrow(Qt::DownArrow, m_name + QLatin1String(".down"), tr("Move down")),
             MakeButton(m_name + QLatin1String(".remove"), tr("Remove"))};
     row.pRemove->setText(QString(QChar(0x00D7)));  // a multiplication sign looks like a cross in every font
-
-    auto* pLayout = new QHBoxLayout(pWidget);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    row.pNumber->setMinimumWidth(row.pNumber->fontMetrics().horizontalAdvance(QStringLiteral("000.")));
     row.pNumber->setWordWrap(false);
-    constexpr Qt::Alignment kTop = Qt::AlignTop;
-    pLayout->addWidget(row.pNumber, 0, row.pEditor->TabStops().size() > 1 ? kTop : Qt::AlignVCenter);
-    pLayout->addWidget(row.pEditor, 1);
+    row.pNumber->setMinimumWidth(row.pNumber->fontMetrics().horizontalAdvance(QStringLiteral("000.")));
+
+    // A plain value stands between its number and its buttons, anything larger in a frame under them.
+    auto* pHead = new QHBoxLayout;
+    pHead->addWidget(row.pNumber);
+    if (IsPlain(m_element)) {
+        pHead->addWidget(row.pEditor, 1);
+    } else {
+        pHead->addStretch();
+        pWidget->setFrameShape(QFrame::StyledPanel);
+    }
     for (QToolButton* pButton : {row.pUp, row.pDown, row.pRemove}) {
-        pLayout->addWidget(pButton, 0, kTop);
+        pHead->addWidget(pButton, 0, Qt::AlignTop);
+    }
+    auto* pLayout = new QVBoxLayout(pWidget);
+    pLayout->addLayout(pHead);
+    if (IsPlain(m_element)) {
+        pLayout->setContentsMargins(0, 0, 0, 0);
+    } else {
+        pLayout->addWidget(row.pEditor);
     }
 
     connect(row.pEditor, &ValueEditor::Changed, this, &ListEditor::Changed);

@@ -24,7 +24,6 @@ public:
 
     void stepBy(int steps) override;
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
     void Changed();

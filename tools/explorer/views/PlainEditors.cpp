@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
@@ -77,11 +78,18 @@ NumberEditor::NumberEditor(catalogue::Kind kind, const QString& name, QWidget* p
     : ValueEditor(pParent), m_pBox(new NumberBox(kind)), m_pProblem(new TintedLabel(theme::Error))
 {
     Name(m_pBox, name);
-    QHBoxLayout* pRow = MarginlessRow(this);
-    pRow->addWidget(m_pBox);
-    pRow->addWidget(m_pProblem, 1);
+    m_pProblem->setObjectName(name + QLatin1String(".problem"));
+    m_pProblem->setWordWrap(false);
+    m_pProblem->hide();
+    auto* pColumn = new QVBoxLayout(this);
+    pColumn->setContentsMargins(0, 0, 0, 0);
+    pColumn->setSpacing(2);
+    pColumn->addWidget(m_pBox, 0, Qt::AlignLeft);
+    pColumn->addWidget(m_pProblem);
     connect(m_pBox, &NumberBox::Changed, this, [this] {
-        m_pProblem->setText(m_pBox->Problem());
+        const QString problem = m_pBox->Problem();
+        m_pProblem->setText(problem);
+        m_pProblem->setVisible(!problem.isEmpty());
         emit Changed();
     });
 }

@@ -1,5 +1,7 @@
 #include "RecordEditor.h"
 
+#include "Plain.h"
+
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -9,7 +11,6 @@
 
 namespace explorer {
 
-using catalogue::Kind;
 using nlohmann::json;
 
 RecordEditor::RecordEditor(const catalogue::Type& type, const QString& /*name*/, QWidget* pParent)
@@ -59,7 +60,7 @@ QList<QWidget*> RecordEditor::TabStops() const
 ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QString& name)
 {
     const QString typeName = QString::fromStdString(NameOf(type));
-    if (type.kind != Kind::Record && type.kind != Kind::List) {
+    if (IsPlain(type)) {
         ValueEditor* pEditor = MakeEditor(type, name, nullptr);
         auto* pLabel = new QLabel(name);
         pLabel->setBuddy(pEditor->TabStops().constFirst());

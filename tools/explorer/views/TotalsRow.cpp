@@ -18,7 +18,6 @@ TotalsRow::TotalsRow(QTableView& table, QWidget* pParent)
     m_pCells->setSectionResizeMode(QHeaderView::Fixed);
     m_pCells->setHighlightSections(false);
     m_pCells->setFocusPolicy(Qt::NoFocus);
-    setFixedHeight(m_pCells->sizeHint().height());
 
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(table.frameWidth(), 0, 0, 0);
@@ -38,6 +37,9 @@ void TotalsRow::SetTotals(const QStringList& totals)
         auto* pItem = new QStandardItem(totals[column]);
         pItem->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_model.setHorizontalHeaderItem(column, pItem);
+    }
+    if (!totals.isEmpty()) {
+        setFixedHeight(m_pCells->sizeHint().height());
     }
     Align();
 }

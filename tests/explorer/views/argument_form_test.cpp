@@ -1,0 +1,457 @@
+// The form of a call's arguments, as a user fills it in.
+#include "support/Screenshots.h"
+#include "support/ViewTest.h"
+
+#include <explorer/views/ArgumentForm.h>
+#include <explorer/views/Json.h>
+#include <explorer/views/NumberBox.h>
+
+#include <catalogue/Call.h>
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QToolButton>
+
+using explorer::ArgumentForm;
+using explorer::NumberBox;
+using nlohmann::json;
+
+namespace {
+
+const catalogue::Call& Call(const char* name)
+{
+    return *catalogue::FindCall(name);
+}
+
+template <typename Widget>
+Widget& Child(const QWidget& form, const char* name, int index = 0)
+{
+    const QList<Widget*> found = form.findChildren<Widget*>(QString::fromLatin1(name));
+    Q_ASSERT(index < found.size());
+    return *found[index];
+}
+
+/// Replaces what stands in a field, key by key.
+void Type(QWidget& field, const char* text)
+{
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, QString::fromUtf8(text));
+}
+
+json ArgumentsOf(const ArgumentForm& form)
+{
+    return explorer::FromQt(form.Arguments());
+}
+
+void SetClipboard(const char* text)
+{
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
+}
+
+QString Problem(const ArgumentForm& form)
+{
+    const auto& problem = Child<QLabel>(form, "pasteProblem");
+    return problem.isVisibleTo(&form) ? problem.text() : QString();
+}
+
+}  // namespace
+
+class ArgumentFormTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void AFormWithoutACallIsNotValid();
+    void ACallWithoutArgumentsIsValidAtOnce();
+    void EveryCallHasAFormWithFreshValues();
+    void EveryCallTakesBackItsOwnArguments();
+    void WhatIsTypedIsTheArguments();
+    void NumbersAreCheckedAsTyped_data();
+    void NumbersAreCheckedAsTyped();
+    void NumbersStepWithinTheirRange();
+    void TheWheelScrollsOverAFieldWithoutFocus();
+    void ElementsAreAddedRemovedAndMoved();
+    void TheTabKeyFollowsTheScreen();
+    void LabelsLeadToTheirFields();
+    void ACopyIsPastedBack();
+    void AWrongPasteSaysWhyAndChangesNothing_data();
+    void AWrongPasteSaysWhyAndChangesNothing();
+    void ArgumentsThatDoNotFitStayAsTheyWere();
+    void ChangesAreTold();
+    void Screenshots();
+};
+
+namespace {
+
+constexpr const char* kGroup = R"({"groupId": "7", "group": {"groupName": "Night", "memo": "a \"b\""}})";
+constexpr const char* kQuickCommand = R"({"command": {"id": "", "quickCommandName": "Open the gate",
+    "enableShortcutKeys": true, "shortcutKeys": "Ctrl+1", "executeMode": 1, "remark": "",
+    "httpUrls": [{"method": 0, "url": "http://10.0.0.1/open", "body": "", "seq": "1"},
+                 {"method": 2, "url": "http://10.0.0.2/light", "body": "{\"on\": 1}", "seq": "2"},
+                 {"method": 0, "url": "http://10.0.0.3/log", "body": "", "seq": "3"}]}})";
+
+}  // namespace
+
+void ArgumentFormTest::AFormWithoutACallIsNotValid()
+{
+    const ArgumentForm form;
+    QVERIFY(!form.IsValid());
+    QVERIFY(form.Arguments().isEmpty());
+    QVERIFY(!Child<QPushButton>(form, "copyArguments").isEnabled());
+    QVERIFY(!Child<QPushButton>(form, "pasteArguments").isEnabled());
+}
+
+void ArgumentFormTest::ACallWithoutArgumentsIsValidAtOnce()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.GetTimeSyncConfig"));
+    QVERIFY(form.IsValid());
+    QVERIFY(form.Arguments().isEmpty());
+}
+
+void ArgumentFormTest::EveryCallHasAFormWithFreshValues()
+{
+    ArgumentForm form;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        form.SetCall(call);
+        QVERIFY2(form.IsValid(), call.name.c_str());
+        json fresh = json::object();
+        for (const catalogue::Argument& argument : call.arguments) {
+            fresh[std::string(argument.name)] = catalogue::Value(*argument.type).ToJson();
+        }
+        QCOMPARE(ArgumentsOf(form), fresh);
+    }
+}
+
+namespace {
+
+/// A value of the type in which nothing is as in a fresh one; lists have two elements.
+json Distinct(const catalogue::Type& type, int& next)
+{
+    switch (type.kind) {
+    case catalogue::Kind::Bool:
+        return true;
+    case catalogue::Kind::Double:
+        return ++next + 0.5;
+    case catalogue::Kind::Text:
+        return "text \xC3\xBC\n" + std::to_string(++next);
+    case catalogue::Kind::Record: {
+        json record = json::object();
+        for (const catalogue::Field& field : type.fields) {
+            record[std::string(field.name)] = Distinct(*field.type, next);
+        }
+        return record;
+    }
+    case catalogue::Kind::List:
+        return {Distinct(*type.element, next), Distinct(*type.element, next)};
+    default:
+        return ++next;
+    }
+}
+
+}  // namespace
+
+void ArgumentFormTest::EveryCallTakesBackItsOwnArguments()
+{
+    ArgumentForm form;
+    int next = 0;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        json arguments = json::object();
+        for (const catalogue::Argument& argument : call.arguments) {
+            arguments[std::string(argument.name)] = Distinct(*argument.type, next);
+        }
+        form.SetCall(call);
+        form.SetArguments(explorer::ToQt(arguments));
+        QVERIFY2(form.IsValid(), call.name.c_str());
+        QCOMPARE(ArgumentsOf(form), arguments);
+    }
+}
+
+void ArgumentFormTest::WhatIsTypedIsTheArguments()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.SetTimeSyncConfig"));
+    Child<QCheckBox>(form, "enableNtp").click();
+    Type(Child<QLineEdit>(form, "startTime"), "02:00:00");
+    Type(Child<NumberBox>(form, "interval"), "-7");
+    const json config = ArgumentsOf(form).at("config");
+    QCOMPARE(config.at("enableNtp"), json(true));
+    QCOMPARE(config.at("startTime"), json("02:00:00"));
+    QCOMPARE(config.at("interval"), json(-7));
+}
+
+void ArgumentFormTest::NumbersAreCheckedAsTyped_data()
+{
+    using catalogue::Kind;
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("problem");
+    QTest::addColumn<QString>("value");
+    const auto add = [](const char* name, Kind kind, const char* typed, const char* problem, const char* value) {
+        QTest::newRow(name) << int(kind) << QString::fromLatin1(typed) << QString::fromLatin1(problem)
+                            << QString::fromLatin1(value);
+    };
+    const char* intRange = "Must be from -2147483648 to 2147483647";
+    const char* int64Range = "Must be from -9223372036854775808 to 9223372036854775807";
+    add("int: smallest", Kind::Int, "-2147483648", "", "-2147483648");
+    add("int: largest", Kind::Int, "2147483647", "", "2147483647");
+    add("int: too small", Kind::Int, "-2147483649", intRange, "0");
+    add("int: too large", Kind::Int, "2147483648", intRange, "0");
+    add("int: beyond all integers", Kind::Int, "99999999999999999999", intRange, "0");
+    add("int: empty", Kind::Int, "", "A number is missing", "0");
+    add("int: minus alone", Kind::Int, "-", "Not a whole number", "0");
+    add("int: a fraction", Kind::Int, "1.5", "Not a whole number", "0");
+    add("int: letters", Kind::Int, "twelve", "Not a whole number", "0");
+    add("int: spaces around", Kind::Int, " 12 ", "", "12");
+    add("int64: smallest", Kind::Int64, "-9223372036854775808", "", "-9223372036854775808");
+    add("int64: largest", Kind::Int64, "9223372036854775807", "", "9223372036854775807");
+    add("int64: too large", Kind::Int64, "9223372036854775808", int64Range, "0");
+    add("int64: too small", Kind::Int64, "-9223372036854775809", int64Range, "0");
+    add("double: a fraction", Kind::Double, "-0.25", "", "-0.25");
+    add("double: an exponent", Kind::Double, "1e3", "", "1000.0");
+    add("double: a comma", Kind::Double, "1,5", "Not a number, such as 0.5", "0");
+    add("double: not finite", Kind::Double, "inf", "Not a number, such as 0.5", "0");
+    add("double: empty", Kind::Double, "", "A number is missing", "0");
+}
+
+void ArgumentFormTest::NumbersAreCheckedAsTyped()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, typed);
+    QFETCH(QString, problem);
+    QFETCH(QString, value);
+    NumberBox box(catalogue::Kind{kind});
+    Type(box, typed.toUtf8().constData());
+    QCOMPARE(box.text(), typed);
+    QCOMPARE(box.Problem(), problem);
+    QCOMPARE(explorer::CompactJsonText(box.Value()), value);
+}
+
+void ArgumentFormTest::NumbersStepWithinTheirRange()
+{
+    NumberBox box(catalogue::Kind::Int64);
+    box.SetValue(std::numeric_limits<qint64>::max() - 1);
+    QTest::keyClick(&box, Qt::Key_PageUp);
+    QCOMPARE(box.Value(), json(std::numeric_limits<qint64>::max()));
+    box.SetValue(std::numeric_limits<qint64>::min() + 1);
+    QTest::keyClick(&box, Qt::Key_PageDown);
+    QCOMPARE(box.Value(), json(std::numeric_limits<qint64>::min()));
+    box.SetValue(5);
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(box.Value(), json(6));
+}
+
+void ArgumentFormTest::TheWheelScrollsOverAFieldWithoutFocus()
+{
+    NumberBox box(catalogue::Kind::Int);
+    QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&box, &event);
+    QVERIFY(!event.isAccepted());
+    QCOMPARE(box.Value(), json(0));
+}
+
+void ArgumentFormTest::ElementsAreAddedRemovedAndMoved()
+{
+    ArgumentForm form;
+    form.SetCall(Call("DMS.BatchWashOpen"));
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    auto& add = Child<QPushButton>(form, "channelIds.add");
+    for (const char* channel : {"a", "b", "c"}) {
+        add.click();
+        QVERIFY(QApplication::focusWidget() != nullptr);
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(channel));
+    }
+    const auto channels = [&form] { return ArgumentsOf(form).at("channelIds"); };
+    QCOMPARE(channels(), (json{"a", "b", "c"}));
+
+    Child<QToolButton>(form, "channelIds.up", 2).click();
+    QCOMPARE(channels(), (json{"a", "c", "b"}));
+    Child<QToolButton>(form, "channelIds.down", 0).click();
+    QCOMPARE(channels(), (json{"c", "a", "b"}));
+
+    // Who is first cannot go up, who is last cannot go down: the buttons are found in the order of their making.
+    QVERIFY(!Child<QToolButton>(form, "channelIds.up", 2).isEnabled());
+    QVERIFY(!Child<QToolButton>(form, "channelIds.down", 1).isEnabled());
+
+    Child<QToolButton>(form, "channelIds.remove", 0).click();
+    QCOMPARE(channels(), (json{"c", "b"}));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Child<QToolButton>(form, "channelIds.remove", 0).click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Child<QToolButton>(form, "channelIds.remove", 0).click();
+    QCOMPARE(channels(), json::array());
+    QCOMPARE(QApplication::focusWidget(), &add);
+}
+
+void ArgumentFormTest::TheTabKeyFollowsTheScreen()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.AddQuickCommand"));
+    form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
+    form.resize(900, 700);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    Child<QToolButton>(form, "httpUrls.up", 2).click();  // the third element is the second now
+    QCoreApplication::processEvents();
+
+    auto& first = Child<QLineEdit>(form, "id");
+    first.setFocus();
+    int stops = 0;
+    QPoint last(0, -1);
+    const auto* const pContent = form.findChild<QScrollArea*>()->widget();
+    do {
+        const QWidget* pFocus = QApplication::focusWidget();
+        const QPoint place = pFocus->mapTo(pContent, QPoint(0, 0));
+        QVERIFY2(place.y() > last.y() || place.x() > last.x(), qPrintable(pFocus->objectName()));
+        last = place;
+        ++stops;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (pContent->isAncestorOf(QApplication::focusWidget()) && stops < 100);
+
+    // Six fields, three elements of four fields and three buttons of which the ends lack one, and the button that adds.
+    QCOMPARE(stops, 6 + 3 * 7 - 2 + 1);
+    QCOMPARE(QApplication::focusWidget(), &Child<QPushButton>(form, "copyArguments"));
+}
+
+void ArgumentFormTest::LabelsLeadToTheirFields()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.GetEncodeCapability"));
+    int labels = 0;
+    const QList<QLabel*> all = form.findChildren<QLabel*>();
+    for (const QLabel* pLabel : all) {
+        if (pLabel->buddy() != nullptr) {
+            QCOMPARE(pLabel->buddy()->accessibleName(), QString(pLabel->text()).remove(QLatin1Char('&')));
+            ++labels;
+        }
+    }
+    QCOMPARE(labels, 2);
+}
+
+void ArgumentFormTest::ACopyIsPastedBack()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.UpdateUserGroup"));
+    SetClipboard(kGroup);
+    form.Paste();
+    QCOMPARE(Problem(form), QString());
+    QCOMPARE(ArgumentsOf(form), json::parse(kGroup));
+
+    SetClipboard("");
+    Child<QPushButton>(form, "copyArguments").click();
+    QCOMPARE(json::parse(QGuiApplication::clipboard()->text().toStdString()), json::parse(kGroup));
+
+    ArgumentForm other;
+    other.SetCall(Call("BRMS.UpdateUserGroup"));
+    other.show();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QTest::keyClick(&other, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(other.Arguments(), form.Arguments());
+}
+
+void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("reason");
+    const auto add = [](const char* name, const char* text, const char* reason) {
+        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(reason);
+    };
+    add("nothing", "", "it is no JSON");
+    add("no JSON", "{\"groupId\": ", "it is no JSON");
+    add("a list", "[]", "must be a JSON object");
+    add("an argument is missing", R"({"groupId": "7"})", "needs the argument \"group\"");
+    add("an unknown argument", R"({"groupId": "7", "group": {}, "x": 1})", "has no argument \"x\"");
+    add("a wrong type", R"({"groupId": 7, "group": {}})", "/groupId: expected text, got integer");
+    add("an unknown field", R"({"groupId": "7", "group": {"name": ""}})",
+        "/group/name: AddUserGroupsParam has no such");
+}
+
+void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, reason);
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.UpdateUserGroup"));
+    form.SetArguments(explorer::ToQt(json::parse(kGroup)));
+    QSignalSpy changes(&form, &ArgumentForm::Changed);
+    QGuiApplication::clipboard()->setText(text);
+    Child<QPushButton>(form, "pasteArguments").click();
+    QVERIFY2(Problem(form).contains(reason), qPrintable(Problem(form)));
+    QCOMPARE(ArgumentsOf(form), json::parse(kGroup));
+    QCOMPARE(changes.count(), 0);
+
+    Type(Child<QLineEdit>(form, "groupId"), "8");
+    QCOMPARE(Problem(form), QString());
+}
+
+void ArgumentFormTest::ArgumentsThatDoNotFitStayAsTheyWere()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.UpdateUserGroup"));
+    form.SetArguments(explorer::ToQt(json::parse(kGroup)));
+    form.SetArguments(explorer::ToQt({{"groupId", 1}, {"group", {{"memo", "new"}}}, {"other", 2}}));
+    QCOMPARE(ArgumentsOf(form), (json{{"groupId", "7"}, {"group", {{"groupName", ""}, {"memo", "new"}}}}));
+}
+
+void ArgumentFormTest::ChangesAreTold()
+{
+    ArgumentForm form;
+    QSignalSpy changes(&form, &ArgumentForm::Changed);
+    form.SetCall(Call("BRMS.GetLocalSetting"));
+    QVERIFY(changes.count() > 0);
+    QVERIFY(form.IsValid());
+
+    changes.clear();
+    Type(Child<NumberBox>(form, "settingType"), "x");
+    QVERIFY(changes.count() > 0);
+    QVERIFY(!form.IsValid());
+    QVERIFY(!Child<QPushButton>(form, "copyArguments").isEnabled());
+
+    Type(Child<NumberBox>(form, "settingType"), "3");
+    QVERIFY(form.IsValid());
+    QVERIFY(Child<QPushButton>(form, "copyArguments").isEnabled());
+}
+
+void ArgumentFormTest::Screenshots()
+{
+    using view_test::TakeScreenshots;
+    const QSize size(560, 520);
+    ArgumentForm form;
+    TakeScreenshots(form, QStringLiteral("form-without-call"), size);
+    form.SetCall(Call("BRMS.GetTimeSyncConfig"));
+    TakeScreenshots(form, QStringLiteral("form-no-arguments"), size);
+
+    form.SetCall(Call("BRMS.SetTimeSyncConfig"));
+    Type(Child<QLineEdit>(form, "startTime"), "02:00:00");
+    Type(Child<NumberBox>(form, "interval"), "4294967296");
+    Type(Child<NumberBox>(form, "ntpPort"), "ntp");
+    TakeScreenshots(form, QStringLiteral("form-problems"), size);
+
+    form.SetCall(Call("BRMS.UpdateUserGroup"));
+    SetClipboard(R"({"groupId": 7, "group": {}})");
+    form.Paste();
+    TakeScreenshots(form, QStringLiteral("form-wrong-paste"), size);
+
+    form.SetCall(Call("DMS.BatchWashOpen"));
+    TakeScreenshots(form, QStringLiteral("form-empty-list"), size);
+    form.SetArguments(explorer::ToQt({{"channelIds", {"1000021$1$0$0", "1000021$1$0$1", "1000022$1$0$0"}}}));
+    TakeScreenshots(form, QStringLiteral("form-list"), size);
+
+    form.SetCall(Call("BRMS.AddQuickCommand"));
+    form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
+    TakeScreenshots(form, QStringLiteral("form-records"), QSize(640, 860));
+}
+
+int main(int argc, char** argv)
+{
+    return view_test::Run<ArgumentFormTest>(argc, argv);
+}
+
+#include "argument_form_test.moc"

@@ -1,0 +1,133 @@
+// The curl command of a call sends the request that the library sends.
+#include "e2e/rows/Rows.h"
+#include "e2e/support/EndToEnd.h"
+
+#include <explorer/views/CurlLine.h>
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace e2e {
+namespace {
+
+using emulator::RecordedRequest;
+
+struct Ended {
+    int status;
+    Json output;
+    std::string errors;
+};
+
+/// Runs the command as a user with the token in the environment does.
+Ended RunInShell(const QString& command)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TOKEN"), QString::fromLatin1(emulator::kDefaultToken));
+    QProcess shell;
+    shell.setProcessEnvironment(environment);
+    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
+    EXPECT_TRUE(shell.waitForFinished()) << shell.errorString().toStdString();
+    return {shell.exitCode(), Json::parse(shell.readAllStandardOutput().toStdString(), nullptr, false),
+            shell.readAllStandardError().toStdString()};
+}
+
+/// The server adds the addresses of both ends to the headers that came.
+bool IsOfTheServer(const std::string& name)
+{
+    return name.find('_') != std::string::npos;
+}
+
+/// The headers that say something about the call.
+std::multimap<std::string, std::string> HeadersOf(const RecordedRequest& request)
+{
+    static const QStringList ofTheConnection{QStringLiteral("host"), QStringLiteral("connection"),
+                                             QStringLiteral("user-agent"), QStringLiteral("accept-encoding"),
+                                             QStringLiteral("accept")};
+    std::multimap<std::string, std::string> headers;
+    for (const auto& [name, value] : request.headers) {
+        const QString lower = QString::fromStdString(name).toLower();
+        if (!IsOfTheServer(name) && !ofTheConnection.contains(lower)) {
+            headers.emplace(lower.toStdString(), value);
+        }
+    }
+    return headers;
+}
+
+class CurlLines : public EndToEnd, public testing::WithParamInterface<Row> {
+protected:
+    /// What the library sends for a call.
+    static RecordedRequest Sent(const std::string& call, const Json& arguments)
+    {
+        Platform().clearRequests();
+        Run(call, arguments);
+        const std::vector<RecordedRequest> requests = Platform().requests();
+        EXPECT_EQ(requests.size(), 1U);
+        return requests.empty() ? RecordedRequest() : requests.front();
+    }
+
+    static explorer::SentRequest WithoutToken(const RecordedRequest& request)
+    {
+        explorer::SentRequest masked;
+        masked.method = QString::fromStdString(request.method);
+        masked.url =
+            QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort()) + QString::fromStdString(request.target);
+        masked.body = QByteArray::fromStdString(request.body);
+        masked.recorded = true;
+        for (const auto& [name, value] : request.headers) {
+            if (IsOfTheServer(name)) {
+                continue;
+            }
+            const char* text = value == emulator::kDefaultToken ? explorer::kTokenMask : value.c_str();
+            masked.headers.append({QString::fromStdString(name), QString::fromUtf8(text)});
+        }
+        return masked;
+    }
+
+    static void ExpectTheSame(const RecordedRequest& sent)
+    {
+        const QString command = explorer::CurlLine(WithoutToken(sent));
+        EXPECT_FALSE(command.contains(QLatin1String(emulator::kDefaultToken))) << command.toStdString();
+
+        Platform().reset();
+        Platform().clearRequests();
+        const Ended ended = RunInShell(command);
+        EXPECT_EQ(ended.status, 0) << ended.errors << "\n" << command.toStdString();
+        EXPECT_TRUE(ended.output.contains("code")) << ended.output;
+
+        const std::vector<RecordedRequest> requests = Platform().requests();
+        ASSERT_EQ(requests.size(), 1U) << command.toStdString();
+        EXPECT_EQ(requests.front().method, sent.method);
+        EXPECT_EQ(requests.front().target, sent.target);
+        EXPECT_EQ(requests.front().body, sent.body);
+        EXPECT_EQ(HeadersOf(requests.front()), HeadersOf(sent));
+    }
+};
+
+TEST_P(CurlLines, SendTheSameRequest)
+{
+    ExpectTheSame(Sent(GetParam().call, GetParam().arguments));
+}
+
+std::string NameOf(const testing::TestParamInfo<Row>& info)
+{
+    return info.param.Name();
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryCall, CurlLines, testing::ValuesIn(Rows()), NameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    WhatAShellWouldTouch, CurlLines,
+    testing::Values(
+        Row{"BRMS.UpdateLocalSetting",
+            "Quotes",
+            {{"apply", true}, {"content", "it's \"so\" $HOME `id` \\ !1 *\n\xC3\xBC %41 @file"}}},
+        Row{"BRMS.UpdateLocalSetting", "AtSign", {{"apply", true}, {"content", "@/etc/hostname"}}},
+        Row{"BRMS.GetUserGroupList", "UrlCharacters", {{"keyword", "it's [1-3]{a,b} \xC3\xBC/../x;y?z=$TOKEN"}}}),
+    NameOf);
+
+}  // namespace
+}  // namespace e2e

@@ -1,0 +1,466 @@
+// The result of a call as tree, JSON, table and raw reply.
+#include "support/Samples.h"
+#include "support/Screenshots.h"
+#include "support/ViewTest.h"
+
+#include <explorer/views/CodeView.h>
+#include <explorer/views/JsonHighlighter.h>
+#include <explorer/views/RecordModel.h>
+#include <explorer/views/RecordTable.h>
+#include <explorer/views/ResultView.h>
+#include <explorer/views/TotalsRow.h>
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTextLayout>
+#include <QTreeView>
+
+using explorer::CallOutcome;
+using explorer::CodeView;
+using explorer::RecordModel;
+using explorer::RecordTable;
+using explorer::ResultView;
+using nlohmann::json;
+
+class ResultViewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void TheTreeShowsNameValueAndType();
+    void TheTreeStandsInTheOrderOfTheFields();
+    void EveryCallsFreshRecordHasATree();
+    void ALargeRecordOpensItsFirstLevelOnly();
+    void TheJsonIsCopiedWhole();
+    void JsonHasColoursThatFollowThePalette();
+    void TheTableHasARowForEachElement();
+    void ColumnsSortByValue();
+    void TheFilterLooksInEveryColumn();
+    void TotalsAreThoseOfTheRowsShown();
+    void TotalsStandUnderTheirColumns();
+    void AListIsChosenAmongSeveral();
+    void PlainListsHaveOneColumn();
+    void WhatIsShownIsExported();
+    void AFileThatCannotBeWrittenIsTold();
+    void TheReplyIsShownAsItCame();
+    void AReplyThatWasCutShortIsMarked();
+    void WithoutARecordThereIsAHint();
+    void Screenshots();
+};
+
+namespace {
+
+QTableView& TableOf(const QWidget& view)
+{
+    return *view.findChild<QTableView*>(QStringLiteral("table"));
+}
+
+/// What the table shows, row by row.
+QList<QStringList> RowsOf(const QTableView& table)
+{
+    QList<QStringList> rows;
+    const QAbstractItemModel& model = *table.model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QStringList fields;
+        for (int column = 0; column < model.columnCount(); ++column) {
+            fields.append(model.index(row, column).data().toString());
+        }
+        rows.append(fields);
+    }
+    return rows;
+}
+
+QStringList ColumnOf(const QTableView& table, const char* title)
+{
+    QStringList fields;
+    const QAbstractItemModel& model = *table.model();
+    for (int column = 0; column < model.columnCount(); ++column) {
+        for (int row = 0;
+             row < model.rowCount() && model.headerData(column, Qt::Horizontal).toString() == QLatin1String(title);
+             ++row) {
+            fields.append(model.index(row, column).data().toString());
+        }
+    }
+    return fields;
+}
+
+int ColumnNamed(const QTableView& table, const char* title)
+{
+    const QAbstractItemModel& model = *table.model();
+    for (int column = 0; column < model.columnCount(); ++column) {
+        if (model.headerData(column, Qt::Horizontal).toString() == QLatin1String(title)) {
+            return column;
+        }
+    }
+    return -1;
+}
+
+void Set(RecordTable& table, const CallOutcome& outcome)
+{
+    QVERIFY(table.SetRecord(*outcome.call->result, outcome.record));
+}
+
+QString TextOf(const QAbstractItemModel& model, const QModelIndex& parent, int row)
+{
+    QStringList cells;
+    for (int column = 0; column < RecordModel::ColumnCount; ++column) {
+        cells.append(model.index(row, column, parent).data().toString());
+    }
+    return cells.join(QLatin1Char('|'));
+}
+
+/// The text of the hint that is on top of a tab, empty where there is content.
+QString HintOn(const ResultView& view, int tab)
+{
+    const auto* pTabs = view.findChild<QTabWidget*>();
+    const QList<QLabel*> labels = pTabs->widget(tab)->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    return labels.size() == 1 && labels[0]->isVisibleTo(pTabs->widget(tab)) ? labels[0]->text() : QString();
+}
+
+enum Tab {
+    RecordTab,
+    JsonTab,
+    TableTab,
+    ReplyTab
+};
+
+}  // namespace
+
+void ResultViewTest::TheTreeShowsNameValueAndType()
+{
+    RecordModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const CallOutcome outcome = view_test::AlarmLinkage();
+    model.SetRecord(*outcome.call->result, outcome.record);
+
+    const QModelIndex root = model.index(0, 0);
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result||AlarmLinkControl"));
+    QCOMPARE(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|1 element(s)|list of AlarmLinkChannel"));
+    const QModelIndex audio = model.index(2, 0, root);
+    QCOMPARE(TextOf(model, audio, 1), QStringLiteral("[1]||AlarmLinkAudioChannel"));
+    const QModelIndex horn = model.index(1, 0, audio);
+    QCOMPARE(TextOf(model, horn, 1), QStringLiteral("channelName|Horn|text"));
+
+    const CallOutcome plain = view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1]");
+    model.SetRecord(*plain.call->result, plain.record);
+    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|2 element(s)|list of int"));
+    QCOMPARE(TextOf(model, model.index(0, 0), 1), QStringLiteral("[1]|1|int"));
+
+    model.Clear();
+    QCOMPARE(model.rowCount(), 0);
+}
+
+void ResultViewTest::TheTreeStandsInTheOrderOfTheFields()
+{
+    RecordModel model;
+    const CallOutcome outcome = view_test::ParkingLots();
+    model.SetRecord(*outcome.call->result, outcome.record);
+    const QModelIndex lot = model.index(0, 0, model.index(0, 0));
+    const auto& fields = outcome.call->result->element->fields;
+    QCOMPARE(model.rowCount(lot), int(fields.size()));
+    for (int row = 0; row < model.rowCount(lot); ++row) {
+        QCOMPARE(model.index(row, 0, lot).data().toString().toStdString(), std::string(fields[std::size_t(row)].name));
+    }
+}
+
+void ResultViewTest::EveryCallsFreshRecordHasATree()
+{
+    RecordModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        if (call.result != nullptr) {
+            model.SetRecord(*call.result, catalogue::Value(*call.result).ToJson());
+            QCOMPARE(model.rowCount(model.index(0, 0)), int(call.result->fields.size()));
+        }
+    }
+}
+
+void ResultViewTest::ALargeRecordOpensItsFirstLevelOnly()
+{
+    CallOutcome outcome = view_test::ParkingLots();
+    const json lots = outcome.record;
+    ResultView view;
+    view.Show(outcome);
+    const auto& tree = *view.findChild<QTreeView*>();
+    const QModelIndex firstLot = tree.model()->index(0, 0, tree.model()->index(0, 0));
+    QVERIFY(tree.isExpanded(firstLot));
+
+    for (int times = 0; times < 20; ++times) {
+        outcome.record.insert(outcome.record.end(), lots.begin(), lots.end());
+    }
+    view.Show(outcome);
+    QVERIFY(tree.isExpanded(tree.model()->index(0, 0)));
+    QVERIFY(!tree.isExpanded(tree.model()->index(0, 0, tree.model()->index(0, 0))));
+}
+
+void ResultViewTest::TheJsonIsCopiedWhole()
+{
+    CallOutcome outcome = view_test::Succeeded("BRMS.GetDeriveToken", "{}", "\"\"");
+    constexpr std::size_t kLong = 600000;
+    outcome.record = std::string(kLong, 'x');
+    ResultView view;
+    view.Show(outcome);
+    auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(JsonTab));
+    QVERIFY(page.findChild<QPlainTextEdit*>()->toPlainText().size() < int(kLong));
+    page.findChild<QPushButton*>()->click();
+    QCOMPARE(json::parse(QGuiApplication::clipboard()->text().toStdString()), outcome.record);
+}
+
+void ResultViewTest::JsonHasColoursThatFollowThePalette()
+{
+    QPlainTextEdit edit;
+    const explorer::JsonHighlighter highlighter(edit);
+    const auto colours = [&edit] {
+        QCoreApplication::processEvents();
+        QList<QRgb> found;
+        const auto formats = edit.document()->firstBlock().layout()->formats();
+        for (const auto& range : formats) {
+            found.append(range.format.foreground().color().rgb());
+        }
+        return found;
+    };
+    edit.setPlainText(QStringLiteral(R"({"a": "b: 1", "c": -1.5e3, "d": null})"));
+    const QList<QRgb> light = colours();
+    QCOMPARE(light.size(), 6);  // three keys, a text, a number and a word
+    QCOMPARE(light[0], light[2]);
+    QCOMPARE(light[0], light[4]);
+    QVERIFY(light[0] != light[1] && light[1] != light[3] && light[3] != light[5]);
+
+    edit.setPalette(view_test::DarkPalette());
+    const QList<QRgb> dark = colours();
+    QCOMPARE(dark.size(), light.size());
+    QVERIFY(QColor(dark[0]).lightness() > QColor(light[0]).lightness());
+}
+
+void ResultViewTest::TheTableHasARowForEachElement()
+{
+    RecordTable table;
+    Set(table, view_test::DeviceCategories());
+    const QTableView& view = TableOf(table);
+    QCOMPARE(view.model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("deviceCategory"));
+    QCOMPARE(view.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("deviceCount"));
+    QCOMPARE(RowsOf(view), (QList<QStringList>{{QStringLiteral("1"), QStringLiteral("412")},
+                                               {QStringLiteral("5"), QStringLiteral("36")},
+                                               {QStringLiteral("8"), QStringLiteral("7")},
+                                               {QStringLiteral("34"), QStringLiteral("1250")}}));
+    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("4 row(s)"));
+}
+
+void ResultViewTest::ColumnsSortByValue()
+{
+    RecordTable table;
+    Set(table, view_test::DeviceCategories());
+    QTableView& view = TableOf(table);
+    view.sortByColumn(1, Qt::AscendingOrder);
+    QCOMPARE(ColumnOf(view, "deviceCount"),
+             (QStringList{QStringLiteral("7"), QStringLiteral("36"), QStringLiteral("412"), QStringLiteral("1250")}));
+    view.sortByColumn(1, Qt::DescendingOrder);
+    QCOMPARE(ColumnOf(view, "deviceCount").first(), QStringLiteral("1250"));
+
+    // Another record stands in its own order.
+    Set(table, view_test::ParkingLots());
+    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
+    view.sortByColumn(ColumnNamed(view, "positions"), Qt::AscendingOrder);
+    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
+    view.sortByColumn(ColumnNamed(view, "parkingLotName"), Qt::DescendingOrder);
+    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1")}));
+}
+
+void ResultViewTest::TheFilterLooksInEveryColumn()
+{
+    RecordTable table;
+    Set(table, view_test::ParkingLots());
+    const QTableView& view = TableOf(table);
+    auto& filter = *table.findChild<QLineEdit*>(QStringLiteral("filter"));
+    QTest::keyClicks(&filter, QStringLiteral("HEADQUARTERS"));
+    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
+    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("2 of 3 row(s)"));
+    filter.setText(QStringLiteral("240"));
+    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1")}));
+    filter.setText(QStringLiteral(".*"));
+    QCOMPARE(view.model()->rowCount(), 0);
+    QVERIFY(!table.findChild<QPushButton*>(QStringLiteral("export"))->isEnabled());
+    Set(table, view_test::ParkingLots());
+    QCOMPARE(view.model()->rowCount(), 3);
+}
+
+void ResultViewTest::TotalsAreThoseOfTheRowsShown()
+{
+    RecordTable table;
+    Set(table, view_test::ParkingLots());
+    const QTableView& view = TableOf(table);
+    const auto& totals = *table.findChild<explorer::TotalsRow*>();
+    const auto total = [&](const char* column) { return totals.Total(ColumnNamed(view, column)); };
+    QCOMPARE(total("totalParkingSpaceCount"), QLocale().toString(329));
+    QCOMPARE(total("idleParkingSpaceCount"), QStringLiteral("66"));
+    QCOMPARE(total("positions"), QStringLiteral("3"));
+    QCOMPARE(total("parkingLotMode"), QString());  // a code, no count
+    QCOMPARE(total("id"), QString());
+
+    table.findChild<QLineEdit*>(QStringLiteral("filter"))->setText(QStringLiteral("car park"));
+    QCOMPARE(total("totalParkingSpaceCount"), QStringLiteral("80"));
+
+    Set(table, view_test::Succeeded("OMMS.GetAlertTypes", "{}", R"([{"alertTypeId": 1, "alertTypeName": "a"}])"));
+    QVERIFY(!totals.isVisibleTo(&table));
+}
+
+void ResultViewTest::TotalsStandUnderTheirColumns()
+{
+    RecordTable table;
+    Set(table, view_test::ParkingLots());
+    table.resize(500, 300);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QTableView& view = TableOf(table);
+    const auto& cells = *table.findChild<explorer::TotalsRow*>()->findChild<QHeaderView*>();
+    const auto compare = [&] {
+        for (int column = 0; column < view.model()->columnCount(); ++column) {
+            const QPoint above = view.viewport()->mapTo(&table, QPoint(view.columnViewportPosition(column), 0));
+            const QPoint below = cells.viewport()->mapTo(&table, QPoint(cells.sectionViewportPosition(column), 0));
+            QCOMPARE(below.x(), above.x());
+            QCOMPARE(cells.sectionSize(column), view.columnWidth(column));
+        }
+    };
+    compare();
+    view.setColumnWidth(2, 200);
+    compare();
+    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+    QVERIFY(view.horizontalScrollBar()->value() > 0);
+    compare();
+}
+
+void ResultViewTest::AListIsChosenAmongSeveral()
+{
+    RecordTable table;
+    Set(table, view_test::AlarmLinkage());
+    auto& list = *table.findChild<QComboBox*>(QStringLiteral("list"));
+    QCOMPARE(list.count(), 3);
+    QCOMPARE(list.currentText(), QStringLiteral("linkAlarmOutputChannels"));
+    QCOMPARE(ColumnOf(TableOf(table), "channelName"), (QStringList{QStringLiteral("Siren")}));
+    list.setCurrentIndex(2);
+    QCOMPARE(ColumnOf(TableOf(table), "channelName"), (QStringList{QStringLiteral("Speaker"), QStringLiteral("Horn")}));
+    list.setCurrentIndex(1);
+    QCOMPARE(TableOf(table).model()->rowCount(), 0);
+
+    Set(table, view_test::DeviceCategories());
+    QVERIFY(!list.isVisibleTo(&table));
+}
+
+void ResultViewTest::PlainListsHaveOneColumn()
+{
+    RecordTable table;
+    Set(table, view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1, 20]"));
+    QCOMPARE(ColumnOf(TableOf(table), "Value"),
+             (QStringList{QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("20")}));
+}
+
+void ResultViewTest::WhatIsShownIsExported()
+{
+    RecordTable table;
+    CallOutcome outcome = view_test::AlarmLinkage();
+    outcome.record["linkAudioChannels"][1]["channelName"] = "Horn, \"loud\"\nT\xC3\xBCr";
+    Set(table, outcome);
+    table.findChild<QComboBox*>(QStringLiteral("list"))->setCurrentIndex(2);
+    TableOf(table).sortByColumn(1, Qt::AscendingOrder);
+
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("table.csv"));
+    QVERIFY(table.ExportTo(fileName));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("channelId,channelName,fileIds\r\n"
+                                        "1$4$0$1,\"Horn, \"\"loud\"\"\nT\xC3\xBCr\",c\r\n"
+                                        "1$4$0$0,Speaker,\"a,b\"\r\n"));
+
+    table.findChild<QLineEdit*>(QStringLiteral("filter"))->setText(QStringLiteral("Speaker"));
+    QCOMPARE(table.ToCsv().count("\r\n"), 2);
+
+    Set(table, view_test::ParkingLots());  // a list in a list is JSON
+    QVERIFY(table.ToCsv().contains(R"("[{""id"":""31"",""points"":[],""positionName"":""Ramp"",""remark"":""""}]")"));
+}
+
+void ResultViewTest::AFileThatCannotBeWrittenIsTold()
+{
+    RecordTable table;
+    Set(table, view_test::DeviceCategories());
+    QVERIFY(!table.ExportTo(QStringLiteral("/no/such/folder/table.csv")));
+}
+
+void ResultViewTest::TheReplyIsShownAsItCame()
+{
+    ResultView view;
+    CallOutcome outcome = view_test::AlarmLinkage();
+    outcome.reply->body = "{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}";
+    outcome.reply->headers = {{QStringLiteral("X-A"), QStringLiteral("1")}};
+    view.Show(outcome);
+    const auto& page = *view.findChild<QTabWidget*>()->widget(ReplyTab)->findChild<CodeView*>();
+    QCOMPARE(page.Text(), QString::fromUtf8("HTTP/1.1 200 OK\nX-A: 1\n\n{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
+    outcome.reply.reset();
+    view.Show(outcome);
+    QCOMPARE(page.Text(), QString());
+}
+
+void ResultViewTest::AReplyThatWasCutShortIsMarked()
+{
+    ResultView view;
+    view.Show(view_test::CutShort());
+    QVERIFY(HintOn(view, ReplyTab).contains(QStringLiteral("not complete")));
+    view.Show(view_test::AlarmLinkage());
+    QCOMPARE(HintOn(view, ReplyTab), QString());
+}
+
+void ResultViewTest::WithoutARecordThereIsAHint()
+{
+    ResultView view;
+    QCOMPARE(HintOn(view, RecordTab), QStringLiteral("Run a call to see its result here."));
+    view.Show(view_test::EncodeUpdate());
+    QCOMPARE(HintOn(view, RecordTab), QStringLiteral("This call returns no record."));
+    view.Show(view_test::Succeeded("BRMS.GetDeviceLoginModel", "{}", "1"));
+    QCOMPARE(HintOn(view, RecordTab), QString());
+    QCOMPARE(HintOn(view, TableTab), QStringLiteral("There is no list in this record."));
+    view.Show(view_test::ParkingLots());
+    QCOMPARE(HintOn(view, TableTab), QString());
+    view.Clear();
+    QCOMPARE(HintOn(view, TableTab), QStringLiteral("Run a call to see its result here."));
+}
+
+void ResultViewTest::Screenshots()
+{
+    using view_test::TakeScreenshots;
+    const QSize size(700, 420);
+    ResultView view;
+    auto& tabs = *view.findChild<QTabWidget*>();
+    TakeScreenshots(view, QStringLiteral("result-empty"), size);
+    view.Show(view_test::AlarmLinkage());
+    TakeScreenshots(view, QStringLiteral("result-tree"), size);
+    tabs.setCurrentIndex(JsonTab);
+    TakeScreenshots(view, QStringLiteral("result-json"), size);
+    tabs.setCurrentIndex(TableTab);
+    TakeScreenshots(view, QStringLiteral("result-table-lists"), size);
+    view.Show(view_test::ParkingLots());
+    TableOf(view).sortByColumn(1, Qt::AscendingOrder);
+    TableOf(view).horizontalScrollBar()->setValue(TableOf(view).horizontalScrollBar()->maximum());
+    TakeScreenshots(view, QStringLiteral("result-table-totals"), size);
+    view.Show(view_test::DeviceCategories());
+    TakeScreenshots(view, QStringLiteral("result-table-counts"), size);
+    tabs.setCurrentIndex(ReplyTab);
+    view.Show(view_test::CutShort());
+    TakeScreenshots(view, QStringLiteral("result-cut-short"), size);
+}
+
+int main(int argc, char** argv)
+{
+    return view_test::Run<ResultViewTest>(argc, argv);
+}
+
+#include "result_view_test.moc"

@@ -1,0 +1,231 @@
+// The times of the last calls, and repeated runs.
+#include "support/Samples.h"
+#include "support/Screenshots.h"
+#include "support/ViewTest.h"
+
+#include <explorer/views/TimingChart.h>
+#include <explorer/views/TimingView.h>
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+
+#include <QtCharts/QChart>
+#include <QtCharts/QValueAxis>
+#include <QtCharts/QXYSeries>
+
+using explorer::TimingChart;
+using explorer::TimingView;
+
+class TimingViewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void FiguresAreThoseOfTheCalls();
+    void TheChartShowsEachCall();
+    void TheLastHundredAreKept();
+    void ClearingBeginsAnew();
+    void ColoursFollowThePalette();
+    void ARepeatIsRequested();
+    void ProgressIsShownUntilAllIsDone();
+    void ACancelIsRequestedOnce();
+    void WithoutACallNothingIsRepeated();
+    void Screenshots();
+};
+
+namespace {
+
+void Add(TimingView& view, double milliseconds, bool succeeded = true)
+{
+    static const explorer::CallOutcome sample = view_test::DeviceCategories();
+    explorer::CallOutcome outcome = sample;
+    outcome.elapsedMilliseconds = milliseconds;
+    outcome.succeeded = succeeded;
+    view.Add(outcome);
+}
+
+QString Figure(const TimingView& view, const char* name)
+{
+    return view.findChild<QLabel*>(QString::fromLatin1(name))->text();
+}
+
+template <typename Widget>
+Widget& Child(const TimingView& view, const char* name)
+{
+    return *view.findChild<Widget*>(QString::fromLatin1(name));
+}
+
+QVector<QPointF> Points(const TimingView& view, int series)
+{
+    const auto* pChart = view.findChild<TimingChart*>()->chart();
+    return qobject_cast<QtCharts::QXYSeries*>(pChart->series().at(series))->pointsVector();
+}
+
+enum Series {
+    Succeeded,
+    Failed,
+    Median,
+    Percentile
+};
+
+}  // namespace
+
+void TimingViewTest::FiguresAreThoseOfTheCalls()
+{
+    TimingView view;
+    QCOMPARE(Figure(view, "calls"), QStringLiteral("0"));
+    QCOMPARE(Figure(view, "median"), QStringLiteral("\u2013"));
+    Add(view, 10);
+    Add(view, 30.26, false);
+    Add(view, 20);
+    QCOMPARE(Figure(view, "calls"), QStringLiteral("3"));
+    QCOMPARE(Figure(view, "median"), QStringLiteral("20.0 ms"));
+    QCOMPARE(Figure(view, "percentile"), QStringLiteral("30.3 ms"));
+    QCOMPARE(Figure(view, "failed"), QStringLiteral("1"));
+}
+
+void TimingViewTest::TheChartShowsEachCall()
+{
+    TimingView view;
+    Add(view, 10);
+    Add(view, 30, false);
+    Add(view, 20);
+    QCOMPARE(Points(view, Succeeded), (QVector<QPointF>{{1, 10}, {3, 20}}));
+    QCOMPARE(Points(view, Failed), (QVector<QPointF>{{2, 30}}));
+    QCOMPARE(Points(view, Median), (QVector<QPointF>{{0.5, 20}, {3.5, 20}}));
+    QCOMPARE(Points(view, Percentile), (QVector<QPointF>{{0.5, 30}, {3.5, 30}}));
+    const auto axes = view.findChild<TimingChart*>()->chart()->axes(Qt::Vertical);
+    const auto* pTimes = qobject_cast<QtCharts::QValueAxis*>(axes.constFirst());
+    QCOMPARE(pTimes->min(), 0.0);
+    QVERIFY(pTimes->max() > 30);
+}
+
+void TimingViewTest::TheLastHundredAreKept()
+{
+    TimingView view;
+    for (int call = 1; call <= 130; ++call) {
+        Add(view, call);
+    }
+    QCOMPARE(Figure(view, "calls"), QStringLiteral("100"));
+    QCOMPARE(Points(view, Succeeded).size(), 100);
+    QCOMPARE(Points(view, Succeeded).first(), QPointF(31, 31));
+    QCOMPARE(Points(view, Succeeded).last(), QPointF(130, 130));
+    QCOMPARE(Figure(view, "median"), QStringLiteral("80.5 ms"));
+    QCOMPARE(Figure(view, "percentile"), QStringLiteral("125.0 ms"));
+}
+
+void TimingViewTest::ClearingBeginsAnew()
+{
+    TimingView view;
+    auto& clear = Child<QPushButton>(view, "clear");
+    QVERIFY(!clear.isEnabled());
+    Add(view, 10);
+    clear.click();
+    QCOMPARE(Figure(view, "calls"), QStringLiteral("0"));
+    QVERIFY(Points(view, Succeeded).isEmpty());
+    Add(view, 5);
+    QCOMPARE(Points(view, Succeeded), (QVector<QPointF>{{1, 5}}));
+}
+
+void TimingViewTest::ColoursFollowThePalette()
+{
+    TimingView view;
+    Add(view, 10);
+    const auto& chart = *view.findChild<TimingChart*>()->chart();
+    for (const QPalette& palette : {view_test::LightPalette(), view_test::DarkPalette()}) {
+        view.setPalette(palette);
+        QCOMPARE(chart.backgroundBrush().color(), palette.color(QPalette::Window));
+        QCOMPARE(chart.plotAreaBackgroundBrush().color(), palette.color(QPalette::Base));
+        const auto axes = chart.axes();
+        for (const auto* pAxis : axes) {
+            QCOMPARE(pAxis->labelsColor(), palette.color(QPalette::WindowText));
+        }
+        const auto all = chart.series();
+        for (const auto* pSeries : all) {
+            const QColor colour = qobject_cast<const QtCharts::QXYSeries*>(pSeries)->color();
+            QVERIFY(qAbs(colour.lightness() - palette.color(QPalette::Base).lightness()) > 60);
+        }
+    }
+}
+
+void TimingViewTest::ARepeatIsRequested()
+{
+    TimingView view;
+    QSignalSpy requests(&view, &TimingView::RepeatRequested);
+    Child<QSpinBox>(view, "times").setValue(37);
+    Child<QPushButton>(view, "repeat").click();
+    QCOMPARE(requests.count(), 1);
+    QCOMPARE(requests[0][0].toInt(), 37);
+}
+
+void TimingViewTest::ProgressIsShownUntilAllIsDone()
+{
+    TimingView view;
+    auto& progress = Child<QProgressBar>(view, "progress");
+    auto& repeat = Child<QPushButton>(view, "repeat");
+    QVERIFY(!progress.isVisibleTo(&view));
+    view.SetProgress(0, 3);
+    QVERIFY(progress.isVisibleTo(&view));
+    QVERIFY(Child<QPushButton>(view, "cancel").isVisibleTo(&view));
+    QVERIFY(!repeat.isEnabled());
+    view.SetProgress(2, 3);
+    QCOMPARE(progress.value(), 2);
+    QCOMPARE(progress.maximum(), 3);
+    QCOMPARE(progress.text(), QStringLiteral("2 of 3"));
+    view.SetProgress(3, 3);
+    QVERIFY(!progress.isVisibleTo(&view));
+    QVERIFY(!Child<QPushButton>(view, "cancel").isVisibleTo(&view));
+    QVERIFY(repeat.isEnabled());
+}
+
+void TimingViewTest::ACancelIsRequestedOnce()
+{
+    TimingView view;
+    QSignalSpy cancels(&view, &TimingView::CancelRequested);
+    auto& cancel = Child<QPushButton>(view, "cancel");
+    view.SetProgress(0, 3);
+    cancel.click();
+    view.SetProgress(1, 3);
+    cancel.click();
+    QCOMPARE(cancels.count(), 1);
+    view.SetProgress(0, 0);
+    view.SetProgress(0, 2);
+    cancel.click();
+    QCOMPARE(cancels.count(), 2);
+}
+
+void TimingViewTest::WithoutACallNothingIsRepeated()
+{
+    TimingView view;
+    auto& repeat = Child<QPushButton>(view, "repeat");
+    view.SetRepeatEnabled(false);
+    QVERIFY(!repeat.isEnabled());
+    view.SetProgress(1, 1);
+    QVERIFY(!repeat.isEnabled());
+    view.SetRepeatEnabled(true);
+    QVERIFY(repeat.isEnabled());
+}
+
+void TimingViewTest::Screenshots()
+{
+    using view_test::TakeScreenshots;
+    const QSize size(700, 360);
+    TimingView view;
+    TakeScreenshots(view, QStringLiteral("timing-empty"), size);
+    Add(view, 12.4);
+    TakeScreenshots(view, QStringLiteral("timing-one"), size);
+    for (int call = 0; call < 60; ++call) {
+        Add(view, 8 + (call * 37) % 23 + (call % 17 == 0 ? 60 : 0), call % 19 != 5);
+    }
+    view.SetProgress(60, 200);
+    TakeScreenshots(view, QStringLiteral("timing-repeat"), size);
+}
+
+int main(int argc, char** argv)
+{
+    return view_test::Run<TimingViewTest>(argc, argv);
+}
+
+#include "timing_view_test.moc"

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <catalogue/Type.h>
+
+namespace explorer {
+
+/// Whether a value of the type stands in one field.
+inline bool IsPlain(const catalogue::Type& type)
+{
+    return type.kind != catalogue::Kind::Record && type.kind != catalogue::Kind::List;
+}
+
+}  // namespace explorer

@@ -1,0 +1,119 @@
+#include "RequestView.h"
+
+#include "CodeView.h"
+#include "CppLines.h"
+#include "CurlLine.h"
+#include "Json.h"
+#include "Theme.h"
+#include "TintedLabel.h"
+
+#include <explorer/CallOutcome.h>
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace explorer {
+namespace {
+
+QString Pretty(const QByteArray& body)
+{
+    const auto parsed = nlohmann::json::parse(body.toStdString(), nullptr, false);
+    return parsed.is_discarded() ? QString::fromUtf8(body) : JsonText(parsed);
+}
+
+}  // namespace
+
+RequestView::RequestView(QWidget* pParent)
+    : QWidget(pParent), m_pPages(new QStackedWidget), m_pTarget(new QLineEdit), m_pHeaders(new QTreeWidget),
+      m_pNotSeen(new TintedLabel(theme::Hint)),
+      m_pBody(new CodeView(CodeView::Language::Json, tr("The request has no body."))),
+      m_pCurl(new CodeView(CodeView::Language::Plain, tr("No request was made."))),
+      m_pCpp(new CodeView(CodeView::Language::Plain, QString()))
+{
+    m_pTarget->setObjectName(QStringLiteral("target"));
+    m_pTarget->setReadOnly(true);
+    m_pTarget->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_pTarget->setPlaceholderText(tr("No request was made."));
+    m_pHeaders->setObjectName(QStringLiteral("headers"));
+    m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
+    m_pHeaders->setRootIsDecorated(false);
+    m_pHeaders->setAlternatingRowColors(true);
+    m_pHeaders->setAllColumnsShowFocus(true);
+    m_pHeaders->setFrameShape(QFrame::NoFrame);
+    m_pNotSeen->setText(tr("The headers are those that the library sets; the connection adds its own."));
+    m_pBody->setObjectName(QStringLiteral("body"));
+    m_pCurl->setObjectName(QStringLiteral("curl"));
+    m_pCpp->setObjectName(QStringLiteral("cpp"));
+
+    auto* pHeaderPage = new QWidget;
+    auto* pHeaderLayout = new QVBoxLayout(pHeaderPage);
+    pHeaderLayout->setContentsMargins(0, 0, 0, 0);
+    pHeaderLayout->addWidget(m_pHeaders, 1);
+    pHeaderLayout->addWidget(m_pNotSeen);
+
+    auto* pTabs = new QTabWidget;
+    pTabs->setDocumentMode(true);
+    pTabs->addTab(pHeaderPage, tr("&Headers"));
+    pTabs->addTab(m_pBody, tr("&Body"));
+    pTabs->addTab(m_pCurl, tr("c&url"));
+    pTabs->addTab(m_pCpp, tr("C&++"));
+
+    auto* pTargetLabel = new QLabel(tr("Re&quest:"));
+    pTargetLabel->setBuddy(m_pTarget);
+    auto* pTargetRow = new QHBoxLayout;
+    pTargetRow->addWidget(pTargetLabel);
+    pTargetRow->addWidget(m_pTarget, 1);
+    auto* pPage = new QWidget;
+    auto* pPageLayout = new QVBoxLayout(pPage);
+    pPageLayout->addLayout(pTargetRow);
+    pPageLayout->addWidget(pTabs, 1);
+
+    auto* pHint = new TintedLabel(theme::Hint);
+    pHint->setAlignment(Qt::AlignCenter);
+    pHint->setText(tr("Run a call to see its request here."));
+    m_pPages->addWidget(pHint);
+    m_pPages->addWidget(pPage);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pPages);
+}
+
+void RequestView::Clear()
+{
+    m_pPages->setCurrentIndex(0);
+}
+
+void RequestView::Show(const CallOutcome& outcome)
+{
+    ShowRequest(outcome.request);
+    // The current server, whatever the number under which the client knows it.
+    constexpr int kCurrentServer = -1;
+    m_pCpp->SetText(outcome.call == nullptr ? QString()
+                                            : CppLines(*outcome.call, FromQt(outcome.arguments), kCurrentServer));
+    m_pPages->setCurrentIndex(1);
+}
+
+void RequestView::ShowRequest(const SentRequest& request)
+{
+    const bool wasMade = !request.method.isEmpty();
+    m_pTarget->setText(wasMade ? request.method + QLatin1Char(' ') + request.url : QString());
+    m_pTarget->setCursorPosition(0);
+    m_pHeaders->clear();
+    for (const Header& header : request.headers) {
+        auto* pItem = new QTreeWidgetItem(m_pHeaders, {header.name, header.value});
+        pItem->setToolTip(1, header.value);
+    }
+    m_pHeaders->resizeColumnToContents(0);
+    m_pNotSeen->setVisible(wasMade && !request.recorded);
+    m_pBody->SetText(Pretty(request.body));
+    m_pCurl->SetText(wasMade ? CurlLine(request) : QString());
+}
+
+}  // namespace explorer

@@ -1,0 +1,176 @@
+#include "TimingView.h"
+
+#include "Theme.h"
+#include "TimingChart.h"
+#include "TintedLabel.h"
+
+#include <explorer/CallOutcome.h>
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+namespace {
+
+QLabel* MakeFigure(const QString& objectName)
+{
+    auto* pFigure = new QLabel;
+    QFont font = pFigure->font();
+    constexpr double kLarger = 1.3;
+    font.setPointSizeF(font.pointSizeF() * kLarger);
+    font.setBold(true);
+    pFigure->setFont(font);
+    pFigure->setObjectName(objectName);
+    return pFigure;
+}
+
+QPushButton* MakeButton(const QString& text, const QString& objectName)
+{
+    auto* pButton = new QPushButton(text);
+    pButton->setObjectName(objectName);
+    pButton->setAutoDefault(false);
+    return pButton;
+}
+
+}  // namespace
+
+TimingView::TimingView(QWidget* pParent)
+    : QWidget(pParent), m_pChart(new TimingChart), m_pPages(new QStackedWidget),
+      m_pCalls(MakeFigure(QStringLiteral("calls"))), m_pMedian(MakeFigure(QStringLiteral("median"))),
+      m_pPercentile(MakeFigure(QStringLiteral("percentile"))), m_pFailed(MakeFigure(QStringLiteral("failed"))),
+      m_pClear(MakeButton(tr("C&lear"), QStringLiteral("clear"))), m_pTimes(new QSpinBox),
+      m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))), m_pProgress(new QProgressBar),
+      m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
+{
+    auto* pHint = new TintedLabel(theme::Hint);
+    pHint->setAlignment(Qt::AlignCenter);
+    pHint->setText(tr("Run a call to see how long it takes."));
+    m_pPages->addWidget(pHint);
+    m_pPages->addWidget(m_pChart);
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addLayout(MakeFigures());
+    pLayout->addWidget(m_pPages, 1);
+    pLayout->addLayout(MakeRepeat());
+
+    connect(m_pClear, &QPushButton::clicked, this, &TimingView::Clear);
+    connect(m_pRepeat, &QPushButton::clicked, this, [this] { emit RepeatRequested(m_pTimes->value()); });
+    connect(m_pCancel, &QPushButton::clicked, this, [this] {
+        m_pCancel->setEnabled(false);  // until the run has ended
+        emit CancelRequested();
+    });
+    ShowFigures();
+    SetProgress(0, 0);
+}
+
+void TimingView::Add(const CallOutcome& outcome)
+{
+    const QString name = outcome.call == nullptr ? QString() : QString::fromStdString(outcome.call->name);
+    m_pChart->Add({name, outcome.elapsedMilliseconds, outcome.succeeded});
+    ShowFigures();
+}
+
+void TimingView::Clear()
+{
+    m_pChart->Clear();
+    ShowFigures();
+}
+
+void TimingView::SetProgress(int done, int total)
+{
+    const bool isRunning = done < total;
+    if (isRunning && !m_isRunning) {
+        m_pCancel->setEnabled(true);
+    }
+    m_isRunning = isRunning;
+    m_pProgress->setMaximum(std::max(total, 1));
+    m_pProgress->setValue(done);
+    m_pProgress->setFormat(tr("%1 of %2").arg(done).arg(total));
+    m_pProgress->setVisible(isRunning);
+    m_pCancel->setVisible(isRunning);
+    UpdateRepeat();
+}
+
+void TimingView::SetRepeatEnabled(bool enabled)
+{
+    m_canRepeat = enabled;
+    UpdateRepeat();
+}
+
+QLayout* TimingView::MakeFigures()
+{
+    auto* pFigures = new QGridLayout;
+    constexpr int kBetween = 28;
+    pFigures->setHorizontalSpacing(kBetween);
+    pFigures->setVerticalSpacing(0);
+    auto add = [pFigures, column = 0](const QString& caption, QLabel* pFigure) mutable {
+        auto* pCaption = new TintedLabel(theme::Hint);
+        pCaption->setWordWrap(false);
+        pCaption->setText(caption);
+        pFigures->addWidget(pCaption, 0, column);
+        pFigures->addWidget(pFigure, 1, column);
+        ++column;
+    };
+    add(tr("Calls"), m_pCalls);
+    add(tr("Median"), m_pMedian);
+    add(tr("95th percentile"), m_pPercentile);
+    add(tr("Failed"), m_pFailed);
+    pFigures->setColumnStretch(pFigures->columnCount(), 1);
+    pFigures->addWidget(m_pClear, 0, pFigures->columnCount(), 2, 1, Qt::AlignVCenter);
+    return pFigures;
+}
+
+QLayout* TimingView::MakeRepeat()
+{
+    constexpr int kMost = 10000;
+    constexpr int kUsual = 20;
+    m_pTimes->setObjectName(QStringLiteral("times"));
+    m_pTimes->setRange(2, kMost);
+    m_pTimes->setValue(kUsual);
+    m_pTimes->setSuffix(tr(" times"));
+    m_pProgress->setObjectName(QStringLiteral("progress"));
+
+    auto* pLabel = new QLabel(tr("Ru&n the call"));
+    pLabel->setBuddy(m_pTimes);
+    auto* pRepeat = new QHBoxLayout;
+    pRepeat->addWidget(pLabel);
+    pRepeat->addWidget(m_pTimes);
+    pRepeat->addWidget(m_pRepeat);
+    pRepeat->addWidget(m_pProgress, 1);
+    pRepeat->addWidget(m_pCancel);
+    pRepeat->addStretch();
+    return pRepeat;
+}
+
+void TimingView::ShowFigures()
+{
+    const auto& calls = m_pChart->Calls();
+    const bool isEmpty = calls.empty();
+    const auto time = [isEmpty](double milliseconds) {
+        return isEmpty ? QStringLiteral("\u2013") : tr("%1 ms").arg(QLocale().toString(milliseconds, 'f', 1));
+    };
+    m_pCalls->setText(QString::number(calls.size()));
+    m_pMedian->setText(time(m_pChart->Median()));
+    m_pPercentile->setText(time(m_pChart->Percentile95()));
+    m_pFailed->setText(
+        QString::number(std::count_if(calls.begin(), calls.end(), [](const auto& call) { return !call.succeeded; })));
+    m_pClear->setEnabled(!isEmpty);
+    m_pPages->setCurrentIndex(isEmpty ? 0 : 1);
+}
+
+void TimingView::UpdateRepeat()
+{
+    m_pRepeat->setEnabled(m_canRepeat && !m_isRunning);
+    m_pTimes->setEnabled(!m_isRunning);
+}
+
+}  // namespace explorer
