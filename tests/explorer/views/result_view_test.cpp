@@ -145,7 +145,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
     const QModelIndex root = model.index(0, 0);
     QCOMPARE(model.rowCount(), 1);
     QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result||AlarmLinkControl"));
-    QCOMPARE(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|1 element(s)|list of AlarmLinkChannel"));
+    QCOMPARE(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|Elements: 1|list of AlarmLinkChannel"));
     const QModelIndex audio = model.index(2, 0, root);
     QCOMPARE(TextOf(model, audio, 1), QStringLiteral("[1]||AlarmLinkAudioChannel"));
     const QModelIndex horn = model.index(1, 0, audio);
@@ -153,7 +153,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
 
     const CallOutcome plain = view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1]");
     model.SetRecord(*plain.call->result, plain.record);
-    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|2 element(s)|list of int"));
+    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|Elements: 2|list of int"));
     QCOMPARE(TextOf(model, model.index(0, 0), 1), QStringLiteral("[1]|1|int"));
 
     model.Clear();
@@ -253,7 +253,7 @@ void ResultViewTest::TheTableHasARowForEachElement()
                                                {QStringLiteral("5"), QStringLiteral("36")},
                                                {QStringLiteral("8"), QStringLiteral("7")},
                                                {QStringLiteral("34"), QStringLiteral("1250")}}));
-    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("4 row(s)"));
+    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("Rows: 4"));
 }
 
 void ResultViewTest::ColumnsSortByValue()
@@ -284,7 +284,7 @@ void ResultViewTest::TheFilterLooksInEveryColumn()
     auto& filter = *table.findChild<QLineEdit*>(QStringLiteral("filter"));
     QTest::keyClicks(&filter, QStringLiteral("HEADQUARTERS"));
     QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
-    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("2 of 3 row(s)"));
+    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("Rows: 2 of 3"));
     filter.setText(QStringLiteral("240"));
     QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1")}));
     filter.setText(QStringLiteral(".*"));

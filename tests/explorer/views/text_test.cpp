@@ -100,7 +100,8 @@ int UpdateEncodeConfig(QWidget* pParent)
             return APIModule::CBRMSModule::PacketUpdateEncodeConfig(pReqParamData, channelId, configs, -1);
         },
         {},
-        QStringLiteral("BRMS.UpdateEncodeConfig failed"), pParent, QString(), /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);
+        QStringLiteral("BRMS.UpdateEncodeConfig failed"), pParent, QString(),
+        /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);
 }
 )");
 }
@@ -122,7 +123,8 @@ int BatchWashOpen(QWidget* pParent, APIModule::PtzBatchWashStatus& record)
         [&record](const QJsonObject& data) {
             return APIModule::CDMSModule::ParseBatchWashOpen(data, record);
         },
-        QStringLiteral("DMS.BatchWashOpen failed"), pParent, QString(), /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);
+        QStringLiteral("DMS.BatchWashOpen failed"), pParent, QString(),
+        /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);
 }
 )");
 }

@@ -64,10 +64,10 @@ QVector<QPointF> Points(const TimingView& view, int series)
 }
 
 enum Series {
-    Succeeded,
-    Failed,
     Median,
-    Percentile
+    Percentile,
+    Succeeded,
+    Failed
 };
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include "TintedLabel.h"
 
 #include <QClipboard>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
@@ -25,7 +24,7 @@ CodeView::CodeView(Language language, const QString& hint, QWidget* pParent)
 {
     m_pEdit->setReadOnly(true);
     m_pEdit->setPlaceholderText(hint);
-    m_pEdit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_pEdit->setFont(theme::FixedFont());
     m_pEdit->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_pEdit->setTabChangesFocus(true);
     m_pEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

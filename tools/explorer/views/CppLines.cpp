@@ -229,7 +229,8 @@ QString CppLines(const catalogue::Call& call, const json& arguments, int serverI
     text += QLatin1String("    return APIModule::CAPIModule::GetInstance().ExecuteFuncs(\n        ") +
             Pack(call, serverId) + QLatin1String(",\n        ") + Parse(call) +
             QLatin1String(",\n        QStringLiteral(\"") + QString::fromStdString(call.name) +
-            QLatin1String(" failed\"), pParent, QString(), /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);\n}\n");
+            QLatin1String(" failed\"), pParent, QString(),\n"
+                          "        /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);\n}\n");
     return text;
 }
 

@@ -109,7 +109,7 @@ QVariant RecordModel::data(const QModelIndex& index, int role) const
     case Kind::Record:
         return {};
     case Kind::List:
-        return tr("%n element(s)", nullptr, int(node.value->size()));
+        return tr("Elements: %1").arg(node.value->size());
     case Kind::Text:
         return QString::fromStdString(node.value->get_ref<const std::string&>());
     default:

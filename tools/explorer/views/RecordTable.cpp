@@ -55,9 +55,10 @@ RecordTable::RecordTable(QWidget* pParent)
     m_pTable->setAlternatingRowColors(true);
     m_pTable->setWordWrap(false);
     m_pTable->setTabKeyNavigation(false);
+    constexpr int kRoom = 8;
+    m_pTable->verticalHeader()->setDefaultSectionSize(m_pTable->fontMetrics().height() + kRoom);
     m_pTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_pTable->horizontalHeader()->setHighlightSections(false);
-    m_pTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_pExport->setAutoDefault(false);
 
     auto* pFilterLabel = new QLabel(tr("&Filter:"));
@@ -162,8 +163,8 @@ void RecordTable::Update()
     m_pTotals->SetTotals(totals);
     m_pTotals->setVisible(hasTotals);
     m_pRows->setText(m_shown.rowCount() == m_model.rowCount()
-                         ? tr("%n row(s)", nullptr, m_model.rowCount())
-                         : tr("%1 of %n row(s)", nullptr, m_model.rowCount()).arg(m_shown.rowCount()));
+                         ? tr("Rows: %1").arg(m_model.rowCount())
+                         : tr("Rows: %1 of %2").arg(m_shown.rowCount()).arg(m_model.rowCount()));
     m_pExport->setEnabled(m_shown.rowCount() > 0);
 }
 

@@ -15,6 +15,13 @@ QString Joined(const QString& path, std::string_view name)
     return path.isEmpty() ? last : path + QLatin1Char('.') + last;
 }
 
+/// Figures stand to the right, a list as its number of elements.
+int AlignmentOf(Kind kind)
+{
+    const bool isText = kind == Kind::Text || kind == Kind::Bool;
+    return int(isText ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
+}
+
 void AddLists(std::vector<ListInRecord>& lists, const QString& path, const Type& type, const json& value)
 {
     if (type.kind == Kind::List) {
@@ -88,15 +95,12 @@ QVariant RecordTableModel::data(const QModelIndex& index, int role) const
     const Kind kind = m_columns[std::size_t(index.column())].type->kind;
     switch (role) {
     case Qt::DisplayRole:
-        if (kind == Kind::List) {
-            return tr("%n element(s)", nullptr, int(Count(index.row(), index.column())));
-        }
-        [[fallthrough]];
+        return kind == Kind::List ? QString::number(Count(index.row(), index.column()))
+                                  : Exported(index.row(), index.column());
     case Qt::ToolTipRole:
         return Exported(index.row(), index.column());
     case Qt::TextAlignmentRole:
-        return int(kind == Kind::Int || kind == Kind::Int64 || kind == Kind::Double ? Qt::AlignRight | Qt::AlignVCenter
-                                                                                    : Qt::AlignLeft | Qt::AlignVCenter);
+        return AlignmentOf(kind);
     case kSortRole:
         return SortValue(index.row(), index.column());
     default:
@@ -115,6 +119,8 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
         return column.title.isEmpty() ? tr("Value") : column.title;
     case Qt::ToolTipRole:
         return QString::fromStdString(NameOf(*column.type));
+    case Qt::TextAlignmentRole:
+        return AlignmentOf(column.type->kind);
     default:
         return {};
     }

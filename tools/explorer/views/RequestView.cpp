@@ -9,7 +9,6 @@
 
 #include <explorer/CallOutcome.h>
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -21,6 +20,8 @@
 
 namespace explorer {
 namespace {
+
+constexpr int kMargin = 9;
 
 QString Pretty(const QByteArray& body)
 {
@@ -39,7 +40,7 @@ RequestView::RequestView(QWidget* pParent)
 {
     m_pTarget->setObjectName(QStringLiteral("target"));
     m_pTarget->setReadOnly(true);
-    m_pTarget->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_pTarget->setFont(theme::FixedFont());
     m_pTarget->setPlaceholderText(tr("No request was made."));
     m_pHeaders->setObjectName(QStringLiteral("headers"));
     m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
@@ -47,6 +48,7 @@ RequestView::RequestView(QWidget* pParent)
     m_pHeaders->setAlternatingRowColors(true);
     m_pHeaders->setAllColumnsShowFocus(true);
     m_pHeaders->setFrameShape(QFrame::NoFrame);
+    m_pNotSeen->setContentsMargins(kMargin, 0, kMargin, kMargin);
     m_pNotSeen->setText(tr("The headers are those that the library sets; the connection adds its own."));
     m_pBody->setObjectName(QStringLiteral("body"));
     m_pCurl->setObjectName(QStringLiteral("curl"));
@@ -68,10 +70,12 @@ RequestView::RequestView(QWidget* pParent)
     auto* pTargetLabel = new QLabel(tr("Re&quest:"));
     pTargetLabel->setBuddy(m_pTarget);
     auto* pTargetRow = new QHBoxLayout;
+    pTargetRow->setContentsMargins(kMargin, kMargin, kMargin, 0);
     pTargetRow->addWidget(pTargetLabel);
     pTargetRow->addWidget(m_pTarget, 1);
     auto* pPage = new QWidget;
     auto* pPageLayout = new QVBoxLayout(pPage);
+    pPageLayout->setContentsMargins(0, 0, 0, 0);
     pPageLayout->addLayout(pTargetRow);
     pPageLayout->addWidget(pTabs, 1);
 
@@ -105,12 +109,15 @@ void RequestView::ShowRequest(const SentRequest& request)
     const bool wasMade = !request.method.isEmpty();
     m_pTarget->setText(wasMade ? request.method + QLatin1Char(' ') + request.url : QString());
     m_pTarget->setCursorPosition(0);
+    m_pTarget->setToolTip(m_pTarget->text());
     m_pHeaders->clear();
     for (const Header& header : request.headers) {
         auto* pItem = new QTreeWidgetItem(m_pHeaders, {header.name, header.value});
         pItem->setToolTip(1, header.value);
     }
+    constexpr int kRoom = 24;
     m_pHeaders->resizeColumnToContents(0);
+    m_pHeaders->setColumnWidth(0, m_pHeaders->columnWidth(0) + kRoom);
     m_pNotSeen->setVisible(wasMade && !request.recorded);
     m_pBody->SetText(Pretty(request.body));
     m_pCurl->SetText(wasMade ? CurlLine(request) : QString());

@@ -1,5 +1,7 @@
 #include "Theme.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QPalette>
 
 namespace explorer::theme {
@@ -70,6 +72,16 @@ QColor Grid(const QPalette& palette)
 {
     constexpr double kShare = 0.85;
     return Mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), kShare);
+}
+
+QFont FixedFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (!QFontInfo(font).fixedPitch()) {  // no desktop that names one
+        font.setFamily(QStringLiteral("monospace"));
+        font.setStyleHint(QFont::TypeWriter);
+    }
+    return font;
 }
 
 }  // namespace explorer::theme

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 
 class QPalette;
 
-/// Colours that the palette has no role for, legible on the light and on the dark ones.
+/// Colours that the palette has no role for, legible on the light and on the dark ones, and fonts.
 namespace explorer::theme {
 
 QColor Error(const QPalette& palette);
@@ -19,5 +20,8 @@ QColor Succeeded(const QPalette& palette);
 QColor Median(const QPalette& palette);
 QColor Percentile(const QPalette& palette);
 QColor Grid(const QPalette& palette);
+
+/// The font of the desktop in which all letters are of one width.
+QFont FixedFont();
 
 }  // namespace explorer::theme

@@ -20,6 +20,23 @@ namespace explorer {
 
 using namespace QtCharts;
 
+namespace {
+
+/// Between the labels of so many numbers.
+double IntervalFor(int numbers)
+{
+    constexpr int kFewLabels = 12;
+    for (const int interval : {1, 2, 5}) {
+        if (numbers <= interval * kFewLabels) {
+            return interval;
+        }
+    }
+    constexpr int kWidest = 10;
+    return kWidest;
+}
+
+}  // namespace
+
 TimingChart::TimingChart(QWidget* pParent)
     : QChartView(new QChart, pParent), m_pSucceeded(new QScatterSeries), m_pFailed(new QScatterSeries),
       m_pMedian(new QLineSeries), m_pPercentile(new QLineSeries), m_pNumbers(new QValueAxis), m_pTimes(new QValueAxis)
@@ -33,10 +50,10 @@ TimingChart::TimingChart(QWidget* pParent)
     m_pTimes->setLabelFormat(QStringLiteral("%g"));
     chart()->addAxis(m_pNumbers, Qt::AlignBottom);
     chart()->addAxis(m_pTimes, Qt::AlignLeft);
-    AddSeries(m_pSucceeded, tr("Succeeded"));
-    AddSeries(m_pFailed, tr("Failed"));
     AddSeries(m_pMedian, tr("Median"));
     AddSeries(m_pPercentile, tr("95th percentile"));
+    AddSeries(m_pSucceeded, tr("Succeeded"));
+    AddSeries(m_pFailed, tr("Failed"));
 
     constexpr double kPoint = 8;
     for (QScatterSeries* pSeries : {m_pSucceeded, m_pFailed}) {
@@ -110,11 +127,10 @@ void TimingChart::Draw()
     m_pMedian->replace(QVector<QPointF>{{left, Median()}, {right, Median()}});
     m_pPercentile->replace(QVector<QPointF>{{left, Percentile95()}, {right, Percentile95()}});
 
-    constexpr double kLabels = 10;
     constexpr double kRoomAbove = 1.1;
     m_pNumbers->setRange(left, right);
-    m_pNumbers->setTickInterval(std::ceil((right - left) / kLabels));
-    m_pNumbers->setTickAnchor(First());
+    m_pNumbers->setTickInterval(IntervalFor(int(m_calls.size())));
+    m_pNumbers->setTickAnchor(0);
     m_pTimes->setRange(0, std::max(longest * kRoomAbove, 1.0));
     m_pTimes->applyNiceNumbers();
 }

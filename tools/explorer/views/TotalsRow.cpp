@@ -13,7 +13,9 @@ namespace explorer {
 TotalsRow::TotalsRow(QTableView& table, QWidget* pParent)
     : QWidget(pParent), m_table(table), m_pTitle(new QLabel(tr("Total"))), m_pCells(new QHeaderView(Qt::Horizontal))
 {
+    constexpr int kRoom = 12;
     m_pTitle->setAlignment(Qt::AlignCenter);
+    table.verticalHeader()->setMinimumWidth(m_pTitle->sizeHint().width() + kRoom);
     m_pCells->setModel(&m_model);
     m_pCells->setSectionResizeMode(QHeaderView::Fixed);
     m_pCells->setHighlightSections(false);
