@@ -310,37 +310,6 @@ TEST_F(Request, Ipv6HostInBrackets)
     EXPECT_EQ(logs.Take().at(0).message, "ExecuteRequest url=http://[::1]:" + std::to_string(server.Port()) + "/path");
 }
 
-/// What a header cannot hold is refused without being shown.
-TEST_F(Request, HeaderBreaksAreRefused)
-{
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
-    Use(server);
-    const LogLines refusal{
-        {kFacadeFile, kBuildRequest, 6, "Invalid request header, a value holds a line break or a zero byte."}};
-    const QStringList notice{CAPIModule::GetErroCodeInfor(QString(), -4, true)};
-    const std::string breaks[] = {"a\rb", "a\nb", "a\r\nX-Evil: 1", std::string("a\0b", 3)};
-    for (const std::string& value : breaks) {
-        users.servers[1].token = value;
-        EXPECT_EQ(Execute({}), -1);
-        EXPECT_EQ(logs.Take(), refusal);
-        EXPECT_EQ(notifications.Take(), notice);
-        users.servers[1].token = "t";
-
-        CAPIModule::GetInstance().SetLanguage(value);
-        EXPECT_EQ(Execute({}), -1);
-        EXPECT_EQ(logs.Take(), refusal);
-        EXPECT_EQ(notifications.Take(), notice);
-        CAPIModule::GetInstance().SetLanguage("en");
-
-        HostCall call;
-        call.sequence = QString::fromStdString(value);
-        EXPECT_EQ(Execute(call), -1);
-        EXPECT_EQ(logs.Take(), refusal);
-        EXPECT_EQ(notifications.Take(), notice);
-    }
-    EXPECT_TRUE(server.TakeRequests().empty());
-}
-
 /// The token of a URL in each line that shows the URL.
 struct MaskedUrl {
     const char* name;
