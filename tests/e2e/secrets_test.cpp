@@ -1,0 +1,279 @@
+// What a session holds in confidence stays out of everything that a client writes, shows or prints.
+#include "rows/Rows.h"
+#include "support/EmulatorProcess.h"
+
+#include <support/Host.h>
+#include <support/TestApplication.h>
+
+#include <catalogue/Run.h>
+#include <libornl/TalPrintLog.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <optional>
+#include <set>
+
+namespace e2e {
+namespace {
+
+using Json = nlohmann::json;
+
+const std::string kToken = "t0ken-of-a-session-that-nobody-may-see";
+const std::string kBodySecret = "pass-word-that-nobody-may-see";
+/// Makes a path or a value of a query, in which ten characters look like a token.
+const std::string kUrlSecret = "/found?token=0123456789abcdef";
+
+bool Contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+/// Lets everything that the process writes to standard error go into a file while it lives.
+class ErrorOutput {
+public:
+    explicit ErrorOutput(const QString& fileName) : m_file(fileName)
+    {
+        EXPECT_TRUE(m_file.open(QIODevice::WriteOnly));
+        ::dup2(m_file.handle(), STDERR_FILENO);
+    }
+    ~ErrorOutput()
+    {
+        ::dup2(m_previous, STDERR_FILENO);
+        ::close(m_previous);
+    }
+    ErrorOutput(const ErrorOutput&) = delete;
+    ErrorOutput& operator=(const ErrorOutput&) = delete;
+    ErrorOutput(ErrorOutput&&) = delete;
+    ErrorOutput& operator=(ErrorOutput&&) = delete;
+
+private:
+    const int m_previous = ::dup(STDERR_FILENO);
+    QFile m_file;
+};
+
+/// The URL as it may be logged: ten characters behind the first "token=" are asterisks.
+std::string Masked(const APIModule::RequestParam& request)
+{
+    const QString url = QString::fromStdString((request.bHttps ? "https://" : "http://") + request.strIp + ":" +
+                                               std::to_string(request.nPort) + request.strUrl);
+    static const QRegularExpression token(QStringLiteral("^(.*?token=).{1,10}"),
+                                          QRegularExpression::DotMatchesEverythingOption);
+    return QUrl(url).toString().replace(token, QStringLiteral("\\1**********")).toStdString();
+}
+
+/// Puts something else in the place of each text of the arguments.
+void ReplaceTexts(Json& arguments, const std::function<std::string(const Json::json_pointer& place)>& replacement,
+                  const Json::json_pointer& place = Json::json_pointer())
+{
+    if (arguments.is_string()) {
+        arguments = replacement(place);
+        return;
+    }
+    if (arguments.is_object()) {
+        for (auto& [key, value] : arguments.items()) {
+            ReplaceTexts(value, replacement, place / key);
+        }
+    } else if (arguments.is_array()) {
+        for (std::size_t index = 0; index < arguments.size(); ++index) {
+            ReplaceTexts(arguments[index], replacement, place / index);
+        }
+    }
+}
+
+/// What a call meets, so that each way out of it writes its lines.
+struct Course {
+    std::string name;
+    Json fault;                         ///< null for none
+    std::optional<int> timeoutSeconds;  ///< instead of the call's own
+};
+
+const std::vector<Course>& Courses()
+{
+    static const std::vector<Course> courses = {
+        {"as it is", {}, {}},
+        {"status", {{"kind", "status"}, {"status", 500}, {"times", 0}}, {}},
+        {"unauthorised", {{"kind", "status"}, {"status", 401}, {"times", 0}}, {}},
+        {"envelope", {{"kind", "envelope"}, {"code", 2001}, {"desc", kToken}, {"times", 0}}, {}},
+        {"no JSON", {{"kind", "notJson"}, {"times", 0}}, {}},
+        {"closed", {{"kind", "closeBefore"}, {"times", 0}}, {}},
+        {"no time", {}, 0}};
+    return courses;
+}
+
+class Secrets : public testing_support::Host {
+protected:
+    Secrets()
+    {
+        users.servers[1] = {"127.0.0.1", m_platform.HttpsPort(), kToken};
+        ornl::TalPrintLog::instance().SetFile(LogFile().toStdString());
+    }
+    ~Secrets() override { ornl::TalPrintLog::instance().SetFile(std::string()); }
+
+    QString LogFile() const { return m_folder.filePath(QStringLiteral("client.log")); }
+    QString ErrorFile() const { return m_folder.filePath(QStringLiteral("stderr.txt")); }
+
+    /// Runs a call on every course and looks at what it logs and notifies.
+    void Run(const Row& row, const Json& arguments)
+    {
+        for (const Course& course : Courses()) {
+            SCOPED_TRACE(row.Name() + ", " + course.name);
+            if (!course.fault.is_null()) {
+                ASSERT_EQ(m_platform.Control().post("/emulator/v1/faults", course.fault).status, 201);
+            }
+            APIModule::RequestParam request;
+            catalogue::RunSettings settings;
+            settings.timeoutSeconds = course.timeoutSeconds;
+            settings.onPacked = [&request](const APIModule::RequestParam& packed) { request = packed; };
+            const catalogue::Call& call = *catalogue::FindCall(row.call);
+            m_results.insert(catalogue::Run(call, catalogue::ReadArguments(call, arguments), settings).result);
+            m_platform.Control().remove("/emulator/v1/faults");
+
+            EXPECT_EQ(request.strToken, kToken);
+            EXPECT_FALSE(Contains(request.strUrl, kToken));
+            const QStringList told = notifications.Take();
+            for (const QString& text : told) {
+                ExpectClean(text.toStdString());
+            }
+            LookAtLog(Masked(request));
+        }
+    }
+
+    /// Each URL in it must be this one.
+    void LookAtLog(const std::string& url)
+    {
+        int urls = 0;
+        for (const testing_support::LogLine& line : logs.Take()) {
+            ExpectClean(line.message);
+            for (const std::string& start : {std::string("ExecuteRequest url="), std::string("request url: ")}) {
+                const std::size_t at = line.message.find(start);
+                if (at != std::string::npos) {
+                    ++urls;
+                    EXPECT_EQ(line.message.substr(at + start.size()), url);
+                }
+            }
+        }
+        EXPECT_GT(urls, 0);
+    }
+
+    static void ExpectClean(const std::string& text)
+    {
+        EXPECT_FALSE(Contains(text, kToken)) << text;
+        EXPECT_FALSE(Contains(text, kBodySecret)) << text;
+    }
+
+    static void ExpectCleanFile(const QString& name)
+    {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        const QByteArray content = file.readAll();
+        EXPECT_FALSE(content.contains(kToken.c_str())) << name.toStdString();
+        EXPECT_FALSE(content.contains(kBodySecret.c_str())) << name.toStdString();
+    }
+
+    /// The arguments with a secret in the place of each text: of one kind in the URL, of the other in the body.
+    Json WithSecrets(const Row& row, const Json& arguments)
+    {
+        Json secret = arguments;
+        ReplaceTexts(secret, [&](const Json::json_pointer& place) {
+            Json probe = arguments;
+            probe[place] = "probe";
+            const APIModule::RequestParam request = Packed(*catalogue::FindCall(row.call), probe);
+            const bool isInUrl = Contains(request.strUrl, "probe");
+            m_inUrl += isInUrl ? 1 : 0;
+            m_inBody += Contains(request.strBody, "probe") ? 1 : 0;
+            return isInUrl ? kUrlSecret : kBodySecret;
+        });
+        logs.Take();
+        return secret;
+    }
+
+    const QTemporaryDir m_folder;
+    EmulatorProcess m_platform{
+        {QStringLiteral("--verbose"), QStringLiteral("--token"), QString::fromStdString(kToken)}};
+    std::set<int> m_results;
+    int m_inBody = 0;
+    int m_inUrl = 0;
+
+private:
+    static APIModule::RequestParam Packed(const catalogue::Call& call, const Json& arguments)
+    {
+        const std::vector<catalogue::Value> values = catalogue::ReadArguments(call, arguments);
+        std::vector<void*> data(values.size());
+        std::transform(values.begin(), values.end(), data.begin(),
+                       [](const catalogue::Value& value) { return value.Data(); });
+        APIModule::RequestParam request;
+        EXPECT_EQ(call.pack(&request, data.data(), -1), 0);
+        return request;
+    }
+};
+
+TEST_F(Secrets, StayOutOfLogsNotificationsFilesAndTheEmulatorsOutput)
+{
+    std::set<std::string> called;
+    {
+        const ErrorOutput errors(ErrorFile());
+        for (const Row& row : Rows()) {
+            const Json arguments = row.arguments.is_null() ? Json::object() : row.arguments;
+            Run(row, arguments);
+            Run(row, WithSecrets(row, arguments));
+            ASSERT_EQ(m_platform.Control().post("/emulator/v1/reset").status, 204);
+            called.insert(row.call);
+        }
+    }
+    EXPECT_EQ(called.size(), catalogue::Calls().size());
+    for (const int result : {0, 500, 2001, -1}) {
+        EXPECT_EQ(m_results.count(result), 1U) << result;
+    }
+    EXPECT_GT(m_inUrl, 20);
+    EXPECT_GT(m_inBody, 50);
+
+    const Json requests = m_platform.Control().get("/emulator/v1/requests").json();
+    EXPECT_GT(requests.size(), called.size());
+    for (const Json& request : requests) {
+        EXPECT_FALSE(Contains(request.at("target"), kToken)) << request.dump(4);
+        EXPECT_FALSE(Contains(request.at("body"), kToken)) << request.dump(4);
+        EXPECT_TRUE(Contains(request.at("headers").dump(), kToken)) << request.dump(4);
+    }
+
+    const std::string printed = m_platform.End();
+    EXPECT_TRUE(Contains(printed, "POST ")) << printed;
+    ExpectClean(printed);
+
+    int files = 0;
+    for (const QString& folder : {m_folder.path(), QDir::homePath()}) {
+        QDirIterator file(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        for (; file.hasNext(); ++files) {
+            ExpectCleanFile(file.next());
+        }
+    }
+    EXPECT_GE(files, 2) << "the log on standard error and in a file";
+    EXPECT_GT(QFileInfo(ErrorFile()).size(), 0);
+    EXPECT_GT(QFileInfo(LogFile()).size(), 0);
+}
+
+}  // namespace
+}  // namespace e2e
+
+int main(int argc, char** argv)
+{
+    // Whatever the process writes to its usual places is looked at, too.
+    const QTemporaryDir home;
+    for (const char* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
+        qputenv(place, QFile::encodeName(home.path()));
+    }
+    const testing_support::TestApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,256 @@
+#include "Soak.h"
+
+#include <catalogue/Value.h>
+#include <PlatformEmulator.h>
+
+#include <APIModule.h>
+#include <libornl/TalPrintLog.h>
+#include <OrnGui/OrnMessageNotify.h>
+#include <OrnGui/OrnSingleton.h>
+
+#include <QTimer>
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+namespace soak {
+namespace {
+
+// Reads answer at once, a write over loopback takes 40 ms (its body waits for a delayed acknowledgement), in which
+// other calls run.
+constexpr double kWrites = 0.12;
+constexpr double kWithDialog = 0.05;
+constexpr double kWithTip = 0.02;
+constexpr double kNotified = 0.05;
+constexpr double kWithOthers = 0.1;
+constexpr std::size_t kDeepest = 4;
+constexpr int kMostOthers = 6;
+constexpr int kParentLivesMs = 20;
+constexpr int kFailureLevel = 6;
+
+const std::string kTip = "done";
+const std::string kCaption = "Soaking failed";
+
+APIModule::CAPIModule& Library()
+{
+    return APIModule::CAPIModule::GetInstance();
+}
+
+bool StartsWith(const std::string& text, const std::string& start)
+{
+    return text.compare(0, start.size(), start) == 0;
+}
+
+std::vector<catalogue::Value> ArgumentsOf(const e2e::Row& row, const catalogue::Call& call)
+{
+    return catalogue::ReadArguments(call, row.arguments.is_null() ? Json::object() : row.arguments);
+}
+
+int Pack(const catalogue::Call& call, const std::vector<catalogue::Value>& arguments, void* pReqParamData)
+{
+    std::vector<void*> values;
+    values.reserve(arguments.size());
+    for (const catalogue::Value& argument : arguments) {
+        values.push_back(argument.Data());
+    }
+    return call.pack(pReqParamData, values.data(), -1);
+}
+
+std::string Listed(const std::vector<std::string>& texts)
+{
+    std::string all;
+    for (const std::string& text : texts) {
+        all += '[' + text + ']';
+    }
+    return all;
+}
+
+}  // namespace
+
+Soak::Soak(e2e::EmulatorProcess& platform, Random::result_type seed, Tally& tally)
+    : m_platform(platform), m_random(seed), m_tally(tally)
+{
+    m_users.servers[1] = {"127.0.0.1", platform.HttpsPort(), emulator::kDefaultToken};
+    Library().Init(&m_users);
+    QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
+                     &ORNGUI::OrnMessageNotify::TextNotificationAdded, &m_context,
+                     [this](const QString& text) { m_told.push_back(text.toStdString()); });
+    ornl::TalPrintLog::instance().SetObserver([this](const ornl::LogRecord& record) {
+        if (record.nLevel == kFailureLevel) {
+            m_logged.push_back(record.strMessage);
+        }
+    });
+    m_window.show();
+    for (const Candidate& candidate : Candidates()) {
+        (candidate.reads ? m_reading : m_writing).push_back(candidate);
+    }
+}
+
+Soak::~Soak()
+{
+    ornl::TalPrintLog::instance().SetObserver({});
+    Library().UnInit();
+}
+
+void Soak::Step()
+{
+    Make(*Choose());
+}
+
+std::vector<Soak::Candidate> Soak::Candidates()
+{
+    std::vector<Candidate> candidates;
+    for (const e2e::Row& row : e2e::Rows()) {
+        const catalogue::Call* pCall = catalogue::FindCall(row.call);
+        APIModule::RequestParam param;
+        if (pCall == nullptr || Pack(*pCall, ArgumentsOf(row, *pCall), &param) != 0) {
+            throw std::logic_error(row.call + " does not run");
+        }
+        // Up to the first character that may be encoded on its way.
+        const std::size_t end = param.strUrl.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                                                               "0123456789/.-_");
+        candidates.push_back({&row, pCall, param.strUrl.substr(0, end), param.eMethod == APIModule::Method_Get});
+    }
+    return candidates;
+}
+
+// As cards are drawn, so that none stays away for long. Of other families than those that wait, so that no call changes
+// what another reads or meets its fault.
+const Soak::Candidate* Soak::Choose()
+{
+    const bool writes = Chance(m_random, kWrites);
+    std::vector<const Candidate*>& next = writes ? m_nextWriting : m_nextReading;
+    if (next.empty()) {
+        for (const Candidate& candidate : writes ? m_writing : m_reading) {
+            next.push_back(&candidate);
+        }
+        std::shuffle(next.begin(), next.end(), m_random);
+    }
+    const auto found = std::find_if(next.begin(), next.end(), [&](const Candidate* pCandidate) {
+        return std::count(m_families.begin(), m_families.end(), pCandidate->call->family) == 0;
+    });
+    if (found == next.end()) {
+        return nullptr;
+    }
+    const Candidate* pChosen = *found;
+    next.erase(found);
+    return pChosen;
+}
+
+Soak::Making Soak::Draw(const Candidate& candidate)
+{
+    Fault fault = DrawFault(m_random, candidate.reads);
+    // A request that is under way yet could meet this fault in the place of the call.
+    const bool meetsLate = !m_latePath.empty() && (StartsWith(m_latePath, candidate.path));
+    if (meetsLate && !fault.control.is_null()) {
+        fault = Fault{FaultNames().front(), {}};
+    }
+    m_latePath = fault.answerIsLate ? candidate.path : std::string();
+    const bool withDialog = fault.parentGoes || Chance(m_random, kWithDialog);
+    return {&candidate, std::move(fault), withDialog, Chance(m_random, kWithTip), Chance(m_random, kNotified)};
+}
+
+void Soak::Make(const Candidate& candidate)
+{
+    const Making making = Draw(candidate);
+    const bool isSecure = Chance(m_random, 0.5);
+    m_users.servers[1].port = isSecure ? m_platform.HttpsPort() : m_platform.HttpPort();
+    Library().SetHttpsMode(isSecure ? 1 : 0);
+    if (!making.fault.control.is_null()) {
+        Json fault = making.fault.control;
+        fault["path"] = candidate.path;
+        Control("POST", "faults", fault);
+    }
+
+    m_families.push_back(candidate.call->family);
+    std::vector<std::string> toldToOuter = std::exchange(m_told, {});
+    std::vector<std::string> loggedByOuter = std::exchange(m_logged, {});
+    std::optional<QObject> others;
+    const bool isUndisturbed = making.fault.control.is_null() && making.fault.ending == Ending::Success;
+    if (isUndisturbed && m_families.size() < kDeepest && (!candidate.reads || Chance(m_random, kWithOthers))) {
+        others.emplace();
+        QTimer::singleShot(0, &*others, [this] { StartOthers(); });
+    }
+    Judge(making, Execute(making));
+    m_told = std::move(toldToOuter);
+    m_logged = std::move(loggedByOuter);
+    m_families.pop_back();
+
+    if (!making.fault.control.is_null()) {
+        Control("DELETE", "faults");
+    }
+    if (!candidate.reads) {
+        Control("POST", "reset");
+    }
+}
+
+int Soak::Execute(const Making& making)
+{
+    const catalogue::Call& call = *making.candidate->call;
+    const std::vector<catalogue::Value> arguments = ArgumentsOf(*making.candidate->row, call);
+    std::optional<catalogue::Value> record;
+    if (call.result != nullptr) {
+        record.emplace(*call.result);
+    }
+    const auto pack = [&](void* pReqParamData) {
+        const int result = Pack(call, arguments, pReqParamData);
+        if (making.fault.timeoutSeconds) {
+            static_cast<APIModule::RequestParam*>(pReqParamData)->nTimeout = *making.fault.timeoutSeconds;
+        }
+        return result;
+    };
+    const auto parse = [&](const QJsonObject& data) { return record ? call.parse(data, record->Data()) : 0; };
+
+    QWidget* pParent = making.withDialog ? &m_window : nullptr;
+    if (making.fault.parentGoes) {
+        pParent = new QWidget;
+        pParent->show();
+        QTimer::singleShot(kParentLivesMs, pParent, [pParent] { delete pParent; });
+    }
+    return Library().ExecuteFuncs(pack, parse, QString::fromStdString(kCaption), pParent,
+                                  making.withTip ? QString::fromStdString(kTip) : QString(), true, making.notified);
+}
+
+void Soak::StartOthers()
+{
+    const int nOthers = std::uniform_int_distribution<int>(1, kMostOthers)(m_random);
+    for (int i = 0; i < nOthers; ++i) {
+        if (const Candidate* pOther = Choose()) {
+            Make(*pOther);
+        }
+    }
+}
+
+void Soak::Judge(const Making& making, int result)
+{
+    const Fault& fault = making.fault;
+    const bool isNotified = fault.ending == Ending::Broken || (fault.ending == Ending::Judged && making.notified);
+    int expected = isNotified ? -1 : fault.code;
+    std::vector<std::string> told;
+    if (isNotified) {
+        told.push_back(
+            APIModule::CAPIModule::GetErroCodeInfor(QString::fromStdString(kCaption), fault.code, true).toStdString());
+    } else if (fault.ending == Ending::Success && making.withTip) {
+        told.push_back(kTip);
+    }
+    m_tally.Count({making.candidate->call->family, making.candidate->call->name, fault.name, making.withDialog,
+                   m_families.size(), result, fault.code});
+    if (result != expected || m_told != told) {
+        m_tally.Fail(making.candidate->call->name + " under " + fault.name + " in depth " +
+                     std::to_string(m_families.size()) + " gave " + std::to_string(result) + " for " +
+                     std::to_string(expected) + ", notified: " + Listed(m_told) + ", logged: " + Listed(m_logged));
+    }
+}
+
+void Soak::Control(const char* pMethod, const std::string& path, const Json& body)
+{
+    const Answer answer =
+        m_platform.Control().request(pMethod, "/emulator/v1/" + path, body.is_null() ? std::string() : body.dump());
+    if (!answer.arrived || answer.status >= 300) {
+        throw std::runtime_error("the emulator does not take " + path + ": " + answer.body);
+    }
+}
+
+}  // namespace soak

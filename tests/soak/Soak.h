@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Fault.h"
+#include "Tally.h"
+
+#include <catalogue/Call.h>
+#include <e2e/rows/Rows.h>
+#include <e2e/support/EmulatorProcess.h>
+#include <support/UserManager.h>
+
+#include <QObject>
+#include <QWidget>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace soak {
+
+/// Makes one call after the other, as a client's user interface does for weeks, and holds each against what must come
+/// of it.
+class Soak {
+public:
+    Soak(e2e::EmulatorProcess& platform, Random::result_type seed, Tally& tally);
+    ~Soak();
+    Soak(const Soak&) = delete;
+    Soak& operator=(const Soak&) = delete;
+    Soak(Soak&&) = delete;
+    Soak& operator=(Soak&&) = delete;
+
+    /// One call, with those that start while it waits.
+    void Step();
+
+private:
+    /// A call that the steps choose from.
+    struct Candidate {
+        const e2e::Row* row;
+        const catalogue::Call* call;
+        std::string path;  ///< the start of its URL, as it goes over the wire
+        bool reads;        ///< changes nothing
+    };
+
+    /// One call as it is made.
+    struct Making {
+        const Candidate* candidate;
+        Fault fault;
+        bool withDialog;
+        bool withTip;
+        bool notified;
+    };
+
+    std::vector<Candidate> Candidates();
+    const Candidate* Choose();
+    Making Draw(const Candidate& candidate);
+    void Make(const Candidate& candidate);
+    int Execute(const Making& making);
+    void StartOthers();
+    void Judge(const Making& making, int result);
+    void Control(const char* pMethod, const std::string& path, const Json& body = {});
+
+    e2e::EmulatorProcess& m_platform;
+    Random m_random;
+    Tally& m_tally;
+    testing_support::UserManager m_users;
+    QWidget m_window;
+    QObject m_context;
+    std::vector<Candidate> m_reading;
+    std::vector<Candidate> m_writing;
+    std::vector<const Candidate*> m_nextReading;  ///< those not made since each was
+    std::vector<const Candidate*> m_nextWriting;
+    std::string m_latePath;               ///< of a request that may reach the emulator after its call
+    std::vector<std::string> m_told;      ///< notified by the call that runs
+    std::vector<std::string> m_logged;    ///< the failures that it logged
+    std::vector<std::string> m_families;  ///< of the calls that wait
+};
+
+}  // namespace soak

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace soak {
+
+/// A call that was made, and how it ended.
+struct Made {
+    std::string family;
+    std::string call;
+    std::string fault;
+    bool withDialog;
+    std::size_t depth;  ///< 1, and more inside the waits of others
+    int result;
+    int code;  ///< behind the result, which is -1 where the code was notified
+};
+
+/// What the process held at one moment.
+struct Holding {
+    double residentKiB = 0;
+    int descriptors = 0;
+    int objects = 0;
+
+    static Holding Now();
+};
+
+/// Counts calls and looks at what the process holds.
+class Tally {
+public:
+    void Count(const Made& made);
+    void Fail(const std::string& what);
+    /// @param progress from 0 to 1
+    void Look(double progress);
+
+    [[nodiscard]] std::size_t Calls() const { return m_calls; }
+    [[nodiscard]] std::size_t Failures() const { return m_failures; }
+
+    void PrintTables() const;
+    /// Prints what is not as it must be. @param allCalls the different calls that there are
+    [[nodiscard]] bool IsGood(std::size_t allCalls) const;
+
+private:
+    static constexpr std::size_t kTenths = 10;
+    using Tenth = std::vector<Holding>;
+
+    std::size_t m_calls = 0;
+    std::size_t m_failures = 0;
+    std::size_t m_withDialog = 0;
+    std::size_t m_inside = 0;
+    std::map<std::string, std::size_t> m_byFamily;
+    std::map<std::string, std::size_t> m_byCall;
+    std::map<std::string, std::map<std::pair<int, int>, std::size_t>> m_byFault;
+    std::array<Tenth, kTenths> m_tenths;
+    std::array<std::size_t, kTenths> m_callsUntil{};
+};
+
+}  // namespace soak
