@@ -13,6 +13,8 @@
 #include <QAbstractItemModelTester>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +25,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextLayout>
+#include <QTimer>
 #include <QTreeView>
 
 using explorer::CallOutcome;
@@ -50,6 +53,7 @@ private slots:
     void AListIsChosenAmongSeveral();
     void PlainListsHaveOneColumn();
     void WhatIsShownIsExported();
+    void TheButtonAsksForTheFile();
     void AFileThatCannotBeWrittenIsTold();
     void TheReplyIsShownAsItCame();
     void AReplyThatWasCutShortIsMarked();
@@ -301,7 +305,7 @@ void ResultViewTest::TotalsAreThoseOfTheRowsShown()
     const QTableView& view = TableOf(table);
     const auto& totals = *table.findChild<explorer::TotalsRow*>();
     const auto total = [&](const char* column) { return totals.Total(ColumnNamed(view, column)); };
-    QCOMPARE(total("totalParkingSpaceCount"), QLocale().toString(329));
+    QCOMPARE(total("totalParkingSpaceCount"), QStringLiteral("329"));
     QCOMPARE(total("idleParkingSpaceCount"), QStringLiteral("66"));
     QCOMPARE(total("positions"), QStringLiteral("3"));
     QCOMPARE(total("parkingLotMode"), QString());  // a code, no count
@@ -389,10 +393,42 @@ void ResultViewTest::WhatIsShownIsExported()
     QVERIFY(table.ToCsv().contains(R"("[{""id"":""31"",""points"":[],""positionName"":""Ramp"",""remark"":""""}]")"));
 }
 
+namespace {
+
+/// Answers the file dialog that comes next with a name.
+void AnswerFileDialog(RecordTable& table, const QString& fileName)
+{
+    QTimer::singleShot(0, &table, [fileName] {
+        auto* pDialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(pDialog != nullptr);
+        pDialog->findChild<QLineEdit*>()->setText(fileName);
+        QTest::keyClick(pDialog->findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+}
+
+}  // namespace
+
+void ResultViewTest::TheButtonAsksForTheFile()
+{
+    RecordTable table;
+    Set(table, view_test::DeviceCategories());
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("devices.csv"));
+    AnswerFileDialog(table, fileName);
+    table.findChild<QPushButton*>(QStringLiteral("export"))->click();
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), table.ToCsv());
+}
+
 void ResultViewTest::AFileThatCannotBeWrittenIsTold()
 {
     RecordTable table;
     Set(table, view_test::DeviceCategories());
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("devices.csv"));
+    QVERIFY(QDir().mkdir(fileName));
+    QVERIFY(!table.ExportTo(fileName));
     QVERIFY(!table.ExportTo(QStringLiteral("/no/such/folder/table.csv")));
 }
 

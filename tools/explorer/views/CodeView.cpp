@@ -18,20 +18,21 @@ constexpr int kLongestShown = 500000;
 
 }  // namespace
 
-CodeView::CodeView(Language language, const QString& hint, QWidget* pParent)
+CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
     : QWidget(pParent), m_pEdit(new QPlainTextEdit), m_pShortened(new TintedLabel(theme::Hint)),
       m_pCopy(new QPushButton(tr("&Copy")))
 {
     m_pEdit->setReadOnly(true);
     m_pEdit->setPlaceholderText(hint);
     m_pEdit->setFont(theme::FixedFont());
-    m_pEdit->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_pEdit->setLineWrapMode(kind == Kind::Text ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
+    m_pEdit->setWordWrapMode(QTextOption::WrapAnywhere);
     m_pEdit->setTabChangesFocus(true);
     m_pEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_pCopy->setAutoDefault(false);
     m_pCopy->setEnabled(false);
     m_pShortened->hide();
-    if (language == Language::Json) {
+    if (kind == Kind::Json) {
         new JsonHighlighter(*m_pEdit);
     }
 

@@ -13,13 +13,14 @@ class CodeView : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Language {
+    enum class Kind {
         Json,
-        Plain
+        Code,
+        Text  ///< with lines of any length, which are wrapped
     };
 
     /// @p hint stands there while there is no text.
-    CodeView(Language language, const QString& hint, QWidget* pParent = nullptr);
+    CodeView(Kind kind, const QString& hint, QWidget* pParent = nullptr);
 
     void SetText(const QString& text);
     [[nodiscard]] QString Text() const { return m_text; }

@@ -10,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
@@ -56,6 +55,7 @@ RecordTable::RecordTable(QWidget* pParent)
     m_pTable->setWordWrap(false);
     m_pTable->setTabKeyNavigation(false);
     constexpr int kRoom = 8;
+    m_pTable->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     m_pTable->verticalHeader()->setDefaultSectionSize(m_pTable->fontMetrics().height() + kRoom);
     m_pTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_pTable->horizontalHeader()->setHighlightSections(false);
@@ -145,7 +145,6 @@ void RecordTable::ShowList(int choice)
 
 void RecordTable::Update()
 {
-    const QLocale locale;
     QStringList totals;
     bool hasTotals = false;
     for (int column = 0; column < m_model.columnCount(); ++column) {
@@ -157,7 +156,7 @@ void RecordTable::Update()
         for (int row = 0; row < m_shown.rowCount(); ++row) {
             total += m_model.Count(m_shown.mapToSource(m_shown.index(row, 0)).row(), column);
         }
-        totals.append(locale.toString(total));
+        totals.append(QString::number(total));
         hasTotals = true;
     }
     m_pTotals->SetTotals(totals);

@@ -34,9 +34,9 @@ QString Pretty(const QByteArray& body)
 RequestView::RequestView(QWidget* pParent)
     : QWidget(pParent), m_pPages(new QStackedWidget), m_pTarget(new QLineEdit), m_pHeaders(new QTreeWidget),
       m_pNotSeen(new TintedLabel(theme::Hint)),
-      m_pBody(new CodeView(CodeView::Language::Json, tr("The request has no body."))),
-      m_pCurl(new CodeView(CodeView::Language::Plain, tr("No request was made."))),
-      m_pCpp(new CodeView(CodeView::Language::Plain, QString()))
+      m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
+      m_pCurl(new CodeView(CodeView::Kind::Text, tr("No request was made."))),
+      m_pCpp(new CodeView(CodeView::Kind::Code, QString()))
 {
     m_pTarget->setObjectName(QStringLiteral("target"));
     m_pTarget->setReadOnly(true);

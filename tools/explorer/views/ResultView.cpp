@@ -55,10 +55,9 @@ void Open(QTreeView& tree, const CallOutcome& outcome)
 
 ResultView::ResultView(QWidget* pParent)
     : QWidget(pParent), m_pTree(new QTreeView),
-      m_pJson(new CodeView(CodeView::Language::Json, tr("The record as JSON appears here."))),
-      m_pTable(new RecordTable), m_pReply(new CodeView(CodeView::Language::Plain, tr("The reply appears here."))),
-      m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pIncomplete(new TintedLabel(theme::Error)),
-      m_pTabs(new QTabWidget)
+      m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))), m_pTable(new RecordTable),
+      m_pReply(new CodeView(CodeView::Kind::Text, tr("No reply was recorded."))), m_pTreeHint(MakeHint()),
+      m_pTableHint(MakeHint()), m_pIncomplete(new TintedLabel(theme::Error)), m_pTabs(new QTabWidget)
 {
     m_pTree->setModel(&m_model);
     m_pTree->setAlternatingRowColors(true);

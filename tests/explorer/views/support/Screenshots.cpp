@@ -32,12 +32,14 @@ void TakeScreenshots(QWidget& widget, const QString& name, QSize size)
     widget.resize(size);
     widget.show();
     QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    const QString density = widget.devicePixelRatio() > 1 ? QStringLiteral("@2x") : QString();
     for (const bool dark : {true, false}) {
         QApplication::setPalette(dark ? DarkPalette() : LightPalette());
         QCoreApplication::processEvents();
         const QPixmap picture = widget.grab();
         QCOMPARE(picture.size(), size * widget.devicePixelRatio());
-        QVERIFY(picture.save(folder.filePath(name + QLatin1String(dark ? "-dark.png" : "-light.png"))));
+        QVERIFY(picture.save(
+            folder.filePath(name + QLatin1String(dark ? "-dark" : "-light") + density + QLatin1String(".png"))));
     }
 }
 
