@@ -1,9 +1,5 @@
 #include "Bench.h"
 
-#include <QApplication>
-
-#include <benchmark/benchmark.h>
-
 #include <cstdlib>
 #include <iostream>
 
@@ -23,19 +19,3 @@ void Require(bool isSame, const std::string& what)
 }
 
 }  // namespace bench
-
-int main(int argc, char** argv)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");  // the same with a screen and without
-    }
-    const QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return EXIT_FAILURE;
-    }
-    bench::RegisterBenchmarks();
-    constexpr int kNothingToRun = 2;
-    return benchmark::RunSpecifiedBenchmarks() > 0 ? EXIT_SUCCESS : kNothingToRun;
-}

@@ -1,0 +1,22 @@
+// Memory of calls: the peak of a large reply, and what many calls leave behind.
+#include "Bench.h"
+#include "transport/Clients.h"
+#include "transport/InTurns.h"
+#include "transport/Probe.h"
+#include "transport/Server.h"
+
+namespace bench {
+
+void RegisterBenchmarks()
+{
+    static const Server server;
+    const int nPort = server.Port(false);
+    const auto probe = [=](const char* what, const char* contender, const char* unit) {
+        return Turn{contender, [=] { return Values{{unit, Probe(what, contender, nPort)}}; }};
+    };
+    RegisterInTurns("reply of 20 MB read into records, peak memory", 1,
+                    {probe(kPeakMemory, kQtWithJson, "MB"), probe(kPeakMemory, kLibrary, "MB")});
+    RegisterInTurns("10000 calls, memory grown", 1, {probe(kGrowth, kQt, "kB"), probe(kGrowth, kLibrary, "kB")});
+}
+
+}  // namespace bench

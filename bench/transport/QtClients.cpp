@@ -1,0 +1,207 @@
+#include "Clients.h"
+
+#include "../Bench.h"
+
+#include <libornl/TalPrintLog.h>
+#include <support/UserManager.h>
+
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QPointer>
+#include <QSslConfiguration>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace bench {
+namespace {
+
+constexpr const char* kToken = "token-of-the-session";
+constexpr int kTimeoutSeconds = 60;
+
+class Qt : public Client {
+public:
+    Answer Run(const Exchange& exchange) override
+    {
+        QEventLoop loop;
+        const std::unique_ptr<QNetworkReply> pReply(Send(exchange));
+        QObject::connect(pReply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        return {pReply->readAll(), {}};
+    }
+
+private:
+    static QNetworkRequest Request(const Exchange& exchange)
+    {
+        QNetworkRequest request;
+        if (exchange.bHttps) {
+            QSslConfiguration configuration = request.sslConfiguration();
+            configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+            configuration.setProtocol(QSsl::TlsV1SslV3);
+            request.setSslConfiguration(configuration);
+        }
+        request.setUrl(
+            QUrl((exchange.bHttps ? QStringLiteral("https://127.0.0.1:") : QStringLiteral("http://127.0.0.1:")) +
+                 QString::number(exchange.nPort) + QString::fromLatin1(exchange.path)));
+        static const QByteArray timeZone = QTimeZone::systemTimeZoneId();
+        request.setRawHeader("Content-Type", "application/json;charset=UTF-8");
+        request.setRawHeader("Accept-Language", "en");
+        request.setRawHeader("Time-Zone", timeZone);
+        request.setRawHeader("X-Subject-Token", kToken);
+        constexpr int kFirst = QNetworkRequest::User + 100;
+        request.setAttribute(QNetworkRequest::Attribute(kFirst), QVariant::fromValue(exchange.eMethod));
+        request.setAttribute(QNetworkRequest::Attribute(kFirst + 1), exchange.body);
+        request.setAttribute(QNetworkRequest::Attribute(kFirst + 2), kTimeoutSeconds);
+        request.setAttribute(QNetworkRequest::Attribute(kFirst + 3), true);
+        return request;
+    }
+
+    QNetworkReply* Send(const Exchange& exchange)
+    {
+        const QNetworkRequest request = Request(exchange);
+        return exchange.eMethod == APIModule::Method_Post ? m_manager.post(request, exchange.body)
+                                                          : m_manager.get(request);
+    }
+
+    QNetworkAccessManager m_manager;
+};
+
+class QtWithJson : public Qt {
+public:
+    Answer Run(const Exchange& exchange) override
+    {
+        const QJsonObject envelope = QJsonDocument::fromJson(Qt::Run(exchange).text).object();
+        return {{}, envelope.value(QLatin1String("data")).toObject()};
+    }
+};
+
+/// As long as it lives nothing comes out at standard error: what log lines cost there is not the library's.
+class NoStandardError {
+public:
+    NoStandardError()
+    {
+        const int nNowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        ::dup2(nNowhere, STDERR_FILENO);
+        ::close(nNowhere);
+    }
+    ~NoStandardError()
+    {
+        ::dup2(m_nKept, STDERR_FILENO);
+        ::close(m_nKept);
+    }
+    NoStandardError(const NoStandardError&) = delete;
+    NoStandardError& operator=(const NoStandardError&) = delete;
+
+private:
+    const int m_nKept = ::dup(STDERR_FILENO);
+};
+
+class Library : public Client {
+public:
+    explicit Library(QWidget* pParent) : m_pParent(pParent) {}
+
+    Answer Run(const Exchange& exchange) override
+    {
+        Answer answer;
+        const auto take = [&](const QJsonObject& data) {
+            answer.data = data;
+            return 0;
+        };
+        Require(Read(exchange, take) == 0, "a call of the library succeeds");
+        return answer;
+    }
+
+    int Read(const Exchange& exchange, const Parse& parse) override
+    {
+        Facade().SetHttpsMode(exchange.bHttps ? 1 : 0);
+        m_host.users.servers[1].port = exchange.nPort;
+        return Facade().ExecuteFuncs([&](void* pReqParamData) { return Pack(pReqParamData, exchange); }, parse,
+                                     QString(), m_pParent, QString(), false, true);
+    }
+
+private:
+    static APIModule::CAPIModule& Facade() { return APIModule::CAPIModule::GetInstance(); }
+
+    /// With the log line of the families' Packs.
+    static int Pack(void* pReqParamData, const Exchange& exchange)
+    {
+        const int nResult =
+            Facade().GetRequestParam(pReqParamData, exchange.eMethod, QString::fromLatin1(exchange.path), -1,
+                                     QString::fromUtf8(exchange.body), QString(), kTimeoutSeconds, false);
+        ornl::TalPrintLog::instance().Log("src/UI/APIModule/BRMS/BRMSModule", __LINE__,
+                                          "APIModule::CBRMSModule::PacketGetRemoteLogConfig", "", 4, "%s",
+                                          "PacketGetRemoteLogConfig success.");
+        return nResult;
+    }
+
+    /// There is one façade, whoever uses it.
+    struct Host {
+        Host()
+        {
+            users.servers[1].token = kToken;
+            ornl::TalPrintLog::instance().SetFile(folder.filePath(QStringLiteral("calls.log")).toStdString());
+            Facade().Init(&users);
+        }
+        ~Host()
+        {
+            Facade().UnInit();
+            ornl::TalPrintLog::instance().SetFile({});
+        }
+        Host(const Host&) = delete;
+        Host& operator=(const Host&) = delete;
+
+        const QTemporaryDir folder;
+        testing_support::UserManager users{};
+    };
+
+    static Host& TheHost()
+    {
+        static Host host;
+        return host;
+    }
+
+    const NoStandardError m_noStandardError;
+    const QPointer<QWidget> m_pParent;
+    Host& m_host = TheHost();
+};
+
+}  // namespace
+
+int Client::Read(const Exchange& exchange, const Parse& parse)
+{
+    return parse(DataOf(Run(exchange)));
+}
+
+QJsonObject DataOf(const Answer& answer)
+{
+    return answer.text.isEmpty()
+               ? answer.data
+               : QJsonDocument::fromJson(answer.text).object().value(QLatin1String("data")).toObject();
+}
+
+std::unique_ptr<Client> MakeQt()
+{
+    return std::make_unique<Qt>();
+}
+
+std::unique_ptr<Client> MakeQtWithJson()
+{
+    return std::make_unique<QtWithJson>();
+}
+
+std::unique_ptr<Client> MakeLibrary(QWidget* pParent)
+{
+    return std::make_unique<Library>(pParent);
+}
+
+std::unique_ptr<Client> MakeLibrary()
+{
+    return MakeLibrary(nullptr);
+}
+
+}  // namespace bench

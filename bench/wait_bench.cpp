@@ -1,0 +1,140 @@
+// What a waiting call leaves to the rest of the client: processor time, timers in time, and the stall of a large reply.
+#include "Bench.h"
+#include "transport/Clients.h"
+#include "transport/InTurns.h"
+#include "transport/Server.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace bench {
+namespace {
+
+constexpr double kMilliPerSecond = 1e3;
+constexpr int kWaitMilliseconds = 2000;
+
+void Idle(int nMilliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(nMilliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// A window for the wait dialog to stand over.
+class Window : public QWidget {
+public:
+    Window()
+    {
+        constexpr int kWidth = 1024;
+        constexpr int kHeight = 768;
+        constexpr int kUntilShown = 100;
+        resize(kWidth, kHeight);
+        show();
+        Idle(kUntilShown);
+    }
+};
+
+/// Processor time of the whole process, all its threads, in seconds.
+double ProcessorSeconds()
+{
+    std::timespec time{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    constexpr double kNanoPerSecond = 1e9;
+    return double(time.tv_sec) + double(time.tv_nsec) / kNanoPerSecond;
+}
+
+/// How late each tick of a timer comes meanwhile, in milliseconds, the latest last.
+std::vector<double> Lateness(int nInterval, const std::function<void()>& wait)
+{
+    std::vector<double> lateness;
+    QElapsedTimer clock;
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        constexpr double kNanoPerMilli = 1e6;
+        lateness.push_back(double(clock.nsecsElapsed()) / kNanoPerMilli - nInterval);
+        clock.start();
+    });
+    timer.start(nInterval);
+    clock.start();
+    wait();
+    std::sort(lateness.begin(), lateness.end());
+    return lateness;
+}
+
+/// What a wait takes from the processor, and what it does to the frames of an animation.
+Values Cost(const std::function<void()>& wait)
+{
+    constexpr int kFrame = 16;
+    QElapsedTimer clock;
+    clock.start();
+    const double before = ProcessorSeconds();
+    const std::vector<double> lateness = Lateness(kFrame, wait);
+    const double seconds = double(clock.elapsed()) / kMilliPerSecond;
+    constexpr double kPercent = 100;
+    const std::size_t nTwentieth = lateness.size() / 20;
+    return {{"processor_percent", (ProcessorSeconds() - before) / seconds * kPercent},
+            {"late_ms", lateness.back()},
+            {"late_ms_95", *(lateness.rbegin() + std::ptrdiff_t(nTwentieth))},
+            {"late_ms_median", lateness[lateness.size() / 2]}};
+}
+
+Exchange Waiting(const Server& server)
+{
+    return Get(false, server.Port(false), "/after/" + QByteArray::number(kWaitMilliseconds));
+}
+
+std::function<void()> RunOf(const std::shared_ptr<Client>& pClient, const Exchange& exchange)
+{
+    return [=] { pClient->Run(exchange); };
+}
+
+void RegisterWaits(const Server& server)
+{
+    const auto cost = [](const std::function<void()>& wait) { return [=] { return Cost(wait); }; };
+    const Exchange exchange = Waiting(server);
+    RegisterInTurns("wait of 2 s", 1,
+                    {{kLibrary, cost(RunOf(MakeLibrary(), exchange))},
+                     {"event loop", cost([] { Idle(kWaitMilliseconds); })},
+                     {kQt, cost(RunOf(MakeQt(), exchange))}});
+    RegisterInTurns("wait of 2 s behind the dialog", 1, {{kLibrary, [=] {
+                                                              Window window;
+                                                              return Cost(RunOf(MakeLibrary(&window), exchange));
+                                                          }}});
+}
+
+void RegisterStall(const Server& server)
+{
+    constexpr int kTick = 1;
+    constexpr int kRounds = 3;
+    const Exchange exchange = Get(false, server.Port(false), "/lots/2600");
+    const auto stall = [=](const std::shared_ptr<Client>& pClient) {
+        const auto run = [=] {
+            pClient->Run(exchange);
+            Idle(2 * kTick);  // for the tick that the end of the call held up
+        };
+        return [=] { return Values{{"stall_ms", Lateness(kTick, run).back()}}; };
+    };
+    RegisterInTurns("reply of 10 MB, longest stall", kRounds,
+                    {{kQtWithJson, stall(MakeQtWithJson())}, {kLibrary, stall(MakeLibrary())}});
+}
+
+}  // namespace
+
+void RegisterBenchmarks()
+{
+    static const Server server;
+    RegisterWaits(server);
+    RegisterStall(server);
+}
+
+}  // namespace bench
