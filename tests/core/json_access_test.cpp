@@ -146,6 +146,21 @@ TEST(JsonAccess, TextWithZeroByteComesWhole)
     EXPECT_EQ(text, std::string("a\0b", 3));
 }
 
+TEST(JsonAccess, IntegersBeyond53BitsLoseDigitsInsideOfContainersAlone)
+{
+    const QJsonObject object =
+        Json(R"({"k": 9007199254740993, "inner": {"k": 9007199254740993, "s": 9007199254740991}})");
+    APIModule::int64 value = 0;
+    EXPECT_EQ(CCommonFunc::GetJsonValue(object, QStringLiteral("k"), value), 0);
+    EXPECT_EQ(value, 9007199254740993);
+    QJsonObject inner;
+    EXPECT_EQ(CCommonFunc::GetJsonValue(object, QStringLiteral("inner"), inner), 0);
+    EXPECT_EQ(CCommonFunc::GetJsonValue(inner, QStringLiteral("k"), value), 0);
+    EXPECT_EQ(value, 9007199254740992);
+    EXPECT_EQ(CCommonFunc::GetJsonValue(inner, QStringLiteral("s"), value), 0);
+    EXPECT_EQ(value, 9007199254740991);
+}
+
 TEST(JsonAccess, IsEmpty)
 {
     LogRecorder logs;

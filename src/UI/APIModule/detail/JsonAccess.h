@@ -67,16 +67,16 @@ void Convert(const Value& value, std::string& result)
     StoreUtf8(value.isString() ? value.toString() : value.toVariant().toString(), result);
 }
 
-// A variant knows a way to objects from maps and to arrays from lists alone, which gives the value itself again.
+// The variant makes doubles of the numbers inside, which the readers of records do number by number.
 
 inline void Convert(const QJsonValue& value, QJsonObject& result)
 {
-    result = value.toObject();
+    result = value.toVariant().toJsonObject();
 }
 
 inline void Convert(const QJsonValue& value, QJsonArray& result)
 {
-    result = value.toArray();
+    result = value.toVariant().toJsonArray();
 }
 
 inline void Convert(const QCborValue& value, QCborMap& result)

@@ -25,7 +25,13 @@ class JsonObject : public QCborMap {
 public:
     JsonObject() = default;
     JsonObject(const QJsonObject& object) : QCborMap(QCborMap::fromJsonObject(object)) {}
-    explicit JsonObject(const QCborValue& value) : QCborMap(value.toMap()) {}
+    /// One that was found inside of another value.
+    explicit JsonObject(const QCborValue& value) : QCborMap(value.toMap()), m_bInner(true) {}
+
+    QCborValue value(QLatin1String key) const;
+
+private:
+    bool m_bInner = false;
 };
 
 using JsonArray = QCborArray;
