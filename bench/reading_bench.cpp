@@ -7,6 +7,7 @@
 #include "reading/Same.h"
 
 #include <catalogue/Call.h>
+#include <detail/Envelope.h>
 #include <IPMS/IPMSModule.h>
 
 #include <QJsonDocument>
@@ -50,12 +51,13 @@ ParkingLots Read(const QJsonObject& data)
     return lots;
 }
 
-/// From the text to the records, the envelope included. The way of a call itself begins at the network.
+/// From the text to the records as a call takes them, the envelope included.
 ParkingLots ReadWithLibrary(const Reply& reply)
 {
-    const QJsonObject envelope = ObjectOf(reply.text);
-    benchmark::DoNotOptimize(envelope.value(QLatin1String("desc")).toString());
-    return envelope.value(QLatin1String("code")).toInt(0) == kSuccess ? Read(DataOf(envelope)) : ParkingLots();
+    APIModule::ReplyInfo info;
+    info.byteBody = reply.text;
+    APIModule::detail::Unpack(info);
+    return info.nCode == kSuccess ? Read(info.jsonData) : ParkingLots();
 }
 
 template <ParkingLots (*ReadText)(std::string_view)>
