@@ -14,7 +14,7 @@
 namespace explorer {
 namespace {
 
-constexpr int kLongestShown = 500000;
+constexpr int kLongestShown = 200000;
 
 }  // namespace
 
@@ -26,7 +26,6 @@ CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
     m_pEdit->setPlaceholderText(hint);
     m_pEdit->setFont(theme::FixedFont());
     m_pEdit->setLineWrapMode(kind == Kind::Text ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
-    m_pEdit->setWordWrapMode(QTextOption::WrapAnywhere);
     m_pEdit->setTabChangesFocus(true);
     m_pEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_pCopy->setAutoDefault(false);

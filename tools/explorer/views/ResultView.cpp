@@ -34,11 +34,11 @@ QString TextOf(const RawReply& reply)
     return text + QLatin1Char('\n') + QString::fromUtf8(reply.body);
 }
 
-/// Opens all that fits on a screen or two; of a large record, its first levels.
-void Open(QTreeView& tree, const CallOutcome& outcome)
+/// Opens all that fits on a screen or two; of a record with a longer text, its first level.
+void Open(QTreeView& tree, int textLength)
 {
-    constexpr std::size_t kLongest = 4000;
-    if (outcome.record.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace).size() < kLongest) {
+    constexpr int kLongest = 8000;
+    if (textLength < kLongest) {
         tree.expandAll();
     } else {
         tree.expandToDepth(0);
@@ -54,10 +54,10 @@ void Open(QTreeView& tree, const CallOutcome& outcome)
 }  // namespace
 
 ResultView::ResultView(QWidget* pParent)
-    : QWidget(pParent), m_pTree(new QTreeView),
-      m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))), m_pTable(new RecordTable),
-      m_pReply(new CodeView(CodeView::Kind::Text, tr("No reply was recorded."))), m_pTreeHint(MakeHint()),
-      m_pTableHint(MakeHint()), m_pIncomplete(new TintedLabel(theme::Error)), m_pTabs(new QTabWidget)
+    : QWidget(pParent), m_pTree(new QTreeView), m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))),
+      m_pTable(new RecordTable), m_pReply(new CodeView(CodeView::Kind::Text, tr("No reply was recorded."))),
+      m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pIncomplete(new TintedLabel(theme::Error)),
+      m_pTabs(new QTabWidget)
 {
     m_pTree->setModel(&m_model);
     m_pTree->setAlternatingRowColors(true);
@@ -109,9 +109,10 @@ void ResultView::ShowRecord(const CallOutcome& outcome)
 {
     const catalogue::Type& type = *outcome.call->result;
     m_model.SetRecord(type, outcome.record);
-    Open(*m_pTree, outcome);
+    const QString text = JsonText(outcome.record);
+    m_pJson->SetText(text);
+    Open(*m_pTree, text.size());
     m_pTreePages->setCurrentIndex(0);
-    m_pJson->SetText(JsonText(outcome.record));
     const bool hasList = m_pTable->SetRecord(type, outcome.record);
     m_pTableHint->setText(tr("There is no list in this record."));
     m_pTablePages->setCurrentIndex(hasList ? 0 : 1);
