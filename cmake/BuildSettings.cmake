@@ -24,6 +24,10 @@ if(APIMODULE_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(APIMODULE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(APIMODULE_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)

@@ -34,6 +34,23 @@ if(APIMODULE_BUILD_TOOLS)
     endif()
     set_target_properties(${programs} PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
     install(TARGETS ${programs} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
+
+    # The manual of a program is what it says of itself.
+    find_program(HELP2MAN help2man)
+    if(HELP2MAN)
+        foreach(program IN LISTS programs)
+            set(manual "${PROJECT_BINARY_DIR}/man/${program}.1")
+            add_custom_command(OUTPUT "${manual}"
+                COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/man"
+                COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen
+                    "${HELP2MAN}" --no-info --no-discard-stderr --output "${manual}" $<TARGET_FILE:${program}>
+                DEPENDS ${program} VERBATIM)
+            list(APPEND manuals "${manual}")
+        endforeach()
+        add_custom_target(manuals ALL DEPENDS ${manuals})
+        install(FILES ${manuals} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools)
+    endif()
+
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/contract" "${PROJECT_SOURCE_DIR}/tools/emulator/seed"
         DESTINATION "${share_folder}" COMPONENT tools FILES_MATCHING PATTERN *.yaml PATTERN *.json)
 
