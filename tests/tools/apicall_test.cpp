@@ -154,6 +154,14 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Help
 
+TEST(Help, TheVersionIsPrintedAlone)
+{
+    const Ended ended = Apicall(Words({"--version"}));
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.err, "");
+    EXPECT_TRUE(std::regex_match(ended.out, std::regex("apicall [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << ended.out;
+}
+
 TEST(Help, TheListBeginsEachLineWithTheNameOfACall)
 {
     const Ended ended = Apicall(Words({"--list"}));

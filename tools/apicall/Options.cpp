@@ -33,6 +33,7 @@ Options ReadOptions(int argc, char** argv)
     app.footer(kFooter);
     app.set_help_flag();
     app.add_flag("-h,--help", options.help, "Print this help, or the arguments and the result of CALL");
+    app.add_flag("-V,--version", options.version, "Print the version");
     app.add_flag("-l,--list", options.list, "List the calls");
     app.add_option("-s,--server", options.server, "Platform server: https://host[:port] or http://host[:port]");
     app.add_option("-t,--token", options.token, "Session token; the environment keeps it out of the process list")

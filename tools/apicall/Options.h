@@ -29,6 +29,7 @@ struct Options {
     std::vector<std::string> arguments;  ///< as they were given
     bool list = false;
     bool help = false;
+    bool version = false;
     std::string usage;  ///< how the program is called
 };
 

@@ -80,7 +80,9 @@ int RunCall(const apicall::Options& options)
 int Main(int argc, char** argv)
 {
     const apicall::Options options = apicall::ReadOptions(argc, argv);
-    if (options.list) {
+    if (options.version) {
+        std::cout << "apicall " << APICALL_VERSION << '\n';
+    } else if (options.list) {
         std::cout << apicall::ListOfCalls();
     } else if (options.help) {
         std::cout << (options.call.empty() ? options.usage : apicall::HelpFor(NamedCall(options.call)));
