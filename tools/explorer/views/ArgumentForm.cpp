@@ -151,10 +151,7 @@ void ArgumentForm::Paste()
 
 void ArgumentForm::ShowHint(const QString& text)
 {
-    auto* pHint = new TintedLabel(theme::Hint);
-    pHint->setText(text);
-    pHint->setAlignment(Qt::AlignCenter);
-    FillArea(pHint);
+    FillArea(MakeHint(text));
     m_pCopy->setEnabled(false);
     m_pPaste->setEnabled(false);
 }

@@ -34,7 +34,7 @@ json FromQt(const QJsonValue& value)
     case QJsonValue::Array: {
         json list = json::array();
         const QJsonArray array = value.toArray();
-        for (const QJsonValue element : array) {
+        for (const QJsonValue& element : array) {
             list.push_back(FromQt(element));
         }
         return list;

@@ -171,7 +171,7 @@ void ListEditor::Remove(const QWidget* pRow)
 void ListEditor::Move(const QWidget* pRow, int steps)
 {
     const std::size_t from = IndexOf(pRow);
-    const std::size_t to = std::size_t(std::ptrdiff_t(from) + steps);
+    const auto to = std::size_t(std::ptrdiff_t(from) + steps);
     std::swap(m_rows[from], m_rows[to]);
     m_pLayout->insertWidget(int(to), m_rows[to].pWidget);
     Number();

@@ -13,8 +13,7 @@ namespace explorer {
 
 using nlohmann::json;
 
-RecordEditor::RecordEditor(const catalogue::Type& type, const QString& /*name*/, QWidget* pParent)
-    : ValueEditor(pParent)
+RecordEditor::RecordEditor(const catalogue::Type& type, QWidget* pParent) : ValueEditor(pParent)
 {
     QFormLayout* pForm = MakeForm(this);
     pForm->setContentsMargins(0, 0, 0, 0);

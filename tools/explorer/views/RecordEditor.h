@@ -7,7 +7,6 @@
 #include <vector>
 
 class QFormLayout;
-class QLabel;
 
 namespace explorer {
 
@@ -16,7 +15,7 @@ class RecordEditor : public ValueEditor {
     Q_OBJECT
 
 public:
-    RecordEditor(const catalogue::Type& type, const QString& name, QWidget* pParent);
+    RecordEditor(const catalogue::Type& type, QWidget* pParent);
 
     [[nodiscard]] nlohmann::json Value() const override;
     void SetValue(const nlohmann::json& value) override;

@@ -79,10 +79,7 @@ RequestView::RequestView(QWidget* pParent)
     pPageLayout->addLayout(pTargetRow);
     pPageLayout->addWidget(pTabs, 1);
 
-    auto* pHint = new TintedLabel(theme::Hint);
-    pHint->setAlignment(Qt::AlignCenter);
-    pHint->setText(tr("Run a call to see its request here."));
-    m_pPages->addWidget(pHint);
+    m_pPages->addWidget(MakeHint(tr("Run a call to see its request here.")));
     m_pPages->addWidget(pPage);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);

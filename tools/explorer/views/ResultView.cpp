@@ -17,13 +17,6 @@
 namespace explorer {
 namespace {
 
-TintedLabel* MakeHint()
-{
-    auto* pHint = new TintedLabel(theme::Hint);
-    pHint->setAlignment(Qt::AlignCenter);
-    return pHint;
-}
-
 /// Status line, headers and body with the line ends of this machine.
 QString TextOf(const RawReply& reply)
 {

@@ -51,10 +51,7 @@ TimingView::TimingView(QWidget* pParent)
       m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))), m_pProgress(new QProgressBar),
       m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
 {
-    auto* pHint = new TintedLabel(theme::Hint);
-    pHint->setAlignment(Qt::AlignCenter);
-    pHint->setText(tr("Run a call to see how long it takes."));
-    m_pPages->addWidget(pHint);
+    m_pPages->addWidget(MakeHint(tr("Run a call to see how long it takes.")));
     m_pPages->addWidget(m_pChart);
 
     auto* pLayout = new QVBoxLayout(this);

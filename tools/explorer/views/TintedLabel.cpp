@@ -1,5 +1,7 @@
 #include "TintedLabel.h"
 
+#include "Theme.h"
+
 #include <QApplication>
 #include <QEvent>
 
@@ -29,6 +31,14 @@ void TintedLabel::Colour()
         own.setColor(foregroundRole(), colour);
         setPalette(own);
     }
+}
+
+TintedLabel* MakeHint(const QString& text)
+{
+    auto* pHint = new TintedLabel(theme::Hint);
+    pHint->setText(text);
+    pHint->setAlignment(Qt::AlignCenter);
+    return pHint;
 }
 
 }  // namespace explorer

@@ -23,4 +23,7 @@ private:
     const Tint m_tint;
 };
 
+/// A hint that stands in the middle of what is empty.
+TintedLabel* MakeHint(const QString& text = {});
+
 }  // namespace explorer

@@ -20,7 +20,7 @@ ValueEditor* MakeEditor(const catalogue::Type& type, const QString& name, QWidge
     case Kind::Text:
         return new TextEditor(name, pParent);
     case Kind::Record:
-        return new RecordEditor(type, name, pParent);
+        return new RecordEditor(type, pParent);
     case Kind::List:
         return new ListEditor(type, name, pParent);
     }
