@@ -1,0 +1,166 @@
+// The emulator's handling of requests: what the contract makes of them, the state, its faults and its log.
+#include "Fuzz.h"
+
+#include <Contract.h>
+#include <Faults.h>
+#include <Handlers.h>
+#include <Platform.h>
+#include <PlatformEmulator.h>
+#include <RequestLog.h>
+#include <State.h>
+
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using emulator::HttpRequest;
+using emulator::Json;
+using emulator::Operation;
+
+/// What an emulator is made of but its sockets.
+struct Server {
+    emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
+    emulator::Platform platform{emulator::Contract::Load(emulator::Options().contract),
+                                emulator::LoadSeeds(emulator::Options().seed, 1), emulator::kDefaultToken};
+    emulator::Faults faults;
+    emulator::RequestLog log;
+};
+
+Server& TheServer()
+{
+    static Server server;
+    return server;
+}
+
+template <typename List>
+const auto& OneOf(const List& list, FuzzedDataProvider& data)
+{
+    return list[data.ConsumeIntegralInRange<std::size_t>(0, list.size() - 1)];
+}
+
+/// A text of the fuzzer's, or one that may well be known or be taken for a number.
+std::string Text(FuzzedDataProvider& data)
+{
+    static const std::vector<std::string> known = {"1",       "0",   "-1",   "2147483648", "true", "1000001$1$0$0",
+                                                   "1000001", "a,b", "%31%2"};
+    return data.ConsumeBool() ? OneOf(known, data) : data.ConsumeRandomLengthString(32);
+}
+
+/// The path with texts in the places of its values, and its query values, now and then one more.
+std::string Target(const Operation& operation, FuzzedDataProvider& data)
+{
+    std::string target = operation.path;
+    for (std::size_t at = target.find('{'); at != std::string::npos; at = target.find('{', at)) {
+        const std::string value = Text(data);
+        target.replace(at, target.find('}', at) - at + 1, value);
+        at += value.size();
+    }
+    char separator = '?';
+    for (const emulator::QueryParameter& parameter : operation.query) {
+        if (data.ConsumeIntegralInRange(0, 15) != 0) {
+            target += separator + parameter.name + '=' + Text(data);
+            separator = '&';
+        }
+    }
+    return data.ConsumeIntegralInRange(0, 15) != 0 ? target : target + separator + data.ConsumeRandomLengthString(32);
+}
+
+Json Value(FuzzedDataProvider& data)
+{
+    const Json parsed = Json::parse(data.ConsumeRandomLengthString(64), nullptr, false);
+    return parsed.is_discarded() ? Json(Text(data)) : parsed;
+}
+
+/// An example of the contract, now and then with another value at one place.
+std::string Body(const Operation& operation, FuzzedDataProvider& data)
+{
+    if (operation.bodyExamples.empty() || data.ConsumeIntegralInRange(0, 7) == 0) {
+        return data.ConsumeIntegralInRange(0, 3) == 0 ? data.ConsumeRandomLengthString() : std::string();
+    }
+    Json body = OneOf(operation.bodyExamples, data);
+    for (int left = data.ConsumeIntegralInRange(0, 3); left > 0; --left) {
+        const Json places = body.flatten();
+        const auto place = std::next(places.begin(), data.ConsumeIntegralInRange<int>(0, int(places.size()) - 1));
+        if (!places.empty() && !place.key().empty()) {
+            body[Json::json_pointer(place.key())] = Value(data);
+        }
+    }
+    return body.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+HttpRequest Request(FuzzedDataProvider& data)
+{
+    HttpRequest request;
+    const Operation& operation = OneOf(TheServer().contract.operations(), data);
+    const bool bAnything = data.ConsumeIntegralInRange(0, 15) == 0;
+    request.method = bAnything ? data.ConsumeRandomLengthString(8) : operation.method;
+    request.target = bAnything ? data.ConsumeRandomLengthString() : Target(operation, data);
+    request.body = Body(operation, data);
+    const bool bToken = data.ConsumeIntegralInRange(0, 15) != 0;
+    request.headers.emplace_back("X-Subject-Token",
+                                 bToken ? emulator::kDefaultToken : data.ConsumeRandomLengthString(32));
+    return request;
+}
+
+void ExpectAnswer(const HttpRequest& request)
+{
+    const emulator::HttpResponse response = TheServer().platform.answer(request);
+    const bool bToken = request.headers.front().second == emulator::kDefaultToken;
+    const std::string shown = request.method + ' ' + request.target + '\n' + request.body + "\nis answered with " +
+                              std::to_string(response.status) + '\n' + response.body;
+    fuzz::Require(response.status == (bToken ? 200 : 401), shown);
+    const Json envelope = Json::parse(response.body, nullptr, false);
+    fuzz::Require(envelope.is_object() && envelope.value("code", Json()).is_number_integer() &&
+                      envelope.value("desc", Json()).is_string(),
+                  shown);
+    fuzz::Require(envelope.at("code") != emulator::code::ContractBroken, shown);
+}
+
+/// A fault that is understood is told again just as it was taken, and hits what it is for.
+void ExpectFault(const std::string& text, const std::string& target)
+{
+    const Json json = Json::parse(text, nullptr, false);
+    if (json.is_discarded()) {
+        return;
+    }
+    try {
+        emulator::Fault fault = emulator::Fault::FromJson(json);
+        const Json told = fault.toJson();
+        fuzz::Require(emulator::Fault::FromJson(told).toJson() == told, told.dump());
+        const bool bHits = target.compare(0, fault.path.size(), fault.path) == 0;
+        TheServer().faults.clear();
+        TheServer().faults.add(std::move(fault));
+        fuzz::Require(TheServer().faults.take(target).has_value() == bHits, told.dump() + " for " + target);
+    } catch (const std::invalid_argument&) {
+        return;
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    Server& server = TheServer();
+    FuzzedDataProvider data(bytes, size);
+    server.log.clear();
+    bool bWrote = false;
+    for (int left = data.ConsumeIntegralInRange(1, 8); left > 0; --left) {
+        const HttpRequest request = Request(data);
+        server.log.add(request);
+        ExpectAnswer(request);
+        bWrote = bWrote || request.method != "GET";
+    }
+    if (bWrote) {
+        server.platform.reset();
+    }
+    for (const emulator::RecordedRequest& recorded : server.log.list()) {
+        recorded.toJson().dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+    const std::string target = data.ConsumeRandomLengthString(32);
+    ExpectFault(data.ConsumeRemainingBytesAsString(), target);
+    return 0;
+}

@@ -1,0 +1,81 @@
+// Unpacking of the envelope that a reply's body holds.
+#include "Fuzz.h"
+
+#include <detail/Envelope.h>
+
+#include <QJsonDocument>
+#include <QVariant>
+
+#include <cmath>
+
+namespace {
+
+using APIModule::ReplyInfo;
+
+/// The code of an envelope: a whole number of an int's range, else 0.
+int CodeOf(const QVariant& value)
+{
+    const bool bNumber = value.type() == QVariant::LongLong || value.type() == QVariant::Double;
+    const double number = value.toDouble();
+    const bool bWhole = number == std::floor(number) && std::abs(number) <= 2147483648.0 && number != 2147483648.0;
+    return bNumber && bWhole ? int(number) : 0;
+}
+
+/// What the body says, read through variants.
+ReplyInfo UnpackedByVariants(const QByteArray& body)
+{
+    ReplyInfo reply;
+    reply.byteBody = body;
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(body, &error);
+    if (body.isEmpty() || error.error != QJsonParseError::NoError) {
+        return reply;
+    }
+    const QVariant top = document.toVariant();
+    const QVariantMap envelope = top.toMap();
+    const bool bNull = envelope.contains(QStringLiteral("code")) && envelope[QStringLiteral("code")].isNull();
+    reply.nCode = bNull ? -1 : CodeOf(envelope[QStringLiteral("code")]);
+    const QVariant desc = envelope[QStringLiteral("desc")];
+    reply.strDesc = desc.type() == QVariant::String ? desc.toString() : QString();
+    reply.jsonData = document.object()[QLatin1String("data")].toObject();
+    return reply;
+}
+
+std::string Shown(const ReplyInfo& reply)
+{
+    return std::to_string(reply.nCode) + " \"" + reply.strDesc.toStdString() + "\" " +
+           QJsonDocument(reply.jsonData).toJson(QJsonDocument::Compact).toStdString();
+}
+
+QByteArray RandomEnvelope(FuzzedDataProvider& data)
+{
+    testing_support::RandomJson random(fuzz::ChoiceOf(data));
+    const QJsonObject envelope = random.Document([&] {
+        QJsonObject object;
+        for (const char* pKey : {"code", "desc", "data"}) {
+            if (!random.OneIn(8)) {
+                object.insert(QLatin1String(pKey), random.Value());
+            }
+        }
+        return object;
+    });
+    return QJsonDocument(envelope).toJson(QJsonDocument::Compact);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    FuzzedDataProvider data(bytes, size);
+    ReplyInfo reply;
+    reply.byteBody =
+        data.ConsumeBool() ? RandomEnvelope(data) : QByteArray::fromStdString(data.ConsumeRemainingBytesAsString());
+    const ReplyInfo expected = UnpackedByVariants(reply.byteBody);
+    APIModule::detail::Unpack(reply);
+    fuzz::Require(reply.byteBody == expected.byteBody && reply.nHttpStatus == -1 && reply.rawHeaders.isEmpty(),
+                  "something else than the envelope changed");
+    fuzz::Require(reply.nCode == expected.nCode && reply.strDesc == expected.strDesc &&
+                      reply.strDesc.isNull() == expected.strDesc.isNull() && reply.jsonData == expected.jsonData,
+                  reply.byteBody.toStdString() + "\ngives\n" + Shown(reply) + "\ninstead of\n" + Shown(expected));
+    return 0;
+}

@@ -1,0 +1,83 @@
+// Masking of the token in what is logged.
+#include "Fuzz.h"
+
+#include <detail/Mask.h>
+
+#include <QString>
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+constexpr int kStars = 10;
+
+/// The same, letter by letter: whatever stands in the ten places behind the first "token=" gives way to ten stars.
+QString MaskedByLetters(const QString& text)
+{
+    const QString name = QStringLiteral("token=");
+    int nValue = name.size();
+    while (nValue <= text.size() && text.mid(nValue - name.size(), name.size()) != name) {
+        ++nValue;
+    }
+    QString masked;
+    for (int i = 0; i < text.size(); ++i) {
+        if (i == nValue) {
+            masked += QString(kStars, QLatin1Char('*'));
+        }
+        if (i < nValue || i >= nValue + kStars) {
+            masked += text.at(i);
+        }
+    }
+    return masked;
+}
+
+void ExpectMaskedAsByLetters(const QString& text)
+{
+    const QString masked = APIModule::detail::MaskToken(text);
+    fuzz::Require(masked == MaskedByLetters(text), text.toStdString() + "\nis masked as\n" + masked.toStdString());
+}
+
+/// A token of letters that nothing else in the URL has.
+std::string Token(FuzzedDataProvider& data)
+{
+    std::string token(data.ConsumeIntegralInRange<std::size_t>(1, 64), 'A');
+    for (char& letter : token) {
+        letter = data.ConsumeIntegralInRange('A', 'Z');
+    }
+    return token;
+}
+
+std::string WithoutCapitals(std::string text)
+{
+    for (char& letter : text) {
+        letter = letter >= 'A' && letter <= 'Z' ? '_' : letter;
+    }
+    return text;
+}
+
+/// Of a token as long as a session's, no more than what is behind its first ten letters is seen.
+void ExpectTokenHidden(FuzzedDataProvider& data)
+{
+    const std::string token = Token(data);
+    std::string before = WithoutCapitals(data.ConsumeRandomLengthString());
+    before.erase(std::min(before.find("token="), before.size()));
+    const std::string behind = WithoutCapitals(data.ConsumeRandomLengthString());
+    const QString text = QString::fromStdString(before + "token=" + token + behind);
+    ExpectMaskedAsByLetters(text);
+    const QString masked = APIModule::detail::MaskToken(text);
+    fuzz::Require(!masked.contains(QString::fromStdString(token)), "shows the token: " + masked.toStdString());
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    FuzzedDataProvider data(bytes, size);
+    if (data.ConsumeBool()) {
+        ExpectTokenHidden(data);
+    } else {
+        ExpectMaskedAsByLetters(QString::fromStdString(data.ConsumeRemainingBytesAsString()));
+    }
+    return 0;
+}
