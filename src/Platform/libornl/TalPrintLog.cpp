@@ -47,35 +47,38 @@ spdlog::level::level_enum SpdlogLevel(int level)
     }
 }
 
-/// A format that cannot be carried out gives its own text.
-ORNL_PRINTF(1, 0) std::string Formatted(const char* format, std::va_list arguments)
+/// Appends what the format makes of its arguments; one that cannot be carried out gives its own text.
+ORNL_PRINTF(2, 0) void AppendFormatted(std::string& text, const char* format, std::va_list arguments)
 {
-    constexpr std::size_t kUsualSize = 256;
+    constexpr std::size_t kUsualSize = 128;
     std::va_list again;
     va_copy(again, arguments);
-    std::string text(kUsualSize, '\0');
-    const int length = std::vsnprintf(text.data(), text.size(), format, arguments);
-    if (length >= 0) {
-        text.resize(static_cast<std::size_t>(length) + 1);
-        if (text.size() > kUsualSize) {
-            (void)std::vsnprintf(text.data(), text.size(), format, again);
-        }
-        text.pop_back();
+    const std::size_t begin = text.size();
+    text.resize(begin + kUsualSize);
+    const int length = std::vsnprintf(&text[begin], kUsualSize, format, arguments);
+    const std::size_t size = length < 0 ? 0 : static_cast<std::size_t>(length);
+    if (size >= kUsualSize) {
+        text.resize(begin + size + 1);
+        (void)std::vsnprintf(&text[begin], size + 1, format, again);
     }
     va_end(again);
-    return length < 0 ? format : text;
+    text.resize(begin + size);
+    if (length < 0) {
+        text.append(format);
+    }
 }
 
-std::string Line(const char* file, int line, const char* function, std::string_view tag, const std::string& message)
+/// What a line tells before its message.
+std::string Head(const char* file, int line, const char* function, std::string_view tag)
 {
-    constexpr std::size_t kUsualSize = 256;
+    constexpr std::size_t kUsualSize = 384;
     std::string text;
-    text.reserve(kUsualSize + message.size());
+    text.reserve(kUsualSize);
     text.append(file).append(1, ':').append(std::to_string(line)).append(1, ' ').append(function).append(": ");
     if (!tag.empty()) {
         text.append(1, '[').append(tag).append("] ");
     }
-    return text.append(message);
+    return text;
 }
 
 /// Writes a line that is complete already.
@@ -162,18 +165,18 @@ TalPrintLog& TalPrintLog::instance()
 void TalPrintLog::Log(const char* file, int line, const char* function, const char* tag, int level, const char* format,
                       ...)
 try {
-    std::string message;
+    std::string text = Head(OrEmpty(file), line, OrEmpty(function), OrEmpty(tag));
+    const std::size_t head = text.size();
     std::va_list arguments;
     va_start(arguments, format);
     if (format) {
-        message = Formatted(format, arguments);
+        AppendFormatted(text, format, arguments);
     }
     va_end(arguments);
 
-    const std::string text = Line(OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), message);
     d->logger.log(SpdlogLevel(level), spdlog::string_view_t(text));
     if (const auto observer = d->CurrentObserver()) {
-        (*observer)({OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, std::move(message)});
+        (*observer)({OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, text.substr(head)});
     }
 } catch (const std::exception& error) {
     ReportOnStderr("a record was not logged completely", error.what());
