@@ -109,7 +109,7 @@ const auto& RandomJson::OneOf(const List& list)
 QJsonObject RandomJson::Document(const std::function<QJsonObject()>& make)
 {
     m_bParsed = OneIn(2);
-    const QJsonObject built = make();
+    QJsonObject built = make();
     if (!m_bParsed) {
         return built;
     }
