@@ -19,8 +19,8 @@ struct RunSettings {
     bool excludeUserInput = true;            ///< in the event loop
     QString caption = {};                    ///< of failures that are notified
     QString successTip = {};                 ///< instead of the one that names the call
-    std::function<void(const APIModule::RequestParam&)> onPacked = {};  ///< sees the request before it goes
-    std::function<void(const QJsonObject&)> onData = {};                ///< sees the data before the Parse reads it
+    std::function<void(APIModule::RequestParam&)> onPacked = {};  ///< the last word on the request
+    std::function<void(const QJsonObject&)> onData = {};          ///< sees the data before the Parse reads it
 };
 
 /// How a call ended.

@@ -1,6 +1,7 @@
 #include "CallIndex.h"
 
 #include <Contract.h>
+#include <PlatformEmulator.h>
 
 namespace explorer {
 namespace {
@@ -51,6 +52,11 @@ void AddFields(const catalogue::Type& type, QStringList& words)
 }
 
 }  // namespace
+
+std::filesystem::path DefaultContract()
+{
+    return emulator::DefaultShareFolder() / "contract";
+}
 
 Endpoints ReadEndpoints(const std::filesystem::path& contract)
 {

@@ -20,6 +20,9 @@ struct Endpoint {
 /// By the name of the call.
 using Endpoints = QHash<QString, Endpoint>;
 
+/// Where the build places the contract.
+std::filesystem::path DefaultContract();
+
 /// Reads the contract of that folder; empty when it cannot be read. May be called from any thread.
 Endpoints ReadEndpoints(const std::filesystem::path& contract);
 

@@ -159,12 +159,13 @@ CallOutcome Runner::Run(const RunOrder& order)
     settings.excludeUserInput = false;
     settings.caption = tr("%1 failed").arg(name);
     settings.successTip = tr("%1 succeeded").arg(name);
-    settings.onPacked = [&](const RequestParam& request) {
+    settings.onPacked = [&](RequestParam& request) {
         outcome.request = Describe(request, order.server.language);
         outcome.timeoutSeconds = request.nTimeout;
         token = QString::fromStdString(request.strToken);
         if (m_tap.IsOn()) {
             expected = m_tap.Expect(outcome.request.method.toLatin1(), QUrl(UrlOf(request), QUrl::TolerantMode));
+            request.strIp = m_tap.NameFor(QString::fromStdString(request.strIp)).toStdString();
         }
     };
     settings.onData = [&outcome](const QJsonObject& data) { outcome.data = data; };

@@ -83,6 +83,12 @@ void Servers::SetEmulatorPorts(int http, int https)
     emit Changed();
 }
 
+void Servers::Retranslate()
+{
+    m_servers.first().name = tr("Built-in emulator");
+    emit Changed();
+}
+
 void Servers::PlaceEmulator()
 {
     Server& emulator = m_servers.first();

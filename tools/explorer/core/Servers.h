@@ -48,6 +48,9 @@ public:
     /// Where the emulator listens; the port is 0 while it does not.
     void SetEmulatorPorts(int http, int https);
 
+    /// Names the emulator's entry in the language of now.
+    void Retranslate();
+
     /// A server with a fresh identifier.
     static Server Fresh(const QString& name);
 

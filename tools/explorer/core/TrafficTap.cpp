@@ -54,6 +54,12 @@ int Byte(const QByteArray& bytes, int index)
     return static_cast<unsigned char>(bytes.at(index));
 }
 
+/// An IPv6 address stands in brackets where a port may follow.
+QString WithoutBrackets(QString host)
+{
+    return host.remove(QLatin1Char('[')).remove(QLatin1Char(']'));
+}
+
 QString TargetOf(const QUrl& url)
 {
     return url.toString(QUrl::FullyEncoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
@@ -75,6 +81,17 @@ public:
         connect(&m_server, &QSslSocket::disconnected, this, &Connection::ServerLeft);
         m_client.setSocketDescriptor(descriptor);
     }
+
+    ~Connection() override
+    {
+        m_client.disconnect(this);
+        m_server.disconnect(this);
+    }
+
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    Connection(Connection&&) = delete;
+    Connection& operator=(Connection&&) = delete;
 
 private:
     enum Stage {
@@ -181,17 +198,18 @@ private:
         m_port = Byte(m_socks, start + size) << 8 | Byte(m_socks, start + size + 1);
         m_socks.remove(0, start + size + kPortSize);
         if (kind == kName) {
-            m_host = QString::fromLatin1(address);
+            m_name = QString::fromLatin1(address);
         } else if (kind == kIpv4) {
-            m_host = QHostAddress(static_cast<quint32>(Byte(address, 0)) << 24 |
+            m_name = QHostAddress(static_cast<quint32>(Byte(address, 0)) << 24 |
                                   static_cast<quint32>(Byte(address, 1)) << 16 |
                                   static_cast<quint32>(Byte(address, 2)) << 8 | static_cast<quint32>(Byte(address, 3)))
                          .toString();
         } else {
-            m_host = QHostAddress(reinterpret_cast<const quint8*>(address.constData())).toString();
+            m_name = QHostAddress(reinterpret_cast<const quint8*>(address.constData())).toString();
         }
+        m_host = m_tap.m_hosts.value(m_name, m_name);
         m_stage = Connecting;
-        m_server.connectToHost(m_host, static_cast<quint16>(m_port));
+        m_server.connectToHost(WithoutBrackets(m_host), static_cast<quint16>(m_port));
         return false;
     }
 
@@ -228,11 +246,23 @@ private:
 
     void RelayRequest(const QByteArray& bytes)
     {
-        m_server.write(bytes);
-        m_requests.Feed(bytes);
-        if (m_requests.HasHead() && !m_reported) {
-            m_reported = true;
-            m_tap.Seen(m_host, m_port, m_requests.Current(), m_replies.Current());
+        m_unsent += bytes;
+        const bool isNew = !m_headWent;
+        if (isNew) {
+            const int end = m_unsent.indexOf("\r\n\r\n");
+            if (end < 0) {
+                return;
+            }
+            QByteArray head = m_unsent.left(end);
+            head.replace("\r\nHost: " + m_name.toLatin1() + ':', "\r\nHost: " + m_host.toLatin1() + ':');
+            m_unsent.replace(0, end, head);
+            m_headWent = true;
+        }
+        m_server.write(m_unsent);
+        m_requests.Feed(m_unsent);
+        m_unsent.clear();
+        if (isNew) {
+            m_tap.Seen(WithoutBrackets(m_host), m_port, m_requests.Current(), m_replies.Current());
         }
     }
 
@@ -243,7 +273,7 @@ private:
         if (m_replies.IsComplete()) {  // the next request begins with a fresh pair
             m_requests.Next();
             m_replies.Next();
-            m_reported = false;
+            m_headWent = false;
         }
         m_client.write(bytes);
     }
@@ -276,11 +306,13 @@ private:
     QSslSocket m_server;
     Stage m_stage = Greeting;
     QByteArray m_socks;
+    QString m_name;  // what the library calls the host
     QString m_host;
     int m_port = 0;
     HttpReader m_requests{HttpReader::Requests};
     HttpReader m_replies{HttpReader::Replies};
-    bool m_reported = false;
+    QByteArray m_unsent;
+    bool m_headWent = false;  // of the current request
 };
 
 class TrafficTap::Listener : public QTcpServer {
@@ -323,6 +355,18 @@ void TrafficTap::SetOn(bool on)
         m_listener->close();
         QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
     }
+}
+
+QString TrafficTap::NameFor(const QString& host)
+{
+    const QString bare = WithoutBrackets(host).toLower();
+    const bool isLoopback = QHostAddress(bare).isLoopback() || bare == QLatin1String("localhost");
+    if (!IsOn() || !isLoopback) {
+        return host;
+    }
+    const QString name = QStringLiteral("recorded-") + QString(bare).replace(QLatin1Char(':'), QLatin1Char('-'));
+    m_hosts.insert(name, host);
+    return name;
 }
 
 int TrafficTap::Expect(const QByteArray& method, const QUrl& url)

@@ -2,6 +2,7 @@
 
 #include "HttpReader.h"
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -35,6 +36,10 @@ public:
     void SetOn(bool on);
     [[nodiscard]] bool IsOn() const;
 
+    /// What the library must call a host so that its connections go through the tap: a name that the tap alone knows in
+    /// the place of the loopback address, to which the toolkit uses no proxy; every other host keeps its own.
+    QString NameFor(const QString& host);
+
     /// Looks out for the next request of that method and URL. Take() gives what was seen of it, under the number that
     /// is returned here.
     int Expect(const QByteArray& method, const QUrl& url);
@@ -59,6 +64,7 @@ private:
     const std::unique_ptr<Listener> m_listener;
     const QString m_password;
     QVector<Expected> m_expected;
+    QHash<QString, QString> m_hosts;  // by the names of the tap's own
     int m_lastNumber = 0;
 };
 

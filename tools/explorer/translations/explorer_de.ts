@@ -1,0 +1,870 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>explorer::ArgumentForm</name>
+    <message>
+        <source>Copy as JSON</source>
+        <translation>Als JSON kopieren</translation>
+    </message>
+    <message>
+        <source>Paste JSON</source>
+        <translation>JSON einfügen</translation>
+    </message>
+    <message>
+        <source>Choose a call to see its arguments here.</source>
+        <translation>Wählen Sie einen Aufruf, um hier seine Argumente zu sehen.</translation>
+    </message>
+    <message>
+        <source>This call takes no arguments.</source>
+        <translation>Dieser Aufruf hat keine Argumente.</translation>
+    </message>
+    <message>
+        <source>it is no JSON, %1 at byte %2</source>
+        <translation>es ist kein JSON, %1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>The clipboard does not fit: %1</source>
+        <translation>Die Zwischenablage passt nicht: %1</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CallHeader</name>
+    <message>
+        <source>No call chosen</source>
+        <translation>Kein Aufruf gewählt</translation>
+    </message>
+    <message>
+        <source>Choose a call on the left to fill it in and run it.</source>
+        <translation>Wählen Sie links einen Aufruf, um ihn auszufüllen und auszuführen.</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CallPanel</name>
+    <message>
+        <source>Basic resources</source>
+        <translation>Grundressourcen</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>PTZ</translation>
+    </message>
+    <message>
+        <source>Analysis</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>Parking</source>
+        <translation>Parken</translation>
+    </message>
+    <message>
+        <source>Access control</source>
+        <translation>Zutrittskontrolle</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>Wartung</translation>
+    </message>
+    <message>
+        <source>Filter by name, path or key</source>
+        <translation>Nach Name, Pfad oder Schlüssel filtern</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Aufrufe</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Used last</source>
+        <translation>Zuletzt benutzt</translation>
+    </message>
+    <message>
+        <source>No call matches</source>
+        <translation>Kein Aufruf passt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n Aufruf</numerusform><numerusform>%n Aufrufe</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CodeView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 characters; a copy has them all.</source>
+        <translation>Die ersten %1 von %2 Zeichen; eine Kopie enthält alle.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::Feed</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>Verbose</source>
+        <translation>Ausführlich</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Fehlersuche</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Failure</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Fatal</source>
+        <translation>Fatal</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FeedPanel</name>
+    <message>
+        <source>No log lines</source>
+        <translation>Keine Protokollzeilen</translation>
+    </message>
+    <message>
+        <source>No notifications</source>
+        <translation>Keine Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation>Alle Stufen</translation>
+    </message>
+    <message>
+        <source>%1 and worse</source>
+        <translation>%1 und schwerer</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ListEditor</name>
+    <message>
+        <source>Add element</source>
+        <translation>Element hinzufügen</translation>
+    </message>
+    <message>
+        <source>The list is empty.</source>
+        <translation>Die Liste ist leer.</translation>
+    </message>
+    <message>
+        <source>Add an element to %1</source>
+        <translation>Element zu %1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::MainWindow</name>
+    <message>
+        <source>APIModule Explorer</source>
+        <translation>APIModule-Explorer</translation>
+    </message>
+    <message>
+        <source>The emulator ended: %1</source>
+        <translation>Der Emulator hat sich beendet: %1</translation>
+    </message>
+    <message>
+        <source>The token is in the desktop's secret service.</source>
+        <translation>Das Token liegt im Geheimnisdienst des Desktops.</translation>
+    </message>
+    <message>
+        <source>There is no secret service here: the token is kept until the program ends.</source>
+        <translation>Hier gibt es keinen Geheimnisdienst: Das Token wird bis zum Programmende behalten.</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>Zeiten</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>&amp;Call</source>
+        <translation>&amp;Aufruf</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>Aus&amp;führen</translation>
+    </message>
+    <message>
+        <source>&amp;Find a call</source>
+        <translation>Aufruf &amp;suchen</translation>
+    </message>
+    <message>
+        <source>Favourite &amp;on or off</source>
+        <translation>Fa&amp;vorit ein oder aus</translation>
+    </message>
+    <message>
+        <source>Record what goes over the &amp;wire</source>
+        <translation>Auf&amp;zeichnen, was über die Leitung geht</translation>
+    </message>
+    <message>
+        <source>Passes the calls through a recorder in this program</source>
+        <translation>Leitet die Aufrufe durch einen Rekorder in diesem Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Server</source>
+        <translation>&amp;Server</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Give the &amp;token…</source>
+        <translation>&amp;Token angeben …</translation>
+    </message>
+    <message>
+        <source>&amp;Start the emulator</source>
+        <translation>&amp;Emulator starten</translation>
+    </message>
+    <message>
+        <source>St&amp;op the emulator</source>
+        <translation>E&amp;mulator anhalten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>S&amp;prache</translation>
+    </message>
+    <message>
+        <source>&amp;Log and notifications</source>
+        <translation>P&amp;rotokoll und Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>&amp;Next pane</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>As the &amp;desktop</source>
+        <translation>Wie der &amp;Desktop</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>D&amp;ark</source>
+        <translation>D&amp;unkel</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>About APIModule Explorer</source>
+        <translation>Über APIModule-Explorer</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;APIModule-Explorer %1&lt;/h3&gt;&lt;p&gt;Jeder Aufruf der Bibliothek aus einem Fenster: ein Host mit Benutzerverwaltung, Wartedialog, Benachrichtigungen und Protokoll.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Choose a call first</source>
+        <translation>Wählen Sie zuerst einen Aufruf</translation>
+    </message>
+    <message>
+        <source>An argument holds no value of its type</source>
+        <translation>Ein Argument hat keinen Wert seines Typs</translation>
+    </message>
+    <message>
+        <source>The emulator gets a fresh token with each start.</source>
+        <translation>Der Emulator bekommt bei jedem Start ein neues Token.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::NumberBox</name>
+    <message>
+        <source>A number is missing</source>
+        <translation>Eine Zahl fehlt</translation>
+    </message>
+    <message>
+        <source>Not a number, such as 0.5</source>
+        <translation>Keine Zahl wie 0.5</translation>
+    </message>
+    <message>
+        <source>Must be from %1 to %2</source>
+        <translation>Muss von %1 bis %2 sein</translation>
+    </message>
+    <message>
+        <source>Not a whole number</source>
+        <translation>Keine ganze Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordModel</name>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n element(s)</source>
+        <translation>
+            <numerusform>%n Element</numerusform><numerusform>%n Elemente</numerusform></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordTable</name>
+    <message>
+        <source>&amp;List:</source>
+        <translation>&amp;Liste:</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV…</source>
+        <translation>CSV &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Text in einer Spalte</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform><numerusform>%n Zeilen</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n row(s)</source>
+        <translation>
+            <numerusform>%1 von %n Zeile</numerusform><numerusform>%1 von %n Zeilen</numerusform></translation>
+    </message>
+    <message>
+        <source>Export the table</source>
+        <translation>Tabelle exportieren</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordTableModel</name>
+    <message numerus="yes">
+        <source>%n element(s)</source>
+        <translation>
+            <numerusform>%n Element</numerusform><numerusform>%n Elemente</numerusform></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RequestView</name>
+    <message>
+        <source>The request has no body.</source>
+        <translation>Die Anfrage hat keinen Rumpf.</translation>
+    </message>
+    <message>
+        <source>No request was made.</source>
+        <translation>Es ging keine Anfrage hinaus.</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>Kopfzeile</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>The headers are those that the library sets; the connection adds its own.</source>
+        <translation>Die Kopfzeilen sind die der Bibliothek; die Verbindung fügt eigene hinzu.</translation>
+    </message>
+    <message>
+        <source>&amp;Headers</source>
+        <translation>&amp;Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>&amp;Body</source>
+        <translation>&amp;Rumpf</translation>
+    </message>
+    <message>
+        <source>c&amp;url</source>
+        <translation>c&amp;url</translation>
+    </message>
+    <message>
+        <source>C&amp;++</source>
+        <translation>C&amp;++</translation>
+    </message>
+    <message>
+        <source>Re&amp;quest:</source>
+        <translation>An&amp;frage:</translation>
+    </message>
+    <message>
+        <source>Run a call to see its request here.</source>
+        <translation>Führen Sie einen Aufruf aus, um hier seine Anfrage zu sehen.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ResultHeader</name>
+    <message>
+        <source>Result %1</source>
+        <translation>Ergebnis %1</translation>
+    </message>
+    <message>
+        <source>HTTP %1</source>
+        <translation>HTTP %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Der Server sagt: %1</translation>
+    </message>
+    <message>
+        <source>%1 is running</source>
+        <translation>%1 läuft</translation>
+    </message>
+    <message>
+        <source>Waiting for the server</source>
+        <translation>Warten auf den Server</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>Noch nicht ausgeführt</translation>
+    </message>
+    <message>
+        <source>Result and time of the run appear here.</source>
+        <translation>Hier erscheinen Ergebnis und Dauer.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ResultView</name>
+    <message>
+        <source>The record as JSON appears here.</source>
+        <translation>Hier erscheint der Datensatz als JSON.</translation>
+    </message>
+    <message>
+        <source>The reply appears here.</source>
+        <translation>Hier erscheint die Antwort.</translation>
+    </message>
+    <message>
+        <source>The reply is not complete: the connection ended or the time was over before.</source>
+        <translation>Die Antwort ist nicht vollständig: Vorher endete die Verbindung oder die Zeit war um.</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Datensatz</translation>
+    </message>
+    <message>
+        <source>&amp;JSON</source>
+        <translation>&amp;JSON</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>&amp;Tabelle</translation>
+    </message>
+    <message>
+        <source>Ra&amp;w reply</source>
+        <translation>R&amp;ohe Antwort</translation>
+    </message>
+    <message>
+        <source>This call returns no record.</source>
+        <translation>Dieser Aufruf liefert keinen Datensatz.</translation>
+    </message>
+    <message>
+        <source>Run a call to see its result here.</source>
+        <translation>Führen Sie einen Aufruf aus, um hier sein Ergebnis zu sehen.</translation>
+    </message>
+    <message>
+        <source>There is no list in this record.</source>
+        <translation>In diesem Datensatz ist keine Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RunBar</name>
+    <message>
+        <source>Run</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>Run the call (F5)</source>
+        <translation>Aufruf ausführen (F5)</translation>
+    </message>
+    <message>
+        <source>Behind the wait dialog</source>
+        <translation>Hinter dem Wartedialog</translation>
+    </message>
+    <message>
+        <source>In the event loop, input goes on</source>
+        <translation>In der Ereignisschleife, Eingaben laufen weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Warten</translation>
+    </message>
+    <message>
+        <source>The call's own</source>
+        <translation>Die des Aufrufs</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>T&amp;ime-out</source>
+        <translation>Ze&amp;itgrenze</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s) waiting for the server</source>
+        <translation>
+            <numerusform>%n Aufruf wartet auf den Server</numerusform><numerusform>%n Aufrufe warten auf den Server</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>explorer::Runner</name>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 succeeded</source>
+        <translation>%1 gelungen</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Erfolg</translation>
+    </message>
+    <message>
+        <source>The reply was not confirmed</source>
+        <translation>Die Antwort wurde nicht bestätigt</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ServerBar</name>
+    <message>
+        <source>&amp;Server</source>
+        <translation>&amp;Server</translation>
+    </message>
+    <message>
+        <source>Servers…</source>
+        <translation>Server …</translation>
+    </message>
+    <message>
+        <source>Stop the emulator</source>
+        <translation>Emulator anhalten</translation>
+    </message>
+    <message>
+        <source>Start the emulator</source>
+        <translation>Emulator starten</translation>
+    </message>
+    <message>
+        <source>The emulator is starting</source>
+        <translation>Der Emulator startet</translation>
+    </message>
+    <message>
+        <source>The emulator is not running</source>
+        <translation>Der Emulator läuft nicht</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::Servers</name>
+    <message>
+        <source>Built-in emulator</source>
+        <translation>Eingebauter Emulator</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ServersDialog</name>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Host name or IP address</source>
+        <translation>Rechnername oder IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <source>Language that the server is asked to answer in</source>
+        <translation>Sprache, in der der Server antworten soll</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>&amp;Scheme</source>
+        <translation>&amp;Schema</translation>
+    </message>
+    <message>
+        <source>&amp;Host</source>
+        <translation>&amp;Rechner</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>&amp;Port</translation>
+    </message>
+    <message>
+        <source>&amp;Token</source>
+        <translation>&amp;Token</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>S&amp;prache</translation>
+    </message>
+    <message>
+        <source>New server</source>
+        <translation>Neuer Server</translation>
+    </message>
+    <message>
+        <source>any free one</source>
+        <translation>ein freier</translation>
+    </message>
+    <message>
+        <source>A fresh one for each start</source>
+        <translation>Bei jedem Start ein neues</translation>
+    </message>
+    <message>
+        <source>Asked for when it is needed</source>
+        <translation>Wird bei Bedarf erfragt</translation>
+    </message>
+    <message>
+        <source>A server needs a name.</source>
+        <translation>Ein Server braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>“%1” needs a host name or an IP address (IPv6 in brackets).</source>
+        <translation>„%1“ braucht einen Rechnernamen oder eine IP-Adresse (IPv6 in Klammern).</translation>
+    </message>
+    <message>
+        <source>“%1” needs a language.</source>
+        <translation>„%1“ braucht eine Sprache.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TimingChart</name>
+    <message>
+        <source>Call</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Millisekunden</translation>
+    </message>
+    <message>
+        <source>Succeeded</source>
+        <translation>Gelungen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>95th percentile</source>
+        <translation>95. Perzentil</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms</source>
+        <translation>%1: %2 ms</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TimingView</name>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Re&amp;peat</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>Run a call to see how long it takes.</source>
+        <translation>Führen Sie einen Aufruf aus, um zu sehen, wie lange er dauert.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Aufrufe</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>95th percentile</source>
+        <translation>95. Perzentil</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source> times</source>
+        <translation>-mal</translation>
+    </message>
+    <message>
+        <source>Ru&amp;n the call</source>
+        <translation>A&amp;ufruf ausführen</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TokenDialog</name>
+    <message>
+        <source>Keep it in the desktop's secret service</source>
+        <translation>Im Geheimnisdienst des Desktops aufbewahren</translation>
+    </message>
+    <message>
+        <source>Session token</source>
+        <translation>Sitzungstoken</translation>
+    </message>
+    <message>
+        <source>&amp;Token of the session at “%1”:</source>
+        <translation>&amp;Token der Sitzung bei „%1“:</translation>
+    </message>
+    <message>
+        <source>Without a secret service the token is kept until the program ends. It is never written to a file.</source>
+        <translation>Ohne Geheimnisdienst wird das Token bis zum Programmende behalten. Es wird nie in eine Datei geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TotalsRow</name>
+    <message>
+        <source>Total</source>
+        <translation>Summe</translation>
+    </message>
+</context>
+</TS>

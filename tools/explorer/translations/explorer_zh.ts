@@ -1,0 +1,870 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>explorer::ArgumentForm</name>
+    <message>
+        <source>Copy as JSON</source>
+        <translation>复制为 JSON</translation>
+    </message>
+    <message>
+        <source>Paste JSON</source>
+        <translation>粘贴 JSON</translation>
+    </message>
+    <message>
+        <source>Choose a call to see its arguments here.</source>
+        <translation>选择一个调用后，此处显示其参数。</translation>
+    </message>
+    <message>
+        <source>This call takes no arguments.</source>
+        <translation>此调用没有参数。</translation>
+    </message>
+    <message>
+        <source>it is no JSON, %1 at byte %2</source>
+        <translation>不是 JSON，%1，位于第 %2 字节</translation>
+    </message>
+    <message>
+        <source>The clipboard does not fit: %1</source>
+        <translation>剪贴板内容不符：%1</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CallHeader</name>
+    <message>
+        <source>No call chosen</source>
+        <translation>未选择调用</translation>
+    </message>
+    <message>
+        <source>Choose a call on the left to fill it in and run it.</source>
+        <translation>在左侧选择一个调用，填写参数并运行。</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>收藏</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CallPanel</name>
+    <message>
+        <source>Basic resources</source>
+        <translation>基础资源</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>云台</translation>
+    </message>
+    <message>
+        <source>Analysis</source>
+        <translation>分析</translation>
+    </message>
+    <message>
+        <source>Parking</source>
+        <translation>停车</translation>
+    </message>
+    <message>
+        <source>Access control</source>
+        <translation>门禁</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>运维</translation>
+    </message>
+    <message>
+        <source>Filter by name, path or key</source>
+        <translation>按名称、路径或键筛选</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>Used last</source>
+        <translation>最近使用</translation>
+    </message>
+    <message>
+        <source>No call matches</source>
+        <translation>没有匹配的调用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s)</source>
+        <translation>
+            <numerusform>%n 个调用</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CodeView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 characters; a copy has them all.</source>
+        <translation>显示前 %1 个字符，共 %2 个；复制时包含全部。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::Feed</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>Verbose</source>
+        <translation>详细</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>调试</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Failure</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Fatal</source>
+        <translation>致命</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FeedPanel</name>
+    <message>
+        <source>No log lines</source>
+        <translation>没有日志</translation>
+    </message>
+    <message>
+        <source>No notifications</source>
+        <translation>没有通知</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation>所有级别</translation>
+    </message>
+    <message>
+        <source>%1 and worse</source>
+        <translation>%1及以上</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ListEditor</name>
+    <message>
+        <source>Add element</source>
+        <translation>添加元素</translation>
+    </message>
+    <message>
+        <source>The list is empty.</source>
+        <translation>列表为空。</translation>
+    </message>
+    <message>
+        <source>Add an element to %1</source>
+        <translation>向 %1 添加元素</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::MainWindow</name>
+    <message>
+        <source>APIModule Explorer</source>
+        <translation>APIModule 浏览器</translation>
+    </message>
+    <message>
+        <source>The emulator ended: %1</source>
+        <translation>模拟器已退出：%1</translation>
+    </message>
+    <message>
+        <source>The token is in the desktop's secret service.</source>
+        <translation>令牌已存入桌面的密钥服务。</translation>
+    </message>
+    <message>
+        <source>There is no secret service here: the token is kept until the program ends.</source>
+        <translation>此处没有密钥服务：令牌仅保留到程序结束。</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>服务器</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>耗时</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>&amp;Call</source>
+        <translation>调用(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>运行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Find a call</source>
+        <translation>查找调用(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Favourite &amp;on or off</source>
+        <translation>切换收藏(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Record what goes over the &amp;wire</source>
+        <translation>记录网络数据(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Passes the calls through a recorder in this program</source>
+        <translation>让调用经过本程序内的记录器</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Server</source>
+        <translation>服务器(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>选择(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>编辑(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Give the &amp;token…</source>
+        <translation>输入令牌(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>&amp;Start the emulator</source>
+        <translation>启动模拟器(&amp;S)</translation>
+    </message>
+    <message>
+        <source>St&amp;op the emulator</source>
+        <translation>停止模拟器(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外观(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Log and notifications</source>
+        <translation>日志和通知(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Next pane</source>
+        <translation>下一个窗格(&amp;N)</translation>
+    </message>
+    <message>
+        <source>As the &amp;desktop</source>
+        <translation>跟随桌面(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>D&amp;ark</source>
+        <translation>深色(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About APIModule Explorer</source>
+        <translation>关于 APIModule 浏览器</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;APIModule 浏览器 %1&lt;/h3&gt;&lt;p&gt;在窗口中调用库的每个接口：带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>关于 &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Choose a call first</source>
+        <translation>请先选择调用</translation>
+    </message>
+    <message>
+        <source>An argument holds no value of its type</source>
+        <translation>有参数的值与其类型不符</translation>
+    </message>
+    <message>
+        <source>The emulator gets a fresh token with each start.</source>
+        <translation>模拟器每次启动都会得到新的令牌。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::NumberBox</name>
+    <message>
+        <source>A number is missing</source>
+        <translation>缺少数字</translation>
+    </message>
+    <message>
+        <source>Not a number, such as 0.5</source>
+        <translation>不是数字，例如 0.5</translation>
+    </message>
+    <message>
+        <source>Must be from %1 to %2</source>
+        <translation>必须在 %1 到 %2 之间</translation>
+    </message>
+    <message>
+        <source>Not a whole number</source>
+        <translation>不是整数</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordModel</name>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n element(s)</source>
+        <translation>
+            <numerusform>%n 个元素</numerusform></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordTable</name>
+    <message>
+        <source>&amp;List:</source>
+        <translation>列表(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV…</source>
+        <translation>导出 CSV(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>任意列中的文本</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>筛选(&amp;F)：</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n 行</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n row(s)</source>
+        <translation>
+            <numerusform>%1 / %n 行</numerusform></translation>
+    </message>
+    <message>
+        <source>Export the table</source>
+        <translation>导出表格</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>逗号分隔值 (*.csv)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordTableModel</name>
+    <message numerus="yes">
+        <source>%n element(s)</source>
+        <translation>
+            <numerusform>%n 个元素</numerusform></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RequestView</name>
+    <message>
+        <source>The request has no body.</source>
+        <translation>请求没有正文。</translation>
+    </message>
+    <message>
+        <source>No request was made.</source>
+        <translation>没有发出请求。</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>标头</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>The headers are those that the library sets; the connection adds its own.</source>
+        <translation>这些标头由库设置；连接还会添加自己的标头。</translation>
+    </message>
+    <message>
+        <source>&amp;Headers</source>
+        <translation>标头(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Body</source>
+        <translation>正文(&amp;B)</translation>
+    </message>
+    <message>
+        <source>c&amp;url</source>
+        <translation>c&amp;url</translation>
+    </message>
+    <message>
+        <source>C&amp;++</source>
+        <translation>C&amp;++</translation>
+    </message>
+    <message>
+        <source>Re&amp;quest:</source>
+        <translation>请求(&amp;Q)：</translation>
+    </message>
+    <message>
+        <source>Run a call to see its request here.</source>
+        <translation>运行调用后，此处显示其请求。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ResultHeader</name>
+    <message>
+        <source>Result %1</source>
+        <translation>结果 %1</translation>
+    </message>
+    <message>
+        <source>HTTP %1</source>
+        <translation>HTTP %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>服务器说明：%1</translation>
+    </message>
+    <message>
+        <source>%1 is running</source>
+        <translation>%1 正在运行</translation>
+    </message>
+    <message>
+        <source>Waiting for the server</source>
+        <translation>正在等待服务器</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>尚未运行</translation>
+    </message>
+    <message>
+        <source>Result and time of the run appear here.</source>
+        <translation>此处显示运行的结果和耗时。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ResultView</name>
+    <message>
+        <source>The record as JSON appears here.</source>
+        <translation>此处以 JSON 显示记录。</translation>
+    </message>
+    <message>
+        <source>The reply appears here.</source>
+        <translation>此处显示应答。</translation>
+    </message>
+    <message>
+        <source>The reply is not complete: the connection ended or the time was over before.</source>
+        <translation>应答不完整：连接提前断开或已超时。</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>记录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;JSON</source>
+        <translation>&amp;JSON</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>表格(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Ra&amp;w reply</source>
+        <translation>原始应答(&amp;W)</translation>
+    </message>
+    <message>
+        <source>This call returns no record.</source>
+        <translation>此调用不返回记录。</translation>
+    </message>
+    <message>
+        <source>Run a call to see its result here.</source>
+        <translation>运行调用后，此处显示其结果。</translation>
+    </message>
+    <message>
+        <source>There is no list in this record.</source>
+        <translation>此记录中没有列表。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RunBar</name>
+    <message>
+        <source>Run</source>
+        <translation>运行</translation>
+    </message>
+    <message>
+        <source>Run the call (F5)</source>
+        <translation>运行调用 (F5)</translation>
+    </message>
+    <message>
+        <source>Behind the wait dialog</source>
+        <translation>显示等待对话框</translation>
+    </message>
+    <message>
+        <source>In the event loop, input goes on</source>
+        <translation>在事件循环中，可继续输入</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>等待方式(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The call's own</source>
+        <translation>调用自身的</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>T&amp;ime-out</source>
+        <translation>超时(&amp;I)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s) waiting for the server</source>
+        <translation>
+            <numerusform>%n 个调用正在等待服务器</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>explorer::Runner</name>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 失败</translation>
+    </message>
+    <message>
+        <source>%1 succeeded</source>
+        <translation>%1 成功</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>The reply was not confirmed</source>
+        <translation>应答未得到确认</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ServerBar</name>
+    <message>
+        <source>&amp;Server</source>
+        <translation>服务器(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Servers…</source>
+        <translation>服务器…</translation>
+    </message>
+    <message>
+        <source>Stop the emulator</source>
+        <translation>停止模拟器</translation>
+    </message>
+    <message>
+        <source>Start the emulator</source>
+        <translation>启动模拟器</translation>
+    </message>
+    <message>
+        <source>The emulator is starting</source>
+        <translation>模拟器正在启动</translation>
+    </message>
+    <message>
+        <source>The emulator is not running</source>
+        <translation>模拟器未运行</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::Servers</name>
+    <message>
+        <source>Built-in emulator</source>
+        <translation>内置模拟器</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::ServersDialog</name>
+    <message>
+        <source>Servers</source>
+        <translation>服务器</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Host name or IP address</source>
+        <translation>主机名或 IP 地址</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>不变</translation>
+    </message>
+    <message>
+        <source>Language that the server is asked to answer in</source>
+        <translation>请求服务器使用的语言</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Scheme</source>
+        <translation>协议(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Host</source>
+        <translation>主机(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Token</source>
+        <translation>令牌(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>New server</source>
+        <translation>新服务器</translation>
+    </message>
+    <message>
+        <source>any free one</source>
+        <translation>任意空闲端口</translation>
+    </message>
+    <message>
+        <source>A fresh one for each start</source>
+        <translation>每次启动时更新</translation>
+    </message>
+    <message>
+        <source>Asked for when it is needed</source>
+        <translation>需要时询问</translation>
+    </message>
+    <message>
+        <source>A server needs a name.</source>
+        <translation>服务器需要名称。</translation>
+    </message>
+    <message>
+        <source>“%1” needs a host name or an IP address (IPv6 in brackets).</source>
+        <translation>“%1”需要主机名或 IP 地址（IPv6 加方括号）。</translation>
+    </message>
+    <message>
+        <source>“%1” needs a language.</source>
+        <translation>“%1”需要语言。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TimingChart</name>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>毫秒</translation>
+    </message>
+    <message>
+        <source>Succeeded</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>中位数</translation>
+    </message>
+    <message>
+        <source>95th percentile</source>
+        <translation>第 95 百分位</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms</source>
+        <translation>%1：%2 毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TimingView</name>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清空(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Re&amp;peat</source>
+        <translation>重复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>取消(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Run a call to see how long it takes.</source>
+        <translation>运行调用后，此处显示其耗时。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>中位数</translation>
+    </message>
+    <message>
+        <source>95th percentile</source>
+        <translation>第 95 百分位</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source> times</source>
+        <translation> 次</translation>
+    </message>
+    <message>
+        <source>Ru&amp;n the call</source>
+        <translation>运行调用(&amp;N)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TokenDialog</name>
+    <message>
+        <source>Keep it in the desktop's secret service</source>
+        <translation>保存到桌面的密钥服务</translation>
+    </message>
+    <message>
+        <source>Session token</source>
+        <translation>会话令牌</translation>
+    </message>
+    <message>
+        <source>&amp;Token of the session at “%1”:</source>
+        <translation>“%1”的会话令牌(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Without a secret service the token is kept until the program ends. It is never written to a file.</source>
+        <translation>没有密钥服务时，令牌仅保留到程序结束。它不会写入任何文件。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::TotalsRow</name>
+    <message>
+        <source>Total</source>
+        <translation>合计</translation>
+    </message>
+</context>
+</TS>

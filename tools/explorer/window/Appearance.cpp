@@ -1,0 +1,170 @@
+#include "Appearance.h"
+
+#include <ErrorLexicon/ErrorLexicon.h>
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QSettings>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QToolTip>
+#include <QTranslator>
+
+#include <memory>
+#include <vector>
+
+namespace explorer {
+namespace {
+
+constexpr const char* kAppearanceKey = "appearance";
+constexpr const char* kLanguageKey = "language";
+const char* const kLanguages[] = {"en", "de", "zh"};
+
+struct Colours {
+    QRgb window;
+    QRgb base;
+    QRgb alternate;
+    QRgb button;
+    QRgb text;
+    QRgb faintText;
+    QRgb accent;
+    QRgb link;
+    QRgb light;
+    QRgb midlight;
+    QRgb mid;
+    QRgb dark;
+    QRgb shadow;
+    QRgb toolTip;
+};
+
+constexpr Colours kLight{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xfffafbfc, 0xff1d2430, 0xff8a93a1, 0xff2f6fd6,
+                         0xff1f5fc4, 0xffffffff, 0xffe9edf2, 0xffc9d0da, 0xffaab3c0, 0xff7a8494, 0xffffffff};
+constexpr Colours kDark{0xff22272e, 0xff1a1e24, 0xff1f242b, 0xff2d333c, 0xffdde3ea, 0xff7c8694, 0xff3b7ae0,
+                        0xff74a8f5, 0xff3a424d, 0xff333a44, 0xff3d4551, 0xff14171c, 0xff0c0e11, 0xff2d333c};
+
+QPalette Painted(const Colours& colours)
+{
+    const auto colour = [](QRgb rgb) { return QColor::fromRgb(rgb); };
+    QPalette palette;
+    palette.setColor(QPalette::Window, colour(colours.window));
+    palette.setColor(QPalette::WindowText, colour(colours.text));
+    palette.setColor(QPalette::Base, colour(colours.base));
+    palette.setColor(QPalette::AlternateBase, colour(colours.alternate));
+    palette.setColor(QPalette::Text, colour(colours.text));
+    palette.setColor(QPalette::PlaceholderText, colour(colours.faintText));
+    palette.setColor(QPalette::Button, colour(colours.button));
+    palette.setColor(QPalette::ButtonText, colour(colours.text));
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Highlight, colour(colours.accent));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, colour(colours.link));
+    palette.setColor(QPalette::LinkVisited, colour(colours.link));
+    palette.setColor(QPalette::Light, colour(colours.light));
+    palette.setColor(QPalette::Midlight, colour(colours.midlight));
+    palette.setColor(QPalette::Mid, colour(colours.mid));
+    palette.setColor(QPalette::Dark, colour(colours.dark));
+    palette.setColor(QPalette::Shadow, colour(colours.shadow));
+    palette.setColor(QPalette::ToolTipBase, colour(colours.toolTip));
+    palette.setColor(QPalette::ToolTipText, colour(colours.text));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
+        palette.setColor(QPalette::Disabled, role, colour(colours.faintText));
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, colour(colours.mid));
+    return palette;
+}
+
+/// What the style leaves plain: fine lines, tabs of the panes underlined, one button that stands out.
+constexpr const char* kStyleSheet = R"(
+    QSplitter::handle { background: palette(mid); }
+    QToolBar { border: none; border-bottom: 1px solid palette(mid); padding: 0; spacing: 0; }
+    QStatusBar { border-top: 1px solid palette(mid); }
+    QTabWidget#results::pane, QTabWidget#feeds::pane { border: none; border-top: 1px solid palette(mid); }
+    QTabBar#underlined { qproperty-drawBase: 0; }
+    QTabBar#underlined::tab { background: transparent; border: none; border-bottom: 2px solid transparent;
+                              padding: 6px 12px 5px 12px; }
+    QTabBar#underlined::tab:selected { border-bottom: 2px solid palette(highlight); font-weight: bold; }
+    QTabBar#underlined::tab:hover:!selected { border-bottom: 2px solid palette(mid); }
+    QTabBar#underlined::tab:focus { color: palette(link); }
+    QPushButton#run { background: palette(highlight); color: palette(highlighted-text); font-weight: bold;
+                      border: 1px solid palette(highlight); border-radius: 3px; padding: 5px 22px; }
+    QPushButton#run:hover { background: palette(link); }
+    QPushButton#run:focus { border: 1px solid palette(window-text); }
+    QPushButton#run:disabled { background: palette(midlight); color: palette(mid); border-color: palette(midlight); }
+)";
+
+/// Installed ones go with those that take their place.
+std::vector<std::unique_ptr<QTranslator>>& Translators()
+{
+    static std::vector<std::unique_ptr<QTranslator>> translators;
+    return translators;
+}
+
+void Install(const QString& file, const QString& folder)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(file, folder)) {
+        QCoreApplication::installTranslator(translator.get());
+        Translators().push_back(std::move(translator));
+    }
+}
+
+}  // namespace
+
+Appearance StoredAppearance(const QSettings& settings)
+{
+    const QString name = settings.value(QLatin1String(kAppearanceKey)).toString();
+    if (name == QLatin1String("light")) {
+        return Appearance::Light;
+    }
+    return name == QLatin1String("dark") ? Appearance::Dark : Appearance::System;
+}
+
+void StoreAppearance(QSettings& settings, Appearance appearance)
+{
+    const char* const names[] = {"system", "light", "dark"};
+    settings.setValue(QLatin1String(kAppearanceKey), QLatin1String(names[static_cast<int>(appearance)]));
+}
+
+void ApplyAppearance(Appearance appearance)
+{
+    // The palette of a desktop may be a dark one; one without a say of its own gets the light one.
+    static const bool systemIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    const bool dark = appearance == Appearance::Dark || (appearance == Appearance::System && systemIsDark);
+    // A style sheet keeps the colours of the palette that it was set with.
+    qApp->setStyleSheet(QString());
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QPalette palette = Painted(dark ? kDark : kLight);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+    qApp->setStyleSheet(QLatin1String(kStyleSheet));
+}
+
+QString StoredLanguage(const QSettings& settings)
+{
+    const QString stored = settings.value(QLatin1String(kLanguageKey), QLocale::system().name()).toString();
+    for (const char* language : kLanguages) {
+        if (stored.startsWith(QLatin1String(language))) {
+            return QLatin1String(language);
+        }
+    }
+    return QLatin1String(kLanguages[0]);
+}
+
+void StoreLanguage(QSettings& settings, const QString& language)
+{
+    settings.setValue(QLatin1String(kLanguageKey), language);
+}
+
+void ApplyLanguage(const QString& language)
+{
+    Translators().clear();
+    const QString toolkit = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
+    Install(QStringLiteral("qtbase_") + toolkit, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    Install(QStringLiteral("explorer_") + language, QStringLiteral(":/explorer/translations"));
+    QLocale::setDefault(QLocale(toolkit));
+    ErrorLexicon::SetLanguage(language.toStdString());
+}
+
+}  // namespace explorer

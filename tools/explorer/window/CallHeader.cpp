@@ -1,0 +1,65 @@
+#include "CallHeader.h"
+
+#include "Icons.h"
+
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace explorer {
+
+CallHeader::CallHeader(QWidget* pParent)
+    : QWidget(pParent), m_pName(new QLabel(tr("No call chosen"))), m_pEndpoint(new QLabel), m_pSummary(new QLabel),
+      m_pFavourite(new QToolButton)
+{
+    m_pName->setObjectName(QStringLiteral("callName"));
+    QFont font = m_pName->font();
+    font.setPointSizeF(font.pointSizeF() * 1.35);
+    font.setBold(true);
+    m_pName->setFont(font);
+    m_pName->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    m_pEndpoint->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_pEndpoint->setTextFormat(Qt::PlainText);
+    m_pEndpoint->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pEndpoint->setForegroundRole(QPalette::Link);
+    m_pEndpoint->setWordWrap(true);
+    m_pSummary->setText(tr("Choose a call on the left to fill it in and run it."));
+    m_pSummary->setWordWrap(true);
+
+    m_pFavourite->setCheckable(true);
+    m_pFavourite->setAutoRaise(true);
+    m_pFavourite->setEnabled(false);
+    m_pFavourite->setIcon(Icon("star"));
+    m_pFavourite->setToolTip(tr("Favourite"));
+    m_pFavourite->setAccessibleName(tr("Favourite"));
+    connect(m_pFavourite, &QToolButton::toggled, this,
+            [this](bool on) { m_pFavourite->setIcon(Icon(on ? "starred" : "star")); });
+    connect(m_pFavourite, &QToolButton::clicked, this, &CallHeader::FavouriteToggled);
+
+    auto* const pLayout = new QGridLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setVerticalSpacing(4);
+    pLayout->setColumnStretch(0, 1);
+    pLayout->addWidget(m_pName, 0, 0);
+    pLayout->addWidget(m_pFavourite, 0, 1);
+    pLayout->addWidget(m_pEndpoint, 1, 0, 1, 2);
+    pLayout->addWidget(m_pSummary, 2, 0, 1, 2);
+    m_pEndpoint->hide();
+}
+
+void CallHeader::Show(const catalogue::Call& call, const Endpoint& endpoint, bool favourite)
+{
+    // A long path may break behind a slash.
+    QString path = endpoint.path;
+    path.replace(QLatin1Char('/'), QStringLiteral("/\u200b"));
+    m_pName->setText(ShortName(call));
+    m_pEndpoint->setText(endpoint.method + QLatin1Char(' ') + path);
+    m_pEndpoint->setVisible(!endpoint.path.isEmpty());
+    m_pSummary->setText(QString::fromUtf8(call.summary.data(), static_cast<int>(call.summary.size())));
+    m_pFavourite->setEnabled(true);
+    m_pFavourite->setChecked(favourite);
+}
+
+}  // namespace explorer

@@ -1,0 +1,507 @@
+#include "MainWindow.h"
+
+#include "Appearance.h"
+#include "CallHeader.h"
+#include "CallPanel.h"
+#include "FeedPanel.h"
+#include "ResultHeader.h"
+#include "RunBar.h"
+#include "ServerBar.h"
+#include "ServersDialog.h"
+#include "TokenDialog.h"
+
+#include "../core/Session.h"
+#include "../views/ArgumentForm.h"
+#include "../views/RequestView.h"
+#include "../views/ResultView.h"
+#include "../views/TimingView.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QJsonDocument>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtConcurrent>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+namespace {
+
+constexpr const char* kGeometryKey = "window/geometry";
+constexpr const char* kPanesKey = "window/panes";
+constexpr const char* kRowsKey = "window/rows";
+constexpr const char* kFeedsKey = "window/feeds";
+constexpr const char* kCallKey = "window/call";
+constexpr const char* kRecordKey = "run/recordTraffic";
+
+constexpr const char* kUnderlinedTabs = "underlined";  // in the style sheet
+
+constexpr int kStatusTime = 6000;  // milliseconds
+
+QString ArgumentsKey(const catalogue::Call& call)
+{
+    return QStringLiteral("arguments/") + QString::fromStdString(call.name);
+}
+
+/// A pane of a splitter with the margins that all panes have.
+QVBoxLayout* PaneLayout(QWidget* pPane)
+{
+    auto* const pLayout = new QVBoxLayout(pPane);
+    constexpr int kMargin = 12;
+    pLayout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    pLayout->setSpacing(kMargin);
+    return pLayout;
+}
+
+void FocusFirst(QWidget* pPane)
+{
+    for (QWidget* pWidget = pPane->nextInFocusChain(); pWidget != pPane; pWidget = pWidget->nextInFocusChain()) {
+        const bool takesFocus = pWidget->isEnabled() && (pWidget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+        if (takesFocus && pPane->isAncestorOf(pWidget) && pWidget->isVisible()) {
+            pWidget->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+QSplitter* NewSplitter(Qt::Orientation orientation)
+{
+    auto* const pSplitter = new QSplitter(orientation);
+    pSplitter->setHandleWidth(1);
+    pSplitter->setChildrenCollapsible(false);
+    return pSplitter;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session, QWidget* pParent)
+    : QMainWindow(pParent), m_session(session), m_pServerBar(new ServerBar(session)),
+      m_pCalls(new CallPanel(session.settings)), m_pHeader(new CallHeader), m_pForm(new ArgumentForm),
+      m_pRunBar(new RunBar(session.settings)), m_pResultHeader(new ResultHeader), m_pResult(new ResultView),
+      m_pRequest(new RequestView), m_pTiming(new TimingView), m_pPanes(NewSplitter(Qt::Horizontal)),
+      m_pRows(NewSplitter(Qt::Vertical))
+{
+    setWindowTitle(tr("APIModule Explorer"));
+    MakeLayout();
+    MakeMenus();
+
+    connect(m_pServerBar, &ServerBar::EditRequested, this, &MainWindow::EditServers);
+    connect(m_pCalls, &CallPanel::Chosen, this, &MainWindow::Choose);
+    connect(m_pCalls, &CallPanel::Activated, this, [this] { FocusFirst(m_pForm); });
+    connect(m_pHeader, &CallHeader::FavouriteToggled, this, &MainWindow::ToggleFavourite);
+    connect(m_pForm, &ArgumentForm::Changed, this, &MainWindow::UpdateRunBar);
+    connect(m_pRunBar, &RunBar::RunRequested, this, &MainWindow::Run);
+    connect(m_pTiming, &TimingView::RepeatRequested, this, &MainWindow::RepeatRun);
+    connect(m_pTiming, &TimingView::CancelRequested, &session.runner, &Runner::CancelRepeat);
+    connect(&session.runner, &Runner::Started, this, [this](const catalogue::Call* pCall) {
+        m_pRunBar->ShowPending(m_session.runner.Pending());
+        if (pCall == m_pCall && !m_session.runner.IsRepeating()) {
+            m_pResultHeader->ShowRunning(ShortName(*pCall));
+        }
+    });
+    connect(&session.runner, &Runner::Finished, this, &MainWindow::RunFinished);
+    connect(&session.runner, &Runner::RepeatProgress, m_pTiming, &TimingView::SetProgress);
+    connect(&session.runner, &Runner::RepeatEnded, this, [this] {
+        m_pTiming->SetProgress(1, 1);
+        m_pRunBar->ShowPending(m_session.runner.Pending());
+        if (m_pCall != nullptr) {
+            Choose(*m_pCall);
+        }
+    });
+    connect(&session.emulator, &EmulatorProcess::Failed, this, [this](const QString& why) {
+        m_bRunsWhenReady = false;
+        statusBar()->showMessage(tr("The emulator ended: %1").arg(why));
+    });
+    connect(&session.emulator, &EmulatorProcess::StateChanged, this, [this] {
+        if (m_bRunsWhenReady && m_session.IsReady()) {
+            Run();
+        }
+    });
+    connect(&session.tokens, &Tokens::Kept, this, [this](const QString& /*serverId*/, bool worked) {
+        statusBar()->showMessage(worked
+                                     ? tr("The token is in the desktop's secret service.")
+                                     : tr("There is no secret service here: the token is kept until the program ends."),
+                                 kStatusTime);
+    });
+    connect(&m_contract, &QFutureWatcher<Endpoints>::finished, this, [this] {
+        m_endpoints = m_contract.result();
+        m_pCalls->SetEndpoints(m_endpoints);
+        ShowHeader();
+    });
+
+    UpdateRunBar();
+    ReadState();
+    ReadContract();
+}
+
+MainWindow::~MainWindow()
+{
+    m_contract.waitForFinished();
+}
+
+void MainWindow::MakeLayout()
+{
+    auto* const pBar = addToolBar(tr("Server"));
+    pBar->setObjectName(QStringLiteral("serverBar"));
+    pBar->setMovable(false);
+    pBar->setContextMenuPolicy(Qt::PreventContextMenu);
+    m_pServerBar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    pBar->addWidget(m_pServerBar);
+
+    m_pCalls->layout()->setContentsMargins(12, 12, 12, 8);
+    m_pPanes->addWidget(m_pCalls);
+    m_pPanes->addWidget(MakeCallPane());
+    m_pPanes->addWidget(MakeResultPane());
+    m_pPanes->setStretchFactor(0, 3);
+    m_pPanes->setStretchFactor(1, 4);
+    m_pPanes->setStretchFactor(2, 7);
+    m_pRows->addWidget(m_pPanes);
+    m_pRows->addWidget(MakeFeeds());
+    m_pRows->setStretchFactor(0, 1);
+    setCentralWidget(m_pRows);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    statusBar()->setSizeGripEnabled(false);
+}
+
+QWidget* MainWindow::MakeCallPane()
+{
+    auto* const pPane = new QWidget;
+    auto* const pLayout = PaneLayout(pPane);
+    pLayout->addWidget(m_pHeader);
+    pLayout->addWidget(m_pForm, 1);
+    pLayout->addWidget(m_pRunBar);
+    return pPane;
+}
+
+QWidget* MainWindow::MakeResultPane()
+{
+    auto* const pTabs = new QTabWidget;
+    pTabs->setObjectName(QStringLiteral("results"));
+    pTabs->setDocumentMode(true);
+    pTabs->tabBar()->setObjectName(QLatin1String(kUnderlinedTabs));
+    pTabs->addTab(m_pResult, tr("Result"));
+    pTabs->addTab(m_pRequest, tr("Request"));
+    pTabs->addTab(m_pTiming, tr("Timing"));
+    auto* const pPane = new QWidget;
+    auto* const pLayout = PaneLayout(pPane);
+    pLayout->addWidget(m_pResultHeader);
+    pLayout->addWidget(pTabs, 1);
+    return pPane;
+}
+
+QWidget* MainWindow::MakeFeeds()
+{
+    m_pFeeds = new QTabWidget;
+    m_pFeeds->setObjectName(QStringLiteral("feeds"));
+    m_pFeeds->setDocumentMode(true);
+    m_pFeeds->tabBar()->setObjectName(QLatin1String(kUnderlinedTabs));
+    m_pFeeds->addTab(new FeedPanel(m_session.log, FeedPanel::Log), tr("Log"));
+    m_pFeeds->addTab(new FeedPanel(m_session.notifications, FeedPanel::Notifications), tr("Notifications"));
+    return m_pFeeds;
+}
+
+void MainWindow::MakeMenus()
+{
+    MakeCallMenu();
+    MakeServerMenu();
+    MakeViewMenu();
+    MakeHelpMenu();
+}
+
+void MainWindow::MakeCallMenu()
+{
+    QMenu* const pMenu = menuBar()->addMenu(tr("&Call"));
+    QAction* const pRun = pMenu->addAction(tr("&Run"), this, &MainWindow::Run);
+    pRun->setShortcuts({Qt::Key_F5, QKeySequence(Qt::CTRL + Qt::Key_Return)});
+    pMenu->addAction(tr("&Find a call"), m_pCalls, &CallPanel::FocusFilter, QKeySequence::Find);
+    pMenu->addAction(
+        tr("Favourite &on or off"), this,
+        [this] {
+            if (m_pCall != nullptr) {
+                ToggleFavourite(!m_pCalls->IsFavourite(*m_pCall));
+            }
+        },
+        Qt::CTRL + Qt::Key_D);
+    pMenu->addSeparator();
+    QAction* const pRecord = pMenu->addAction(tr("Record what goes over the &wire"), this, [this](bool on) {
+        m_session.tap.SetOn(on);
+        m_session.settings.setValue(QLatin1String(kRecordKey), on);
+    });
+    pRecord->setCheckable(true);
+    pRecord->setToolTip(tr("Passes the calls through a recorder in this program"));
+    const bool records = m_session.settings.value(QLatin1String(kRecordKey), true).toBool();
+    m_session.tap.SetOn(records);
+    pRecord->setChecked(m_session.tap.IsOn());
+    pMenu->addSeparator();
+    pMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+}
+
+void MainWindow::MakeServerMenu()
+{
+    QMenu* const pMenu = menuBar()->addMenu(tr("&Server"));
+    pMenu->addAction(tr("&Choose"), m_pServerBar, &ServerBar::FocusServers, Qt::CTRL + Qt::Key_L);
+    pMenu->addAction(tr("&Edit…"), this, &MainWindow::EditServers, Qt::CTRL + Qt::Key_E);
+    pMenu->addAction(tr("Give the &token…"), this, &MainWindow::AskForToken);
+    pMenu->addSeparator();
+    pMenu->addAction(tr("&Start the emulator"), &m_session.emulator, &EmulatorProcess::Start);
+    pMenu->addAction(tr("St&op the emulator"), &m_session.emulator, &EmulatorProcess::Stop);
+}
+
+void MainWindow::MakeViewMenu()
+{
+    QMenu* const pMenu = menuBar()->addMenu(tr("&View"));
+    MakeAppearanceMenu(pMenu->addMenu(tr("&Appearance")));
+    MakeLanguageMenu(pMenu->addMenu(tr("&Language")));
+    pMenu->addSeparator();
+    QAction* const pFeeds = pMenu->addAction(tr("&Log and notifications"), m_pFeeds, &QWidget::setVisible);
+    pFeeds->setCheckable(true);
+    pFeeds->setChecked(m_session.settings.value(QLatin1String(kFeedsKey), true).toBool());
+    m_pFeeds->setVisible(pFeeds->isChecked());
+    pFeeds->setShortcut(Qt::Key_F8);
+    connect(pFeeds, &QAction::toggled, this,
+            [this](bool on) { m_session.settings.setValue(QLatin1String(kFeedsKey), on); });
+    pMenu->addAction(tr("&Next pane"), this, &MainWindow::FocusNextPane, Qt::Key_F6);
+}
+
+void MainWindow::FocusNextPane()
+{
+    const QList<QWidget*> panes{m_pCalls, m_pPanes->widget(1), m_pPanes->widget(2), m_pFeeds};
+    const auto holdsFocus = [](const QWidget* pPane) { return pPane->isAncestorOf(QApplication::focusWidget()); };
+    auto pane = std::find_if(panes.cbegin(), panes.cend(), holdsFocus);
+    do {
+        pane = pane == panes.cend() || pane + 1 == panes.cend() ? panes.cbegin() : pane + 1;
+    } while (!(*pane)->isVisible());
+    FocusFirst(*pane);
+}
+
+void MainWindow::MakeAppearanceMenu(QMenu* pMenu)
+{
+    auto* const pGroup = new QActionGroup(this);
+    const Appearance stored = StoredAppearance(m_session.settings);
+    const QPair<Appearance, QString> choices[] = {{Appearance::System, tr("As the &desktop")},
+                                                  {Appearance::Light, tr("&Light")},
+                                                  {Appearance::Dark, tr("D&ark")}};
+    for (const auto& choice : choices) {
+        const Appearance appearance = choice.first;
+        QAction* const pAction = pMenu->addAction(choice.second, this, [this, appearance] {
+            StoreAppearance(m_session.settings, appearance);
+            ApplyAppearance(appearance);
+        });
+        pAction->setCheckable(true);
+        pAction->setChecked(appearance == stored);
+        pGroup->addAction(pAction);
+    }
+}
+
+void MainWindow::MakeLanguageMenu(QMenu* pMenu)
+{
+    auto* const pGroup = new QActionGroup(this);
+    const QString stored = StoredLanguage(m_session.settings);
+    const QPair<QString, QString> choices[] = {{QStringLiteral("en"), QStringLiteral("&English")},
+                                               {QStringLiteral("de"), QStringLiteral("&Deutsch")},
+                                               {QStringLiteral("zh"), QStringLiteral("中文 (&Z)")}};
+    for (const auto& choice : choices) {
+        const QString language = choice.first;
+        QAction* const pAction =
+            pMenu->addAction(choice.second, this, [this, language] { emit LanguageChosen(language); });
+        pAction->setCheckable(true);
+        pAction->setChecked(language == stored);
+        pGroup->addAction(pAction);
+    }
+}
+
+void MainWindow::MakeHelpMenu()
+{
+    QMenu* const pMenu = menuBar()->addMenu(tr("&Help"));
+    pMenu->addAction(tr("&About"), this, [this] {
+        QMessageBox::about(this, tr("About APIModule Explorer"),
+                           tr("<h3>APIModule Explorer %1</h3><p>Every call of the library from a window: a host with a "
+                              "user manager, wait dialog, notifications and logs.</p>")
+                               .arg(QApplication::applicationVersion()));
+    });
+    pMenu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
+}
+
+void MainWindow::ReadState()
+{
+    constexpr QSize kSize(1280, 800);
+    resize(kSize);
+    m_pPanes->setSizes({300, 380, 600});
+    m_pRows->setSizes({560, 180});
+    QSettings& settings = m_session.settings;
+    restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
+    m_pPanes->restoreState(settings.value(QLatin1String(kPanesKey)).toByteArray());
+    m_pRows->restoreState(settings.value(QLatin1String(kRowsKey)).toByteArray());
+    const std::string name = settings.value(QLatin1String(kCallKey)).toString().toStdString();
+    if (const catalogue::Call* pCall = catalogue::FindCall(name)) {
+        m_pCalls->Select(*pCall);
+    }
+}
+
+void MainWindow::ReadContract()
+{
+    // After the window is on the screen; the calls can be used meanwhile.
+    QMetaObject::invokeMethod(
+        this, [this] { m_contract.setFuture(QtConcurrent::run([] { return ReadEndpoints(DefaultContract()); })); },
+        Qt::QueuedConnection);
+}
+
+void MainWindow::SaveState()
+{
+    QSettings& settings = m_session.settings;
+    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
+    settings.setValue(QLatin1String(kPanesKey), m_pPanes->saveState());
+    settings.setValue(QLatin1String(kRowsKey), m_pRows->saveState());
+}
+
+void MainWindow::closeEvent(QCloseEvent* pEvent)
+{
+    SaveState();
+    m_session.runner.CancelRepeat();
+    QMainWindow::closeEvent(pEvent);
+}
+
+void MainWindow::SelectCall(const catalogue::Call& call)
+{
+    m_pCalls->Select(call);
+}
+
+void MainWindow::Choose(const catalogue::Call& call)
+{
+    const bool isOther = m_pCall != &call;
+    m_pCall = &call;
+    const QString name = QString::fromStdString(call.name);
+    if (isOther) {
+        m_session.settings.setValue(QLatin1String(kCallKey), name);
+        m_pForm->SetCall(call);
+        const QByteArray lastUse = m_session.settings.value(ArgumentsKey(call)).toByteArray();
+        m_pForm->SetArguments(QJsonDocument::fromJson(lastUse).object());
+        ShowHeader();
+        UpdateRunBar();
+    }
+    const auto outcome = m_outcomes.constFind(name);
+    if (outcome != m_outcomes.cend()) {
+        ShowOutcome(*outcome);
+    } else {
+        m_pResultHeader->Clear();
+        m_pResult->Clear();
+        m_pRequest->Clear();
+    }
+}
+
+void MainWindow::ShowHeader()
+{
+    if (m_pCall != nullptr) {
+        m_pHeader->Show(*m_pCall, m_endpoints.value(QString::fromStdString(m_pCall->name)),
+                        m_pCalls->IsFavourite(*m_pCall));
+    }
+}
+
+void MainWindow::ToggleFavourite(bool favourite)
+{
+    m_pCalls->SetFavourite(*m_pCall, favourite);
+    ShowHeader();
+}
+
+void MainWindow::UpdateRunBar()
+{
+    m_pTiming->SetRepeatEnabled(m_pForm->IsValid());
+    m_pRunBar->SetReady(m_pForm->IsValid(),
+                        m_pCall == nullptr ? tr("Choose a call first") : tr("An argument holds no value of its type"));
+}
+
+void MainWindow::EditServers()
+{
+    auto* const pDialog = new ServersDialog(m_session.servers, m_session.tokens, this);
+    pDialog->setAttribute(Qt::WA_DeleteOnClose);
+    pDialog->open();
+}
+
+void MainWindow::AskForToken()
+{
+    const Server server = m_session.servers.Current();
+    if (m_session.servers.IsEmulator()) {
+        statusBar()->showMessage(tr("The emulator gets a fresh token with each start."), kStatusTime);
+        return;
+    }
+    auto* const pDialog = new TokenDialog(server.name, this);
+    pDialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(pDialog, &QDialog::accepted, this, [this, pDialog, id = server.id] {
+        m_session.tokens.Set(id, pDialog->Token(), pDialog->Keep());
+        if (m_bRunsWhenReady) {
+            Run();
+        }
+    });
+    connect(pDialog, &QDialog::rejected, this, [this] { m_bRunsWhenReady = false; });
+    pDialog->open();
+}
+
+std::optional<RunOrder> MainWindow::Order()
+{
+    m_bRunsWhenReady = false;
+    if (m_pCall == nullptr || !m_pForm->IsValid()) {
+        return std::nullopt;
+    }
+    if (!m_session.IsReady()) {
+        m_bRunsWhenReady = true;
+        m_session.emulator.Start();
+        return std::nullopt;
+    }
+    if (!m_session.CurrentToken()) {
+        m_bRunsWhenReady = true;
+        AskForToken();
+        return std::nullopt;
+    }
+    const QJsonObject arguments = m_pForm->Arguments();
+    m_session.settings.setValue(ArgumentsKey(*m_pCall), QJsonDocument(arguments).toJson(QJsonDocument::Compact));
+    return RunOrder{m_pCall, arguments, m_session.servers.Current(), m_pRunBar->TimeoutSeconds(), {}};
+}
+
+void MainWindow::Run()
+{
+    if (std::optional<RunOrder> order = Order()) {
+        if (m_pRunBar->UsesWaitDialog()) {
+            order->parent = this;
+        }
+        m_session.runner.Order(*order);
+    }
+}
+
+void MainWindow::RepeatRun(int count)
+{
+    if (const std::optional<RunOrder> order = Order()) {
+        m_session.runner.Repeat(*order, count);
+    }
+}
+
+void MainWindow::RunFinished(const CallOutcome& outcome)
+{
+    m_outcomes.insert(QString::fromStdString(outcome.call->name), outcome);
+    m_pRunBar->ShowPending(m_session.runner.Pending());
+    m_pCalls->Used(*outcome.call);
+    m_pTiming->Add(outcome);
+    if (outcome.call != m_pCall) {
+        statusBar()->showMessage(QStringLiteral("%1: %2").arg(ShortName(*outcome.call), outcome.resultText),
+                                 kStatusTime);
+    } else if (!m_session.runner.IsRepeating()) {
+        ShowOutcome(outcome);
+    }
+}
+
+void MainWindow::ShowOutcome(const CallOutcome& outcome)
+{
+    m_pResultHeader->Show(outcome);
+    m_pResult->Show(outcome);
+    m_pRequest->Show(outcome);
+}
+
+}  // namespace explorer

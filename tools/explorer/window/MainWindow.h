@@ -1,0 +1,99 @@
+#pragma once
+
+#include "../CallOutcome.h"
+#include "../core/CallIndex.h"
+#include "../core/Runner.h"
+
+#include <QFutureWatcher>
+#include <QHash>
+#include <QMainWindow>
+
+#include <optional>
+
+class QActionGroup;
+class QSplitter;
+class QTabWidget;
+
+namespace explorer {
+
+class ArgumentForm;
+class CallHeader;
+class CallPanel;
+class RequestView;
+class ResultHeader;
+class ResultView;
+class RunBar;
+class ServerBar;
+class Session;
+class TimingView;
+
+/// Every call of the library: choose it, fill it in, run it, see what came.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// @param session must outlive the window
+    explicit MainWindow(Session& session, QWidget* pParent = nullptr);
+    ~MainWindow() override;
+
+    void SelectCall(const catalogue::Call& call);
+    /// Runs the call that is shown with the arguments that are filled in.
+    void Run();
+    /// Places and sizes, for the next window.
+    void SaveState();
+
+signals:
+    /// Takes a new window.
+    void LanguageChosen(const QString& language);
+
+private:
+    void closeEvent(QCloseEvent* pEvent) override;
+
+    void MakeLayout();
+    [[nodiscard]] QWidget* MakeCallPane();
+    [[nodiscard]] QWidget* MakeResultPane();
+    [[nodiscard]] QWidget* MakeFeeds();
+    void MakeMenus();
+    void MakeCallMenu();
+    void MakeServerMenu();
+    void MakeViewMenu();
+    void FocusNextPane();
+    void MakeAppearanceMenu(QMenu* pMenu);
+    void MakeLanguageMenu(QMenu* pMenu);
+    void MakeHelpMenu();
+    void ReadState();
+    void ReadContract();
+
+    void Choose(const catalogue::Call& call);
+    void ShowHeader();
+    void UpdateRunBar();
+    void EditServers();
+    void AskForToken();
+    /// Nothing while something is missing that was asked for, or that is about to come.
+    [[nodiscard]] std::optional<RunOrder> Order();
+    void RepeatRun(int count);
+    void RunFinished(const CallOutcome& outcome);
+    void ShowOutcome(const CallOutcome& outcome);
+    void ToggleFavourite(bool favourite);
+
+    Session& m_session;
+    Endpoints m_endpoints;
+    QFutureWatcher<Endpoints> m_contract;
+    QHash<QString, CallOutcome> m_outcomes;  // the last of each call
+    const catalogue::Call* m_pCall = nullptr;
+    bool m_bRunsWhenReady = false;
+    ServerBar* m_pServerBar;
+    CallPanel* m_pCalls;
+    CallHeader* m_pHeader;
+    ArgumentForm* m_pForm;
+    RunBar* m_pRunBar;
+    ResultHeader* m_pResultHeader;
+    ResultView* m_pResult;
+    RequestView* m_pRequest;
+    TimingView* m_pTiming;
+    QTabWidget* m_pFeeds = nullptr;
+    QSplitter* m_pPanes;
+    QSplitter* m_pRows;
+};
+
+}  // namespace explorer

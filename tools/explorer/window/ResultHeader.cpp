@@ -1,0 +1,102 @@
+#include "ResultHeader.h"
+
+#include "../views/Theme.h"
+
+#include <QGridLayout>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QPixmap>
+
+namespace explorer {
+namespace {
+
+/// What the server said of the failure, in its own words.
+QString ServersWords(const CallOutcome& outcome)
+{
+    if (!outcome.reply || outcome.succeeded) {
+        return {};
+    }
+    return QJsonDocument::fromJson(outcome.reply->body).object().value(QLatin1String("desc")).toString();
+}
+
+}  // namespace
+
+ResultHeader::ResultHeader(QWidget* pParent)
+    : QWidget(pParent), m_pLight(new QLabel), m_pWords(new QLabel), m_pDetails(new QLabel)
+{
+    m_pWords->setObjectName(QStringLiteral("resultWords"));
+    QFont font = m_pWords->font();
+    font.setBold(true);
+    m_pWords->setFont(font);
+    m_pWords->setWordWrap(true);
+    m_pWords->setTextFormat(Qt::PlainText);
+    m_pWords->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pDetails->setObjectName(QStringLiteral("resultDetails"));
+    m_pDetails->setWordWrap(true);
+    m_pDetails->setTextFormat(Qt::PlainText);
+    m_pDetails->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* const pLayout = new QGridLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setHorizontalSpacing(8);
+    pLayout->setVerticalSpacing(4);
+    pLayout->setColumnStretch(1, 1);
+    pLayout->addWidget(m_pLight, 0, 0);
+    pLayout->addWidget(m_pWords, 0, 1);
+    pLayout->addWidget(m_pDetails, 1, 1);
+    Clear();
+}
+
+void ResultHeader::ShowLight(const QColor& colour)
+{
+    constexpr int kSize = 10;
+    const qreal ratio = devicePixelRatioF();
+    QPixmap light(QSize(kSize, kSize) * ratio);
+    light.setDevicePixelRatio(ratio);
+    light.fill(Qt::transparent);
+    QPainter painter(&light);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(QRectF(0.5, 0.5, kSize - 1, kSize - 1));
+    painter.end();
+    m_pLight->setPixmap(light);
+}
+
+void ResultHeader::Show(const CallOutcome& outcome)
+{
+    ShowLight(outcome.succeeded ? theme::Succeeded(palette()) : theme::Error(palette()));
+    m_pWords->setText(outcome.resultText);
+
+    QStringList details{tr("Result %1").arg(outcome.result)};
+    if (outcome.reply && outcome.reply->status >= 0) {
+        details.append(tr("HTTP %1").arg(outcome.reply->status));
+    }
+    details.append(tr("%1 ms").arg(QLocale().toString(outcome.elapsedMilliseconds, 'f', 1)));
+    details.append(outcome.server);
+    details.append(QLocale().toString(outcome.started.time(), QStringLiteral("HH:mm:ss")));
+    QString text = details.join(QStringLiteral("  ·  "));
+    const QString words = ServersWords(outcome);
+    if (!words.isEmpty()) {
+        text += QLatin1Char('\n') + tr("The server says: %1").arg(words);
+    }
+    m_pDetails->setText(text);
+}
+
+void ResultHeader::ShowRunning(const QString& name)
+{
+    ShowLight(palette().color(QPalette::Highlight));
+    m_pWords->setText(tr("%1 is running").arg(name));
+    m_pDetails->setText(tr("Waiting for the server"));
+}
+
+void ResultHeader::Clear()
+{
+    ShowLight(palette().color(QPalette::Mid));
+    m_pWords->setText(tr("Not run yet"));
+    m_pDetails->setText(tr("Result and time of the run appear here."));
+}
+
+}  // namespace explorer

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "../CallOutcome.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace explorer {
+
+/// How a run ended: in words, with its number and the time it took.
+class ResultHeader : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ResultHeader(QWidget* pParent = nullptr);
+
+    void Show(const CallOutcome& outcome);
+    void ShowRunning(const QString& name);
+    void Clear();
+
+private:
+    void ShowLight(const QColor& colour);
+
+    QLabel* m_pLight;
+    QLabel* m_pWords;
+    QLabel* m_pDetails;
+};
+
+}  // namespace explorer

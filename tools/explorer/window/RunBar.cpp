@@ -1,0 +1,91 @@
+#include "RunBar.h"
+
+#include "Icons.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QSpinBox>
+
+namespace explorer {
+namespace {
+
+constexpr const char* kWaitDialogKey = "run/waitDialog";
+constexpr const char* kTimeoutKey = "run/timeoutSeconds";
+constexpr int kLongestTimeout = 3600;
+
+}  // namespace
+
+RunBar::RunBar(QSettings& settings, QWidget* pParent)
+    : QWidget(pParent), m_settings(settings), m_pRun(new QPushButton(tr("Run"))), m_pWait(new QComboBox),
+      m_pTimeout(new QSpinBox), m_pState(new QLabel)
+{
+    m_pRun->setObjectName(QStringLiteral("run"));
+    m_pRun->setToolTip(tr("Run the call (F5)"));
+    m_pRun->setDefault(true);
+    connect(m_pRun, &QPushButton::clicked, this, &RunBar::RunRequested);
+
+    m_pWait->setObjectName(QStringLiteral("wait"));
+    m_pWait->addItem(tr("Behind the wait dialog"), true);
+    m_pWait->addItem(tr("In the event loop, input goes on"), false);
+    m_pWait->setCurrentIndex(settings.value(QLatin1String(kWaitDialogKey), true).toBool() ? 0 : 1);
+    m_pWait->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* const pWaitLabel = new QLabel(tr("&Wait"));
+    pWaitLabel->setBuddy(m_pWait);
+
+    m_pTimeout->setObjectName(QStringLiteral("timeout"));
+    m_pTimeout->setRange(0, kLongestTimeout);
+    m_pTimeout->setSpecialValueText(tr("The call's own"));
+    m_pTimeout->setSuffix(tr(" s"));
+    m_pTimeout->setValue(settings.value(QLatin1String(kTimeoutKey), 0).toInt());
+    auto* const pTimeoutLabel = new QLabel(tr("T&ime-out"));
+    pTimeoutLabel->setBuddy(m_pTimeout);
+
+    m_pState->setObjectName(QStringLiteral("runState"));
+    m_pState->setForegroundRole(QPalette::PlaceholderText);
+    m_pState->setWordWrap(true);
+
+    auto* const pLayout = new QGridLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setHorizontalSpacing(8);
+    pLayout->setColumnStretch(1, 1);
+    pLayout->addWidget(pWaitLabel, 0, 0);
+    pLayout->addWidget(m_pWait, 0, 1, 1, 2);
+    pLayout->addWidget(pTimeoutLabel, 1, 0);
+    pLayout->addWidget(m_pTimeout, 1, 1);
+    pLayout->addWidget(m_pRun, 1, 2);
+    pLayout->addWidget(m_pState, 2, 0, 1, 3);
+    m_pState->hide();
+}
+
+RunBar::~RunBar()
+{
+    m_settings.setValue(QLatin1String(kWaitDialogKey), UsesWaitDialog());
+    m_settings.setValue(QLatin1String(kTimeoutKey), m_pTimeout->value());
+}
+
+bool RunBar::UsesWaitDialog() const
+{
+    return m_pWait->currentData().toBool();
+}
+
+std::optional<int> RunBar::TimeoutSeconds() const
+{
+    return m_pTimeout->value() == 0 ? std::nullopt : std::optional<int>(m_pTimeout->value());
+}
+
+void RunBar::SetReady(bool ready, const QString& why)
+{
+    m_pRun->setEnabled(ready);
+    m_pRun->setToolTip(ready ? tr("Run the call (F5)") : why);
+}
+
+void RunBar::ShowPending(int calls)
+{
+    m_pState->setText(tr("%n call(s) waiting for the server", nullptr, calls));
+    m_pState->setVisible(calls > 0);
+}
+
+}  // namespace explorer

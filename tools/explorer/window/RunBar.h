@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QWidget>
+
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSettings;
+class QSpinBox;
+
+namespace explorer {
+
+/// How a call is run, and the button that runs it.
+class RunBar : public QWidget {
+    Q_OBJECT
+
+public:
+    /// @param settings keeps the choices; must outlive the bar
+    explicit RunBar(QSettings& settings, QWidget* pParent = nullptr);
+    ~RunBar() override;
+
+    /// Behind the wait dialog; else the event loop waits and input goes on.
+    [[nodiscard]] bool UsesWaitDialog() const;
+    /// Nothing for the call's own.
+    [[nodiscard]] std::optional<int> TimeoutSeconds() const;
+
+    void SetReady(bool ready, const QString& why);
+    void ShowPending(int calls);
+
+signals:
+    void RunRequested();
+
+private:
+    QSettings& m_settings;
+    QPushButton* m_pRun;
+    QComboBox* m_pWait;
+    QSpinBox* m_pTimeout;
+    QLabel* m_pState;
+};
+
+}  // namespace explorer

@@ -1,0 +1,243 @@
+#include "ServersDialog.h"
+
+#include "Icons.h"
+
+#include "../core/Tokens.h"
+#include "../views/Theme.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace explorer {
+namespace {
+
+constexpr int kHttpsPort = 443;
+constexpr int kHttpPort = 80;
+constexpr int kHighestPort = 65535;
+
+/// An IPv6 address stands in brackets, in requests as here.
+bool IsHost(const QString& text)
+{
+    const QUrl url(QStringLiteral("http://%1:80/").arg(text), QUrl::StrictMode);
+    return url.isValid() && !url.host().isEmpty() && url.userInfo().isEmpty() && url.path() == QLatin1String("/") &&
+           url.port() == kHttpPort;
+}
+
+}  // namespace
+
+ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
+    : QDialog(pParent), m_servers(servers), m_tokens(tokens), m_edited(servers.All()), m_pList(new QListWidget),
+      m_pRemove(new QToolButton), m_pName(new QLineEdit), m_pScheme(new QComboBox), m_pHost(new QLineEdit),
+      m_pPort(new QSpinBox), m_pToken(new QLineEdit), m_pLanguage(new QComboBox), m_pProblem(new QLabel),
+      m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
+{
+    setWindowTitle(tr("Servers"));
+    setObjectName(QStringLiteral("serversDialog"));
+    connect(m_pButtons, &QDialogButtonBox::accepted, this, &ServersDialog::accept);
+    connect(m_pButtons, &QDialogButtonBox::rejected, this, &ServersDialog::reject);
+
+    auto* const pPanes = new QHBoxLayout;
+    pPanes->setSpacing(16);
+    pPanes->addWidget(MakeList(), 2);
+    pPanes->addWidget(MakeForm(), 3);
+    auto* const pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(16, 16, 16, 16);
+    pLayout->setSpacing(12);
+    pLayout->addLayout(pPanes);
+    pLayout->addWidget(m_pButtons);
+    m_pList->setCurrentRow(m_servers.CurrentIndex());
+    constexpr QSize kSize(640, 360);
+    resize(kSize);
+}
+
+QWidget* ServersDialog::MakeList()
+{
+    m_pList->setObjectName(QStringLiteral("serverList"));
+    m_pList->setAccessibleName(tr("Servers"));
+    for (const Server& server : qAsConst(m_edited)) {
+        m_pList->addItem(server.name);
+    }
+    connect(m_pList, &QListWidget::currentRowChanged, this, &ServersDialog::ShowServer);
+
+    auto* const pAdd = new QToolButton;
+    pAdd->setObjectName(QStringLiteral("addServer"));
+    pAdd->setIcon(Icon("add"));
+    pAdd->setText(tr("Add"));
+    pAdd->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(pAdd, &QToolButton::clicked, this, &ServersDialog::Add);
+    m_pRemove->setObjectName(QStringLiteral("removeServer"));
+    m_pRemove->setIcon(Icon("remove"));
+    m_pRemove->setText(tr("Remove"));
+    m_pRemove->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(m_pRemove, &QToolButton::clicked, this, &ServersDialog::Remove);
+
+    auto* const pBar = new QHBoxLayout;
+    pBar->addWidget(pAdd);
+    pBar->addWidget(m_pRemove);
+    pBar->addStretch();
+    auto* const pPane = new QWidget;
+    auto* const pLayout = new QVBoxLayout(pPane);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pList);
+    pLayout->addLayout(pBar);
+    return pPane;
+}
+
+QWidget* ServersDialog::MakeForm()
+{
+    m_pName->setObjectName(QStringLiteral("serverName"));
+    m_pHost->setObjectName(QStringLiteral("serverHost"));
+    m_pHost->setPlaceholderText(tr("Host name or IP address"));
+    m_pPort->setObjectName(QStringLiteral("serverPort"));
+    m_pPort->setRange(1, kHighestPort);
+    m_pScheme->setObjectName(QStringLiteral("serverScheme"));
+    m_pScheme->addItem(QStringLiteral("https"), true);
+    m_pScheme->addItem(QStringLiteral("http"), false);
+    m_pToken->setObjectName(QStringLiteral("serverToken"));
+    m_pToken->setEchoMode(QLineEdit::Password);
+    m_pToken->setPlaceholderText(tr("Unchanged"));
+    m_pLanguage->setObjectName(QStringLiteral("serverLanguage"));
+    m_pLanguage->setEditable(true);
+    m_pLanguage->addItems({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh")});
+    m_pLanguage->setToolTip(tr("Language that the server is asked to answer in"));
+    QPalette alarming = m_pProblem->palette();
+    alarming.setColor(QPalette::WindowText, theme::Error(alarming));
+    m_pProblem->setPalette(alarming);
+    m_pProblem->setWordWrap(true);
+
+    connect(m_pName, &QLineEdit::textEdited, this, [this](const QString& name) {
+        m_pList->currentItem()->setText(name);
+        TakeOver();
+    });
+    connect(m_pHost, &QLineEdit::textEdited, this, &ServersDialog::TakeOver);
+    connect(m_pToken, &QLineEdit::textEdited, this,
+            [this](const QString& token) { m_newTokens.insert(m_edited.at(m_shown).id, token); });
+    connect(m_pPort, qOverload<int>(&QSpinBox::valueChanged), this, &ServersDialog::TakeOver);
+    connect(m_pLanguage, &QComboBox::editTextChanged, this, &ServersDialog::TakeOver);
+    connect(m_pScheme, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
+        const bool https = m_pScheme->currentData().toBool();
+        if (m_pPort->value() == (https ? kHttpPort : kHttpsPort)) {
+            m_pPort->setValue(https ? kHttpsPort : kHttpPort);
+        }
+        TakeOver();
+    });
+
+    auto* const pPane = new QWidget;
+    auto* const pForm = new QFormLayout(pPane);
+    pForm->setContentsMargins(0, 0, 0, 0);
+    pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    pForm->addRow(tr("&Name"), m_pName);
+    pForm->addRow(tr("&Scheme"), m_pScheme);
+    pForm->addRow(tr("&Host"), m_pHost);
+    pForm->addRow(tr("&Port"), m_pPort);
+    pForm->addRow(tr("&Token"), m_pToken);
+    pForm->addRow(tr("&Language"), m_pLanguage);
+    pForm->addRow(m_pProblem);
+    return pPane;
+}
+
+void ServersDialog::Add()
+{
+    m_edited.append(Servers::Fresh(tr("New server")));
+    m_pList->addItem(m_edited.last().name);
+    m_pList->setCurrentRow(m_edited.size() - 1);
+    m_pName->setFocus();
+    m_pName->selectAll();
+}
+
+void ServersDialog::Remove()
+{
+    const int index = m_shown;
+    m_newTokens.remove(m_edited.at(index).id);
+    m_edited.remove(index);
+    m_shown = -1;  // its row goes
+    delete m_pList->takeItem(index);
+    ShowServer(m_pList->currentRow());
+}
+
+void ServersDialog::ShowServer(int index)
+{
+    if (index < 0 || index >= m_edited.size()) {
+        return;
+    }
+    m_shown = -1;  // what the fields tell meanwhile is no edit
+    const Server server = m_edited.at(index);
+    const bool isEmulator = server.id == kEmulatorId;
+    m_pName->setText(server.name);
+    m_pHost->setText(server.host);
+    m_pPort->setMinimum(isEmulator ? 0 : 1);
+    m_pPort->setSpecialValueText(isEmulator ? tr("any free one") : QString());
+    m_pPort->setValue(server.port);
+    m_pScheme->setCurrentIndex(server.https ? 0 : 1);
+    m_pLanguage->setEditText(server.language);
+    m_pToken->setText(m_newTokens.value(server.id));
+    m_pToken->setPlaceholderText(isEmulator                 ? tr("A fresh one for each start")
+                                 : m_tokens.Find(server.id) ? tr("Unchanged")
+                                                            : tr("Asked for when it is needed"));
+    for (QWidget* const pWidget : std::initializer_list<QWidget*>{m_pName, m_pHost, m_pPort, m_pToken, m_pRemove}) {
+        pWidget->setEnabled(!isEmulator);
+    }
+    m_shown = index;
+    Check();
+}
+
+void ServersDialog::TakeOver()
+{
+    if (m_shown < 0) {
+        return;
+    }
+    Server& server = m_edited[m_shown];
+    server.name = m_pName->text().trimmed();
+    server.host = m_pHost->text().trimmed();
+    server.port = m_pPort->value();
+    server.https = m_pScheme->currentData().toBool();
+    server.language = m_pLanguage->currentText().trimmed();
+    Check();
+}
+
+void ServersDialog::Check()
+{
+    QString problem;
+    for (const Server& server : qAsConst(m_edited)) {
+        if (server.name.isEmpty()) {
+            problem = tr("A server needs a name.");
+        } else if (!IsHost(server.host)) {
+            problem = tr("“%1” needs a host name or an IP address (IPv6 in brackets).").arg(server.name);
+        } else if (server.language.isEmpty()) {
+            problem = tr("“%1” needs a language.").arg(server.name);
+        }
+    }
+    m_pProblem->setText(problem);
+    m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty());
+}
+
+void ServersDialog::accept()
+{
+    const QVector<Server> before = m_servers.All();
+    for (const Server& server : before) {
+        const bool stays = std::any_of(m_edited.cbegin(), m_edited.cend(),
+                                       [&server](const Server& edited) { return edited.id == server.id; });
+        if (!stays) {
+            m_tokens.Forget(server.id);
+        }
+    }
+    m_servers.Replace(m_edited);
+    for (auto token = m_newTokens.cbegin(); token != m_newTokens.cend(); ++token) {
+        constexpr bool kKeep = true;
+        m_tokens.Set(token.key(), token.value(), kKeep);
+    }
+    QDialog::accept();
+}
+
+}  // namespace explorer

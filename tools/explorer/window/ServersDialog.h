@@ -1,0 +1,55 @@
+#pragma once
+
+#include "../core/Servers.h"
+
+#include <QDialog>
+#include <QHash>
+
+class QComboBox;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QSpinBox;
+class QToolButton;
+
+namespace explorer {
+
+class Tokens;
+
+/// Edits the named servers and their tokens. Nothing changes until it is accepted.
+class ServersDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent = nullptr);
+
+    void accept() override;
+
+private:
+    [[nodiscard]] QWidget* MakeList();
+    [[nodiscard]] QWidget* MakeForm();
+    void Add();
+    void Remove();
+    void ShowServer(int index);
+    void TakeOver();
+    void Check();
+
+    Servers& m_servers;
+    Tokens& m_tokens;
+    QVector<Server> m_edited;
+    QHash<QString, QString> m_newTokens;
+    int m_shown = -1;
+    QListWidget* m_pList;
+    QToolButton* m_pRemove;
+    QLineEdit* m_pName;
+    QComboBox* m_pScheme;
+    QLineEdit* m_pHost;
+    QSpinBox* m_pPort;
+    QLineEdit* m_pToken;
+    QComboBox* m_pLanguage;
+    QLabel* m_pProblem;
+    QDialogButtonBox* m_pButtons;
+};
+
+}  // namespace explorer

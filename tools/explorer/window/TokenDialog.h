@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+class QCheckBox;
+class QLineEdit;
+
+namespace explorer {
+
+/// Asks for the session token of a server.
+class TokenDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit TokenDialog(const QString& serverName, QWidget* pParent = nullptr);
+
+    [[nodiscard]] QString Token() const;
+    /// Whether the desktop's secret service is to keep it.
+    [[nodiscard]] bool Keep() const;
+
+private:
+    QLineEdit* m_pToken;
+    QCheckBox* m_pKeep;
+};
+
+}  // namespace explorer
