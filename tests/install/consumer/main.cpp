@@ -1,6 +1,7 @@
-// A client's first record: the time settings of a platform emulator that runs in this process.
-#include <APIModule.h>
-#include <BRMS/BRMSModule.h>
+// A client's first record: the time settings of a platform emulator that runs in this process, read by the call that the
+// manual begins with.
+#include "first_call.h"
+
 #include <emulator/PlatformEmulator.h>
 
 #include <QApplication>
@@ -45,14 +46,9 @@ int Run()
     platform.start();
     OneServer userManager(platform.httpsPort());
 
-    APIModule::CAPIModule& api = APIModule::CAPIModule::GetInstance();
-    api.Init(&userManager);
     APIModule::TimeSyncConfig config;
-    const int result = api.ExecuteFuncs(
-        [](void* request) { return APIModule::CBRMSModule::PacketGetTimeSyncConfig(request, -1); },
-        [&config](const QJsonObject& data) { return APIModule::CBRMSModule::ParseGetTimeSyncConfig(data, config); },
-        QStringLiteral("Reading the time settings failed"), nullptr, QString(), true, true);
-    api.UnInit();
+    const int result = ReadTimeSettings(userManager, nullptr, config);
+    APIModule::CAPIModule::GetInstance().UnInit();
     std::cout << "result " << result << ", time synchronisation every " << config.interval << '\n';
     return result == 0 && config.interval > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
