@@ -20,12 +20,20 @@ using APIModule::CCommonFunc;
 using testing_support::LogLines;
 using testing_support::LogRecorder;
 
+quint64 Bits(double number)
+{
+    quint64 bits = 0;
+    static_assert(sizeof(bits) == sizeof(number));
+    std::memcpy(&bits, &number, sizeof(bits));
+    return bits;
+}
+
 /// Bit by bit, so that no number equals another one and every not-a-number itself.
 template <typename T>
 bool AreSame(const T& left, const T& right)
 {
     if constexpr (std::is_same_v<T, double>) {
-        return std::memcmp(&left, &right, sizeof(left)) == 0;
+        return Bits(left) == Bits(right);
     } else {
         return left == right;
     }
