@@ -1,5 +1,6 @@
 #include "Certificate.h"
 
+#include <openssl/ec.h>
 #include <openssl/evp.h>
 #include <openssl/pem.h>
 #include <openssl/x509.h>
@@ -24,7 +25,7 @@ QByteArray Pem(Write write)
 
 Certificate MakeCertificate(const CertificateSubject& subject)
 {
-    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_RSA_gen(2048), &EVP_PKEY_free);
+    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
     const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), &X509_free);
     constexpr long kDay = 24L * 60 * 60;
     ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), 1);
@@ -41,7 +42,7 @@ Certificate MakeCertificate(const CertificateSubject& subject)
     const QByteArray keyPem =
         Pem([&](BIO* pBio) { PEM_write_bio_PrivateKey(pBio, key.get(), nullptr, nullptr, 0, nullptr, nullptr); });
     const QByteArray certificatePem = Pem([&](BIO* pBio) { PEM_write_bio_X509(pBio, certificate.get()); });
-    return {QSslCertificate(certificatePem), QSslKey(keyPem, QSsl::Rsa)};
+    return {QSslCertificate(certificatePem), QSslKey(keyPem, QSsl::Ec)};
 }
 
 }  // namespace testing_support

@@ -16,7 +16,7 @@ public:
     {
         m_thread = std::thread([this] {
             std::unique_lock<std::mutex> lock(m_mutex);
-            if (!m_done.wait_for(lock, std::chrono::seconds(60), [this] { return m_bDone; })) {
+            if (!m_done.wait_for(lock, std::chrono::seconds(120), [this] { return m_bDone; })) {
                 std::fputs("A wait did not end.\n", stderr);
                 std::abort();
             }
