@@ -138,8 +138,8 @@ void TimingChart::Draw()
 void TimingChart::Colour()
 {
     const QPalette colours = palette();
-    const QColor text = colours.color(QPalette::WindowText);
-    const QColor base = colours.color(QPalette::Base);
+    const QColor& text = colours.color(QPalette::WindowText);
+    const QColor& base = colours.color(QPalette::Base);
     setBackgroundBrush(colours.color(QPalette::Window));
     chart()->setBackgroundBrush(colours.color(QPalette::Window));
     chart()->setPlotAreaBackgroundBrush(base);
