@@ -59,7 +59,7 @@ struct CallOutcome {
     SentRequest request;
     std::optional<RawReply> reply;  ///< when traffic was recorded and an answer came
     QJsonObject data;               ///< what the library handed to the Parse; empty when it handed nothing
-    nlohmann::json record;          ///< as far as the Parse filled it; null for a call without one
+    nlohmann::json record;          ///< as far as the Parse filled it; null when it did not run
 };
 
 }  // namespace explorer

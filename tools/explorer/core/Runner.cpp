@@ -168,7 +168,11 @@ CallOutcome Runner::Run(const RunOrder& order)
             request.strIp = m_tap.NameFor(QString::fromStdString(request.strIp)).toStdString();
         }
     };
-    settings.onData = [&outcome](const QJsonObject& data) { outcome.data = data; };
+    bool hasData = false;
+    settings.onData = [&outcome, &hasData](const QJsonObject& data) {
+        outcome.data = data;
+        hasData = true;
+    };
 
     QElapsedTimer clock;
     clock.start();
@@ -179,7 +183,7 @@ CallOutcome Runner::Run(const RunOrder& order)
         outcome.elapsedMilliseconds = static_cast<double>(clock.nsecsElapsed()) / 1e6;
         outcome.result = ran.result;
         outcome.succeeded = ran.Succeeded();
-        outcome.record = ran.record;
+        outcome.record = hasData ? ran.record : nlohmann::json();
         outcome.resultText = Judge(ran, settings.caption);
     } catch (const catalogue::Mismatch& mismatch) {
         outcome.resultText = QString::fromUtf8(mismatch.what());

@@ -365,6 +365,14 @@
         <source>The emulator gets a fresh token with each start.</source>
         <translation>Der Emulator bekommt bei jedem Start ein neues Token.</translation>
     </message>
+    <message>
+        <source>Traffic is recorded</source>
+        <translation>Verkehr wird aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Traffic is not recorded</source>
+        <translation>Verkehr wird nicht aufgezeichnet</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NumberBox</name>
@@ -391,11 +399,6 @@
         <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
-    <message numerus="yes">
-        <source>%n element(s)</source>
-        <translation>
-            <numerusform>%n Element</numerusform><numerusform>%n Elemente</numerusform></translation>
-    </message>
     <message>
         <source>Name</source>
         <translation>Name</translation>
@@ -407,6 +410,10 @@
     <message>
         <source>Type</source>
         <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Elements: %1</source>
+        <translation>Elemente: %1</translation>
     </message>
 </context>
 <context>
@@ -427,16 +434,6 @@
         <source>&amp;Filter:</source>
         <translation>&amp;Filter:</translation>
     </message>
-    <message numerus="yes">
-        <source>%n row(s)</source>
-        <translation>
-            <numerusform>%n Zeile</numerusform><numerusform>%n Zeilen</numerusform></translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n row(s)</source>
-        <translation>
-            <numerusform>%1 von %n Zeile</numerusform><numerusform>%1 von %n Zeilen</numerusform></translation>
-    </message>
     <message>
         <source>Export the table</source>
         <translation>Tabelle exportieren</translation>
@@ -449,14 +446,17 @@
         <source>%1 cannot be written.</source>
         <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>Zeilen: %1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>explorer::RecordTableModel</name>
-    <message numerus="yes">
-        <source>%n element(s)</source>
-        <translation>
-            <numerusform>%n Element</numerusform><numerusform>%n Elemente</numerusform></translation>
-    </message>
     <message>
         <source>Value</source>
         <translation>Wert</translation>
@@ -547,14 +547,6 @@
 <context>
     <name>explorer::ResultView</name>
     <message>
-        <source>The record as JSON appears here.</source>
-        <translation>Hier erscheint der Datensatz als JSON.</translation>
-    </message>
-    <message>
-        <source>The reply appears here.</source>
-        <translation>Hier erscheint die Antwort.</translation>
-    </message>
-    <message>
         <source>The reply is not complete: the connection ended or the time was over before.</source>
         <translation>Die Antwort ist nicht vollständig: Vorher endete die Verbindung oder die Zeit war um.</translation>
     </message>
@@ -585,6 +577,18 @@
     <message>
         <source>There is no list in this record.</source>
         <translation>In diesem Datensatz ist keine Liste.</translation>
+    </message>
+    <message>
+        <source>There is no record.</source>
+        <translation>Es gibt keinen Datensatz.</translation>
+    </message>
+    <message>
+        <source>No reply was recorded.</source>
+        <translation>Keine Antwort wurde aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>No data came for a record.</source>
+        <translation>Es kamen keine Daten für einen Datensatz.</translation>
     </message>
 </context>
 <context>

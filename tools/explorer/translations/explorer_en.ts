@@ -10,35 +10,6 @@
     </message>
 </context>
 <context>
-    <name>explorer::RecordModel</name>
-    <message numerus="yes">
-        <source>%n element(s)</source>
-        <translation>
-            <numerusform>%n element</numerusform><numerusform>%n elements</numerusform></translation>
-    </message>
-</context>
-<context>
-    <name>explorer::RecordTable</name>
-    <message numerus="yes">
-        <source>%n row(s)</source>
-        <translation>
-            <numerusform>%n row</numerusform><numerusform>%n rows</numerusform></translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n row(s)</source>
-        <translation>
-            <numerusform>%1 of %n row</numerusform><numerusform>%1 of %n rows</numerusform></translation>
-    </message>
-</context>
-<context>
-    <name>explorer::RecordTableModel</name>
-    <message numerus="yes">
-        <source>%n element(s)</source>
-        <translation>
-            <numerusform>%n element</numerusform><numerusform>%n elements</numerusform></translation>
-    </message>
-</context>
-<context>
     <name>explorer::RunBar</name>
     <message numerus="yes">
         <source>%n call(s) waiting for the server</source>

@@ -365,6 +365,14 @@
         <source>The emulator gets a fresh token with each start.</source>
         <translation>模拟器每次启动都会得到新的令牌。</translation>
     </message>
+    <message>
+        <source>Traffic is recorded</source>
+        <translation>正在记录网络数据</translation>
+    </message>
+    <message>
+        <source>Traffic is not recorded</source>
+        <translation>未记录网络数据</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NumberBox</name>
@@ -391,11 +399,6 @@
         <source>Result</source>
         <translation>结果</translation>
     </message>
-    <message numerus="yes">
-        <source>%n element(s)</source>
-        <translation>
-            <numerusform>%n 个元素</numerusform></translation>
-    </message>
     <message>
         <source>Name</source>
         <translation>名称</translation>
@@ -407,6 +410,10 @@
     <message>
         <source>Type</source>
         <translation>类型</translation>
+    </message>
+    <message>
+        <source>Elements: %1</source>
+        <translation>元素：%1</translation>
     </message>
 </context>
 <context>
@@ -427,16 +434,6 @@
         <source>&amp;Filter:</source>
         <translation>筛选(&amp;F)：</translation>
     </message>
-    <message numerus="yes">
-        <source>%n row(s)</source>
-        <translation>
-            <numerusform>%n 行</numerusform></translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n row(s)</source>
-        <translation>
-            <numerusform>%1 / %n 行</numerusform></translation>
-    </message>
     <message>
         <source>Export the table</source>
         <translation>导出表格</translation>
@@ -449,14 +446,17 @@
         <source>%1 cannot be written.</source>
         <translation>无法写入 %1。</translation>
     </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>行数：%1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>行数：%1 / %2</translation>
+    </message>
 </context>
 <context>
     <name>explorer::RecordTableModel</name>
-    <message numerus="yes">
-        <source>%n element(s)</source>
-        <translation>
-            <numerusform>%n 个元素</numerusform></translation>
-    </message>
     <message>
         <source>Value</source>
         <translation>值</translation>
@@ -547,14 +547,6 @@
 <context>
     <name>explorer::ResultView</name>
     <message>
-        <source>The record as JSON appears here.</source>
-        <translation>此处以 JSON 显示记录。</translation>
-    </message>
-    <message>
-        <source>The reply appears here.</source>
-        <translation>此处显示应答。</translation>
-    </message>
-    <message>
         <source>The reply is not complete: the connection ended or the time was over before.</source>
         <translation>应答不完整：连接提前断开或已超时。</translation>
     </message>
@@ -585,6 +577,18 @@
     <message>
         <source>There is no list in this record.</source>
         <translation>此记录中没有列表。</translation>
+    </message>
+    <message>
+        <source>There is no record.</source>
+        <translation>没有记录。</translation>
+    </message>
+    <message>
+        <source>No reply was recorded.</source>
+        <translation>未记录应答。</translation>
+    </message>
+    <message>
+        <source>No data came for a record.</source>
+        <translation>没有收到用于记录的数据。</translation>
     </message>
 </context>
 <context>

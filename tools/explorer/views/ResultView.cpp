@@ -82,10 +82,12 @@ ResultView::ResultView(QWidget* pParent)
 
 void ResultView::Show(const CallOutcome& outcome)
 {
-    if (outcome.call != nullptr && outcome.call->result != nullptr) {
-        ShowRecord(outcome);
-    } else {
+    if (outcome.call == nullptr || outcome.call->result == nullptr) {
         ShowNoRecord(tr("This call returns no record."));
+    } else if (outcome.record.is_null()) {
+        ShowNoRecord(tr("No data came for a record."));
+    } else {
+        ShowRecord(outcome);
     }
     m_pReply->SetText(outcome.reply ? TextOf(*outcome.reply) : QString());
     m_pIncomplete->setVisible(outcome.reply && !outcome.reply->complete);

@@ -82,9 +82,9 @@ constexpr const char* kStyleSheet = R"(
     QStatusBar { border-top: 1px solid palette(mid); }
     QTabWidget#results::pane, QTabWidget#feeds::pane { border: none; border-top: 1px solid palette(mid); }
     QTabBar#underlined { qproperty-drawBase: 0; }
-    QTabBar#underlined::tab { background: transparent; border: none; border-bottom: 2px solid transparent;
+    QTabBar#underlined::tab { background: transparent; color: palette(placeholder-text); border: none; border-bottom: 2px solid transparent;
                               padding: 6px 12px 5px 12px; }
-    QTabBar#underlined::tab:selected { border-bottom: 2px solid palette(highlight); font-weight: bold; }
+    QTabBar#underlined::tab:selected { color: palette(window-text); border-bottom: 2px solid palette(highlight); }
     QTabBar#underlined::tab:hover:!selected { border-bottom: 2px solid palette(mid); }
     QTabBar#underlined::tab:focus { color: palette(link); }
     QPushButton#run { background: palette(highlight); color: palette(highlighted-text); font-weight: bold;

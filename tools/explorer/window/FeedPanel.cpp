@@ -18,6 +18,8 @@
 #include <QTableView>
 #include <QToolButton>
 
+#include <memory>
+
 namespace explorer {
 namespace {
 
@@ -103,21 +105,19 @@ private:
     const QString m_hint;
 };
 
+/// Keeps the end in sight until the user scrolls back to read undisturbed.
 void FollowEnd(QTableView* pTable)
 {
-    // A user who scrolled back reads on undisturbed.
-    const QAbstractItemModel* const pModel = pTable->model();
+    pTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     auto* const pBar = pTable->verticalScrollBar();
-    QObject::connect(pModel, &QAbstractItemModel::rowsAboutToBeInserted, pTable,
-                     [pTable, pBar] { pTable->setProperty("follows", pBar->value() == pBar->maximum()); });
-    QObject::connect(
-        pModel, &QAbstractItemModel::rowsInserted, pTable,
-        [pTable] {
-            if (pTable->property("follows").toBool()) {
-                pTable->scrollToBottom();
-            }
-        },
-        Qt::QueuedConnection);
+    const auto follows = std::make_shared<bool>(true);
+    QObject::connect(pBar, &QScrollBar::valueChanged, pBar,
+                     [pBar, follows](int value) { *follows = value == pBar->maximum(); });
+    QObject::connect(pBar, &QScrollBar::rangeChanged, pBar, [pBar, follows](int /*first*/, int last) {
+        if (*follows) {
+            pBar->setValue(last);
+        }
+    });
 }
 
 }  // namespace

@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QJsonDocument>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
@@ -87,8 +88,8 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
     : QMainWindow(pParent), m_session(session), m_pServerBar(new ServerBar(session)),
       m_pCalls(new CallPanel(session.settings)), m_pHeader(new CallHeader), m_pForm(new ArgumentForm),
       m_pRunBar(new RunBar(session.settings)), m_pResultHeader(new ResultHeader), m_pResult(new ResultView),
-      m_pRequest(new RequestView), m_pTiming(new TimingView), m_pPanes(NewSplitter(Qt::Horizontal)),
-      m_pRows(NewSplitter(Qt::Vertical))
+      m_pRequest(new RequestView), m_pTiming(new TimingView), m_pRecording(new QLabel),
+      m_pPanes(NewSplitter(Qt::Horizontal)), m_pRows(NewSplitter(Qt::Vertical))
 {
     setWindowTitle(tr("APIModule Explorer"));
     MakeLayout();
@@ -161,21 +162,24 @@ void MainWindow::MakeLayout()
     m_pPanes->addWidget(m_pCalls);
     m_pPanes->addWidget(MakeCallPane());
     m_pPanes->addWidget(MakeResultPane());
+    m_pRecording->setForegroundRole(QPalette::PlaceholderText);
     m_pPanes->setStretchFactor(0, 3);
-    m_pPanes->setStretchFactor(1, 4);
-    m_pPanes->setStretchFactor(2, 7);
+    m_pPanes->setStretchFactor(1, 5);
+    m_pPanes->setStretchFactor(2, 8);
     m_pRows->addWidget(m_pPanes);
     m_pRows->addWidget(MakeFeeds());
     m_pRows->setStretchFactor(0, 1);
     setCentralWidget(m_pRows);
     setContextMenuPolicy(Qt::PreventContextMenu);
     statusBar()->setSizeGripEnabled(false);
+    statusBar()->addPermanentWidget(m_pRecording);
 }
 
 QWidget* MainWindow::MakeCallPane()
 {
     auto* const pPane = new QWidget;
     auto* const pLayout = PaneLayout(pPane);
+    m_pForm->layout()->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pHeader);
     pLayout->addWidget(m_pForm, 1);
     pLayout->addWidget(m_pRunBar);
@@ -233,16 +237,23 @@ void MainWindow::MakeCallMenu()
         Qt::CTRL + Qt::Key_D);
     pMenu->addSeparator();
     QAction* const pRecord = pMenu->addAction(tr("Record what goes over the &wire"), this, [this](bool on) {
-        m_session.tap.SetOn(on);
         m_session.settings.setValue(QLatin1String(kRecordKey), on);
+        RecordTraffic(on);
     });
     pRecord->setCheckable(true);
     pRecord->setToolTip(tr("Passes the calls through a recorder in this program"));
+    pRecord->setObjectName(QStringLiteral("recordTraffic"));
     const bool records = m_session.settings.value(QLatin1String(kRecordKey), true).toBool();
-    m_session.tap.SetOn(records);
+    RecordTraffic(records);
     pRecord->setChecked(m_session.tap.IsOn());
     pMenu->addSeparator();
     pMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+}
+
+void MainWindow::RecordTraffic(bool on)
+{
+    m_session.tap.SetOn(on);
+    m_pRecording->setText(m_session.tap.IsOn() ? tr("Traffic is recorded") : tr("Traffic is not recorded"));
 }
 
 void MainWindow::MakeServerMenu()
@@ -335,7 +346,7 @@ void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
     resize(kSize);
-    m_pPanes->setSizes({300, 380, 600});
+    m_pPanes->setSizes({280, 420, 580});
     m_pRows->setSizes({560, 180});
     QSettings& settings = m_session.settings;
     restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());

@@ -10,7 +10,7 @@
 
 #include <optional>
 
-class QActionGroup;
+class QLabel;
 class QSplitter;
 class QTabWidget;
 
@@ -55,6 +55,7 @@ private:
     [[nodiscard]] QWidget* MakeFeeds();
     void MakeMenus();
     void MakeCallMenu();
+    void RecordTraffic(bool on);
     void MakeServerMenu();
     void MakeViewMenu();
     void FocusNextPane();
@@ -91,6 +92,7 @@ private:
     ResultView* m_pResult;
     RequestView* m_pRequest;
     TimingView* m_pTiming;
+    QLabel* m_pRecording;
     QTabWidget* m_pFeeds = nullptr;
     QSplitter* m_pPanes;
     QSplitter* m_pRows;

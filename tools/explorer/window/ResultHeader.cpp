@@ -2,7 +2,7 @@
 
 #include "../views/Theme.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLocale>
@@ -38,14 +38,17 @@ ResultHeader::ResultHeader(QWidget* pParent)
     m_pDetails->setTextFormat(Qt::PlainText);
     m_pDetails->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto* const pLayout = new QGridLayout(this);
+    auto* const pTexts = new QVBoxLayout;
+    pTexts->setSpacing(4);
+    pTexts->addWidget(m_pWords);
+    pTexts->addWidget(m_pDetails);
+    auto* const pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->setHorizontalSpacing(8);
-    pLayout->setVerticalSpacing(4);
-    pLayout->setColumnStretch(1, 1);
-    pLayout->addWidget(m_pLight, 0, 0);
-    pLayout->addWidget(m_pWords, 0, 1);
-    pLayout->addWidget(m_pDetails, 1, 1);
+    pLayout->setSpacing(8);
+    constexpr int kToTheMiddleOfTheLine = 4;
+    m_pLight->setContentsMargins(0, kToTheMiddleOfTheLine, 0, 0);
+    pLayout->addWidget(m_pLight, 0, Qt::AlignTop);
+    pLayout->addLayout(pTexts, 1);
     Clear();
 }
 

@@ -37,7 +37,12 @@ Windows::Windows(Session& session) : m_session(session)
     Open();
 }
 
-Windows::~Windows() = default;
+Windows::~Windows()
+{
+    for (const QPointer<MainWindow>& left : m_left) {
+        delete left;
+    }
+}
 
 void Windows::Open()
 {
@@ -56,6 +61,7 @@ void Windows::ChangeLanguage(const QString& language)
     Open();
     pOld->hide();
     pOld->deleteLater();
+    m_left.emplace_back(pOld);
 }
 
 }  // namespace explorer

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "MainWindow.h"
+
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
+#include <vector>
 
 namespace explorer {
 
-class MainWindow;
 class Session;
 
 /// Names and attributes of the application, before its object is made.
@@ -29,6 +32,7 @@ private:
 
     Session& m_session;
     std::unique_ptr<MainWindow> m_window;
+    std::vector<QPointer<MainWindow>> m_left;  // until the event loop deletes them
 };
 
 }  // namespace explorer

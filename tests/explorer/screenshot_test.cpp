@@ -1,0 +1,159 @@
+#include "support/ExplorerTest.h"
+
+#include <explorer/views/ArgumentForm.h>
+#include <explorer/window/Appearance.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QJsonArray>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+using namespace explorer_test;
+using explorer::Appearance;
+using testing_support::RawAnswer;
+using testing_support::RawRequest;
+using testing_support::RawServer;
+
+constexpr QSize kSmall(1280, 800);
+constexpr QSize kLarge(1920, 1080);
+
+/// Writes pictures of the window; they differ by density, too.
+class ScreenshotTest : public ExplorerTest {
+protected:
+    ScreenshotTest() { Window().resize(kSmall); }
+
+    void Shoot(QWidget& widget, const char* name) const
+    {
+        QTest::qWait(100);  // layouts and animations of the style
+        const QPixmap picture = widget.grab();
+        const QColor corner = picture.toImage().pixelColor(5, 5);
+        EXPECT_TRUE(corner.isValid());
+        EXPECT_EQ(picture.size(), widget.size() * widget.devicePixelRatioF());
+        const QDir pictures(QStringLiteral(SCREENSHOT_FOLDER));
+        ASSERT_TRUE(pictures.mkpath(QStringLiteral(".")));
+        const QString density = widget.devicePixelRatioF() > 1 ? QStringLiteral("-high-dpi") : QString();
+        ASSERT_TRUE(picture.save(pictures.filePath(QLatin1String(name) + density + QStringLiteral(".png"))));
+    }
+
+    void FillWithResults()
+    {
+        UseEmulator();
+        Run("BRMS.GetTimeSyncConfig");
+        Run("BRMS.GetDiskWarm");
+        Run("OMMS.GetAlertTypes");
+        QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
+        Run("BRMS.GetQuickCommands");
+    }
+};
+
+TEST_F(ScreenshotTest, Empty)
+{
+    Shoot(Window(), "empty");
+}
+
+class MainStateTest : public ScreenshotTest, public testing::WithParamInterface<std::tuple<QSize, Appearance>> {};
+
+TEST_P(MainStateTest, ResultRequestAndTiming)
+{
+    const auto [size, appearance] = GetParam();
+    const std::string suffix =
+        std::string(size == kSmall ? "-1280" : "-1920") + (appearance == Appearance::Dark ? "-dark" : "-light");
+    explorer::ApplyAppearance(appearance);
+    Window().resize(size);
+    FillWithResults();
+    auto& results = Find<QTabWidget>("results");
+    Shoot(Window(), ("result" + suffix).c_str());
+    results.setCurrentIndex(1);
+    Shoot(Window(), ("request" + suffix).c_str());
+    explorer::RunOrder order;
+    order.call = catalogue::FindCall("BRMS.GetTimeSyncConfig");
+    order.server = session->servers.Current();
+    session->runner.Repeat(order, 30);
+    ASSERT_TRUE(AwaitRuns(34));
+    results.setCurrentIndex(2);
+    Shoot(Window(), ("timing" + suffix).c_str());
+    explorer::ApplyAppearance(Appearance::Light);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, MainStateTest,
+                         testing::Combine(testing::Values(kSmall, kLarge),
+                                          testing::Values(Appearance::Light, Appearance::Dark)),
+                         [](const auto& row) {
+                             return std::string(std::get<0>(row.param) == kSmall ? "Small" : "Large") +
+                                    (std::get<1>(row.param) == Appearance::Dark ? "Dark" : "Light");
+                         });
+
+class LanguageTest : public ScreenshotTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(LanguageTest, WindowAndServers)
+{
+    emit Window().LanguageChosen(QLatin1String(GetParam()));
+    Window().resize(kSmall);
+    FillWithResults();
+    Choose("BRMS.SetTimeSyncConfig");
+    Shoot(Window(), (std::string("language-") + GetParam()).c_str());
+    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    Shoot(Find<QDialog>("serversDialog"), (std::string("servers-") + GetParam()).c_str());
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, testing::Values("en", "de", "zh"),
+                         [](const auto& row) { return std::string(row.param); });
+
+TEST_F(ScreenshotTest, Failure)
+{
+    RawServer server([](const RawRequest&) {
+        return testing_support::HttpAnswer(200,
+                                           "{\"code\": 1002, \"desc\": \"/interval: expected integer, got string\"}");
+    });
+    Use(server.Port());
+    Run("BRMS.SetTimeSyncConfig");
+    Shoot(Window(), "failure");
+}
+
+TEST_F(ScreenshotTest, NestedArguments)
+{
+    Choose("BRMS.AddQuickCommand");
+    Window().findChild<explorer::ArgumentForm*>()->SetArguments(
+        {{QStringLiteral("command"),
+          QJsonObject{
+              {QStringLiteral("quickCommandName"), QStringLiteral("Sound the horn")},
+              {QStringLiteral("httpUrls"),
+               QJsonArray{QJsonObject{{QStringLiteral("method"), 2},
+                                      {QStringLiteral("url"), QStringLiteral("http://192.168.30.7/horn")}}}}}}});
+    Shoot(Window(), "nested-arguments");
+}
+
+TEST_F(ScreenshotTest, Waiting)
+{
+    RawServer server([](const RawRequest&) { return RawAnswer{}; });
+    Use(server.Port());
+    Find<QSpinBox>("timeout").setValue(4);
+    Choose("BRMS.GetTimeSyncConfig");
+    ClickRun();
+    ASSERT_TRUE(
+        Await([this] { return session->runner.Pending() == 1 && QApplication::activeModalWidget() != nullptr; }));
+    Shoot(Window(), "waiting");
+    ASSERT_TRUE(AwaitRuns(1));
+}
+
+TEST_F(ScreenshotTest, FilteredCalls)
+{
+    ASSERT_TRUE(Await([this] {
+        Find<QLineEdit>("callFilter").setText(QStringLiteral("/config/time-sync"));
+        return !Find<QLabel>("callCount").text().startsWith(QLatin1String("No"));
+    }));
+    Shoot(Window(), "filtered");
+}
+
+}  // namespace

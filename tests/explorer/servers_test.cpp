@@ -1,0 +1,213 @@
+#include "support/ExplorerTest.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDirIterator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
+
+namespace {
+
+using namespace explorer_test;
+using testing_support::RawRequest;
+using testing_support::RawServer;
+
+class ServersTest : public ExplorerTest {
+protected:
+    /// Opens the dialog and adds a server with it.
+    void AddServer(const QString& name, const QString& host, int port, const QString& token)
+    {
+        QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+        QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+        TypeInto("serverName", name);
+        TypeInto("serverHost", host);
+        Find<QSpinBox>("serverPort").setValue(port);
+        auto& scheme = Find<QComboBox>("serverScheme");
+        scheme.setCurrentIndex(scheme.findData(false));
+        Find<QSpinBox>("serverPort").setValue(port);
+        TypeInto("serverToken", token);
+        Press("serversDialog", QDialogButtonBox::Ok);
+    }
+
+    void TypeInto(const char* field, const QString& text) const
+    {
+        auto& line = Find<QLineEdit>(field);
+        line.setFocus();
+        line.selectAll();
+        QTest::keyClicks(&line, text);
+    }
+
+    void Press(const char* dialog, QDialogButtonBox::StandardButton button) const
+    {
+        QTest::mouseClick(Find<QDialog>(dialog).findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+    }
+
+    void ChooseServer(const QString& name)
+    {
+        auto& servers = Find<QComboBox>("servers");
+        const int index = servers.findText(name);
+        ASSERT_GE(index, 0);
+        servers.setCurrentIndex(index);
+        emit servers.activated(index);
+    }
+
+    /// Everything that the program has written.
+    QByteArray WrittenBytes()
+    {
+        settings->sync();
+        QByteArray bytes;
+        QDirIterator files(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            bytes += file.readAll();
+        }
+        return bytes;
+    }
+};
+
+TEST_F(ServersTest, AreKeptBetweenRunsAndTheirTokensInTheSecretService)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    AddServer(QStringLiteral("Night shift"), QStringLiteral("127.0.0.1"), server.Port(),
+              QStringLiteral("s3cret-t0ken"));
+    ChooseServer(QStringLiteral("Night shift"));
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
+    Close();
+
+    Start();
+    EXPECT_EQ(Find<QComboBox>("servers").currentText(), QStringLiteral("Night shift"));
+    EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("http://127.0.0.1:%1").arg(server.Port()));
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
+    const auto requests = server.TakeRequests();
+    ASSERT_EQ(requests.size(), 2U);
+    EXPECT_EQ(requests.back().Value("X-Subject-Token"), "s3cret-t0ken");
+}
+
+TEST_F(ServersTest, NoTokenIsWrittenToAFile)
+{
+    RawServer server(
+        [](const RawRequest& request) { return Success("{\"echo\": \"" + request.Value("X-Subject-Token") + "\"}"); });
+    AddServer(QStringLiteral("Night shift"), QStringLiteral("127.0.0.1"), server.Port(),
+              QStringLiteral("s3cret-t0ken"));
+    ChooseServer(QStringLiteral("Night shift"));
+    Run("BRMS.GetRemoteLogConfig");
+    Close();
+    settings = std::make_unique<QSettings>(folder.filePath(QStringLiteral("explorer.ini")), QSettings::IniFormat);
+    const QByteArray written = WrittenBytes();
+    EXPECT_TRUE(written.contains("Night shift"));
+    EXPECT_FALSE(written.contains("s3cret-t0ken"));
+    EXPECT_FALSE(written.contains(QByteArray("s3cret-t0ken").toBase64()));
+    EXPECT_FALSE(written.contains(QByteArray("s3cret-t0ken").toHex()));
+}
+
+TEST_F(ServersTest, WithoutASecretServiceTheTokenIsAskedForInEachRunOfTheProgram)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    AddServer(QStringLiteral("Night shift"), QStringLiteral("127.0.0.1"), server.Port(), QStringLiteral("first"));
+    ChooseServer(QStringLiteral("Night shift"));
+    Close();
+    usedVault = nullptr;
+    Start();
+
+    Choose("BRMS.GetRemoteLogConfig");
+    ClickRun();
+    ASSERT_TRUE(Await([this] { return Window().findChild<QDialog*>(QStringLiteral("tokenDialog")) != nullptr; }));
+    TypeInto("token", QStringLiteral("second"));
+    Press("tokenDialog", QDialogButtonBox::Ok);
+    ASSERT_TRUE(AwaitRuns(1));
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);  // not asked again
+    const auto requests = server.TakeRequests();
+    ASSERT_EQ(requests.size(), 2U);
+    EXPECT_EQ(requests.front().Value("X-Subject-Token"), "second");
+    EXPECT_EQ(requests.back().Value("X-Subject-Token"), "second");
+}
+
+TEST_F(ServersTest, WithoutAnAnswerAboutTheTokenNothingRuns)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    session->tokens.Forget(session->servers.Current().id);
+    Choose("BRMS.GetRemoteLogConfig");
+    ClickRun();
+    Press("tokenDialog", QDialogButtonBox::Cancel);
+    QTest::qWait(0);
+    EXPECT_EQ(session->runner.Pending(), 0);
+    EXPECT_TRUE(server.TakeRequests().empty());
+}
+
+TEST_F(ServersTest, AServerThatIsRemovedTakesItsTokenAlong)
+{
+    AddServer(QStringLiteral("Old"), QStringLiteral("old.example"), 80, QStringLiteral("gone"));
+    ASSERT_EQ(vault.tokens.size(), 1);
+    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    Find<QListWidget>("serverList").setCurrentRow(1);
+    QTest::mouseClick(&Find<QToolButton>("removeServer"), Qt::LeftButton);
+    Press("serversDialog", QDialogButtonBox::Ok);
+    EXPECT_EQ(session->servers.All().size(), 1);
+    EXPECT_TRUE(vault.tokens.isEmpty());
+}
+
+TEST_F(ServersTest, ACancelledDialogChangesNothing)
+{
+    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+    Press("serversDialog", QDialogButtonBox::Cancel);
+    EXPECT_EQ(session->servers.All().size(), 1);
+}
+
+class HostTest : public ServersTest, public testing::WithParamInterface<std::pair<const char*, bool>> {};
+
+TEST_P(HostTest, IsCheckedAsItIsTyped)
+{
+    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+    TypeInto("serverHost", QString::fromUtf8(GetParam().first));
+    EXPECT_EQ(Find<QDialog>("serversDialog").findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled(),
+              GetParam().second);
+}
+
+INSTANTIATE_TEST_SUITE_P(Hosts, HostTest,
+                         testing::Values(std::pair("server.example", true), std::pair("10.0.0.7", true),
+                                         std::pair("[::1]", true), std::pair("::1", false), std::pair("a b", false),
+                                         std::pair("host:80", false), std::pair("user@host", false),
+                                         std::pair("host/path", false), std::pair("http://host", false)));
+
+TEST_F(ServersTest, TheEmulatorIsStartedAndStopped)
+{
+    auto& button = Find<QPushButton>("emulator");
+    EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    ASSERT_TRUE(Await([this] { return session->IsReady(); }));
+    EXPECT_TRUE(TextOf("serverAddress").startsWith(QStringLiteral("https://127.0.0.1:")));
+    EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").succeeded);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Stopped; }));
+    EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
+}
+
+TEST_F(ServersTest, ARunStartsTheEmulatorThatIsChosen)
+{
+    EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").succeeded);
+    EXPECT_EQ(session->emulator.GetState(), explorer::EmulatorProcess::Running);
+}
+
+TEST_F(ServersTest, AnEmulatorThatIsNotThereIsSaid)
+{
+    explorer::EmulatorProcess emulator(folder.filePath(QStringLiteral("no-such-program")));
+    QString why;
+    QObject::connect(&emulator, &explorer::EmulatorProcess::Failed, &emulator,
+                     [&why](const QString& text) { why = text; });
+    emulator.Start();
+    ASSERT_TRUE(Await([&why] { return !why.isEmpty(); }));
+    EXPECT_EQ(emulator.GetState(), explorer::EmulatorProcess::Stopped);
+}
+
+}  // namespace

@@ -1,0 +1,131 @@
+#include "ExplorerTest.h"
+
+#include <explorer/core/EmulatorProcess.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace explorer_test {
+
+bool Await(const std::function<bool()>& holds)
+{
+    return QTest::qWaitFor(holds, kPatience);
+}
+
+void MemoryVault::Read(const QString& serverId, std::function<void(std::optional<QString>)> done)
+{
+    const auto found = tokens.constFind(serverId);
+    done(found == tokens.cend() ? std::nullopt : std::optional<QString>(*found));
+}
+
+void MemoryVault::Write(const QString& serverId, const QString& token, std::function<void(bool)> done)
+{
+    tokens.insert(serverId, token);
+    done(true);
+}
+
+void MemoryVault::Remove(const QString& serverId)
+{
+    tokens.remove(serverId);
+}
+
+testing_support::RawAnswer Success(const QByteArray& data, int delayMilliseconds)
+{
+    testing_support::RawAnswer answer =
+        testing_support::HttpAnswer(200, "{\"code\": 1000, \"desc\": \"Success\", \"data\": " + data + "}");
+    answer.delayMilliseconds = delayMilliseconds;
+    return answer;
+}
+
+ExplorerTest::ExplorerTest()
+{
+    Start();
+}
+
+ExplorerTest::~ExplorerTest()
+{
+    Close();
+}
+
+void ExplorerTest::Start()
+{
+    settings = std::make_unique<QSettings>(folder.filePath(QStringLiteral("explorer.ini")), QSettings::IniFormat);
+    session = std::make_unique<explorer::Session>(*settings, usedVault, explorer::EmulatorProcess::DefaultProgram());
+    QObject::connect(&session->runner, &explorer::Runner::Finished, session.get(),
+                     [this](const CallOutcome& outcome) { outcomes.push_back(outcome); });
+    m_windows = std::make_unique<explorer::Windows>(*session);
+    m_windows->Current().activateWindow();
+}
+
+void ExplorerTest::Close()
+{
+    if (m_windows) {
+        Window().close();
+    }
+    m_windows.reset();
+    session.reset();
+    settings.reset();
+}
+
+void ExplorerTest::Use(int port, bool https)
+{
+    QVector<explorer::Server> servers = session->servers.All();
+    explorer::Server server = explorer::Servers::Fresh(QStringLiteral("Server of the test %1").arg(port));
+    server.host = QStringLiteral("127.0.0.1");
+    server.port = port;
+    server.https = https;
+    servers.append(server);
+    session->servers.Replace(servers);
+    session->tokens.Set(server.id, QLatin1String(kToken), false);
+    session->servers.SetCurrent(servers.size() - 1);
+}
+
+void ExplorerTest::UseEmulator()
+{
+    session->servers.SetCurrent(0);
+    session->emulator.Start();
+    ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Running; }));
+}
+
+QString ExplorerTest::TextOf(const char* label) const
+{
+    return Find<QLabel>(label).text();
+}
+
+void ExplorerTest::Choose(const char* call)
+{
+    const catalogue::Call* const pCall = catalogue::FindCall(call);
+    ASSERT_NE(pCall, nullptr) << call;
+    Window().SelectCall(*pCall);
+}
+
+void ExplorerTest::WaitInEventLoop()
+{
+    auto& wait = Find<QComboBox>("wait");
+    wait.setCurrentIndex(wait.findData(false));
+}
+
+void ExplorerTest::ClickRun()
+{
+    QTest::mouseClick(&Find<QPushButton>("run"), Qt::LeftButton);
+}
+
+bool ExplorerTest::AwaitRuns(int count) const
+{
+    return Await([this, count] { return static_cast<int>(outcomes.size()) >= count; });
+}
+
+CallOutcome ExplorerTest::Run(const char* call)
+{
+    Choose(call);
+    const int runs = static_cast<int>(outcomes.size());
+    ClickRun();
+    if (!AwaitRuns(runs + 1)) {
+        ADD_FAILURE() << call << " does not end";
+        return {};
+    }
+    return outcomes.back();
+}
+
+}  // namespace explorer_test

@@ -1,0 +1,245 @@
+#include "support/ExplorerTest.h"
+
+#include <OrnGui/OrnWaitDialog.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTimer>
+
+#include <atomic>
+
+namespace {
+
+using namespace explorer_test;
+using testing_support::RawAnswer;
+using testing_support::RawRequest;
+using testing_support::RawServer;
+
+constexpr const char* kCall = "BRMS.GetRemoteLogConfig";
+
+/// Answers a request of one path only when it is let go.
+class HoldingServer {
+public:
+    explicit HoldingServer(QByteArray heldPath = "/")
+        : m_heldPath(std::move(heldPath)), m_server([this](const RawRequest& request) {
+              const bool holds = request.target.contains(m_heldPath);
+              m_requests += 1;
+              return holds ? RawAnswer{} : Success("{}");
+          })
+    {}
+
+    [[nodiscard]] int Port() const { return m_server.Port(); }
+    [[nodiscard]] int Requests() const { return m_requests; }
+
+private:
+    const QByteArray m_heldPath;
+    std::atomic<int> m_requests{0};
+    RawServer m_server;
+};
+
+class WaitingTest : public ExplorerTest {
+protected:
+    void SetTimeout(int seconds) { Find<QSpinBox>("timeout").setValue(seconds); }
+
+    /// Runs the call that is not answered to its end. What is to happen while it waits happens as soon as the server
+    /// has its request.
+    void RunAnd(const HoldingServer& server, const std::function<void()>& meanwhile)
+    {
+        Choose(kCall);
+        ClickRun();
+        QTimer timer;
+        bool happened = false;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            if (!happened && server.Requests() > 0) {
+                happened = true;
+                EXPECT_EQ(outcomes.size(), 0U);
+                meanwhile();
+            }
+        });
+        timer.start(10);
+        EXPECT_TRUE(Await([this] { return session->runner.Pending() == 0; }));
+        EXPECT_TRUE(happened);
+    }
+};
+
+TEST_F(WaitingTest, ATimeOutIsShown)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    SetTimeout(1);
+    const CallOutcome outcome = Run(kCall);
+    EXPECT_EQ(outcome.result, -1);
+    EXPECT_EQ(outcome.timeoutSeconds, 1);
+    EXPECT_GE(outcome.elapsedMilliseconds, 1000);
+    EXPECT_LT(outcome.elapsedMilliseconds, 3000);
+    EXPECT_TRUE(TextOf("resultWords").contains(QStringLiteral("in time"))) << TextOf("resultWords").toStdString();
+}
+
+TEST_F(WaitingTest, TheWaitDialogIsOverTheWindowAndPaintingGoesOn)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    SetTimeout(1);
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&ticks] { ++ticks; });
+    timer.start(50);
+    RunAnd(server, [this] {
+        const auto* const pDialog = Window().findChild<ORNGUI::OrnWaitDialog*>();
+        ASSERT_NE(pDialog, nullptr);
+        EXPECT_TRUE(pDialog->isModal());
+        EXPECT_TRUE(pDialog->isVisible());
+    });
+    EXPECT_GE(ticks, 5);
+    EXPECT_TRUE(outcomes.front().waitDialog);
+}
+
+TEST_F(WaitingTest, InTheEventLoopInputGoesOn)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    WaitInEventLoop();
+    SetTimeout(1);
+    RunAnd(server, [this] {
+        EXPECT_EQ(Window().findChild<ORNGUI::OrnWaitDialog*>(), nullptr);
+        QTest::keyClicks(&Find<QLineEdit>("callFilter"), QStringLiteral("wash"));
+        EXPECT_EQ(Find<QLineEdit>("callFilter").text(), QStringLiteral("wash"));
+        EXPECT_EQ(TextOf("runState").toStdString(), "1 call waiting for the server");
+    });
+    EXPECT_FALSE(Find<QLabel>("runState").isVisible());
+}
+
+TEST_F(WaitingTest, ASecondRunEndsInsideTheFirst)
+{
+    const HoldingServer server("remote-log");
+    Use(server.Port());
+    WaitInEventLoop();
+    SetTimeout(2);
+    RunAnd(server, [this] {
+        Choose("BRMS.GetTimeSyncConfig");
+        ClickRun();
+    });
+    ASSERT_EQ(outcomes.size(), 2U);
+    EXPECT_EQ(outcomes.at(0).call->name, "BRMS.GetTimeSyncConfig");
+    EXPECT_TRUE(outcomes.at(0).succeeded);
+    EXPECT_EQ(outcomes.at(1).call->name, kCall);
+    EXPECT_EQ(outcomes.at(1).result, -1);
+    // Shown is what belongs to the call that is chosen.
+    EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
+    Choose(kCall);
+    EXPECT_TRUE(TextOf("resultWords").contains(QStringLiteral("in time")));
+}
+
+TEST_F(WaitingTest, TheSameCallTwiceAtOnceHasTwoResults)
+{
+    std::atomic<int> count{0};
+    RawServer server([&count](const RawRequest&) {
+        return ++count == 1 ? Success("{}", 1500) : testing_support::HttpAnswer(503, "");
+    });
+    Use(server.Port());
+    WaitInEventLoop();
+    Choose(kCall);
+    ClickRun();
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer, &count] {
+        if (count == 1) {
+            timer.stop();
+            ClickRun();
+        }
+    });
+    timer.start(10);
+    ASSERT_TRUE(AwaitRuns(2));
+    EXPECT_EQ(outcomes.at(0).result, 503);
+    EXPECT_EQ(outcomes.at(0).reply->status, 503);
+    EXPECT_EQ(outcomes.at(1).result, 0);
+    EXPECT_EQ(outcomes.at(1).reply->status, 200);
+}
+
+TEST_F(WaitingTest, ChangingTheServerLeavesTheRunToItsOwn)
+{
+    const HoldingServer holding;
+    RawServer other([](const RawRequest&) { return Success("{}"); });
+    Use(holding.Port());
+    const QString name = session->servers.Current().name;
+    WaitInEventLoop();
+    SetTimeout(1);
+    RunAnd(holding, [this, &other] { Use(other.Port()); });
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().server, name);
+    EXPECT_TRUE(outcomes.front().request.url.contains(QString::number(holding.Port())));
+    EXPECT_TRUE(other.TakeRequests().empty());
+    EXPECT_TRUE(Run(kCall).succeeded);
+    EXPECT_EQ(other.TakeRequests().size(), 1U);
+}
+
+class ClosingTest : public WaitingTest, public testing::WithParamInterface<bool> {};
+
+TEST_P(ClosingTest, TheWindowWhileACallWaitsDoesNoHarm)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    if (!GetParam()) {
+        WaitInEventLoop();
+    }
+    SetTimeout(1);
+    RunAnd(server, [this] {
+        Window().close();
+        EXPECT_FALSE(Window().isVisible());
+    });
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_EQ(outcomes.front().result, -1);
+}
+
+TEST_P(ClosingTest, ALanguageThatTakesANewWindowWhileACallWaitsDoesNoHarm)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    if (!GetParam()) {
+        WaitInEventLoop();
+    }
+    SetTimeout(1);
+    const QPointer<explorer::MainWindow> old = &Window();
+    RunAnd(server, [this, &old] {
+        emit Window().LanguageChosen(QStringLiteral("de"));
+        EXPECT_NE(old, &Window());
+    });
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_TRUE(Await([&old] { return old.isNull(); }));
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Waits, ClosingTest, testing::Bool(),
+                         [](const auto& row) { return row.param ? "BehindTheWaitDialog" : "InTheEventLoop"; });
+
+TEST_F(WaitingTest, TheParentThatIsDeletedEndsTheWait)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    auto* pParent = new QWidget;
+    pParent->show();
+    explorer::RunOrder order;
+    order.call = catalogue::FindCall(kCall);
+    order.server = session->servers.Current();
+    order.parent = pParent;
+    session->runner.Order(order);
+    QElapsedTimer clock;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        if (server.Requests() == 1) {
+            timer.stop();
+            clock.start();
+            delete pParent;
+        }
+    });
+    timer.start(10);
+    ASSERT_TRUE(AwaitRuns(1));
+    ASSERT_TRUE(clock.isValid());
+    EXPECT_LT(clock.elapsed(), 5000);  // the call's own time-out is 10 s
+    EXPECT_EQ(outcomes.front().result, -1);
+}
+
+}  // namespace

@@ -1,0 +1,341 @@
+#include "support/ExplorerTest.h"
+
+#include <explorer/views/ArgumentForm.h>
+#include <explorer/views/NumberBox.h>
+#include <explorer/views/ResultView.h>
+#include <explorer/window/CallPanel.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QTreeView>
+
+namespace {
+
+using namespace explorer_test;
+using testing_support::HttpAnswer;
+using testing_support::RawRequest;
+using testing_support::RawServer;
+
+constexpr const char* kCall = "BRMS.GetRemoteLogConfig";
+
+class WindowTest : public ExplorerTest {
+protected:
+    /// The texts of a tree's rows, those inside others too.
+    static QStringList RowsOf(const QAbstractItemModel& model, const QModelIndex& parent = {})
+    {
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            const QModelIndex index = model.index(row, 0, parent);
+            QStringList cells;
+            for (int column = 0; column < model.columnCount(parent); ++column) {
+                cells.append(index.sibling(row, column).data().toString());
+            }
+            rows.append(cells.join(QLatin1Char('|')));
+            rows += RowsOf(model, index);
+        }
+        return rows;
+    }
+
+    void Filter(const char* text) const { Find<QLineEdit>("callFilter").setText(QString::fromUtf8(text)); }
+    [[nodiscard]] QStringList Calls() const { return RowsOf(*Find<QTreeView>("callTree").model()); }
+    [[nodiscard]] bool HasEndpoints() const
+    {
+        Filter("/brms/api/v1.1/config/time-sync");
+        return Calls().contains(QStringLiteral("GetTimeSyncConfig"));
+    }
+
+    void TypeInFocus(const QString& text) const { QTest::keyClicks(QApplication::focusWidget(), text); }
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &Window(),
+                        static_cast<Qt::Key>(key), modifiers);
+    }
+};
+
+TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
+{
+    UseEmulator();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    Press(Qt::Key_F, Qt::ControlModifier);
+    TypeInFocus(QStringLiteral("localsetting get"));
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TextOf("callName"), QStringLiteral("GetLocalSetting"));
+    Press(Qt::Key_Return);
+    ASSERT_TRUE(Window().findChild<explorer::ArgumentForm*>()->isAncestorOf(QApplication::focusWidget()));
+    Press(Qt::Key_A, Qt::ControlModifier);
+    TypeInFocus(QStringLiteral("3"));
+    Press(Qt::Key_F5);
+    ASSERT_TRUE(AwaitRuns(1));
+
+    EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
+    EXPECT_TRUE(outcomes.front().succeeded);
+    EXPECT_EQ(outcomes.front().arguments.value(QLatin1String("settingType")).toInt(), 3);
+    const auto trees = Window().findChild<explorer::ResultView*>()->findChildren<QTreeView*>();
+    ASSERT_FALSE(trees.isEmpty());
+    const QString shown = RowsOf(*trees.first()->model()).join(QLatin1Char('\n'));
+    const std::string content = outcomes.front().record.at("content").get<std::string>();
+    EXPECT_FALSE(content.empty());
+    EXPECT_TRUE(shown.contains(QStringLiteral("content"))) << shown.toStdString();
+}
+
+struct Failure {
+    std::string name;
+    int status;
+    QByteArray body;
+    int result;
+    const char* words;
+    const char* details;
+};
+
+class FailureTest : public WindowTest, public testing::WithParamInterface<Failure> {};
+
+TEST_P(FailureTest, IsToldInWords)
+{
+    RawServer server([](const RawRequest&) { return HttpAnswer(GetParam().status, GetParam().body); });
+    Use(server.Port());
+    const CallOutcome outcome = Run(kCall);
+    EXPECT_EQ(outcome.result, GetParam().result);
+    EXPECT_FALSE(outcome.succeeded);
+    EXPECT_TRUE(TextOf("resultWords").contains(QLatin1String(GetParam().words))) << TextOf("resultWords").toStdString();
+    EXPECT_TRUE(TextOf("resultDetails").contains(QLatin1String(GetParam().details)))
+        << TextOf("resultDetails").toStdString();
+    // The user was told.
+    const auto& told = session->notifications;
+    ASSERT_EQ(told.rowCount(), 1);
+    EXPECT_EQ(told.index(0, explorer::Feed::TextColumn).data().toString(), TextOf("resultWords"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Servers, FailureTest,
+    testing::Values(Failure{"InternalError", 500, "", 500, "GetRemoteLogConfig failed: ", "HTTP 500"},
+                    Failure{"NotFound", 404, "", 404, "did not find", "Result 404"},
+                    Failure{"SignedOut", 401, "", -1, "sign in", "HTTP 401"},
+                    Failure{"EnvelopeCode", 200, "{\"code\": 1002, \"desc\": \"/port: too large\", \"data\": {}}", 1002,
+                            "GetRemoteLogConfig failed: ", "The server says: /port: too large"},
+                    Failure{"UnknownCode", 200, "{\"code\": 77123, \"desc\": \"?\"}", 77123,
+                            "GetRemoteLogConfig failed", "Result 77123"},
+                    Failure{"NoEnvelope", 200, "<html>", -1, "GetRemoteLogConfig failed", "HTTP 200"},
+                    Failure{"KeyMissing", 200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}", -1,
+                            "failed: ", "HTTP 200"}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(WindowTest, ARecordIsShownAsFarAsItWasRead)
+{
+    RawServer server(
+        [](const RawRequest&) { return HttpAnswer(200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}"); });
+    Use(server.Port());
+    const CallOutcome outcome = Run(kCall);
+    EXPECT_TRUE(outcome.record.at("enable").get<bool>());
+    EXPECT_EQ(outcome.record.at("ip").get<std::string>(), "");
+}
+
+TEST_F(WindowTest, CallsAreFoundByNamePathAndKeyInAnyCase)
+{
+    ASSERT_TRUE(Await([this] { return HasEndpoints(); }));
+    const std::pair<const char*, const char*> finds[] = {
+        {"gettimesyncCONFIG", "GetTimeSyncConfig"}, {"/BRMS/api/v1.1/config/time-sync", "SetTimeSyncConfig"},
+        {"ntpsyncinterval", "GetTimeSyncConfig"},   {"PacketSetRemoteLogConfig", "SetRemoteLogConfig"},
+        {"put time-sync", "SetTimeSyncConfig"},     {"parking totalCount", "GetParkingLots"}};
+    for (const auto& [text, call] : finds) {
+        Filter(text);
+        if (QByteArray(call) != "GetParkingLots") {
+            EXPECT_TRUE(Calls().contains(QLatin1String(call))) << text;
+        }
+        EXPECT_FALSE(Calls().contains(QStringLiteral("WashOpen"))) << text;
+    }
+    Filter("no such thing");
+    EXPECT_TRUE(Calls().isEmpty());
+    Filter("");
+    int calls = 0;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        calls += Calls().contains(explorer::ShortName(call)) ? 1 : 0;
+    }
+    EXPECT_EQ(calls, static_cast<int>(catalogue::Calls().size()));
+}
+
+TEST_F(WindowTest, FavouritesAndTheCallsUsedLastAreKept)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    Run("BRMS.GetTimeSyncConfig");
+    Run(kCall);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
+    Close();
+    Start();
+    const QStringList rows = Calls();
+    ASSERT_GE(rows.size(), 5);
+    EXPECT_EQ(rows.mid(0, 5), QStringList({QStringLiteral("Favourites"), QStringLiteral("GetRemoteLogConfig"),
+                                           QStringLiteral("Used last"), QStringLiteral("GetRemoteLogConfig"),
+                                           QStringLiteral("GetTimeSyncConfig")}));
+    EXPECT_EQ(TextOf("callName"), QStringLiteral("GetRemoteLogConfig"));
+}
+
+TEST_F(WindowTest, RunningACallOfTheGroupOfThoseUsedLastKeepsItChosen)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    Run("BRMS.GetTimeSyncConfig");
+    Run(kCall);
+    auto& tree = Find<QTreeView>("callTree");
+    const QModelIndex group = tree.model()->index(0, 0);
+    ASSERT_EQ(group.data().toString(), QStringLiteral("Used last"));
+    tree.setCurrentIndex(tree.model()->index(1, 0, group));
+    ASSERT_EQ(TextOf("callName"), QStringLiteral("GetTimeSyncConfig"));
+    ClickRun();
+    ASSERT_TRUE(AwaitRuns(3));
+    EXPECT_EQ(TextOf("callName"), QStringLiteral("GetTimeSyncConfig"));
+    EXPECT_EQ(tree.currentIndex().data().toString(), QStringLiteral("GetTimeSyncConfig"));
+    EXPECT_EQ(tree.currentIndex().row(), 0);
+}
+
+TEST_F(WindowTest, ArgumentsOfTheLastUseAreFilledIn)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    Choose("BRMS.GetLocalSetting");
+    auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
+    pForm->SetArguments({{QStringLiteral("settingType"), 7}});
+    ClickRun();
+    ASSERT_TRUE(AwaitRuns(1));
+    Close();
+    Start();
+    EXPECT_EQ(Window().findChild<explorer::ArgumentForm*>()->Arguments().value(QLatin1String("settingType")).toInt(),
+              7);
+}
+
+TEST_F(WindowTest, AnArgumentOfTheWrongTypeIsNotRun)
+{
+    Choose("BRMS.GetLocalSetting");
+    auto* const pNumber = Window().findChild<explorer::ArgumentForm*>()->findChild<explorer::NumberBox*>();
+    ASSERT_NE(pNumber, nullptr);
+    pNumber->setFocus();
+    pNumber->selectAll();
+    QTest::keyClicks(pNumber, QStringLiteral("many"));
+    EXPECT_FALSE(Find<QPushButton>("run").isEnabled());
+    pNumber->selectAll();
+    QTest::keyClicks(pNumber, QStringLiteral("4"));
+    EXPECT_TRUE(Find<QPushButton>("run").isEnabled());
+}
+
+TEST_F(WindowTest, ARepetitionRunsSoOftenAndCanBeCancelled)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    Choose(kCall);
+    explorer::RunOrder order;
+    order.call = catalogue::FindCall(kCall);
+    order.server = session->servers.Current();
+    const QSignalSpy ends(&session->runner, &explorer::Runner::RepeatEnded);
+    session->runner.Repeat(order, 20);
+    ASSERT_TRUE(Await([&ends] { return ends.count() == 1; }));
+    EXPECT_EQ(outcomes.size(), 20U);
+    EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
+
+    QObject::connect(&session->runner, &explorer::Runner::RepeatProgress, session.get(), [this](int done) {
+        if (done == 3) {
+            session->runner.CancelRepeat();
+        }
+    });
+    session->runner.Repeat(order, 20);
+    ASSERT_TRUE(Await([&ends] { return ends.count() == 2; }));
+    EXPECT_EQ(outcomes.size(), 23U);
+    EXPECT_EQ(session->runner.Pending(), 0);
+}
+
+TEST_F(WindowTest, LogLinesCanBeSearchedAndChosenByLevel)
+{
+    RawServer server([](const RawRequest&) { return HttpAnswer(500, ""); });
+    Use(server.Port());
+    Run(kCall);
+    auto& table = Find<QTableView>("logTable");
+    const auto texts = [&table] {
+        QStringList lines;
+        for (int row = 0; row < table.model()->rowCount(); ++row) {
+            lines.append(table.model()->index(row, explorer::Feed::TextColumn).data().toString());
+        }
+        return lines;
+    };
+    ASSERT_TRUE(Await([&texts] { return texts().contains(QStringLiteral("PacketGetRemoteLogConfig success.")); }));
+    ASSERT_TRUE(Await([&texts] { return !texts().filter(QStringLiteral("http status Code: 500")).isEmpty(); }));
+
+    auto* const pPanel = table.parentWidget();
+    auto* const pLevel = pPanel->findChild<QComboBox*>(QStringLiteral("level"));
+    pLevel->setCurrentIndex(pLevel->findData(6));
+    EXPECT_FALSE(texts().contains(QStringLiteral("PacketGetRemoteLogConfig success.")));
+    EXPECT_FALSE(texts().isEmpty());
+    pLevel->setCurrentIndex(0);
+    QTest::keyClicks(pPanel->findChild<QLineEdit*>(QStringLiteral("search")), QStringLiteral("SUCCESS."));
+    EXPECT_EQ(texts(), QStringList({QStringLiteral("PacketGetRemoteLogConfig success.")}));
+}
+
+TEST_F(WindowTest, TheTokenIsNowhereToBeSeen)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    const CallOutcome outcome = Run(kCall);
+    EXPECT_FALSE(outcome.request.url.contains(QLatin1String(kToken)));
+    for (const explorer::Header& header : outcome.request.headers) {
+        EXPECT_FALSE(header.value.contains(QLatin1String(kToken))) << header.name.toStdString();
+    }
+    for (int row = 0; row < session->log.rowCount(); ++row) {
+        EXPECT_FALSE(
+            session->log.index(row, explorer::Feed::TextColumn).data().toString().contains(QLatin1String(kToken)));
+    }
+}
+
+TEST_F(WindowTest, EveryPaneIsReachedWithTheKeyboard)
+{
+    Choose("BRMS.SetRemoteLogConfig");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    Find<QLineEdit>("callFilter").setFocus();
+    const QWidget* const panes[] = {Window().findChild<explorer::ArgumentForm*>(), &Find<QTabWidget>("results"),
+                                    &Find<QTabWidget>("feeds"), Window().findChild<explorer::CallPanel*>()};
+    for (const QWidget* pPane : panes) {
+        QTest::keyClick(&Window(), Qt::Key_F6);
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        EXPECT_TRUE(pPane->isAncestorOf(QApplication::focusWidget()) || pPane == QApplication::focusWidget() ||
+                    pPane->parentWidget()->isAncestorOf(QApplication::focusWidget()))
+            << pPane->objectName().toStdString();
+    }
+
+    // With the Tab key alone, too.
+    QSet<const QWidget*> reached;
+    for (int step = 0; step < 200; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reached.insert(QApplication::focusWidget());
+    }
+    for (const char* name :
+         {"callFilter", "callTree", "run", "wait", "timeout", "servers", "editServers", "emulator"}) {
+        EXPECT_TRUE(reached.contains(&Find<QWidget>(name))) << name;
+    }
+}
+
+TEST_F(WindowTest, SpeaksTheLanguagesOfTheErrorTexts)
+{
+    RawServer server([](const RawRequest&) { return HttpAnswer(404, ""); });
+    Use(server.Port());
+    const std::pair<const char*, const char*> languages[] = {{"de", "Ausführen"}, {"zh", "运行"}, {"en", "Run"}};
+    for (const auto& [language, run] : languages) {
+        emit Window().LanguageChosen(QLatin1String(language));
+        EXPECT_EQ(Find<QPushButton>("run").text(), QString::fromUtf8(run));
+    }
+    emit Window().LanguageChosen(QStringLiteral("de"));
+    Run(kCall);
+    EXPECT_EQ(
+        TextOf("resultWords"),
+        QString::fromUtf8("BRMS.GetRemoteLogConfig fehlgeschlagen: Der Server hat das Angeforderte nicht gefunden"));
+    Close();
+    Start();
+    EXPECT_EQ(Find<QPushButton>("run").text(), QStringLiteral("Ausführen"));
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+}  // namespace
