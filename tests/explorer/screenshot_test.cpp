@@ -51,6 +51,7 @@ protected:
         Run("BRMS.GetTimeSyncConfig");
         Run("BRMS.GetDiskWarm");
         Run("OMMS.GetAlertTypes");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
         QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
         Run("BRMS.GetQuickCommands");
     }
@@ -141,10 +142,16 @@ TEST_F(ScreenshotTest, Waiting)
     Find<QSpinBox>("timeout").setValue(4);
     Choose("BRMS.GetTimeSyncConfig");
     ClickRun();
-    ASSERT_TRUE(
-        Await([this] { return session->runner.Pending() == 1 && QApplication::activeModalWidget() != nullptr; }));
-    Shoot(Window(), "waiting");
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer] {
+        if (QApplication::activeModalWidget() != nullptr) {
+            timer.stop();
+            Shoot(Window(), "waiting");
+        }
+    });
+    timer.start(500);
     ASSERT_TRUE(AwaitRuns(1));
+    EXPECT_FALSE(timer.isActive());
 }
 
 TEST_F(ScreenshotTest, FilteredCalls)

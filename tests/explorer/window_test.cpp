@@ -80,9 +80,9 @@ TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
     const auto trees = Window().findChild<explorer::ResultView*>()->findChildren<QTreeView*>();
     ASSERT_FALSE(trees.isEmpty());
     const QString shown = RowsOf(*trees.first()->model()).join(QLatin1Char('\n'));
-    const std::string content = outcomes.front().record.at("content").get<std::string>();
+    const std::string content = outcomes.front().record.at("settingContent").get<std::string>();
     EXPECT_FALSE(content.empty());
-    EXPECT_TRUE(shown.contains(QStringLiteral("content"))) << shown.toStdString();
+    EXPECT_TRUE(shown.contains(QStringLiteral("settingContent"))) << shown.toStdString();
 }
 
 struct Failure {

@@ -269,7 +269,7 @@ void ResultViewTest::ColumnsSortByValue()
     QCOMPARE(ColumnOf(view, "deviceCount"),
              (QStringList{QStringLiteral("7"), QStringLiteral("36"), QStringLiteral("412"), QStringLiteral("1250")}));
     view.sortByColumn(1, Qt::DescendingOrder);
-    QCOMPARE(ColumnOf(view, "deviceCount").first(), QStringLiteral("1250"));
+    QCOMPARE(ColumnOf(view, "deviceCount").constFirst(), QStringLiteral("1250"));
 
     // Another record stands in its own order.
     Set(table, view_test::ParkingLots());

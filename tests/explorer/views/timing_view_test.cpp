@@ -110,8 +110,8 @@ void TimingViewTest::TheLastHundredAreKept()
     }
     QCOMPARE(Figure(view, "calls"), QStringLiteral("100"));
     QCOMPARE(Points(view, Succeeded).size(), 100);
-    QCOMPARE(Points(view, Succeeded).first(), QPointF(31, 31));
-    QCOMPARE(Points(view, Succeeded).last(), QPointF(130, 130));
+    QCOMPARE(Points(view, Succeeded).constFirst(), QPointF(31, 31));
+    QCOMPARE(Points(view, Succeeded).constLast(), QPointF(130, 130));
     QCOMPARE(Figure(view, "median"), QStringLiteral("80.5 ms"));
     QCOMPARE(Figure(view, "percentile"), QStringLiteral("125.0 ms"));
 }

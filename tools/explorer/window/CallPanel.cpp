@@ -262,6 +262,7 @@ void CallPanel::SetEndpoints(const Endpoints& endpoints)
         const QString name = pItem->data(kNameRole).toString();
         Describe(pItem, *catalogue::FindCall(name.toStdString()), endpoints.value(name));
     });
+    Filter(m_pFilter->text());
 }
 
 void CallPanel::Filter(const QString& text)

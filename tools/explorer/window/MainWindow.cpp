@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -67,7 +68,8 @@ void FocusFirst(QWidget* pPane)
 {
     for (QWidget* pWidget = pPane->nextInFocusChain(); pWidget != pPane; pWidget = pWidget->nextInFocusChain()) {
         const bool takesFocus = pWidget->isEnabled() && (pWidget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
-        if (takesFocus && pPane->isAncestorOf(pWidget) && pWidget->isVisible()) {
+        if (takesFocus && !qobject_cast<QScrollArea*>(pWidget) && pPane->isAncestorOf(pWidget) &&
+            pWidget->isVisible()) {
             pWidget->setFocus(Qt::TabFocusReason);
             return;
         }
