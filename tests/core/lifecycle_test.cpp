@@ -250,10 +250,12 @@ TEST_P(EndTest, CallsAboutToQuit)
     TestApplication application(g_argc, g_argv);
     int nEarlier = 99;
     int nLater = 99;
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, [&] { nEarlier = Run(QStringLiteral("/ok")); });
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
+                     [&] { nEarlier = Run(QStringLiteral("/ok")); });
     const Server server(*this);
     EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, [&] { nLater = Run(QStringLiteral("/silent")); });
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
+                     [&] { nLater = Run(QStringLiteral("/silent")); });
     QTimer::singleShot(0, &application, &QCoreApplication::quit);
     QApplication::exec();
     EXPECT_EQ(nEarlier, 0) << "before the façade's own slot a call still completes";

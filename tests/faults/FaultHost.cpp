@@ -121,7 +121,7 @@ RawAnswer SuccessAnswer()
 Lateness::Lateness(int nSeconds)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&m_timer, &QTimer::timeout, [this] {
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
         ++m_nTicks;
         m_timer.start(kTickMs);
     });

@@ -2,6 +2,7 @@
 #include "Descriptor.h"
 #include "FaultMatrix.h"
 
+#include <cerrno>
 #include <netinet/in.h>
 #include <sys/socket.h>
 
@@ -42,7 +43,8 @@ public:
         EXPECT_EQ(listen(m_listener.Number(), 0), 0);
         for (Descriptor& waiting : m_queue) {
             const sockaddr_in address = AddressOf(m_listener);
-            connect(waiting.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+            const int nResult = connect(waiting.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+            EXPECT_TRUE(nResult == 0 || errno == EINPROGRESS);
         }
     }
     int Port() const { return PortOf(m_listener); }
