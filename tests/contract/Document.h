@@ -1,0 +1,26 @@
+#pragma once
+
+#include <catalogue/Call.h>
+#include <Contract.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QJsonObject>
+
+#include <string>
+
+namespace contract_tests {
+
+using Json = nlohmann::json;
+
+/// The operations of docs/openapi.yaml.
+const emulator::Contract& Document();
+
+/// How the Parse of a call took the data of a reply.
+struct Reading {
+    int result = -1;
+    Json record;
+};
+Reading Read(const catalogue::Call& call, const Json& data);
+
+}  // namespace contract_tests
