@@ -106,6 +106,8 @@ std::vector<PackRow> PackRows()
               "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
         Count("Count_is_utf8_and_goes_on_behind_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
               "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
+        Count("Count_every_text_goes_on_behind_a_zero_byte", {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
+              "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
     };
     for (const CallOfId& call : std::initializer_list<CallOfId>{
              {"GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",
