@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QImage>
 #include <QKeyEvent>
 #include <qpa/qwindowsysteminterface.h>
 #include <QPointer>
@@ -430,8 +431,12 @@ TEST_F(WaitBase, DialogIsModalOverItsParentAndGoesAway)
     During(100, [&] { dialog = QApplication::activeModalWidget(); });
     QPointer<QWidget> seen;
     During(150, [&] { seen = dialog; });
+    const QImage before = m_parent->grab().toImage();
     bool bCovered = false;
-    During(200, [&] { bCovered = seen && seen->isVisible() && seen->parentWidget() == m_parent; });
+    During(200, [&] {
+        bCovered = seen && seen->isVisible() && seen->parentWidget() == m_parent;
+        EXPECT_NE(m_parent->grab().toImage().pixel(0, 0), before.pixel(0, 0)) << "the parent is not dimmed";
+    });
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), 0);
     EXPECT_TRUE(bCovered);
     EXPECT_TRUE(dialog.isNull());
