@@ -2,6 +2,10 @@
 
 #include "Log.h"
 
+#include <QtNumeric>
+
+#include <algorithm>
+
 namespace APIModule::detail {
 
 namespace {
@@ -23,6 +27,35 @@ void StoreUtf8(const QString& text, std::string& result)
     if (used > kLastAscii) {
         result = text.toStdString();
     }
+}
+
+bool IsKeptByVariant(const QCborValue& value)
+{
+    constexpr qint64 kExact = qint64(1) << 53;
+    if (value.isInteger()) {
+        return value.toInteger() >= -kExact && value.toInteger() <= kExact;
+    }
+    if (value.isDouble()) {
+        return qIsFinite(value.toDouble());
+    }
+    if (value.isArray()) {
+        const QCborArray array = value.toArray();
+        return std::all_of(array.begin(), array.end(), IsKeptByVariant);
+    }
+    const QCborMap map = value.toMap();
+    return std::all_of(map.begin(), map.end(), [](const auto& member) { return IsKeptByVariant(member.second); });
+}
+
+void Convert(const QJsonValue& value, QJsonObject& result)
+{
+    const QJsonObject object = value.toObject();
+    result = IsKeptByVariant(QCborMap::fromJsonObject(object)) ? object : value.toVariant().toJsonObject();
+}
+
+void Convert(const QJsonValue& value, QJsonArray& result)
+{
+    const QJsonArray array = value.toArray();
+    result = IsKeptByVariant(QCborArray::fromJsonArray(array)) ? array : value.toVariant().toJsonArray();
 }
 
 void LogEmptyObject()

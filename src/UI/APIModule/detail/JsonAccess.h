@@ -67,17 +67,14 @@ void Convert(const Value& value, std::string& result)
     StoreUtf8(value.isString() ? value.toString() : value.toVariant().toString(), result);
 }
 
-// The variant makes doubles of the numbers inside, which the readers of records do number by number.
+/// Whether a variant gives the value back as it is. It makes doubles of the numbers in objects and arrays: integers
+/// beyond 2^53 lose digits there, and what is no finite number becomes null.
+bool IsKeptByVariant(const QCborValue& value);
 
-inline void Convert(const QJsonValue& value, QJsonObject& result)
-{
-    result = value.toVariant().toJsonObject();
-}
+void Convert(const QJsonValue& value, QJsonObject& result);
+void Convert(const QJsonValue& value, QJsonArray& result);
 
-inline void Convert(const QJsonValue& value, QJsonArray& result)
-{
-    result = value.toVariant().toJsonArray();
-}
+// The readers of records do to each number inside what the variant would.
 
 inline void Convert(const QCborValue& value, QCborMap& result)
 {

@@ -2,27 +2,22 @@
 
 #include "JsonAccess.h"
 
-#include <QtNumeric>
-
 namespace APIModule::detail {
 
 namespace {
 
-/// Numbers inside of objects and arrays come back from a variant as doubles: beyond 2^53 integers lose digits, and what
-/// is no finite number is null.
-QCborValue AsFromVariant(const QCborValue& value)
+/// The number as it comes back from a variant of the object that it is in.
+QCborValue AsFromVariant(const QCborValue& number)
 {
-    constexpr qint64 kExact = qint64(1) << 53;
+    if (IsKeptByVariant(number)) {
+        return number;
+    }
+    if (number.isDouble()) {
+        return {nullptr};
+    }
     constexpr double kBeyondIntegers = 9223372036854775808.0;
-    if (value.isDouble()) {
-        return qIsFinite(value.toDouble()) ? value : QCborValue(nullptr);
-    }
-    const qint64 integer = value.toInteger();
-    if (integer >= -kExact && integer <= kExact) {
-        return value;
-    }
-    const auto number = double(integer);
-    return number < kBeyondIntegers ? QCborValue(qint64(number)) : QCborValue(number);
+    const auto rounded = double(number.toInteger());
+    return rounded < kBeyondIntegers ? QCborValue(qint64(rounded)) : QCborValue(rounded);
 }
 
 }  // namespace
