@@ -22,7 +22,8 @@ Places PlacesOf(const Json& schema, const std::string& where = {})
     Places places;
     const Json properties = schema.value("properties", Json::object());
     for (const auto& [key, property] : properties.items()) {
-        places.merge(PlacesOf(property, where + "/" + key));
+        std::string place = where;
+        places.merge(PlacesOf(property, place.append("/").append(key)));
     }
     const Json parts = schema.value("allOf", Json::array());
     for (const Json& part : parts) {
