@@ -51,7 +51,7 @@ protected:
         Run("BRMS.GetTimeSyncConfig");
         Run("BRMS.GetDiskWarm");
         Run("OMMS.GetAlertTypes");
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
+        EXPECT_TRUE(Activate());
         QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
         Run("BRMS.GetQuickCommands");
     }

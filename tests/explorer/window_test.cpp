@@ -62,7 +62,7 @@ protected:
 TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
 {
     UseEmulator();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    ASSERT_TRUE(Activate());
     Press(Qt::Key_F, Qt::ControlModifier);
     TypeInFocus(QStringLiteral("localsetting get"));
     Press(Qt::Key_Return);
@@ -166,7 +166,7 @@ TEST_F(WindowTest, FavouritesAndTheCallsUsedLastAreKept)
     Use(server.Port());
     Run("BRMS.GetTimeSyncConfig");
     Run(kCall);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    ASSERT_TRUE(Activate());
     QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
     Close();
     Start();
@@ -294,7 +294,7 @@ TEST_F(WindowTest, TheTokenIsNowhereToBeSeen)
 TEST_F(WindowTest, EveryPaneIsReachedWithTheKeyboard)
 {
     Choose("BRMS.SetRemoteLogConfig");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    ASSERT_TRUE(Activate());
     Find<QLineEdit>("callFilter").setFocus();
     const QWidget* const panes[] = {Window().findChild<explorer::ArgumentForm*>(), &Find<QTabWidget>("results"),
                                     &Find<QTabWidget>("feeds"), Window().findChild<explorer::CallPanel*>()};

@@ -55,7 +55,6 @@ void ExplorerTest::Start()
     QObject::connect(&session->runner, &explorer::Runner::Finished, session.get(),
                      [this](const CallOutcome& outcome) { outcomes.push_back(outcome); });
     m_windows = std::make_unique<explorer::Windows>(*session);
-    m_windows->Current().activateWindow();
 }
 
 void ExplorerTest::Close()
@@ -66,6 +65,12 @@ void ExplorerTest::Close()
     m_windows.reset();
     session.reset();
     settings.reset();
+}
+
+bool ExplorerTest::Activate() const
+{
+    Window().activateWindow();
+    return QTest::qWaitForWindowActive(&Window());
 }
 
 void ExplorerTest::Use(int port, bool https)

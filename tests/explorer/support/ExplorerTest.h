@@ -52,6 +52,9 @@ protected:
 
     [[nodiscard]] explorer::MainWindow& Window() const { return m_windows->Current(); }
 
+    /// Waits until keys go to the window.
+    [[nodiscard]] bool Activate() const;
+
     /// Makes a server the current one, with a token.
     void Use(int port, bool https = false);
     void UseEmulator();

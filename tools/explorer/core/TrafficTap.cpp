@@ -364,7 +364,7 @@ QString TrafficTap::NameFor(const QString& host)
     if (!IsOn() || !isLoopback) {
         return host;
     }
-    const QString name = QStringLiteral("recorded-") + QString(bare).replace(QLatin1Char(':'), QLatin1Char('-'));
+    QString name = QStringLiteral("recorded-") + QString(bare).replace(QLatin1Char(':'), QLatin1Char('-'));
     m_hosts.insert(name, host);
     return name;
 }

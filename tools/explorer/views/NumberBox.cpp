@@ -18,6 +18,7 @@ using nlohmann::json;
 
 NumberBox::NumberBox(Kind kind, QWidget* pParent) : QAbstractSpinBox(pParent), m_kind(kind)
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // narrow panes have room for it, too
     setFocusPolicy(Qt::StrongFocus);
     lineEdit()->setText(QStringLiteral("0"));
     connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::Changed);

@@ -165,6 +165,7 @@ void MainWindow::MakeLayout()
     m_pPanes->addWidget(MakeCallPane());
     m_pPanes->addWidget(MakeResultPane());
     m_pRecording->setForegroundRole(QPalette::PlaceholderText);
+    m_pRecording->setContentsMargins(0, 0, 12, 0);
     m_pPanes->setStretchFactor(0, 3);
     m_pPanes->setStretchFactor(1, 5);
     m_pPanes->setStretchFactor(2, 8);
@@ -348,7 +349,7 @@ void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
     resize(kSize);
-    m_pPanes->setSizes({280, 420, 580});
+    m_pPanes->setSizes({310, 390, 580});
     m_pRows->setSizes({560, 180});
     QSettings& settings = m_session.settings;
     restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
