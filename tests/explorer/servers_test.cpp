@@ -210,4 +210,17 @@ TEST_F(ServersTest, AnEmulatorThatIsNotThereIsSaid)
     EXPECT_EQ(emulator.GetState(), explorer::EmulatorProcess::Stopped);
 }
 
+TEST(SecretServiceTest, SaysAtOnceThatItHasNoSuchToken)
+{
+    explorer::SecretService service;
+    bool answered = false;
+    std::optional<QString> token;
+    service.Read(QStringLiteral("no-such-server"), [&](const std::optional<QString>& found) {
+        answered = true;
+        token = found;
+    });
+    EXPECT_TRUE(Await([&answered] { return answered; }));
+    EXPECT_FALSE(token);
+}
+
 }  // namespace

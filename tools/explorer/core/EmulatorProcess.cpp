@@ -77,7 +77,7 @@ void EmulatorProcess::ReadAddresses()
 {
     while (m_process->canReadLine()) {
         const QString line = QString::fromUtf8(m_process->readLine()).trimmed();
-        const int port = line.mid(line.lastIndexOf(QLatin1Char(':')) + 1).toInt();
+        const int port = line.midRef(line.lastIndexOf(QLatin1Char(':')) + 1).toInt();
         if (line.startsWith(QLatin1String("http "))) {
             m_httpPort = port;
         } else if (line.startsWith(QLatin1String("https "))) {

@@ -727,10 +727,6 @@
         <translation>&amp;Port</translation>
     </message>
     <message>
-        <source>&amp;Token</source>
-        <translation>&amp;Token</translation>
-    </message>
-    <message>
         <source>&amp;Language</source>
         <translation>S&amp;prache</translation>
     </message>
@@ -761,6 +757,10 @@
     <message>
         <source>“%1” needs a language.</source>
         <translation>„%1“ braucht eine Sprache.</translation>
+    </message>
+    <message>
+        <source>To&amp;ken</source>
+        <translation>To&amp;ken</translation>
     </message>
 </context>
 <context>

@@ -727,10 +727,6 @@
         <translation>端口(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Token</source>
-        <translation>令牌(&amp;T)</translation>
-    </message>
-    <message>
         <source>&amp;Language</source>
         <translation>语言(&amp;L)</translation>
     </message>
@@ -761,6 +757,10 @@
     <message>
         <source>“%1” needs a language.</source>
         <translation>“%1”需要语言。</translation>
+    </message>
+    <message>
+        <source>To&amp;ken</source>
+        <translation>令牌(&amp;K)</translation>
     </message>
 </context>
 <context>

@@ -38,10 +38,12 @@ void Open(QTreeView& tree, int textLength)
     }
     for (const int column : {RecordModel::NameColumn, RecordModel::ValueColumn}) {
         constexpr int kWidest = 360;
-        constexpr int kRoom = 24;
+        constexpr int kRoom = 12;
         tree.resizeColumnToContents(column);
         tree.setColumnWidth(column, qMin(tree.columnWidth(column) + kRoom, kWidest));
     }
+    constexpr int kNarrow = 64;  // takes all that the others leave
+    tree.setColumnWidth(RecordModel::TypeColumn, kNarrow);
 }
 
 }  // namespace

@@ -141,7 +141,7 @@ QWidget* ServersDialog::MakeForm()
     pForm->addRow(tr("&Scheme"), m_pScheme);
     pForm->addRow(tr("&Host"), m_pHost);
     pForm->addRow(tr("&Port"), m_pPort);
-    pForm->addRow(tr("&Token"), m_pToken);
+    pForm->addRow(tr("To&ken"), m_pToken);
     pForm->addRow(tr("&Language"), m_pLanguage);
     pForm->addRow(m_pProblem);
     return pPane;
