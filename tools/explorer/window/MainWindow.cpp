@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
@@ -348,7 +349,7 @@ void MainWindow::MakeHelpMenu()
 void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize()));
     m_pPanes->setSizes({310, 390, 580});
     m_pRows->setSizes({560, 180});
     QSettings& settings = m_session.settings;
