@@ -1,7 +1,7 @@
-// A client's first record: the time settings of a platform emulator that runs in this process, read by the call that the
-// manual begins with.
-#include "first_call.h"
-
+// A client's first record: the time settings of a platform emulator that runs in this process, read by the call that
+// the manual begins with.
+#include <APIModule.h>
+#include <BRMS/BRMSModule.h>
 #include <emulator/PlatformEmulator.h>
 
 #include <QApplication>
@@ -11,6 +11,9 @@
 #include <iostream>
 #include <memory>
 #include <string>
+
+/// Stands in first_call.cpp, which is the first sample of the manual.
+int ReadTimeSettings(UserLogical::IUserManager& userManager, QWidget* parent, APIModule::TimeSyncConfig& config);
 
 namespace {
 
