@@ -141,12 +141,10 @@ bool HttpReader::ReadHead()
         *m_message = {};
     } else if (m_message->Value("Transfer-Encoding").toLower().contains("chunked")) {
         m_state = ChunkSize;
-    } else if (status == "204" || status == "304") {
-        Complete();
-    } else if (!length.isEmpty()) {
+    } else if (const bool hasNoBody = status == "204" || status == "304"; !hasNoBody && !length.isEmpty()) {
         m_missing = length.toLongLong();
         m_state = Body;
-    } else if (m_kind == Replies) {
+    } else if (!hasNoBody && m_kind == Replies) {
         m_state = UntilEnd;
     } else {
         Complete();

@@ -212,7 +212,7 @@ QString Runner::Judge(const catalogue::Outcome& ran, const QString& caption)
         return QString::fromStdString(ran.notification);
     }
     // The library hands statuses and envelope codes over without a word to the user: that is left to the host.
-    const QString text = APIModule::CAPIModule::GetErroCodeInfor(caption, ran.result, true);
+    QString text = APIModule::CAPIModule::GetErroCodeInfor(caption, ran.result, true);
     ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance().AddTextNotification(text, false, {}, {}, false);
     return text;
 }
