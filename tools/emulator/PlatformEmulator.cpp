@@ -1,7 +1,10 @@
 #include "PlatformEmulator.h"
 
 #include "Contract.h"
+#include "Faults.h"
+#include "HttpListener.h"
 #include "Platform.h"
+#include "RequestLog.h"
 #include "State.h"
 #include "Text.h"
 

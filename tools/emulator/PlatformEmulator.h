@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Faults.h"
-#include "RequestLog.h"
-#include "Schema.h"
+#include "Fault.h"
+#include "Json.h"
+#include "RecordedRequest.h"
 
 #include <chrono>
 #include <cstddef>
@@ -17,20 +17,21 @@ namespace emulator {
 /// The token that an emulator accepts unless told otherwise.
 constexpr const char* kDefaultToken = "emulator-token";
 
-/// Where contract and seed data are: share/apimodule in the nearest folder above this library that has it, else above
-/// the running program.
+/// Where contract and seed data are.
+/// @return share/apimodule in the nearest folder above this library that has it, else above the running program
 std::filesystem::path DefaultShareFolder();
 
+/// How an emulator runs.
 struct Options {
-    std::string address = "127.0.0.1";
-    int httpPort = 0;   ///< 0: any free one
-    int httpsPort = 0;  ///< 0: any free one
-    std::string token = kDefaultToken;
-    std::filesystem::path contract = DefaultShareFolder() / "contract";
-    std::filesystem::path seed = DefaultShareFolder() / "seed";
-    int scale = 1;            ///< multiplies the seeded lists
-    bool controlPath = true;  ///< answer /emulator/v1/...
-    bool verbose = false;     ///< a line for each request on standard output, without the token
+    std::string address = "127.0.0.1";                                   ///< listened on
+    int httpPort = 0;                                                    ///< 0: any free one
+    int httpsPort = 0;                                                   ///< 0: any free one
+    std::string token = kDefaultToken;                                   ///< that callers must send
+    std::filesystem::path contract = DefaultShareFolder() / "contract";  ///< folder of the contract
+    std::filesystem::path seed = DefaultShareFolder() / "seed";          ///< folder of the seed data
+    int scale = 1;                                                       ///< multiplies the seeded lists
+    bool controlPath = true;                                             ///< answer /emulator/v1/...
+    bool verbose = false;  ///< a line for each request on standard output, without the token
 };
 
 /// Serves the contract with state over HTTP and HTTPS. All members may be called from any thread.
@@ -45,6 +46,7 @@ struct Options {
 class PlatformEmulator {
 public:
     /// Reads contract and seeds; serves nothing yet.
+    /// @param options how it is to run
     /// @throws std::exception when one of them cannot be used.
     explicit PlatformEmulator(Options options = {});
     /// Stops.
@@ -61,26 +63,38 @@ public:
     /// Closes all connections, hanging requests included, and returns when all is at rest.
     void stop();
 
+    /// @return the port that HTTP is spoken on, once it listens
     [[nodiscard]] int httpPort() const;
+    /// @return the port that HTTPS is spoken on, once it listens
     [[nodiscard]] int httpsPort() const;
 
+    /// Switches a fault on. Of several that fit a request the oldest is taken.
+    /// @param fault the fault
     void addFault(Fault fault);
+    /// @return the faults that are switched on, with what is left of their times
     [[nodiscard]] std::vector<Fault> faults() const;
+    /// Switches all faults off.
     void clearFaults();
 
+    /// @return the recorded requests, the oldest first: the latest 10,000, and 64 MiB of bodies at most
     [[nodiscard]] std::vector<RecordedRequest> requests() const;
+    /// Forgets the recorded requests.
     void clearRequests();
-    /// Waits until so many requests were recorded (since the last clearRequests); false when the time was over first.
+    /// Waits until so many requests were recorded since the last clearRequests().
+    /// @param count how many
+    /// @param time longest wait
+    /// @return false when the time was over first
     [[nodiscard]] bool waitForRequests(std::size_t count, std::chrono::milliseconds time) const;
 
-    /// The whole state: the seeds by family, as the calls have changed them.
+    /// @return the whole state: the seeds by family, as the calls have changed them
     [[nodiscard]] Json state() const;
-    /// Replaces the state by this one, to give a test the data it needs.
+    /// Replaces the state, to give a test the data it needs.
+    /// @param state a member for each family
     void setState(Json state);
     /// Back to the seeds; faults and recorded requests stay.
     void reset();
 
-    /// TCP connections accepted so far, on both ports.
+    /// @return how many TCP connections were accepted so far, on both ports
     [[nodiscard]] std::size_t connections() const;
 
 private:

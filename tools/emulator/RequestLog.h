@@ -1,10 +1,11 @@
 #pragma once
 
 #include "HttpListener.h"
-#include "Schema.h"
+#include "RecordedRequest.h"
 
 #include <chrono>
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
 #include <mutex>
 #include <optional>
@@ -13,24 +14,6 @@
 #include <vector>
 
 namespace emulator {
-
-/// A request as it came, and what it was answered with.
-struct RecordedRequest {
-    std::size_t number = 0;  ///< from 1, in the order of arrival
-    std::string method;
-    std::string target;                                      ///< as received, query included, nothing decoded
-    std::string path;                                        ///< decoded
-    std::vector<std::pair<std::string, std::string>> query;  ///< decoded
-    std::vector<std::pair<std::string, std::string>> headers;
-    std::string body;
-    std::size_t connection = 0;  ///< number of the TCP connection it came over
-    int status = 0;              ///< of the answer; 0 while there is none, and when none was given
-    std::optional<int> code;     ///< of the answer's envelope
-
-    /// The first header of this name, case does not matter; empty without one.
-    [[nodiscard]] std::string header(const std::string& name) const;
-    [[nodiscard]] Json toJson() const;
-};
 
 /// Keeps the requests, the latest 10,000 of them and 64 MiB of bodies at most; safe to use from several threads.
 class RequestLog {

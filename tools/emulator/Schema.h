@@ -1,13 +1,11 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "Json.h"
 
 #include <memory>
 #include <string>
 
 namespace emulator {
-
-using Json = nlohmann::json;
 
 /// A JSON Schema that is compiled once and can then be asked from several threads.
 class Schema {
