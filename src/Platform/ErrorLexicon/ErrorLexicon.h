@@ -20,8 +20,8 @@ ERRORLEXICON_EXPORT int ErrorLexiconQuery(int nErrorCode, std::string& strText);
 
 /// Chooses the language of the texts for the whole process, "en" at first.
 ///
-/// A language is known by its first part, before "-" or "_", in upper or lower case ("de", "DE", "de_AT"); with one
-/// that has no texts the lexicon speaks English.
+/// @param strLanguage known by its first part, before "-" or "_", in upper or lower case ("de", "DE", "de_AT"); with
+///        one that has no texts the lexicon speaks English
 ERRORLEXICON_EXPORT void SetLanguage(const std::string& strLanguage);
 
 }  // namespace ErrorLexicon

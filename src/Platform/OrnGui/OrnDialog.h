@@ -11,7 +11,8 @@ class ORNGUI_EXPORT OrnDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// A dialog over @p pParent, or on its own when it is null.
+    /// Makes a dialog.
+    /// @param pParent widget under the dialog, or null for one on its own
     explicit OrnDialog(QWidget* pParent = nullptr);
 };
 

@@ -32,6 +32,7 @@ public:
 
 Q_SIGNALS:
     /// Emitted once inside each AddTextNotification(), whether or not a toast can be shown.
+    /// @param strText the message
     void TextNotificationAdded(const QString& strText);
 };
 

@@ -7,8 +7,8 @@ namespace ORNGUI {
 template <typename T>
 class OrnSingleton {
 public:
-    /// The object, made on first use from whichever thread. It is never destroyed, so it can be used until the very end
-    /// of the process.
+    /// @return the object, made on first use from whichever thread. It is never destroyed, so it can be used until the
+    ///         very end of the process.
     static T& Instance();
 };
 

@@ -17,10 +17,11 @@ class IServer {
 public:
     virtual ~IServer() = default;
 
-    /// Fills host and port.
+    /// Tells where the server is.
+    /// @param connection takes host and port
     virtual void GetConnection(ServerConnection& connection) = 0;
 
-    /// The token of the session, empty when there is none.
+    /// @return the token of the session, empty when there is none
     virtual std::string GetToken() = 0;
 };
 
@@ -29,10 +30,12 @@ class IUserManager {
 public:
     virtual ~IUserManager() = default;
 
-    /// The identifier of the server that the user works with.
+    /// @return the identifier of the server that the user works with
     virtual int GetCurrentServerId() = 0;
 
-    /// The server with this identifier, or an empty pointer for an unknown one.
+    /// Looks up a server.
+    /// @param nServerId its identifier
+    /// @return the server, or an empty pointer for an unknown identifier
     virtual std::shared_ptr<IServer> GetServer(int nServerId) = 0;
 };
 

@@ -24,7 +24,7 @@ struct LogRecord {
 /// Every function may be called from any thread, from static constructors and destructors too, and throws nothing.
 class ORNL_EXPORT TalPrintLog {
 public:
-    /// The log of the process. It is never destroyed.
+    /// @return the log of the process, which is never destroyed
     static TalPrintLog& instance();
 
     TalPrintLog(const TalPrintLog&) = delete;
@@ -41,11 +41,13 @@ public:
     ORNL_PRINTF(7, 8)
     void Log(const char* file, int line, const char* function, const char* tag, int level, const char* format, ...);
 
-    /// Replaces the observer; an empty function removes it.
+    /// Replaces the observer.
     ///
     /// It is called once for each record, on the thread that logs and without a lock held, so it may log and replace
     /// itself. A record that another thread is logging meanwhile may still reach the observer that was replaced. What
     /// an observer throws is dropped.
+    ///
+    /// @param observer takes each record; an empty function removes the one that is there
     void SetObserver(std::function<void(const LogRecord&)> observer);
 
     /// Names the rotating file that records go to beside standard error; an empty name ends it.

@@ -58,26 +58,31 @@ class APIMODULE_EXPORT CAPIModule : public QObject {
     Q_OBJECT
 
 public:
-    /// The instance of the process, created on first use from whichever thread; it lives until the process ends.
+    /// @return the instance of the process, created on first use from whichever thread; it lives until the process ends
     static CAPIModule& GetInstance();
 
     ~CAPIModule() override;
 
     /// Starts use: from now on calls reach their server through @p pUserManager and notifications are shown.
     ///
-    /// The user manager stays the host's and must live until UnInit(). A null argument, and every call after the
-    /// first until UnInit(), is ignored without a message.
+    /// A null argument, and every call after the first until UnInit(), is ignored without a message.
+    ///
+    /// @param pUserManager stays the host's and must live until UnInit()
     void Init(UserLogical::IUserManager* pUserManager);
 
     /// Ends use: the user manager is forgotten and nothing is notified any more. A call that is waiting goes on to
     /// its own result.
     void UnInit();
 
-    /// Chooses https (any value but 0; the default) or http for the calls that are packed from now on.
+    /// Chooses https or http for the calls that are packed from now on.
+    ///
+    /// @param nHttpsMode 0 for http, any other value for https, which is the default
     void SetHttpsMode(int nHttpsMode);
 
-    /// Sets the "Accept-Language" of the requests, "en" by default. The language of error texts is the error-text
-    /// library's own setting.
+    /// Sets the language that the server answers in. The language of error texts is the error-text library's own
+    /// setting.
+    ///
+    /// @param strLanguage value of "Accept-Language", "en" by default
     void SetLanguage(const std::string& strLanguage);
 
     /// Fills the RequestParam that a Pack was given; every Pack ends in this call.

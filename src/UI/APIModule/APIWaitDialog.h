@@ -20,8 +20,10 @@ class APIMODULE_EXPORT CAPIWaitDialog : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows the wait dialog over @p parent, or on its own when @p parent is null. It is gone from the screen, without
-    /// harm to this object, when the parent is destroyed first. Without a QApplication nothing is shown.
+    /// Shows the wait dialog. It is gone from the screen, without harm to this object, when the parent is destroyed
+    /// first. Without a QApplication nothing is shown.
+    ///
+    /// @param parent widget under the dialog, or null for a dialog on its own
     explicit CAPIWaitDialog(QWidget* parent);
 
     /// Hides the wait dialog, takes it from its parent and deletes it.

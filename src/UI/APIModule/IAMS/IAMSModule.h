@@ -14,8 +14,8 @@ namespace APIModule {
 /// and writes one log line either way.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing: the class has no data.
-    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing: the class has no data.
+    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing: the class has no data. @return this
+    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
 
     /// @name Analysis tasks
     /// @{
@@ -25,6 +25,7 @@ public:
     ///
     /// Body: "ids", a list of texts in the given order, empty for no @p taskIds. There is no Parse: a caller that wants
     /// the reply reads it with a function of its own.
+    /// @pack{taskIds, the tasks}
     static int PacketSetAnalysisTaskUploadFailed(void* pReqParamData, const std::vector<std::string>& taskIds,
                                                  int nServerId);
     /// @}

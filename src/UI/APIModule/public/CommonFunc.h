@@ -18,28 +18,42 @@ namespace APIModule {
 /// number gives 0.
 class APIMODULE_EXPORT CCommonFunc {
 public:
-    /// Reads an `int`. @return 0 or -1
+    /// Reads an `int`.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, int& value);
-    /// Reads a `double`. @return 0 or -1
+    /// Reads a `double`.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, double& value);
-    /// Reads an object; a value of another type gives an empty one. @return 0 or -1
+    /// Reads an object; a value of another type gives an empty one.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, QJsonObject& value);
-    /// Reads a text as UTF-8; a number gives its text. @return 0 or -1
+    /// Reads a text as UTF-8; a number gives its text.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, std::string& value);
-    /// Reads an array; a value of another type gives an empty one. @return 0 or -1
+    /// Reads an array; a value of another type gives an empty one.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, QJsonArray& value);
-    /// Reads a 64-bit integer; beyond 2^53 a double in between limits its precision. @return 0 or -1
+    /// Reads a 64-bit integer; beyond 2^53 a double in between limits its precision.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, int64& value);
-    /// Reads a `bool`; the texts "", "0" and "false" and the number 0 give false. @return 0 or -1
+    /// Reads a `bool`; the texts "", "0" and "false" and the number 0 give false.
+    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, bool& value);
 
-    /// True, with a log line, when the object has no keys.
+    /// Whether the object has no keys, which is logged.
+    /// @param jsonObject the object
+    /// @return true without keys
     static bool IsEmpty(const QJsonObject& jsonObject);
 
-    /// True when the object contains the key; false, with a log line, when it does not.
+    /// Whether the object contains the key; a missing one is logged.
+    /// @param jsonObject the object
+    /// @param key the key
+    /// @return true when it is there
     static bool IsKeyValid(const QJsonObject& jsonObject, const QString& key);
 
-    /// The text with one backslash put before every double quote; nothing else is escaped.
+    /// Puts one backslash before every double quote; nothing else is escaped.
+    /// @param text the text
+    /// @return the text with its backslashes
     static std::string TransformToEscaped(const std::string& text);
 };
 
