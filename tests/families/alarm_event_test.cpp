@@ -5,6 +5,8 @@
 
 #include <BRMS/BRMSModule.h>
 
+#include <QLocale>
+
 #include <limits>
 
 namespace APIModule {
@@ -45,6 +47,19 @@ PackRow Links(const std::string& name, const std::string& sourceCode, int alarmT
     return {"Links_" + name, "CBRMSModule::PacketGetAlarmLinkControlList",
             Bind<const std::string&, int>(&CBRMSModule::PacketGetAlarmLinkControlList, sourceCode, alarmType),
             Method_Get, "/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?" + urlQuery};
+}
+
+/// In a client whose numbers have a point behind their thousands.
+PackRow InGerman(PackRow row)
+{
+    row.run = [run = row.run](void* pReqParamData, int nServerId) {
+        const QLocale before;
+        QLocale::setDefault(QLocale::German);
+        const int nResult = run(pReqParamData, nServerId);
+        QLocale::setDefault(before);
+        return nResult;
+    };
+    return row;
 }
 
 PackRow Layer(const std::string& name, const std::string& resourceCode, int resourceType, const std::string& urlQuery)
@@ -99,6 +114,8 @@ const PackRow kPacks[] = {
     Links("marker_in_the_source_is_replaced_by_the_type", "a%1b", 5, "sourceCode=a5b&alarmType=%2"),
     Links("equal_marker_in_the_source_is_replaced_too", "a%2b", 5, "sourceCode=a5b&alarmType=5"),
     Links("higher_marker_in_the_source_stays", "a%3b", 5, "sourceCode=a%3b&alarmType=5"),
+    InGerman(Links("localised_marker_in_the_source_takes_plain_digits", "a%L1b", 1234567,
+                   "sourceCode=a1234567b&alarmType=%2")),
     Links("source_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 5,
           "sourceCode=\xC3\xBC\xEF\xBF\xBD\0b&alarmType=5"s),
 

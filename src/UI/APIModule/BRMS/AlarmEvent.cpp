@@ -61,7 +61,7 @@ int CBRMSModule::PacketGetAlarmLinkControlList(void* pReqParamData, const std::s
     return Pack(
         pReqParamData, kBrms, Method_Get,
         Url(QStringLiteral("/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?sourceCode=%1&alarmType=%2"),
-            Text(sourceCode), alarmType),
+            Text(sourceCode), NumberText(alarmType)),
         nServerId);
 }
 
