@@ -306,7 +306,8 @@ const Way kWays[] = {
     {"success", "/path", 5, Succeed, Succeed, 0},      {"failing_pack", "/path", 5, Fail, Succeed, -1},
     {"throwing_pack", "/path", 5, Throw, Succeed, -1}, {"empty_url", "", 5, Succeed, Succeed, -1},
     {"failing_parse", "/path", 5, Succeed, Fail, 3},   {"throwing_parse", "/path", 5, Succeed, Throw, -1},
-    {"invalid_url", "@x/", 5, Succeed, Succeed, -1},
+    {"invalid_url", "@x/", 5, Succeed, Succeed, -1},   {"status_404", "/other", 5, Succeed, Succeed, 404},
+    {"time_out", "/silent", 0, Succeed, Succeed, -1},
 };
 
 INSTANTIATE_TEST_SUITE_P(Ways, ReleaseTest, testing::ValuesIn(kWays), RowName());
