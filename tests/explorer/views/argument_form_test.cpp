@@ -78,6 +78,7 @@ private slots:
     void ElementsAreAddedRemovedAndMoved();
     void TheTabKeyFollowsTheScreen();
     void LabelsLeadToTheirFields();
+    void ANarrowPaneShowsWholeForms();
     void ACopyIsPastedBack();
     void AWrongPasteSaysWhyAndChangesNothing_data();
     void AWrongPasteSaysWhyAndChangesNothing();
@@ -328,11 +329,47 @@ void ArgumentFormTest::LabelsLeadToTheirFields()
     const QList<QLabel*> all = form.findChildren<QLabel*>();
     for (const QLabel* pLabel : all) {
         if (pLabel->buddy() != nullptr) {
-            QCOMPARE(pLabel->buddy()->accessibleName(), QString(pLabel->text()).remove(QLatin1Char('&')));
+            QCOMPARE(pLabel->buddy()->accessibleName(), QString(pLabel->text()).remove(QChar(0x200B)));
             ++labels;
         }
     }
     QCOMPARE(labels, 2);
+}
+
+void ArgumentFormTest::ANarrowPaneShowsWholeForms()
+{
+    constexpr QSize kPaneOfASmallWindow(360, 400);
+    ArgumentForm form;
+    form.resize(kPaneOfASmallWindow);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        int next = 0;
+        json arguments = json::object();
+        for (const catalogue::Argument& argument : call.arguments) {
+            arguments[std::string(argument.name)] = Distinct(*argument.type, next);
+        }
+        form.SetCall(call);
+        form.SetArguments(explorer::ToQt(arguments));
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();  // layouts of the layouts inside
+        QCOMPARE(form.size(), kPaneOfASmallWindow);
+        const auto& area = *form.findChild<QScrollArea*>();
+        QVERIFY2(area.widget()->width() <= area.viewport()->width(), call.name.c_str());
+        const QList<QLabel*> labels = area.widget()->findChildren<QLabel*>();
+        for (const QLabel* pLabel : labels) {
+            if (pLabel->isVisible()) {
+                const QSize needed(pLabel->minimumSizeHint().width(), pLabel->heightForWidth(pLabel->width()));
+                QVERIFY2(pLabel->width() >= needed.width() && pLabel->height() >= needed.height(),
+                         qPrintable(pLabel->text()));
+            }
+        }
+        const QList<QLineEdit*> fields = area.widget()->findChildren<QLineEdit*>();
+        for (const QLineEdit* pField : fields) {
+            QVERIFY2(pField->width() >= pField->fontMetrics().horizontalAdvance(QStringLiteral("00000000")),
+                     qPrintable(pField->objectName()));
+        }
+    }
 }
 
 void ArgumentFormTest::ACopyIsPastedBack()
@@ -447,6 +484,7 @@ void ArgumentFormTest::Screenshots()
     form.SetCall(Call("BRMS.AddQuickCommand"));
     form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
     TakeScreenshots(form, QStringLiteral("form-records"), QSize(640, 860));
+    TakeScreenshots(form, QStringLiteral("form-narrow"), QSize(360, 860));
 }
 
 int main(int argc, char** argv)

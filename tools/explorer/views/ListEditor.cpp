@@ -1,6 +1,7 @@
 #include "ListEditor.h"
 
 #include "Plain.h"
+#include "RecordEditor.h"
 #include "Theme.h"
 #include "TintedLabel.h"
 
@@ -119,17 +120,17 @@ void ListEditor::Append()
         pHead->addWidget(row.pEditor, 1);
     } else {
         pHead->addStretch();
-        pWidget->setFrameShape(QFrame::StyledPanel);
     }
     for (QToolButton* pButton : {row.pUp, row.pDown, row.pRemove}) {
         pHead->addWidget(pButton, 0, Qt::AlignTop);
     }
-    auto* pLayout = new QVBoxLayout(pWidget);
-    pLayout->addLayout(pHead);
     if (IsPlain(m_element)) {
-        pLayout->setContentsMargins(0, 0, 0, 0);
+        pHead->setContentsMargins(0, 0, 0, 0);
+        pWidget->setLayout(pHead);
     } else {
-        pLayout->addWidget(row.pEditor);
+        QVBoxLayout* pBox = MakeBox(pWidget);
+        pBox->addLayout(pHead);
+        pBox->addWidget(row.pEditor);
     }
 
     connect(row.pEditor, &ValueEditor::Changed, this, &ListEditor::Changed);

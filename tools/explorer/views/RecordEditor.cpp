@@ -1,10 +1,10 @@
 #include "RecordEditor.h"
 
+#include "NameLabel.h"
 #include "Plain.h"
 
 #include <QFormLayout>
-#include <QGroupBox>
-#include <QLabel>
+#include <QFrame>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -61,16 +61,22 @@ ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QS
     const QString typeName = QString::fromStdString(NameOf(type));
     if (IsPlain(type)) {
         ValueEditor* pEditor = MakeEditor(type, name, nullptr);
-        auto* pLabel = new QLabel(name);
+        auto* pLabel = new NameLabel(name);
         pLabel->setBuddy(pEditor->TabStops().constFirst());
         pLabel->setToolTip(typeName);
         pForm->addRow(pLabel, pEditor);
         return pEditor;
     }
-    auto* pBox = new QGroupBox(QStringLiteral("%1 \u2013 %2").arg(name, typeName));
-    ValueEditor* pEditor = MakeEditor(type, name, pBox);
-    (new QVBoxLayout(pBox))->addWidget(pEditor);
-    pForm->addRow(pBox);
+    auto* pFrame = new QFrame;
+    pFrame->setAccessibleName(name);
+    QVBoxLayout* pBox = MakeBox(pFrame);
+    auto* pTitle = new QLabel(Breakable(QStringLiteral("%1 \u2013 %2").arg(name, typeName)));
+    pTitle->setTextFormat(Qt::PlainText);
+    pTitle->setWordWrap(true);
+    ValueEditor* pEditor = MakeEditor(type, name, pFrame);
+    pBox->addWidget(pTitle);
+    pBox->addWidget(pEditor);
+    pForm->addRow(pFrame);
     return pEditor;
 }
 
@@ -80,6 +86,15 @@ QFormLayout* MakeForm(QWidget* pWidget)
     pForm->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     pForm->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     return pForm;
+}
+
+QVBoxLayout* MakeBox(QFrame* pFrame)
+{
+    constexpr int kMargin = 6;  // boxes stand in boxes, in a narrow pane
+    auto* pLayout = new QVBoxLayout(pFrame);
+    pLayout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    pFrame->setFrameShape(QFrame::StyledPanel);
+    return pLayout;
 }
 
 }  // namespace explorer

@@ -7,6 +7,8 @@
 #include <vector>
 
 class QFormLayout;
+class QFrame;
+class QVBoxLayout;
 
 namespace explorer {
 
@@ -31,5 +33,8 @@ ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QS
 
 /// A form whose labels and fields stand alike wherever it is.
 QFormLayout* MakeForm(QWidget* pWidget);
+
+/// Makes a frame the box of what belongs together; the layout takes it.
+QVBoxLayout* MakeBox(QFrame* pFrame);
 
 }  // namespace explorer
