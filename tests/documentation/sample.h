@@ -1,0 +1,39 @@
+#pragma once
+
+/** A namespace: the one comment that nobody has to miss. */
+namespace sample {
+
+/// A kind of thing.
+enum class Kind {
+    First,  ///< an enumerator
+    Second  ///< another one
+};
+
+/// A record.
+struct Record {
+    int number = 0;           ///< a field
+    Kind kind = Kind::First;  ///< another one
+};
+
+/// A class.
+class Reader {
+public:
+    /// A function without parameters.
+    static void Forget();
+
+    /// @param place a parameter
+    /// @param record another one
+    /// @return a result
+    static int Read(int place, Record& record);
+};
+
+/// @pack{record, its parameter}
+int PacketRecord(void* pReqParamData, const Record& record, int nServerId);
+
+/// @parse{record}
+int ParseRecord(int data, Record& record);
+
+/// A name for a type.
+using Number = int;
+
+}  // namespace sample
