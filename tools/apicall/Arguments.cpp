@@ -1,6 +1,7 @@
 #include "Arguments.h"
 
 #include "Options.h"
+#include "Texts.h"
 
 #include <nlohmann/json.hpp>
 
@@ -18,7 +19,7 @@ std::string ReadAll(std::istream& stream, const std::string& name)
     try {
         return {std::istreambuf_iterator<char>(stream), {}};
     } catch (const std::ios_base::failure&) {
-        throw WrongUsage("cannot read " + name);
+        throw WrongUsage(Filled(Texts::tr("cannot read %1"), name));
     }
 }
 
@@ -26,7 +27,7 @@ std::string ReadFile(const std::string& name)
 {
     std::ifstream file(name, std::ios::binary);
     if (!file) {
-        throw WrongUsage("cannot open " + name);
+        throw WrongUsage(Filled(Texts::tr("cannot open %1"), name));
     }
     return ReadAll(file, name);
 }
@@ -36,7 +37,8 @@ json ParseJson(const std::string& text, const std::string& what)
     try {
         return json::parse(text);
     } catch (const json::parse_error& error) {
-        throw WrongUsage(what + " is not JSON: " + error.what());
+        //: %1 is what was read, %2 the reason
+        throw WrongUsage(Filled(Texts::tr("%1 is not JSON: %2"), what, error.what()));
     }
 }
 
@@ -52,17 +54,18 @@ bool IsOneObject(const std::vector<std::string>& arguments)
 json OneObject(const std::vector<std::string>& arguments)
 {
     if (arguments.size() > 1) {
-        throw WrongUsage("nothing may follow the JSON object with the arguments");
+        throw WrongUsage(Filled(Texts::tr("nothing may follow the JSON object with the arguments")));
     }
     const std::string& argument = arguments.front();
     if (argument == "-") {
-        return ParseJson(ReadAll(std::cin, "standard input"), "standard input");
+        const std::string name = Filled(Texts::tr("standard input"));
+        return ParseJson(ReadAll(std::cin, name), name);
     }
     if (argument.front() == '@') {
         const std::string file = argument.substr(1);
         return ParseJson(ReadFile(file), file);
     }
-    return ParseJson(argument, "the argument");
+    return ParseJson(argument, Filled(Texts::tr("the argument")));
 }
 
 json ByName(const catalogue::Call& call, const std::vector<std::string>& arguments)
@@ -71,17 +74,18 @@ json ByName(const catalogue::Call& call, const std::vector<std::string>& argumen
     for (const std::string& argument : arguments) {
         const auto separator = argument.find('=');
         if (separator == std::string::npos) {
-            throw WrongUsage("argument \"" + argument + "\" is neither name=value nor a JSON object");
+            throw WrongUsage(Filled(Texts::tr("argument \"%1\" is neither name=value nor a JSON object"), argument));
         }
         const std::string name = argument.substr(0, separator);
         const std::string value = argument.substr(separator + 1);
         if (object.contains(name)) {
-            throw WrongUsage("argument \"" + name + "\" is given twice");
+            throw WrongUsage(Filled(Texts::tr("argument \"%1\" is given twice"), name));
         }
         const catalogue::Argument* known = call.FindArgument(name);
         const bool isJson = known != nullptr && known->type->kind != catalogue::Kind::Text;
-        object[name] =
-            isJson ? ParseJson(value, "argument \"" + name + "\" (" + NameOf(*known->type) + ")") : json(value);
+        //: %1 is the name, %2 the type
+        object[name] = isJson ? ParseJson(value, Filled(Texts::tr("argument \"%1\" (%2)"), name, NameOf(*known->type)))
+                              : json(value);
     }
     return object;
 }

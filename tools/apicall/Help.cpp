@@ -1,5 +1,7 @@
 #include "Help.h"
 
+#include "Texts.h"
+
 #include <algorithm>
 #include <sstream>
 
@@ -8,6 +10,7 @@ namespace {
 
 using catalogue::Call;
 using catalogue::Kind;
+using catalogue::Translated;
 using catalogue::Type;
 
 void WriteFields(std::ostream& out, const Type& type, const std::string& indent)
@@ -31,7 +34,7 @@ std::string ListOfCalls()
     }
     std::ostringstream out;
     for (const Call& call : catalogue::Calls()) {
-        out << call.name << std::string(longest - call.name.size() + 2, ' ') << call.summary << '\n';
+        out << call.name << std::string(longest - call.name.size() + 2, ' ') << Translated(call.summary) << '\n';
     }
     return out.str();
 }
@@ -39,16 +42,19 @@ std::string ListOfCalls()
 std::string HelpFor(const Call& call)
 {
     std::ostringstream out;
-    out << call.name << " (" << call.subject << ")\n" << call.summary << "\n\n";
+    out << call.name << " (" << Translated(call.subject) << ")\n" << Translated(call.summary) << "\n\n";
 
-    out << (call.arguments.empty() ? "Arguments: none\n" : "Arguments:\n");
+    out << Filled(call.arguments.empty() ? Texts::tr("Arguments: none") : Texts::tr("Arguments:")) << '\n';
     for (const catalogue::Argument& argument : call.arguments) {
         out << "  " << argument.name << ": " << NameOf(*argument.type) << '\n';
         WriteFields(out, *argument.type, "    ");
     }
 
-    out << "\nResult: " << (call.result == nullptr ? "none" : NameOf(*call.result)) << '\n';
-    if (call.result != nullptr) {
+    out << '\n';
+    if (call.result == nullptr) {
+        out << Filled(Texts::tr("Result: none")) << '\n';
+    } else {
+        out << Filled(Texts::tr("Result: %1"), NameOf(*call.result)) << '\n';
         WriteFields(out, *call.result, "  ");
     }
     return out.str();

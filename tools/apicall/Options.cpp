@@ -1,18 +1,19 @@
 #include "Options.h"
 
-#include <QUrl>
+#include "Texts.h"
 
-#include <CLI/CLI.hpp>
+#include <translation/CommandLine.h>
+
+#include <QUrl>
 
 #include <limits>
 
 namespace apicall {
 namespace {
 
-constexpr const char* kDescription =
-    "Runs one call of the library against a platform server and prints its record as JSON.";
-
-constexpr const char* kFooter = R"(Arguments of a call:
+std::string Footer()
+{
+    return Filled(Texts::tr(R"(Arguments of a call:
   name=value       a text as it stands, anything else as JSON
   {"name": value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
 
@@ -22,36 +23,46 @@ Examples:
   apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
 
 Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
-Exit status: 0 success, 1 failed call, 2 wrong usage.)";
+Exit status: 0 success, 1 failed call, 2 wrong usage.)"));
+}
 
 }  // namespace
 
 Options ReadOptions(int argc, char** argv)
 {
     Options options;
-    CLI::App app(kDescription, "apicall");
-    app.footer(kFooter);
+    CLI::App app(
+        Filled(Texts::tr("Runs one call of the library against a platform server and prints its record as JSON.")),
+        "apicall");
+    translation::TranslateHelp(app);
+    app.footer(Footer());
     app.set_help_flag();
-    app.add_flag("-h,--help", options.help, "Print this help, or the arguments and the result of CALL");
-    app.add_flag("-V,--version", options.version, "Print the version");
-    app.add_flag("-l,--list", options.list, "List the calls");
-    app.add_option("-s,--server", options.server, "Platform server: https://host[:port] or http://host[:port]");
-    app.add_option("-t,--token", options.token, "Session token; the environment keeps it out of the process list")
+    app.add_flag("-h,--help", options.help,
+                 Filled(Texts::tr("Print this help, or the arguments and the result of CALL")));
+    app.add_flag("-V,--version", options.version, Filled(Texts::tr("Print the version")));
+    app.add_flag("-l,--list", options.list, Filled(Texts::tr("List the calls")));
+    app.add_option("-s,--server", options.server,
+                   Filled(Texts::tr("Platform server: https://host[:port] or http://host[:port]")));
+    app.add_option("-t,--token", options.token,
+                   Filled(Texts::tr("Session token; the environment keeps it out of the process list")))
         ->envname("APICALL_TOKEN");
-    app.add_option("--language", options.language, "Language of the server's and of the error texts")
+    app.add_option("--language", options.language, Filled(Texts::tr("Language of the server's and of the error texts")))
         ->capture_default_str();
-    app.add_option("--server-id", options.settings.serverId, "Server identifier that the call is made with")
-        ->check(CLI::Range(-1, 1))
+    app.add_option("--server-id", options.settings.serverId,
+                   Filled(Texts::tr("Server identifier that the call is made with")))
+        ->check(translation::InRange(-1, 1))
         ->capture_default_str();
-    app.add_option("--timeout", options.settings.timeoutSeconds, "Longest wait, instead of the call's own 10 s")
-        ->check(CLI::Range(1, std::numeric_limits<int>::max()))
-        ->type_name("SECONDS");
-    app.add_option("CALL", options.call, "Name of the call");
-    app.add_option("ARGUMENT", options.arguments, "Arguments of the call");
+    app.add_option("--timeout", options.settings.timeoutSeconds,
+                   Filled(Texts::tr("Longest wait, instead of the call's own 10 s")))
+        ->check(translation::InRange(1, std::numeric_limits<int>::max()))
+        //: Stands for the value of --timeout
+        ->type_name(Filled(Texts::tr("SECONDS")));
+    app.add_option("CALL", options.call, Filled(Texts::tr("Name of the call")));
+    app.add_option("ARGUMENT", options.arguments, Filled(Texts::tr("Arguments of the call")));
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        throw WrongUsage(error.what());
+        throw WrongUsage(translation::Explain(app, error));
     }
     options.usage = app.help();
     return options;
@@ -59,22 +70,22 @@ Options ReadOptions(int argc, char** argv)
 
 Server ServerOf(const std::string& url)
 {
-    const auto refuse = [&url](const char* why) { throw WrongUsage("--server " + url + ": " + why); };
+    const auto refuse = [&url](const QString& why) { throw WrongUsage("--server " + url + ": " + Filled(why)); };
 
     const QUrl parsed(QString::fromStdString(url), QUrl::StrictMode);
     if (!parsed.isValid()) {
-        refuse("this is no URL");
+        refuse(Texts::tr("this is no URL"));
     }
     const bool https = parsed.scheme() == QLatin1String("https");
     if (!https && parsed.scheme() != QLatin1String("http")) {
-        refuse("it must begin with https:// or http://");
+        refuse(Texts::tr("it must begin with https:// or http://"));
     }
     const QString host = parsed.host(QUrl::FullyEncoded);
     if (host.isEmpty()) {
-        refuse("it names no host");
+        refuse(Texts::tr("it names no host"));
     }
     if (!parsed.userInfo().isEmpty() || parsed.path().size() > 1 || parsed.hasQuery() || parsed.hasFragment()) {
-        refuse("only a host and a port may follow the scheme");
+        refuse(Texts::tr("only a host and a port may follow the scheme"));
     }
 
     constexpr int kHttpsPort = 443;

@@ -2,19 +2,21 @@
 #include "Help.h"
 #include "OneServer.h"
 #include "Options.h"
+#include "Texts.h"
 
 #include <catalogue/Run.h>
+#include <translation/Application.h>
 
 #include <APIModule.h>
 #include <ErrorLexicon/ErrorLexicon.h>
-
-#include <QCoreApplication>
 
 #include <exception>
 #include <iostream>
 
 namespace {
 
+using apicall::Filled;
+using apicall::Texts;
 using apicall::WrongUsage;
 using catalogue::Outcome;
 
@@ -26,7 +28,7 @@ const catalogue::Call& NamedCall(const std::string& name)
 {
     const catalogue::Call* call = catalogue::FindCall(name);
     if (call == nullptr) {
-        throw WrongUsage("there is no call \"" + name + "\"; apicall --list names them");
+        throw WrongUsage(Filled(Texts::tr("there is no call \"%1\"; apicall --list names them"), name));
     }
     return *call;
 }
@@ -34,7 +36,7 @@ const catalogue::Call& NamedCall(const std::string& name)
 std::string FailureText(const Outcome& outcome)
 {
     if (outcome.result == 0) {
-        return "the reply was not confirmed";
+        return Filled(Texts::tr("the reply was not confirmed"));
     }
     if (!outcome.notification.empty()) {
         return outcome.notification;
@@ -61,17 +63,20 @@ int RunCall(const apicall::Options& options)
     const catalogue::Call& call = NamedCall(options.call);
     const auto arguments = apicall::ReadArguments(call, options.arguments);
     if (options.server.empty()) {
-        throw WrongUsage("--server is missing");
+        throw WrongUsage(Filled(Texts::tr("--server is missing")));
     }
     const Outcome outcome = Run(call, arguments, options, apicall::ServerOf(options.server));
     if (!outcome.Succeeded()) {
         const std::string text = FailureText(outcome);
-        std::cerr << "apicall: " << call.name << " failed with " << outcome.result << ": " << text << std::endl;
+        //: %1 is the call, %2 a code, %3 its text
+        std::cerr << "apicall: "
+                  << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.result), text)
+                  << std::endl;
         return kFailedCall;
     }
     std::cout << outcome.record.dump(4, ' ', false, nlohmann::json::error_handler_t::replace) << std::endl;
     if (!std::cout) {
-        std::cerr << "apicall: the result cannot be written" << std::endl;
+        std::cerr << "apicall: " << Filled(Texts::tr("the result cannot be written")) << std::endl;
         return kFailedCall;
     }
     return kSuccess;
@@ -87,7 +92,7 @@ int Main(int argc, char** argv)
     } else if (options.help) {
         std::cout << (options.call.empty() ? options.usage : apicall::HelpFor(NamedCall(options.call)));
     } else if (options.call.empty()) {
-        throw WrongUsage("no call is named; apicall --help tells how it is used");
+        throw WrongUsage(Filled(Texts::tr("no call is named; apicall --help tells how it is used")));
     } else {
         return RunCall(options);
     }
@@ -98,7 +103,7 @@ int Main(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    const QCoreApplication application(argc, argv);
+    const translation::Application application(argc, argv);
     try {
         return Main(argc, argv);
     } catch (const WrongUsage& error) {

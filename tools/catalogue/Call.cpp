@@ -1,5 +1,6 @@
 #include "Call.h"
 
+#include "detail/Texts.h"
 #include "families/Families.h"
 
 #include <nlohmann/json.hpp>
@@ -9,24 +10,33 @@
 namespace catalogue {
 namespace {
 
-std::string Expected(const Call& call)
+std::string NamesOfArguments(const Call& call)
 {
-    if (call.arguments.empty()) {
-        return "it takes none";
-    }
     std::string names;
     for (const Argument& argument : call.arguments) {
-        names += names.empty() ? "it takes " : ", ";
+        names += names.empty() ? "" : ", ";
         names += argument.name;
     }
     return names;
+}
+
+/// Ends with what the call takes instead.
+[[noreturn]] void RefuseArgument(const Call& call, const std::string& name)
+{
+    if (call.arguments.empty()) {
+        //: %1 is a call
+        throw Mismatch(Filled(Texts::tr("%1 has no argument \"%2\": it takes none"), call.name, name));
+    }
+    //: %1 is a call, %3 the names of its arguments
+    throw Mismatch(
+        Filled(Texts::tr("%1 has no argument \"%2\": it takes %3"), call.name, name, NamesOfArguments(call)));
 }
 
 void RefuseUnknown(const Call& call, const nlohmann::json& arguments)
 {
     for (const auto& item : arguments.items()) {
         if (call.FindArgument(item.key()) == nullptr) {
-            throw Mismatch(call.name + " has no argument \"" + item.key() + "\": " + Expected(call));
+            RefuseArgument(call, item.key());
         }
     }
 }
@@ -62,10 +72,16 @@ const Call* FindCall(std::string_view name)
     return found == calls.end() ? nullptr : &*found;
 }
 
+std::string Translated(std::string_view text)
+{
+    return QCoreApplication::translate("catalogue::Call", std::string(text).c_str()).toStdString();
+}
+
 std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& arguments)
 {
     if (!arguments.is_object()) {
-        throw Mismatch("the arguments of " + call.name + " must be a JSON object that holds each under its name");
+        throw Mismatch(
+            Filled(Texts::tr("the arguments of %1 must be a JSON object that holds each under its name"), call.name));
     }
     RefuseUnknown(call, arguments);
 
@@ -74,7 +90,9 @@ std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& argumen
         const std::string name(argument.name);
         const auto given = arguments.find(name);
         if (given == arguments.end()) {
-            throw Mismatch(call.name + " needs the argument \"" + name + "\" (" + NameOf(*argument.type) + ")");
+            //: %1 is a call, %3 a type
+            throw Mismatch(
+                Filled(Texts::tr("%1 needs the argument \"%2\" (%3)"), call.name, name, NameOf(*argument.type)));
         }
         values.emplace_back(*argument.type).Assign(*given, "/" + name);
     }

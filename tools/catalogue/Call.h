@@ -42,6 +42,9 @@ const std::vector<Call>& Calls();
 /// Null for an unknown name.
 const Call* FindCall(std::string_view name);
 
+/// The subject or the summary of a call in the user's language, as UTF-8.
+std::string Translated(std::string_view text);
+
 /// The arguments of a call in their order, from an object that holds each of them under its name. Throws Mismatch.
 std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& arguments);
 

@@ -1,5 +1,7 @@
 #include "Run.h"
 
+#include "detail/Texts.h"
+
 #include <APIModule.h>
 #include <OrnGui/OrnMessageNotify.h>
 
@@ -53,7 +55,9 @@ Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSett
 
     Outcome outcome;
     const QString tip =
-        settings.successTip.isEmpty() ? QString::fromStdString(call.name + " succeeded") : settings.successTip;
+        //: %1 is a call
+        settings.successTip.isEmpty() ? Texts::tr("%1 succeeded").arg(QString::fromStdString(call.name))
+                                      : settings.successTip;
     const QObject listener;
     QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
                      &ORNGUI::OrnMessageNotify::TextNotificationAdded, &listener,

@@ -1,5 +1,7 @@
 #include "Type.h"
 
+#include "detail/Texts.h"
+
 #include <algorithm>
 
 namespace catalogue {
@@ -23,11 +25,13 @@ std::string NameOf(const Type& type)
     case Kind::Double:
         return "double";
     case Kind::Text:
-        return "text";
+        //: A type beside bool, int, int64 and double
+        return Filled(Texts::tr("text"));
     case Kind::Record:
         return std::string(type.name);
     case Kind::List:
-        return "list of " + NameOf(*type.element);
+        //: %1 is the type of its elements
+        return Filled(Texts::tr("list of %1"), NameOf(*type.element));
     }
     return {};
 }

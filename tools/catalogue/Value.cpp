@@ -1,5 +1,7 @@
 #include "Value.h"
 
+#include "detail/Texts.h"
+
 #include <APIModuleGlobal.h>
 
 #include <nlohmann/json.hpp>
@@ -50,24 +52,24 @@ json Write(const Type& type, void* data)
     return nullptr;
 }
 
-const char* KindOf(const json& value)
+QString KindOf(const json& value)
 {
     switch (value.type()) {
     case json::value_t::boolean:
-        return "bool";
+        return QStringLiteral("bool");
     case json::value_t::number_integer:
     case json::value_t::number_unsigned:
-        return "integer";
+        return Texts::tr("integer");
     case json::value_t::number_float:
-        return "number that is no 64-bit integer";
+        return Texts::tr("number that is no 64-bit integer");
     case json::value_t::string:
-        return "text";
+        return Texts::tr("text");
     case json::value_t::array:
-        return "list";
+        return Texts::tr("list");
     case json::value_t::object:
-        return "object";
+        return Texts::tr("object");
     default:
-        return "null";
+        return QStringLiteral("null");
     }
 }
 
@@ -79,7 +81,8 @@ const char* KindOf(const json& value)
 void Require(bool fits, const Type& type, const json& value, const Pointer& where)
 {
     if (!fits) {
-        Fail(where, "expected " + NameOf(type) + ", got " + KindOf(value));
+        //: Both are types
+        Fail(where, Filled(Texts::tr("expected %1, got %2"), NameOf(type), Filled(KindOf(value))));
     }
 }
 
@@ -92,7 +95,8 @@ Integer ReadInteger(const Type& type, const json& value, const Pointer& where)
                           ? value.get<unsigned long long>() <= static_cast<unsigned long long>(Limits::max())
                           : value.get<int64>() >= Limits::min();
     if (!fits) {
-        Fail(where, value.dump() + " is out of the range of " + NameOf(type));
+        //: %1 is a number, %2 a type
+        Fail(where, Filled(Texts::tr("%1 is out of the range of %2"), value.dump(), NameOf(type)));
     }
     return value.get<Integer>();
 }
@@ -105,7 +109,8 @@ void ReadRecord(const Type& type, const json& value, void* data, const Pointer& 
     for (const auto& [name, item] : value.items()) {
         const Field* field = type.FindField(name);
         if (field == nullptr) {
-            Fail(where / name, NameOf(type) + " has no such field");
+            //: %1 is a type
+            Fail(where / name, Filled(Texts::tr("%1 has no such field"), NameOf(type)));
         }
         Read(*field->type, item, field->access(data), where / name);
     }

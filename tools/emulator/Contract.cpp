@@ -1,6 +1,7 @@
 #include "Contract.h"
 
 #include "Text.h"
+#include "Texts.h"
 
 #include <yaml-cpp/yaml.h>
 
@@ -59,7 +60,7 @@ Json JsonOf(const YAML::Node& node)
         json = Json::object();
         for (const auto& member : node) {
             if (!json.emplace(member.first.Scalar(), JsonOf(member.second)).second) {
-                throw ContractError("key '" + member.first.Scalar() + "' is there twice");
+                throw ContractError(Filled(Texts::tr("key '%1' is there twice"), member.first.Scalar()));
             }
         }
         return json;
@@ -125,23 +126,23 @@ private:
     {
         const std::string where = file + ": " + place;
         if (node.size() != 1 || !node.at("$ref").is_string()) {
-            throw ContractError(where + ": $ref is a text and stands alone");
+            throw ContractError(Filled(Texts::tr("%1: $ref is a text and stands alone"), where));
         }
         const std::string reference = node.at("$ref");
         const std::size_t mark = reference.find('#');
         const std::string targetFile = mark == 0 ? file : reference.substr(0, mark);
         if (mark == std::string::npos || m_documents.count(targetFile) == 0) {
-            throw ContractError(where + ": '" + reference + "' names no file of the contract");
+            throw ContractError(Filled(Texts::tr("%1: '%2' names no file of the contract"), where, reference));
         }
         const std::string pointer = reference.substr(mark + 1);
         if (!passed.insert(targetFile + "#" + pointer).second) {
-            throw ContractError(where + ": '" + reference + "' leads back to itself");
+            throw ContractError(Filled(Texts::tr("%1: '%2' leads back to itself"), where, reference));
         }
         const Json& document = m_documents.at(targetFile);
         try {
             return resolved(document.at(Json::json_pointer(pointer)), targetFile, pointer, std::move(passed));
         } catch (const Json::exception&) {
-            throw ContractError(where + ": '" + reference + "' leads nowhere");
+            throw ContractError(Filled(Texts::tr("%1: '%2' leads nowhere"), where, reference));
         }
     }
 
@@ -163,14 +164,14 @@ void RefuseOtherKeywords(const Json& schema, const std::string& where)
         return;
     }
     if (!schema.is_object()) {
-        throw ContractError(where + ": a schema is an object");
+        throw ContractError(Filled(Texts::tr("%1: a schema is an object"), where));
     }
     for (const auto& member : schema.items()) {
         const std::string& keyword = member.key();
         std::string place = where;
         place.append("/").append(keyword);
         if (SharedKeywords().count(keyword) == 0) {
-            throw ContractError(place + ": draft 7 and 2020-12 do not share this keyword");
+            throw ContractError(Filled(Texts::tr("%1: draft 7 and 2020-12 do not share this keyword"), place));
         }
         if (keyword == "properties" || keyword == "patternProperties" || keyword == "allOf" || keyword == "anyOf" ||
             keyword == "oneOf") {
@@ -214,10 +215,10 @@ const Json& SuccessOf(const Json& reply, const std::string& where)
             return envelope;
         }
     }
-    throw ContractError(where + ": no reply has the code 1000");
+    throw ContractError(Filled(Texts::tr("%1: no reply has the code 1000"), where));
 }
 
-std::vector<QueryParameter> QueryOf(const Json& path, const Json& operation, const std::string& where)
+std::vector<QueryParameter> DescribedQuery(const Json& path, const Json& operation, const std::string& where)
 {
     std::vector<QueryParameter> query;
     for (const Json* holder : {&path, &operation}) {
@@ -251,7 +252,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     return Operation{described.at("operationId"),
                      upper,
                      template_,
-                     QueryOf(path, described, where),
+                     DescribedQuery(path, described, where),
                      std::move(body),
                      SchemaOf(reply, where + "/responses/200"),
                      SchemaOf(success, where + "/responses/200"),
@@ -310,13 +311,14 @@ Contract Contract::Load(const std::filesystem::path& folder)
                     throw ContractError(where + ": " + error.what());
                 }
                 if (!known.insert(contract.m_operations.back().id).second) {
-                    throw ContractError(where + ": operation '" + contract.m_operations.back().id + "' is told twice");
+                    throw ContractError(
+                        Filled(Texts::tr("%1: operation '%2' is told twice"), where, contract.m_operations.back().id));
                 }
             }
         }
     }
     if (contract.m_operations.empty()) {
-        throw ContractError("no operation in the contract folder " + folder.string());
+        throw ContractError(Filled(Texts::tr("no operation in the contract folder %1"), folder.string()));
     }
     return contract;
 }

@@ -1,6 +1,7 @@
 #include "HttpListener.h"
 
 #include "Text.h"
+#include "Texts.h"
 
 #include <httplib.h>
 #include <poll.h>
@@ -285,7 +286,7 @@ public:
         set_read_timeout(kTransferSeconds);
         set_write_timeout(kTransferSeconds);
         set_keep_alive_timeout(kIdleMilliseconds / 1000);
-        set_keep_alive_max_count(1'000'000);
+        set_keep_alive_max_count(1000000);
         const auto answer = [this](const httplib::Request& request, httplib::Response& response) {
             this->answer(request, response);
         };
@@ -425,7 +426,7 @@ public:
         const bool any = port == 0;
         m_port = any ? m_engine.bind_to_any_port(address) : port;
         if (m_port <= 0 || (!any && !m_engine.bind_to_port(address, port))) {
-            throw std::runtime_error("cannot listen on " + address + ":" + std::to_string(port));
+            throw std::runtime_error(Filled(Texts::tr("cannot listen on %1"), address + ":" + std::to_string(port)));
         }
         m_engine.widenBacklog();
         std::future<void> listening = m_engine.listening();

@@ -8,7 +8,7 @@
 namespace emulator {
 namespace {
 
-constexpr std::size_t kMostRequests = 10'000;
+constexpr std::size_t kMostRequests = 10000;
 constexpr std::size_t kMostBodyBytes = 64UL * 1024 * 1024;
 
 Json PairsOf(const std::vector<std::pair<std::string, std::string>>& pairs)

@@ -1,5 +1,7 @@
 #include "State.h"
 
+#include "Texts.h"
+
 #include <algorithm>
 #include <fstream>
 #include <utility>
@@ -75,7 +77,7 @@ Json LoadSeeds(const std::filesystem::path& folder, int scale)
         state[entry.path().stem().string()] = std::move(family);
     }
     if (state.empty()) {
-        throw SeedError("no seed file in the folder " + folder.string());
+        throw SeedError(Filled(Texts::tr("no seed file in the folder %1"), folder.string()));
     }
     return state;
 }

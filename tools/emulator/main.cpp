@@ -1,13 +1,21 @@
 #include "PlatformEmulator.h"
+#include "Texts.h"
 
-#include <CLI/CLI.hpp>
+#include <translation/Application.h>
+#include <translation/CommandLine.h>
+
 #include <pthread.h>
 
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <optional>
+#include <stdexcept>
 
 namespace {
+
+using emulator::Filled;
+using emulator::Texts;
 
 constexpr int kWrongUse = 2;
 constexpr int kHighestPort = 65535;
@@ -43,41 +51,61 @@ int Run(const emulator::Options& options)
     return 0;
 }
 
+/// The exit status of a command line that ends the program, none for one that starts it.
+std::optional<int> Read(int argc, char** argv, emulator::Options& options)
+{
+    CLI::App app{Filled(Texts::tr("platform-emulator: a platform server to develop and test against. It answers the "
+                                  "services of the contract with state, over HTTP and HTTPS at once, and prints each "
+                                  "address when it listens.")),
+                 "platform-emulator"};
+    translation::TranslateHelp(app);
+    app.set_help_flag("-h,--help", Filled(Texts::tr("Print this help")));
+    app.set_version_flag("--version", std::string("platform-emulator ") + EMULATOR_VERSION,
+                         Filled(Texts::tr("Print the version")));
+    app.add_option("--address", options.address, Filled(Texts::tr("Address to listen on")))->capture_default_str();
+    app.add_option("--http-port", options.httpPort, Filled(Texts::tr("Port for HTTP, 0 for any free one")))
+        ->check(translation::InRange(0, kHighestPort))
+        ->capture_default_str();
+    app.add_option("--https-port", options.httpsPort, Filled(Texts::tr("Port for HTTPS, 0 for any free one")))
+        ->check(translation::InRange(0, kHighestPort))
+        ->capture_default_str();
+    app.add_option("--token", options.token,
+                   Filled(Texts::tr("Token that callers must send as X-Subject-Token (default: see docs/emulator.md)")))
+        ->check([](const std::string& token) { return token.empty() ? Filled(Texts::tr("is empty")) : std::string(); });
+    //: Stands for the value of --contract and of --seed
+    const std::string folder = Filled(Texts::tr("DIR"));
+    app.add_option("--contract", options.contract,
+                   Filled(Texts::tr("Folder of the contract (default: ../share/apimodule/contract)")))
+        ->check(translation::ExistingFolder())
+        ->type_name(folder);
+    app.add_option("--seed", options.seed,
+                   Filled(Texts::tr("Folder of the seed data (default: ../share/apimodule/seed)")))
+        ->check(translation::ExistingFolder())
+        ->type_name(folder);
+    app.add_option("--scale", options.scale, Filled(Texts::tr("Makes the seeded lists so many times as long")))
+        ->check(translation::InRange(1, kLargestScale))
+        ->capture_default_str();
+    app.add_flag("!--no-control", options.controlPath, Filled(Texts::tr("Refuse the control path /emulator/v1/")));
+    app.add_flag("--verbose", options.verbose, Filled(Texts::tr("Print a line for each request")));
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& success) {
+        return app.exit(success);
+    } catch (const CLI::ParseError& error) {
+        throw std::invalid_argument(translation::Explain(app, error));
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    emulator::Options options;
-    CLI::App app{"platform-emulator: a platform server to develop and test against. It answers the services of the "
-                 "contract with state, over HTTP and HTTPS at once, and prints each address when it listens.",
-                 "platform-emulator"};
-    app.set_version_flag("--version", std::string("platform-emulator ") + EMULATOR_VERSION);
-    app.add_option("--address", options.address, "Address to listen on")->capture_default_str();
-    app.add_option("--http-port", options.httpPort, "Port for HTTP, 0 for any free one")
-        ->check(CLI::Range(0, kHighestPort))
-        ->capture_default_str();
-    app.add_option("--https-port", options.httpsPort, "Port for HTTPS, 0 for any free one")
-        ->check(CLI::Range(0, kHighestPort))
-        ->capture_default_str();
-    app.add_option("--token", options.token,
-                   "Token that callers must send as X-Subject-Token (default: see docs/emulator.md)")
-        ->check([](const std::string& token) { return token.empty() ? "is empty" : ""; });
-    app.add_option("--contract", options.contract, "Folder of the contract (default: ../share/apimodule/contract)")
-        ->check(CLI::ExistingDirectory);
-    app.add_option("--seed", options.seed, "Folder of the seed data (default: ../share/apimodule/seed)")
-        ->check(CLI::ExistingDirectory);
-    app.add_option("--scale", options.scale, "Makes the seeded lists so many times as long")
-        ->check(CLI::Range(1, kLargestScale))
-        ->capture_default_str();
-    app.add_flag("!--no-control", options.controlPath, "Refuse the control path /emulator/v1/");
-    app.add_flag("--verbose", options.verbose, "Print a line for each request");
+    const translation::Application application(argc, argv);
     try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : kWrongUse;
-    }
-    try {
-        return Run(options);
+        emulator::Options options;
+        const std::optional<int> ended = Read(argc, argv, options);
+        return ended ? *ended : Run(options);
     } catch (const std::exception& error) {
         std::cerr << "platform-emulator: " << error.what() << std::endl;
         return kWrongUse;

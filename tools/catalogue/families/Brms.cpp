@@ -74,129 +74,160 @@ using Brms = APIModule::CBRMSModule;
 void AddBrmsCalls(std::vector<Call>& calls)
 {
     AddSubject(
-        calls, "System configuration",
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "System configuration"),
         {
             Entry<&Brms::PacketGetTimeSyncConfig, &Brms::ParseGetTimeSyncConfig>(
-                "Reads the time synchronisation settings"),
-            Entry<&Brms::PacketSetTimeSyncConfig>("Writes the time synchronisation settings", "config"),
-            Entry<&Brms::PacketImmediatelySyncTime>("Synchronises the time of all devices now"),
-            Entry<&Brms::PacketGetRemoteLogConfig, &Brms::ParseGetRemoteLogConfig>("Reads the remote log settings"),
-            Entry<&Brms::PacketSetRemoteLogConfig>("Writes the remote log settings", "config"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the time synchronisation settings")),
+            Entry<&Brms::PacketSetTimeSyncConfig>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Writes the time synchronisation settings"), "config"),
+            Entry<&Brms::PacketImmediatelySyncTime>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Synchronises the time of all devices now")),
+            Entry<&Brms::PacketGetRemoteLogConfig, &Brms::ParseGetRemoteLogConfig>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the remote log settings")),
+            Entry<&Brms::PacketSetRemoteLogConfig>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Writes the remote log settings"), "config"),
             Entry<&Brms::PacketGetDeviceLoginModel, &Brms::ParseGetDeviceLoginModel>(
-                "Reads the login model of devices"),
-            Entry<&Brms::PacketSetDeviceLoginModel>("Writes the login model of devices", "model"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the login model of devices")),
+            Entry<&Brms::PacketSetDeviceLoginModel>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Writes the login model of devices"), "model"),
             Entry<&Brms::PacketGetPushAppMsgConfig, &Brms::ParseGetPushAppMsgConfig>(
-                "Reads whether messages are pushed to the mobile app"),
-            Entry<&Brms::PacketSetPushAppMsgConfig>("Switches the push of messages to the mobile app", "enable"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads whether messages are pushed to the mobile app")),
+            Entry<&Brms::PacketSetPushAppMsgConfig>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Switches the push of messages to the mobile app"), "enable"),
             Entry<&Brms::PacketGetSupportDataBaseType, &Brms::ParseGetSupportDataBaseType>(
-                "Reads which outside databases are supported"),
-            Entry<&Brms::PacketGetLocalSetting, &Brms::ParseGetLocalSetting>("Reads one of the client's settings",
-                                                                             "settingType"),
-            Entry<&Brms::PacketUpdateLocalSetting>("Writes the client's setting", "apply", "content"),
-            Entry<&Brms::PacketGetAIPrivacyConfig, &Brms::ParseGetAIPrivacyConfig>("Reads the AI privacy switch"),
-            Entry<&Brms::PacketUpdateAIPrivacyConfig>("Sets the AI privacy switch", "enable"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads which outside databases are supported")),
+            Entry<&Brms::PacketGetLocalSetting, &Brms::ParseGetLocalSetting>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads one of the client's settings"), "settingType"),
+            Entry<&Brms::PacketUpdateLocalSetting>(QT_TRANSLATE_NOOP("catalogue::Call", "Writes the client's setting"),
+                                                   "apply", "content"),
+            Entry<&Brms::PacketGetAIPrivacyConfig, &Brms::ParseGetAIPrivacyConfig>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the AI privacy switch")),
+            Entry<&Brms::PacketUpdateAIPrivacyConfig>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Sets the AI privacy switch"), "enable"),
         });
-    AddSubject(calls, "Device and channel configuration",
+    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Device and channel configuration"),
                {
                    Entry<&Brms::PacketGetNetworkConfig, &Brms::ParseGetNetworkConfig>(
-                       "Reads the network settings of a device", "deviceCode"),
-                   Entry<&Brms::PacketUpdateNetworkConfig>("Writes the network settings of a device", "config"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the network settings of a device"), "deviceCode"),
+                   Entry<&Brms::PacketUpdateNetworkConfig>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the network settings of a device"), "config"),
                    Entry<&Brms::PacketGetEncodeConfig, &Brms::ParseGetEncodeConfig>(
-                       "Reads the encoding of a channel's streams", "channelId"),
-                   Entry<&Brms::PacketUpdateEncodeConfig>("Writes the encoding of a channel's streams", "channelId",
-                                                          "configs"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the encoding of a channel's streams"), "channelId"),
+                   Entry<&Brms::PacketUpdateEncodeConfig>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the encoding of a channel's streams"), "channelId",
+                       "configs"),
                    Entry<&Brms::PacketGetEncodeCapability, &Brms::ParseGetEncodeCapability>(
-                       "Reads what the encoder of a stream offers", "channelId", "streamType"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads what the encoder of a stream offers"), "channelId",
+                       "streamType"),
                    Entry<&Brms::PacketGetImageConfig, &Brms::ParseGetImageConfig>(
-                       "Reads the image adjustment of a channel", "channelId"),
-                   Entry<&Brms::PacketUpdateImageConfig>("Writes the image adjustment of a channel", "config"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the image adjustment of a channel"), "channelId"),
+                   Entry<&Brms::PacketUpdateImageConfig>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the image adjustment of a channel"), "config"),
                    Entry<&Brms::PacketGetMultiCastConfig, &Brms::ParseGetMultiCastConfig>(
-                       "Reads the multicast settings of a channel", "channelId"),
-                   Entry<&Brms::PacketSetMultiCastConfig>("Writes the multicast settings of a channel", "info"),
-                   Entry<&Brms::PacketSetMultiCastStreamStatus>("Switches the multicast of one stream", "status"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the multicast settings of a channel"), "channelId"),
+                   Entry<&Brms::PacketSetMultiCastConfig>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the multicast settings of a channel"), "info"),
+                   Entry<&Brms::PacketSetMultiCastStreamStatus>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Switches the multicast of one stream"), "status"),
                });
-    AddSubject(calls, "Device control",
+    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Device control"),
                {
                    Entry<&Brms::PacketBatchDiscoverDevices, &Brms::ParseBatchDiscoverDevices>(
-                       "Starts the discovery of several devices", "deviceCodes", "discoverMode"),
-                   Entry<&Brms::PacketAlarmOutputControl, &Brms::ParseChannelControl>("Switches alarm outputs",
-                                                                                      "channelIds", "on"),
-                   Entry<&Brms::PacketAudioLightControl, &Brms::ParseChannelControl>("Switches audio-light alarms",
-                                                                                     "channelIds", "on"),
-                   Entry<&Brms::PacketIPSpeakerControl, &Brms::ParseChannelControl>("Lets IP speakers play audio files",
-                                                                                    "control"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Starts the discovery of several devices"), "deviceCodes",
+                       "discoverMode"),
+                   Entry<&Brms::PacketAlarmOutputControl, &Brms::ParseChannelControl>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Switches alarm outputs"), "channelIds", "on"),
+                   Entry<&Brms::PacketAudioLightControl, &Brms::ParseChannelControl>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Switches audio-light alarms"), "channelIds", "on"),
+                   Entry<&Brms::PacketIPSpeakerControl, &Brms::ParseChannelControl>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lets IP speakers play audio files"), "control"),
                });
-    AddSubject(calls, "Server status warnings",
+    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Server status warnings"),
                {
                    Entry<&Brms::PacketCheckHotSpareWarning, &Brms::ParseCheckHotSpareWarning>(
-                       "Asks for a switch-over to the hot-spare server"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Asks for a switch-over to the hot-spare server")),
                    Entry<&Brms::PacketGetBasicServiceWarm, &Brms::ParseGetBasicServiceWarm>(
-                       "Asks whether only the basic services were started"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether only the basic services were started")),
                    Entry<&Brms::PacketGetDiskWarm, &Brms::ParseGetDiskWarm>(
-                       "Lists the servers with disks that raise warnings"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the servers with disks that raise warnings")),
                    Entry<&Brms::PacketGetMemoryOutOfServerList, &Brms::ParseGetMemoryOutOfServerList>(
-                       "Lists the servers that ran out of memory"),
-                   Entry<&Brms::PacketGetNetWorks, &Brms::ParseGetNetWorks>("Lists the networks that the system knows"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the servers that ran out of memory")),
+                   Entry<&Brms::PacketGetNetWorks, &Brms::ParseGetNetWorks>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the networks that the system knows")),
                });
     AddSubject(
-        calls, "User groups",
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "User groups"),
         {
-            Entry<&Brms::PacketGetUserGroupList, &Brms::ParseGetUserGroupList>("Lists the user groups", "keyword"),
-            Entry<&Brms::PacketGetUserGroup, &Brms::ParseGetUserGroup>("Reads one user group", "groupId"),
-            Entry<&Brms::PacketAddUserGroup, &Brms::ParseAddUserGroup>("Creates a user group", "group"),
-            Entry<&Brms::PacketUpdateUserGroup>("Renames or describes a user group", "groupId", "group"),
-            Entry<&Brms::PacketMoveUserGroup>("Moves users into one group", "move"),
-            Entry<&Brms::PacketClearUserGroup>("Empties a user group", "groupId"),
-            Entry<&Brms::PacketDeleteUserGroup>("Deletes user groups", "groupIds"),
+            Entry<&Brms::PacketGetUserGroupList, &Brms::ParseGetUserGroupList>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the user groups"), "keyword"),
+            Entry<&Brms::PacketGetUserGroup, &Brms::ParseGetUserGroup>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads one user group"), "groupId"),
+            Entry<&Brms::PacketAddUserGroup, &Brms::ParseAddUserGroup>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Creates a user group"), "group"),
+            Entry<&Brms::PacketUpdateUserGroup>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Renames or describes a user group"), "groupId", "group"),
+            Entry<&Brms::PacketMoveUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Moves users into one group"),
+                                              "move"),
+            Entry<&Brms::PacketClearUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Empties a user group"), "groupId"),
+            Entry<&Brms::PacketDeleteUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Deletes user groups"),
+                                                "groupIds"),
         });
     AddSubject(
-        calls, "Quick commands",
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "Quick commands"),
         {
-            Entry<&Brms::PacketAddQuickCommand>("Creates a quick command", "command"),
-            Entry<&Brms::PacketUpdateQuickCommand>("Changes a quick command", "command"),
-            Entry<&Brms::PacketDelQuickCommand>("Deletes quick commands", "ids"),
-            Entry<&Brms::PacketGetQuickCommand, &Brms::ParseGetQuickCommand>("Reads one quick command", "id"),
-            Entry<&Brms::PacketGetQuickCommands, &Brms::ParseGetQuickCommands>("Lists the quick commands", "keyword"),
+            Entry<&Brms::PacketAddQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Creates a quick command"),
+                                                "command"),
+            Entry<&Brms::PacketUpdateQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Changes a quick command"),
+                                                   "command"),
+            Entry<&Brms::PacketDelQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Deletes quick commands"), "ids"),
+            Entry<&Brms::PacketGetQuickCommand, &Brms::ParseGetQuickCommand>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads one quick command"), "id"),
+            Entry<&Brms::PacketGetQuickCommands, &Brms::ParseGetQuickCommands>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the quick commands"), "keyword"),
             Entry<&Brms::PacketGetAlarmPlanQuickCommands, &Brms::ParseGetAlarmPlanQuickCommands>(
-                "Lists the quick commands of an alarm plan", "planId"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the quick commands of an alarm plan"), "planId"),
         });
-    AddSubject(
-        calls, "Alarm and event information",
-        {
-            Entry<&Brms::PacketGetPageSummaryAlarmPlans, &Brms::ParseGetPageSummaryAlarmPlans>(
-                "Reads one page of the alarm plans", "query"),
-            Entry<&Brms::PacketGetAlarmLinkControlList, &Brms::ParseGetAlarmLinkControlList>(
-                "Reads what an alarm sets off", "sourceCode", "alarmType"),
-            Entry<&Brms::PacketGetAlarmLayerDetail, &Brms::ParseGetAlarmLayerDetail>(
-                "Reads the map layer on which an alarm resource lies", "resourceCode", "resourceType"),
-            Entry<&Brms::PacketGetAlarmHostFileInfo, &Brms::ParseGetAlarmHostFileInfo>(
-                "Reads the recorded files of an alarm", "alarmRecordId"),
-            Entry<&Brms::PacketGetAudioFileInfo, &Brms::ParseGetAudioFileInfo>(
-                "Asks for the state of an audio file task", "url", "body"),
-            Entry<&Brms::PacketGetPluginLogType, &Brms::ParseGetPluginLogType>("Lists the event types of plug-in logs"),
-            Entry<&Brms::PacketGetGeneralEvents, &Brms::ParseGetGeneralEvents>("Lists the general events", "query"),
-        });
-    AddSubject(calls, "Account and web access",
+    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Alarm and event information"),
                {
-                   Entry<&Brms::PacketGetChannelWebTunnel, &Brms::ParseGetChannelWebTunnel>(
-                       "Asks where the web page of a channel is reached", "channelId"),
-                   Entry<&Brms::PacketGetChannelWebAuthorization, &Brms::ParseGetChannelWebAuthorization>(
-                       "Asks how to log in to the web page of a channel", "channelId"),
-                   Entry<&Brms::PacketGetChannelWebEnablement, &Brms::ParseGetChannelWebEnablement>(
-                       "Asks whether a channel's web page may be opened", "channelId"),
-                   Entry<&Brms::PacketGetWebEnablement, &Brms::ParseGetWebEnablement>(
-                       "Asks whether a device's web page may be opened", "deviceCode"),
-                   Entry<&Brms::PacketGetMenuAvailable, &Brms::ParseGetMenuAvailable>(
-                       "Asks whether a menu is available", "menuCode"),
-                   Entry<&Brms::PacketGetDeriveToken, &Brms::ParseGetDeriveToken>(
-                       "Has a token derived from the account's session"),
-                   Entry<&Brms::PacketGetPermissionResourceCollection, &Brms::ParseGetPermissionResourceCollection>(
-                       "Reads what the account may use"),
-                   Entry<&Brms::PacketFunctionChannelCheck, &Brms::ParseFunctionChannelCheck>(
-                       "Asks whether the account may use a function on a channel", "check"),
-                   Entry<&Brms::PacketGetDeviceCategoryCount, &Brms::ParseGetGetDeviceCategoryCount>(
-                       "Counts the devices of each category", "query"),
+                   Entry<&Brms::PacketGetPageSummaryAlarmPlans, &Brms::ParseGetPageSummaryAlarmPlans>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads one page of the alarm plans"), "query"),
+                   Entry<&Brms::PacketGetAlarmLinkControlList, &Brms::ParseGetAlarmLinkControlList>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads what an alarm sets off"), "sourceCode", "alarmType"),
+                   Entry<&Brms::PacketGetAlarmLayerDetail, &Brms::ParseGetAlarmLayerDetail>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the map layer on which an alarm resource lies"),
+                       "resourceCode", "resourceType"),
+                   Entry<&Brms::PacketGetAlarmHostFileInfo, &Brms::ParseGetAlarmHostFileInfo>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the recorded files of an alarm"), "alarmRecordId"),
+                   Entry<&Brms::PacketGetAudioFileInfo, &Brms::ParseGetAudioFileInfo>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Asks for the state of an audio file task"), "url", "body"),
+                   Entry<&Brms::PacketGetPluginLogType, &Brms::ParseGetPluginLogType>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the event types of plug-in logs")),
+                   Entry<&Brms::PacketGetGeneralEvents, &Brms::ParseGetGeneralEvents>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the general events"), "query"),
                });
+    AddSubject(
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "Account and web access"),
+        {
+            Entry<&Brms::PacketGetChannelWebTunnel, &Brms::ParseGetChannelWebTunnel>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Asks where the web page of a channel is reached"), "channelId"),
+            Entry<&Brms::PacketGetChannelWebAuthorization, &Brms::ParseGetChannelWebAuthorization>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Asks how to log in to the web page of a channel"), "channelId"),
+            Entry<&Brms::PacketGetChannelWebEnablement, &Brms::ParseGetChannelWebEnablement>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether a channel's web page may be opened"), "channelId"),
+            Entry<&Brms::PacketGetWebEnablement, &Brms::ParseGetWebEnablement>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether a device's web page may be opened"), "deviceCode"),
+            Entry<&Brms::PacketGetMenuAvailable, &Brms::ParseGetMenuAvailable>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether a menu is available"), "menuCode"),
+            Entry<&Brms::PacketGetDeriveToken, &Brms::ParseGetDeriveToken>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Has a token derived from the account's session")),
+            Entry<&Brms::PacketGetPermissionResourceCollection, &Brms::ParseGetPermissionResourceCollection>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads what the account may use")),
+            Entry<&Brms::PacketFunctionChannelCheck, &Brms::ParseFunctionChannelCheck>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether the account may use a function on a channel"),
+                "check"),
+            Entry<&Brms::PacketGetDeviceCategoryCount, &Brms::ParseGetGetDeviceCategoryCount>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Counts the devices of each category"), "query"),
+        });
 }
 
 }  // namespace catalogue

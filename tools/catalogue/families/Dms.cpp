@@ -20,15 +20,17 @@ using Dms = APIModule::CDMSModule;
 void AddDmsCalls(std::vector<Call>& calls)
 {
     AddSubject(
-        calls, "PTZ",
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "PTZ"),
         {
-            Entry<&Dms::PackeWashOpen, &Dms::ParseWashOpen>("Switches the wash function of a channel on", "channelId"),
+            Entry<&Dms::PackeWashOpen, &Dms::ParseWashOpen>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Switches the wash function of a channel on"), "channelId"),
             Entry<&Dms::PackeBatchWashOpen, &Dms::ParseBatchWashOpen>(
-                "Switches the wash function of several channels on", "channelIds"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Switches the wash function of several channels on"),
+                "channelIds"),
             Entry<&Dms::PackeSetHomePosition, &Dms::ParseSetHomePosition>(
-                "Makes the position of a channel its home position", "channelId"),
-            Entry<&Dms::PackeGotoHomePosition, &Dms::ParseGotoHomePosition>("Moves a channel to its home position",
-                                                                            "channelId"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Makes the position of a channel its home position"), "channelId"),
+            Entry<&Dms::PackeGotoHomePosition, &Dms::ParseGotoHomePosition>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Moves a channel to its home position"), "channelId"),
         });
 }
 

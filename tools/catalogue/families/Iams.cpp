@@ -11,11 +11,11 @@ using Iams = APIModule::CIAMSModule;
 
 void AddIamsCalls(std::vector<Call>& calls)
 {
-    AddSubject(
-        calls, "Analysis tasks",
-        {
-            Entry<&Iams::PacketSetAnalysisTaskUploadFailed>("Marks the file uploads of tasks as failed", "taskIds"),
-        });
+    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Analysis tasks"),
+               {
+                   Entry<&Iams::PacketSetAnalysisTaskUploadFailed>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Marks the file uploads of tasks as failed"), "taskIds"),
+               });
 }
 
 }  // namespace catalogue

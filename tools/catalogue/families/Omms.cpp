@@ -27,13 +27,14 @@ using Omms = APIModule::COMMSModule;
 
 void AddOmmsCalls(std::vector<Call>& calls)
 {
-    AddSubject(calls, "Maintenance",
+    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Maintenance"),
                {
-                   Entry<&Omms::PacketGetAlertTypes, &Omms::ParseGetAlertTypes>("Lists the alert types"),
+                   Entry<&Omms::PacketGetAlertTypes, &Omms::ParseGetAlertTypes>(
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the alert types")),
                    Entry<&Omms::PacketGetChannelInfo, &Omms::ParseGetChannelInfo>(
-                       "Reads the maintenance view of a channel", "channelId"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the maintenance view of a channel"), "channelId"),
                    Entry<&Omms::PacketGetDeviceInfo, &Omms::ParseGetDeviceInfo>(
-                       "Reads the maintenance view of a device", "deviceCode"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the maintenance view of a device"), "deviceCode"),
                });
 }
 

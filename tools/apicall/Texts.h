@@ -1,0 +1,16 @@
+#pragma once
+
+#include <translation/Filled.h>
+
+#include <QCoreApplication>
+
+namespace apicall {
+
+/// What the program says, in the user's language.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(apicall)
+};
+
+using translation::Filled;
+
+}  // namespace apicall

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <translation/Filled.h>
+
+#include <QCoreApplication>
+
+namespace catalogue {
+
+/// What the catalogue says, in the user's language.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(catalogue)
+};
+
+using translation::Filled;
+
+}  // namespace catalogue

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <translation/Filled.h>
+
+#include <QCoreApplication>
+
+namespace emulator {
+
+/// What hinders a start, in the user's language.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(emulator)
+};
+
+using translation::Filled;
+
+}  // namespace emulator

@@ -1,0 +1,27 @@
+#include "Application.h"
+
+#include <QLocale>
+#include <QTranslator>
+
+#include <clocale>
+
+namespace translation {
+
+Application::Application(int& argc, char** argv) : m_application(argc, argv)
+{
+    // The application object takes all of the environment's locale, but numbers are the same in every language here.
+    std::setlocale(LC_NUMERIC, "C");
+
+    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/../share/apimodule/translations");
+    for (const char* name : {"apimodule", "tools"}) {
+        auto translator = std::make_unique<QTranslator>();
+        if (translator->load(QLocale::system(), QLatin1String(name), QStringLiteral("_"), folder)) {
+            QCoreApplication::installTranslator(translator.get());
+            m_translators.push_back(std::move(translator));
+        }
+    }
+}
+
+Application::~Application() = default;
+
+}  // namespace translation

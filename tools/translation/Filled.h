@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+namespace translation {
+
+/// A translated text as UTF-8, with the parts in the places of its %1, %2 and so on.
+template <typename... Parts>
+std::string Filled(const QString& text, const Parts&... parts)
+{
+    if constexpr (sizeof...(Parts) == 0) {
+        return text.toStdString();
+    } else {
+        return text.arg(QString::fromStdString(parts)...).toStdString();
+    }
+}
+
+}  // namespace translation
