@@ -3,7 +3,7 @@
 find_package(GTest REQUIRED)
 include(GoogleTest)
 set(APIMODULE_TEST_ENVIRONMENT
-    QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp")
+    QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANGUAGE=en "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp")
 function(apimodule_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
     if(NOT arg_TIMEOUT)

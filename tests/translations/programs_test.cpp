@@ -1,0 +1,169 @@
+// What apicall and platform-emulator say in the language of their environment.
+#include "support/Rows.h"
+
+#include <catalogue/Call.h>
+
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using testing_support::RowName;
+
+namespace {
+
+struct Texts {
+    const char* usage;
+    const char* options;
+    const char* noServer;
+    const char* noSuchCall;
+    const char* notExpected;
+    const char* outOfRange;
+    const char* wrongType;
+    const char* summary;
+    const char* noFolder;
+    const char* noSeed;
+};
+
+constexpr Texts kEnglish{
+    "Usage: ",
+    "Options:",
+    "--server is missing",
+    "there is no call \"NoCall\"; apicall --list names them",
+    "not expected: --no-such-option",
+    "--server-id: 7 is not a whole number from -1 to 1",
+    "/settingType: expected int, got text",
+    "Reads one of the client's settings",
+    "--seed: there is no folder /nowhere",
+    "no seed file in the folder /proc/self/task",
+};
+
+constexpr Texts kGerman{
+    "Aufruf: ",
+    "Optionen:",
+    "--server fehlt",
+    "es gibt keinen Aufruf „NoCall“; apicall --list nennt alle",
+    "nicht erwartet: --no-such-option",
+    "--server-id: 7 ist keine ganze Zahl von -1 bis 1",
+    "/settingType: erwartet: int, erhalten: Text",
+    "Liest eine der Einstellungen des Clients",
+    "--seed: es gibt keinen Ordner /nowhere",
+    "keine Datei mit Anfangsdaten im Ordner /proc/self/task",
+};
+
+constexpr Texts kChinese{
+    "用法: ",
+    "选项:",
+    "缺少 --server",
+    "没有名为“NoCall”的调用；apicall --list 可列出全部调用",
+    "多余的参数：--no-such-option",
+    "--server-id: 7 不是 -1 到 1 之间的整数",
+    "/settingType: 应为 int，实为 文本",
+    "读取客户端的一项设置",
+    "--seed: 文件夹 /nowhere 不存在",
+    "文件夹 /proc/self/task 中没有初始数据文件",
+};
+
+struct Environment {
+    const char* name;
+    const char* variable;
+    const char* value;
+    Texts texts;
+};
+
+struct Ended {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+class Programs : public testing::TestWithParam<Environment> {
+protected:
+    static Ended Run(const char* program, const QStringList& arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
+            environment.remove(QLatin1String(variable));
+        }
+        environment.insert(QLatin1String(GetParam().variable), QLatin1String(GetParam().value));
+
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QString::fromUtf8(program), arguments);
+        constexpr int kMilliseconds = 60000;
+        EXPECT_TRUE(process.waitForFinished(kMilliseconds)) << process.errorString().toStdString();
+        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+                process.readAllStandardError().toStdString()};
+    }
+
+    static Ended Apicall(const QStringList& arguments) { return Run(APICALL_FILE, arguments); }
+    static Ended Emulator(const QStringList& arguments) { return Run(EMULATOR_FILE, arguments); }
+
+    static void ExpectRefusal(const Ended& ended, const std::string& program, const char* text)
+    {
+        EXPECT_EQ(ended.status, 2);
+        EXPECT_EQ(ended.out, "");
+        EXPECT_EQ(ended.err, program + ": " + text + "\n");
+    }
+
+    static void ExpectLineWith(const std::string& out, const std::string& text)
+    {
+        EXPECT_NE(("\n" + out).find("\n" + text), std::string::npos) << out;
+    }
+};
+
+TEST_P(Programs, HelpIsTranslated)
+{
+    for (const Ended& ended : {Apicall({QStringLiteral("--help")}), Emulator({QStringLiteral("--help")})}) {
+        EXPECT_EQ(ended.status, 0);
+        ExpectLineWith(ended.out, GetParam().texts.usage);
+        ExpectLineWith(ended.out, GetParam().texts.options);
+    }
+}
+
+TEST_P(Programs, ErrorsAreTranslated)
+{
+    const Texts& texts = GetParam().texts;
+    const QString call = QStringLiteral("BRMS.GetLocalSetting");
+    ExpectRefusal(Apicall({call, QStringLiteral("settingType=3")}), "apicall", texts.noServer);
+    ExpectRefusal(Apicall({QStringLiteral("NoCall")}), "apicall", texts.noSuchCall);
+    ExpectRefusal(Apicall({QStringLiteral("--no-such-option")}), "apicall", texts.notExpected);
+    ExpectRefusal(Apicall({QStringLiteral("--server-id"), QStringLiteral("7"), call}), "apicall", texts.outOfRange);
+    ExpectRefusal(Apicall({call, QStringLiteral("settingType=\"3\"")}), "apicall", texts.wrongType);
+    ExpectRefusal(Emulator({QStringLiteral("--no-such-option")}), "platform-emulator", texts.notExpected);
+    ExpectRefusal(Emulator({QStringLiteral("--seed"), QStringLiteral("/nowhere")}), "platform-emulator",
+                  texts.noFolder);
+    ExpectRefusal(Emulator({QStringLiteral("--seed"), QStringLiteral("/proc/self/task")}), "platform-emulator",
+                  texts.noSeed);
+}
+
+TEST_P(Programs, TheListHasTheSameNamesInEveryLanguage)
+{
+    std::istringstream lines(Apicall({QStringLiteral("--list")}).out);
+    std::string line;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        ASSERT_TRUE(std::getline(lines, line)) << call.name;
+        EXPECT_EQ(line.substr(0, line.find(' ')), call.name);
+        if (call.name == "BRMS.GetLocalSetting") {
+            EXPECT_EQ(line.substr(line.find_first_not_of(' ', line.find(' '))), GetParam().texts.summary);
+        }
+    }
+    EXPECT_FALSE(std::getline(lines, line)) << line;
+}
+
+constexpr Environment kEnvironments[] = {
+    {"English", "LANG", "en_US.UTF-8", kEnglish},
+    {"German", "LANG", "de_DE.UTF-8", kGerman},
+    {"Chinese", "LANG", "zh_CN.UTF-8", kChinese},
+    {"Untranslated", "LANG", "fr_FR.UTF-8", kEnglish},
+    {"Plain", "LC_ALL", "C", kEnglish},
+    {"GermanForAll", "LC_ALL", "de_AT.UTF-8", kGerman},
+    {"ChineseMessages", "LC_MESSAGES", "zh_TW.UTF-8", kChinese},
+    {"EnglishBeforeGerman", "LANGUAGE", "en:de", kEnglish},
+    {"GermanBehindUntranslated", "LANGUAGE", "fr:de", kGerman},
+};
+
+INSTANTIATE_TEST_SUITE_P(Environments, Programs, testing::ValuesIn(kEnvironments), RowName());
+
+}  // namespace
