@@ -63,7 +63,8 @@ if(APIMODULE_BUILD_TOOLS)
 endif()
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/APIModuleConfig.cmake.in"
-    "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" INSTALL_DESTINATION "${package_folder}")
+    "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" INSTALL_DESTINATION "${package_folder}"
+    PATH_VARS APIMODULE_TRANSLATIONS_FOLDER)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/APIModuleConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" "${PROJECT_BINARY_DIR}/APIModuleConfigVersion.cmake"
     DESTINATION "${package_folder}" COMPONENT development)
