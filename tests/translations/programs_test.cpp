@@ -138,15 +138,17 @@ TEST_P(Programs, ErrorsAreTranslated)
                   texts.noSeed);
 }
 
-TEST_P(Programs, TheListHasTheSameNamesInEveryLanguage)
+TEST_P(Programs, TheListHasTheSameNamesInEveryLanguageAndATranslationOfEverySummary)
 {
     std::istringstream lines(Apicall({QStringLiteral("--list")}).out);
     std::string line;
     for (const catalogue::Call& call : catalogue::Calls()) {
         ASSERT_TRUE(std::getline(lines, line)) << call.name;
         EXPECT_EQ(line.substr(0, line.find(' ')), call.name);
+        const std::string summary = line.substr(line.find_first_not_of(' ', line.find(' ')));
+        EXPECT_EQ(summary == call.summary, std::string_view(GetParam().texts.usage) == kEnglish.usage) << line;
         if (call.name == "BRMS.GetLocalSetting") {
-            EXPECT_EQ(line.substr(line.find_first_not_of(' ', line.find(' '))), GetParam().texts.summary);
+            EXPECT_EQ(summary, GetParam().texts.summary);
         }
     }
     EXPECT_FALSE(std::getline(lines, line)) << line;

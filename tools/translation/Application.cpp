@@ -7,15 +7,19 @@
 
 namespace translation {
 
+QString Folder()
+{
+    return QCoreApplication::applicationDirPath() + QLatin1String("/../share/apimodule/translations");
+}
+
 Application::Application(int& argc, char** argv) : m_application(argc, argv)
 {
     // The application object takes all of the environment's locale, but numbers are the same in every language here.
     std::setlocale(LC_NUMERIC, "C");
 
-    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/../share/apimodule/translations");
     for (const char* name : {"apimodule", "tools"}) {
         auto translator = std::make_unique<QTranslator>();
-        if (translator->load(QLocale::system(), QLatin1String(name), QStringLiteral("_"), folder)) {
+        if (translator->load(QLocale::system(), QLatin1String(name), QStringLiteral("_"), Folder())) {
             QCoreApplication::installTranslator(translator.get());
             m_translators.push_back(std::move(translator));
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QString>
 
 #include <memory>
 #include <vector>
@@ -8,6 +9,9 @@
 class QTranslator;
 
 namespace translation {
+
+/// Where the translations lie, beside the folder of the program.
+QString Folder();
 
 /// The application object of a program for the shell, which speaks the language of the environment: LANGUAGE, or else
 /// LC_ALL, LC_MESSAGES or LANG. It speaks English where there is no translation.

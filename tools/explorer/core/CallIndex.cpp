@@ -74,8 +74,13 @@ Endpoints ReadEndpoints(const std::filesystem::path& contract)
 
 QString SearchText(const catalogue::Call& call)
 {
-    QStringList words{QString::fromStdString(call.name), ToText(call.summary), ToText(call.subject),
-                      ToText(call.packName), ToText(call.parseName)};
+    QStringList words{QString::fromStdString(call.name),
+                      ToText(call.summary),
+                      ToText(call.subject),
+                      ToText(call.packName),
+                      ToText(call.parseName),
+                      QString::fromStdString(catalogue::Translated(call.summary)),
+                      QString::fromStdString(catalogue::Translated(call.subject))};
     for (const catalogue::Argument& argument : call.arguments) {
         words.append(ToText(argument.name));
         AddFields(*argument.type, words);

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de">
+<TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name>explorer::ArgumentForm</name>
     <message>
@@ -92,7 +92,9 @@
     <message numerus="yes">
         <source>%n call(s)</source>
         <translation>
-            <numerusform>%n Aufruf</numerusform><numerusform>%n Aufrufe</numerusform></translation>
+            <numerusform>%n Aufruf</numerusform>
+            <numerusform>%n Aufrufe</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -218,7 +220,7 @@
         <translation>Der Emulator hat sich beendet: %1</translation>
     </message>
     <message>
-        <source>The token is in the desktop's secret service.</source>
+        <source>The token is in the desktop&apos;s secret service.</source>
         <translation>Das Token liegt im Geheimnisdienst des Desktops.</translation>
     </message>
     <message>
@@ -590,6 +592,10 @@
         <source>No data came for a record.</source>
         <translation>Es kamen keine Daten für einen Datensatz.</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
 </context>
 <context>
     <name>explorer::RunBar</name>
@@ -614,7 +620,7 @@
         <translation>&amp;Warten</translation>
     </message>
     <message>
-        <source>The call's own</source>
+        <source>The call&apos;s own</source>
         <translation>Die des Aufrufs</translation>
     </message>
     <message>
@@ -628,7 +634,9 @@
     <message numerus="yes">
         <source>%n call(s) waiting for the server</source>
         <translation>
-            <numerusform>%n Aufruf wartet auf den Server</numerusform><numerusform>%n Aufrufe warten auf den Server</numerusform></translation>
+            <numerusform>%n Aufruf wartet auf den Server</numerusform>
+            <numerusform>%n Aufrufe warten auf den Server</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -848,7 +856,7 @@
 <context>
     <name>explorer::TokenDialog</name>
     <message>
-        <source>Keep it in the desktop's secret service</source>
+        <source>Keep it in the desktop&apos;s secret service</source>
         <translation>Im Geheimnisdienst des Desktops aufbewahren</translation>
     </message>
     <message>

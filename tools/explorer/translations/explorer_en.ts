@@ -6,7 +6,9 @@
     <message numerus="yes">
         <source>%n call(s)</source>
         <translation>
-            <numerusform>%n call</numerusform><numerusform>%n calls</numerusform></translation>
+            <numerusform>%n call</numerusform>
+            <numerusform>%n calls</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -14,7 +16,9 @@
     <message numerus="yes">
         <source>%n call(s) waiting for the server</source>
         <translation>
-            <numerusform>%n call waiting for the server</numerusform><numerusform>%n calls waiting for the server</numerusform></translation>
+            <numerusform>%n call waiting for the server</numerusform>
+            <numerusform>%n calls waiting for the server</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="zh_CN">
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
     <name>explorer::ArgumentForm</name>
     <message>
@@ -92,7 +92,8 @@
     <message numerus="yes">
         <source>%n call(s)</source>
         <translation>
-            <numerusform>%n 个调用</numerusform></translation>
+            <numerusform>%n 个调用</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -218,7 +219,7 @@
         <translation>模拟器已退出：%1</translation>
     </message>
     <message>
-        <source>The token is in the desktop's secret service.</source>
+        <source>The token is in the desktop&apos;s secret service.</source>
         <translation>令牌已存入桌面的密钥服务。</translation>
     </message>
     <message>
@@ -590,6 +591,10 @@
         <source>No data came for a record.</source>
         <translation>没有收到用于记录的数据。</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
 </context>
 <context>
     <name>explorer::RunBar</name>
@@ -614,7 +619,7 @@
         <translation>等待方式(&amp;W)</translation>
     </message>
     <message>
-        <source>The call's own</source>
+        <source>The call&apos;s own</source>
         <translation>调用自身的</translation>
     </message>
     <message>
@@ -628,7 +633,8 @@
     <message numerus="yes">
         <source>%n call(s) waiting for the server</source>
         <translation>
-            <numerusform>%n 个调用正在等待服务器</numerusform></translation>
+            <numerusform>%n 个调用正在等待服务器</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -848,7 +854,7 @@
 <context>
     <name>explorer::TokenDialog</name>
     <message>
-        <source>Keep it in the desktop's secret service</source>
+        <source>Keep it in the desktop&apos;s secret service</source>
         <translation>保存到桌面的密钥服务</translation>
     </message>
     <message>

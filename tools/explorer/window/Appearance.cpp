@@ -1,5 +1,7 @@
 #include "Appearance.h"
 
+#include <translation/Application.h>
+
 #include <ErrorLexicon/ErrorLexicon.h>
 
 #include <QApplication>
@@ -162,7 +164,9 @@ void ApplyLanguage(const QString& language)
     Translators().clear();
     const QString toolkit = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
     Install(QStringLiteral("qtbase_") + toolkit, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    Install(QStringLiteral("explorer_") + language, QStringLiteral(":/explorer/translations"));
+    for (const char* name : {"apimodule", "orngui", "tools", "explorer"}) {
+        Install(QLatin1String(name) + QLatin1Char('_') + language, translation::Folder());
+    }
     QLocale::setDefault(QLocale(toolkit));
     ErrorLexicon::SetLanguage(language.toStdString());
 }

@@ -57,7 +57,7 @@ void CallHeader::Show(const catalogue::Call& call, const Endpoint& endpoint, boo
     m_pName->setText(ShortName(call));
     m_pEndpoint->setText(endpoint.method + QLatin1Char(' ') + path);
     m_pEndpoint->setVisible(!endpoint.path.isEmpty());
-    m_pSummary->setText(QString::fromUtf8(call.summary.data(), static_cast<int>(call.summary.size())));
+    m_pSummary->setText(QString::fromStdString(catalogue::Translated(call.summary)));
     m_pFavourite->setEnabled(true);
     m_pFavourite->setChecked(favourite);
 }

@@ -12,7 +12,6 @@
 static void TakeInResources()
 {
     Q_INIT_RESOURCE(explorer);
-    Q_INIT_RESOURCE(translations);
 }
 
 namespace explorer {
