@@ -125,7 +125,7 @@ QStandardItem* NewGroup(const QString& text)
 /// What is known of a call, in its item.
 void Describe(QStandardItem* pItem, const Call& call, const Endpoint& endpoint)
 {
-    const QString summary = QString::fromUtf8(call.summary.data(), int(call.summary.size()));
+    const QString summary = QString::fromStdString(catalogue::Translated(call.summary));
     const QStringList words{SearchText(call), endpoint.method, endpoint.path, endpoint.keys.join(QLatin1Char('\n'))};
     pItem->setData(words.join(QLatin1Char('\n')), kSearchRole);
     pItem->setData(endpoint.method, kMethodRole);
@@ -229,7 +229,7 @@ void CallPanel::Fill()
             pFamily = NewGroup(FamilyTitle(call.family));
             m_pModel->appendRow(pFamily);
         }
-        const QString subject = QString::fromUtf8(call.subject.data(), int(call.subject.size()));
+        const QString subject = QString::fromStdString(catalogue::Translated(call.subject));
         ChildWithText(pFamily, subject)->appendRow(NewItem(call, m_endpoints));
     }
     FillGroup(m_pFavouriteGroup, m_favourites);
