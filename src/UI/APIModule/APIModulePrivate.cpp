@@ -175,6 +175,7 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
     MoveTo(application.thread());
     m_pApplication = &application;
     m_pNetworkManager = new QNetworkAccessManager;
+    m_bQuitting = false;
     connect(&application, &QCoreApplication::aboutToQuit, this, [this] { m_bQuitting = true; });
     // The network manager has a thread of its own, which must not outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
