@@ -35,7 +35,7 @@ using Method_e = Method;
 struct RequestParam {
     int nPort = 443;                ///< TCP port of the server
     int nTimeout = 10;              ///< longest wait for the reply, in seconds; 0 or less does not wait for it
-    bool bHttps = true;             ///< https:// instead of http://
+    bool bHttps = true;             ///< HTTPS instead of HTTP
     bool bCompress = false;         ///< send the header "Compress-Type" with the value "1"
     Method eMethod = Method_Get;    ///< HTTP verb
     std::string strIp;              ///< host name or IP address, used as given (an IPv6 address needs its brackets)
