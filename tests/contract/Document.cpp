@@ -1,6 +1,7 @@
 #include "Document.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 
 namespace contract_tests {
 

@@ -5,8 +5,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <QJsonObject>
-
 #include <string>
 
 namespace contract_tests {

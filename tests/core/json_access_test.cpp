@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 using APIModule::CCommonFunc;
 using testing_support::LogLines;
 using testing_support::LogRecorder;

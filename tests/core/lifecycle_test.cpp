@@ -4,9 +4,9 @@
 #include "support/Waiting.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QTimer>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <thread>

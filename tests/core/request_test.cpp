@@ -2,11 +2,9 @@
 #include "support/Host.h"
 #include "support/Rows.h"
 
-#include <QHostAddress>
 #include <QMetaType>
 #include <QTimeZone>
 
-#include <climits>
 #include <stdexcept>
 
 using namespace testing_support;

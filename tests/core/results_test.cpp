@@ -5,7 +5,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTcpServer>
 
 #include <functional>
 #include <memory>

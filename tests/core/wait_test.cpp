@@ -20,7 +20,7 @@
 #include <QWindow>
 
 #include <climits>
-#include <memory>
+#include <functional>
 
 using namespace testing_support;
 using APIModule::CAPIModule;

@@ -1,6 +1,5 @@
 #include "FaultMatrix.h"
 
-#include <algorithm>
 #include <ostream>
 
 namespace testing_support {

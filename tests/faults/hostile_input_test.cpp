@@ -9,7 +9,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <functional>
 #include <string>
 
 using namespace testing_support;

@@ -11,8 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace testing_support {
 
 constexpr const char* kFacadeFile = "src/UI/APIModule/APIModule";

@@ -9,8 +9,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <QJsonArray>
-
 #include <set>
 
 using namespace testing_support;
