@@ -24,6 +24,7 @@ struct Texts {
     const char* summary;
     const char* noFolder;
     const char* noSeed;
+    const char* unreachable;
 };
 
 constexpr Texts kEnglish{
@@ -37,6 +38,7 @@ constexpr Texts kEnglish{
     "Reads one of the client's settings",
     "--seed: there is no folder /nowhere",
     "no seed file in the folder /proc/self/task",
+    "BRMS.GetTimeSyncConfig failed with -1: The server cannot be reached because of a network error",
 };
 
 constexpr Texts kGerman{
@@ -50,6 +52,7 @@ constexpr Texts kGerman{
     "Liest eine der Einstellungen des Clients",
     "--seed: es gibt keinen Ordner /nowhere",
     "keine Datei mit Anfangsdaten im Ordner /proc/self/task",
+    "BRMS.GetTimeSyncConfig ist fehlgeschlagen mit -1: Der Server ist wegen eines Netzwerkfehlers nicht erreichbar",
 };
 
 constexpr Texts kChinese{
@@ -63,6 +66,7 @@ constexpr Texts kChinese{
     "读取客户端的一项设置",
     "--seed: 文件夹 /nowhere 不存在",
     "文件夹 /proc/self/task 中没有初始数据文件",
+    "BRMS.GetTimeSyncConfig 失败，代码 -1：网络错误，无法连接服务器",
 };
 
 struct Environment {
@@ -136,6 +140,15 @@ TEST_P(Programs, ErrorsAreTranslated)
                   texts.noFolder);
     ExpectRefusal(Emulator({QStringLiteral("--seed"), QStringLiteral("/proc/self/task")}), "platform-emulator",
                   texts.noSeed);
+}
+
+TEST_P(Programs, AFailedCallIsToldInOneLanguage)
+{
+    const Ended ended = Apicall(
+        {QStringLiteral("--server"), QStringLiteral("http://127.0.0.1:0"), QStringLiteral("BRMS.GetTimeSyncConfig")});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.out, "");
+    ExpectLineWith(ended.err, std::string("apicall: ") + GetParam().texts.unreachable + "\n");
 }
 
 TEST_P(Programs, TheListHasTheSameNamesInEveryLanguageAndATranslationOfEverySummary)

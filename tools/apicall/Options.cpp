@@ -46,8 +46,8 @@ Options ReadOptions(int argc, char** argv)
     app.add_option("-t,--token", options.token,
                    Filled(Texts::tr("Session token; the environment keeps it out of the process list")))
         ->envname("APICALL_TOKEN");
-    app.add_option("--language", options.language, Filled(Texts::tr("Language of the server's and of the error texts")))
-        ->capture_default_str();
+    app.add_option("--language", options.language,
+                   Filled(Texts::tr("Language of the server's texts, otherwise English, and of the error texts")));
     app.add_option("--server-id", options.settings.serverId,
                    Filled(Texts::tr("Server identifier that the call is made with")))
         ->check(translation::InRange(-1, 1))

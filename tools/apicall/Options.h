@@ -23,7 +23,7 @@ struct Server {
 struct Options {
     std::string server;
     std::string token;
-    std::string language = "en";
+    std::string language;  ///< empty for English of the server and error texts in the program's language
     catalogue::RunSettings settings;
     std::string call;                    ///< name of the call, empty for none
     std::vector<std::string> arguments;  ///< as they were given

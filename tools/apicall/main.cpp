@@ -47,11 +47,12 @@ std::string FailureText(const Outcome& outcome)
 Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& arguments,
             const apicall::Options& options, const apicall::Server& server)
 {
-    ErrorLexicon::SetLanguage(options.language);
+    //: The code of this language, for the texts of error codes
+    ErrorLexicon::SetLanguage(options.language.empty() ? Filled(Texts::tr("en")) : options.language);
     apicall::OneServer users(server, options.token);
     auto& library = APIModule::CAPIModule::GetInstance();
     library.SetHttpsMode(server.https ? 1 : 0);
-    library.SetLanguage(options.language);
+    library.SetLanguage(options.language.empty() ? "en" : options.language);
     library.Init(&users);
     Outcome outcome = catalogue::Run(call, arguments, options.settings);
     library.UnInit();

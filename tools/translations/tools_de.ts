@@ -184,10 +184,6 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Token der Sitzung; aus der Umgebung genommen, erscheint es nicht in der Prozessliste</translation>
     </message>
     <message>
-        <source>Language of the server&apos;s and of the error texts</source>
-        <translation>Sprache der Texte des Servers und der Fehlertexte</translation>
-    </message>
-    <message>
         <source>Server identifier that the call is made with</source>
         <translation>Serverkennung, mit der der Aufruf erfolgt</translation>
     </message>
@@ -223,6 +219,15 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     <message>
         <source>only a host and a port may follow the scheme</source>
         <translation>auf das Schema dürfen nur Host und Port folgen</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of this language, for the texts of error codes</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
+        <translation>Sprache der Texte des Servers, sonst Englisch, und der Fehlertexte</translation>
     </message>
 </context>
 <context>

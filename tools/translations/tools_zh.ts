@@ -184,10 +184,6 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <translation>会话令牌；通过环境变量给出时不会出现在进程列表中</translation>
     </message>
     <message>
-        <source>Language of the server&apos;s and of the error texts</source>
-        <translation>服务器文本和错误文本的语言</translation>
-    </message>
-    <message>
         <source>Server identifier that the call is made with</source>
         <translation>调用所用的服务器标识</translation>
     </message>
@@ -223,6 +219,15 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
     <message>
         <source>only a host and a port may follow the scheme</source>
         <translation>协议之后只能是主机和端口</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of this language, for the texts of error codes</extracomment>
+        <translation>zh</translation>
+    </message>
+    <message>
+        <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
+        <translation>服务器文本（默认英语）和错误文本的语言</translation>
     </message>
 </context>
 <context>
