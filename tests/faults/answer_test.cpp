@@ -72,6 +72,8 @@ const std::vector<Fault> kFaults = {
     {"length_no_number", Answers(WithHeaders("Content-Length: all\r\n", kBody, RawAnswer::Close)), Succeeds()},
     {"without_length", Answers(WithHeaders("", kBody, RawAnswer::Close)), Succeeds()},
     {"chunked", Answers(Chunked(Chunk() + "0\r\n\r\n")), Succeeds()},
+    {"chunked_beside_a_length",
+     Answers(WithHeaders("Transfer-Encoding: chunked\r\nContent-Length: 500\r\n", Chunk() + "0\r\n\r\n")), Succeeds()},
     {"chunk_size_no_number", Answers(Chunked("xyz\r\n" + kBody + "\r\n0\r\n\r\n")), EnvelopeFails(-1)},
     {"chunk_size_negative", Answers(Chunked("-5\r\n" + kBody + "\r\n0\r\n\r\n")), EnvelopeFails(-1)},
     {"chunk_size_beyond_64_bits", Answers(Chunked("fffffffffffffffff\r\n" + kBody + "\r\n0\r\n\r\n")),
