@@ -338,7 +338,7 @@ void ArgumentFormTest::LabelsLeadToTheirFields()
 
 void ArgumentFormTest::ANarrowPaneShowsWholeForms()
 {
-    constexpr QSize kPaneOfASmallWindow(360, 400);
+    constexpr QSize kPaneOfASmallWindow(336, 400);
     ArgumentForm form;
     form.resize(kPaneOfASmallWindow);
     form.show();
@@ -484,7 +484,7 @@ void ArgumentFormTest::Screenshots()
     form.SetCall(Call("BRMS.AddQuickCommand"));
     form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
     TakeScreenshots(form, QStringLiteral("form-records"), QSize(640, 860));
-    TakeScreenshots(form, QStringLiteral("form-narrow"), QSize(360, 860));
+    TakeScreenshots(form, QStringLiteral("form-narrow"), QSize(336, 860));
 }
 
 int main(int argc, char** argv)

@@ -11,7 +11,7 @@
 
 #include <QClipboard>
 #include <QLabel>
-#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -41,7 +41,7 @@ const CodeView& Page(const RequestView& view, const char* name)
 
 QString Target(const RequestView& view)
 {
-    return view.findChild<QLineEdit*>(QStringLiteral("target"))->text();
+    return view.findChild<QPlainTextEdit*>(QStringLiteral("target"))->toPlainText();
 }
 
 QStringList HeadersOf(const RequestView& view)

@@ -42,11 +42,13 @@ private slots:
     void TheTreeShowsNameValueAndType();
     void TheTreeStandsInTheOrderOfTheFields();
     void EveryCallsFreshRecordHasATree();
+    void NamesAndTypesOfTheTreeAreWhole();
     void ALargeRecordOpensItsFirstLevelOnly();
     void TheJsonIsCopiedWhole();
     void JsonHasColoursThatFollowThePalette();
     void TheTableHasARowForEachElement();
     void ColumnsSortByValue();
+    void TextsSortAsPeopleDo();
     void TheFilterLooksInEveryColumn();
     void TotalsAreThoseOfTheRowsShown();
     void TotalsStandUnderTheirColumns();
@@ -149,7 +151,9 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
     const QModelIndex root = model.index(0, 0);
     QCOMPARE(model.rowCount(), 1);
     QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result||AlarmLinkControl"));
-    QCOMPARE(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|Elements: 1|list of AlarmLinkChannel"));
+    QCOMPARE(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|Elements: 1|AlarmLinkChannel[]"));
+    QCOMPARE(model.index(0, RecordModel::TypeColumn, root).data(Qt::ToolTipRole).toString(),
+             QStringLiteral("list of AlarmLinkChannel"));
     const QModelIndex audio = model.index(2, 0, root);
     QCOMPARE(TextOf(model, audio, 1), QStringLiteral("[1]||AlarmLinkAudioChannel"));
     const QModelIndex horn = model.index(1, 0, audio);
@@ -157,7 +161,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
 
     const CallOutcome plain = view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1]");
     model.SetRecord(*plain.call->result, plain.record);
-    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|Elements: 2|list of int"));
+    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|Elements: 2|int[]"));
     QCOMPARE(TextOf(model, model.index(0, 0), 1), QStringLiteral("[1]|1|int"));
 
     model.Clear();
@@ -187,6 +191,23 @@ void ResultViewTest::EveryCallsFreshRecordHasATree()
             QCOMPARE(model.rowCount(model.index(0, 0)), int(call.result->fields.size()));
         }
     }
+}
+
+void ResultViewTest::NamesAndTypesOfTheTreeAreWhole()
+{
+    constexpr QSize kPaneOfASmallWindow(560, 400);
+    ResultView view;
+    view.resize(kPaneOfASmallWindow);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.Show(view_test::AlarmLinkage());
+    auto& tree = *view.findChild<QTreeView*>();
+    for (const int column : {RecordModel::NameColumn, RecordModel::TypeColumn}) {
+        const int width = tree.columnWidth(column);
+        tree.resizeColumnToContents(column);
+        QVERIFY(width >= tree.columnWidth(column));
+    }
+    QCOMPARE(tree.header()->length(), tree.viewport()->width());
 }
 
 void ResultViewTest::ALargeRecordOpensItsFirstLevelOnly()
@@ -278,6 +299,20 @@ void ResultViewTest::ColumnsSortByValue()
     QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
     view.sortByColumn(ColumnNamed(view, "parkingLotName"), Qt::DescendingOrder);
     QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1")}));
+}
+
+void ResultViewTest::TextsSortAsPeopleDo()
+{
+    RecordTable table;
+    Set(table, view_test::Succeeded("BRMS.GetMemoryOutOfServerList", "{}",
+                                    R"(["10", "9", "b", "A", "18446744073709551616", "Gate 10", "gate 9",
+                                        "1000021$1$0$10", "1000021$1$0$2"])"));
+    QTableView& view = TableOf(table);
+    view.sortByColumn(0, Qt::AscendingOrder);
+    QCOMPARE(ColumnOf(view, "Value"),
+             (QStringList{QStringLiteral("9"), QStringLiteral("10"), QStringLiteral("1000021$1$0$2"),
+                          QStringLiteral("1000021$1$0$10"), QStringLiteral("18446744073709551616"), QStringLiteral("A"),
+                          QStringLiteral("b"), QStringLiteral("gate 9"), QStringLiteral("Gate 10")}));
 }
 
 void ResultViewTest::TheFilterLooksInEveryColumn()

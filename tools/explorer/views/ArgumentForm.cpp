@@ -175,7 +175,7 @@ void ArgumentForm::OnChanged()
 
 void ArgumentForm::OrderTabs()
 {
-    QList<QWidget*> stops;
+    QList<QWidget*> stops{m_pArea};
     for (const auto& [name, pEditor] : m_editors) {
         stops += pEditor->TabStops();
     }

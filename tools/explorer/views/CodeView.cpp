@@ -20,7 +20,7 @@ constexpr int kLongestShown = 200000;
 
 CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
     : QWidget(pParent), m_pEdit(new QPlainTextEdit), m_pShortened(new TintedLabel(theme::Hint)),
-      m_pCopy(new QPushButton(tr("&Copy")))
+      m_pCopy(new QPushButton(tr("C&opy")))
 {
     m_pEdit->setReadOnly(true);
     m_pEdit->setPlaceholderText(hint);

@@ -1,6 +1,11 @@
 #include "RecordModel.h"
 
 #include "Json.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
 
 #include <vector>
 
@@ -42,6 +47,46 @@ struct RecordModel::Node {
     const json* value;
     std::vector<std::unique_ptr<Node>> children;
 };
+
+namespace {
+
+/// Types stand back behind names and values.
+QVariant TypeData(const Type& type, int role)
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return type.kind == Kind::List ? QString::fromStdString(NameOf(*type.element)) + QLatin1String("[]")
+                                       : QString::fromStdString(NameOf(type));
+    case Qt::ToolTipRole:
+        return QString::fromStdString(NameOf(type));
+    case Qt::FontRole: {
+        constexpr double kSmaller = 0.85;
+        QFont font = QApplication::font("QTreeView");
+        font.setPointSizeF(font.pointSizeF() * kSmaller);
+        return font;
+    }
+    case Qt::ForegroundRole:
+        return theme::Hint(QApplication::palette());
+    default:
+        return {};
+    }
+}
+
+QString ValueText(const Type& type, const json& value)
+{
+    switch (type.kind) {
+    case Kind::Record:
+        return {};
+    case Kind::List:
+        return RecordModel::tr("Elements: %1").arg(value.size());
+    case Kind::Text:
+        return QString::fromStdString(value.get_ref<const std::string&>());
+    default:
+        return CompactJsonText(value);
+    }
+}
+
+}  // namespace
 
 RecordModel::RecordModel(QObject* pParent) : QAbstractItemModel(pParent) {}
 
@@ -93,28 +138,17 @@ int RecordModel::columnCount(const QModelIndex& /*parent*/) const
 
 QVariant RecordModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+    if (!index.isValid()) {
         return {};
     }
     const Node& node = NodeOf(index);
-    switch (index.column()) {
-    case NameColumn:
-        return node.name;
-    case TypeColumn:
-        return QString::fromStdString(NameOf(*node.type));
-    default:
-        break;
+    if (index.column() == TypeColumn) {
+        return TypeData(*node.type, role);
     }
-    switch (node.type->kind) {
-    case Kind::Record:
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
         return {};
-    case Kind::List:
-        return tr("Elements: %1").arg(node.value->size());
-    case Kind::Text:
-        return QString::fromStdString(node.value->get_ref<const std::string&>());
-    default:
-        return CompactJsonText(*node.value);
     }
+    return index.column() == NameColumn ? node.name : ValueText(*node.type, *node.value);
 }
 
 QVariant RecordModel::headerData(int section, Qt::Orientation orientation, int role) const

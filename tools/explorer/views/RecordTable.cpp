@@ -39,7 +39,6 @@ RecordTable::RecordTable(QWidget* pParent)
     m_shown.setSortRole(RecordTableModel::kSortRole);
     m_shown.setFilterKeyColumn(-1);
     m_shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_shown.setSortCaseSensitivity(Qt::CaseInsensitive);
 
     m_pList->setObjectName(QStringLiteral("list"));
     m_pFilter->setObjectName(QStringLiteral("filter"));

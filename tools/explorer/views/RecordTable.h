@@ -1,8 +1,8 @@
 #pragma once
 
+#include "NaturalOrder.h"
 #include "RecordTableModel.h"
 
-#include <QSortFilterProxyModel>
 #include <QWidget>
 
 class QComboBox;
@@ -38,7 +38,7 @@ private:
     nlohmann::json m_record;
     std::vector<ListInRecord> m_lists;
     RecordTableModel m_model;
-    QSortFilterProxyModel m_shown;
+    NaturalOrder m_shown;
     QLabel* m_pListLabel;
     QComboBox* m_pList;
     QLineEdit* m_pFilter;

@@ -4,6 +4,7 @@
 #include "CppLines.h"
 #include "CurlLine.h"
 #include "Json.h"
+#include "RoomyDelegate.h"
 #include "Theme.h"
 #include "TintedLabel.h"
 
@@ -12,7 +13,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -32,7 +33,7 @@ QString Pretty(const QByteArray& body)
 }  // namespace
 
 RequestView::RequestView(QWidget* pParent)
-    : QWidget(pParent), m_pPages(new QStackedWidget), m_pTarget(new QLineEdit), m_pHeaders(new QTreeWidget),
+    : QWidget(pParent), m_pPages(new QStackedWidget), m_pTarget(new QPlainTextEdit), m_pHeaders(new QTreeWidget),
       m_pNotSeen(new TintedLabel(theme::Hint)),
       m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
       m_pCurl(new CodeView(CodeView::Kind::Text, tr("No request was made."))),
@@ -41,6 +42,12 @@ RequestView::RequestView(QWidget* pParent)
     m_pTarget->setObjectName(QStringLiteral("target"));
     m_pTarget->setReadOnly(true);
     m_pTarget->setFont(theme::FixedFont());
+    m_pTarget->setWordWrapMode(QTextOption::WrapAnywhere);
+    m_pTarget->setTabChangesFocus(true);
+    m_pTarget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    constexpr int kLines = 2;  // longer ones scroll
+    constexpr int kFrame = 10;
+    m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + kFrame);
     m_pTarget->setPlaceholderText(tr("No request was made."));
     m_pHeaders->setObjectName(QStringLiteral("headers"));
     m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
@@ -48,6 +55,7 @@ RequestView::RequestView(QWidget* pParent)
     m_pHeaders->setAlternatingRowColors(true);
     m_pHeaders->setAllColumnsShowFocus(true);
     m_pHeaders->setFrameShape(QFrame::NoFrame);
+    m_pHeaders->setItemDelegate(new RoomyDelegate(m_pHeaders));
     m_pNotSeen->setContentsMargins(kMargin, 0, kMargin, kMargin);
     m_pNotSeen->setText(tr("The headers are those that the library sets; the connection adds its own."));
     m_pBody->setObjectName(QStringLiteral("body"));
@@ -62,7 +70,7 @@ RequestView::RequestView(QWidget* pParent)
 
     auto* pTabs = new QTabWidget;
     pTabs->setDocumentMode(true);
-    pTabs->addTab(pHeaderPage, tr("&Headers"));
+    pTabs->addTab(pHeaderPage, tr("Hea&ders"));
     pTabs->addTab(m_pBody, tr("&Body"));
     pTabs->addTab(m_pCurl, tr("c&url"));
     pTabs->addTab(m_pCpp, tr("C&++"));
@@ -71,7 +79,7 @@ RequestView::RequestView(QWidget* pParent)
     pTargetLabel->setBuddy(m_pTarget);
     auto* pTargetRow = new QHBoxLayout;
     pTargetRow->setContentsMargins(kMargin, kMargin, kMargin, 0);
-    pTargetRow->addWidget(pTargetLabel);
+    pTargetRow->addWidget(pTargetLabel, 0, Qt::AlignTop);
     pTargetRow->addWidget(m_pTarget, 1);
     auto* pPage = new QWidget;
     auto* pPageLayout = new QVBoxLayout(pPage);
@@ -104,9 +112,8 @@ void RequestView::Show(const CallOutcome& outcome)
 void RequestView::ShowRequest(const SentRequest& request)
 {
     const bool wasMade = !request.method.isEmpty();
-    m_pTarget->setText(wasMade ? request.method + QLatin1Char(' ') + request.url : QString());
-    m_pTarget->setCursorPosition(0);
-    m_pTarget->setToolTip(m_pTarget->text());
+    m_pTarget->setPlainText(wasMade ? request.method + QLatin1Char(' ') + request.url : QString());
+    m_pTarget->setToolTip(m_pTarget->toPlainText());
     m_pHeaders->clear();
     for (const Header& header : request.headers) {
         auto* pItem = new QTreeWidgetItem(m_pHeaders, {header.name, header.value});

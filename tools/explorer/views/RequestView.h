@@ -3,7 +3,7 @@
 #include <QWidget>
 
 class QLabel;
-class QLineEdit;
+class QPlainTextEdit;
 class QStackedWidget;
 class QTreeWidget;
 
@@ -27,7 +27,7 @@ private:
     void ShowRequest(const SentRequest& request);
 
     QStackedWidget* m_pPages;
-    QLineEdit* m_pTarget;
+    QPlainTextEdit* m_pTarget;
     QTreeWidget* m_pHeaders;
     QLabel* m_pNotSeen;
     CodeView* m_pBody;

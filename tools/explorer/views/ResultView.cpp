@@ -3,6 +3,7 @@
 #include "CodeView.h"
 #include "Json.h"
 #include "RecordTable.h"
+#include "RoomyDelegate.h"
 #include "Theme.h"
 #include "TintedLabel.h"
 
@@ -36,14 +37,12 @@ void Open(QTreeView& tree, int textLength)
     } else {
         tree.expandToDepth(0);
     }
-    for (const int column : {RecordModel::NameColumn, RecordModel::ValueColumn}) {
-        constexpr int kWidest = 360;
-        constexpr int kRoom = 12;
+    for (const int column : {RecordModel::NameColumn, RecordModel::TypeColumn}) {
+        constexpr int kWidest = 260;
+        constexpr int kRoom = 8;
         tree.resizeColumnToContents(column);
         tree.setColumnWidth(column, qMin(tree.columnWidth(column) + kRoom, kWidest));
     }
-    constexpr int kNarrow = 64;  // takes all that the others leave
-    tree.setColumnWidth(RecordModel::TypeColumn, kNarrow);
 }
 
 }  // namespace
@@ -60,6 +59,14 @@ ResultView::ResultView(QWidget* pParent)
     m_pTree->setAllColumnsShowFocus(true);
     m_pTree->setTextElideMode(Qt::ElideRight);
     m_pTree->setFrameShape(QFrame::NoFrame);
+    m_pTree->setObjectName(QStringLiteral("record"));
+    m_pTree->setAccessibleName(tr("Record"));
+    m_pTree->setItemDelegate(new RoomyDelegate(m_pTree));
+    constexpr int kIndentation = 14;
+    m_pTree->setIndentation(kIndentation);
+    // The values have all that names and types leave.
+    m_pTree->header()->setStretchLastSection(false);
+    m_pTree->header()->setSectionResizeMode(RecordModel::ValueColumn, QHeaderView::Stretch);
 
     m_pIncomplete->setText(tr("The reply is not complete: the connection ended or the time was over before."));
     m_pIncomplete->setContentsMargins(12, 8, 12, 0);
@@ -73,7 +80,7 @@ ResultView::ResultView(QWidget* pParent)
     m_pTreePages = AddTab(m_pTree, m_pTreeHint, tr("&Record"));
     m_pTabs->addTab(m_pJson, tr("&JSON"));
     m_pTablePages = AddTab(m_pTable, m_pTableHint, tr("&Table"));
-    m_pTabs->addTab(pReplyPage, tr("Ra&w reply"));
+    m_pTabs->addTab(pReplyPage, tr("Raw repl&y"));
     m_pTabs->setDocumentMode(true);
 
     auto* pLayout = new QVBoxLayout(this);

@@ -20,6 +20,21 @@ QColor Mixed(const QColor& first, const QColor& second, double share)
                             mix(first.blueF(), second.blueF()));
 }
 
+QColor Blue(const QPalette& palette)
+{
+    return Chosen(palette, 0xFF0B57A4, 0xFF8AB4F8);
+}
+
+QColor Green(const QPalette& palette)
+{
+    return Chosen(palette, 0xFF1B6E34, 0xFF9CCC8C);
+}
+
+QColor Orange(const QPalette& palette)
+{
+    return Chosen(palette, 0xFF9A4A00, 0xFFFFB870);
+}
+
 }  // namespace
 
 QColor Error(const QPalette& palette)
@@ -29,23 +44,23 @@ QColor Error(const QPalette& palette)
 
 QColor Hint(const QPalette& palette)
 {
-    constexpr double kShare = 0.4;
+    constexpr double kShare = 0.35;
     return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), kShare);
 }
 
 QColor JsonKey(const QPalette& palette)
 {
-    return Chosen(palette, 0xFF0B57A4, 0xFF8AB4F8);
+    return Blue(palette);
 }
 
 QColor JsonText(const QPalette& palette)
 {
-    return Chosen(palette, 0xFF1B6E34, 0xFF9CCC8C);
+    return Green(palette);
 }
 
 QColor JsonNumber(const QPalette& palette)
 {
-    return Chosen(palette, 0xFF9A4A00, 0xFFFFB870);
+    return Orange(palette);
 }
 
 QColor JsonWord(const QPalette& palette)
@@ -55,17 +70,17 @@ QColor JsonWord(const QPalette& palette)
 
 QColor Succeeded(const QPalette& palette)
 {
-    return Chosen(palette, 0xFF1F6FB5, 0xFF6FB1EA);
+    return Blue(palette);
 }
 
 QColor Median(const QPalette& palette)
 {
-    return Chosen(palette, 0xFF1B6E34, 0xFF9CCC8C);
+    return Green(palette);
 }
 
 QColor Percentile(const QPalette& palette)
 {
-    return Chosen(palette, 0xFF9A4A00, 0xFFFFB870);
+    return Orange(palette);
 }
 
 QColor Grid(const QPalette& palette)
