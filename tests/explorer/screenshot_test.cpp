@@ -101,7 +101,9 @@ class LanguageTest : public ScreenshotTest, public testing::WithParamInterface<c
 
 TEST_P(LanguageTest, WindowAndServers)
 {
-    emit Window().LanguageChosen(QLatin1String(GetParam()));
+    explorer::StoreLanguage(*settings, QLatin1String(GetParam()));
+    Close();
+    Start();
     Window().resize(kSmall);
     FillWithResults();
     Choose("BRMS.SetTimeSyncConfig");

@@ -199,6 +199,32 @@ TEST_F(ServersTest, ARunStartsTheEmulatorThatIsChosen)
     EXPECT_EQ(session->emulator.GetState(), explorer::EmulatorProcess::Running);
 }
 
+TEST_F(ServersTest, ARunThatWaitsForTheEmulatorDoesNotGoToAnotherServer)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Choose("BRMS.GetTimeSyncConfig");
+    ClickRun();
+    ASSERT_EQ(session->emulator.GetState(), explorer::EmulatorProcess::Starting);
+    Use(server.Port());
+    ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Running; }));
+    QTest::qWait(0);
+    EXPECT_EQ(session->runner.Pending(), 0);
+    EXPECT_TRUE(outcomes.empty());
+    EXPECT_TRUE(server.TakeRequests().empty());
+}
+
+TEST_F(ServersTest, ARunThatWaitsForTheEmulatorIsNotMadeOfAnotherCall)
+{
+    Choose("BRMS.GetTimeSyncConfig");
+    ClickRun();
+    ASSERT_EQ(session->emulator.GetState(), explorer::EmulatorProcess::Starting);
+    Choose("BRMS.ImmediatelySyncTime");
+    ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Running; }));
+    QTest::qWait(0);
+    EXPECT_EQ(session->runner.Pending(), 0);
+    EXPECT_TRUE(outcomes.empty());
+}
+
 TEST_F(ServersTest, AnEmulatorThatIsNotThereIsSaid)
 {
     explorer::EmulatorProcess emulator(folder.filePath(QStringLiteral("no-such-program")));

@@ -5,26 +5,67 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QSettings>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+
+/// The texts of the command line.
+class CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(explorer::CommandLine)
+};
+
+/// Tells when the window is on the screen for the first time, and ends the program.
+class FirstPaint : public QObject {
+public:
+    explicit FirstPaint(const QElapsedTimer& sinceStart) : m_sinceStart(sinceStart) {}
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::Paint) {
+            pWatched->removeEventFilter(this);
+            // Behind the paint event and what it asks for.
+            QTimer::singleShot(0, this, [this] {
+                QTextStream(stdout) << "first window after " << m_sinceStart.elapsed() << " ms\n";
+                QApplication::quit();
+            });
+        }
+        return false;
+    }
+
+private:
+    const QElapsedTimer m_sinceStart;
+};
+
+}  // namespace
 
 int main(int argc, char** argv)
 {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     explorer::PrepareApplication();
     const QApplication application(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral(EXPLORER_VERSION));
 
+    QSettings settings;
+    explorer::ApplyLanguage(explorer::StoredLanguage(settings));
     QCommandLineParser options;
-    options.setApplicationDescription(QStringLiteral("Every call of the library from a window."));
+    options.setApplicationDescription(CommandLine::tr("Every call of the library from a window."));
     options.addHelpOption();
     options.addVersionOption();
-    const QCommandLineOption emulator(QStringLiteral("emulator"), QStringLiteral("Choose and start the emulator."));
+    const QCommandLineOption emulator(QStringLiteral("emulator"), CommandLine::tr("Choose and start the emulator."));
     const QCommandLineOption call(QStringLiteral("call"),
-                                  QStringLiteral("Show this call, such as BRMS.GetLocalSetting."),
-                                  QStringLiteral("name"));
-    options.addOptions({emulator, call});
+                                  CommandLine::tr("Show this call, such as BRMS.GetLocalSetting."),
+                                  CommandLine::tr("name"));
+    const QCommandLineOption measure(QStringLiteral("measure-start"),
+                                     CommandLine::tr("Tell when the window is painted first, and end."));
+    options.addOptions({emulator, call, measure});
     options.process(application);
 
-    QSettings settings;
     explorer::SecretService secrets;
     explorer::Session session(settings, &secrets, explorer::EmulatorProcess::DefaultProgram());
     explorer::Windows windows(session);
@@ -34,6 +75,10 @@ int main(int argc, char** argv)
     }
     if (const auto* pCall = catalogue::FindCall(options.value(call).toStdString())) {
         windows.Current().SelectCall(*pCall);
+    }
+    FirstPaint firstPaint(sinceStart);
+    if (options.isSet(measure)) {
+        windows.Current().installEventFilter(&firstPaint);
     }
     return QApplication::exec();
 }

@@ -109,6 +109,7 @@ void Runner::Repeat(const RunOrder& order, int count)
     if (IsRepeating() || count <= 0) {
         return;
     }
+    m_bRepeats = true;
     m_repeats = count;
     ++m_pending;
     Post([this, order] { RepeatFrom(order, 0); });
@@ -125,6 +126,7 @@ void Runner::RepeatFrom(const RunOrder& order, int done)
     if (m_repeats > done) {
         Post([this, order, done] { RepeatFrom(order, done); });
     } else {
+        m_bRepeats = false;
         m_repeats = 0;
         --m_pending;
         emit RepeatEnded();

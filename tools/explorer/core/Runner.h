@@ -34,14 +34,14 @@ public:
 
     void Order(const RunOrder& order);
 
-    /// Makes the call so many times, one after the other. Input goes on meanwhile.
+    /// Makes the call so many times, one after the other. Input goes on meanwhile. One repetition is made at a time.
     void Repeat(const RunOrder& order, int count);
     /// No further repetition begins.
     void CancelRepeat();
 
     /// Calls that were ordered and have not ended.
     [[nodiscard]] int Pending() const { return m_pending; }
-    [[nodiscard]] bool IsRepeating() const { return m_repeats > 0; }
+    [[nodiscard]] bool IsRepeating() const { return m_bRepeats; }
 
 Q_SIGNALS:
     void Started(const catalogue::Call* call);
@@ -58,6 +58,7 @@ private:
 
     TrafficTap& m_tap;
     int m_pending = 0;
+    bool m_bRepeats = false;
     int m_repeats = 0;  // asked for
 };
 

@@ -100,12 +100,35 @@
 <context>
     <name>explorer::CodeView</name>
     <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
         <source>The first %1 of %2 characters; a copy has them all.</source>
         <translation>Die ersten %1 von %2 Zeichen; eine Kopie enthält alle.</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CommandLine</name>
+    <message>
+        <source>Every call of the library from a window.</source>
+        <translation>Jeder Aufruf der Bibliothek aus einem Fenster.</translation>
+    </message>
+    <message>
+        <source>Choose and start the emulator.</source>
+        <translation>Den Emulator wählen und starten.</translation>
+    </message>
+    <message>
+        <source>Show this call, such as BRMS.GetLocalSetting.</source>
+        <translation>Diesen Aufruf zeigen, etwa BRMS.GetLocalSetting.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Tell when the window is painted first, and end.</source>
+        <translation>Sagen, wann das Fenster zum ersten Mal gezeichnet ist, und enden.</translation>
     </message>
 </context>
 <context>
@@ -316,10 +339,6 @@
         <translation>S&amp;prache</translation>
     </message>
     <message>
-        <source>&amp;Log and notifications</source>
-        <translation>P&amp;rotokoll und Benachrichtigungen</translation>
-    </message>
-    <message>
         <source>&amp;Next pane</source>
         <translation>&amp;Nächster Bereich</translation>
     </message>
@@ -374,6 +393,50 @@
     <message>
         <source>Traffic is not recorded</source>
         <translation>Verkehr wird nicht aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Log and n&amp;otifications</source>
+        <translation>P&amp;rotokoll und Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>&amp;Go to</source>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+    <message>
+        <source>&amp;Previous pane</source>
+        <translation>&amp;Voriger Bereich</translation>
+    </message>
+    <message>
+        <source>&amp;Calls</source>
+        <translation>&amp;Aufrufe</translation>
+    </message>
+    <message>
+        <source>&amp;Arguments</source>
+        <translation>A&amp;rgumente</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Ergebnis</translation>
+    </message>
+    <message>
+        <source>Re&amp;quest</source>
+        <translation>A&amp;nfrage</translation>
+    </message>
+    <message>
+        <source>&amp;Timing</source>
+        <translation>&amp;Zeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>&amp;Protokoll</translation>
+    </message>
+    <message>
+        <source>&amp;Notifications</source>
+        <translation>&amp;Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>The call runs as soon as the emulator has started.</source>
+        <translation>Der Aufruf beginnt, sobald der Emulator gestartet ist.</translation>
     </message>
 </context>
 <context>
@@ -487,10 +550,6 @@
         <translation>Die Kopfzeilen sind die der Bibliothek; die Verbindung fügt eigene hinzu.</translation>
     </message>
     <message>
-        <source>&amp;Headers</source>
-        <translation>&amp;Kopfzeilen</translation>
-    </message>
-    <message>
         <source>&amp;Body</source>
         <translation>&amp;Rumpf</translation>
     </message>
@@ -509,6 +568,10 @@
     <message>
         <source>Run a call to see its request here.</source>
         <translation>Führen Sie einen Aufruf aus, um hier seine Anfrage zu sehen.</translation>
+    </message>
+    <message>
+        <source>Hea&amp;ders</source>
+        <translation>Ko&amp;pfzeilen</translation>
     </message>
 </context>
 <context>
@@ -545,6 +608,10 @@
         <source>Result and time of the run appear here.</source>
         <translation>Hier erscheinen Ergebnis und Dauer.</translation>
     </message>
+    <message>
+        <source>time-out %1 s</source>
+        <translation>Zeitgrenze %1 s</translation>
+    </message>
 </context>
 <context>
     <name>explorer::ResultView</name>
@@ -563,10 +630,6 @@
     <message>
         <source>&amp;Table</source>
         <translation>&amp;Tabelle</translation>
-    </message>
-    <message>
-        <source>Ra&amp;w reply</source>
-        <translation>R&amp;ohe Antwort</translation>
     </message>
     <message>
         <source>This call returns no record.</source>
@@ -595,6 +658,10 @@
     <message>
         <source>Record</source>
         <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Raw repl&amp;y</source>
+        <translation>R&amp;ohe Antwort</translation>
     </message>
 </context>
 <context>
@@ -661,10 +728,6 @@
 <context>
     <name>explorer::ServerBar</name>
     <message>
-        <source>&amp;Server</source>
-        <translation>&amp;Server</translation>
-    </message>
-    <message>
         <source>Servers…</source>
         <translation>Server …</translation>
     </message>
@@ -683,6 +746,10 @@
     <message>
         <source>The emulator is not running</source>
         <translation>Der Emulator läuft nicht</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
     </message>
 </context>
 <context>
@@ -810,7 +877,7 @@
     </message>
     <message>
         <source>Re&amp;peat</source>
-        <translation>&amp;Wiederholen</translation>
+        <translation>Wie&amp;derholen</translation>
     </message>
     <message>
         <source>C&amp;ancel</source>

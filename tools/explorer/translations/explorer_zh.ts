@@ -99,12 +99,35 @@
 <context>
     <name>explorer::CodeView</name>
     <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
         <source>The first %1 of %2 characters; a copy has them all.</source>
         <translation>显示前 %1 个字符，共 %2 个；复制时包含全部。</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CommandLine</name>
+    <message>
+        <source>Every call of the library from a window.</source>
+        <translation>在窗口中运行库的每个调用。</translation>
+    </message>
+    <message>
+        <source>Choose and start the emulator.</source>
+        <translation>选择并启动模拟器。</translation>
+    </message>
+    <message>
+        <source>Show this call, such as BRMS.GetLocalSetting.</source>
+        <translation>显示此调用，例如 BRMS.GetLocalSetting。</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Tell when the window is painted first, and end.</source>
+        <translation>报告窗口首次绘制的时间，然后退出。</translation>
     </message>
 </context>
 <context>
@@ -315,10 +338,6 @@
         <translation>语言(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Log and notifications</source>
-        <translation>日志和通知(&amp;L)</translation>
-    </message>
-    <message>
         <source>&amp;Next pane</source>
         <translation>下一个窗格(&amp;N)</translation>
     </message>
@@ -373,6 +392,50 @@
     <message>
         <source>Traffic is not recorded</source>
         <translation>未记录网络数据</translation>
+    </message>
+    <message>
+        <source>Log and n&amp;otifications</source>
+        <translation>日志和通知(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Go to</source>
+        <translation>转到(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous pane</source>
+        <translation>上一个窗格(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Calls</source>
+        <translation>调用(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Arguments</source>
+        <translation>参数(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>结果(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;quest</source>
+        <translation>请求(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Timing</source>
+        <translation>耗时(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>日志(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Notifications</source>
+        <translation>通知(&amp;N)</translation>
+    </message>
+    <message>
+        <source>The call runs as soon as the emulator has started.</source>
+        <translation>模拟器启动后将立即运行该调用。</translation>
     </message>
 </context>
 <context>
@@ -486,10 +549,6 @@
         <translation>这些标头由库设置；连接还会添加自己的标头。</translation>
     </message>
     <message>
-        <source>&amp;Headers</source>
-        <translation>标头(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;Body</source>
         <translation>正文(&amp;B)</translation>
     </message>
@@ -508,6 +567,10 @@
     <message>
         <source>Run a call to see its request here.</source>
         <translation>运行调用后，此处显示其请求。</translation>
+    </message>
+    <message>
+        <source>Hea&amp;ders</source>
+        <translation>标头(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -544,6 +607,10 @@
         <source>Result and time of the run appear here.</source>
         <translation>此处显示运行的结果和耗时。</translation>
     </message>
+    <message>
+        <source>time-out %1 s</source>
+        <translation>超时 %1 秒</translation>
+    </message>
 </context>
 <context>
     <name>explorer::ResultView</name>
@@ -562,10 +629,6 @@
     <message>
         <source>&amp;Table</source>
         <translation>表格(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Ra&amp;w reply</source>
-        <translation>原始应答(&amp;W)</translation>
     </message>
     <message>
         <source>This call returns no record.</source>
@@ -594,6 +657,10 @@
     <message>
         <source>Record</source>
         <translation>记录</translation>
+    </message>
+    <message>
+        <source>Raw repl&amp;y</source>
+        <translation>原始应答(&amp;Y)</translation>
     </message>
 </context>
 <context>
@@ -659,10 +726,6 @@
 <context>
     <name>explorer::ServerBar</name>
     <message>
-        <source>&amp;Server</source>
-        <translation>服务器(&amp;S)</translation>
-    </message>
-    <message>
         <source>Servers…</source>
         <translation>服务器…</translation>
     </message>
@@ -681,6 +744,10 @@
     <message>
         <source>The emulator is not running</source>
         <translation>模拟器未运行</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>服务器</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,7 @@
 #include <QTranslator>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace explorer {
@@ -41,39 +42,37 @@ struct Colours {
     QRgb toolTip;
 };
 
-constexpr Colours kLight{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xfffafbfc, 0xff1d2430, 0xff8a93a1, 0xff2f6fd6,
+constexpr Colours kLight{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xfffafbfc, 0xff1d2430, 0xff646e7c, 0xff2f6fd6,
                          0xff1f5fc4, 0xffffffff, 0xffe9edf2, 0xffc9d0da, 0xffaab3c0, 0xff7a8494, 0xffffffff};
-constexpr Colours kDark{0xff22272e, 0xff1a1e24, 0xff1f242b, 0xff2d333c, 0xffdde3ea, 0xff7c8694, 0xff3b7ae0,
+constexpr Colours kDark{0xff22272e, 0xff1a1e24, 0xff1f242b, 0xff2d333c, 0xffdde3ea, 0xff929cab, 0xff3270d8,
                         0xff74a8f5, 0xff3a424d, 0xff333a44, 0xff3d4551, 0xff14171c, 0xff0c0e11, 0xff2d333c};
 
 QPalette Painted(const Colours& colours)
 {
-    const auto colour = [](QRgb rgb) { return QColor::fromRgb(rgb); };
+    constexpr QRgb kWhite = 0xffffffff;
+    const std::pair<QPalette::ColorRole, QRgb> all[] = {
+        {QPalette::Window, colours.window},       {QPalette::WindowText, colours.text},
+        {QPalette::Base, colours.base},           {QPalette::AlternateBase, colours.alternate},
+        {QPalette::Text, colours.text},           {QPalette::PlaceholderText, colours.faintText},
+        {QPalette::Button, colours.button},       {QPalette::ButtonText, colours.text},
+        {QPalette::BrightText, kWhite},           {QPalette::Highlight, colours.accent},
+        {QPalette::HighlightedText, kWhite},      {QPalette::Link, colours.link},
+        {QPalette::LinkVisited, colours.link},    {QPalette::Light, colours.light},
+        {QPalette::Midlight, colours.midlight},   {QPalette::Mid, colours.mid},
+        {QPalette::Dark, colours.dark},           {QPalette::Shadow, colours.shadow},
+        {QPalette::ToolTipBase, colours.toolTip}, {QPalette::ToolTipText, colours.text}};
+    const std::pair<QPalette::ColorRole, QRgb> disabled[] = {{QPalette::WindowText, colours.faintText},
+                                                             {QPalette::Text, colours.faintText},
+                                                             {QPalette::ButtonText, colours.faintText},
+                                                             {QPalette::HighlightedText, colours.faintText},
+                                                             {QPalette::Highlight, colours.mid}};
     QPalette palette;
-    palette.setColor(QPalette::Window, colour(colours.window));
-    palette.setColor(QPalette::WindowText, colour(colours.text));
-    palette.setColor(QPalette::Base, colour(colours.base));
-    palette.setColor(QPalette::AlternateBase, colour(colours.alternate));
-    palette.setColor(QPalette::Text, colour(colours.text));
-    palette.setColor(QPalette::PlaceholderText, colour(colours.faintText));
-    palette.setColor(QPalette::Button, colour(colours.button));
-    palette.setColor(QPalette::ButtonText, colour(colours.text));
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Highlight, colour(colours.accent));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, colour(colours.link));
-    palette.setColor(QPalette::LinkVisited, colour(colours.link));
-    palette.setColor(QPalette::Light, colour(colours.light));
-    palette.setColor(QPalette::Midlight, colour(colours.midlight));
-    palette.setColor(QPalette::Mid, colour(colours.mid));
-    palette.setColor(QPalette::Dark, colour(colours.dark));
-    palette.setColor(QPalette::Shadow, colour(colours.shadow));
-    palette.setColor(QPalette::ToolTipBase, colour(colours.toolTip));
-    palette.setColor(QPalette::ToolTipText, colour(colours.text));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
-        palette.setColor(QPalette::Disabled, role, colour(colours.faintText));
+    for (const auto& [role, colour] : all) {
+        palette.setColor(role, QColor::fromRgb(colour));
     }
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, colour(colours.mid));
+    for (const auto& [role, colour] : disabled) {
+        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(colour));
+    }
     return palette;
 }
 
@@ -93,7 +92,8 @@ constexpr const char* kStyleSheet = R"(
                       border: 1px solid palette(highlight); border-radius: 3px; padding: 5px 22px; }
     QPushButton#run:hover { background: palette(link); }
     QPushButton#run:focus { border: 1px solid palette(window-text); }
-    QPushButton#run:disabled { background: palette(midlight); color: palette(mid); border-color: palette(midlight); }
+    QPushButton#run:disabled { background: palette(midlight); color: palette(placeholder-text);
+                               border-color: palette(midlight); }
 )";
 
 /// Installed ones go with those that take their place.

@@ -2,6 +2,7 @@
 
 #include "Icons.h"
 
+#include "../views/RoomyDelegate.h"
 #include "../views/Theme.h"
 
 #include <QAction>
@@ -12,7 +13,6 @@
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
-#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -57,14 +57,14 @@ private:
 };
 
 /// Puts the method behind the name of a call.
-class CallDelegate : public QStyledItemDelegate {
+class CallDelegate : public RoomyDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using RoomyDelegate::RoomyDelegate;
 
     void paint(QPainter* pPainter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const QString method = index.data(kMethodRole).toString();
-        QStyledItemDelegate::paint(pPainter, option, index);
+        RoomyDelegate::paint(pPainter, option, index);
         if (method.isEmpty()) {
             return;
         }
@@ -79,18 +79,10 @@ public:
         pPainter->restore();
     }
 
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        constexpr int kAir = 6;
-        QSize size = QStyledItemDelegate::sizeHint(option, index);
-        size.setHeight(option.fontMetrics.height() + kAir);
-        return size;
-    }
-
 protected:
     void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override
     {
-        QStyledItemDelegate::initStyleOption(pOption, index);
+        RoomyDelegate::initStyleOption(pOption, index);
         pOption->textElideMode = Qt::ElideRight;
         const QString method = index.data(kMethodRole).toString();
         if (!method.isEmpty()) {
@@ -267,7 +259,12 @@ void CallPanel::SetEndpoints(const Endpoints& endpoints)
 
 void CallPanel::Filter(const QString& text)
 {
+    m_bFilling = true;  // the chosen call stays chosen, also while it is not shown
     static_cast<WordFilter*>(m_pShown)->SetText(text);
+    if (CallOf(m_pTree->currentIndex()) != m_pCurrent) {
+        m_pTree->setCurrentIndex(m_pCurrent == nullptr ? QModelIndex() : IndexOf(*m_pCurrent));
+    }
+    m_bFilling = false;
     if (text.trimmed().isEmpty()) {
         m_pTree->collapseAll();
         m_pTree->expandToDepth(0);
@@ -301,18 +298,24 @@ void CallPanel::CurrentChanged(const QModelIndex& index)
     }
 }
 
-void CallPanel::Select(const Call& call)
+QModelIndex CallPanel::IndexOf(const Call& call) const
 {
-    m_pFilter->clear();
     const QString name = QString::fromStdString(call.name);
-    QModelIndex wanted;
+    QModelIndex found;
     for (int row = 2; row < m_pModel->rowCount(); ++row) {  // behind favourites and used last
-        ForEachCall(m_pModel->item(row), [this, &wanted, &name](const QStandardItem* pItem) {
+        ForEachCall(m_pModel->item(row), [this, &found, &name](const QStandardItem* pItem) {
             if (pItem->data(kNameRole).toString() == name) {
-                wanted = m_pShown->mapFromSource(m_pModel->indexFromItem(pItem));
+                found = m_pShown->mapFromSource(m_pModel->indexFromItem(pItem));
             }
         });
     }
+    return found;
+}
+
+void CallPanel::Select(const Call& call)
+{
+    m_pFilter->clear();
+    const QModelIndex wanted = IndexOf(call);
     m_pTree->setCurrentIndex(wanted);
     m_pTree->scrollTo(wanted);
 }
@@ -321,6 +324,20 @@ void CallPanel::FocusFilter()
 {
     m_pFilter->setFocus(Qt::ShortcutFocusReason);
     m_pFilter->selectAll();
+}
+
+void CallPanel::FocusTree()
+{
+    m_pTree->setFocus(Qt::TabFocusReason);
+    QModelIndex index = m_pTree->currentIndex();
+    for (int row = 0; CallOf(index) == nullptr && row < m_pShown->rowCount(); ++row) {
+        index = m_pShown->index(row, 0);
+        while (m_pShown->rowCount(index) > 0) {
+            index = m_pShown->index(0, 0, index);
+        }
+    }
+    m_pTree->setCurrentIndex(index);
+    m_pTree->scrollTo(index);
 }
 
 bool CallPanel::IsFavourite(const Call& call) const
@@ -360,17 +377,7 @@ bool CallPanel::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (pWatched == m_pFilter && pEvent->type() == QEvent::KeyPress) {
         const auto* const pKey = static_cast<QKeyEvent*>(pEvent);
         if (pKey->key() == Qt::Key_Down || pKey->key() == Qt::Key_Return || pKey->key() == Qt::Key_Enter) {
-            m_pTree->setFocus(Qt::TabFocusReason);
-            // The first call that is shown, unless one is chosen already.
-            QModelIndex index = m_pTree->currentIndex();
-            for (int row = 0; CallOf(index) == nullptr && row < m_pShown->rowCount(); ++row) {
-                index = m_pShown->index(row, 0);
-                while (m_pShown->rowCount(index) > 0) {
-                    index = m_pShown->index(0, 0, index);
-                }
-            }
-            m_pTree->setCurrentIndex(index);
-            m_pTree->scrollTo(index);
+            FocusTree();
             return true;
         }
     }

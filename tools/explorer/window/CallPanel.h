@@ -30,6 +30,8 @@ public:
     [[nodiscard]] const catalogue::Call* Current() const { return m_pCurrent; }
     void Select(const catalogue::Call& call);
     void FocusFilter();
+    /// Of calls, the one that is chosen, else the first that is shown.
+    void FocusTree();
 
     [[nodiscard]] bool IsFavourite(const catalogue::Call& call) const;
     void SetFavourite(const catalogue::Call& call, bool favourite);
@@ -48,6 +50,8 @@ private:
     void Fill();
     void FillGroup(QStandardItem* pGroup, const QStringList& names);
     void Filter(const QString& text);
+    /// Where it stands in the tree of families; not valid while the filter hides it.
+    [[nodiscard]] QModelIndex IndexOf(const catalogue::Call& call) const;
     void ShowCount();
     void CurrentChanged(const QModelIndex& index);
 

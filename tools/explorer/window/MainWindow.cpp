@@ -35,6 +35,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
 
 namespace explorer {
 namespace {
@@ -46,7 +47,7 @@ constexpr const char* kFeedsKey = "window/feeds";
 constexpr const char* kCallKey = "window/call";
 constexpr const char* kRecordKey = "run/recordTraffic";
 
-constexpr const char* kUnderlinedTabs = "underlined";  // in the style sheet
+constexpr int kPaneWidths[] = {320, 360, 600};  // at first; any width is shared like this
 
 constexpr int kStatusTime = 6000;  // milliseconds
 
@@ -65,16 +66,28 @@ QVBoxLayout* PaneLayout(QWidget* pPane)
     return pLayout;
 }
 
-void FocusFirst(QWidget* pPane)
+/// False when nothing in it takes the keyboard.
+bool FocusFirst(QWidget* pPane)
 {
     for (QWidget* pWidget = pPane->nextInFocusChain(); pWidget != pPane; pWidget = pWidget->nextInFocusChain()) {
         const bool takesFocus = pWidget->isEnabled() && (pWidget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
         if (takesFocus && !qobject_cast<QScrollArea*>(pWidget) && pPane->isAncestorOf(pWidget) &&
             pWidget->isVisible()) {
             pWidget->setFocus(Qt::TabFocusReason);
-            return;
+            return true;
         }
     }
+    return false;
+}
+
+/// Tabs of a pane, which the style sheet underlines.
+QTabWidget* NewTabs(const char* objectName)
+{
+    auto* const pTabs = new QTabWidget;
+    pTabs->setObjectName(QLatin1String(objectName));
+    pTabs->setDocumentMode(true);
+    pTabs->tabBar()->setObjectName(QStringLiteral("underlined"));
+    return pTabs;
 }
 
 QSplitter* NewSplitter(Qt::Orientation orientation)
@@ -100,7 +113,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
 
     connect(m_pServerBar, &ServerBar::EditRequested, this, &MainWindow::EditServers);
     connect(m_pCalls, &CallPanel::Chosen, this, &MainWindow::Choose);
-    connect(m_pCalls, &CallPanel::Activated, this, [this] { FocusFirst(m_pForm); });
+    connect(m_pCalls, &CallPanel::Activated, this, &MainWindow::FocusArguments);
     connect(m_pHeader, &CallHeader::FavouriteToggled, this, &MainWindow::ToggleFavourite);
     connect(m_pForm, &ArgumentForm::Changed, this, &MainWindow::UpdateRunBar);
     connect(m_pRunBar, &RunBar::RunRequested, this, &MainWindow::Run);
@@ -122,12 +135,13 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
         }
     });
     connect(&session.emulator, &EmulatorProcess::Failed, this, [this](const QString& why) {
-        m_bRunsWhenReady = false;
+        m_runsAt.clear();
         statusBar()->showMessage(tr("The emulator ended: %1").arg(why));
     });
-    connect(&session.emulator, &EmulatorProcess::StateChanged, this, [this] {
-        if (m_bRunsWhenReady && m_session.IsReady()) {
-            Run();
+    connect(&session.emulator, &EmulatorProcess::StateChanged, this, &MainWindow::RunWhenReady);
+    connect(&session.servers, &Servers::Changed, this, [this] {
+        if (m_session.servers.Current().id != m_runsAt) {
+            m_runsAt.clear();  // another server was not meant
         }
     });
     connect(&session.tokens, &Tokens::Kept, this, [this](const QString& /*serverId*/, bool worked) {
@@ -167,9 +181,9 @@ void MainWindow::MakeLayout()
     m_pPanes->addWidget(MakeResultPane());
     m_pRecording->setForegroundRole(QPalette::PlaceholderText);
     m_pRecording->setContentsMargins(0, 0, 12, 0);
-    m_pPanes->setStretchFactor(0, 3);
-    m_pPanes->setStretchFactor(1, 5);
-    m_pPanes->setStretchFactor(2, 8);
+    for (const int pane : {0, 1, 2}) {
+        m_pPanes->setStretchFactor(pane, kPaneWidths[pane]);
+    }
     m_pRows->addWidget(m_pPanes);
     m_pRows->addWidget(MakeFeeds());
     m_pRows->setStretchFactor(0, 1);
@@ -192,26 +206,20 @@ QWidget* MainWindow::MakeCallPane()
 
 QWidget* MainWindow::MakeResultPane()
 {
-    auto* const pTabs = new QTabWidget;
-    pTabs->setObjectName(QStringLiteral("results"));
-    pTabs->setDocumentMode(true);
-    pTabs->tabBar()->setObjectName(QLatin1String(kUnderlinedTabs));
-    pTabs->addTab(m_pResult, tr("Result"));
-    pTabs->addTab(m_pRequest, tr("Request"));
-    pTabs->addTab(m_pTiming, tr("Timing"));
+    m_pResults = NewTabs("results");
+    m_pResults->addTab(m_pResult, tr("Result"));
+    m_pResults->addTab(m_pRequest, tr("Request"));
+    m_pResults->addTab(m_pTiming, tr("Timing"));
     auto* const pPane = new QWidget;
     auto* const pLayout = PaneLayout(pPane);
     pLayout->addWidget(m_pResultHeader);
-    pLayout->addWidget(pTabs, 1);
+    pLayout->addWidget(m_pResults, 1);
     return pPane;
 }
 
 QWidget* MainWindow::MakeFeeds()
 {
-    m_pFeeds = new QTabWidget;
-    m_pFeeds->setObjectName(QStringLiteral("feeds"));
-    m_pFeeds->setDocumentMode(true);
-    m_pFeeds->tabBar()->setObjectName(QLatin1String(kUnderlinedTabs));
+    m_pFeeds = NewTabs("feeds");
     m_pFeeds->addTab(new FeedPanel(m_session.log, FeedPanel::Log), tr("Log"));
     m_pFeeds->addTab(new FeedPanel(m_session.notifications, FeedPanel::Notifications), tr("Notifications"));
     return m_pFeeds;
@@ -277,25 +285,72 @@ void MainWindow::MakeViewMenu()
     MakeAppearanceMenu(pMenu->addMenu(tr("&Appearance")));
     MakeLanguageMenu(pMenu->addMenu(tr("&Language")));
     pMenu->addSeparator();
-    QAction* const pFeeds = pMenu->addAction(tr("&Log and notifications"), m_pFeeds, &QWidget::setVisible);
-    pFeeds->setCheckable(true);
-    pFeeds->setChecked(m_session.settings.value(QLatin1String(kFeedsKey), true).toBool());
-    m_pFeeds->setVisible(pFeeds->isChecked());
-    pFeeds->setShortcut(Qt::Key_F8);
-    connect(pFeeds, &QAction::toggled, this,
-            [this](bool on) { m_session.settings.setValue(QLatin1String(kFeedsKey), on); });
-    pMenu->addAction(tr("&Next pane"), this, &MainWindow::FocusNextPane, Qt::Key_F6);
+    m_pShowFeeds = pMenu->addAction(tr("Log and n&otifications"));
+    m_pShowFeeds->setCheckable(true);
+    m_pShowFeeds->setChecked(m_session.settings.value(QLatin1String(kFeedsKey), true).toBool());
+    m_pFeeds->setVisible(m_pShowFeeds->isChecked());
+    m_pShowFeeds->setShortcut(Qt::Key_F8);
+    connect(m_pShowFeeds, &QAction::toggled, this, [this](bool on) {
+        m_pFeeds->setVisible(on);
+        m_session.settings.setValue(QLatin1String(kFeedsKey), on);
+    });
+    pMenu->addSeparator();
+    MakeGoToMenu(pMenu->addMenu(tr("&Go to")));
+    pMenu->addAction(
+        tr("&Next pane"), this, [this] { FocusPane(1); }, Qt::Key_F6);
+    pMenu->addAction(
+        tr("&Previous pane"), this, [this] { FocusPane(-1); }, Qt::SHIFT + Qt::Key_F6);
 }
 
-void MainWindow::FocusNextPane()
+void MainWindow::MakeGoToMenu(QMenu* pMenu)
 {
-    const QList<QWidget*> panes{m_pCalls, m_pPanes->widget(1), m_pPanes->widget(2), m_pFeeds};
+    pMenu->setObjectName(QStringLiteral("goTo"));
+    const auto toTab = [this](QTabWidget* pTabs, int index) {
+        return [this, pTabs, index] { FocusTab(pTabs, index); };
+    };
+    const QPair<QString, std::function<void()>> places[] = {{tr("&Calls"), [this] { m_pCalls->FocusTree(); }},
+                                                            {tr("&Arguments"), [this] { FocusArguments(); }},
+                                                            {tr("&Result"), toTab(m_pResults, 0)},
+                                                            {tr("Re&quest"), toTab(m_pResults, 1)},
+                                                            {tr("&Timing"), toTab(m_pResults, 2)},
+                                                            {tr("&Log"), toTab(m_pFeeds, 0)},
+                                                            {tr("&Notifications"), toTab(m_pFeeds, 1)}};
+    int key = Qt::Key_1;
+    for (const auto& place : places) {
+        pMenu->addAction(place.first, this, place.second, QKeySequence(int(Qt::CTRL) + key));
+        ++key;
+    }
+}
+
+void MainWindow::FocusPane(int steps)
+{
+    QList<QWidget*> panes{m_pCalls, m_pPanes->widget(1), m_pPanes->widget(2)};
+    if (m_pFeeds->isVisible()) {
+        panes.append(m_pFeeds);
+    }
     const auto holdsFocus = [](const QWidget* pPane) { return pPane->isAncestorOf(QApplication::focusWidget()); };
-    auto pane = std::find_if(panes.cbegin(), panes.cend(), holdsFocus);
-    do {
-        pane = pane == panes.cend() || pane + 1 == panes.cend() ? panes.cbegin() : pane + 1;
-    } while (!(*pane)->isVisible());
-    FocusFirst(*pane);
+    const auto pane = std::find_if(panes.cbegin(), panes.cend(), holdsFocus);
+    const int none = steps > 0 ? -1 : 0;
+    const int current = pane == panes.cend() ? none : int(pane - panes.cbegin());
+    FocusFirst(panes.at((current + steps + panes.size()) % panes.size()));
+}
+
+void MainWindow::FocusArguments()
+{
+    if (!FocusFirst(m_pForm)) {
+        FocusFirst(m_pRunBar);
+    }
+}
+
+void MainWindow::FocusTab(QTabWidget* pTabs, int index)
+{
+    if (pTabs == m_pFeeds) {
+        m_pShowFeeds->setChecked(true);
+    }
+    pTabs->setCurrentIndex(index);
+    if (!FocusFirst(pTabs->currentWidget())) {
+        pTabs->tabBar()->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void MainWindow::MakeAppearanceMenu(QMenu* pMenu)
@@ -350,7 +405,7 @@ void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
     resize(kSize.boundedTo(screen()->availableSize()));
-    m_pPanes->setSizes({310, 390, 580});
+    m_pPanes->setSizes({kPaneWidths[0], kPaneWidths[1], kPaneWidths[2]});
     m_pRows->setSizes({560, 180});
     QSettings& settings = m_session.settings;
     restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
@@ -393,13 +448,17 @@ void MainWindow::SelectCall(const catalogue::Call& call)
 void MainWindow::Choose(const catalogue::Call& call)
 {
     const bool isOther = m_pCall != &call;
+    if (isOther && m_pCall != nullptr) {
+        m_drafts.insert(QString::fromStdString(m_pCall->name), m_pForm->Arguments());
+    }
     m_pCall = &call;
     const QString name = QString::fromStdString(call.name);
     if (isOther) {
+        m_runsAt.clear();  // another call was not meant
         m_session.settings.setValue(QLatin1String(kCallKey), name);
         m_pForm->SetCall(call);
         const QByteArray lastUse = m_session.settings.value(ArgumentsKey(call)).toByteArray();
-        m_pForm->SetArguments(QJsonDocument::fromJson(lastUse).object());
+        m_pForm->SetArguments(m_drafts.value(name, QJsonDocument::fromJson(lastUse).object()));
         ShowHeader();
         UpdateRunBar();
     }
@@ -452,27 +511,26 @@ void MainWindow::AskForToken()
     pDialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(pDialog, &QDialog::accepted, this, [this, pDialog, id = server.id] {
         m_session.tokens.Set(id, pDialog->Token(), pDialog->Keep());
-        if (m_bRunsWhenReady) {
-            Run();
-        }
+        RunWhenReady();
     });
-    connect(pDialog, &QDialog::rejected, this, [this] { m_bRunsWhenReady = false; });
+    connect(pDialog, &QDialog::rejected, this, [this] { m_runsAt.clear(); });
     pDialog->open();
 }
 
 std::optional<RunOrder> MainWindow::Order()
 {
-    m_bRunsWhenReady = false;
+    m_runsAt.clear();
     if (m_pCall == nullptr || !m_pForm->IsValid()) {
         return std::nullopt;
     }
     if (!m_session.IsReady()) {
-        m_bRunsWhenReady = true;
+        m_runsAt = m_session.servers.Current().id;
+        statusBar()->showMessage(tr("The call runs as soon as the emulator has started."), kStatusTime);
         m_session.emulator.Start();
         return std::nullopt;
     }
     if (!m_session.CurrentToken()) {
-        m_bRunsWhenReady = true;
+        m_runsAt = m_session.servers.Current().id;
         AskForToken();
         return std::nullopt;
     }
@@ -488,6 +546,13 @@ void MainWindow::Run()
             order->parent = this;
         }
         m_session.runner.Order(*order);
+    }
+}
+
+void MainWindow::RunWhenReady()
+{
+    if (m_session.servers.Current().id == m_runsAt && m_session.IsReady()) {
+        Run();
     }
 }
 

@@ -58,7 +58,10 @@ private:
     void RecordTraffic(bool on);
     void MakeServerMenu();
     void MakeViewMenu();
-    void FocusNextPane();
+    void MakeGoToMenu(QMenu* pMenu);
+    void FocusPane(int steps);
+    void FocusArguments();
+    void FocusTab(QTabWidget* pTabs, int index);
     void MakeAppearanceMenu(QMenu* pMenu);
     void MakeLanguageMenu(QMenu* pMenu);
     void MakeHelpMenu();
@@ -73,6 +76,8 @@ private:
     /// Nothing while something is missing that was asked for, or that is about to come.
     [[nodiscard]] std::optional<RunOrder> Order();
     void RepeatRun(int count);
+    /// The run that was asked for, as soon as its server can be asked.
+    void RunWhenReady();
     void RunFinished(const CallOutcome& outcome);
     void ShowOutcome(const CallOutcome& outcome);
     void ToggleFavourite(bool favourite);
@@ -82,7 +87,8 @@ private:
     QFutureWatcher<Endpoints> m_contract;
     QHash<QString, CallOutcome> m_outcomes;  // the last of each call
     const catalogue::Call* m_pCall = nullptr;
-    bool m_bRunsWhenReady = false;
+    QHash<QString, QJsonObject> m_drafts;  // arguments of calls that were left without a run
+    QString m_runsAt;                      // the server of a run that waits for the emulator or a token
     ServerBar* m_pServerBar;
     CallPanel* m_pCalls;
     CallHeader* m_pHeader;
@@ -93,7 +99,9 @@ private:
     RequestView* m_pRequest;
     TimingView* m_pTiming;
     QLabel* m_pRecording;
+    QTabWidget* m_pResults = nullptr;
     QTabWidget* m_pFeeds = nullptr;
+    QAction* m_pShowFeeds = nullptr;
     QSplitter* m_pPanes;
     QSplitter* m_pRows;
 };

@@ -2,6 +2,7 @@
 
 #include "../views/Theme.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QJsonDocument>
 #include <QLabel>
@@ -52,8 +53,17 @@ ResultHeader::ResultHeader(QWidget* pParent)
     Clear();
 }
 
-void ResultHeader::ShowLight(const QColor& colour)
+void ResultHeader::changeEvent(QEvent* pEvent)
 {
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::PaletteChange) {
+        ShowLight(m_light);
+    }
+}
+
+void ResultHeader::ShowLight(Tint tint)
+{
+    m_light = tint;
     constexpr int kSize = 10;
     const qreal ratio = devicePixelRatioF();
     QPixmap light(QSize(kSize, kSize) * ratio);
@@ -62,7 +72,7 @@ void ResultHeader::ShowLight(const QColor& colour)
     QPainter painter(&light);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
+    painter.setBrush(tint(palette()));
     painter.drawEllipse(QRectF(0.5, 0.5, kSize - 1, kSize - 1));
     painter.end();
     m_pLight->setPixmap(light);
@@ -70,7 +80,7 @@ void ResultHeader::ShowLight(const QColor& colour)
 
 void ResultHeader::Show(const CallOutcome& outcome)
 {
-    ShowLight(outcome.succeeded ? theme::Succeeded(palette()) : theme::Error(palette()));
+    ShowLight(outcome.succeeded ? theme::Succeeded : theme::Error);
     m_pWords->setText(outcome.resultText);
 
     QStringList details{tr("Result %1").arg(outcome.result)};
@@ -78,9 +88,15 @@ void ResultHeader::Show(const CallOutcome& outcome)
         details.append(tr("HTTP %1").arg(outcome.reply->status));
     }
     details.append(tr("%1 ms").arg(QLocale().toString(outcome.elapsedMilliseconds, 'f', 1)));
+    if (outcome.timeoutSeconds > 0) {
+        details.append(tr("time-out %1 s").arg(outcome.timeoutSeconds));
+    }
     details.append(outcome.server);
     details.append(QLocale().toString(outcome.started.time(), QStringLiteral("HH:mm:ss")));
-    QString text = details.join(QStringLiteral("  ·  "));
+    for (QString& detail : details) {
+        detail.replace(QLatin1Char(' '), QChar(QChar::Nbsp));  // a line may end between them
+    }
+    QString text = details.join(QStringLiteral("\u00a0\u00a0·  "));
     const QString words = ServersWords(outcome);
     if (!words.isEmpty()) {
         text += QLatin1Char('\n') + tr("The server says: %1").arg(words);
@@ -90,14 +106,14 @@ void ResultHeader::Show(const CallOutcome& outcome)
 
 void ResultHeader::ShowRunning(const QString& name)
 {
-    ShowLight(palette().color(QPalette::Highlight));
+    ShowLight([](const QPalette& palette) { return palette.color(QPalette::Highlight); });
     m_pWords->setText(tr("%1 is running").arg(name));
     m_pDetails->setText(tr("Waiting for the server"));
 }
 
 void ResultHeader::Clear()
 {
-    ShowLight(palette().color(QPalette::Mid));
+    ShowLight([](const QPalette& palette) { return palette.color(QPalette::Mid); });
     m_pWords->setText(tr("Not run yet"));
     m_pDetails->setText(tr("Result and time of the run appear here."));
 }

@@ -20,8 +20,12 @@ public:
     void Clear();
 
 private:
-    void ShowLight(const QColor& colour);
+    using Tint = QColor (*)(const QPalette& palette);
 
+    void changeEvent(QEvent* pEvent) override;
+    void ShowLight(Tint tint);
+
+    Tint m_light = nullptr;
     QLabel* m_pLight;
     QLabel* m_pWords;
     QLabel* m_pDetails;

@@ -58,6 +58,8 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->addWidget(m_pRun, 1, 2);
     pLayout->addWidget(m_pState, 2, 0, 1, 3);
     m_pState->hide();
+    setTabOrder(m_pWait, m_pTimeout);
+    setTabOrder(m_pTimeout, m_pRun);
 }
 
 RunBar::~RunBar()

@@ -19,7 +19,9 @@ ServerBar::ServerBar(Session& session, QWidget* pParent)
     m_pServers->setObjectName(QStringLiteral("servers"));
     constexpr int kWidth = 220;
     m_pServers->setMinimumWidth(kWidth);
-    auto* const pLabel = new QLabel(tr("&Server"));
+    m_pServers->setMaximumWidth(2 * kWidth);
+    m_pServers->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    auto* const pLabel = new QLabel(tr("Server"));
     pLabel->setBuddy(m_pServers);
     m_pAddress->setObjectName(QStringLiteral("serverAddress"));
     m_pAddress->setForegroundRole(QPalette::PlaceholderText);

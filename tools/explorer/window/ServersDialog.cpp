@@ -4,6 +4,7 @@
 
 #include "../core/Tokens.h"
 #include "../views/Theme.h"
+#include "../views/TintedLabel.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -39,7 +40,8 @@ bool IsHost(const QString& text)
 ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
     : QDialog(pParent), m_servers(servers), m_tokens(tokens), m_edited(servers.All()), m_pList(new QListWidget),
       m_pRemove(new QToolButton), m_pName(new QLineEdit), m_pScheme(new QComboBox), m_pHost(new QLineEdit),
-      m_pPort(new QSpinBox), m_pToken(new QLineEdit), m_pLanguage(new QComboBox), m_pProblem(new QLabel),
+      m_pPort(new QSpinBox), m_pToken(new QLineEdit), m_pLanguage(new QComboBox),
+      m_pProblem(new TintedLabel(theme::Error)),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle(tr("Servers"));
@@ -111,10 +113,6 @@ QWidget* ServersDialog::MakeForm()
     m_pLanguage->setEditable(true);
     m_pLanguage->addItems({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh")});
     m_pLanguage->setToolTip(tr("Language that the server is asked to answer in"));
-    QPalette alarming = m_pProblem->palette();
-    alarming.setColor(QPalette::WindowText, theme::Error(alarming));
-    m_pProblem->setPalette(alarming);
-    m_pProblem->setWordWrap(true);
 
     connect(m_pName, &QLineEdit::textEdited, this, [this](const QString& name) {
         m_pList->currentItem()->setText(name);

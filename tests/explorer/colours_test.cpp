@@ -1,0 +1,67 @@
+#include <explorer/views/Theme.h>
+#include <explorer/window/Appearance.h>
+#include <explorer/window/Start.h>
+
+#include <QApplication>
+#include <QPalette>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using explorer::Appearance;
+
+/// As a screen sends it out, from 0 to 1.
+double Luminance(const QColor& colour)
+{
+    const auto linear = [](double share) {
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& first, const QColor& second)
+{
+    const auto [darker, lighter] = std::minmax({Luminance(first), Luminance(second)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+class ColoursTest : public testing::TestWithParam<Appearance> {
+protected:
+    void SetUp() override
+    {
+        explorer::ApplyAppearance(GetParam());
+        m_palette = QApplication::palette();
+    }
+
+    QPalette m_palette;
+};
+
+TEST_P(ColoursTest, TextsCanBeRead)
+{
+    static constexpr double kReadable = 4.5;  // the least for texts of this size
+    const auto expectReadable = [this](const QColor& text, QPalette::ColorRole ground) {
+        EXPECT_GE(Contrast(text, m_palette.color(ground)), kReadable)
+            << text.name().toStdString() << " on " << static_cast<int>(ground);
+    };
+    for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
+        for (const auto text : {QPalette::WindowText, QPalette::Text, QPalette::PlaceholderText, QPalette::Link}) {
+            expectReadable(m_palette.color(text), ground);
+        }
+        for (const auto tint : {explorer::theme::Error, explorer::theme::Hint, explorer::theme::JsonKey,
+                                explorer::theme::JsonText, explorer::theme::JsonNumber, explorer::theme::JsonWord}) {
+            expectReadable(tint(m_palette), ground);
+        }
+    }
+    expectReadable(m_palette.color(QPalette::ButtonText), QPalette::Button);
+    expectReadable(m_palette.color(QPalette::HighlightedText), QPalette::Highlight);
+    expectReadable(m_palette.color(QPalette::ToolTipText), QPalette::ToolTipBase);
+}
+
+INSTANTIATE_TEST_SUITE_P(Appearances, ColoursTest, testing::Values(Appearance::Light, Appearance::Dark),
+                         [](const auto& row) { return row.param == Appearance::Light ? "Light" : "Dark"; });
+
+}  // namespace

@@ -1,0 +1,212 @@
+#include "support/ExplorerTest.h"
+
+#include <explorer/views/ArgumentForm.h>
+#include <explorer/window/CallPanel.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace {
+
+using namespace explorer_test;
+
+class KeyboardTest : public ExplorerTest {
+protected:
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &Window(),
+                        static_cast<Qt::Key>(key), modifiers);
+    }
+
+    static bool HasFocus(const QWidget& part)
+    {
+        return QApplication::focusWidget() == &part || part.isAncestorOf(QApplication::focusWidget());
+    }
+
+    [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
+};
+
+TEST_F(KeyboardTest, EveryPaneIsReachedForwardsAndBackwards)
+{
+    Choose("BRMS.SetRemoteLogConfig");
+    ASSERT_TRUE(Activate());
+    Find<QLineEdit>("callFilter").setFocus();
+    const QWidget* const panes[] = {Form().parentWidget(), Find<QTabWidget>("results").parentWidget(),
+                                    &Find<QTabWidget>("feeds"), Window().findChild<explorer::CallPanel*>()};
+    for (const QWidget* pPane : panes) {
+        Press(Qt::Key_F6);
+        EXPECT_TRUE(HasFocus(*pPane)) << pPane->objectName().toStdString();
+    }
+    for (const int pane : {2, 1, 0, 3}) {
+        Press(Qt::Key_F6, Qt::ShiftModifier);
+        EXPECT_TRUE(HasFocus(*panes[pane])) << pane;
+    }
+
+    // Past a pane that is hidden.
+    Press(Qt::Key_F8);
+    EXPECT_FALSE(Find<QTabWidget>("feeds").isVisible());
+    Press(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_TRUE(HasFocus(*panes[1]));
+}
+
+TEST_F(KeyboardTest, TheTabKeyReachesAllInTheOrderOfTheScreen)
+{
+    Choose("BRMS.SetRemoteLogConfig");
+    ASSERT_TRUE(Activate());
+    Find<QWidget>("servers").setFocus();
+    QList<const QWidget*> reached;
+    for (int step = 0; step < 200; ++step) {
+        if (!reached.contains(QApplication::focusWidget())) {
+            reached.append(QApplication::focusWidget());
+        }
+        Press(Qt::Key_Tab);
+    }
+    int last = -1;
+    for (const char* name : {"servers", "editServers", "emulator", "callFilter", "callTree", "enable", "ip", "wait",
+                             "timeout", "run", "logTable"}) {
+        const int place = reached.indexOf(&Find<QWidget>(name));
+        EXPECT_GT(place, last) << name;
+        last = place;
+    }
+}
+
+struct Place {
+    std::string name;
+    Qt::Key key;
+    int results;  // the tab that is shown then, -1 for any
+    int feeds;
+};
+
+class PlaceTest : public KeyboardTest, public testing::WithParamInterface<Place> {
+protected:
+    [[nodiscard]] const QWidget& Part() const
+    {
+        if (GetParam().name == "Calls") {
+            return Find<QWidget>("callTree");
+        }
+        if (GetParam().name == "Arguments") {
+            return Form();
+        }
+        return Find<QTabWidget>(GetParam().results >= 0 ? "results" : "feeds");
+    }
+};
+
+TEST_P(PlaceTest, HasAKeyThatLeadsThere)
+{
+    Choose("BRMS.SetRemoteLogConfig");
+    ASSERT_TRUE(Activate());
+    auto& results = Find<QTabWidget>("results");
+    auto& feeds = Find<QTabWidget>("feeds");
+    Press(Qt::Key_F8);
+    ASSERT_FALSE(feeds.isVisible());
+    Find<QWidget>("servers").setFocus();
+    Press(GetParam().key, Qt::ControlModifier);
+    EXPECT_TRUE(HasFocus(Part()));
+    if (GetParam().results >= 0) {
+        EXPECT_EQ(results.currentIndex(), GetParam().results);
+    }
+    if (GetParam().feeds >= 0) {
+        EXPECT_TRUE(feeds.isVisible());
+        EXPECT_EQ(feeds.currentIndex(), GetParam().feeds);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, PlaceTest,
+                         testing::Values(Place{"Calls", Qt::Key_1, -1, -1}, Place{"Arguments", Qt::Key_2, -1, -1},
+                                         Place{"Result", Qt::Key_3, 0, -1}, Place{"Request", Qt::Key_4, 1, -1},
+                                         Place{"Timing", Qt::Key_5, 2, -1}, Place{"Log", Qt::Key_6, -1, 0},
+                                         Place{"Notifications", Qt::Key_7, -1, 1}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(KeyboardTest, ACallWithoutArgumentsLeadsToItsRun)
+{
+    Choose("BRMS.GetTimeSyncConfig");
+    ASSERT_TRUE(Activate());
+    Press(Qt::Key_1, Qt::ControlModifier);
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(Find<QWidget>("run").parentWidget()->isAncestorOf(QApplication::focusWidget()));
+}
+
+class MnemonicTest : public KeyboardTest, public testing::WithParamInterface<const char*> {
+protected:
+    /// The letter behind the &, nothing without one.
+    static QString Letter(const QString& text)
+    {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+        return mnemonic.isEmpty() ? QString() : mnemonic.toString(QKeySequence::PortableText);
+    }
+
+    /// The keys that letters of the window lead to just now.
+    [[nodiscard]] QStringList Shown() const
+    {
+        QStringList texts = TextsOf(Window().menuBar()->actions());
+        for (const auto* pButton : Window().findChildren<QAbstractButton*>()) {
+            texts += pButton->isVisible() ? pButton->text() : QString();
+        }
+        for (const auto* pLabel : Window().findChildren<QLabel*>()) {
+            texts += pLabel->isVisible() && pLabel->buddy() != nullptr ? pLabel->text() : QString();
+        }
+        for (const auto* pBar : Window().findChildren<QTabBar*>()) {
+            for (int tab = 0; tab < pBar->count(); ++tab) {
+                texts += pBar->isVisible() ? pBar->tabText(tab) : QString();
+            }
+        }
+        return texts;
+    }
+
+    static QStringList TextsOf(const QList<QAction*>& actions)
+    {
+        QStringList texts;
+        for (const QAction* pAction : actions) {
+            texts.append(pAction->text());
+        }
+        return texts;
+    }
+
+    static void ExpectUnique(const QStringList& texts, const std::string& where)
+    {
+        QHash<QString, QString> owners;
+        for (const QString& text : texts) {
+            const QString letter = Letter(text);
+            if (!letter.isEmpty()) {
+                EXPECT_FALSE(owners.contains(letter))
+                    << where << ": " << text.toStdString() << " and " << owners.value(letter).toStdString();
+                owners.insert(letter, text);
+            }
+        }
+    }
+};
+
+TEST_P(MnemonicTest, EachLetterLeadsToOnePlace)
+{
+    testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("[]"); });
+    Use(server.Port());
+    emit Window().LanguageChosen(QLatin1String(GetParam()));
+    Run("OMMS.GetAlertTypes");
+    auto& results = Find<QTabWidget>("results");
+    for (int tab = 0; tab < results.count(); ++tab) {
+        results.setCurrentIndex(tab);
+        auto* const pInner = results.currentWidget()->findChild<QTabWidget*>();
+        for (int inner = 0; inner < (pInner == nullptr ? 1 : pInner->count()); ++inner) {
+            if (pInner != nullptr) {
+                pInner->setCurrentIndex(inner);
+            }
+            ExpectUnique(Shown(), "tab " + std::to_string(tab) + '.' + std::to_string(inner));
+        }
+    }
+    for (const QMenu* pMenu : Window().findChildren<QMenu*>()) {
+        ExpectUnique(TextsOf(pMenu->actions()), pMenu->title().toStdString());
+    }
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, MnemonicTest, testing::Values("en", "de", "zh"),
+                         [](const auto& row) { return std::string(row.param); });
+
+}  // namespace

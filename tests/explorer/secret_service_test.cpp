@@ -1,0 +1,75 @@
+// With the desktop's secret service of a session of its own; what the program is without one, servers_test tells.
+#include "support/ExplorerTest.h"
+
+#include <QDirIterator>
+#include <QSignalSpy>
+#include <QStandardPaths>
+
+namespace {
+
+using namespace explorer_test;
+
+constexpr const char* kSecret = "s3cret-t0ken-of-the-night";
+
+class SecretServiceTest : public ExplorerTest {
+protected:
+    SecretServiceTest()
+    {
+        Close();
+        usedVault = &m_service;
+        Start();
+    }
+
+    std::optional<QString> Read(const QString& serverId)
+    {
+        bool answered = false;
+        std::optional<QString> token;
+        m_service.Read(serverId, [&](const std::optional<QString>& found) {
+            answered = true;
+            token = found;
+        });
+        EXPECT_TRUE(Await([&answered] { return answered; }));
+        return token;
+    }
+
+private:
+    explorer::SecretService m_service;
+};
+
+TEST_F(SecretServiceTest, KeepsATokenBetweenTheRunsOfTheProgram)
+{
+    Use(1);
+    const QSignalSpy kept(&session->tokens, &explorer::Tokens::Kept);
+    const QString id = session->servers.Current().id;
+    session->tokens.Set(id, QLatin1String(kSecret), true);
+    ASSERT_TRUE(Await([&kept] { return kept.count() == 1; }));
+    ASSERT_TRUE(kept.first().at(1).toBool());
+
+    Close();
+    Start();
+    EXPECT_EQ(session->servers.Current().id, id);
+    ASSERT_TRUE(Await([this] { return session->CurrentToken().has_value(); }));
+    EXPECT_EQ(*session->CurrentToken(), QLatin1String(kSecret));
+
+    session->tokens.Forget(id);
+    EXPECT_TRUE(Await([this, &id] { return !Read(id); }));
+}
+
+TEST_F(SecretServiceTest, NoFileHoldsTheTokenInClear)
+{
+    const QSignalSpy kept(&session->tokens, &explorer::Tokens::Kept);
+    session->tokens.Set(QStringLiteral("a-server"), QLatin1String(kSecret), true);
+    ASSERT_TRUE(Await([&kept] { return kept.count() == 1; }));
+    int files = 0;
+    QDirIterator all(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), QDir::Files,
+                     QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        QFile file(all.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(file.readAll().contains(kSecret)) << file.fileName().toStdString();
+        ++files;
+    }
+    EXPECT_GT(files, 0);  // those of the secret service
+}
+
+}  // namespace
