@@ -1,6 +1,6 @@
 #pragma once
 
-/** A namespace: the one comment that nobody has to miss. */
+/// A namespace.
 namespace sample {
 
 /// A kind of thing.
