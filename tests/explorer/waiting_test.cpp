@@ -2,13 +2,17 @@
 
 #include <OrnGui/OrnWaitDialog.h>
 
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QSpinBox>
 #include <QTimer>
 
 #include <atomic>
+#include <memory>
 
 namespace {
 
@@ -214,6 +218,52 @@ TEST_P(ClosingTest, ALanguageThatTakesANewWindowWhileACallWaitsDoesNoHarm)
 
 INSTANTIATE_TEST_SUITE_P(Waits, ClosingTest, testing::Bool(),
                          [](const auto& row) { return row.param ? "BehindTheWaitDialog" : "InTheEventLoop"; });
+
+TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
+{
+    UseEmulator();
+    QNetworkAccessManager network;
+    QNetworkRequest request(
+        QUrl(QStringLiteral("http://127.0.0.1:%1/emulator/v1/faults").arg(session->emulator.HttpPort())));
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    const std::unique_ptr<QNetworkReply> reply(
+        network.post(request, R"({"path": "/brms/api/v1.1/config/remote-log", "kind": "delay", "delayMs": 60000})"));
+    ASSERT_TRUE(Await([&reply] { return reply->isFinished(); }));
+    ASSERT_EQ(reply->error(), QNetworkReply::NoError) << reply->readAll().toStdString();
+
+    WaitInEventLoop();
+    SetTimeout(60);
+    Choose(kCall);
+    ClickRun();
+    QElapsedTimer clock;
+    clock.start();
+    constexpr int kUnderWay = 500;  // milliseconds
+    QTimer::singleShot(kUnderWay, session.get(), [this] {
+        EXPECT_EQ(session->runner.Pending(), 1);
+        EXPECT_TRUE(outcomes.empty());
+        session->emulator.Stop();
+    });
+    ASSERT_TRUE(AwaitRuns(1));
+    EXPECT_GE(clock.elapsed(), kUnderWay);
+    EXPECT_EQ(outcomes.front().result, -1);
+    ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Stopped; }));
+    EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
+}
+
+TEST_F(WaitingTest, WhatIsRecordedMayChangeWhileACallWaits)
+{
+    const HoldingServer server("remote-log");
+    Use(server.Port());
+    WaitInEventLoop();
+    SetTimeout(1);
+    RunAnd(server, [this] { Find<QAction>("recordTraffic").trigger(); });
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").succeeded);
+    EXPECT_FALSE(outcomes.back().reply);
+    Find<QAction>("recordTraffic").trigger();
+    EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").reply);
+}
 
 TEST_F(WaitingTest, TheParentThatIsDeletedEndsTheWait)
 {

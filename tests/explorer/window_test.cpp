@@ -3,9 +3,11 @@
 #include <explorer/views/ArgumentForm.h>
 #include <explorer/views/NumberBox.h>
 #include <explorer/views/ResultView.h>
+#include <explorer/window/Appearance.h>
 #include <explorer/window/CallPanel.h>
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -352,6 +354,43 @@ TEST_F(WindowTest, SpeaksTheLanguagesOfTheErrorTexts)
     Close();
     Start();
     EXPECT_EQ(Find<QPushButton>("run").text(), QStringLiteral("Ausführen"));
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+TEST_F(WindowTest, SpeaksEnglishWhereThereIsNoTranslation)
+{
+    const auto plural = [](int count) {
+        return QCoreApplication::translate("explorer::CallPanel", "%n call(s)", nullptr, count);
+    };
+    explorer::ApplyLanguage(QStringLiteral("fr"));
+    EXPECT_EQ(plural(1), QStringLiteral("1 call"));
+    EXPECT_EQ(plural(2), QStringLiteral("2 calls"));
+
+    settings->setValue(QStringLiteral("language"), QStringLiteral("fr_FR"));
+    Close();
+    Start();
+    EXPECT_EQ(Find<QPushButton>("run").text(), QStringLiteral("Run"));
+    EXPECT_EQ(TextOf("callCount"), QStringLiteral("%1 calls").arg(catalogue::Calls().size()));
+}
+
+TEST_F(WindowTest, ARefusedPasteIsExplainedInTheUsersLanguage)
+{
+    const std::pair<const char*, const char*> languages[] = {
+        {"en", "The clipboard does not fit: /settingType: expected int, got text"},
+        {"de", "Die Zwischenablage passt nicht: /settingType: "},
+        {"zh", "/settingType"}};
+    QStringList problems;
+    for (const auto& [language, problem] : languages) {
+        emit Window().LanguageChosen(QLatin1String(language));
+        Choose("BRMS.GetLocalSetting");
+        QGuiApplication::clipboard()->setText(QStringLiteral("{\"settingType\": \"7\"}"));
+        Window().findChild<explorer::ArgumentForm*>()->Paste();
+        const QString shown = TextOf("pasteProblem");
+        EXPECT_TRUE(shown.contains(QString::fromUtf8(problem))) << shown.toStdString();
+        EXPECT_EQ(shown.contains(QStringLiteral("expected")), QByteArray(language) == "en") << shown.toStdString();
+        problems.append(shown);
+    }
+    EXPECT_EQ(problems.removeDuplicates(), 0);
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 

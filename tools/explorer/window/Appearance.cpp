@@ -164,8 +164,11 @@ void ApplyLanguage(const QString& language)
     Translators().clear();
     const QString toolkit = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
     Install(QStringLiteral("qtbase_") + toolkit, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    for (const char* name : {"apimodule", "orngui", "tools", "explorer"}) {
-        Install(QLatin1String(name) + QLatin1Char('_') + language, translation::Folder());
+    // What no other language says is English, of which the files hold the plural forms.
+    for (const QString& spoken : {QStringLiteral("en"), language}) {
+        for (const char* name : {"apimodule", "orngui", "tools", "explorer"}) {
+            Install(QLatin1String(name) + QLatin1Char('_') + spoken, translation::Folder());
+        }
     }
     QLocale::setDefault(QLocale(toolkit));
     ErrorLexicon::SetLanguage(language.toStdString());

@@ -121,8 +121,11 @@ void Describe(QStandardItem* pItem, const Call& call, const Endpoint& endpoint)
     const QStringList words{SearchText(call), endpoint.method, endpoint.path, endpoint.keys.join(QLatin1Char('\n'))};
     pItem->setData(words.join(QLatin1Char('\n')), kSearchRole);
     pItem->setData(endpoint.method, kMethodRole);
-    pItem->setToolTip(
-        endpoint.path.isEmpty() ? summary : summary + QStringLiteral("\n%1 %2").arg(endpoint.method, endpoint.path));
+    QStringList tip{QString::fromStdString(call.name), summary};
+    if (!endpoint.path.isEmpty()) {
+        tip.append(endpoint.method + QLatin1Char(' ') + endpoint.path);
+    }
+    pItem->setToolTip(tip.join(QLatin1Char('\n')));
 }
 
 QStandardItem* NewItem(const Call& call, const Endpoints& endpoints)
@@ -142,6 +145,7 @@ QStandardItem* ChildWithText(QStandardItem* pParent, const QString& text)
         }
     }
     auto* const pChild = new QStandardItem(text);
+    pChild->setToolTip(text);
     pParent->appendRow(pChild);
     return pChild;
 }

@@ -91,12 +91,9 @@ void ResultHeader::Show(const CallOutcome& outcome)
     if (outcome.timeoutSeconds > 0) {
         details.append(tr("time-out %1 s").arg(outcome.timeoutSeconds));
     }
-    details.append(outcome.server);
     details.append(QLocale().toString(outcome.started.time(), QStringLiteral("HH:mm:ss")));
-    for (QString& detail : details) {
-        detail.replace(QLatin1Char(' '), QChar(QChar::Nbsp));  // a line may end between them
-    }
-    QString text = details.join(QStringLiteral("\u00a0\u00a0·  "));
+    details.append(outcome.server);
+    QString text = details.join(QStringLiteral("  ·  "));
     const QString words = ServersWords(outcome);
     if (!words.isEmpty()) {
         text += QLatin1Char('\n') + tr("The server says: %1").arg(words);

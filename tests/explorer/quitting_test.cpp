@@ -1,0 +1,55 @@
+// One end of the program in each process: after it nothing waits any more.
+#include "support/ExplorerTest.h"
+
+#include <QSpinBox>
+#include <QTimer>
+
+#include <atomic>
+
+namespace {
+
+using namespace explorer_test;
+using testing_support::RawAnswer;
+using testing_support::RawRequest;
+using testing_support::RawServer;
+
+class QuittingTest : public ExplorerTest, public testing::WithParamInterface<bool> {};
+
+TEST_P(QuittingTest, TheLastWindowWhileACallWaitsEndsTheProgram)
+{
+    std::atomic<int> requests{0};
+    const RawServer server([&requests](const RawRequest&) {
+        ++requests;
+        return RawAnswer{};
+    });
+    Use(server.Port());
+    if (!GetParam()) {
+        WaitInEventLoop();
+    }
+    constexpr int kLong = 600;  // seconds
+    Find<QSpinBox>("timeout").setValue(kLong);
+    Choose("BRMS.GetRemoteLogConfig");
+    ClickRun();
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer, &requests] {
+        if (requests > 0) {
+            timer.stop();
+            EXPECT_TRUE(outcomes.empty());
+            Window().close();
+        }
+    });
+    timer.start(10);
+    QTimer::singleShot(kPatience, &timer, &QApplication::quit);
+    QApplication::setQuitOnLastWindowClosed(true);
+    QApplication::exec();
+    EXPECT_FALSE(timer.isActive());
+    EXPECT_EQ(session->runner.Pending(), 0);
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_LT(outcomes.front().elapsedMilliseconds, kPatience / 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Waits, QuittingTest, testing::Bool(),
+                         [](const auto& row) { return row.param ? "BehindTheWaitDialog" : "InTheEventLoop"; });
+
+}  // namespace
