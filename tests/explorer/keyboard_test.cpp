@@ -18,12 +18,6 @@ using namespace explorer_test;
 
 class KeyboardTest : public ExplorerTest {
 protected:
-    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &Window(),
-                        static_cast<Qt::Key>(key), modifiers);
-    }
-
     static bool HasFocus(const QWidget& part)
     {
         return QApplication::focusWidget() == &part || part.isAncestorOf(QApplication::focusWidget());

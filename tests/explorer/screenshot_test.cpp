@@ -55,7 +55,7 @@ protected:
         Run("BRMS.GetDiskWarm");
         Run("OMMS.GetAlertTypes");
         EXPECT_TRUE(Activate());
-        QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
+        Press(Qt::Key_D, Qt::ControlModifier);
         Run("BRMS.GetQuickCommands");
     }
 };

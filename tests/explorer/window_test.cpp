@@ -54,11 +54,6 @@ protected:
     }
 
     void TypeInFocus(const QString& text) const { QTest::keyClicks(QApplication::focusWidget(), text); }
-    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &Window(),
-                        static_cast<Qt::Key>(key), modifiers);
-    }
 };
 
 TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
@@ -193,7 +188,7 @@ TEST_F(WindowTest, FavouritesAndTheCallsUsedLastAreKept)
     Run("BRMS.GetTimeSyncConfig");
     Run(kCall);
     ASSERT_TRUE(Activate());
-    QTest::keyClick(&Window(), Qt::Key_D, Qt::ControlModifier);
+    Press(Qt::Key_D, Qt::ControlModifier);
     Close();
     Start();
     const QStringList rows = Calls();

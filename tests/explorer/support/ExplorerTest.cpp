@@ -73,6 +73,12 @@ bool ExplorerTest::Activate() const
     return QTest::qWaitForWindowActive(&Window());
 }
 
+void ExplorerTest::Press(int key, Qt::KeyboardModifiers modifiers) const
+{
+    QWidget* const pFocus = QApplication::focusWidget();
+    QTest::keyClick(pFocus != nullptr ? pFocus : &Window(), static_cast<Qt::Key>(key), modifiers);
+}
+
 void ExplorerTest::Use(int port, bool https)
 {
     QVector<explorer::Server> servers = session->servers.All();

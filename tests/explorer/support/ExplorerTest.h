@@ -54,6 +54,8 @@ protected:
 
     /// Waits until keys go to the window.
     [[nodiscard]] bool Activate() const;
+    /// A key for what has the focus.
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
     /// Makes a server the current one, with a token.
     void Use(int port, bool https = false);

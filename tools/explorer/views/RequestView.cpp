@@ -46,8 +46,8 @@ RequestView::RequestView(QWidget* pParent)
     m_pTarget->setTabChangesFocus(true);
     m_pTarget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     constexpr int kLines = 2;  // longer ones scroll
-    constexpr int kFrame = 10;
-    m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + kFrame);
+    const double around = 2 * (m_pTarget->document()->documentMargin() + m_pTarget->frameWidth() + 1);
+    m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + int(around));
     m_pTarget->setPlaceholderText(tr("No request was made."));
     m_pHeaders->setObjectName(QStringLiteral("headers"));
     m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
@@ -79,6 +79,8 @@ RequestView::RequestView(QWidget* pParent)
     pTargetLabel->setBuddy(m_pTarget);
     auto* pTargetRow = new QHBoxLayout;
     pTargetRow->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    constexpr int kToTheFirstLine = 4;
+    pTargetLabel->setContentsMargins(0, kToTheFirstLine, 0, 0);
     pTargetRow->addWidget(pTargetLabel, 0, Qt::AlignTop);
     pTargetRow->addWidget(m_pTarget, 1);
     auto* pPage = new QWidget;
