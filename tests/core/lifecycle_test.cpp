@@ -97,13 +97,18 @@ TEST_F(Lifecycle, ApplicationsOneAfterTheOther)
 
 TEST_F(Lifecycle, ApplicationAfterOneThatQuit)
 {
-    for (int i = 0; i < 2; ++i) {
+    {
         const QCoreApplication application(g_argc, g_argv);
         const Server server(*this);
         EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
         QTimer::singleShot(0, &application, &QCoreApplication::quit);
         QCoreApplication::exec();
     }
+    const QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    notifications.Take();
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
+    EXPECT_EQ(notifications.Take(), TimeOutNotice());
 }
 
 TEST_F(Lifecycle, AnotherThreadIsRefused)

@@ -23,8 +23,6 @@ using namespace detail;
 
 namespace {
 
-constexpr const char* kFile = "src/UI/APIModule/APIModule";
-
 constexpr int kCurrentServer = -1;
 constexpr int kParseFailed = 3101;
 
@@ -84,14 +82,14 @@ void CAPIModule::Init(UserLogical::IUserManager* pUserManager)
     }
     m_pUserManager = pUserManager;
     m_bInitialised = true;
-    LogInfo({kFile, "APIModule::CAPIModule::Init"}, "Init Sucess");
+    LogInfo({kModuleFile, "APIModule::CAPIModule::Init"}, "Init Sucess");
 }
 
 void CAPIModule::UnInit()
 {
     m_pUserManager = nullptr;
     m_bInitialised = false;
-    LogInfo({kFile, "APIModule::CAPIModule::UnInit"}, "unInit Sucess");
+    LogInfo({kModuleFile, "APIModule::CAPIModule::UnInit"}, "unInit Sucess");
 }
 
 void CAPIModule::SetHttpsMode(int nHttpsMode)
@@ -112,19 +110,19 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
     constexpr const char* kFunction = "APIModule::CAPIModule::GetRequestParam";
     constexpr const char* kNoUserManager = "GetRequestParam failed! no user manager.";
     if (!d->AttachToApplication()) {
-        LogFailure({kFile, kFunction}, "GetRequestParam failed! wrong thread or no application.");
+        LogFailure({kModuleFile, kFunction}, "GetRequestParam failed! wrong thread or no application.");
         return -1;
     }
     if (!pReqParamData) {
-        LogFailure({kFile, kFunction}, "GetRequestParam failed! pReqParamData can not be null.");
+        LogFailure({kModuleFile, kFunction}, "GetRequestParam failed! pReqParamData can not be null.");
         return -1;
     }
     if (strUrl.isEmpty()) {
-        LogFailure({kFile, kFunction}, "GetRequestParam failed! strUrl can not be empty.");
+        LogFailure({kModuleFile, kFunction}, "GetRequestParam failed! strUrl can not be empty.");
         return -1;
     }
     if (!m_pUserManager) {
-        LogFailure({kFile, kFunction}, kNoUserManager);
+        LogFailure({kModuleFile, kFunction}, kNoUserManager);
         return -1;
     }
 
@@ -135,7 +133,7 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
             nServerId = m_pUserManager->GetCurrentServerId();
         }
         if (!m_pUserManager) {  // the host may have ended use meanwhile
-            LogFailure({kFile, kFunction}, kNoUserManager);
+            LogFailure({kModuleFile, kFunction}, kNoUserManager);
             return -1;
         }
         const std::shared_ptr<UserLogical::IServer> pServer = m_pUserManager->GetServer(nServerId);
@@ -146,7 +144,7 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
         strToken = pServer->GetToken();
         return 0;
     };
-    if (RunHosted({kFile, kFunction}, QStringLiteral("userManager"), askUserManager) != 0) {
+    if (RunHosted({kModuleFile, kFunction}, QStringLiteral("userManager"), askUserManager) != 0) {
         return -1;
     }
 
@@ -179,11 +177,11 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
     const QString successTip(strSuccessTip);  // NOLINT(performance-unnecessary-copy-initialization)
 
     if (!d->AttachToApplication()) {
-        LogFailure({kFile, kFunction}, "ExecuteFuncs failed! wrong thread or no application.");
+        LogFailure({kModuleFile, kFunction}, "ExecuteFuncs failed! wrong thread or no application.");
         return -1;
     }
     if (!packetFunc) {
-        LogFailure({kFile, kFunction}, "Call packetFunc failed! packetFunc can not be null.");
+        LogFailure({kModuleFile, kFunction}, "Call packetFunc failed! packetFunc can not be null.");
         return -1;
     }
 
@@ -197,7 +195,7 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
         NotifyErrorMessage(uiError, nResult, bShowErrorCode);
         return -1;
     }
-    LogInfo({kFile, kFunction}, QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
+    LogInfo({kModuleFile, kFunction}, QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
 
     ReplyInfo reply;
     if (const int nResult = ExecuteRequest(request, parent, reply)) {
@@ -248,7 +246,7 @@ QString CAPIModule::GetErroCodeInfor(const QString& strUIError, int errorCode, b
         return bAppend && !strUIError.isEmpty() ? strUIError + tr(":") + QLatin1Char(' ') + codeText : codeText;
     }
 
-    const LogSite site{kFile, "APIModule::CAPIModule::GetErroCodeInfor"};
+    const LogSite site{kModuleFile, "APIModule::CAPIModule::GetErroCodeInfor"};
     const QString line = QLatin1String("Error code is not exist, strUIError=") + strUIError +
                          QLatin1String(", errorCode=") + QString::number(errorCode);
     LogFailure(site, line);

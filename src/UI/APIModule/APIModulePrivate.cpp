@@ -23,7 +23,6 @@ using namespace detail;
 
 namespace {
 
-constexpr const char* kFile = "src/UI/APIModule/APIModule";
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 
 constexpr int kInvalidRequest = -4;
@@ -176,7 +175,6 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
     MoveTo(application.thread());
     m_pApplication = &application;
     m_pNetworkManager = new QNetworkAccessManager;
-    m_bQuitting = false;
     connect(&application, &QCoreApplication::aboutToQuit, this, [this] { m_bQuitting = true; });
     // The network manager has a thread of its own, which must not outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
@@ -190,12 +188,12 @@ void CAPIModulePrivate::DetachFromApplication()
 
 int CAPIModulePrivate::Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param)
 {
-    return RunHosted({kFile, kExecuteFuncs}, QStringLiteral("packetFunc"), [&] { return packetFunc(&param); });
+    return RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("packetFunc"), [&] { return packetFunc(&param); });
 }
 
 int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& request)
 {
-    const LogSite site{kFile, "APIModule::CAPIModulePrivate::BuildRequest"};
+    const LogSite site{kModuleFile, "APIModule::CAPIModulePrivate::BuildRequest"};
     if (!IsHeaderValue(m_strLanguage) || !IsHeaderValue(param.strToken) || !IsHeaderValue(param.strSequence)) {
         LogFailure(site, "Invalid request header, a value holds a line break or a zero byte.");
         return kInvalidRequest;
@@ -277,7 +275,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
             if (wait.IsOrphaned()) {
                 return;
             }
-            result = TakeReply(*pReply, request, reply, {kFile, pFunction});
+            result = TakeReply(*pReply, request, reply, {kModuleFile, pFunction});
             wait.End();
         });
         connect(pReply, &QObject::destroyed, wait.Context(), [&wait] { wait.End(); });
@@ -289,7 +287,8 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
     delete pReply;
     --m_nUnderWay;
     if (!result) {
-        LogFailure({kFile, pFunction}, QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
+        LogFailure({kModuleFile, pFunction},
+                   QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
     }
     const int nResult = result.value_or(kTimedOut);
     DropConnectionsAfter(nResult);
@@ -338,7 +337,8 @@ int CAPIModulePrivate::Deliver(const boost::function<int(QJsonObject const&)>& p
     if (!parseFunc) {
         return 0;
     }
-    return RunHosted({kFile, kExecuteFuncs}, QStringLiteral("parseFunc"), [&] { return parseFunc(reply.jsonData); });
+    return RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("parseFunc"),
+                     [&] { return parseFunc(reply.jsonData); });
 }
 
 }  // namespace APIModule

@@ -17,6 +17,9 @@ namespace APIModule {
 
 class Wait;
 
+/// Where the log lines of the façade and of its steps say that they come from.
+inline constexpr const char* kModuleFile = "src/UI/APIModule/APIModule";
+
 /// The steps of a call: builds requests, executes them, judges replies, delivers their data.
 class CAPIModulePrivate : public QObject {
     Q_OBJECT
