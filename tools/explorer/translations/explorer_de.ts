@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>Filter by name, path or key</source>
-        <translation>Nach Name, Pfad oder Schlüssel filtern</translation>
+        <translation>Name, Pfad, Schlüssel</translation>
     </message>
     <message>
         <source>Calls</source>

@@ -91,9 +91,10 @@ void ResultHeader::Show(const CallOutcome& outcome)
     if (outcome.timeoutSeconds > 0) {
         details.append(tr("time-out %1 s").arg(outcome.timeoutSeconds));
     }
-    details.append(QLocale().toString(outcome.started.time(), QStringLiteral("HH:mm:ss")));
-    details.append(outcome.server);
-    QString text = details.join(QStringLiteral("  ·  "));
+    const QStringList circumstances{outcome.server,
+                                    QLocale().toString(outcome.started.time(), QStringLiteral("HH:mm:ss"))};
+    const QString between = QStringLiteral("  ·  ");
+    QString text = details.join(between) + QLatin1Char('\n') + circumstances.join(between);
     const QString words = ServersWords(outcome);
     if (!words.isEmpty()) {
         text += QLatin1Char('\n') + tr("The server says: %1").arg(words);
