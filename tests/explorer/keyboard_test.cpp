@@ -140,13 +140,16 @@ protected:
     [[nodiscard]] QStringList Shown() const
     {
         QStringList texts = TextsOf(Window().menuBar()->actions());
-        for (const auto* pButton : Window().findChildren<QAbstractButton*>()) {
+        const auto buttons = Window().findChildren<QAbstractButton*>();
+        for (const auto* pButton : buttons) {
             texts += pButton->isVisible() ? pButton->text() : QString();
         }
-        for (const auto* pLabel : Window().findChildren<QLabel*>()) {
+        const auto labels = Window().findChildren<QLabel*>();
+        for (const auto* pLabel : labels) {
             texts += pLabel->isVisible() && pLabel->buddy() != nullptr ? pLabel->text() : QString();
         }
-        for (const auto* pBar : Window().findChildren<QTabBar*>()) {
+        const auto bars = Window().findChildren<QTabBar*>();
+        for (const auto* pBar : bars) {
             for (int tab = 0; tab < pBar->count(); ++tab) {
                 texts += pBar->isVisible() ? pBar->tabText(tab) : QString();
             }
@@ -194,7 +197,8 @@ TEST_P(MnemonicTest, EachLetterLeadsToOnePlace)
             ExpectUnique(Shown(), "tab " + std::to_string(tab) + '.' + std::to_string(inner));
         }
     }
-    for (const QMenu* pMenu : Window().findChildren<QMenu*>()) {
+    const auto menus = Window().findChildren<QMenu*>();
+    for (const QMenu* pMenu : menus) {
         ExpectUnique(TextsOf(pMenu->actions()), pMenu->title().toStdString());
     }
     emit Window().LanguageChosen(QStringLiteral("en"));
