@@ -36,16 +36,21 @@ if(APIMODULE_BUILD_TOOLS)
     install(TARGETS ${programs} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
 
     # The manual of a program is what it says of itself.
+    set(title_of_apicall "runs calls of a platform server from a shell")
+    set(title_of_apimodule-explorer "runs calls of a platform server from a window")
+    set(title_of_platform-emulator "a platform server to develop and test against")
     find_program(HELP2MAN help2man)
     if(HELP2MAN)
         foreach(program IN LISTS programs)
             set(manual "${PROJECT_BINARY_DIR}/man/${program}.1")
-            add_custom_command(OUTPUT "${manual}"
+            add_custom_command(OUTPUT "${manual}.gz"
                 COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/man"
                 COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen
-                    "${HELP2MAN}" --no-info --no-discard-stderr --output "${manual}" $<TARGET_FILE:${program}>
+                    "${HELP2MAN}" --no-info --no-discard-stderr --output "${manual}"
+                    --name "${title_of_${program}}" $<TARGET_FILE:${program}>
+                COMMAND gzip --best --no-name --force "${manual}"
                 DEPENDS ${program} VERBATIM)
-            list(APPEND manuals "${manual}")
+            list(APPEND manuals "${manual}.gz")
         endforeach()
         add_custom_target(manuals ALL DEPENDS ${manuals})
         install(FILES ${manuals} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools)
