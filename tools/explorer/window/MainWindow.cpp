@@ -404,7 +404,7 @@ void MainWindow::MakeHelpMenu()
 void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
-    resize(kSize.boundedTo(screen()->availableSize()));
+    resize(kSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     m_pPanes->setSizes({kPaneWidths[0], kPaneWidths[1], kPaneWidths[2]});
     m_pRows->setSizes({560, 180});
     QSettings& settings = m_session.settings;

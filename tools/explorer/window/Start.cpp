@@ -21,7 +21,9 @@ void PrepareApplication()
     TakeInResources();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
     QCoreApplication::setOrganizationName(QStringLiteral("APIModule"));
     QCoreApplication::setApplicationName(QStringLiteral("Explorer"));
     QGuiApplication::setDesktopFileName(QStringLiteral("apimodule-explorer"));
