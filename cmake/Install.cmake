@@ -8,6 +8,7 @@ set(libraries APIModule)
 if(APIMODULE_BUNDLED_PLATFORM)
     list(APPEND libraries ErrorLexicon OrnGui ornl UserLogical)
 endif()
+set(installed_libraries ${libraries})
 
 # Libraries find each other wherever they are put.
 foreach(library IN LISTS libraries)
@@ -16,9 +17,6 @@ foreach(library IN LISTS libraries)
         set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
 endforeach()
-
-# Every public header compiles on its own: target all_verify_interface_header_sets.
-set_target_properties(${libraries} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
 
 install(TARGETS ${libraries} EXPORT APIModuleTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
@@ -60,7 +58,8 @@ if(APIMODULE_BUILD_TOOLS)
         DESTINATION "${share_folder}" COMPONENT tools FILES_MATCHING PATTERN *.yaml PATTERN *.json)
 
     # The emulator for the tests of clients: find_package(APIModule CONFIG COMPONENTS Testing).
-    set_target_properties(APIModuleTesting PROPERTIES INSTALL_RPATH "$ORIGIN" VERIFY_INTERFACE_HEADER_SETS ON)
+    list(APPEND installed_libraries APIModuleTesting)
+    set_target_properties(APIModuleTesting PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS APIModuleTesting EXPORT APIModuleTestingTargets
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT tools NAMELINK_COMPONENT development
         FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
