@@ -3,7 +3,6 @@
 
 #include "families/support/ReadingDifference.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
 
@@ -23,7 +22,7 @@ QJsonObject RandomObject(FuzzedDataProvider& data)
 
 QJsonObject ParsedObject(FuzzedDataProvider& data)
 {
-    return QJsonDocument::fromJson(QByteArray::fromStdString(data.ConsumeRemainingBytesAsString())).object();
+    return fuzz::Parsed(QByteArray::fromStdString(data.ConsumeRemainingBytesAsString())).object();
 }
 
 }  // namespace

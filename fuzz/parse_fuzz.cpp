@@ -3,7 +3,6 @@
 
 #include "families/support/RandomReplies.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <gtest/gtest.h>
@@ -29,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         testing_support::RandomJson random(fuzz::ChoiceOf(data));
         reply = RandomReply(known.readings, random);
     } else {
-        reply = QJsonDocument::fromJson(QByteArray::fromStdString(data.ConsumeRemainingBytesAsString())).object();
+        reply = fuzz::Parsed(QByteArray::fromStdString(data.ConsumeRemainingBytesAsString())).object();
     }
     const std::string difference = Difference(known, reply, start);
     fuzz::Require(difference.empty(), difference);
