@@ -83,7 +83,12 @@ Census Census::Now()
 
 bool Census::IsWithin(const Census& before) const
 {
-    return objects == before.objects && sockets <= before.sockets;
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        if (object.value() > before.objects.value(object.key())) {
+            return false;
+        }
+    }
+    return sockets <= before.sockets;
 }
 
 std::ostream& operator<<(std::ostream& stream, const Census& census)
