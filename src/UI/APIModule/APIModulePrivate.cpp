@@ -83,7 +83,7 @@ bool IsBodyWhole(const QNetworkReply& finished, int nStatus)
     constexpr int kNoContent = 204;
     constexpr int kNotModified = 304;
     return nStatus == kNoContent || nStatus == kNotModified ||
-           finished.hasRawHeader("Transfer-Encoding") ||  // which overrides a length
+           finished.rawHeader("Transfer-Encoding").toLower().contains("chunked") ||  // which overrides a length
            finished.bytesAvailable() >= finished.header(QNetworkRequest::ContentLengthHeader).toLongLong();
 }
 
