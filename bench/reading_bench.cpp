@@ -7,7 +7,7 @@
 #include "reading/Same.h"
 
 #include <catalogue/Call.h>
-#include <detail/Envelope.h>
+#include <Envelope_p.h>
 #include <IPMS/IPMSModule.h>
 
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 // Unpacking of the envelope that a reply's body holds.
 #include "Fuzz.h"
 
-#include <detail/Envelope.h>
+#include <Envelope_p.h>
 
 #include <QJsonDocument>
 #include <QVariant>

@@ -1,7 +1,7 @@
 // Masking of the token in what is logged.
 #include "Fuzz.h"
 
-#include <detail/Mask.h>
+#include <Mask_p.h>
 
 #include <QString>
 

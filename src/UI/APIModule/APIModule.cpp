@@ -1,9 +1,9 @@
 #include "APIModule.h"
 
 #include "APIModule_p.h"
-#include "detail/Log.h"
-#include "detail/Mask.h"
-#include "detail/RunHosted.h"
+#include "Log_p.h"
+#include "Mask_p.h"
+#include "RunHosted_p.h"
 
 #include <ErrorLexicon/ErrorLexicon.h>
 #include <OrnGui/OrnMessageNotify.h>

@@ -1,10 +1,10 @@
 #include "APIModule_p.h"
 
-#include "detail/Envelope.h"
-#include "detail/Log.h"
-#include "detail/Mask.h"
-#include "detail/RunHosted.h"
-#include "Wait.h"
+#include "Envelope_p.h"
+#include "Log_p.h"
+#include "Mask_p.h"
+#include "RunHosted_p.h"
+#include "Wait_p.h"
 
 #include <QEventLoop>
 #include <QSslConfiguration>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "APIModule.h"
-#include "ReplyInfo.h"
+#include "ReplyInfo_p.h"
 
 #include <QCoreApplication>
 #include <QNetworkAccessManager>

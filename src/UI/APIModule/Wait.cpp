@@ -1,4 +1,4 @@
-#include "Wait.h"
+#include "Wait_p.h"
 
 #include <OrnGui/OrnWaitDialog.h>
 

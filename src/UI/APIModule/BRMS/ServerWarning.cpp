@@ -1,4 +1,4 @@
-#include "Brms.h"
+#include "BRMSModule_p.h"
 
 namespace APIModule {
 

@@ -1,4 +1,4 @@
-#include "Dms.h"
+#include "DMSModule_p.h"
 
 namespace APIModule {
 

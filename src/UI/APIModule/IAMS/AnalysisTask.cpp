@@ -1,4 +1,4 @@
-#include "Iams.h"
+#include "IAMSModule_p.h"
 
 namespace APIModule {
 

@@ -1,4 +1,4 @@
-#include "Ipms.h"
+#include "IPMSModule_p.h"
 
 namespace APIModule {
 

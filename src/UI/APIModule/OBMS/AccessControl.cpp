@@ -1,4 +1,4 @@
-#include "Obms.h"
+#include "OBMSModule_p.h"
 
 namespace APIModule {
 

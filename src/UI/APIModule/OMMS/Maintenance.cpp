@@ -1,4 +1,4 @@
-#include "Omms.h"
+#include "OMMSModule_p.h"
 
 namespace APIModule {
 

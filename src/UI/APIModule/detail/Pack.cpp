@@ -1,6 +1,6 @@
 #include "Pack.h"
 
-#include "Log.h"
+#include "../Log_p.h"
 
 #include <array>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "Read.h"
 
-#include "JsonAccess.h"
+#include "../JsonAccess_p.h"
 
 namespace APIModule::detail {
 

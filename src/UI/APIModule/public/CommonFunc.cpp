@@ -1,6 +1,6 @@
 #include "CommonFunc.h"
 
-#include "../detail/JsonAccess.h"
+#include "../JsonAccess_p.h"
 
 namespace APIModule {
 

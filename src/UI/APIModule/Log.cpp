@@ -1,4 +1,4 @@
-#include "Log.h"
+#include "Log_p.h"
 
 #include <libornl/TalPrintLog.h>
 

@@ -1,4 +1,4 @@
-#include "Envelope.h"
+#include "Envelope_p.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

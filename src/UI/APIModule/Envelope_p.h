@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../ReplyInfo.h"
+#include "ReplyInfo_p.h"
 
 namespace APIModule::detail {
 

@@ -1,4 +1,4 @@
-#include "Mask.h"
+#include "Mask_p.h"
 
 namespace APIModule::detail {
 

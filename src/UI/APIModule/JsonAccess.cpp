@@ -1,6 +1,6 @@
-#include "JsonAccess.h"
+#include "JsonAccess_p.h"
 
-#include "Log.h"
+#include "Log_p.h"
 
 #include <QtNumeric>
 
