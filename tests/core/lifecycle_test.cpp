@@ -95,22 +95,6 @@ TEST_F(Lifecycle, ApplicationsOneAfterTheOther)
     }
 }
 
-TEST_F(Lifecycle, ApplicationAfterOneThatQuit)
-{
-    {
-        const QCoreApplication application(g_argc, g_argv);
-        const Server server(*this);
-        EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
-        QTimer::singleShot(0, &application, &QCoreApplication::quit);
-        QCoreApplication::exec();
-    }
-    const QCoreApplication application(g_argc, g_argv);
-    const Server server(*this);
-    notifications.Take();
-    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
-    EXPECT_EQ(notifications.Take(), TimeOutNotice());
-}
-
 TEST_F(Lifecycle, AnotherThreadIsRefused)
 {
     const QCoreApplication application(g_argc, g_argv);
@@ -186,65 +170,6 @@ TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
     CAPIModule::GetInstance().UnInit();
 }
 
-/// Quits while a call waits, and calls again.
-class QuitTest : public Lifecycle {
-protected:
-    void ExpectQuitToEndCalls(bool bDialog)
-    {
-        TestApplication application(g_argc, g_argv);
-        const Server server(*this);
-        QWidget parent;
-        parent.show();
-        int nDuring = 99;
-        int nAfter = 99;
-        qint64 nWaited = 0;
-        QTimer::singleShot(0, &application, [&] {
-            QTimer::singleShot(100, &application, &QCoreApplication::quit);
-            HostCall call = Call(QStringLiteral("/silent"));
-            call.parent = bDialog ? &parent : nullptr;
-            QElapsedTimer elapsed;
-            elapsed.start();
-            nDuring = Execute(call);
-            nWaited = elapsed.elapsed();
-            EXPECT_EQ(notifications.Take(), TimeOutNotice());
-            nAfter = Execute(call);
-            EXPECT_EQ(notifications.Take(), TimeOutNotice());
-        });
-        QApplication::exec();
-        EXPECT_EQ(nDuring, -1);
-        EXPECT_GE(nWaited, 90);
-        EXPECT_EQ(nAfter, -1);
-        EXPECT_EQ(Execute(Call(QStringLiteral("/silent"))), -1) << "the façade has seen the end";
-        EXPECT_EQ(notifications.Take(), TimeOutNotice());
-        const LogLines lines = logs.Take();
-        EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
-                                [](const LogLine& line) {
-                                    return line.message.rfind("Request time out, request url: ", 0) == 0;
-                                }),
-                  3);
-    }
-};
-
-TEST_F(QuitTest, EndsAWaitInTheLoopAndAllThatFollow)
-{
-    ExpectQuitToEndCalls(false);
-}
-
-TEST_F(QuitTest, EndsAWaitBehindTheDialogAndAllThatFollow)
-{
-    ExpectQuitToEndCalls(true);
-}
-
-TEST_F(Lifecycle, QuitWithoutARunningLoopEndsTheNextCall)
-{
-    const QCoreApplication application(g_argc, g_argv);
-    const Server server(*this);
-    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
-    QCoreApplication::quit();
-    EXPECT_EQ(Execute(Call(QStringLiteral("/silent"))), -1);
-    EXPECT_EQ(notifications.Take(), TimeOutNotice());
-}
-
 /// The end of the application, for each of the ways of waiting.
 class EndTest : public Lifecycle, public testing::WithParamInterface<Waiting> {
 protected:
@@ -261,22 +186,159 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Waits, EndTest, testing::Values(InLoop, BehindDialog),
                          [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
 
-TEST_P(EndTest, CallsAboutToQuit)
+TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilAboutToQuit)
 {
     TestApplication application(g_argc, g_argv);
-    int nEarlier = 99;
-    int nLater = 99;
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
-                     [&] { nEarlier = Run(QStringLiteral("/ok")); });
     const Server server(*this);
+    int nDuring = 99;
+    int nAfter = 99;
+    bool bToldBefore = false;
+    bool bTold = false;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] { bTold = true; });
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer::singleShot(0, &application, [&] {
+        QTimer::singleShot(100, &application, &QCoreApplication::quit);
+        nDuring = Run(QStringLiteral("/silent"));
+        EXPECT_GE(elapsed.elapsed(), 90);
+        EXPECT_EQ(notifications.Take(), TimeOutNotice());
+        nAfter = Run(QStringLiteral("/silent"));
+        bToldBefore = bTold;
+    });
+    QApplication::exec();
+    EXPECT_LT(elapsed.elapsed(), 10000) << "neither call takes its 20 s";
+    EXPECT_TRUE(bTold);
+    EXPECT_FALSE(bToldBefore);
+    EXPECT_EQ(nDuring, -1);
+    EXPECT_EQ(nAfter, -1);
+    EXPECT_EQ(notifications.Take(), TimeOutNotice());
+    const LogLines lines = logs.Take();
+    EXPECT_EQ(std::count_if(
+                  lines.begin(), lines.end(),
+                  [](const LogLine& line) { return line.message.rfind("Request time out, request url: ", 0) == 0; }),
+              2);
+    EXPECT_EQ(Run(QStringLiteral("/ok")), 0) << "after exec";
+}
+
+TEST_P(EndTest, CallsWorkInEverySlotOfAboutToQuitAndAfterExec)
+{
+    TestApplication application(g_argc, g_argv);
+    std::vector<int> results;
+    const auto call = [&] { results.push_back(Run(QStringLiteral("/ok"))); };
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
+    const Server server(*this);
+    EXPECT_EQ(Run(QStringLiteral("/ok")), 0) << "before exec; the library's first use";
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
+    QTimer::singleShot(0, &application, [&] {
+        QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
+        QCoreApplication::quit();
+    });
+    QApplication::exec();
+    EXPECT_EQ(results, std::vector<int>(3, 0));
     EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
-                     [&] { nLater = Run(QStringLiteral("/silent")); });
+    EXPECT_EQ(notifications.Take(), QStringList());
+}
+
+TEST_P(EndTest, CallsWorkInEachExecOfAHostThatStartsAgain)
+{
+    TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    std::vector<int> results;
+    const auto call = [&] { results.push_back(Run(QStringLiteral("/ok"))); };
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
+    int nRestarts = 2;
+    do {
+        QTimer::singleShot(0, &application, [&] {
+            call();
+            QCoreApplication::quit();
+        });
+        QApplication::exec();
+        call();
+    } while (nRestarts-- > 0);
+    EXPECT_EQ(results, std::vector<int>(9, 0));
+}
+
+TEST_P(EndTest, CallsWorkUnderAnApplicationAfterOneThatQuit)
+{
+    for (int i = 0; i < 2; ++i) {
+        TestApplication application(g_argc, g_argv);
+        const Server server(*this);
+        EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
+        QTimer::singleShot(0, &application, &QCoreApplication::quit);
+        QApplication::exec();
+    }
+}
+
+TEST_P(EndTest, TimeOutHoldsInASlotOfAboutToQuit)
+{
+    TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    int nResult = 99;
+    qint64 nWaited = 0;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] {
+        QElapsedTimer elapsed;
+        elapsed.start();
+        nResult = Run(QStringLiteral("/silent"), 1);
+        nWaited = elapsed.elapsed();
+    });
     QTimer::singleShot(0, &application, &QCoreApplication::quit);
     QApplication::exec();
-    EXPECT_EQ(nEarlier, 0) << "before the façade's own slot a call still completes";
-    EXPECT_EQ(nLater, -1);
+    EXPECT_EQ(nResult, -1);
+    EXPECT_GE(nWaited, 1000);
     EXPECT_EQ(notifications.Take(), TimeOutNotice());
+}
+
+TEST_P(EndTest, QuitAgainEndsACallInASlotOfAboutToQuit)
+{
+    TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    std::vector<int> results;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] {
+        QTimer::singleShot(100, &application, [] { QCoreApplication::exit(); });
+        results.push_back(Run(QStringLiteral("/silent")));
+        results.push_back(Run(QStringLiteral("/silent")));
+    });
+    QTimer::singleShot(0, &application, &QCoreApplication::quit);
+    QApplication::exec();
+    EXPECT_EQ(results, std::vector<int>(2, -1));
+    EXPECT_LT(elapsed.elapsed(), 10000) << "neither call takes its 20 s";
+}
+
+/// Nobody tells of the end then: the next exec takes it back.
+TEST_P(EndTest, ExitWithoutARunningLoopEndsCallsUntilTheNextExec)
+{
+    TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QCoreApplication::exit();
+    EXPECT_EQ(Run(QStringLiteral("/silent")), -1);
+    EXPECT_LT(elapsed.elapsed(), 10000);
+    EXPECT_EQ(notifications.Take(), TimeOutNotice());
+    int nInside = 99;
+    QTimer::singleShot(0, &application, [&] {
+        nInside = Run(QStringLiteral("/ok"));
+        QCoreApplication::quit();
+    });
+    QApplication::exec();
+    EXPECT_EQ(nInside, 0);
+    EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
+}
+
+/// Without windows there is no dialog.
+TEST_F(Lifecycle, CallsWorkAboutToQuitAndAfterExecWithoutWindows)
+{
+    QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    int nAbout = 99;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
+                     [&] { nAbout = Execute(Call(QStringLiteral("/ok"))); });
+    QTimer::singleShot(0, &application, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    EXPECT_EQ(nAbout, 0);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
 }
 
 TEST_P(EndTest, QuitEndsTenNestedCalls)

@@ -384,45 +384,127 @@ TEST_F(WaitBase, ParentGoneBeforeTheWait)
     EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs(pack, call.parse, {}, call.parent, {}, true, true), 0);
 }
 
-/// What a user may do to the dialog without ending the wait.
+/// What may happen to the dialog.
 struct Disturbance {
     const char* name;
-    void (*act)(QWidget& dialog);
+    void (*act)(ORNGUI::OrnWaitDialog& dialog);
 };
 
-class DisturbanceTest : public WaitBase, public testing::WithParamInterface<Disturbance> {};
+class DisturbanceTest : public WaitBase, public testing::WithParamInterface<Disturbance> {
+protected:
+    /// Disturbs the dialog of the call that begins next.
+    void Disturb()
+    {
+        During(100, [this] {
+            auto* pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(pDialog, nullptr);
+            GetParam().act(*pDialog);
+            m_bDisturbed = true;
+        });
+    }
 
-const Disturbance kDisturbances[] = {
+    bool m_bDisturbed = false;
+};
+
+const Disturbance kHarmless[] = {
     {"escape",
-     [](QWidget& dialog) {
+     [](ORNGUI::OrnWaitDialog& dialog) {
          QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
          QApplication::sendEvent(&dialog, &press);
      }},
-    {"close_button", [](QWidget& dialog) { dialog.close(); }},
+    {"close_button", [](ORNGUI::OrnWaitDialog& dialog) { dialog.close(); }},
     {"close_event",
-     [](QWidget& dialog) {
+     [](ORNGUI::OrnWaitDialog& dialog) {
          QCloseEvent close;
          QApplication::sendEvent(&dialog, &close);
      }},
-    {"dialog_hidden", [](QWidget& dialog) { dialog.hide(); }},
-    {"dialog_deleted", [](QWidget& dialog) { delete &dialog; }},
+    {"done", [](ORNGUI::OrnWaitDialog& dialog) { dialog.done(QDialog::Accepted); }},
+    {"accept", [](ORNGUI::OrnWaitDialog& dialog) { dialog.accept(); }},
+    {"reject", [](ORNGUI::OrnWaitDialog& dialog) { dialog.reject(); }},
+    {"dialog_hidden", [](ORNGUI::OrnWaitDialog& dialog) { dialog.hide(); }},
+    {"parent_hidden", [](ORNGUI::OrnWaitDialog& dialog) { dialog.parentWidget()->hide(); }},
+    {"parent_closed", [](ORNGUI::OrnWaitDialog& dialog) { dialog.parentWidget()->close(); }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Disturbances, DisturbanceTest, testing::ValuesIn(kDisturbances), RowName());
+class HarmlessTest : public DisturbanceTest {};
 
-TEST_P(DisturbanceTest, DoesNotEndTheWait)
+INSTANTIATE_TEST_SUITE_P(Disturbances, HarmlessTest, testing::ValuesIn(kHarmless), RowName());
+
+TEST_P(HarmlessTest, DoesNotEndTheWait)
 {
-    bool bDone = false;
-    During(100, [&] {
-        auto* pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(pDialog, nullptr);
-        GetParam().act(*pDialog);
-        bDone = true;
-    });
+    Disturb();
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), 0);
-    EXPECT_TRUE(bDone);
+    EXPECT_TRUE(m_bDisturbed);
     EXPECT_EQ(notifications.Take(), QStringList{QStringLiteral("Done")});
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+/// Refuses to close, and with that refuses the end of the application.
+class RefusingWindow : public QWidget {
+protected:
+    void closeEvent(QCloseEvent* pEvent) override { pEvent->ignore(); }
+};
+
+const Disturbance kEnds[] = {
+    {"stopped", [](ORNGUI::OrnWaitDialog& dialog) { dialog.OnStopWaitImmediately(); }},
+    {"hidden_and_stopped",
+     [](ORNGUI::OrnWaitDialog& dialog) {
+         dialog.hide();
+         dialog.OnStopWaitImmediately();
+     }},
+    {"deleted", [](ORNGUI::OrnWaitDialog& dialog) { delete &dialog; }},
+    {"deleted_later", [](ORNGUI::OrnWaitDialog& dialog) { dialog.deleteLater(); }},
+    {"quit_refused",
+     [](ORNGUI::OrnWaitDialog&) {
+         RefusingWindow window;
+         window.show();
+         QEvent quit(QEvent::Quit);
+         QApplication::sendEvent(qApp, &quit);
+     }},
+};
+
+class EndedDialogTest : public DisturbanceTest {};
+
+INSTANTIATE_TEST_SUITE_P(Disturbances, EndedDialogTest, testing::ValuesIn(kEnds), RowName());
+
+TEST_P(EndedDialogTest, EndsTheWaitWithATimeOut)
+{
+    Disturb();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/silent"))), -1);
+    EXPECT_LT(elapsed.elapsed(), 10000) << "ends at once, not at its time-out";
+    EXPECT_TRUE(m_bDisturbed);
+    EXPECT_EQ(logs.Take(), TimedOut(BehindDialog, "/silent"));
+    EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/ok"))), 0);
+}
+
+/// The inner call keeps exec() of the outer one's dialog from returning. As after a time-out, a reply that comes until
+/// it returns counts.
+TEST_P(EndedDialogTest, ReplyBeforeExecReturnsIsTheResult)
+{
+    int nInner = 99;
+    During(50, [&] { nInner = Execute(Call(InLoop, QStringLiteral("/after/600"))); });
+    Disturb();
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/300"))), 0);
+    EXPECT_TRUE(m_bDisturbed);
+    EXPECT_EQ(nInner, 0);
+}
+
+/// Its dialog has ended, so the outer call does not wait on when the inner one has returned.
+TEST_P(EndedDialogTest, NoReplyBeforeExecReturnsIsATimeOut)
+{
+    int nInner = 99;
+    During(50, [&] { nInner = Execute(Call(InLoop, QStringLiteral("/after/300"))); });
+    Disturb();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/silent"))), -1);
+    EXPECT_LT(elapsed.elapsed(), 10000);
+    EXPECT_EQ(nInner, 0);
+    EXPECT_EQ(notifications.Take(), (QStringList{QStringLiteral("Done"), TimeOutNotice()}));
 }
 
 TEST_F(WaitBase, DialogIsModalOverItsParentAndGoesAway)

@@ -106,9 +106,10 @@ public:
     /// Runs one call: packs the request, sends it, waits, judges the reply, parses its data and notifies the user.
     ///
     /// Waiting runs the event loop, behind a modal wait dialog over @p pParent or, without a parent, in a local event
-    /// loop, so timers and paint events go on. Whatever happens meanwhile (the parent is deleted, UnInit(), another
-    /// call, the end of the application) the call returns, with the result of a time-out where the wait ended without
-    /// a reply.
+    /// loop, so timers and paint events go on. Whatever happens meanwhile (the parent or the dialog is deleted,
+    /// somebody else stops the dialog, UnInit(), another call, the end of the application) the call returns, with the
+    /// result of a time-out where the wait ended without a reply. From quit() until aboutToQuit() Qt runs no nested
+    /// event loop, so calls return at once with the result of a time-out; before and after that they work.
     ///
     /// @param packetFunc describes the request in the RequestParam that it is given; a result other than 0 ends the
     /// call

@@ -175,7 +175,6 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
     MoveTo(application.thread());
     m_pApplication = &application;
     m_pNetworkManager = new QNetworkAccessManager;
-    connect(&application, &QCoreApplication::aboutToQuit, this, [this] { m_bQuitting = true; });
     // The network manager has a thread of its own, which must not outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
 }
@@ -266,21 +265,18 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
     timer.start(Milliseconds(timeout.toInt()));
 
     std::optional<int> result;
-    QPointer<QNetworkReply> pReply;
     ++m_nUnderWay;
-    if (!m_bQuitting) {
-        pReply = Send(request);
-        connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
-            timer.stop();
-            if (wait.IsOrphaned()) {
-                return;
-            }
-            result = TakeReply(*pReply, request, reply, {kModuleFile, pFunction});
-            wait.End();
-        });
-        connect(pReply, &QObject::destroyed, wait.Context(), [&wait] { wait.End(); });
-        wait.Run();
-    }
+    const QPointer<QNetworkReply> pReply = Send(request);
+    connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
+        timer.stop();
+        if (wait.IsOrphaned()) {
+            return;
+        }
+        result = TakeReply(*pReply, request, reply, {kModuleFile, pFunction});
+        wait.End();
+    });
+    connect(pReply, &QObject::destroyed, wait.Context(), [&wait] { wait.End(); });
+    wait.Run();
 
     // No signal of the reply is under way any more, and none is to come. Deleted now, a reply that timed out gives its
     // connection to the requests after it even when the host makes them without a return to its event loop.

@@ -65,7 +65,6 @@ private:
     std::string m_strTimeZoneId;
     QPointer<QNetworkAccessManager> m_pNetworkManager;
     QPointer<QCoreApplication> m_pApplication;
-    bool m_bQuitting = false;
     int m_nUnderWay = 0;                 ///< requests that wait, each inside the one before
     bool m_bConnectionsSuspect = false;  ///< one of them got no answer
 };

@@ -14,6 +14,7 @@ Wait::Wait(QWidget& parent) : m_pDialog(new ORNGUI::OrnWaitDialog(&parent, true)
         m_bOrphaned = true;
         End();
     });
+    QObject::connect(m_pDialog, &QObject::destroyed, &m_loop, [this] { End(); });
 }
 
 Wait::~Wait()
@@ -23,11 +24,12 @@ Wait::~Wait()
 
 void Wait::Run()
 {
-    if (!m_bEnded && m_pDialog) {
-        m_pDialog->exec();
+    if (m_bEnded) {
+        return;
     }
-    // A dialog that somebody else took off the screen does not end the wait.
-    if (!m_bEnded) {
+    if (m_pDialog) {
+        m_pDialog->exec();
+    } else {
         m_loop.exec(m_flags);
     }
 }
