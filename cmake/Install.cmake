@@ -4,21 +4,15 @@ include(CMakePackageConfigHelpers)
 set(headers_folder "${CMAKE_INSTALL_INCLUDEDIR}/apimodule")
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/APIModule")
 
-set(libraries APIModule)
-if(APIMODULE_BUNDLED_PLATFORM)
-    list(APPEND libraries ErrorLexicon OrnGui ornl UserLogical)
-endif()
-set(installed_libraries ${libraries})
-
 # Libraries find each other wherever they are put.
-foreach(library IN LISTS libraries)
+foreach(library IN LISTS APIMODULE_LIBRARIES)
     get_target_property(type ${library} TYPE)
     if(type STREQUAL SHARED_LIBRARY)
         set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
 endforeach()
 
-install(TARGETS ${libraries} EXPORT APIModuleTargets
+install(TARGETS ${APIMODULE_LIBRARIES} EXPORT APIModuleTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
     FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
 install(EXPORT APIModuleTargets NAMESPACE APIModule:: DESTINATION "${package_folder}" COMPONENT development)
@@ -58,7 +52,6 @@ if(APIMODULE_BUILD_TOOLS)
         DESTINATION "${share_folder}" COMPONENT tools FILES_MATCHING PATTERN *.yaml PATTERN *.json)
 
     # The emulator for the tests of clients: find_package(APIModule CONFIG COMPONENTS Testing).
-    list(APPEND installed_libraries APIModuleTesting)
     set_target_properties(APIModuleTesting PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS APIModuleTesting EXPORT APIModuleTestingTargets
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT tools NAMELINK_COMPONENT development
@@ -75,6 +68,10 @@ install(FILES "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" "${PROJECT_BINARY_DI
 
 # From the folder of APIModule.pc to the prefix.
 file(RELATIVE_PATH to_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" /prefix)
+set(translations_variable "")
+if(APIMODULE_TRANSLATIONS_FOLDER)
+    set(translations_variable "translations=\${prefix}/${APIMODULE_TRANSLATIONS_FOLDER}")
+endif()
 configure_file("${PROJECT_SOURCE_DIR}/cmake/APIModule.pc.in" "${PROJECT_BINARY_DIR}/APIModule.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/APIModule.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)

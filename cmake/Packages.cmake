@@ -42,10 +42,7 @@ set(CPACK_DEBIAN_TOOLS_DESCRIPTION "typed calls to the services of a security pl
 # What every package says of itself.
 string(TIMESTAMP package_date "%a, %d %b %Y 00:00:00 +0000" UTC)
 configure_file("${PROJECT_SOURCE_DIR}/cmake/changelog.in" "${PROJECT_BINARY_DIR}/changelog" @ONLY)
-add_custom_command(OUTPUT "${PROJECT_BINARY_DIR}/changelog.gz"
-    COMMAND gzip --best --no-name --force --keep "${PROJECT_BINARY_DIR}/changelog"
-    DEPENDS "${PROJECT_BINARY_DIR}/changelog" VERBATIM)
-add_custom_target(package-changelog ALL DEPENDS "${PROJECT_BINARY_DIR}/changelog.gz")
+execute_process(COMMAND gzip --best --no-name --force --keep "${PROJECT_BINARY_DIR}/changelog" COMMAND_ERROR_IS_FATAL ANY)
 foreach(component IN ITEMS runtime development tools)
     string(TOUPPER ${component} upper)
     set(folder "${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME}")

@@ -3,11 +3,28 @@
 # translations/<name>_<language>.ts beside the caller. The target <name>-translations makes the files that programs load
 # from share/apimodule/translations, in the build folder as in an installation. The target `translations` takes new texts
 # into all .ts files; a test fails when one of them is not up to date or misses a translation.
-find_package(Qt5 5.12 REQUIRED COMPONENTS LinguistTools)
-
+# A parent finds those of the libraries in APIModule_TRANSLATIONS, as with find_package(APIModule).
 set(APIMODULE_LANGUAGES en de zh)
-set(APIMODULE_TRANSLATIONS_FOLDER "${CMAKE_INSTALL_DATADIR}/apimodule/translations")
-add_custom_target(translations)
+
+unset(APIModule_TRANSLATIONS CACHE)
+if(APIMODULE_TRANSLATIONS)
+    find_package(Qt5 5.15 QUIET OPTIONAL_COMPONENTS LinguistTools)
+    if(TARGET Qt5::lrelease)
+        set(APIModule_TRANSLATIONS "${APIMODULE_BUILD_SHARE}/translations" CACHE INTERNAL
+            "Folder of the libraries' translations")
+        set(APIMODULE_TRANSLATIONS_FOLDER "${CMAKE_INSTALL_DATADIR}/apimodule/translations")
+    else()
+        set(severity WARNING)
+        if(PROJECT_IS_TOP_LEVEL)
+            set(severity FATAL_ERROR)
+        endif()
+        message(${severity} "APIModule has its texts in English alone: Qt's LinguistTools, which compile the translations, "
+                            "were not found. Install them, or turn APIMODULE_TRANSLATIONS off.")
+    endif()
+endif()
+if(APIMODULE_UPDATE_TRANSLATIONS)
+    add_custom_target(translations)
+endif()
 
 function(apimodule_translations name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "COMPONENT" "SOURCES")
@@ -19,20 +36,28 @@ function(apimodule_translations name)
     foreach(language IN LISTS APIMODULE_LANGUAGES)
         list(APPEND files "${CMAKE_CURRENT_SOURCE_DIR}/translations/${name}_${language}.ts")
     endforeach()
-    set_source_files_properties(${files} PROPERTIES
-        OUTPUT_LOCATION "${CMAKE_BINARY_DIR}/share/apimodule/translations")
-    qt5_add_translation(compiled ${files} OPTIONS -silent)
-    add_custom_target(${name}-translations ALL DEPENDS ${compiled})
-    install(FILES ${compiled} DESTINATION "${APIMODULE_TRANSLATIONS_FOLDER}" COMPONENT ${arg_COMPONENT})
+    if(APIModule_TRANSLATIONS)
+        set_source_files_properties(${files} PROPERTIES OUTPUT_LOCATION "${APIModule_TRANSLATIONS}")
+        qt5_add_translation(compiled ${files} OPTIONS -silent)
+        if(APIMODULE_INSTALL)
+            install(FILES ${compiled} DESTINATION "${APIMODULE_TRANSLATIONS_FOLDER}" COMPONENT ${arg_COMPONENT})
+        endif()
+    endif()
+    add_custom_target(${name}-translations DEPENDS ${compiled})
+    if(NOT TARGET Qt5::lupdate)
+        return()
+    endif()
 
     # Each list is one argument.
     string(REPLACE ";" "\\;" sources "${arg_SOURCES}")
     string(REPLACE ";" "\\;" files "${files}")
     set(update "${CMAKE_COMMAND}" "-DLUPDATE=$<TARGET_FILE:Qt5::lupdate>" "-DSOURCES=${sources}" "-DFILES=${files}")
     set(script "${PROJECT_SOURCE_DIR}/cmake/UpdateTranslations.cmake")
-    add_custom_target(${name}-texts COMMAND ${update} -P "${script}" VERBATIM)
-    add_dependencies(translations ${name}-texts)
-    if(BUILD_TESTING)
+    if(APIMODULE_UPDATE_TRANSLATIONS)
+        add_custom_target(${name}-texts COMMAND ${update} -P "${script}" VERBATIM)
+        add_dependencies(translations ${name}-texts)
+    endif()
+    if(APIMODULE_BUILD_TESTS AND BUILD_TESTING)
         add_test(NAME ${name}_translations
             COMMAND ${update} "-DCHECK_IN=${CMAKE_CURRENT_BINARY_DIR}/${name}-translations" -P "${script}")
     endif()

@@ -1,0 +1,9 @@
+# The libraries whose headers a client includes: APIMODULE_LIBRARIES, and with the emulator APIMODULE_PUBLIC_LIBRARIES.
+set(APIMODULE_LIBRARIES APIModule)
+if(APIMODULE_BUNDLED_PLATFORM)
+    list(APPEND APIMODULE_LIBRARIES ErrorLexicon OrnGui ornl UserLogical)
+endif()
+set(APIMODULE_PUBLIC_LIBRARIES ${APIMODULE_LIBRARIES})
+if(APIMODULE_BUILD_TOOLS)
+    list(APPEND APIMODULE_PUBLIC_LIBRARIES APIModuleTesting)
+endif()
