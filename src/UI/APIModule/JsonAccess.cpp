@@ -29,14 +29,23 @@ void StoreUtf8(const QString& text, std::string& result)
     }
 }
 
+QCborValue NumberFromVariant(const QCborValue& number)
+{
+    if (number.isDouble()) {
+        return qIsFinite(number.toDouble()) ? number : QCborValue(nullptr);
+    }
+    constexpr double kBeyondIntegers = 9223372036854775808.0;
+    const auto rounded = double(number.toInteger());
+    return rounded < kBeyondIntegers ? QCborValue(qint64(rounded)) : QCborValue(rounded);
+}
+
+namespace {
+
+/// Whether a variant gives the value back as it is.
 bool IsKeptByVariant(const QCborValue& value)
 {
-    constexpr qint64 kExact = qint64(1) << 53;
-    if (value.isInteger()) {
-        return value.toInteger() >= -kExact && value.toInteger() <= kExact;
-    }
-    if (value.isDouble()) {
-        return qIsFinite(value.toDouble());
+    if (value.isInteger() || value.isDouble()) {
+        return NumberFromVariant(value) == value;
     }
     if (value.isArray()) {
         const QCborArray array = value.toArray();
@@ -46,16 +55,40 @@ bool IsKeptByVariant(const QCborValue& value)
     return std::all_of(map.begin(), map.end(), [](const auto& member) { return IsKeptByVariant(member.second); });
 }
 
+/// A value as it comes back from a variant, with all that is inside.
+QCborValue FromVariant(const QCborValue& value)
+{
+    if (value.isArray()) {
+        QCborArray back;
+        for (const auto& element : value.toArray()) {
+            back.append(FromVariant(element));
+        }
+        return back;
+    }
+    if (value.isMap()) {
+        QCborMap back;
+        for (const auto& member : value.toMap()) {
+            back.insert(member.first, FromVariant(member.second));
+        }
+        return back;
+    }
+    return value.isInteger() || value.isDouble() ? NumberFromVariant(value) : value;
+}
+
+}  // namespace
+
 void Convert(const QJsonValue& value, QJsonObject& result)
 {
     const QJsonObject object = value.toObject();
-    result = IsKeptByVariant(QCborMap::fromJsonObject(object)) ? object : value.toVariant().toJsonObject();
+    const QCborMap map = QCborMap::fromJsonObject(object);
+    result = IsKeptByVariant(map) ? object : FromVariant(map).toMap().toJsonObject();
 }
 
 void Convert(const QJsonValue& value, QJsonArray& result)
 {
     const QJsonArray array = value.toArray();
-    result = IsKeptByVariant(QCborArray::fromJsonArray(array)) ? array : value.toVariant().toJsonArray();
+    const QCborArray list = QCborArray::fromJsonArray(array);
+    result = IsKeptByVariant(list) ? array : FromVariant(list).toArray().toJsonArray();
 }
 
 void LogEmptyObject()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Conversions_p.h"
+
 #include <QCborArray>
 #include <QCborMap>
 #include <QCborValue>
@@ -32,44 +34,54 @@ inline std::optional<long long> WholeNumber(const QCborValue& value)
     return value.isInteger() ? std::optional<long long>(value.toInteger()) : std::nullopt;
 }
 
-// Each conversion gives what the value's variant gives; what is usual goes without the variant.
+/// With all digits of an integer, which QCborValue::fromJsonValue of Qt 5 does not keep.
+inline QCborValue Generic(const QJsonValue& value)
+{
+    return QCborValue::fromVariant(value.toVariant());
+}
+
+inline const QCborValue& Generic(const QCborValue& value)
+{
+    return value;
+}
+
+// Each conversion gives what the value's variant gives with Qt 5; what is usual takes a shorter way.
 
 template <typename Value>
 void Convert(const Value& value, int& result)
 {
     const std::optional<long long> number = WholeNumber(value);
-    result = number ? int(*number) : value.toVariant().toInt();
+    result = int(number ? *number : IntegerOf(Generic(value)));
 }
 
 template <typename Value>
 void Convert(const Value& value, double& result)
 {
-    const std::optional<long long> number = WholeNumber(value);
-    result = number ? double(*number) : value.toVariant().toDouble();
+    result = value.isDouble() ? value.toDouble() : DoubleOf(Generic(value));
 }
 
 template <typename Value>
 void Convert(const Value& value, long long& result)
 {
     const std::optional<long long> number = WholeNumber(value);
-    result = number ? *number : value.toVariant().toLongLong();
+    result = number ? *number : IntegerOf(Generic(value));
 }
 
 template <typename Value>
 void Convert(const Value& value, bool& result)
 {
-    result = value.isBool() ? value.toBool() : value.toVariant().toBool();
+    result = value.isBool() ? value.toBool() : FlagOf(Generic(value));
 }
 
 template <typename Value>
 void Convert(const Value& value, std::string& result)
 {
-    StoreUtf8(value.isString() ? value.toString() : value.toVariant().toString(), result);
+    StoreUtf8(value.isString() ? value.toString() : TextOf(Generic(value)), result);
 }
 
-/// Whether a variant gives the value back as it is. It makes doubles of the numbers in objects and arrays: integers
-/// beyond 2^53 lose digits there, and what is no finite number becomes null.
-bool IsKeptByVariant(const QCborValue& value);
+/// A number in an object or array as it comes back from the variant of that. A variant makes a double of it: an integer
+/// beyond 2^53 loses digits, and what is no finite number becomes null.
+QCborValue NumberFromVariant(const QCborValue& number);
 
 void Convert(const QJsonValue& value, QJsonObject& result);
 void Convert(const QJsonValue& value, QJsonArray& result);

@@ -1,32 +1,15 @@
 #include "Read.h"
 
+#include "../Conversions_p.h"
 #include "../JsonAccess_p.h"
 
 namespace APIModule::detail {
-
-namespace {
-
-/// The number as it comes back from a variant of the object that it is in.
-QCborValue AsFromVariant(const QCborValue& number)
-{
-    if (IsKeptByVariant(number)) {
-        return number;
-    }
-    if (number.isDouble()) {
-        return {nullptr};
-    }
-    constexpr double kBeyondIntegers = 9223372036854775808.0;
-    const auto rounded = double(number.toInteger());
-    return rounded < kBeyondIntegers ? QCborValue(qint64(rounded)) : QCborValue(rounded);
-}
-
-}  // namespace
 
 QCborValue JsonObject::value(QLatin1String key) const
 {
     QCborValue found = QCborMap::value(key);
     if (m_bInner && (found.isInteger() || found.isDouble())) {
-        found = AsFromVariant(found);
+        found = NumberFromVariant(found);
     }
     return found;
 }
@@ -83,7 +66,7 @@ void AppendNumbersOfTexts(const JsonArray& array, std::vector<int>& numbers)
 {
     numbers.reserve(numbers.size() + std::size_t(array.size()));
     for (const auto& value : array) {
-        numbers.push_back(value.toString().toInt(nullptr, 10));
+        numbers.push_back(IntOf(value.toString()));
     }
 }
 

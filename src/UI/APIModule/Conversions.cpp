@@ -1,0 +1,124 @@
+#include "Conversions_p.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace APIModule::detail {
+
+namespace {
+
+using Integers = std::numeric_limits<qint64>;
+
+/// Without the fraction; the lowest integer stands for all that an integer cannot hold, as the processor has it.
+qint64 Cut(double number)
+{
+    constexpr double kBeyondIntegers = 9223372036854775808.0;
+    return number >= -kBeyondIntegers && number < kBeyondIntegers ? qint64(number) : Integers::min();
+}
+
+/// The nearest integer, the upper one of two. A number beyond 64 bits gives what the same steps make of it in Qt 5.
+qint64 Rounded(double number)
+{
+    constexpr double kHalf = 0.5;
+    if (number >= 0) {
+        return Cut(number + kHalf);
+    }
+    const qint64 below = Cut(number - 1);
+    return qint64(quint64(Cut(number - double(below) + kHalf)) + quint64(below));
+}
+
+/// Between 0.0001 and 0.001 the versions of Qt differ on what is shorter, with an exponent or without.
+QString TextOf(double number)
+{
+    constexpr double kLowest = 0.0001;
+    constexpr double kBehind = 0.001;
+    const double size = std::abs(number);
+    return QString::number(number, size >= kLowest && size < kBehind ? 'f' : 'g', QLocale::FloatingPointShortest);
+}
+
+}  // namespace
+
+long long IntegerOf(const QString& text)
+{
+    constexpr QChar kMinus(0x2212);
+    constexpr char16_t kLastAscii = 0x7F;
+    QString number = text.trimmed();
+    if (number.startsWith(kMinus)) {
+        number[0] = QLatin1Char('-');
+    }
+    // What else is not ASCII, and a zero byte, is judged by each version of Qt in its way.
+    const bool bPlain = std::all_of(number.cbegin(), number.cend(), [](QChar character) {
+        return !character.isNull() && character.unicode() <= kLastAscii;
+    });
+    return bPlain ? number.toLongLong() : 0;
+}
+
+int IntOf(const QString& text)
+{
+    const long long number = IntegerOf(text);
+    return number == int(number) ? int(number) : 0;
+}
+
+long long IntegerOf(const QCborValue& value)
+{
+    switch (value.type()) {
+    case QCborValue::Integer:
+        return value.toInteger();
+    case QCborValue::Double:
+        return Rounded(value.toDouble());
+    case QCborValue::True:
+        return 1;
+    case QCborValue::String:
+        return IntegerOf(value.toString());
+    default:
+        return 0;
+    }
+}
+
+double DoubleOf(const QCborValue& value)
+{
+    switch (value.type()) {
+    case QCborValue::Integer:
+    case QCborValue::Double:
+        return value.toDouble();
+    case QCborValue::True:
+        return 1;
+    case QCborValue::String:
+        return value.toString().toDouble();
+    default:
+        return 0;
+    }
+}
+
+bool FlagOf(const QCborValue& value)
+{
+    if (value.isString()) {
+        const QString text = value.toString();
+        return !text.isEmpty() && text != QLatin1String("0") &&
+               text.compare(QLatin1String("false"), Qt::CaseInsensitive) != 0;
+    }
+    return IntegerOf(value) != 0;
+}
+
+QString TextOf(const QCborValue& value)
+{
+    switch (value.type()) {
+    case QCborValue::Integer:
+        return QString::number(value.toInteger());
+    case QCborValue::Double:
+        return TextOf(value.toDouble());
+    case QCborValue::False:
+        return QStringLiteral("false");
+    case QCborValue::True:
+        return QStringLiteral("true");
+    case QCborValue::String:
+        return value.toString();
+    default:
+        return {};
+    }
+}
+
+}  // namespace APIModule::detail
