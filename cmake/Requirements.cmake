@@ -10,5 +10,5 @@ endforeach()
 
 # A parent links the libraries without looking for these itself.
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Network Widgets)
+apimodule_find_qt(Core Network Widgets)
 find_package(Boost 1.81 REQUIRED)  # Boost.Describe is in no release before 1.77

@@ -172,8 +172,14 @@ TEST_F(Request, MethodIsAMetaType)
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
     Use(server);
     EXPECT_EQ(Execute({}), 0);
-    EXPECT_EQ(QMetaType::type("APIModule::Method_e"), qMetaTypeId<APIModule::Method>());
-    EXPECT_STREQ(QMetaType::typeName(qMetaTypeId<APIModule::Method>()), "APIModule::Method_e");
+    const int type = qMetaTypeId<APIModule::Method>();
+#if QT_VERSION_MAJOR == 5
+    EXPECT_EQ(QMetaType::type("APIModule::Method_e"), type);
+    EXPECT_STREQ(QMetaType::typeName(type), "APIModule::Method_e");
+#else
+    EXPECT_EQ(QMetaType::fromName("APIModule::Method_e").id(), type);
+    EXPECT_STREQ(QMetaType(type).name(), "APIModule::Method_e");
+#endif
     EXPECT_STREQ(CAPIModule::staticMetaObject.className(), "APIModule::CAPIModule");
     EXPECT_EQ(APIModule::Method_Get, 0);
     EXPECT_EQ(APIModule::Method_Put, 1);

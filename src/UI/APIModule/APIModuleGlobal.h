@@ -15,3 +15,8 @@ namespace APIModule {
 using int64 = long long;
 
 }  // namespace APIModule
+
+// The CMake package and the pkg-config file define the Qt of the library.
+#if defined(APIMODULE_QT_MAJOR) && APIMODULE_QT_MAJOR != QT_VERSION_MAJOR
+#error "APIModule was built with the other major version of Qt: see APIMODULE_QT_MAJOR"
+#endif

@@ -4,6 +4,7 @@
 #include "Log_p.h"
 #include "Mask_p.h"
 #include "RunHosted_p.h"
+#include "TlsRange_p.h"
 #include "Wait_p.h"
 
 #include <QEventLoop>
@@ -201,7 +202,7 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
     if (param.bHttps) {
         QSslConfiguration configuration = request.sslConfiguration();
         configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
-        configuration.setProtocol(QSsl::TlsV1SslV3);
+        configuration.setProtocol(kWidestTlsRange);
         request.setSslConfiguration(configuration);
     }
 

@@ -3,8 +3,8 @@
 #include <QCborValue>
 #include <QString>
 
-/// What the variant of a JSON value converts to with Qt 5. Servers and hosts rely on it, and the variants of Qt 6 convert
-/// numbers and texts differently.
+/// What the variant of a JSON value converts to with Qt 5. Servers and hosts rely on it; the variants of Qt 6 convert
+/// some numbers and texts differently.
 namespace APIModule::detail {
 
 /// @return 0 for what is no number

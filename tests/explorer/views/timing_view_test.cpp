@@ -18,6 +18,7 @@
 
 using explorer::TimingChart;
 using explorer::TimingView;
+using namespace QtCharts;
 
 class TimingViewTest : public QObject {
     Q_OBJECT
@@ -60,7 +61,7 @@ Widget& Child(const TimingView& view, const char* name)
 QVector<QPointF> Points(const TimingView& view, int series)
 {
     const auto* pChart = view.findChild<TimingChart*>()->chart();
-    return qobject_cast<QtCharts::QXYSeries*>(pChart->series().at(series))->pointsVector();
+    return qobject_cast<QXYSeries*>(pChart->series().at(series))->pointsVector();
 }
 
 enum Series {
@@ -97,7 +98,7 @@ void TimingViewTest::TheChartShowsEachCall()
     QCOMPARE(Points(view, Median), (QVector<QPointF>{{0.5, 20}, {3.5, 20}}));
     QCOMPARE(Points(view, Percentile), (QVector<QPointF>{{0.5, 30}, {3.5, 30}}));
     const auto axes = view.findChild<TimingChart*>()->chart()->axes(Qt::Vertical);
-    const auto* pTimes = qobject_cast<QtCharts::QValueAxis*>(axes.constFirst());
+    const auto* pTimes = qobject_cast<QValueAxis*>(axes.constFirst());
     QCOMPARE(pTimes->min(), 0.0);
     QVERIFY(pTimes->max() > 30);
 }
@@ -144,7 +145,7 @@ void TimingViewTest::ColoursFollowThePalette()
         }
         const auto all = chart.series();
         for (const auto* pSeries : all) {
-            const QColor colour = qobject_cast<const QtCharts::QXYSeries*>(pSeries)->color();
+            const QColor colour = qobject_cast<const QXYSeries*>(pSeries)->color();
             QVERIFY(qAbs(colour.lightness() - palette.color(QPalette::Base).lightness()) > 60);
         }
     }

@@ -14,8 +14,25 @@ constexpr int kPatience = 3000;  // milliseconds until an emulator that does not
 
 /// Ends with this program, however that ends.
 class Child : public QProcess {
+#if QT_VERSION_MAJOR == 5
 protected:
-    void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGTERM); }
+    void setupChildProcess() override
+    {
+        EndWithParent();
+    }
+#else
+public:
+    Child()
+    {
+        setChildProcessModifier(EndWithParent);
+    }
+#endif
+
+private:
+    static void EndWithParent()
+    {
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+    }
 };
 
 QString FreshToken()
@@ -77,7 +94,7 @@ void EmulatorProcess::ReadAddresses()
 {
     while (m_process->canReadLine()) {
         const QString line = QString::fromUtf8(m_process->readLine()).trimmed();
-        const int port = line.midRef(line.lastIndexOf(QLatin1Char(':')) + 1).toInt();
+        const int port = line.section(QLatin1Char(':'), -1).toInt();
         if (line.startsWith(QLatin1String("http "))) {
             m_httpPort = port;
         } else if (line.startsWith(QLatin1String("https "))) {

@@ -2,7 +2,11 @@
 
 #include <QPointer>
 
+#if QT_VERSION_MAJOR == 5
 #include <qt5keychain/keychain.h>
+#else
+#include <qt6keychain/keychain.h>
+#endif
 
 namespace explorer {
 namespace {

@@ -3,10 +3,6 @@
 #include "Statistics.h"
 #include "Theme.h"
 
-#include <QtCharts/QLineSeries>
-#include <QtCharts/QScatterSeries>
-#include <QtCharts/QValueAxis>
-
 #include <QCursor>
 #include <QEvent>
 #include <QGraphicsLayout>
@@ -17,8 +13,6 @@
 #include <cmath>
 
 namespace explorer {
-
-using namespace QtCharts;
 
 namespace {
 

@@ -1,20 +1,22 @@
 #pragma once
 
 #include <QtCharts/QChartView>
+#include <QtCharts/QLineSeries>
+#include <QtCharts/QScatterSeries>
+#include <QtCharts/QValueAxis>
 
 #include <deque>
 #include <vector>
 
-QT_CHARTS_BEGIN_NAMESPACE
-class QLineSeries;
-class QScatterSeries;
-class QValueAxis;
-QT_CHARTS_END_NAMESPACE
+/// Where Qt 5 has its charts.
+namespace QtCharts {}
 
 namespace explorer {
 
+using namespace QtCharts;
+
 /// The elapsed times of the last calls with their median and their 95th percentile.
-class TimingChart : public QtCharts::QChartView {
+class TimingChart : public QChartView {
     Q_OBJECT
 
 public:
@@ -41,7 +43,7 @@ protected:
 private:
     void Draw();
     void Colour();
-    void AddSeries(QtCharts::QAbstractSeries* pSeries, const QString& name);
+    void AddSeries(QAbstractSeries* pSeries, const QString& name);
     void Tell(const QPointF& point, bool entered);
     [[nodiscard]] std::vector<double> Times() const;
     /// The number of the first call that is kept.
@@ -49,12 +51,12 @@ private:
 
     std::deque<Call> m_calls;
     int m_added = 0;
-    QtCharts::QScatterSeries* m_pSucceeded;
-    QtCharts::QScatterSeries* m_pFailed;
-    QtCharts::QLineSeries* m_pMedian;
-    QtCharts::QLineSeries* m_pPercentile;
-    QtCharts::QValueAxis* m_pNumbers;
-    QtCharts::QValueAxis* m_pTimes;
+    QScatterSeries* m_pSucceeded;
+    QScatterSeries* m_pFailed;
+    QLineSeries* m_pMedian;
+    QLineSeries* m_pPercentile;
+    QValueAxis* m_pNumbers;
+    QValueAxis* m_pTimes;
 };
 
 }  // namespace explorer

@@ -1,0 +1,25 @@
+# The Qt that everything is built with: its targets are ${QT}::<module>. The versionless targets depend on which Qt was
+# found first, which a parent project or a client decides.
+set(APIMODULE_QT_MAJOR 5 CACHE STRING "Major version of Qt to build with: 5 or 6")
+set_property(CACHE APIMODULE_QT_MAJOR PROPERTY STRINGS 5 6)
+if(APIMODULE_QT_MAJOR EQUAL 5)
+    set(APIMODULE_QT_MINIMUM 5.15)
+elseif(APIMODULE_QT_MAJOR EQUAL 6)
+    set(APIMODULE_QT_MINIMUM 6.4)
+else()
+    message(FATAL_ERROR "APIMODULE_QT_MAJOR is ${APIMODULE_QT_MAJOR}: APIModule builds with Qt 5 or Qt 6")
+endif()
+set(QT Qt${APIMODULE_QT_MAJOR})
+
+# apimodule_find_qt(<module>... [PRIVATE <module>...])
+# Finds modules, and those of PRIVATE with their private headers as ${QT}::<module>Private.
+macro(apimodule_find_qt)
+    cmake_parse_arguments(apimodule_qt "" "" "PRIVATE" ${ARGV})
+    find_package(${QT} ${APIMODULE_QT_MINIMUM} REQUIRED
+        COMPONENTS ${apimodule_qt_UNPARSED_ARGUMENTS} ${apimodule_qt_PRIVATE})
+    if(APIMODULE_QT_MAJOR EQUAL 5)
+        foreach(apimodule_qt_module IN LISTS apimodule_qt_PRIVATE)
+            find_package(Qt5${apimodule_qt_module} REQUIRED COMPONENTS Private)
+        endforeach()
+    endif()
+endmacro()
