@@ -1,11 +1,11 @@
 #include "OrnWaitDialog.h"
 
 #include "detail/QuitWatcher.h"
-#include "detail/Screen.h"
 
 #include <QEvent>
 #include <QEventLoop>
 #include <QPainter>
+#include <QScreen>
 
 namespace ORNGUI {
 namespace {
@@ -234,7 +234,7 @@ void OrnWaitDialog::PlaceOverParent()
     const QRect area = parentWidget() != nullptr ? SeenInWindow(*parentWidget()) : QRect();
     if (area.isEmpty()) {
         Uncover();
-        move(ScreenOf(*this)->availableGeometry().center() - rect().center());
+        move(screen()->availableGeometry().center() - rect().center());
         return;
     }
     if (m_bCoverParent) {

@@ -77,12 +77,7 @@ public:
         connect(&m_client, &QSslSocket::disconnected, this, &Connection::ClientLeft);
         connect(&m_server, &QSslSocket::readyRead, this, &Connection::ReadServer);
         connect(&m_server, &QSslSocket::connected, this, [this] { AnswerSocks(Succeeded, Opening); });
-#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
         connect(&m_server, &QSslSocket::errorOccurred, this, &Connection::ServerFailed);
-#else
-        connect(&m_server, QOverload<QAbstractSocket::SocketError>::of(&QSslSocket::error), this,
-                &Connection::ServerFailed);
-#endif
         connect(&m_server, &QSslSocket::disconnected, this, &Connection::ServerLeft);
         m_client.setSocketDescriptor(descriptor);
     }

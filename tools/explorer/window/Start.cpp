@@ -23,9 +23,7 @@ void PrepareApplication()
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
-#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-#endif
     QCoreApplication::setOrganizationName(QStringLiteral("APIModule"));
     QCoreApplication::setApplicationName(QStringLiteral("Explorer"));
     QGuiApplication::setDesktopFileName(QStringLiteral("apimodule-explorer"));

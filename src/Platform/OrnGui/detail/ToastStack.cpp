@@ -2,9 +2,9 @@
 
 #include "../OrnWaitDialog.h"
 #include "QuitWatcher.h"
-#include "Screen.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
@@ -184,7 +184,7 @@ void ToastStack::FollowActiveWindow()
 /// The screen that the stack is on.
 QRect ToastStack::Area() const
 {
-    const QScreen* pScreen = IsOnScreen(m_pAnchor) ? ScreenOf(*m_pAnchor) : QGuiApplication::primaryScreen();
+    const QScreen* pScreen = IsOnScreen(m_pAnchor) ? m_pAnchor->screen() : QGuiApplication::primaryScreen();
     return pScreen != nullptr ? pScreen->availableGeometry() : QRect();
 }
 
