@@ -30,7 +30,7 @@ if(APIMODULE_QT_MAJOR EQUAL 6)
     set(qt_package qt6-base-dev)
 endif()
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-    "${runtime_package} (= ${PROJECT_VERSION}), apimodule-tools (= ${PROJECT_VERSION}), ${qt_package}, libboost1.81-dev | libboost-dev (>= 1.74), nlohmann-json3-dev")
+    "${runtime_package} (= ${PROJECT_VERSION}), apimodule-tools (= ${PROJECT_VERSION}), ${qt_package}, libboost1.81-dev | libboost-dev (>= 1.81), nlohmann-json3-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "typed calls to the services of a security platform - development
  Headers, CMake package and pkg-config file for programs that call the REST
  services of a platform server through APIModule, and the platform emulator

@@ -3,18 +3,8 @@
 #include "support/Family.h"
 #include "support/Json.h"
 
+#include <BRMS/AccountAccessFields.h>
 #include <BRMS/BRMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(GetChannelWebTunnelRsp, (), (https, port, ip, username, token))
-BOOST_DESCRIBE_STRUCT(PermissionResourceCollectionResp, (), (menuFunctionCodes, localConfigItemCodes))
-BOOST_DESCRIBE_STRUCT(FunctionChannelCheck, (), (channelId, functionCode))
-BOOST_DESCRIBE_STRUCT(FunctionChannelCheckResult, (), (authorized))
-BOOST_DESCRIBE_STRUCT(DeviceCategoryParamReq, (), (keyword, orgCode, domain, permitted, sourceType, containChild))
-BOOST_DESCRIBE_STRUCT(DeviceCategoryQueryResult, (), (deviceCategory, deviceCount))
-
-}  // namespace APIModule
 
 namespace {
 

@@ -2,17 +2,8 @@
 #include "support/Bind.h"
 #include "support/Family.h"
 
+#include <OBMS/CardIntercomFields.h>
 #include <OBMS/OBMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(AcsCardConfigParam, (), (enableDesfire, enableReadEncryptContent))
-BOOST_DESCRIBE_STRUCT(ConfigDesFireFailureReq, (), (page, pageSize, keyword))
-BOOST_DESCRIBE_STRUCT(DesfireFailureInfo, (), (id, deviceCode, deviceName, deviceIp, reason))
-BOOST_DESCRIBE_STRUCT(GetPageConfigDesfireFailureResp, (), (totalCount, pageData))
-BOOST_DESCRIBE_STRUCT(DeleteAddressBookParam, (), (deleteAll, vtoDeviceCode, vthDeviceCodes))
-
-}  // namespace APIModule
 
 namespace {
 

@@ -2,12 +2,7 @@
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(ChannelControlRsp, (), (channelId, errorCode))
-
-}  // namespace APIModule
+#include <BRMS/DeviceControlFields.h>
 
 namespace {
 

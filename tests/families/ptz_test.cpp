@@ -3,14 +3,7 @@
 #include "support/Family.h"
 
 #include <DMS/DMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(PtzWashStatus, (), (result, userName, userLevel, lowerDomain))
-BOOST_DESCRIBE_STRUCT(PtzBatchWashStatus, (), (result, msg))
-BOOST_DESCRIBE_STRUCT(PtzPositionResetReq, (), (result, userName, userLevel, lowerDomain))
-
-}  // namespace APIModule
+#include <DMS/PtzFields.h>
 
 namespace {
 

@@ -3,16 +3,9 @@
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
+#include <BRMS/QuickCommandFields.h>
 
 #include <limits>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(QuickCommandHttpUrl, (), (method, url, body, seq))
-BOOST_DESCRIBE_STRUCT(QuickCommand, (),
-                      (id, quickCommandName, enableShortcutKeys, shortcutKeys, executeMode, remark, httpUrls))
-
-}  // namespace APIModule
 
 namespace {
 

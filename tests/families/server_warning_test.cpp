@@ -2,16 +2,7 @@
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(CheckHostSpareWarning, (), (warningHappened, warningTime, warningContent))
-BOOST_DESCRIBE_STRUCT(WarnDisk, (), (path, slot))
-BOOST_DESCRIBE_STRUCT(DiskWarmParam, (), (serverIp, serverType, warnDisks))
-BOOST_DESCRIBE_STRUCT(NetWorkItem, (), (netWorkName, netWorkValue))
-BOOST_DESCRIBE_STRUCT(NetWorksParam, (), (netWorks))
-
-}  // namespace APIModule
+#include <BRMS/ServerWarningFields.h>
 
 namespace {
 

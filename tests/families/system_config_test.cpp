@@ -2,15 +2,7 @@
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(TimeSyncConfig, (),
-                      (enable, startTime, interval, deviceOnlineTimeSync, enableNtp, ntpIp, ntpPort, ntpSyncInterval))
-BOOST_DESCRIBE_STRUCT(RemoteLogConfigInfo, (), (enable, ip, port, platformId))
-BOOST_DESCRIBE_STRUCT(LocalSettingQueryResult, (), (apply, settingType, settingVersion, settingContent))
-
-}  // namespace APIModule
+#include <BRMS/SystemConfigFields.h>
 
 namespace {
 

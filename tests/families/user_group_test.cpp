@@ -3,14 +3,7 @@
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(UserConfigUserGroups, (), (id, groupName, memo))
-BOOST_DESCRIBE_STRUCT(AddUserGroupsParam, (), (groupName, memo))
-BOOST_DESCRIBE_STRUCT(MoveUserGroupsParam, (), (groupId, userIds))
-
-}  // namespace APIModule
+#include <BRMS/UserGroupFields.h>
 
 namespace {
 

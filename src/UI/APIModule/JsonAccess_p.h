@@ -86,7 +86,7 @@ QCborValue NumberFromVariant(const QCborValue& number);
 void Convert(const QJsonValue& value, QJsonObject& result);
 void Convert(const QJsonValue& value, QJsonArray& result);
 
-// The readers of records do to each number inside what the variant would.
+// The readers of records do to each number inside what the variant does.
 
 inline void Convert(const QCborValue& value, QCborMap& result)
 {

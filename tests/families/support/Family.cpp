@@ -3,18 +3,12 @@
 #include "Json.h"
 #include "support/UserManager.h"
 
+#include <RequestParamFields.h>
+
 #include <QJsonDocument>
 
 #include <ostream>
 #include <stdexcept>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(RequestParam, (),
-                      (nPort, nTimeout, bHttps, bCompress, eMethod, strIp, strUrl, strBody, strToken, strSequence,
-                       bExcludeUserInput))
-
-}  // namespace APIModule
 
 namespace family_testing {
 

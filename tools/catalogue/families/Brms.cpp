@@ -1,69 +1,15 @@
 #include "../detail/Entry.h"
 #include "Families.h"
 
+#include <BRMS/AccountAccessFields.h>
+#include <BRMS/AlarmEventFields.h>
 #include <BRMS/BRMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(TimeSyncConfig, (),
-                      (enable, startTime, interval, deviceOnlineTimeSync, enableNtp, ntpIp, ntpPort, ntpSyncInterval))
-BOOST_DESCRIBE_STRUCT(RemoteLogConfigInfo, (), (enable, ip, port, platformId))
-BOOST_DESCRIBE_STRUCT(LocalSettingQueryResult, (), (apply, settingType, settingVersion, settingContent))
-
-BOOST_DESCRIBE_STRUCT(NetworkConfig, (), (deviceCode, ip, mask, gateway, dns))
-BOOST_DESCRIBE_STRUCT(EncodeConfig, (),
-                      (channelId, streamType, bitRate, bitRateControl, compression, enable, frameRate, iFrameInterval,
-                       height, width))
-BOOST_DESCRIBE_STRUCT(EncodeFormat, (), (frameRateMax, videoHeight, videoWidth))
-BOOST_DESCRIBE_STRUCT(EncodeCompressionCapability, (), (compression, formats))
-BOOST_DESCRIBE_STRUCT(EncodeCapability, (), (supportCompressions, encodeCapabilities))
-BOOST_DESCRIBE_STRUCT(ImageConfig, (), (channelId, brightness, saturation, contrast, sharpness))
-BOOST_DESCRIBE_STRUCT(MultiCastStream, (), (multicastIp, multicastPort, streamType, status))
-BOOST_DESCRIBE_STRUCT(MultiCastConfigInfo, (), (channelId, status, streams))
-BOOST_DESCRIBE_STRUCT(MultiCastStreamStatus, (), (channelId, streamType, status))
-
-BOOST_DESCRIBE_STRUCT(IPSpeakerChannel, (), (channelId, fileIds, playCount))
-BOOST_DESCRIBE_STRUCT(IPSpeakerControl, (), (channels, command))
-BOOST_DESCRIBE_STRUCT(ChannelControlRsp, (), (channelId, errorCode))
-
-BOOST_DESCRIBE_STRUCT(CheckHostSpareWarning, (), (warningHappened, warningTime, warningContent))
-BOOST_DESCRIBE_STRUCT(WarnDisk, (), (path, slot))
-BOOST_DESCRIBE_STRUCT(DiskWarmParam, (), (serverIp, serverType, warnDisks))
-BOOST_DESCRIBE_STRUCT(NetWorkItem, (), (netWorkName, netWorkValue))
-BOOST_DESCRIBE_STRUCT(NetWorksParam, (), (netWorks))
-
-BOOST_DESCRIBE_STRUCT(UserConfigUserGroups, (), (id, groupName, memo))
-BOOST_DESCRIBE_STRUCT(AddUserGroupsParam, (), (groupName, memo))
-BOOST_DESCRIBE_STRUCT(MoveUserGroupsParam, (), (groupId, userIds))
-
-BOOST_DESCRIBE_STRUCT(QuickCommandHttpUrl, (), (method, url, body, seq))
-BOOST_DESCRIBE_STRUCT(QuickCommand, (),
-                      (id, quickCommandName, enableShortcutKeys, shortcutKeys, executeMode, remark, httpUrls))
-
-BOOST_DESCRIBE_STRUCT(GetPageSummaryAlarmPlansParam, (), (page, pageSize, keyword))
-BOOST_DESCRIBE_STRUCT(SummaryAlarmPlan, (), (id, planName))
-BOOST_DESCRIBE_STRUCT(AlarmLinkChannel, (), (channelId, channelName))
-BOOST_DESCRIBE_STRUCT(AlarmLinkAudioChannel, (), (channelId, channelName, fileIds))
-BOOST_DESCRIBE_STRUCT(AlarmLinkControl, (), (linkAlarmOutputChannels, linkAudioLightChannels, linkAudioChannels))
-BOOST_DESCRIBE_STRUCT(AlarmLayerInfo, (),
-                      (layerId, layerName, layerPicture, locationX, locationY, width, height, angle))
-BOOST_DESCRIBE_STRUCT(AlarmRecordFile, (),
-                      (fileType, filePath, ssId, channelId, recordTime, fileTimeLength, fileLength))
-BOOST_DESCRIBE_STRUCT(AlarmHostFileInfo, (), (alarmCode, files))
-BOOST_DESCRIBE_STRUCT(AudioFileInfo, (), (taskProgress, fileUrl))
-BOOST_DESCRIBE_STRUCT(PluginLogEventType, (), (eventType, eventTypeName, sort))
-BOOST_DESCRIBE_STRUCT(PluginLogTypeGroupInfo, (), (groupId, groupName, sort, eventTypes))
-BOOST_DESCRIBE_STRUCT(GetGeneralEventsParam, (), (transportType, matchType, keyword))
-BOOST_DESCRIBE_STRUCT(GeneralEventRsp, (), (id, eventName))
-
-BOOST_DESCRIBE_STRUCT(GetChannelWebTunnelRsp, (), (https, port, ip, username, token))
-BOOST_DESCRIBE_STRUCT(PermissionResourceCollectionResp, (), (menuFunctionCodes, localConfigItemCodes))
-BOOST_DESCRIBE_STRUCT(FunctionChannelCheck, (), (channelId, functionCode))
-BOOST_DESCRIBE_STRUCT(FunctionChannelCheckResult, (), (authorized))
-BOOST_DESCRIBE_STRUCT(DeviceCategoryParamReq, (), (keyword, orgCode, domain, permitted, sourceType, containChild))
-BOOST_DESCRIBE_STRUCT(DeviceCategoryQueryResult, (), (deviceCategory, deviceCount))
-
-}  // namespace APIModule
+#include <BRMS/DeviceConfigFields.h>
+#include <BRMS/DeviceControlFields.h>
+#include <BRMS/QuickCommandFields.h>
+#include <BRMS/ServerWarningFields.h>
+#include <BRMS/SystemConfigFields.h>
+#include <BRMS/UserGroupFields.h>
 
 namespace catalogue {
 

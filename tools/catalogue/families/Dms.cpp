@@ -2,14 +2,7 @@
 #include "Families.h"
 
 #include <DMS/DMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(PtzWashStatus, (), (result, userName, userLevel, lowerDomain))
-BOOST_DESCRIBE_STRUCT(PtzBatchWashStatus, (), (result, msg))
-BOOST_DESCRIBE_STRUCT(PtzPositionResetReq, (), (result, userName, userLevel, lowerDomain))
-
-}  // namespace APIModule
+#include <DMS/PtzFields.h>
 
 namespace catalogue {
 

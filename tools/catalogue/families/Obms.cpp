@@ -1,28 +1,9 @@
 #include "../detail/Entry.h"
 #include "Families.h"
 
+#include <OBMS/AccessControlFields.h>
+#include <OBMS/CardIntercomFields.h>
 #include <OBMS/OBMSModule.h>
-
-namespace APIModule {
-
-BOOST_DESCRIBE_STRUCT(PersonOrgInfo, (), (orgCode, orgName))
-BOOST_DESCRIBE_STRUCT(GetPageAccessAuthorizePersonsReq, (),
-                      (page, pageSize, containChild, keyword, deviceCode, orgCode, pointIds))
-BOOST_DESCRIBE_STRUCT(AccessAuthorizePersonInfo, (), (personId, personName, orgCode, orgName, orgInfos))
-BOOST_DESCRIBE_STRUCT(GetPageAccessAuthorizePersonsResp, (), (totalCount, pageData))
-BOOST_DESCRIBE_STRUCT(GetManagePersonReq, (), (deviceCode))
-BOOST_DESCRIBE_STRUCT(ManagePersonInfo, (), (personId, personName, orgCode, orgName, errorCode, orgInfos))
-BOOST_DESCRIBE_STRUCT(SetManagePersonReq, (), (deviceCode, personIds))
-BOOST_DESCRIBE_STRUCT(GetPointAccessRules, (), (pointId, ruleType, hasOfflinePoint))
-BOOST_DESCRIBE_STRUCT(RuleInfo, (), (ruleId, ruleName, ruleType, hasOfflinePoint))
-
-BOOST_DESCRIBE_STRUCT(AcsCardConfigParam, (), (enableDesfire, enableReadEncryptContent))
-BOOST_DESCRIBE_STRUCT(ConfigDesFireFailureReq, (), (page, pageSize, keyword))
-BOOST_DESCRIBE_STRUCT(DesfireFailureInfo, (), (id, deviceCode, deviceName, deviceIp, reason))
-BOOST_DESCRIBE_STRUCT(GetPageConfigDesfireFailureResp, (), (totalCount, pageData))
-BOOST_DESCRIBE_STRUCT(DeleteAddressBookParam, (), (deleteAll, vtoDeviceCode, vthDeviceCodes))
-
-}  // namespace APIModule
 
 namespace catalogue {
 

@@ -1,13 +1,9 @@
+#include "AccountAccessFields.h"
 #include "BRMSModule_p.h"
 
 #include <cstdlib>
 
 namespace APIModule {
-
-static int ReadRecord(const JsonObject& element, DeviceCategoryQueryResult& category)
-{
-    return ReadFields(element, "deviceCategory", category.deviceCategory, "deviceCount", category.deviceCount);
-}
 
 int CBRMSModule::PacketGetChannelWebTunnel(void* pReqParamData, const std::string& channelId, int nServerId)
 {
@@ -17,7 +13,11 @@ int CBRMSModule::PacketGetChannelWebTunnel(void* pReqParamData, const std::strin
 
 int CBRMSModule::ParseGetChannelWebTunnel(const QJsonObject& data, GetChannelWebTunnelRsp& tunnel)
 {
-    return ReadFields(data, "https", tunnel.https, "port", tunnel.port, "ip", tunnel.ip);
+    return ReadFields(data, {
+                                {"https", tunnel.https},
+                                {"port", tunnel.port},
+                                {"ip", tunnel.ip},
+                            });
 }
 
 int CBRMSModule::PacketGetChannelWebAuthorization(void* pReqParamData, const std::string& channelId, int nServerId)
@@ -28,7 +28,7 @@ int CBRMSModule::PacketGetChannelWebAuthorization(void* pReqParamData, const std
 
 int CBRMSModule::ParseGetChannelWebAuthorization(const QJsonObject& data, GetChannelWebTunnelRsp& tunnel)
 {
-    return ReadFields(data, "username", tunnel.username, "token", tunnel.token);
+    return ReadFields(data, {{"username", tunnel.username}, {"token", tunnel.token}});
 }
 
 int CBRMSModule::PacketGetChannelWebEnablement(void* pReqParamData, const std::string& channelId, int nServerId)
@@ -39,7 +39,7 @@ int CBRMSModule::PacketGetChannelWebEnablement(void* pReqParamData, const std::s
 
 int CBRMSModule::ParseGetChannelWebEnablement(const QJsonObject& data, bool& enabled)
 {
-    return ReadFields(data, "enableWeb", enabled);
+    return ReadFields(data, {{"enableWeb", enabled}});
 }
 
 int CBRMSModule::PacketGetWebEnablement(void* pReqParamData, const std::string& deviceCode, int nServerId)
@@ -50,7 +50,7 @@ int CBRMSModule::PacketGetWebEnablement(void* pReqParamData, const std::string& 
 
 int CBRMSModule::ParseGetWebEnablement(const QJsonObject& data, bool& enabled)
 {
-    return ReadFields(data, "enableWeb", enabled);
+    return ReadFields(data, {{"enableWeb", enabled}});
 }
 
 int CBRMSModule::PacketGetMenuAvailable(void* pReqParamData, const std::string& menuCode, int nServerId)
@@ -61,7 +61,7 @@ int CBRMSModule::PacketGetMenuAvailable(void* pReqParamData, const std::string& 
 
 int CBRMSModule::ParseGetMenuAvailable(const QJsonObject& data, bool& available)
 {
-    return ReadFields(data, "available", available);
+    return ReadFields(data, {{"available", available}});
 }
 
 int CBRMSModule::PacketGetDeriveToken(void* pReqParamData, int nServerId)
@@ -71,7 +71,7 @@ int CBRMSModule::PacketGetDeriveToken(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetDeriveToken(const QJsonObject& data, std::string& token)
 {
-    return ReadFields(data, "token", token);
+    return ReadFields(data, {{"token", token}});
 }
 
 int CBRMSModule::PacketGetPermissionResourceCollection(void* pReqParamData, int nServerId)
@@ -85,12 +85,13 @@ int CBRMSModule::ParseGetPermissionResourceCollection(const QJsonObject& data,
 {
     JsonArray menuFunctionCodes;
     JsonArray localConfigItemCodes;
-    if (ReadFields(data, "menuFunctionCodes", menuFunctionCodes, "localConfigItemCodes", localConfigItemCodes) != 0) {
-        return -1;
+    const int nResult =
+        ReadFields(data, {{"menuFunctionCodes", menuFunctionCodes}, {"localConfigItemCodes", localConfigItemCodes}});
+    if (nResult == 0) {
+        AppendTexts(menuFunctionCodes, collection.menuFunctionCodes);
+        AppendTexts(localConfigItemCodes, collection.localConfigItemCodes);
     }
-    AppendTexts(menuFunctionCodes, collection.menuFunctionCodes);
-    AppendTexts(localConfigItemCodes, collection.localConfigItemCodes);
-    return 0;
+    return nResult;
 }
 
 int CBRMSModule::PacketFunctionChannelCheck(void* pReqParamData, FunctionChannelCheck& check, int nServerId)
@@ -102,7 +103,7 @@ int CBRMSModule::PacketFunctionChannelCheck(void* pReqParamData, FunctionChannel
 int CBRMSModule::ParseFunctionChannelCheck(const QJsonObject& data, FunctionChannelCheckResult& result)
 {
     std::string strAuthorized;
-    if (ReadFields(data, "authorized", strAuthorized) != 0) {
+    if (ReadFields(data, {{"authorized", strAuthorized}}) != 0) {
         return -1;
     }
     result.authorized = std::atoi(strAuthorized.c_str());  // NOLINT(cert-err34-c): text that is no number means 0
@@ -122,7 +123,7 @@ int CBRMSModule::PacketGetDeviceCategoryCount(void* pReqParamData, const DeviceC
 int CBRMSModule::ParseGetGetDeviceCategoryCount(const QJsonObject& data,
                                                 std::vector<DeviceCategoryQueryResult>& categories)
 {
-    return ReadFields(data, "results", categories);
+    return ReadFields(data, {{"results", categories}});
 }
 
 }  // namespace APIModule

@@ -1,45 +1,7 @@
+#include "AlarmEventFields.h"
 #include "BRMSModule_p.h"
 
 namespace APIModule {
-
-static int ReadRecord(const JsonObject& element, SummaryAlarmPlan& plan)
-{
-    return ReadFields(element, "id", plan.id, "planName", plan.planName);
-}
-
-static int ReadRecord(const JsonObject& element, AlarmLinkChannel& channel)
-{
-    return ReadFields(element, "channelId", channel.channelId, "channelName", channel.channelName);
-}
-
-static int ReadRecord(const JsonObject& element, AlarmLinkAudioChannel& channel)
-{
-    return ReadFields(element, "channelId", channel.channelId, "channelName", channel.channelName, "fileIds",
-                      channel.fileIds);
-}
-
-static int ReadRecord(const JsonObject& element, AlarmRecordFile& file)
-{
-    return ReadFields(element, "fileType", file.fileType, "filePath", file.filePath, "ssId", file.ssId, "channelId",
-                      file.channelId, "recordTime", file.recordTime, "fileTimeLength", file.fileTimeLength,
-                      "fileLength", file.fileLength);
-}
-
-static int ReadRecord(const JsonObject& element, PluginLogEventType& type)
-{
-    return ReadFields(element, "eventType", type.eventType, "eventTypeName", type.eventTypeName, "sort", type.sort);
-}
-
-static int ReadRecord(const JsonObject& element, PluginLogTypeGroupInfo& group)
-{
-    return ReadFields(element, "groupId", group.groupId, "groupName", group.groupName, "sort", group.sort, "eventTypes",
-                      group.eventTypes);
-}
-
-static int ReadRecord(const JsonObject& element, GeneralEventRsp& event)
-{
-    return ReadFields(element, "id", event.id, "eventName", event.eventName);
-}
 
 int CBRMSModule::PacketGetPageSummaryAlarmPlans(void* pReqParamData, const GetPageSummaryAlarmPlansParam& query,
                                                 int nServerId)
@@ -52,7 +14,7 @@ int CBRMSModule::PacketGetPageSummaryAlarmPlans(void* pReqParamData, const GetPa
 
 int CBRMSModule::ParseGetPageSummaryAlarmPlans(const QJsonObject& data, std::vector<SummaryAlarmPlan>& plans)
 {
-    return ReadFields(data, "pageData", plans);
+    return ReadFields(data, {{"pageData", plans}});
 }
 
 int CBRMSModule::PacketGetAlarmLinkControlList(void* pReqParamData, const std::string& sourceCode, int alarmType,
@@ -67,8 +29,11 @@ int CBRMSModule::PacketGetAlarmLinkControlList(void* pReqParamData, const std::s
 
 int CBRMSModule::ParseGetAlarmLinkControlList(const QJsonObject& data, AlarmLinkControl& control)
 {
-    return ReadFields(data, "linkAudioLightChannels", control.linkAudioLightChannels, "linkAlarmOutputChannels",
-                      control.linkAlarmOutputChannels, "linkAudioChannels", control.linkAudioChannels);
+    return ReadFields(data, {
+                                {"linkAudioLightChannels", control.linkAudioLightChannels},
+                                {"linkAlarmOutputChannels", control.linkAlarmOutputChannels},
+                                {"linkAudioChannels", control.linkAudioChannels},
+                            });
 }
 
 int CBRMSModule::PacketGetAlarmLayerDetail(void* pReqParamData, const std::string& resourceCode, int resourceType,
@@ -82,9 +47,16 @@ int CBRMSModule::PacketGetAlarmLayerDetail(void* pReqParamData, const std::strin
 
 int CBRMSModule::ParseGetAlarmLayerDetail(const QJsonObject& data, AlarmLayerInfo& layer)
 {
-    return ReadFields(data, "layerId", layer.layerId, "layerName", layer.layerName, "layerPicture", layer.layerPicture,
-                      "height", layer.height, "width", layer.width, "locationX", layer.locationX, "locationY",
-                      layer.locationY, "angle", layer.angle);
+    return ReadFields(data, {
+                                {"layerId", layer.layerId},
+                                {"layerName", layer.layerName},
+                                {"layerPicture", layer.layerPicture},
+                                {"height", layer.height},
+                                {"width", layer.width},
+                                {"locationX", layer.locationX},
+                                {"locationY", layer.locationY},
+                                {"angle", layer.angle},
+                            });
 }
 
 int CBRMSModule::PacketGetAlarmHostFileInfo(void* pReqParamData, const std::string& alarmRecordId, int nServerId)
@@ -95,7 +67,7 @@ int CBRMSModule::PacketGetAlarmHostFileInfo(void* pReqParamData, const std::stri
 
 int CBRMSModule::ParseGetAlarmHostFileInfo(const QJsonObject& data, AlarmHostFileInfo& info)
 {
-    return ReadFields(data, "alarmCode", info.alarmCode, "files", info.files);
+    return ReadRecord(data, info);
 }
 
 int CBRMSModule::PacketGetAudioFileInfo(void* pReqParamData, const std::string& url, const std::string& body,
@@ -106,7 +78,7 @@ int CBRMSModule::PacketGetAudioFileInfo(void* pReqParamData, const std::string& 
 
 int CBRMSModule::ParseGetAudioFileInfo(const QJsonObject& data, AudioFileInfo& info)
 {
-    return ReadFields(data, "fileUrl", info.fileUrl, "taskProgress", info.taskProgress);
+    return ReadFields(data, {{"fileUrl", info.fileUrl}, {"taskProgress", info.taskProgress}});
 }
 
 int CBRMSModule::PacketGetPluginLogType(void* pReqParamData, int nServerId)
@@ -117,7 +89,7 @@ int CBRMSModule::PacketGetPluginLogType(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetPluginLogType(const QJsonObject& data, std::vector<PluginLogTypeGroupInfo>& groups)
 {
-    return ReadFields(data, "results", groups);
+    return ReadFields(data, {{"results", groups}});
 }
 
 int CBRMSModule::PacketGetGeneralEvents(void* pReqParamData, GetGeneralEventsParam& query, int nServerId)
@@ -131,7 +103,7 @@ int CBRMSModule::PacketGetGeneralEvents(void* pReqParamData, GetGeneralEventsPar
 
 int CBRMSModule::ParseGetGeneralEvents(const QJsonObject& data, std::vector<GeneralEventRsp>& events)
 {
-    return ReadFields(data, "results", events);
+    return ReadFields(data, {{"results", events}});
 }
 
 }  // namespace APIModule

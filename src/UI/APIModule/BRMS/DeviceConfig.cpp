@@ -1,30 +1,21 @@
 #include "BRMSModule_p.h"
+#include "DeviceConfigFields.h"
 
 namespace APIModule {
 
 static int ReadRecord(const JsonObject& element, EncodeConfig& config)
 {
-    return ReadFields(element, "streamType", config.streamType, "bitRate", config.bitRate, "bitRateControl",
-                      config.bitRateControl, "compression", config.compression, "enable", config.enable, "frameRate",
-                      config.frameRate, "iFrameInterval", config.iFrameInterval, "height", config.height, "width",
-                      config.width);
-}
-
-static int ReadRecord(const JsonObject& element, EncodeFormat& format)
-{
-    return ReadFields(element, "frameRateMax", format.frameRateMax, "videoHeight", format.videoHeight, "videoWidth",
-                      format.videoWidth);
-}
-
-static int ReadRecord(const JsonObject& element, EncodeCompressionCapability& capability)
-{
-    return ReadFields(element, "compression", capability.compression, "formats", capability.formats);
-}
-
-static int ReadRecord(const JsonObject& element, MultiCastStream& stream)
-{
-    return ReadFields(element, "multicastIp", stream.multicastIp, "multicastPort", stream.multicastPort, "streamType",
-                      stream.streamType, "status", stream.status);
+    return ReadFields(element, {
+                                   {"streamType", config.streamType},
+                                   {"bitRate", config.bitRate},
+                                   {"bitRateControl", config.bitRateControl},
+                                   {"compression", config.compression},
+                                   {"enable", config.enable},
+                                   {"frameRate", config.frameRate},
+                                   {"iFrameInterval", config.iFrameInterval},
+                                   {"height", config.height},
+                                   {"width", config.width},
+                               });
 }
 
 int CBRMSModule::PacketGetNetworkConfig(void* pReqParamData, const std::string& deviceCode, int nServerId)
@@ -35,7 +26,12 @@ int CBRMSModule::PacketGetNetworkConfig(void* pReqParamData, const std::string& 
 
 int CBRMSModule::ParseGetNetworkConfig(const QJsonObject& data, NetworkConfig& config)
 {
-    return ReadFields(data, "ip", config.ip, "mask", config.mask, "gateway", config.gateway, "dns", config.dns);
+    return ReadFields(data, {
+                                {"ip", config.ip},
+                                {"mask", config.mask},
+                                {"gateway", config.gateway},
+                                {"dns", config.dns},
+                            });
 }
 
 int CBRMSModule::PacketUpdateNetworkConfig(void* pReqParamData, NetworkConfig& config, int nServerId)
@@ -56,7 +52,7 @@ int CBRMSModule::PacketGetEncodeConfig(void* pReqParamData, const std::string& c
 
 int CBRMSModule::ParseGetEncodeConfig(const QJsonObject& data, std::vector<EncodeConfig>& configs)
 {
-    return ReadFields(data, "encodeConfigurations", configs);
+    return ReadFields(data, {{"encodeConfigurations", configs}});
 }
 
 int CBRMSModule::PacketUpdateEncodeConfig(void* pReqParamData, const std::string& channelId,
@@ -88,9 +84,7 @@ int CBRMSModule::PacketGetEncodeCapability(void* pReqParamData, const std::strin
 
 int CBRMSModule::ParseGetEncodeCapability(const QJsonObject& data, EncodeCapability& capability)
 {
-    return ReadNumbersOfTexts(data, QLatin1String("supportCompressions"), capability.supportCompressions) == 0
-               ? ReadFields(data, "encodeCapabilities", capability.encodeCapabilities)
-               : -1;
+    return ReadRecord(data, capability);
 }
 
 int CBRMSModule::PacketGetImageConfig(void* pReqParamData, const std::string& channelId, int nServerId)
@@ -101,8 +95,12 @@ int CBRMSModule::PacketGetImageConfig(void* pReqParamData, const std::string& ch
 
 int CBRMSModule::ParseGetImageConfig(const QJsonObject& data, ImageConfig& config)
 {
-    return ReadFields(data, "brightness", config.brightness, "saturation", config.saturation, "contrast",
-                      config.contrast, "sharpness", config.sharpness);
+    return ReadFields(data, {
+                                {"brightness", config.brightness},
+                                {"saturation", config.saturation},
+                                {"contrast", config.contrast},
+                                {"sharpness", config.sharpness},
+                            });
 }
 
 int CBRMSModule::PacketUpdateImageConfig(void* pReqParamData, ImageConfig& config, int nServerId)
@@ -123,7 +121,7 @@ int CBRMSModule::PacketGetMultiCastConfig(void* pReqParamData, const std::string
 
 int CBRMSModule::ParseGetMultiCastConfig(const QJsonObject& data, MultiCastConfigInfo& info)
 {
-    return ReadFields(data, "status", info.status, "streams", info.streams);
+    return ReadFields(data, {{"status", info.status}, {"streams", info.streams}});
 }
 
 int CBRMSModule::PacketSetMultiCastConfig(void* pReqParamData, const MultiCastConfigInfo& info, int nServerId)

@@ -1,11 +1,7 @@
 #include "BRMSModule_p.h"
+#include "DeviceControlFields.h"
 
 namespace APIModule {
-
-static int ReadRecord(const JsonObject& element, ChannelControlRsp& failed)
-{
-    return ReadFields(element, "channelId", failed.channelId, "errorCode", failed.errorCode);
-}
 
 int CBRMSModule::PacketBatchDiscoverDevices(void* pReqParamData, const std::vector<std::string>& deviceCodes,
                                             int discoverMode, int nServerId)
@@ -16,7 +12,7 @@ int CBRMSModule::PacketBatchDiscoverDevices(void* pReqParamData, const std::vect
 
 int CBRMSModule::ParseBatchDiscoverDevices(const QJsonObject& data, std::string& session)
 {
-    return ReadFields(data, "session", session);
+    return ReadFields(data, {{"session", session}});
 }
 
 int CBRMSModule::PacketAlarmOutputControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
@@ -50,7 +46,7 @@ int CBRMSModule::PacketIPSpeakerControl(void* pReqParamData, IPSpeakerControl co
 
 int CBRMSModule::ParseChannelControl(const QJsonObject& data, std::vector<ChannelControlRsp>& failedChannels)
 {
-    return ReadFields(data, "failedChannels", failedChannels);
+    return ReadFields(data, {{"failedChannels", failedChannels}});
 }
 
 }  // namespace APIModule

@@ -1,4 +1,5 @@
 #include "BRMSModule_p.h"
+#include "QuickCommandFields.h"
 
 namespace APIModule {
 
@@ -45,15 +46,15 @@ int CBRMSModule::PacketGetQuickCommand(void* pReqParamData, const std::string& i
 
 int CBRMSModule::ParseGetQuickCommand(const QJsonObject& data, QuickCommand& command)
 {
-    const int nResult = ReadFields(data, "id", command.id, "quickCommandName", command.quickCommandName, "shortcutKeys",
-                                   command.shortcutKeys, "remark", command.remark, "enableShortcutKeys",
-                                   command.enableShortcutKeys, "executeMode", command.executeMode);
-    return nResult == 0 ? ReadList(data, QLatin1String("httpUrls"), command.httpUrls,
-                                   [](const JsonObject& element, QuickCommandHttpUrl& request) {
-                                       return ReadFields(element, "method", request.method, "url", request.url, "body",
-                                                         request.body, "seq", request.seq);
-                                   })
-                        : -1;
+    return ReadFields(data, {
+                                {"id", command.id},
+                                {"quickCommandName", command.quickCommandName},
+                                {"shortcutKeys", command.shortcutKeys},
+                                {"remark", command.remark},
+                                {"enableShortcutKeys", command.enableShortcutKeys},
+                                {"executeMode", command.executeMode},
+                                {"httpUrls", command.httpUrls},
+                            });
 }
 
 int CBRMSModule::PacketGetQuickCommands(void* pReqParamData, const std::string& keyword, int nServerId)
@@ -65,9 +66,13 @@ int CBRMSModule::PacketGetQuickCommands(void* pReqParamData, const std::string& 
 int CBRMSModule::ParseGetQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands)
 {
     return ReadList(data, QLatin1String("results"), commands, [](const JsonObject& element, QuickCommand& command) {
-        return ReadFields(element, "quickCommandName", command.quickCommandName, "id", command.id, "shortcutKeys",
-                          command.shortcutKeys, "enableShortcutKeys", command.enableShortcutKeys, "remark",
-                          command.remark);
+        return ReadFields(element, {
+                                       {"quickCommandName", command.quickCommandName},
+                                       {"id", command.id},
+                                       {"shortcutKeys", command.shortcutKeys},
+                                       {"enableShortcutKeys", command.enableShortcutKeys},
+                                       {"remark", command.remark},
+                                   });
     });
 }
 
@@ -79,13 +84,17 @@ int CBRMSModule::PacketGetAlarmPlanQuickCommands(void* pReqParamData, const std:
 
 static int ReadPlanRequest(const JsonObject& element, QuickCommandHttpUrl& request)
 {
-    return ReadFields(element, "method", request.method, "url", request.url, "seq", request.seq);
+    return ReadFields(element, {
+                                   {"method", request.method},
+                                   {"url", request.url},
+                                   {"seq", request.seq},
+                               });
 }
 
 int CBRMSModule::ParseGetAlarmPlanQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands)
 {
     return ReadList(data, QLatin1String("results"), commands, [](const JsonObject& element, QuickCommand& command) {
-        return ReadFields(element, "quickCommandName", command.quickCommandName) == 0
+        return ReadFields(element, {{"quickCommandName", command.quickCommandName}}) == 0
                    ? ReadList(element, QLatin1String("httpUrls"), command.httpUrls, ReadPlanRequest)
                    : -1;
     });

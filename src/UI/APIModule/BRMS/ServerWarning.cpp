@@ -1,22 +1,7 @@
 #include "BRMSModule_p.h"
+#include "ServerWarningFields.h"
 
 namespace APIModule {
-
-static int ReadRecord(const JsonObject& element, WarnDisk& disk)
-{
-    return ReadFields(element, "path", disk.path, "slot", disk.slot);
-}
-
-static int ReadRecord(const JsonObject& element, DiskWarmParam& server)
-{
-    return ReadFields(element, "serverIp", server.serverIp, "serverType", server.serverType, "warnDisks",
-                      server.warnDisks);
-}
-
-static int ReadRecord(const JsonObject& element, NetWorkItem& netWork)
-{
-    return ReadFields(element, "netWorkName", netWork.netWorkName, "netWorkValue", netWork.netWorkValue);
-}
 
 int CBRMSModule::PacketCheckHotSpareWarning(void* pReqParamData, int nServerId)
 {
@@ -26,8 +11,7 @@ int CBRMSModule::PacketCheckHotSpareWarning(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseCheckHotSpareWarning(const QJsonObject& data, CheckHostSpareWarning& warning)
 {
-    return ReadFields(data, "warningHappened", warning.warningHappened, "warningTime", warning.warningTime,
-                      "warningContent", warning.warningContent);
+    return ReadRecord(data, warning);
 }
 
 int CBRMSModule::PacketGetBasicServiceWarm(void* pReqParamData, int nServerId)
@@ -38,7 +22,7 @@ int CBRMSModule::PacketGetBasicServiceWarm(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetBasicServiceWarm(const QJsonObject& data, bool& warningHappened)
 {
-    return ReadFields(data, "warningHappened", warningHappened);
+    return ReadFields(data, {{"warningHappened", warningHappened}});
 }
 
 int CBRMSModule::PacketGetDiskWarm(void* pReqParamData, int nServerId)
@@ -48,7 +32,7 @@ int CBRMSModule::PacketGetDiskWarm(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetDiskWarm(const QJsonObject& data, std::vector<DiskWarmParam>& servers)
 {
-    return ReadFields(data, "results", servers);
+    return ReadFields(data, {{"results", servers}});
 }
 
 int CBRMSModule::PacketGetMemoryOutOfServerList(void* pReqParamData, int nServerId)
@@ -60,7 +44,7 @@ int CBRMSModule::PacketGetMemoryOutOfServerList(void* pReqParamData, int nServer
 int CBRMSModule::ParseGetMemoryOutOfServerList(const QJsonObject& data, std::vector<std::string>& serverIps)
 {
     return ReadList(data, QLatin1String("results"), serverIps, [](const JsonObject& element, std::string& serverIp) {
-        return ReadFields(element, "serverIp", serverIp);
+        return ReadFields(element, {{"serverIp", serverIp}});
     });
 }
 
@@ -71,7 +55,7 @@ int CBRMSModule::PacketGetNetWorks(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetNetWorks(const QJsonObject& data, NetWorksParam& netWorks)
 {
-    return ReadFields(data, "results", netWorks.netWorks);
+    return ReadFields(data, {{"results", netWorks.netWorks}});
 }
 
 }  // namespace APIModule

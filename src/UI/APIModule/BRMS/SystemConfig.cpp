@@ -1,4 +1,5 @@
 #include "BRMSModule_p.h"
+#include "SystemConfigFields.h"
 
 namespace APIModule {
 
@@ -9,9 +10,7 @@ int CBRMSModule::PacketGetTimeSyncConfig(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetTimeSyncConfig(const QJsonObject& data, TimeSyncConfig& config)
 {
-    return ReadFields(data, "enable", config.enable, "startTime", config.startTime, "interval", config.interval,
-                      "deviceOnlineTimeSync", config.deviceOnlineTimeSync, "enableNtp", config.enableNtp, "ntpIp",
-                      config.ntpIp, "ntpPort", config.ntpPort, "ntpSyncInterval", config.ntpSyncInterval);
+    return ReadRecord(data, config);
 }
 
 int CBRMSModule::PacketSetTimeSyncConfig(void* pReqParamData, const TimeSyncConfig& config, int nServerId)
@@ -40,8 +39,7 @@ int CBRMSModule::PacketGetRemoteLogConfig(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetRemoteLogConfig(const QJsonObject& data, RemoteLogConfigInfo& config)
 {
-    return ReadFields(data, "enable", config.enable, "ip", config.ip, "port", config.port, "platformId",
-                      config.platformId);
+    return ReadRecord(data, config);
 }
 
 int CBRMSModule::PacketSetRemoteLogConfig(void* pReqParamData, const RemoteLogConfigInfo& config, int nServerId)
@@ -61,7 +59,7 @@ int CBRMSModule::PacketGetDeviceLoginModel(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetDeviceLoginModel(const QJsonObject& data, int& model)
 {
-    return ReadFields(data, "deviceLoginModel", model);
+    return ReadFields(data, {{"deviceLoginModel", model}});
 }
 
 int CBRMSModule::PacketSetDeviceLoginModel(void* pReqParamData, const int& model, int nServerId)
@@ -77,7 +75,7 @@ int CBRMSModule::PacketGetPushAppMsgConfig(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetPushAppMsgConfig(const QJsonObject& data, bool& enable)
 {
-    return ReadFields(data, "enablePushMessage", enable);
+    return ReadFields(data, {{"enablePushMessage", enable}});
 }
 
 int CBRMSModule::PacketSetPushAppMsgConfig(void* pReqParamData, const bool& enable, int nServerId)
@@ -94,7 +92,7 @@ int CBRMSModule::PacketGetSupportDataBaseType(void* pReqParamData, int nServerId
 
 int CBRMSModule::ParseGetSupportDataBaseType(const QJsonObject& data, std::vector<int>& types)
 {
-    return ReadNumbersOfTexts(data, QLatin1String("databaseTypes"), types);
+    return ReadFields(data, {{"databaseTypes", types}});
 }
 
 int CBRMSModule::PacketGetLocalSetting(void* pReqParamData, const int& settingType, int nServerId)
@@ -105,8 +103,7 @@ int CBRMSModule::PacketGetLocalSetting(void* pReqParamData, const int& settingTy
 
 int CBRMSModule::ParseGetLocalSetting(const QJsonObject& data, LocalSettingQueryResult& setting)
 {
-    return ReadFields(data, "apply", setting.apply, "settingType", setting.settingType, "settingVersion",
-                      setting.settingVersion, "settingContent", setting.settingContent);
+    return ReadRecord(data, setting);
 }
 
 int CBRMSModule::PacketUpdateLocalSetting(void* pReqParamData, bool& apply, const std::string& content, int nServerId)
@@ -122,7 +119,7 @@ int CBRMSModule::PacketGetAIPrivacyConfig(void* pReqParamData, int nServerId)
 
 int CBRMSModule::ParseGetAIPrivacyConfig(const QJsonObject& data, int& enable)
 {
-    return ReadFields(data, "enable", enable);
+    return ReadFields(data, {{"enable", enable}});
 }
 
 int CBRMSModule::PacketUpdateAIPrivacyConfig(void* pReqParamData, const bool& enable, int nServerId)

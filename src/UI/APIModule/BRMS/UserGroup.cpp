@@ -1,11 +1,7 @@
 #include "BRMSModule_p.h"
+#include "UserGroupFields.h"
 
 namespace APIModule {
-
-static int ReadRecord(const JsonObject& object, UserConfigUserGroups& group)
-{
-    return ReadFields(object, "id", group.id, "groupName", group.groupName, "memo", group.memo);
-}
 
 static QString GroupBody(const AddUserGroupsParam& group)
 {
@@ -20,7 +16,7 @@ int CBRMSModule::PacketGetUserGroupList(void* pReqParamData, const std::string& 
 
 int CBRMSModule::ParseGetUserGroupList(const QJsonObject& data, std::vector<UserConfigUserGroups>& groups)
 {
-    return ReadFields(data, "results", groups);
+    return ReadFields(data, {{"results", groups}});
 }
 
 int CBRMSModule::PacketGetUserGroup(void* pReqParamData, const std::string& groupId, int nServerId)
@@ -42,7 +38,7 @@ int CBRMSModule::PacketAddUserGroup(void* pReqParamData, const AddUserGroupsPara
 
 int CBRMSModule::ParseAddUserGroup(const QJsonObject& data, std::string& groupId)
 {
-    return ReadFields(data, "id", groupId);
+    return ReadFields(data, {{"id", groupId}});
 }
 
 int CBRMSModule::PacketUpdateUserGroup(void* pReqParamData, const std::string& groupId, const AddUserGroupsParam& group,

@@ -1,4 +1,5 @@
 #include "DMSModule_p.h"
+#include "PtzFields.h"
 
 namespace APIModule {
 
@@ -16,14 +17,17 @@ template <typename Status>
 static int ReadStatus(const JsonObject& data, Status& status)
 {
     JsonObject lockUser;
-    if (ReadFields(data, "lockUser", lockUser, "result", status.result) != 0) {
+    if (ReadFields(data, {{"lockUser", lockUser}, {"result", status.result}}) != 0) {
         return -1;
     }
     if (lockUser.isEmpty()) {
         return 0;
     }
-    return ReadFields(lockUser, "userName", status.userName, "userLevel", status.userLevel, "lowerDomain",
-                      status.lowerDomain);
+    return ReadFields(lockUser, {
+                                    {"userName", status.userName},
+                                    {"userLevel", status.userLevel},
+                                    {"lowerDomain", status.lowerDomain},
+                                });
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
@@ -46,7 +50,7 @@ int CDMSModule::PackeBatchWashOpen(void* pReqParamData, std::vector<std::string>
 
 int CDMSModule::ParseBatchWashOpen(const QJsonObject& data, PtzBatchWashStatus& status)
 {
-    return ReadFields(data, "result", status.result, "msg", status.msg);
+    return ReadRecord(data, status);
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface

@@ -1,32 +1,10 @@
+#include "AccessControlFields.h"
 #include "OBMSModule_p.h"
 
 namespace APIModule {
 
 /// The managed persons are always asked from the user manager's current server.
 static constexpr int kCurrentServerId = -1;
-
-static int ReadRecord(const JsonObject& element, PersonOrgInfo& organization)
-{
-    return ReadFields(element, "orgCode", organization.orgCode, "orgName", organization.orgName);
-}
-
-static int ReadRecord(const JsonObject& element, AccessAuthorizePersonInfo& person)
-{
-    return ReadFields(element, "personId", person.personId, "personName", person.personName, "orgCode", person.orgCode,
-                      "orgName", person.orgName, "orgInfos", person.orgInfos);
-}
-
-static int ReadRecord(const JsonObject& element, ManagePersonInfo& person)
-{
-    return ReadFields(element, "personId", person.personId, "personName", person.personName, "orgCode", person.orgCode,
-                      "orgName", person.orgName, "errorCode", person.errorCode, "orgInfos", person.orgInfos);
-}
-
-static int ReadRecord(const JsonObject& element, RuleInfo& rule)
-{
-    return ReadFields(element, "ruleId", rule.ruleId, "ruleName", rule.ruleName, "ruleType", rule.ruleType,
-                      "hasOfflinePoint", rule.hasOfflinePoint);
-}
 
 int COBMSModule::PacketGetPageAccessAuthorizePersons(void* pReqParamData, const GetPageAccessAuthorizePersonsReq& req,
                                                      int nServerId)
@@ -56,7 +34,7 @@ int COBMSModule::PacketGetManagePersons(void* pReqParamData, const GetManagePers
 
 int COBMSModule::ParseGetManagePersons(const QJsonObject& data, std::vector<ManagePersonInfo>& persons)
 {
-    return ReadFields(data, "results", persons);
+    return ReadFields(data, {{"results", persons}});
 }
 
 int COBMSModule::PacketSetManagePersons(void* pReqParamData, const SetManagePersonReq& req, int nServerId)
@@ -76,7 +54,7 @@ int COBMSModule::PackGetPointRules(void* pReqParamData, const GetPointAccessRule
 
 int COBMSModule::ParesGetPointRules(const QJsonObject& data, std::vector<RuleInfo>& rules)
 {
-    return ReadFields(data, "results", rules);
+    return ReadFields(data, {{"results", rules}});
 }
 
 int COBMSModule::PackPersonResetAntiPass(void* pReqParamData, const std::string& personId, int nServerId)

@@ -1,15 +1,10 @@
+#include "CardIntercomFields.h"
 #include "OBMSModule_p.h"
 
 namespace APIModule {
 
 static constexpr int kDeleteAllContacts = 1;
 static constexpr int kDeleteListedContacts = 2;
-
-static int ReadRecord(const JsonObject& element, DesfireFailureInfo& failure)
-{
-    return ReadFields(element, "id", failure.id, "deviceCode", failure.deviceCode, "deviceName", failure.deviceName,
-                      "deviceIp", failure.deviceIp, "reason", failure.reason);
-}
 
 int COBMSModule::PackGetConfigDesfireInfo(void* pReqParamData, int nServerId)
 {
@@ -18,8 +13,7 @@ int COBMSModule::PackGetConfigDesfireInfo(void* pReqParamData, int nServerId)
 
 int COBMSModule::ParseGetConfigDesfireInfo(const QJsonObject& data, AcsCardConfigParam& param)
 {
-    return ReadFields(data, "enableDesfire", param.enableDesfire, "enableReadEncryptContent",
-                      param.enableReadEncryptContent);
+    return ReadRecord(data, param);
 }
 
 int COBMSModule::PackUpdateConfigDesfireInfo(void* pReqParamData, const AcsCardConfigParam& param, int nServerId)
@@ -69,7 +63,7 @@ int COBMSModule::PacketAlarmHostZoneSnapShot(void* pReqParamData, const std::str
 
 int COBMSModule::ParseAlarmHostZoneSnapShot(const QJsonObject& data, std::string& session)
 {
-    return ReadFields(data, "session", session);
+    return ReadFields(data, {{"session", session}});
 }
 
 }  // namespace APIModule

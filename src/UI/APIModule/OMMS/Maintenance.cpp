@@ -1,11 +1,7 @@
+#include "MaintenanceFields.h"
 #include "OMMSModule_p.h"
 
 namespace APIModule {
-
-static int ReadRecord(const JsonObject& element, AlertInfoResp& alertType)
-{
-    return ReadFields(element, "alertTypeId", alertType.alertTypeId, "alertTypeName", alertType.alertTypeName);
-}
 
 int COMMSModule::PacketGetAlertTypes(void* pReqParamData, int nServerId)
 {
@@ -15,7 +11,7 @@ int COMMSModule::PacketGetAlertTypes(void* pReqParamData, int nServerId)
 
 int COMMSModule::ParseGetAlertTypes(const QJsonObject& data, std::vector<AlertInfoResp>& alertTypes)
 {
-    return ReadFields(data, "results", alertTypes);
+    return ReadFields(data, {{"results", alertTypes}});
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
@@ -27,16 +23,7 @@ int COMMSModule::PacketGetChannelInfo(void* pReqParamData, std::string channelId
 
 int COMMSModule::ParseGetChannelInfo(const QJsonObject& data, ChannelInfoResp& channel)
 {
-    return ReadFields(data, "channelName", channel.channelName, "channelId", channel.channelId, "channelType",
-                      channel.channelType, "deviceCode", channel.deviceCode, "deviceName", channel.deviceName,
-                      "deviceCategory", channel.deviceCategory, "deviceCategoryName", channel.deviceCategoryName,
-                      "orgCode", channel.orgCode, "orgName", channel.orgName, "onlineStatus", channel.onlineStatus,
-                      "channelStatus", channel.channelStatus, "abnormalReason", channel.abnormalReason, "channelIp",
-                      channel.channelIp, "channelMac", channel.channelMac, "deviceIp", channel.deviceIp, "macAddress",
-                      channel.macAddress, "deviceRecordDays", channel.deviceRecordDays, "configRecordDays",
-                      channel.configRecordDays, "deviceRecordWholenessStatus", channel.deviceRecordWholenessStatus,
-                      "motionDetectPlan", channel.motionDetectPlan, "patchPlan", channel.patchPlan, "recordPlan",
-                      channel.recordPlan, "updateDate", channel.updateDate);
+    return ReadRecord(data, channel);
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
@@ -49,15 +36,32 @@ int COMMSModule::PacketGetDeviceInfo(void* pReqParamData, std::string deviceCode
 int COMMSModule::ParseGetDeviceInfo(const QJsonObject& data, DeviceInfoResp& device)
 {
     // The serial number comes last, behind fields that are declared after it.
-    return ReadFields(
-        data, "deviceCode", device.deviceCode, "deviceName", device.deviceName, "deviceIp", device.deviceIp, "status",
-        device.status, "statusName", device.statusName, "offlineReason", device.offlineReason, "deviceCategory",
-        device.deviceCategory, "deviceCategoryName", device.deviceCategoryName, "deviceType", device.deviceType,
-        "deviceTypeName", device.deviceTypeName, "manufacturer", device.manufacturer, "manufacturerName",
-        device.manufacturerName, "faultStatus", device.faultStatus, "faultStatusName", device.faultStatusName,
-        "updateTime", device.updateTime, "addType", device.addType, "orgCode", device.orgCode, "orgName",
-        device.orgName, "faultReason", device.faultReason, "mac", device.mac, "softwareVersion", device.softwareVersion,
-        "subnetMask", device.subnetMask, "deviceModel", device.deviceModel, "deviceSn", device.deviceSn);
+    return ReadFields(data, {
+                                {"deviceCode", device.deviceCode},
+                                {"deviceName", device.deviceName},
+                                {"deviceIp", device.deviceIp},
+                                {"status", device.status},
+                                {"statusName", device.statusName},
+                                {"offlineReason", device.offlineReason},
+                                {"deviceCategory", device.deviceCategory},
+                                {"deviceCategoryName", device.deviceCategoryName},
+                                {"deviceType", device.deviceType},
+                                {"deviceTypeName", device.deviceTypeName},
+                                {"manufacturer", device.manufacturer},
+                                {"manufacturerName", device.manufacturerName},
+                                {"faultStatus", device.faultStatus},
+                                {"faultStatusName", device.faultStatusName},
+                                {"updateTime", device.updateTime},
+                                {"addType", device.addType},
+                                {"orgCode", device.orgCode},
+                                {"orgName", device.orgName},
+                                {"faultReason", device.faultReason},
+                                {"mac", device.mac},
+                                {"softwareVersion", device.softwareVersion},
+                                {"subnetMask", device.subnetMask},
+                                {"deviceModel", device.deviceModel},
+                                {"deviceSn", device.deviceSn},
+                            });
 }
 
 }  // namespace APIModule

@@ -3,15 +3,14 @@
 #include "../Conversions_p.h"
 #include "../JsonAccess_p.h"
 
+#include <algorithm>
+
 namespace APIModule::detail {
 
 QCborValue JsonObject::value(QLatin1String key) const
 {
-    QCborValue found = QCborMap::value(key);
-    if (m_bInner && (found.isInteger() || found.isDouble())) {
-        found = NumberFromVariant(found);
-    }
-    return found;
+    const QCborValue found = m_members.value(key);
+    return m_bInner && (found.isInteger() || found.isDouble()) ? NumberFromVariant(found) : found;
 }
 
 int ReadValue(const JsonObject& object, QLatin1String key, int& value)
@@ -62,22 +61,24 @@ void AppendTexts(const JsonArray& array, std::vector<std::string>& texts)
     }
 }
 
-void AppendNumbersOfTexts(const JsonArray& array, std::vector<int>& numbers)
-{
-    numbers.reserve(numbers.size() + std::size_t(array.size()));
-    for (const auto& value : array) {
-        numbers.push_back(IntOf(value.toString()));
-    }
-}
-
-int ReadNumbersOfTexts(const JsonObject& object, QLatin1String key, std::vector<int>& numbers)
+int ReadValue(const JsonObject& object, QLatin1String key, std::vector<int>& numbers)
 {
     JsonArray array;
     if (ReadValue(object, key, array) != 0) {
         return -1;
     }
-    AppendNumbersOfTexts(array, numbers);
+    numbers.reserve(numbers.size() + std::size_t(array.size()));
+    for (const auto& value : array) {
+        numbers.push_back(IntOf(value.toString()));
+    }
     return 0;
+}
+
+int ReadFields(const JsonObject& object, std::initializer_list<Pair> pairs)
+{
+    const bool bRead =
+        std::all_of(pairs.begin(), pairs.end(), [&object](const Pair& pair) { return pair.Read(object) == 0; });
+    return bRead ? 0 : -1;
 }
 
 }  // namespace APIModule::detail

@@ -2,35 +2,41 @@
 
 #include "../APIModuleGlobal.h"
 
+#include <boost/describe/members.hpp>
+#include <boost/describe/modifiers.hpp>
+
 #include <QCborArray>
 #include <QCborMap>
 #include <QCborValue>
 #include <QJsonObject>
 #include <QLatin1String>
 
+#include <initializer_list>
 #include <string>
-#include <utility>
 #include <vector>
 
 /// Reading of typed records. A reader returns 0, or -1 at the first key that cannot be read, with the log line of
 /// CCommonFunc::GetJsonValue; what was read before that key stays filled.
 ///
-/// A record that is read with one list of keys has a `ReadRecord(const JsonObject&, Record&)` beside it, and a list of
-/// such records is then read by its key alone.
+/// A record is read as its description lists it. Where keys or their order differ, a list of pairs says so; a record
+/// that is read so in lists has a `ReadRecord(const JsonObject&, Record&)` beside it.
 namespace APIModule::detail {
 
-/// A JSON object as the readers see it. Qt 5.15 keeps a QJsonObject in the containers of its CBOR classes; seen through
+/// A JSON object as the readers see it. Qt keeps a QJsonObject in the containers of its CBOR classes; seen through
 /// these nothing is copied, and a value is found and read in about half the time.
-class JsonObject : public QCborMap {
+class JsonObject {
 public:
     JsonObject() = default;
-    JsonObject(const QJsonObject& object) : QCborMap(QCborMap::fromJsonObject(object)) {}
+    JsonObject(const QJsonObject& object) : m_members(QCborMap::fromJsonObject(object)) {}
     /// One that was found inside of another value.
-    explicit JsonObject(const QCborValue& value) : QCborMap(value.toMap()), m_bInner(true) {}
+    explicit JsonObject(const QCborValue& value) : m_members(value.toMap()), m_bInner(true) {}
 
-    QCborValue value(QLatin1String key) const;
+    [[nodiscard]] bool isEmpty() const { return m_members.isEmpty(); }
+    [[nodiscard]] bool contains(const QString& key) const { return m_members.contains(key); }
+    [[nodiscard]] QCborValue value(QLatin1String key) const;
 
 private:
+    QCborMap m_members;
     bool m_bInner = false;
 };
 
@@ -44,6 +50,27 @@ int ReadValue(const JsonObject& object, QLatin1String key, std::string& value);
 int ReadValue(const JsonObject& object, QLatin1String key, JsonArray& value);
 int ReadValue(const JsonObject& object, QLatin1String key, int64& value);
 int ReadValue(const JsonObject& object, QLatin1String key, bool& value);
+
+/// The array under @p key, whose numbers are decimal texts; an element that is no such text counts as 0.
+int ReadValue(const JsonObject& object, QLatin1String key, std::vector<int>& numbers);
+
+/// The array of records under @p key.
+template <typename Record>
+int ReadValue(const JsonObject& object, QLatin1String key, std::vector<Record>& list);
+
+template <typename Record, template <typename...> class List, typename... Fields>
+int ReadDescribed(const JsonObject& object, Record& record, List<Fields...> /*description*/)
+{
+    const bool bRead = (... && (ReadValue(object, QLatin1String(Fields::name), record.*Fields::pointer) == 0));
+    return bRead ? 0 : -1;
+}
+
+/// A record whose keys are its fields, in the order of their declaration.
+template <typename Record>
+int ReadRecord(const JsonObject& object, Record& record)
+{
+    return ReadDescribed(object, record, boost::describe::describe_members<Record, boost::describe::mod_public>());
+}
 
 /// Appends each element of @p array that @p readElement reads whole; the first that it does not ends the reading.
 template <typename Element, typename ReadElement>
@@ -59,6 +86,14 @@ int ReadElements(const JsonArray& array, std::vector<Element>& list, ReadElement
     return 0;
 }
 
+/// Appends the records of @p array.
+template <typename Record>
+int ReadRecords(const JsonArray& array, std::vector<Record>& list)
+{
+    return ReadElements(array, list,
+                        [](const JsonObject& element, Record& record) { return ReadRecord(element, record); });
+}
+
 /// The array under @p key, element by element.
 template <typename Element, typename ReadElement>
 int ReadList(const JsonObject& object, QLatin1String key, std::vector<Element>& list, ReadElement readElement)
@@ -67,28 +102,36 @@ int ReadList(const JsonObject& object, QLatin1String key, std::vector<Element>& 
     return ReadValue(object, key, array) == 0 ? ReadElements(array, list, readElement) : -1;
 }
 
-/// The array of records under @p key.
 template <typename Record>
 int ReadValue(const JsonObject& object, QLatin1String key, std::vector<Record>& list)
 {
-    return ReadList(object, key, list,
-                    [](const JsonObject& element, Record& record) { return ReadRecord(element, record); });
+    JsonArray array;
+    return ReadValue(object, key, array) == 0 ? ReadRecords(array, list) : -1;
 }
 
-/// Nothing more to read.
-inline int ReadFields(const JsonObject&)
-{
-    return 0;
-}
+/// A key and the field that it fills.
+class Pair {
+public:
+    template <std::size_t N, typename Field>
+    Pair(const char (&key)[N], Field& field)
+        : m_key(key, int(N) - 1), m_pField(&field),
+          m_read([](const JsonObject& object, QLatin1String name, void* pField) {
+              return ReadValue(object, name, *static_cast<Field*>(pField));
+          })
+    {}
 
-/// Keys and the fields that they fill, in the order in which they are read.
-template <std::size_t N, typename Field, typename... Rest>
-int ReadFields(const JsonObject& object, const char (&key)[N], Field& field, Rest&&... rest)
-{
-    return ReadValue(object, QLatin1String(key, int(N) - 1), field) == 0
-               ? ReadFields(object, std::forward<Rest>(rest)...)
-               : -1;
-}
+    /// @return 0 or -1
+    [[nodiscard]] int Read(const JsonObject& object) const { return m_read(object, m_key, m_pField); }
+
+private:
+    QLatin1String m_key;
+    void* m_pField;
+    int (*m_read)(const JsonObject&, QLatin1String, void*);
+};
+
+/// Keys and the fields that they fill, in the order in which they are read. A comma behind the last pair keeps each on
+/// a line by itself.
+int ReadFields(const JsonObject& object, std::initializer_list<Pair> pairs);
 
 /// A page of a longer list: "totalCount", stored only after "pageData" was found, and the records of "pageData".
 template <typename Record>
@@ -96,21 +139,14 @@ int ReadPage(const JsonObject& object, int& totalCount, std::vector<Record>& pag
 {
     int nTotalCount = 0;
     JsonArray array;
-    if (ReadFields(object, "totalCount", nTotalCount, "pageData", array) != 0) {
+    if (ReadFields(object, {{"totalCount", nTotalCount}, {"pageData", array}}) != 0) {
         return -1;
     }
     totalCount = nTotalCount;
-    return ReadElements(array, pageData,
-                        [](const JsonObject& element, Record& record) { return ReadRecord(element, record); });
+    return ReadRecords(array, pageData);
 }
 
 /// Appends the texts of @p array; an element that is no text counts as an empty one.
 void AppendTexts(const JsonArray& array, std::vector<std::string>& texts);
-
-/// Appends the numbers whose decimal texts @p array holds; an element that is no such text counts as 0.
-void AppendNumbersOfTexts(const JsonArray& array, std::vector<int>& numbers);
-
-/// The array of decimal texts under @p key, as numbers.
-int ReadNumbersOfTexts(const JsonObject& object, QLatin1String key, std::vector<int>& numbers);
 
 }  // namespace APIModule::detail
