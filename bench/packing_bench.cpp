@@ -1,4 +1,5 @@
-// Packing of requests: what each Pack of the library costs beside the same request written by hand with Qt.
+// Packing of requests: what Packs of the library cost beside the same request written by hand with Qt, one Pack for
+// each shape of a request.
 #include "Bench.h"
 #include "packing/Allocations.h"
 #include "packing/ByHand.h"
@@ -6,11 +7,14 @@
 #include <catalogue/Call.h>
 #include <e2e/rows/Rows.h>
 
+#include <RequestParamFields.h>
+
+#include <boost/describe/operators.hpp>
+
 #include <benchmark/benchmark.h>
 
 #include <memory>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace bench {
@@ -45,10 +49,10 @@ std::vector<catalogue::Value> MakeArguments(const catalogue::Call& call)
     return catalogue::ReadArguments(call, arguments.is_null() ? e2e::Json::object() : arguments);
 }
 
-/// A Pack with arguments of its own.
+/// A Pack with its arguments.
 class Packing {
 public:
-    Packing(Pack pack, const catalogue::Call& call) : m_pack(std::move(pack)), m_values(MakeArguments(call))
+    Packing(decltype(HandWritten::pack) pack, const catalogue::Call& call) : m_pack(pack), m_values(MakeArguments(call))
     {
         for (const catalogue::Value& value : m_values) {
             m_arguments.push_back(value.Data());
@@ -65,20 +69,10 @@ public:
     }
 
 private:
-    Pack m_pack;
+    decltype(HandWritten::pack) m_pack;
     std::vector<catalogue::Value> m_values;
     std::vector<void*> m_arguments;
 };
-
-bool Same(const RequestParam& left, const RequestParam& right)
-{
-    const auto all = [](const RequestParam& request) {
-        return std::tie(request.nPort, request.nTimeout, request.bHttps, request.bCompress, request.eMethod,
-                        request.strIp, request.strUrl, request.strBody, request.strToken, request.strSequence,
-                        request.bExcludeUserInput);
-    };
-    return all(left) == all(right);
-}
 
 std::size_t AllocationsOf(const Packing& packing)
 {
@@ -97,11 +91,11 @@ void Register(const std::string& name, const std::shared_ptr<const Packing>& pPa
     });
 }
 
-void Register(const catalogue::Call& call, const Pack& byHand)
+void Register(const catalogue::Call& call, decltype(HandWritten::pack) byHand)
 {
     const auto pLibrary = std::make_shared<const Packing>(call.pack, call);
     const auto pByHand = std::make_shared<const Packing>(byHand, call);
-    Require(Same(pLibrary->Run(), pByHand->Run()), call.name + " packed by hand");
+    Require(boost::describe::operators::operator==(pLibrary->Run(), pByHand->Run()), call.name + " packed by hand");
 
     Register("pack " + call.name + "/" + kLibrary, pLibrary);
     Register("pack " + call.name + "/by hand", pByHand);
@@ -114,18 +108,13 @@ void RegisterBenchmarks()
     static UserManager userManager;
     APIModule::CAPIModule::GetInstance().Init(&userManager);
 
-    std::size_t count = 0;
-    for (const std::vector<HandWritten>& family : {BrmsByHand(), OtherFamiliesByHand()}) {
-        for (const HandWritten& row : family) {
-            const catalogue::Call* pCall = catalogue::FindCall(row.call);
-            if (!pCall) {
-                Fail(std::string(row.call) + " is no call");
-            }
-            Register(*pCall, row.pack);
-            ++count;
+    for (const HandWritten& row : PackedByHand()) {
+        const catalogue::Call* pCall = catalogue::FindCall(row.call);
+        if (!pCall) {
+            Fail(std::string(row.call) + " is no call");
         }
+        Register(*pCall, row.pack);
     }
-    Require(count == catalogue::Calls().size(), "the calls and those that are packed by hand");
 }
 
 }  // namespace bench
