@@ -13,6 +13,7 @@ namespace ErrorLexicon {
 namespace {
 
 using Texts = std::unordered_map<int, std::string>;
+using Languages = std::map<std::string, Texts>;
 
 constexpr const char* kDefaultLanguage = "en";
 
@@ -29,7 +30,17 @@ Texts ReadTexts(const QString& fileName)
     return texts;
 }
 
-/// All texts of all languages, and the choice among them.
+Languages ReadLanguages()
+{
+    const QFileInfoList files = QDir(QStringLiteral(":/ErrorLexicon/texts")).entryInfoList();
+    Languages languages;
+    for (const QFileInfo& file : files) {
+        languages.emplace(file.baseName().toStdString(), ReadTexts(file.filePath()));
+    }
+    return languages;
+}
+
+/// All texts of all languages, and the choice among them. Any thread may ask and choose.
 class Lexicon {
 public:
     /// Never destroyed, so that texts can be asked for until the very end of the process.
@@ -42,7 +53,7 @@ public:
     void Choose(const std::string& strLanguage)
     {
         const auto found = m_languages.find(strLanguage);
-        m_pChosen = found != m_languages.end() ? &found->second : &m_languages[kDefaultLanguage];
+        m_pChosen = found != m_languages.end() ? &found->second : &m_languages.at(kDefaultLanguage);
     }
 
     [[nodiscard]] const std::string* Find(int nErrorCode) const
@@ -53,17 +64,10 @@ public:
     }
 
 private:
-    Lexicon()
-    {
-        const QFileInfoList files = QDir(QStringLiteral(":/ErrorLexicon/texts")).entryInfoList();
-        for (const QFileInfo& file : files) {
-            m_languages.emplace(file.baseName().toStdString(), ReadTexts(file.filePath()));
-        }
-        Choose(kDefaultLanguage);
-    }
+    Lexicon() = default;
 
-    std::map<std::string, Texts> m_languages;
-    std::atomic<const Texts*> m_pChosen = nullptr;
+    const Languages m_languages = ReadLanguages();
+    std::atomic<const Texts*> m_pChosen = &m_languages.at(kDefaultLanguage);
 };
 
 /// A status that has no text of its own is read as the first one of its class, as HTTP has it.
