@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <cwchar>
 #include <filesystem>
@@ -11,6 +12,8 @@
 #include <stdexcept>
 #include <thread>
 #include <vector>
+
+#include <unistd.h>
 
 using ornl::LogRecord;
 using ornl::TalPrintLog;
@@ -219,6 +222,58 @@ TEST_F(LogTest, FileThatCannotBeOpenedIsReportedAndStandardErrorGoesOnAlone)
     EXPECT_NE(text.find("goes on"), std::string::npos) << text;
 }
 
+/// What somebody else does to the file between two records.
+struct Loss {
+    const char* name;
+    void (*act)(const fs::path& file);
+};
+
+class LostFileTest : public LogTest, public testing::WithParamInterface<Loss> {};
+
+TEST_P(LostFileTest, IsOpenedAgain)
+{
+    const fs::path file = folder / "logs" / "one.log";
+    Log().SetFile(file.string());
+    Say("before");
+    GetParam().act(file);
+    Say("after");
+    Say("then");
+    const std::string content = Content(file);
+    EXPECT_EQ(Count(content, ": after\n"), 1) << content;
+    EXPECT_EQ(Count(content, ": then\n"), 1) << content;
+    EXPECT_EQ(Count(content, "before"), 0) << content;
+    EXPECT_EQ(Count(Stderr(), "\n"), 3) << "the three lines, and nothing about the loss";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Losses, LostFileTest,
+    testing::Values(Loss{"deleted", [](const fs::path& file) { fs::remove(file); }},
+                    Loss{"moved", [](const fs::path& file) { fs::rename(file, file.string() + ".1"); }},
+                    Loss{"replaced",
+                         [](const fs::path& file) {
+                             fs::rename(file, file.string() + ".1");
+                             std::ofstream(file) << "of somebody else\n";
+                         }},
+                    Loss{"deleted_with_its_folder", [](const fs::path& file) { fs::remove_all(file.parent_path()); }}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(LogTest, LostFileThatCannotBeOpenedIsTriedAgain)
+{
+    const fs::path file = folder / "logs" / "one.log";
+    Log().SetFile(file.string());
+    fs::remove_all(file.parent_path());
+    std::ofstream(file.parent_path()) << "no folder\n";
+    EXPECT_NO_THROW(Say("without file"));
+    fs::remove(file.parent_path());
+    Say("with file");
+    const std::string content = Content(file);
+    EXPECT_EQ(Count(content, "with file"), 1) << content;
+    EXPECT_EQ(Count(content, "without"), 0) << content;
+    const std::string text = Stderr();
+    EXPECT_EQ(Count(text, ": without file\n"), 1) << text;
+    EXPECT_EQ(Count(text, file.string()), 1) << "the failure is reported: " << text;
+}
+
 TEST_F(LogTest, ObserverMayLog)
 {
     int nCalls = 0;
@@ -317,6 +372,71 @@ TEST_F(LogTest, ManyThreadsLogWhileObserverAndFileChange)
     }
     EXPECT_EQ(nSeen, kThreads * kRecords);
     EXPECT_EQ(Count(Stderr(), "Here::Say: from a thread\n"), kThreads * kRecords);
+}
+
+/// Each test leaves its process in the end.
+class ClosedPipeTest : public testing::Test {
+protected:
+    ClosedPipeTest() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
+
+    static void CloseStandardError()
+    {
+        int ends[2];
+        if (pipe(ends) != 0 || dup2(ends[1], STDERR_FILENO) < 0 || close(ends[0]) != 0) {
+            std::_Exit(2);
+        }
+    }
+
+    static bool IsPending()
+    {
+        sigset_t pending;
+        sigpending(&pending);
+        return sigismember(&pending, SIGPIPE) == 1;
+    }
+};
+
+TEST_F(ClosedPipeTest, DoesNotEndTheProcess)
+{
+    const auto log = [] {
+        const fs::path file = fs::temp_directory_path() / ("ornl-closed-pipe-" + std::to_string(getpid()));
+        CloseStandardError();
+        Log().SetFile(file.string());
+        Say("one");
+        std::thread([] { Say("two"); }).join();
+        Log().SetFile("/proc/no/such/file.log");  // reported there as well
+        const std::string content = Content(file);
+        fs::remove(file);
+        std::_Exit(Count(content, "one") == 1 && Count(content, "two") == 1 && !IsPending() ? 0 : 1);
+    };
+    EXPECT_EXIT(log(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ClosedPipeTest, SignalsOthersThanTheLogAsBefore)
+{
+    const auto write = [] {
+        CloseStandardError();
+        Say("one");
+        (void)!::write(STDERR_FILENO, "x", 1);
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(write(), testing::KilledBySignal(SIGPIPE), "");
+}
+
+TEST_F(ClosedPipeTest, LeavesASignalThatTheHostHoldsBack)
+{
+    const auto log = [] {
+        CloseStandardError();
+        sigset_t sigpipe;
+        sigemptyset(&sigpipe);
+        sigaddset(&sigpipe, SIGPIPE);
+        pthread_sigmask(SIG_BLOCK, &sigpipe, nullptr);
+        Say("one");
+        const bool bNoneOfTheLog = !IsPending();
+        std::raise(SIGPIPE);
+        Say("two");
+        std::_Exit(bNoneOfTheLog && IsPending() ? 0 : 1);
+    };
+    EXPECT_EXIT(log(), testing::ExitedWithCode(0), "");
 }
 
 struct LogsAtTheEnd {

@@ -1,9 +1,11 @@
 #include "TalPrintLog.h"
 
+#include "detail/FileSink.h"
+#include "detail/WithoutSigpipe.h"
+
 #include <spdlog/logger.h>
 #include <spdlog/pattern_formatter.h>
 #include <spdlog/sinks/dist_sink.h>
-#include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/sinks/stdout_sinks.h>
 
 #include <cstdarg>
@@ -19,8 +21,6 @@ namespace {
 
 using Observer = std::function<void(const LogRecord&)>;
 
-constexpr std::size_t kMaxFileSize = std::size_t{5} * 1024 * 1024;
-constexpr std::size_t kRotatedFiles = 3;
 constexpr const char* kPattern = "%Y-%m-%d %H:%M:%S.%e %t %l %v";
 
 const char* OrEmpty(const char* text)
@@ -44,27 +44,6 @@ spdlog::level::level_enum SpdlogLevel(int level)
         return spdlog::level::err;
     default:
         return spdlog::level::critical;
-    }
-}
-
-/// Appends what the format makes of its arguments; one that cannot be carried out gives its own text.
-ORNL_PRINTF(2, 0) void AppendFormatted(std::string& text, const char* format, std::va_list arguments)
-{
-    constexpr std::size_t kUsualSize = 128;
-    std::va_list again;
-    va_copy(again, arguments);
-    const std::size_t begin = text.size();
-    text.resize(begin + kUsualSize);
-    const int length = std::vsnprintf(&text[begin], kUsualSize, format, arguments);
-    const std::size_t size = length < 0 ? 0 : static_cast<std::size_t>(length);
-    if (size >= kUsualSize) {
-        text.resize(begin + size + 1);
-        (void)std::vsnprintf(&text[begin], size + 1, format, again);
-    }
-    va_end(again);
-    text.resize(begin + size);
-    if (length < 0) {
-        text.append(format);
     }
 }
 
@@ -124,6 +103,7 @@ private:
 
 void ReportOnStderr(const char* what, const char* reason)
 {
+    const detail::WithoutSigpipe withoutSigpipe;
     (void)std::fprintf(stderr, "ornl: %s: %s\n", what, reason);
 }
 
@@ -167,14 +147,31 @@ void TalPrintLog::Log(const char* file, int line, const char* function, const ch
 try {
     std::string text = Head(OrEmpty(file), line, OrEmpty(function), OrEmpty(tag));
     const std::size_t head = text.size();
-    std::va_list arguments;
-    va_start(arguments, format);
     if (format) {
-        AppendFormatted(text, format, arguments);
+        // Nothing throws while the arguments are being read: they are read again when the first room is too small.
+        constexpr std::size_t kUsualSize = 128;
+        text.resize(head + kUsualSize);
+        std::va_list arguments;
+        va_start(arguments, format);
+        const int length = std::vsnprintf(&text[head], kUsualSize, format, arguments);
+        va_end(arguments);
+        const std::size_t size = length < 0 ? 0 : static_cast<std::size_t>(length);
+        if (size >= kUsualSize) {
+            text.resize(head + size + 1);
+            va_start(arguments, format);
+            (void)std::vsnprintf(&text[head], size + 1, format, arguments);
+            va_end(arguments);
+        }
+        text.resize(head + size);
+        if (length < 0) {
+            text.append(format);  // one that cannot be carried out gives its own text
+        }
     }
-    va_end(arguments);
 
-    d->logger.log(SpdlogLevel(level), spdlog::string_view_t(text));
+    {
+        const detail::WithoutSigpipe withoutSigpipe;  // standard error may be a closed pipe
+        d->logger.log(SpdlogLevel(level), spdlog::string_view_t(text));
+    }
     if (const auto observer = d->CurrentObserver()) {
         (*observer)({OrEmpty(file), line, OrEmpty(function), OrEmpty(tag), level, text.substr(head)});
     }
@@ -197,7 +194,7 @@ try {
     const std::lock_guard<std::mutex> lock(d->fileMutex);
     d->sinks->Set(nullptr);
     if (!strFileName.empty()) {
-        d->sinks->Set(std::make_shared<spdlog::sinks::rotating_file_sink_mt>(strFileName, kMaxFileSize, kRotatedFiles));
+        d->sinks->Set(std::make_shared<detail::FileSink>(strFileName));
     }
 } catch (const std::exception& error) {
     ReportOnStderr(strFileName.c_str(), error.what());

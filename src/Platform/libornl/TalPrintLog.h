@@ -30,7 +30,8 @@ public:
     TalPrintLog(const TalPrintLog&) = delete;
     TalPrintLog& operator=(const TalPrintLog&) = delete;
 
-    /// Writes one record; messages of any length come through whole.
+    /// Writes one record; messages of any length come through whole. A standard error that is a closed pipe does not
+    /// end the process; one that is a full pipe holds the caller back.
     ///
     /// @param file source file; may be null
     /// @param line line in the source file
@@ -52,7 +53,8 @@ public:
 
     /// Names the rotating file that records go to beside standard error; an empty name ends it.
     ///
-    /// Missing folders are made. A file that cannot be opened is reported on standard error, which goes on alone.
+    /// Missing folders are made. A file that cannot be opened is reported on standard error, which goes on alone. A
+    /// file that is deleted, moved away or replaced later is opened again by the next record.
     ///
     /// @param strFileName path in UTF-8
     void SetFile(const std::string& strFileName);
