@@ -110,7 +110,7 @@ static Json ManagingPersons(const Json& state, const std::string& deviceCode)
 {
     const Json& obms = state.at("obms");
     return Each(obms.at("managedPersons").at(deviceCode), [&obms](const Json& id) {
-        const Json& person = Element(obms.at("persons"), "personId", id);
+        const Json person = Element(obms.at("persons"), "personId", id);
         return With(Pick(person, {"personId", "personName", "orgCode", "orgName", "orgInfos"}),
                     {{"errorCode", obms.at("managedErrors").value(id.get<std::string>(), "0")}});
     });
@@ -157,7 +157,7 @@ std::vector<Row> ObmsRows()
          "",
          {{"req", rulesOfGate}},
          [](const Json& state) {
-             const Json& rules = Element(state.at("obms").at("points"), "pointId", "61").at("rules");
+             const Json rules = Element(state.at("obms").at("points"), "pointId", "61").at("rules");
              return Json::array({Element(rules, "ruleId", "10")});
          }},
         {"OBMS.GetPointRules",

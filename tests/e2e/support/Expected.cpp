@@ -40,7 +40,7 @@ Json PageOf(const Json& list, std::size_t page, std::size_t pageSize)
     return elements;
 }
 
-const Json& Element(const Json& list, const std::string& key, const Json& value)
+Json Element(const Json& list, const std::string& key, const Json& value)
 {
     const auto found =
         std::find_if(list.begin(), list.end(), [&](const Json& element) { return element.at(key) == value; });

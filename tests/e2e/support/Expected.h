@@ -26,7 +26,7 @@ Json PickEach(const Json& list, const Keys& keys);
 /// The elements of a page, which count from 1.
 Json PageOf(const Json& list, std::size_t page, std::size_t pageSize);
 /// The element whose member has this value.
-const Json& Element(const Json& list, const std::string& key, const Json& value);
+Json Element(const Json& list, const std::string& key, const Json& value);
 /// Each element changed by a function.
 template <typename Change>
 Json Each(const Json& list, Change change)
