@@ -17,7 +17,9 @@ set(APIMODULE_BUILD_SHARE "${PROJECT_BINARY_DIR}/share/apimodule")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
                     -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wextra-semi
-                    -Wno-gnu-zero-variadic-macro-arguments)  # macros of Boost.Describe and GoogleTest, for clang
+                    # macros of Boost.Describe and GoogleTest, for clang; version 19 counts that to the extensions of C++20
+                    -Wno-gnu-zero-variadic-macro-arguments
+                    $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,19>>:-Wno-c++20-extensions>)
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
                         QT_DEPRECATED_WARNINGS)
 
