@@ -1,6 +1,10 @@
 # The Qt that everything is built with: its targets are ${QT}::<module>. The versionless targets depend on which Qt was
 # found first, which a parent project or a client decides.
-set(APIMODULE_QT_MAJOR 5 CACHE STRING "Major version of Qt to build with: 5 or 6")
+set(default 5)
+if(TARGET Qt6::Core)
+    set(default 6)  # a parent's
+endif()
+set(APIMODULE_QT_MAJOR ${default} CACHE STRING "Major version of Qt to build with: 5 or 6")
 set_property(CACHE APIMODULE_QT_MAJOR PROPERTY STRINGS 5 6)
 if(APIMODULE_QT_MAJOR EQUAL 5)
     set(APIMODULE_QT_MINIMUM 5.15)
@@ -10,6 +14,12 @@ else()
     message(FATAL_ERROR "APIMODULE_QT_MAJOR is ${APIMODULE_QT_MAJOR}: APIModule builds with Qt 5 or Qt 6")
 endif()
 set(QT Qt${APIMODULE_QT_MAJOR})
+foreach(major IN ITEMS 5 6)
+    if(NOT major EQUAL APIMODULE_QT_MAJOR AND TARGET Qt${major}::Core)
+        message(FATAL_ERROR "The project uses Qt ${major}, and APIModule would be built with Qt ${APIMODULE_QT_MAJOR}: "
+                            "set APIMODULE_QT_MAJOR to ${major}")
+    endif()
+endforeach()
 
 # apimodule_find_qt(<module>... [PRIVATE <module>...])
 # Finds modules, and those of PRIVATE with their private headers as ${QT}::<module>Private.

@@ -11,4 +11,4 @@ endforeach()
 # A parent links the libraries without looking for these itself.
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
 apimodule_find_qt(Core Network Widgets)
-find_package(Boost 1.81 REQUIRED)  # Boost.Describe is in no release before 1.77
+find_package(Boost 1.81 CONFIG REQUIRED)  # Boost.Describe is in no release before 1.77
