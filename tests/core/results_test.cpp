@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
                          });
 
 /// Qt's text of an error may hold the URL, which depends on when it sees the end of the connection.
-TEST_F(Results, NetworkErrorTextIsMasked)
+TEST_F(Results, LineOfANetworkErrorShowsNoUrl)
 {
     RawServer server([](const RawRequest&) {
         return RawAnswer{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawAnswer::Close};
@@ -138,16 +138,9 @@ TEST_F(Results, NetworkErrorTextIsMasked)
     Use(server);
     HostCall call = Call(InLoop, false);
     call.url = QStringLiteral("/path?token=0123456789secret");
-    bool bUrlSeen = false;
-    for (int i = 0; i < 3000 && !bUrlSeen; ++i) {
-        EXPECT_EQ(Execute(call), -1);
-        for (const LogLine& line : logs.Take()) {
-            EXPECT_EQ(line.message.find("0123456789"), std::string::npos) << line.message;
-            bUrlSeen =
-                bUrlSeen || line.message.find("network error info: Error transferring http") != std::string::npos;
-        }
-    }
-    EXPECT_TRUE(bUrlSeen);
+    EXPECT_EQ(Execute(call), -1);
+    EXPECT_EQ(logs.Take().back().message, "Request failed, an internal network error occurred, qt network error code: 2, "
+                                          "network error info: Connection closed");
 }
 
 TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QHostInfo>
 #include <QEventLoop>
 
 #include <algorithm>
@@ -154,6 +155,7 @@ void FaultHost::WarmUp()
         Use(server, way.scheme);
         ExpectSuccess(way);
     }
+    QHostInfo::fromName(QStringLiteral("localhost"));  // makes Qt's objects for looking up names
     QEventLoop loop;
     QTimer::singleShot(100, &loop, &QEventLoop::quit);
     loop.exec();

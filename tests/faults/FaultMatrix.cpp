@@ -68,10 +68,13 @@ TEST_P(FaultMatrix, EndsAsToldAndLeavesNothing)
         if (place.missing) {
             GTEST_SKIP() << place.missing;
         }
+        if (place.keepsConnection) {
+            Use(place.faulty, way.scheme);
+            ExpectSuccess(way);
+        }
         Use(place.healthy, way.scheme);
         ExpectSuccess(way);
-        Census before = Census::Now();
-        before.sockets += place.keepsConnection ? 2 : 0;
+        const Census before = Census::Now();
 
         // A success and a time-out do not ask whether to notify.
         std::vector<bool> notifyOnFailure{false};

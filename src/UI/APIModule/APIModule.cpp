@@ -87,8 +87,10 @@ void CAPIModule::Init(UserLogical::IUserManager* pUserManager)
 
 void CAPIModule::UnInit()
 {
+    Q_D(CAPIModule);
     m_pUserManager = nullptr;
     m_bInitialised = false;
+    d->ForgetConnections();
     LogInfo({kModuleFile, "APIModule::CAPIModule::UnInit"}, "unInit Sucess");
 }
 
@@ -101,6 +103,18 @@ void CAPIModule::SetLanguage(const std::string& strLanguage)
 {
     Q_D(CAPIModule);
     d->m_strLanguage = strLanguage;
+}
+
+void CAPIModule::SetMaximumReplySize(qint64 nBytes)
+{
+    Q_D(CAPIModule);
+    d->SetMaximumReplySize(nBytes);
+}
+
+void CAPIModule::SetServerTrust(const ServerTrust& trust)
+{
+    Q_D(CAPIModule);
+    d->SetServerTrust(trust);
 }
 
 int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const QString& strUrl, int nServerId,

@@ -47,6 +47,7 @@ struct RequestParam {
 };
 
 struct ReplyInfo;
+struct ServerTrust;
 class CAPIModulePrivate;
 
 /// The one object through which every call runs.
@@ -84,6 +85,22 @@ public:
     ///
     /// @param strLanguage value of "Accept-Language", "en" by default
     void SetLanguage(const std::string& strLanguage);
+
+    /// Limits the replies of the calls that begin from now on. A larger reply ends its call at once as a network error,
+    /// -18.
+    ///
+    /// @param nBytes largest size in bytes, counted as received and again after decompression; 512 MiB by default. 1 is
+    ///        the least and 2,000,000,000 the most that has an effect.
+    void SetMaximumReplySize(qint64 nBytes);
+
+    /// Names the servers that calls over HTTPS may talk to from now on; without this call they talk to every server.
+    ///
+    /// Nothing is sent to a server before it is known. A call to one that is not known ends as a network error, -18, with
+    /// a log line that names host, port, reason and the digest of its certificate. Calls that wait go on; connections
+    /// made before are not used again. Calls over HTTP are not concerned.
+    ///
+    /// @param trust pins, authorities and the host's decision (ServerTrust.h); a default-made one trusts every server
+    void SetServerTrust(const ServerTrust& trust);
 
     /// Fills the RequestParam that a Pack was given; every Pack ends in this call.
     ///

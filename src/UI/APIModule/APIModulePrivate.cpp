@@ -1,6 +1,9 @@
 #include "APIModule_p.h"
 
 #include "Envelope_p.h"
+#include "http/AccessManager.h"
+#include "http/Reply.h"
+#include "http/Trust.h"
 #include "Log_p.h"
 #include "Mask_p.h"
 #include "RunHosted_p.h"
@@ -55,70 +58,36 @@ QByteArray Bytes(const std::string& text)
     return QByteArray::fromStdString(text);
 }
 
-/// Whether the error is one by which Qt tells of a status of 400 and above.
-bool IsErrorOfStatus(QNetworkReply::NetworkError error)
-{
-    switch (error) {
-    case QNetworkReply::AuthenticationRequiredError:
-    case QNetworkReply::ProxyAuthenticationRequiredError:
-    case QNetworkReply::ContentAccessDenied:
-    case QNetworkReply::ContentOperationNotPermittedError:
-    case QNetworkReply::ContentNotFoundError:
-    case QNetworkReply::ContentConflictError:
-    case QNetworkReply::ContentGoneError:
-    case QNetworkReply::UnknownContentError:
-    case QNetworkReply::ProtocolInvalidOperationError:
-    case QNetworkReply::InternalServerError:
-    case QNetworkReply::OperationNotImplementedError:
-    case QNetworkReply::ServiceUnavailableError:
-    case QNetworkReply::UnknownServerError:
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// Whether the body has the length that its answer tells. Qt does not always take a shorter one for an error.
-bool IsBodyWhole(const QNetworkReply& finished, int nStatus)
-{
-    constexpr int kNoContent = 204;
-    constexpr int kNotModified = 304;
-    return nStatus == kNoContent || nStatus == kNotModified ||
-           finished.rawHeader("Transfer-Encoding").toLower().contains("chunked") ||  // which overrides a length
-           finished.bytesAvailable() >= finished.header(QNetworkRequest::ContentLengthHeader).toLongLong();
-}
-
-/// Whether a whole HTTP answer came, of whatever status.
-bool HasAnswer(const QNetworkReply& finished)
-{
-    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    const bool bRead =
-        finished.error() == QNetworkReply::NoError || (status.isValid() && IsErrorOfStatus(finished.error()));
-    return bRead && IsBodyWhole(finished, status.toInt());
-}
-
 /// Takes what a finished reply brought. @return 0, -18 or 7000
-int TakeReply(QNetworkReply& finished, const QNetworkRequest& request, ReplyInfo& reply, const LogSite& site)
+int TakeReply(http::Reply& finished, const QNetworkRequest& request, ReplyInfo& reply, const char* pFunction)
 {
-    const QNetworkReply::NetworkError error = finished.error();
-    const bool bUnauthorized = error == QNetworkReply::AuthenticationRequiredError;
-    if (bUnauthorized || !HasAnswer(finished)) {
-        LogFailure(site, QStringLiteral("Request failed, an internal network error occurred, qt network error code: "
-                                        "%1, network error info: %2")
-                             .arg(QString::number(error), MaskToken(finished.errorString())));
+    if (const std::optional<http::UnknownServer>& unknown = finished.GetUnknownServer()) {
+        LogFailure({kModuleFile, pFunction},
+                   QStringLiteral("Request failed, the server is not known, host: %1, port: %2, reason: %3, SHA-256 of its "
+                                  "certificate: %4")
+                       .arg(request.url().host(), QString::number(request.url().port()), unknown->reason,
+                            QString::fromLatin1(unknown->digest.toHex(':'))));
+        return kNetworkError;
+    }
+    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    const bool bUnauthorized = finished.error() == QNetworkReply::AuthenticationRequiredError;
+    if (bUnauthorized || !status.isValid()) {
+        LogFailure({kModuleFile, pFunction},
+                   QStringLiteral("Request failed, an internal network error occurred, qt network error code: %1, "
+                                  "network error info: %2")
+                       .arg(QString::number(finished.error()), MaskToken(finished.errorString())));
         return bUnauthorized ? kAuthenticationRequired : kNetworkError;
     }
 
-    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    const int nStatus = status.isValid() ? status.toInt() : -1;
+    const int nStatus = status.toInt();
     if (nStatus == kStatusOk) {
-        reply.byteBody = finished.readAll();
+        reply.byteBody = finished.TakeBody();
         Unpack(reply);
-        reply.rawHeaders = finished.rawHeaderPairs();
-        LogInfo(site, "Request success.");
+        reply.rawHeaders = finished.Headers();
+        LogInfo({kModuleFile, pFunction}, "Request success.");
     } else {
-        LogFailure(site, QStringLiteral("Request failed, http status Code: %1, request url: %2")
-                             .arg(QString::number(nStatus), MaskedUrl(request)));
+        LogFailure({kModuleFile, pFunction}, QStringLiteral("Request failed, http status Code: %1, request url: %2")
+                                                 .arg(QString::number(nStatus), MaskedUrl(request)));
     }
     reply.nHttpStatus = nStatus;
     return 0;
@@ -175,14 +144,68 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
 {
     MoveTo(application.thread());
     m_pApplication = &application;
-    m_pNetworkManager = new QNetworkAccessManager;
-    // The network manager has a thread of its own, which must not outlive the application object.
+    MakeNetworkManager();
+    // No socket may outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
+}
+
+void CAPIModulePrivate::MakeNetworkManager()
+{
+    m_pNetworkManager = new http::AccessManager;
+    m_pNetworkManager->SetMaximumReplySize(m_nMaximumReplySize);
+    m_pNetworkManager->SetServerTrust(m_pServerTrust);
+    m_networkManagers.append(m_pNetworkManager);
+}
+
+void CAPIModulePrivate::SetMaximumReplySize(qint64 nBytes)
+{
+    constexpr qint64 kMost = 2000000000;  // a QByteArray holds little more
+    m_nMaximumReplySize = std::clamp<qint64>(nBytes, 1, kMost);
+    if (m_pNetworkManager) {
+        m_pNetworkManager->SetMaximumReplySize(m_nMaximumReplySize);
+    }
+}
+
+void CAPIModulePrivate::SetServerTrust(const ServerTrust& trust)
+{
+    m_pServerTrust.reset();
+    if (http::IsRestricted(trust)) {
+        auto pTrust = std::make_shared<ServerTrust>(trust);
+        if (trust.decide) {
+            pTrust->decide = [decide = trust.decide](const PresentedServer& server) {
+                return RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("decide"),
+                                 [&] { return decide(server) ? 0 : 1; }) == 0;
+            };
+        }
+        m_pServerTrust = pTrust;
+    }
+    ForgetConnections();
+}
+
+void CAPIModulePrivate::ForgetConnections()
+{
+    if (!m_pNetworkManager) {
+        return;
+    }
+    if (QThread::currentThread() != thread()) {
+        QMetaObject::invokeMethod(this, &CAPIModulePrivate::ForgetConnections, Qt::QueuedConnection);
+        return;
+    }
+    m_networkManagers.removeAll(nullptr);
+    if (m_pNetworkManager->HasReplies()) {
+        m_pNetworkManager->CloseIdleConnections();
+    } else {
+        delete m_pNetworkManager;
+    }
+    MakeNetworkManager();
 }
 
 void CAPIModulePrivate::DetachFromApplication()
 {
-    delete m_pNetworkManager;
+    for (const QPointer<http::AccessManager>& pManager : qAsConst(m_networkManagers)) {
+        delete pManager;
+    }
+    m_networkManagers.clear();
     MoveTo(nullptr);
 }
 
@@ -266,56 +289,48 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply,
     timer.start(Milliseconds(timeout.toInt()));
 
     std::optional<int> result;
-    ++m_nUnderWay;
-    const QPointer<QNetworkReply> pReply = Send(request);
+    const QPointer<http::AccessManager> pManager = m_pNetworkManager;
+    const QPointer<http::Reply> pReply = Send(request);
     connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
         timer.stop();
         if (wait.IsOrphaned()) {
             return;
         }
-        result = TakeReply(*pReply, request, reply, {kModuleFile, pFunction});
+        result = TakeReply(*pReply, request, reply, pFunction);
         wait.End();
     });
     connect(pReply, &QObject::destroyed, wait.Context(), [&wait] { wait.End(); });
     wait.Run();
 
-    // No signal of the reply is under way any more, and none is to come. Deleted now, a reply that timed out gives its
-    // connection to the requests after it even when the host makes them without a return to its event loop.
+    // No signal of the reply is under way any more, and none is to come. Deleted now, a reply that timed out closes its
+    // connection even when the host makes further calls without a return to its event loop.
     delete pReply;
-    --m_nUnderWay;
+    if (pManager && pManager != m_pNetworkManager && !pManager->HasReplies()) {
+        delete pManager;
+    }
     if (!result) {
         LogFailure({kModuleFile, pFunction},
                    QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
     }
-    const int nResult = result.value_or(kTimedOut);
-    DropConnectionsAfter(nResult);
-    return nResult;
+    return result.value_or(kTimedOut);
 }
 
-// Qt goes on connecting for a request that is no longer there, and keeps the sockets of attempts that failed.
-void CAPIModulePrivate::DropConnectionsAfter(int nResult)
+http::Reply* CAPIModulePrivate::Send(const QNetworkRequest& request)
 {
-    m_bConnectionsSuspect = m_bConnectionsSuspect || nResult == kTimedOut || nResult == kNetworkError;
-    if (m_bConnectionsSuspect && m_nUnderWay == 0 && m_pNetworkManager) {
-        m_pNetworkManager->clearConnectionCache();
-        m_bConnectionsSuspect = false;
-    }
-}
-
-QNetworkReply* CAPIModulePrivate::Send(const QNetworkRequest& request)
-{
-    const QByteArray body = request.attribute(kBodyAttribute).toByteArray();
-    switch (request.attribute(kMethodAttribute).value<Method>()) {
-    case Method_Put:
-        return m_pNetworkManager->put(request, body);
-    case Method_Post:
-        return m_pNetworkManager->post(request, body);
-    case Method_Delete:
-        return m_pNetworkManager->sendCustomRequest(request, "DELETE", body);
-    case Method_Get:
-        break;
-    }
-    return m_pNetworkManager->get(request);
+    const auto send = [&](const QByteArray& body) -> QNetworkReply* {
+        switch (request.attribute(kMethodAttribute).value<Method>()) {
+        case Method_Put:
+            return m_pNetworkManager->put(request, body);
+        case Method_Post:
+            return m_pNetworkManager->post(request, body);
+        case Method_Delete:
+            return m_pNetworkManager->sendCustomRequest(request, "DELETE", body);
+        case Method_Get:
+            break;
+        }
+        return m_pNetworkManager->get(request);
+    };
+    return qobject_cast<http::Reply*>(send(request.attribute(kBodyAttribute).toByteArray()));
 }
 
 std::optional<int> CAPIModulePrivate::Judge(const ReplyInfo& reply)

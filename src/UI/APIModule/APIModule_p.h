@@ -1,21 +1,25 @@
 #pragma once
 
 #include "APIModule.h"
+#include "http/AccessManager.h"
 #include "ReplyInfo_p.h"
 
 #include <QCoreApplication>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace APIModule {
 
 class Wait;
+
+namespace http {
+class Reply;
+}
 
 /// Where the log lines of the façade and of its steps say that they come from.
 inline constexpr const char* kModuleFile = "src/UI/APIModule/APIModule";
@@ -30,6 +34,9 @@ public:
 
     /// Whether the calling thread is the application object's and may run calls; the façade then belongs to it.
     bool AttachToApplication();
+
+    void SetMaximumReplySize(qint64 nBytes);
+    void SetServerTrust(const ServerTrust& trust);
 
     /// Runs the Pack. @return 0, its own result, or -1 when it throws
     static int Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param);
@@ -55,18 +62,22 @@ private:
     void MoveTo(QThread* pThread);
     void AttachTo(QCoreApplication& application);
     void DetachFromApplication();
+    void MakeNetworkManager();
+
+    /// What comes from now on reaches its server over new connections. Calls that wait keep theirs.
+    void ForgetConnections();
 
     int Execute(const QNetworkRequest& request, ReplyInfo& reply, Wait& wait, const char* pFunction);
-    QNetworkReply* Send(const QNetworkRequest& request);
-    void DropConnectionsAfter(int nResult);
+    http::Reply* Send(const QNetworkRequest& request);
 
     CAPIModule* const q_ptr;
     std::string m_strLanguage = "en";
     std::string m_strTimeZoneId;
-    QPointer<QNetworkAccessManager> m_pNetworkManager;
+    qint64 m_nMaximumReplySize = http::AccessManager::kDefaultMaximumReplySize;
+    std::shared_ptr<const ServerTrust> m_pServerTrust;  ///< null when every server is trusted
+    QPointer<http::AccessManager> m_pNetworkManager;
+    QList<QPointer<http::AccessManager>> m_networkManagers;  ///< with earlier ones whose calls still wait
     QPointer<QCoreApplication> m_pApplication;
-    int m_nUnderWay = 0;                 ///< requests that wait, each inside the one before
-    bool m_bConnectionsSuspect = false;  ///< one of them got no answer
 };
 
 }  // namespace APIModule

@@ -1,0 +1,388 @@
+#include "Connection.h"
+
+#include "AccessManager.h"
+#include "Reply.h"
+#include "Trust.h"
+
+#include <QCoreApplication>
+#include <QHostAddress>
+#include <QHostInfo>
+#include <QNetworkProxyFactory>
+#include <QNetworkProxyQuery>
+#include <QPointer>
+#include <QSslCertificate>
+#include <QSslError>
+#include <QSslSocket>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+
+namespace APIModule::http {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kSecondAttempt = 250ms;
+constexpr auto kLongestIdle = 2min;
+/// A server may close a connection that is idle for longer at the moment at which a write is sent, and nobody knows then
+/// whether it has seen the write.
+constexpr std::chrono::milliseconds kLongestIdleForWrite = 100ms;
+constexpr qint64 kReadBufferSize = 256 * 1024;
+
+QString Text(const char* pText)
+{
+    return QCoreApplication::translate("QHttp", pText);
+}
+
+/// What Qt's own HTTP engine reports for an error of a socket.
+std::pair<QNetworkReply::NetworkError, QString> Reported(QAbstractSocket::SocketError error, const QString& host,
+                                                         const QString& detail)
+{
+    switch (error) {
+    case QAbstractSocket::HostNotFoundError:
+        return {QNetworkReply::HostNotFoundError, Text("Host %1 not found").arg(host)};
+    case QAbstractSocket::ConnectionRefusedError:
+        return {QNetworkReply::ConnectionRefusedError, Text("Connection refused")};
+    case QAbstractSocket::RemoteHostClosedError:
+        return {QNetworkReply::RemoteHostClosedError, Text("Connection closed")};
+    case QAbstractSocket::SocketTimeoutError:
+        return {QNetworkReply::TimeoutError, QAbstractSocket::tr("Socket operation timed out")};
+    case QAbstractSocket::ProxyAuthenticationRequiredError:
+        return {QNetworkReply::ProxyAuthenticationRequiredError, Text("Proxy requires authentication")};
+    case QAbstractSocket::SslHandshakeFailedError:
+        return {QNetworkReply::SslHandshakeFailedError,
+                Text("SSL handshake failed") + QLatin1String(": ") + detail};
+    case QAbstractSocket::ProxyConnectionRefusedError:
+        return {QNetworkReply::ProxyConnectionRefusedError, detail};
+    case QAbstractSocket::ProxyConnectionClosedError:
+        return {QNetworkReply::ProxyConnectionClosedError, detail};
+    case QAbstractSocket::ProxyConnectionTimeoutError:
+        return {QNetworkReply::ProxyTimeoutError, detail};
+    case QAbstractSocket::ProxyNotFoundError:
+        return {QNetworkReply::ProxyNotFoundError, detail};
+    default:
+        return {QNetworkReply::UnknownNetworkError, detail};
+    }
+}
+
+}  // namespace
+
+Origin Origin::Of(const QUrl& url)
+{
+    return {url.scheme() == QLatin1String("https"), url.host(), url.port()};
+}
+
+Connection::Connection(AccessManager& manager, const QUrl& url, const QSslConfiguration& configuration)
+    : m_manager(manager), m_origin(Origin::Of(url)), m_url(url), m_configuration(configuration)
+{
+    m_timer.setSingleShot(true);
+}
+
+Connection::~Connection() = default;
+
+void Connection::Open()
+{
+    const QList<QNetworkProxy> proxies = QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(m_url));
+    for (const QNetworkProxy& proxy : proxies) {
+        const bool bHttp = proxy.type() == QNetworkProxy::HttpProxy || proxy.type() == QNetworkProxy::HttpCachingProxy;
+        m_bThroughCache =
+            bHttp && !m_origin.bEncrypted && proxy.capabilities().testFlag(QNetworkProxy::CachingCapability);
+        if (m_bThroughCache || proxy.type() == QNetworkProxy::NoProxy ||
+            proxy.capabilities().testFlag(QNetworkProxy::TunnelingCapability)) {
+            m_proxy = proxy;
+            break;
+        }
+    }
+
+    QHostAddress address;
+    if (m_proxy.type() != QNetworkProxy::NoProxy || address.setAddress(m_origin.host)) {
+        Dial(QAbstractSocket::AnyIPProtocol);
+    } else {
+        QHostInfo::lookupHost(m_origin.host, this, &Connection::OnHostFound);
+    }
+}
+
+void Connection::OnHostFound(const QHostInfo& info)
+{
+    if (m_bClosed) {
+        return;
+    }
+    if (info.error() != QHostInfo::NoError || info.addresses().isEmpty()) {
+        const auto [error, text] = Reported(QAbstractSocket::HostNotFoundError, m_origin.host, QString());
+        Fail(error, text);
+        return;
+    }
+    // A host with addresses of both families may be reachable through one of them alone.
+    const QAbstractSocket::NetworkLayerProtocol first = info.addresses().constFirst().protocol();
+    for (const QHostAddress& address : info.addresses()) {
+        if (address.protocol() != first) {
+            m_second = address.protocol();
+            connect(&m_timer, &QTimer::timeout, this, [this] { Dial(*std::exchange(m_second, std::nullopt)); });
+            m_timer.start(kSecondAttempt);
+            Dial(first);
+            return;
+        }
+    }
+    Dial(QAbstractSocket::AnyIPProtocol);
+}
+
+void Connection::Dial(QAbstractSocket::NetworkLayerProtocol protocol)
+{
+    std::unique_ptr<QTcpSocket> pSocket;
+    if (m_origin.bEncrypted) {
+        auto pTls = std::make_unique<QSslSocket>();
+        const std::shared_ptr<const ServerTrust>& pTrust = m_manager.GetServerTrust();
+        pTls->setSslConfiguration(pTrust ? Verifying(*pTrust, m_configuration) : m_configuration);
+        connect(pTls.get(), &QSslSocket::encrypted, this, &Connection::OnEncrypted);
+        pSocket = std::move(pTls);
+    } else {
+        pSocket = std::make_unique<QTcpSocket>();
+    }
+    QTcpSocket& socket = *m_dialled.emplace_back(std::move(pSocket));
+    socket.setProxy(m_bThroughCache ? QNetworkProxy(QNetworkProxy::NoProxy) : m_proxy);
+    socket.setReadBufferSize(kReadBufferSize);
+    connect(&socket, &QTcpSocket::connected, this, [this, &socket] { OnConnected(socket); });
+    connect(&socket, &QTcpSocket::readyRead, this, &Connection::OnReadyRead);
+    connect(&socket, &QTcpSocket::errorOccurred, this,
+            [this, &socket](QAbstractSocket::SocketError error) { OnSocketError(socket, error); });
+
+    const QString host = m_bThroughCache ? m_proxy.hostName() : m_origin.host;
+    const quint16 nPort = m_bThroughCache ? m_proxy.port() : quint16(m_origin.nPort);
+    if (m_origin.bEncrypted) {
+        static_cast<QSslSocket&>(socket).connectToHostEncrypted(host, nPort, QIODevice::ReadWrite, protocol);
+    } else {
+        socket.connectToHost(host, nPort, QIODevice::ReadWrite, protocol);
+    }
+}
+
+void Connection::OnConnected(QTcpSocket& socket)
+{
+    m_second.reset();
+    m_timer.stop();
+    m_timer.disconnect(this);
+    for (std::unique_ptr<QTcpSocket>& pDialled : m_dialled) {
+        if (pDialled.get() == &socket) {
+            m_pSocket = std::move(pDialled);
+        } else {
+            pDialled->disconnect(this);
+            pDialled->abort();
+        }
+    }
+    socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+    if (!m_origin.bEncrypted) {
+        OnReady();
+    }
+}
+
+void Connection::OnEncrypted()
+{
+    if (m_manager.GetServerTrust()) {
+        // The host may be asked, and nothing of it runs inside a signal of a socket.
+        QMetaObject::invokeMethod(this, &Connection::LookAtServer, Qt::QueuedConnection);
+    } else {
+        OnReady();
+    }
+}
+
+void Connection::LookAtServer()
+{
+    if (m_bClosed) {
+        return;
+    }
+    const PresentedServer server =
+        Presented(static_cast<const QSslSocket&>(*m_pSocket), m_origin.host, m_origin.nPort);
+    const std::shared_ptr<const ServerTrust> pTrust = m_manager.GetServerTrust();
+    const QPointer<Connection> self(this);
+    const std::optional<UnknownServer> unknown = Judge(*pTrust, server);
+    if (!self || m_bClosed) {
+        return;  // ended by the host meanwhile
+    }
+    if (!unknown) {
+        OnReady();
+        return;
+    }
+    Reply* const pReply = m_pReply;
+    Close();
+    if (pReply) {
+        pReply->Refuse(*unknown);
+    }
+}
+
+void Connection::OnReady()
+{
+    m_bReady = true;
+    connect(&m_timer, &QTimer::timeout, this, &Connection::Close);
+    if (m_pReply) {
+        Send();
+    }
+}
+
+bool Connection::IsFitFor(const Reply& reply)
+{
+    if (!IsFree()) {
+        return false;
+    }
+    const bool bStale = reply.IsRepeated() || (reply.IsWrite() && m_idleSince.hasExpired(kLongestIdleForWrite.count()));
+    if (bStale) {
+        Close();
+        return false;
+    }
+    // What has come meanwhile arrives now, and closes the connection.
+    m_bProbing = true;
+    m_pSocket->waitForReadyRead(0);
+    m_bProbing = false;
+    return !m_bClosed;
+}
+
+void Connection::Carry(Reply& reply)
+{
+    m_pReply = &reply;
+    m_timer.stop();
+    if (m_bReady) {
+        Send();
+    } else if (m_dialled.empty()) {
+        Open();
+    }
+}
+
+void Connection::Send()
+{
+    m_reader.emplace(m_manager.MaximumReplySize());
+    m_pSocket->write(m_pReply->Bytes(m_bThroughCache ? &m_proxy : nullptr));
+    m_pSocket->flush();
+}
+
+void Connection::OnReadyRead()
+{
+    if (m_reader) {
+        Receive();
+    } else {
+        Fail(QNetworkReply::RemoteHostClosedError, Text("Connection closed"));  // it belongs to no request
+    }
+}
+
+void Connection::Receive()
+{
+    std::array<char, 32UL * 1024> buffer;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled by read()
+    while (m_reader && m_reader->GetState() == ReplyReader::State::Reading) {
+        const qint64 nRead = m_pSocket->read(buffer.data(), buffer.size());
+        if (nRead <= 0) {
+            return;
+        }
+        const qint64 nTaken = m_reader->Feed(buffer.data(), nRead);
+        if (m_reader->GetState() != ReplyReader::State::Reading) {
+            const bool bReusable = nTaken == nRead && m_pSocket->bytesAvailable() == 0 &&
+                                   m_pSocket->bytesToWrite() == 0 && m_reader->KeepsConnection();
+            if (!bReusable) {
+                m_pSocket->disconnect(this);
+                m_bReady = false;
+            }
+            EndReply();
+        }
+    }
+}
+
+void Connection::EndReply()
+{
+    ReplyReader reader = std::move(*m_reader);
+    Reply& reply = *m_pReply;
+    switch (reader.GetState()) {
+    case ReplyReader::State::Complete:
+        m_reader.reset();
+        m_pReply = nullptr;
+        m_bUsed = true;
+        if (m_bReady) {
+            m_idleSince.start();
+            m_timer.start(kLongestIdle);
+            emit Freed();
+        } else {
+            Close();
+        }
+        reply.Complete(reader);
+        break;
+    case ReplyReader::State::Corrupt:
+        Fail(QNetworkReply::ProtocolFailure, Text("Data corrupted"));
+        break;
+    case ReplyReader::State::TooLarge:
+        Fail(QNetworkReply::UnknownContentError,
+             QStringLiteral("The reply is larger than %1 bytes").arg(m_manager.MaximumReplySize()));
+        break;
+    case ReplyReader::State::Closed:
+    case ReplyReader::State::Reading:
+        Fail(QNetworkReply::RemoteHostClosedError, Text("Connection closed"));
+        break;
+    }
+}
+
+void Connection::OnSocketError(QTcpSocket& socket, QAbstractSocket::SocketError error)
+{
+    if (m_bProbing && error == QAbstractSocket::SocketTimeoutError) {
+        return;  // nothing has come
+    }
+    if (!m_pSocket && m_dialled.size() == 1 && m_second) {
+        m_timer.start(0);
+        return;
+    }
+    const bool bOther = std::any_of(m_dialled.begin(), m_dialled.end(), [&](const std::unique_ptr<QTcpSocket>& pOther) {
+        return pOther && pOther.get() != &socket && pOther->state() != QAbstractSocket::UnconnectedState;
+    });
+    if (!m_pSocket && bOther) {
+        return;
+    }
+
+    if (m_reader && error == QAbstractSocket::RemoteHostClosedError) {
+        Receive();  // what came before the end
+        if (m_bClosed || !m_reader) {
+            Close();
+            return;
+        }
+        m_reader->End();
+        if (m_reader->GetState() == ReplyReader::State::Complete) {
+            m_bReady = false;
+            EndReply();
+            return;
+        }
+    }
+    const auto [reported, text] = Reported(error, m_origin.host, socket.errorString());
+    Fail(reported, text);
+}
+
+void Connection::Fail(NetworkError error, const QString& text)
+{
+    Reply* const pReply = std::exchange(m_pReply, nullptr);
+    const bool bRepeat = pReply && m_bUsed && (!m_reader || m_reader->IsUntouched()) && !pReply->IsWrite();
+    Close();
+    if (bRepeat && !pReply->IsRepeated()) {
+        m_manager.Repeat(*pReply);
+    } else if (pReply) {
+        pReply->Fail(error, text);
+    }
+}
+
+void Connection::Close()
+{
+    if (m_bClosed) {
+        return;
+    }
+    m_bClosed = true;
+    m_pReply = nullptr;
+    m_reader.reset();
+    m_timer.stop();
+    m_second.reset();
+    for (const std::unique_ptr<QTcpSocket>& pSocket : m_dialled) {
+        if (pSocket) {
+            pSocket->disconnect(this);
+            pSocket->abort();
+        }
+    }
+    if (m_pSocket) {
+        m_pSocket->disconnect(this);
+        m_pSocket->abort();
+    }
+    emit Closed();
+}
+
+}  // namespace APIModule::http

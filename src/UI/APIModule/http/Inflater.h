@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <memory>
+
+struct z_stream_s;
+
+namespace APIModule::http {
+
+/// Decompresses a body with the content coding gzip or deflate as it arrives.
+class Inflater {
+public:
+    enum class Result {
+        Ok,
+        Corrupt,
+        TooLarge
+    };
+
+    Inflater();
+    ~Inflater();
+    Inflater(const Inflater&) = delete;
+    Inflater& operator=(const Inflater&) = delete;
+
+    /// Appends what @p size bytes at @p pData decompress to. Bytes after the end of the compressed stream are ignored.
+    /// @param nMost largest size of @p out
+    Result Append(const char* pData, qint64 size, QByteArray& out, qint64 nMost);
+
+private:
+    Result Run(const QByteArray& input, QByteArray& out, qint64 nMost);
+
+    QByteArray m_first;                       ///< the first byte while the second has not come
+    std::unique_ptr<z_stream_s> m_pStream;    ///< once the form of the stream is known
+    bool m_bEnded = false;
+};
+
+}  // namespace APIModule::http

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Trust.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QPair>
+
+#include <optional>
+#include <utility>
+
+class QNetworkProxy;
+
+namespace APIModule::http {
+
+class AccessManager;
+class ReplyReader;
+
+/// A request and what becomes of it: either a whole HTTP answer, and then the attribute HttpStatusCodeAttribute, or an
+/// error. The signal finished() comes from the event loop, never inside a signal of a socket, whose receivers must not
+/// run an event loop.
+class Reply final : public QNetworkReply {
+    Q_OBJECT
+
+public:
+    /// @param pBody read at once; null for a request without one
+    Reply(AccessManager& manager, QNetworkAccessManager::Operation operation, const QNetworkRequest& request,
+          QIODevice* pBody);
+    ~Reply() override;
+
+    /// Ends the exchange and closes its connection. Finishes the reply with OperationCanceledError.
+    void abort() override;
+
+    bool isSequential() const override { return true; }
+    qint64 bytesAvailable() const override;
+
+    /// The whole body, which is not there to be read any more.
+    QByteArray TakeBody() { return std::exchange(m_body, QByteArray()); }
+    /// Repeated headers are joined.
+    const QList<QPair<QByteArray, QByteArray>>& Headers() const { return m_headers; }
+
+    /// The bytes of the request.
+    /// @param pProxy the HTTP proxy that the request is sent to, null without one
+    QByteArray Bytes(const QNetworkProxy* pProxy) const;
+
+    /// Whether the server may do something twice when the request reaches it twice.
+    bool IsWrite() const { return m_bWrite; }
+
+    /// A read that met a connection that had died is repeated on a new one, once.
+    bool IsRepeated() const { return m_bRepeated; }
+    void SetRepeated() { m_bRepeated = true; }
+
+    /// Finishes with what @p reader holds, which is a complete reply.
+    void Complete(ReplyReader& reader);
+    /// Finishes without an answer.
+    void Fail(NetworkError error, const QString& text);
+    /// Finishes without having sent anything, to a server that is not known.
+    void Refuse(const UnknownServer& server);
+
+    const std::optional<UnknownServer>& GetUnknownServer() const { return m_unknownServer; }
+
+protected:
+    qint64 readData(char* pData, qint64 size) override;
+
+private:
+    void FinishLater();
+    void Finish();
+
+    AccessManager* m_pManager;
+    QByteArray m_verb;
+    QByteArray m_sentBody;
+    bool m_bHasBody;
+    bool m_bWrite;
+    bool m_bRepeated = false;
+    QByteArray m_body;
+    qint64 m_nRead = 0;
+    QList<QPair<QByteArray, QByteArray>> m_headers;
+    std::optional<UnknownServer> m_unknownServer;
+};
+
+}  // namespace APIModule::http
