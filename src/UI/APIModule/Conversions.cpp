@@ -33,6 +33,9 @@ qint64 Rounded(double number)
 /// Between 0.0001 and 0.001 the versions of Qt differ on what is shorter, with an exponent or without.
 QString TextOf(double number)
 {
+    if (const std::optional<long long> integer = IntegerIn(number)) {
+        return QString::number(*integer);
+    }
     constexpr double kLowest = 0.0001;
     constexpr double kBehind = 0.001;
     const double size = std::abs(number);
@@ -40,6 +43,13 @@ QString TextOf(double number)
 }
 
 }  // namespace
+
+std::optional<long long> IntegerIn(double number)
+{
+    const qint64 integer = Cut(number);
+    const bool bSame = double(integer) == number && (integer != 0 || !std::signbit(number));
+    return bSame ? std::optional<long long>(integer) : std::nullopt;
+}
 
 long long IntegerOf(const QString& text)
 {

@@ -31,12 +31,12 @@ void StoreUtf8(const QString& text, std::string& result)
 
 QCborValue NumberFromVariant(const QCborValue& number)
 {
-    if (number.isDouble()) {
-        return qIsFinite(number.toDouble()) ? number : QCborValue(nullptr);
+    const double rounded = number.toDouble();
+    if (!qIsFinite(rounded)) {
+        return {nullptr};
     }
-    constexpr double kBeyondIntegers = 9223372036854775808.0;
-    const auto rounded = double(number.toInteger());
-    return rounded < kBeyondIntegers ? QCborValue(qint64(rounded)) : QCborValue(rounded);
+    const std::optional<long long> integer = IntegerIn(rounded);
+    return integer ? QCborValue(qint64(*integer)) : QCborValue(rounded);
 }
 
 namespace {

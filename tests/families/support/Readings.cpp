@@ -65,7 +65,7 @@ private:
             return 0;
         case Reading::NumbersOfTexts:
             for (const QJsonValue& element : elements) {
-                field.push_back(element.isString() ? element.toString().toInt(nullptr, 10) : 0);
+                field.push_back(element.isString() ? NumberOfText(element.toString()) : 0);
             }
             return 0;
         case Reading::Object: {

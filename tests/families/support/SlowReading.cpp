@@ -1,8 +1,83 @@
 #include "SlowReading.h"
 
+#if QT_VERSION_MAJOR > 5
+#include <QRegularExpression>
+
+#include <cmath>
+#include <limits>
+#include <optional>
+#endif
+
 namespace family_testing {
 
 namespace {
+
+#if QT_VERSION_MAJOR > 5
+/// Halves are rounded up. The lowest integer stands for what is too large, zero or what an overflow leaves for what is
+/// too small, as Qt 5 has it on this processor.
+qint64 RoundedAsInQt5(double number)
+{
+    constexpr double kRange = 9223372036854775808.0;
+    constexpr qint64 kLowest = std::numeric_limits<qint64>::min();
+    if (number >= -kRange) {
+        const double rounded = std::floor(number + 0.5);
+        return rounded < kRange ? qint64(rounded) : kLowest;
+    }
+    return number >= -2 * kRange ? qint64(quint64(qint64(number + kRange)) + quint64(kLowest)) : 0;
+}
+
+/// Any spaces around, and the minus sign of mathematics for another sign.
+qint64 IntegerAsInQt5(const QString& text)
+{
+    static const QRegularExpression kInteger(QStringLiteral("\\A[+\u2212-]?[0-9]+\\z"));
+    QString number = text.trimmed();
+    return kInteger.match(number).hasMatch() ? number.replace(QChar(0x2212), QLatin1Char('-')).toLongLong() : 0;
+}
+
+/// Qt 5 keeps a double as an integer where it is one, but minus zero.
+std::optional<qint64> KeptAsInteger(double number)
+{
+    constexpr double kRange = 9223372036854775808.0;
+    const bool bInteger = number >= -kRange && number < kRange && std::floor(number) == number;
+    return bInteger && (number != 0 || !std::signbit(number)) ? std::optional<qint64>(number) : std::nullopt;
+}
+
+/// A text without an exponent down to 0.0001.
+QString TextAsInQt5(double number)
+{
+    if (const auto integer = KeptAsInteger(number)) {
+        return QString::number(*integer);
+    }
+    static const QRegularExpression kShortened(QStringLiteral("\\A(-?)([0-9])e-04\\z"));
+    const QString text = QVariant(number).toString();
+    const QRegularExpressionMatch match = kShortened.match(text);
+    return match.hasMatch() ? match.captured(1) + QStringLiteral("0.000") + match.captured(2) : text;
+}
+
+/// Each number inside a double, or an integer where the double is one.
+QJsonValue ContainerAsInQt5(const QJsonValue& value)
+{
+    if (value.isArray()) {
+        QJsonArray array;
+        for (const QJsonValue element : value.toArray()) {
+            array.append(ContainerAsInQt5(element));
+        }
+        return array;
+    }
+    if (value.isObject()) {
+        QJsonObject object = value.toObject();
+        for (auto member = object.begin(); member != object.end(); ++member) {
+            member.value() = ContainerAsInQt5(member.value());
+        }
+        return object;
+    }
+    if (!value.isDouble()) {
+        return value;
+    }
+    const auto integer = KeptAsInteger(value.toDouble());
+    return integer ? QJsonValue(*integer) : QJsonValue(value.toDouble());
+}
+#endif
 
 testing_support::LogLine FailedRead(const std::string& function, const std::string& message)
 {
@@ -10,6 +85,44 @@ testing_support::LogLine FailedRead(const std::string& function, const std::stri
 }
 
 }  // namespace
+
+#if QT_VERSION_MAJOR == 5
+
+QVariant VariantFor(Target /*target*/, const QJsonValue& value)
+{
+    return value.toVariant();
+}
+
+int NumberOfText(const QString& text)
+{
+    return text.toInt(nullptr, 10);
+}
+
+#else
+
+QVariant VariantFor(Target target, const QJsonValue& value)
+{
+    const QVariant variant = value.toVariant();
+    const bool bDouble = variant.typeId() == QMetaType::Double;
+    if (bDouble && (target == Target::Integer || target == Target::Flag)) {
+        return RoundedAsInQt5(variant.toDouble());
+    }
+    if (bDouble && target == Target::Text) {
+        return TextAsInQt5(variant.toDouble());
+    }
+    if (value.isString() && target == Target::Integer) {
+        return IntegerAsInQt5(value.toString());
+    }
+    return target == Target::Container ? ContainerAsInQt5(value).toVariant() : variant;
+}
+
+int NumberOfText(const QString& text)
+{
+    const qint64 number = IntegerAsInQt5(text);
+    return number == int(number) ? int(number) : 0;
+}
+
+#endif
 
 testing_support::LogLine EmptyObject()
 {

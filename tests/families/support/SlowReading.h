@@ -20,7 +20,19 @@ namespace family_testing {
 testing_support::LogLine EmptyObject();
 testing_support::LogLine MissingKey(const std::string& key);
 
-/// What QJsonValue::toVariant and then the variant's own conversion give, for the types that GetJsonValue reads.
+enum class Target {
+    Integer,
+    Number,
+    Flag,
+    Text,
+    Container
+};
+
+/// The variant of a value. With Qt 6, one that Qt 6 converts to the target as Qt 5 converts the value's own.
+QVariant VariantFor(Target target, const QJsonValue& value);
+
+/// What QJsonValue::toVariant and then the variant's own conversion give with Qt 5, for the types that GetJsonValue
+/// reads.
 /// - A fraction is rounded and an integer cut to the lower bits of an int, as QVariant does it.
 /// - What is in an object or an array goes through a map or a list of variants. Qt makes a double of every number that
 ///   comes back from there: integers beyond 2^53 lose digits, and what is no finite number becomes null.
@@ -28,24 +40,26 @@ testing_support::LogLine MissingKey(const std::string& key);
 template <typename T>
 T Converted(const QJsonValue& value)
 {
-    const QVariant variant = value.toVariant();
     if constexpr (std::is_same_v<T, int>) {
-        return variant.toInt();
+        return VariantFor(Target::Integer, value).toInt();
     } else if constexpr (std::is_same_v<T, APIModule::int64>) {
-        return variant.toLongLong();
+        return VariantFor(Target::Integer, value).toLongLong();
     } else if constexpr (std::is_same_v<T, double>) {
-        return variant.toDouble();
+        return VariantFor(Target::Number, value).toDouble();
     } else if constexpr (std::is_same_v<T, bool>) {
-        return variant.toBool();
+        return VariantFor(Target::Flag, value).toBool();
     } else if constexpr (std::is_same_v<T, std::string>) {
-        return variant.toString().toUtf8().toStdString();
+        return VariantFor(Target::Text, value).toString().toUtf8().toStdString();
     } else if constexpr (std::is_same_v<T, QJsonObject>) {
-        return variant.toJsonObject();
+        return VariantFor(Target::Container, value).toJsonObject();
     } else {
         static_assert(std::is_same_v<T, QJsonArray>);
-        return variant.toJsonArray();
+        return VariantFor(Target::Container, value).toJsonArray();
     }
 }
+
+/// A decimal text as QString::toInt of Qt 5 reads it. @return 0 for any other text
+int NumberOfText(const QString& text);
 
 /// Looks the key up. @return whether there is a value to convert; otherwise with a line
 bool FindSlowly(const QJsonObject& object, const QString& key, QJsonValue& value, testing_support::LogLines& lines);

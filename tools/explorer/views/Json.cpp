@@ -12,7 +12,7 @@ using nlohmann::json;
 json NumberFromQt(const QJsonValue& value)
 {
     const QVariant number = value.toVariant();
-    return number.type() == QVariant::LongLong ? json(number.toLongLong()) : json(number.toDouble());
+    return number.userType() == QMetaType::LongLong ? json(number.toLongLong()) : json(number.toDouble());
 }
 
 QString Dumped(const json& value, int indent)

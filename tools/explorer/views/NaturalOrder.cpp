@@ -21,7 +21,7 @@ NaturalOrder::NaturalOrder(QObject* pParent) : QSortFilterProxyModel(pParent), m
 bool NaturalOrder::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     const QVariant first = left.data(sortRole());
-    return first.type() == QVariant::String
+    return first.userType() == QMetaType::QString
                ? m_collator.compare(first.toString(), right.data(sortRole()).toString()) < 0
                : QSortFilterProxyModel::lessThan(left, right);
 }
