@@ -26,6 +26,34 @@ namespace {
 constexpr int kCurrentServer = -1;
 constexpr int kParseFailed = 3101;
 
+constexpr const char* kGetRequestParam = "APIModule::CAPIModule::GetRequestParam";
+constexpr const char* kNoUserManager = "GetRequestParam failed! no user manager.";
+
+/// What the user manager knows of the server of a call.
+struct ServerOfCall {
+    UserLogical::ServerConnection connection;
+    std::string strToken;
+};
+
+/// Asks the user manager, whose code may end the use of the library: @p pUserManager is then null. @return 0 or -1
+int AskUserManager(UserLogical::IUserManager* const& pUserManager, int nServerId, ServerOfCall& server)
+{
+    if (nServerId == kCurrentServer) {
+        nServerId = pUserManager->GetCurrentServerId();
+    }
+    if (!pUserManager) {
+        LogFailure({kModuleFile, kGetRequestParam}, kNoUserManager);
+        return -1;
+    }
+    const std::shared_ptr<UserLogical::IServer> pServer = pUserManager->GetServer(nServerId);
+    if (!pServer) {
+        return -1;
+    }
+    pServer->GetConnection(server.connection);
+    server.strToken = pServer->GetToken();
+    return 0;
+}
+
 void Notify(const QString& text)
 {
     ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance().AddTextNotification(text, false, QString(), QString(),
@@ -121,51 +149,31 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
                                 const QString& strBody, const QString& strSequence, int nTimeout, bool bCompress)
 {
     Q_D(CAPIModule);
-    constexpr const char* kFunction = "APIModule::CAPIModule::GetRequestParam";
-    constexpr const char* kNoUserManager = "GetRequestParam failed! no user manager.";
+    const char* pRefusal = nullptr;
     if (!d->AttachToApplication()) {
-        LogFailure({kModuleFile, kFunction}, "GetRequestParam failed! wrong thread or no application.");
-        return -1;
+        pRefusal = "GetRequestParam failed! wrong thread or no application.";
+    } else if (!pReqParamData) {
+        pRefusal = "GetRequestParam failed! pReqParamData can not be null.";
+    } else if (strUrl.isEmpty()) {
+        pRefusal = "GetRequestParam failed! strUrl can not be empty.";
+    } else if (!m_pUserManager) {
+        pRefusal = kNoUserManager;
     }
-    if (!pReqParamData) {
-        LogFailure({kModuleFile, kFunction}, "GetRequestParam failed! pReqParamData can not be null.");
-        return -1;
-    }
-    if (strUrl.isEmpty()) {
-        LogFailure({kModuleFile, kFunction}, "GetRequestParam failed! strUrl can not be empty.");
-        return -1;
-    }
-    if (!m_pUserManager) {
-        LogFailure({kModuleFile, kFunction}, kNoUserManager);
+    if (pRefusal) {
+        LogFailure({kModuleFile, kGetRequestParam}, pRefusal);
         return -1;
     }
 
-    UserLogical::ServerConnection connection;
-    std::string strToken;
-    const auto askUserManager = [&] {
-        if (nServerId == kCurrentServer) {
-            nServerId = m_pUserManager->GetCurrentServerId();
-        }
-        if (!m_pUserManager) {  // the host may have ended use meanwhile
-            LogFailure({kModuleFile, kFunction}, kNoUserManager);
-            return -1;
-        }
-        const std::shared_ptr<UserLogical::IServer> pServer = m_pUserManager->GetServer(nServerId);
-        if (!pServer) {
-            return -1;
-        }
-        pServer->GetConnection(connection);
-        strToken = pServer->GetToken();
-        return 0;
-    };
-    if (RunHosted({kModuleFile, kFunction}, QStringLiteral("userManager"), askUserManager) != 0) {
+    ServerOfCall server;
+    if (RunHosted({kModuleFile, kGetRequestParam}, QStringLiteral("userManager"),
+                  [&] { return AskUserManager(m_pUserManager, nServerId, server); }) != 0) {
         return -1;
     }
 
     auto& param = *static_cast<RequestParam*>(pReqParamData);
-    param.strToken = strToken;
-    param.strIp = connection.strHost;
-    param.nPort = connection.nPort;
+    param.strToken = server.strToken;
+    param.strIp = server.connection.strHost;
+    param.nPort = server.connection.nPort;
     param.bHttps = m_nHttpsMode != 0;
     param.strUrl = strUrl.toStdString();
     param.strBody = strBody.toStdString();

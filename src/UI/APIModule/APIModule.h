@@ -55,6 +55,12 @@ class CAPIModulePrivate;
 /// A call family supplies a Pack, which describes the request, and a Parse, which reads the data of the reply;
 /// ExecuteFuncs() runs the pair. The object belongs to the thread of the application object, and only that thread
 /// may call GetRequestParam() and ExecuteFuncs(). No exception crosses this interface.
+///
+/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the user
+/// manager's current one) where it takes one; it returns 0, or the -1 of GetRequestParam() with the record untouched,
+/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
+/// key that cannot be read: what was read before that key stays filled, the rest is untouched. Lists are appended to
+/// what the caller's vector holds, each element when all of it was read, its inner lists included.
 class APIMODULE_EXPORT CAPIModule : public QObject {
     Q_OBJECT
 

@@ -243,6 +243,7 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
     if (m_strTimeZoneId.empty()) {
         m_strTimeZoneId = QTimeZone::systemTimeZoneId().toStdString();
     }
+    // The value below replaces this one. The interface has both, in this order, and what it lists is set.
     request.setRawHeader("Content-Type", "keep-alive");
     request.setRawHeader("Accept-Language", Bytes(m_strLanguage));
     request.setRawHeader("Time-Zone", Bytes(m_strTimeZoneId));

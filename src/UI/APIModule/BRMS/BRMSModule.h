@@ -17,17 +17,11 @@
 
 namespace APIModule {
 
-/// Calls of the basic resource management service.
-///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
-/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
-/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
-/// key that cannot be read: what was read before that key stays filled, the rest is untouched. Lists are appended to
-/// what the caller's vector holds.
+/// Calls of the basic resource management service: Packs and Parses as CAPIModule describes them.
 class APIMODULE_EXPORT CBRMSModule {
 public:
-    CBRMSModule& operator=(const CBRMSModule&);      ///< Does nothing: the class has no data. @return this
-    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
+    CBRMSModule& operator=(const CBRMSModule&);      ///< @assignsnothing
+    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< @assignsnothing
 
     /// @name System configuration
     /// Settings of the whole platform. Flags and numbers travel to the server as texts ("1"/"0", decimal), with the

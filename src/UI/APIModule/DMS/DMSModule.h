@@ -10,16 +10,11 @@
 
 namespace APIModule {
 
-/// Calls of the device management service.
-///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
-/// user manager's current one) where it has one; it returns 0, or the -1 of CAPIModule::GetRequestParam() with the
-/// record untouched, and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0,
-/// or -1 at the first key that cannot be read: what was read before that key stays filled, the rest is untouched.
+/// Calls of the device management service: Packs and Parses as CAPIModule describes them.
 class APIMODULE_EXPORT CDMSModule {
 public:
-    CDMSModule& operator=(const CDMSModule&);      ///< Does nothing: the class has no data. @return this
-    CDMSModule& operator=(CDMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
+    CDMSModule& operator=(const CDMSModule&);      ///< @assignsnothing
+    CDMSModule& operator=(CDMSModule&&) noexcept;  ///< @assignsnothing
 
     /// @name PTZ
     /// Wash function and home position of pan-tilt-zoom cameras. The wash calls use the administration interface and

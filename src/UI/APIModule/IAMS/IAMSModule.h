@@ -7,15 +7,11 @@
 
 namespace APIModule {
 
-/// Calls of the intelligent analysis service.
-///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
-/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
-/// and writes one log line either way.
+/// Calls of the intelligent analysis service: Packs and Parses as CAPIModule describes them.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing: the class has no data. @return this
-    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
+    CIAMSModule& operator=(const CIAMSModule&);      ///< @assignsnothing
+    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< @assignsnothing
 
     /// @name Analysis tasks
     /// @{

@@ -10,17 +10,11 @@
 
 namespace APIModule {
 
-/// Calls of the parking management service.
-///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
-/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
-/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
-/// key that cannot be read. Every key is mandatory. Lists are appended to what the caller's vector holds, each element
-/// when all of it was read, its inner lists included: a failed parse leaves those before the failing one.
+/// Calls of the parking management service: Packs and Parses as CAPIModule describes them.
 class APIMODULE_EXPORT CIPMSModule {
 public:
-    CIPMSModule& operator=(const CIPMSModule&);      ///< Does nothing: the class has no data. @return this
-    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
+    CIPMSModule& operator=(const CIPMSModule&);      ///< @assignsnothing
+    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< @assignsnothing
 
     /// @name Parking
     /// Parking lots, their organisations and the vehicles captured there. Identifiers and codes go into the URL as they

@@ -11,17 +11,11 @@
 
 namespace APIModule {
 
-/// Calls of the access control and intercom service.
-///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
-/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
-/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
-/// key that cannot be read: what was read before that key stays filled, the rest is untouched. Lists are appended to
-/// what the caller's vector holds.
+/// Calls of the access control and intercom service: Packs and Parses as CAPIModule describes them.
 class APIMODULE_EXPORT COBMSModule {
 public:
-    COBMSModule& operator=(const COBMSModule&);      ///< Does nothing: the class has no data. @return this
-    COBMSModule& operator=(COBMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
+    COBMSModule& operator=(const COBMSModule&);      ///< @assignsnothing
+    COBMSModule& operator=(COBMSModule&&) noexcept;  ///< @assignsnothing
 
     /// @name Access control
     /// Persons and rules of access points and devices. Identifiers and codes go into the URL as they stand, nothing

@@ -10,17 +10,11 @@
 
 namespace APIModule {
 
-/// Calls of the operation and maintenance service.
-///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the
-/// user manager's current one); it returns 0, or the -1 of CAPIModule::GetRequestParam() with the record untouched,
-/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
-/// key that cannot be read: what was read before that key stays filled, the rest is untouched. Lists are appended to
-/// what the caller's vector holds.
+/// Calls of the operation and maintenance service: Packs and Parses as CAPIModule describes them.
 class APIMODULE_EXPORT COMMSModule {
 public:
-    COMMSModule& operator=(const COMMSModule&);      ///< Does nothing: the class has no data. @return this
-    COMMSModule& operator=(COMMSModule&&) noexcept;  ///< Does nothing: the class has no data. @return this
+    COMMSModule& operator=(const COMMSModule&);      ///< @assignsnothing
+    COMMSModule& operator=(COMMSModule&&) noexcept;  ///< @assignsnothing
 
     /// @name Maintenance
     /// Alert types, and what maintenance shows of one channel or device: status, fault, health of recordings and
