@@ -2,7 +2,7 @@
 
 #include "Texts.h"
 
-#include <translation/CommandLine.h>
+#include <translations/CommandLine.h>
 
 #include <QUrl>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <translation/Filled.h>
+#include <translations/Filled.h>
 
 #include <QCoreApplication>
 

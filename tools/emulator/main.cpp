@@ -1,8 +1,8 @@
 #include "PlatformEmulator.h"
 #include "Texts.h"
 
-#include <translation/Application.h>
-#include <translation/CommandLine.h>
+#include <translations/Application.h>
+#include <translations/CommandLine.h>
 
 #include <pthread.h>
 

@@ -1,6 +1,6 @@
 #include "Appearance.h"
 
-#include <translation/Application.h>
+#include <translations/Application.h>
 
 #include <ErrorLexicon/ErrorLexicon.h>
 
