@@ -5,6 +5,7 @@
 #include "packing/ByHand.h"
 
 #include <catalogue/Call.h>
+#include <catalogue/OneServer.h>
 #include <e2e/rows/Rows.h>
 
 #include <RequestParamFields.h>
@@ -21,26 +22,6 @@ namespace bench {
 namespace {
 
 using APIModule::RequestParam;
-
-/// Knows one server and gives it without work of its own.
-class UserManager : public UserLogical::IUserManager {
-public:
-    int GetCurrentServerId() override { return 1; }
-    std::shared_ptr<UserLogical::IServer> GetServer(int /*nServerId*/) override { return m_pServer; }
-
-private:
-    class Server : public UserLogical::IServer {
-    public:
-        void GetConnection(UserLogical::ServerConnection& connection) override
-        {
-            connection.strHost = "192.168.10.2";
-            connection.nPort = 443;
-        }
-        std::string GetToken() override { return "0123456789abcdef0123456789abcdef"; }
-    };
-
-    const std::shared_ptr<Server> m_pServer = std::make_shared<Server>();
-};
 
 /// Arguments as the tests against the emulator have them.
 std::vector<catalogue::Value> MakeArguments(const catalogue::Call& call)
@@ -105,7 +86,8 @@ void Register(const catalogue::Call& call, decltype(HandWritten::pack) byHand)
 
 void RegisterBenchmarks()
 {
-    static UserManager userManager;
+    static catalogue::OneServer userManager;
+    userManager.Use("192.168.10.2", 443, "0123456789abcdef0123456789abcdef");
     APIModule::CAPIModule::GetInstance().Init(&userManager);
 
     for (const HandWritten& row : PackedByHand()) {

@@ -1,11 +1,11 @@
 #include "Arguments.h"
 #include "Help.h"
-#include "OneServer.h"
 #include "Options.h"
 #include "Texts.h"
 
+#include <catalogue/OneServer.h>
 #include <catalogue/Run.h>
-#include <translation/Application.h>
+#include <translations/Application.h>
 
 #include <APIModule.h>
 #include <ErrorLexicon/ErrorLexicon.h>
@@ -49,7 +49,8 @@ Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& ar
 {
     //: The code of this language, for the texts of error codes
     ErrorLexicon::SetLanguage(options.language.empty() ? Filled(Texts::tr("en")) : options.language);
-    apicall::OneServer users(server, options.token);
+    catalogue::OneServer users;
+    users.Use(server.host, server.port, options.token);
     auto& library = APIModule::CAPIModule::GetInstance();
     library.SetHttpsMode(server.https ? 1 : 0);
     library.SetLanguage(options.language.empty() ? "en" : options.language);

@@ -2,11 +2,12 @@
 
 #include "EmulatorProcess.h"
 #include "Feed.h"
-#include "HostUsers.h"
 #include "Runner.h"
 #include "Servers.h"
 #include "Tokens.h"
 #include "TrafficTap.h"
+
+#include <catalogue/OneServer.h>
 
 #include <QObject>
 
@@ -45,7 +46,7 @@ public:
 private:
     void UseCurrentServer();
 
-    HostUsers m_users;
+    catalogue::OneServer m_users;
 };
 
 }  // namespace explorer

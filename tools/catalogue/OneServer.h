@@ -4,11 +4,12 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
-namespace explorer {
+namespace catalogue {
 
-/// The user manager of this host: one server at a time, which calls know as -1, 0 and 1.
-class HostUsers : public UserLogical::IUserManager {
+/// The user manager of a host with one server at a time, which calls know as -1, 0 and 1.
+class OneServer : public UserLogical::IUserManager {
 public:
     /// From now on calls go there; those under way keep the server they were packed for.
     void Use(const std::string& host, int port, const std::string& token)
@@ -47,4 +48,4 @@ private:
     std::shared_ptr<Connection> m_server;
 };
 
-}  // namespace explorer
+}  // namespace catalogue
