@@ -7,7 +7,7 @@ namespace contract_tests {
 
 const emulator::Contract& Document()
 {
-    static const emulator::Contract document = emulator::Contract::Load(DOCUMENT_FOLDER);
+    static const emulator::Contract document = emulator::Contract::Load(CONTRACT_FOLDER);
     return document;
 }
 

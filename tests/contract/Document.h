@@ -11,7 +11,7 @@ namespace contract_tests {
 
 using Json = nlohmann::json;
 
-/// The operations of docs/openapi.yaml.
+/// The operations of contract/.
 const emulator::Contract& Document();
 
 /// How the Parse of a call took the data of a reply.
