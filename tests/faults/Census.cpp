@@ -38,6 +38,12 @@ void OnRemoved(QObject* pObject)
     Live().objects.erase(pObject);
 }
 
+/// Qt looks up host names on threads of a pool, which stay for some seconds.
+bool IsThreadOfPool(const QObject& object)
+{
+    return qstrcmp(object.metaObject()->className(), "QThreadPoolThread") == 0;
+}
+
 /// Toasts stay on the screen for a while, with what is in them; a single shot is how they end.
 bool IsOfToasts(const QObject& object)
 {
@@ -67,7 +73,7 @@ Census Census::Now()
         // An object of another thread may be in its destructor, but not beyond the hook.
         const std::lock_guard<std::mutex> lock(Live().mutex);
         for (const QObject* pObject : Live().objects) {
-            if (pObject->thread() == QThread::currentThread() && !IsOfToasts(*pObject)) {
+            if (pObject->thread() == QThread::currentThread() && !IsOfToasts(*pObject) && !IsThreadOfPool(*pObject)) {
                 ++census.objects[pObject->metaObject()->className()];
             }
         }

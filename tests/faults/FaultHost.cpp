@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QHostInfo>
 #include <QEventLoop>
 
 #include <algorithm>
@@ -155,7 +154,6 @@ void FaultHost::WarmUp()
         Use(server, way.scheme);
         ExpectSuccess(way);
     }
-    QHostInfo::fromName(QStringLiteral("localhost"));  // makes Qt's objects for looking up names
     QEventLoop loop;
     QTimer::singleShot(100, &loop, &QEventLoop::quit);
     loop.exec();
