@@ -101,9 +101,9 @@ public:
 
     /// Names the servers that calls over HTTPS may talk to from now on; without this call they talk to every server.
     ///
-    /// Nothing is sent to a server before it is known. A call to one that is not known ends as a network error, -18, with
-    /// a log line that names host, port, reason and the digest of its certificate. Calls that wait go on; connections
-    /// made before are not used again. Calls over HTTP are not concerned.
+    /// Nothing is sent to a server before it is known. A call to one that is not known ends as a network error, -18,
+    /// with a log line that names host, port, reason and the digest of its certificate. Calls that wait go on;
+    /// connections made before are not used again. Calls over HTTP are not concerned.
     ///
     /// @param trust pins, authorities and the host's decision (ServerTrust.h); a default-made one trusts every server
     void SetServerTrust(const ServerTrust& trust);

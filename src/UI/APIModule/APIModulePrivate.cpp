@@ -62,11 +62,12 @@ QByteArray Bytes(const std::string& text)
 int TakeReply(http::Reply& finished, const QNetworkRequest& request, ReplyInfo& reply, const char* pFunction)
 {
     if (const std::optional<http::UnknownServer>& unknown = finished.GetUnknownServer()) {
-        LogFailure({kModuleFile, pFunction},
-                   QStringLiteral("Request failed, the server is not known, host: %1, port: %2, reason: %3, SHA-256 of its "
-                                  "certificate: %4")
-                       .arg(request.url().host(), QString::number(request.url().port()), unknown->reason,
-                            QString::fromLatin1(unknown->digest.toHex(':'))));
+        LogFailure(
+            {kModuleFile, pFunction},
+            QStringLiteral("Request failed, the server is not known, host: %1, port: %2, reason: %3, SHA-256 of its "
+                           "certificate: %4")
+                .arg(request.url().host(), QString::number(request.url().port()), unknown->reason,
+                     QString::fromLatin1(unknown->digest.toHex(':'))));
         return kNetworkError;
     }
     const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);

@@ -4,23 +4,22 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QSslCertificate>
+#include <QSslError>
 #include <QString>
 
 #include <functional>
-
-class QSslCertificate;
-class QSslError;
 
 namespace APIModule {
 
 /// A server as it presents itself over TLS, before anything has been sent to it.
 struct PresentedServer {
-    QString host;                        ///< as the user manager gave it
-    int nPort = 0;                       ///< TCP port
-    QList<QSslCertificate> chain;        ///< the server's certificate first, then its issuers as the server sent them
-    QList<QSslError> errors;             ///< what verification objects to; empty when it objects to nothing
-    QByteArray certificateDigest;        ///< SHA-256 of the server's certificate (DER), 32 bytes
-    QByteArray publicKeyDigest;          ///< SHA-256 of its public key (DER), 32 bytes
+    QString host;                  ///< as the user manager gave it
+    int nPort = 0;                 ///< TCP port
+    QList<QSslCertificate> chain;  ///< the server's certificate first, then its issuers as the server sent them
+    QList<QSslError> errors;       ///< what verification objects to; empty when it objects to nothing
+    QByteArray certificateDigest;  ///< SHA-256 of the server's certificate (DER), 32 bytes
+    QByteArray publicKeyDigest;    ///< SHA-256 of its public key (DER), 32 bytes
 };
 
 /// A digest by which a host knows a server.
@@ -49,9 +48,9 @@ struct ServerTrust {
     /// The certificates or public keys that servers must present. A pinned certificate need not pass verification: it
     /// may be signed by itself or have expired.
     QList<ServerPin> pins;
-    /// Decides about a server that is not known otherwise. It is called on the thread of the application object, from the
-    /// event loop, and must not wait for the user: to ask, return false, show the digest, store it as a pin, call again.
-    /// An exception counts as false.
+    /// Decides about a server that is not known otherwise. It is called on the thread of the application object, from
+    /// the event loop, and must not wait for the user: to ask, return false, show the digest, store it as a pin, call
+    /// again. An exception counts as false.
     std::function<bool(const PresentedServer&)> decide;
 };
 

@@ -26,8 +26,8 @@ using namespace std::chrono_literals;
 
 constexpr auto kSecondAttempt = 250ms;
 constexpr auto kLongestIdle = 2min;
-/// A server may close a connection that is idle for longer at the moment at which a write is sent, and nobody knows then
-/// whether it has seen the write.
+/// A server may close a connection that is idle for longer at the moment at which a write is sent, and nobody knows
+/// then whether it has seen the write.
 constexpr std::chrono::milliseconds kLongestIdleForWrite = 100ms;
 constexpr qint64 kReadBufferSize = 256 * 1024;
 
@@ -52,8 +52,7 @@ std::pair<QNetworkReply::NetworkError, QString> Reported(QAbstractSocket::Socket
     case QAbstractSocket::ProxyAuthenticationRequiredError:
         return {QNetworkReply::ProxyAuthenticationRequiredError, Text("Proxy requires authentication")};
     case QAbstractSocket::SslHandshakeFailedError:
-        return {QNetworkReply::SslHandshakeFailedError,
-                Text("SSL handshake failed") + QLatin1String(": ") + detail};
+        return {QNetworkReply::SslHandshakeFailedError, Text("SSL handshake failed") + QLatin1String(": ") + detail};
     case QAbstractSocket::ProxyConnectionRefusedError:
         return {QNetworkReply::ProxyConnectionRefusedError, detail};
     case QAbstractSocket::ProxyConnectionClosedError:
@@ -192,8 +191,7 @@ void Connection::LookAtServer()
     if (m_bClosed) {
         return;
     }
-    const PresentedServer server =
-        Presented(static_cast<const QSslSocket&>(*m_pSocket), m_origin.host, m_origin.nPort);
+    const PresentedServer server = Presented(static_cast<const QSslSocket&>(*m_pSocket), m_origin.host, m_origin.nPort);
     const std::shared_ptr<const ServerTrust> pTrust = m_manager.GetServerTrust();
     const QPointer<Connection> self(this);
     const std::optional<UnknownServer> unknown = Judge(*pTrust, server);

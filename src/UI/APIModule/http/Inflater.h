@@ -29,8 +29,8 @@ public:
 private:
     Result Run(const QByteArray& input, QByteArray& out, qint64 nMost);
 
-    QByteArray m_first;                       ///< the first byte while the second has not come
-    std::unique_ptr<z_stream_s> m_pStream;    ///< once the form of the stream is known
+    QByteArray m_first;                     ///< the first byte while the second has not come
+    std::unique_ptr<z_stream_s> m_pStream;  ///< once the form of the stream is known
     bool m_bEnded = false;
 };
 

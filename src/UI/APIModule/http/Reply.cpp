@@ -42,11 +42,8 @@ QByteArray HostOf(const QUrl& url)
 
 Reply::Reply(AccessManager& manager, QNetworkAccessManager::Operation operation, const QNetworkRequest& request,
              QIODevice* pBody)
-    : QNetworkReply(&manager),
-      m_pManager(&manager),
-      m_verb(Verb(operation, request)),
-      m_sentBody(pBody ? pBody->readAll() : QByteArray()),
-      m_bHasBody(pBody != nullptr),
+    : QNetworkReply(&manager), m_pManager(&manager), m_verb(Verb(operation, request)),
+      m_sentBody(pBody ? pBody->readAll() : QByteArray()), m_bHasBody(pBody != nullptr),
       m_bWrite(operation != QNetworkAccessManager::GetOperation)
 {
     setRequest(request);
@@ -90,7 +87,8 @@ QByteArray Reply::Bytes(const QNetworkProxy* pProxy) const
         add("Content-Length", QByteArray::number(m_sentBody.size()));
     }
     if (pProxy && !pProxy->user().isEmpty()) {
-        add("Proxy-Authorization", "Basic " + (pProxy->user() + QLatin1Char(':') + pProxy->password()).toUtf8().toBase64());
+        add("Proxy-Authorization",
+            "Basic " + (pProxy->user() + QLatin1Char(':') + pProxy->password()).toUtf8().toBase64());
     }
     add(pProxy ? "Proxy-Connection" : "Connection", QByteArrayLiteral("Keep-Alive"));
     add("Accept-Encoding", QByteArrayLiteral("gzip, deflate"));

@@ -34,8 +34,7 @@ qint64 ReplyReader::Feed(const char* pData, qint64 size)
 {
     qint64 nRead = 0;
     while (m_state == State::Reading && nRead < size) {
-        const bool bBody =
-            m_step == Step::BodyOfLength || m_step == Step::BodyUntilEnd || m_step == Step::ChunkData;
+        const bool bBody = m_step == Step::BodyOfLength || m_step == Step::BodyUntilEnd || m_step == Step::ChunkData;
         const qint64 nStep = bBody ? FeedBody(pData + nRead, size - nRead) : FeedLine(pData + nRead, size - nRead);
         nRead += nStep;
         m_nReceived += nStep;

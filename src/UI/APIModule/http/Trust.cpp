@@ -5,6 +5,7 @@
 #include <QSslError>
 #include <QSslKey>
 #include <QSslSocket>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -43,7 +44,8 @@ bool IsRestricted(const ServerTrust& trust)
 QSslConfiguration Verifying(const ServerTrust& trust, QSslConfiguration configuration)
 {
     QList<QSslCertificate> authorities = trust.authorities;
-    if (trust.bSystemAuthorities || authorities.isEmpty()) {
+    // To load those of the system takes time, which pins alone do not need.
+    if (trust.bSystemAuthorities || (authorities.isEmpty() && trust.decide)) {
         authorities += QSslConfiguration::systemCaCertificates();
     }
     configuration.setCaCertificates(authorities);
@@ -66,11 +68,10 @@ std::optional<UnknownServer> Judge(const ServerTrust& trust, const PresentedServ
 {
     const auto concerns = [&](const ServerPin& pin) { return Concerns(pin, server); };
     const bool bPinned = std::any_of(trust.pins.begin(), trust.pins.end(), concerns);
-    const bool bKnown = bPinned ? std::any_of(trust.pins.begin(), trust.pins.end(),
-                                              [&](const ServerPin& pin) {
-                                                  return Concerns(pin, server) && IsPresented(pin, server);
-                                              })
-                                : Verifies(trust) && server.errors.isEmpty();
+    const bool bKnown =
+        bPinned ? std::any_of(trust.pins.begin(), trust.pins.end(),
+                              [&](const ServerPin& pin) { return Concerns(pin, server) && IsPresented(pin, server); })
+                : Verifies(trust) && server.errors.isEmpty();
     if (bKnown) {
         return std::nullopt;
     }
@@ -84,7 +85,11 @@ std::optional<UnknownServer> Judge(const ServerTrust& trust, const PresentedServ
     } else if (bPinned) {
         reason = QStringLiteral("another certificate is pinned");
     } else if (!server.errors.isEmpty()) {
-        reason = server.errors.constFirst().errorString();
+        QStringList errors;
+        for (const QSslError& error : server.errors) {
+            errors.append(error.errorString());
+        }
+        reason = errors.join(QLatin1String(", "));
     }
     return UnknownServer{reason, server.certificateDigest};
 }
