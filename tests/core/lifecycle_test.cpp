@@ -4,6 +4,7 @@
 #include "support/Waiting.h"
 
 #include <QElapsedTimer>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>

@@ -1,12 +1,13 @@
 #include "RawServer.h"
 
+#include <QEventLoop>
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <future>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
@@ -196,24 +197,22 @@ RawServer::RawServer(const Responder& responder, const QSslConfiguration& config
 
 RawServer::RawServer(const Responder& responder, const std::optional<QSslConfiguration>& configuration)
 {
-    auto context = std::make_unique<QObject>();
-    context->moveToThread(&m_thread);
-    m_thread.start();
-    QMetaObject::invokeMethod(
-        context.get(),
-        [&] {
-            m_listener = new Listener(*this, responder, configuration);
-            m_port = m_listener->serverPort();
-        },
-        Qt::BlockingQueuedConnection);
-    context.release()->deleteLater();
+    std::promise<QEventLoop*> listening;
+    std::future<QEventLoop*> running = listening.get_future();
+    m_thread = std::thread([this, responder, configuration, listening = std::move(listening)]() mutable {
+        QEventLoop loop;
+        const Listener listener(*this, responder, configuration);
+        m_port = listener.serverPort();
+        listening.set_value(&loop);
+        loop.exec();
+    });
+    m_pLoop = running.get();
 }
 
 RawServer::~RawServer()
 {
-    m_listener->deleteLater();
-    m_thread.quit();
-    m_thread.wait();
+    QMetaObject::invokeMethod(m_pLoop, &QEventLoop::quit, Qt::QueuedConnection);
+    m_thread.join();
 }
 
 std::vector<RawRequest> RawServer::TakeRequests()

@@ -6,13 +6,15 @@
 #include <QList>
 #include <QPair>
 #include <QSslConfiguration>
-#include <QThread>
 
 #include <atomic>
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <thread>
 #include <vector>
+
+class QEventLoop;
 
 namespace testing_support {
 
@@ -84,8 +86,8 @@ private:
 
     RawServer(const Responder& responder, const std::optional<QSslConfiguration>& configuration);
 
-    QThread m_thread;
-    Listener* m_listener = nullptr;  // in m_thread, deleted there
+    std::thread m_thread;  // no QThread, whose wait() returns before the thread's TLS state has been cleaned up
+    QEventLoop* m_pLoop = nullptr;  // of m_thread
     std::mutex m_mutex;
     std::vector<RawRequest> m_requests;
     std::atomic<bool> m_bAnswersAnything{false};
