@@ -83,6 +83,14 @@ std::function<Place(RawServer::Scheme)> Speaks(QSsl::SslProtocol protocol, bool 
 const std::vector<RawServer::Scheme> kHttp = {RawServer::Http};
 const std::vector<RawServer::Scheme> kHttps = {RawServer::Https};
 
+// Deprecated with Qt 6, which still speaks them.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+constexpr QSsl::SslProtocol kTls1_0 = QSsl::TlsV1_0;
+constexpr QSsl::SslProtocol kTls1_1 = QSsl::TlsV1_1;
+constexpr QSsl::SslProtocol kAnyTls = QSsl::TlsV1_0OrLater;
+#pragma GCC diagnostic pop
+
 const std::vector<Fault> kFaults = {
     {"refused", Refuses, NetworkFails("1", "Connection refused")},
     {"name_unknown", NameIsUnknown, NetworkFails("3", "Host no-such-host.invalid not found")},
@@ -92,8 +100,8 @@ const std::vector<Fault> kFaults = {
     {"certificate_expired", ShowsCertificate({"127.0.0.1", -20, -10}), Succeeds(), 20, kHttps},
     {"certificate_not_yet_valid", ShowsCertificate({"127.0.0.1", 10, 20}), Succeeds(), 20, kHttps},
     {"certificate_of_another_host", ShowsCertificate({"other.example"}), Succeeds(), 20, kHttps},
-    {"tls_1_0", Speaks(QSsl::TlsV1_0, false), NetworkFails("6"), 20, kHttps},
-    {"tls_1_1", Speaks(QSsl::TlsV1_1, false), NetworkFails("6"), 20, kHttps},
+    {"tls_1_0", Speaks(kTls1_0, false), NetworkFails("6"), 20, kHttps},
+    {"tls_1_1", Speaks(kTls1_1, false), NetworkFails("6"), 20, kHttps},
     {"tls_1_2", Speaks(QSsl::TlsV1_2, true), Succeeds(), 20, kHttps},
     {"tls_1_3", Speaks(QSsl::TlsV1_3, true), Succeeds(), 20, kHttps},
 };
@@ -109,7 +117,7 @@ TEST_P(Version, IsSpokenByTheServer)
     QSslSocket client;
     QSslConfiguration configuration = client.sslConfiguration();
     LowerLevel(configuration);
-    configuration.setProtocol(QSsl::TlsV1_0OrLater);
+    configuration.setProtocol(kAnyTls);
     configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
     client.setSslConfiguration(configuration);
     client.connectToHostEncrypted(QStringLiteral("127.0.0.1"), quint16(server.Port()));
@@ -117,6 +125,6 @@ TEST_P(Version, IsSpokenByTheServer)
     EXPECT_EQ(client.sessionProtocol(), GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Tls, Version, testing::Values(QSsl::TlsV1_0, QSsl::TlsV1_1, QSsl::TlsV1_2, QSsl::TlsV1_3));
+INSTANTIATE_TEST_SUITE_P(Tls, Version, testing::Values(kTls1_0, kTls1_1, QSsl::TlsV1_2, QSsl::TlsV1_3));
 
 }  // namespace
