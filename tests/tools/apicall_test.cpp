@@ -1,4 +1,5 @@
 // apicall as a process against the emulator.
+#include "support/RawServer.h"
 #include "support/Rows.h"
 
 #include <catalogue/Call.h>
@@ -9,7 +10,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <QCryptographicHash>
 #include <QProcess>
+#include <QSslError>
 #include <QTcpServer>
 #include <QTemporaryFile>
 
@@ -125,6 +128,30 @@ INSTANTIATE_TEST_SUITE_P(Servers, WrongUsage,
                                          Url("User", "https://ada@127.0.0.1", "only a host and a port"),
                                          Url("PortTooLarge", "https://127.0.0.1:65536", "this is no URL")),
                          RowName());
+
+UsageRow Trusting(const char* name, const char* option, const char* value, const char* text,
+                  const char* server = "https://127.0.0.1:1")
+{
+    return {name, Words({"--server", server, option, value, "BRMS.GetTimeSyncConfig"}), text};
+}
+
+constexpr const char* kDigest = "00112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF";
+
+INSTANTIATE_TEST_SUITE_P(
+    Trust, WrongUsage,
+    testing::Values(
+        Trusting("EmptyPin", "--pin", "", "--pin : a SHA-256 digest has 64 hexadecimal digits"),
+        Trusting("ShortPin", "--pin", "00:11", "--pin 00:11: a SHA-256 digest has 64"),
+        Trusting("PinOfOtherDigits", "--pin", "g0112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
+                 "a SHA-256 digest"),
+        Trusting("PinThatIsTooLong", "--pin", "0000112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
+                 "a SHA-256 digest"),
+        Trusting("PinWithoutTls", "--pin", kDigest, "--pin and --ca need a server with https://", "http://127.0.0.1:1"),
+        Trusting("NoSuchAuthorityFile", "--ca", "/no/such/file", "--ca /no/such/file: the file cannot be"),
+        Trusting("FolderOfAuthorities", "--ca", "/", "--ca /: the file cannot be read"),
+        Trusting("EmptyAuthorityFile", "--ca", "/dev/null", "--ca /dev/null: the file holds no certificate"),
+        UsageRow{"PinWithoutValue", Words({"BRMS.GetTimeSyncConfig", "--pin"}), "--pin"}),
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Arguments, WrongUsage,
@@ -465,6 +492,134 @@ TEST(Unreachable, ServersFailWithTheTextOfANetworkError)
         EXPECT_EQ(ended.out, "");
         EXPECT_TRUE(Contains(ended.err, "failed with -1: " + ErrorText(-18) + "\n")) << ended.err;
     }
+}
+
+// Which server is talked to
+
+class Trust : public testing::Test {
+protected:
+    Trust()
+        : m_certificate(testing_support::MakeCertificate({"127.0.0.1"})),
+          m_server([](const testing_support::RawRequest&) { return testing_support::HttpAnswer(200, kAnswer); },
+                   testing_support::ServerConfiguration(m_certificate))
+    {
+        m_server.AnswerAnything();
+    }
+
+    [[nodiscard]] QSslCertificate ItsCertificate() const { return m_certificate.certificate; }
+
+    static QByteArray Digest(const QByteArray& bytes)
+    {
+        return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    }
+
+    [[nodiscard]] Ended Run(const QStringList& options) const
+    {
+        return Apicall(
+            QStringList{QStringLiteral("--server"), QStringLiteral("https://127.0.0.1:%1").arg(m_server.Port())} +
+            options + Words({"--token", kToken, "BRMS.GetDeviceLoginModel"}));
+    }
+
+    void ExpectKnown(const QStringList& options)
+    {
+        const Ended ended = Run(options);
+        EXPECT_EQ(ended.status, 0) << ended.err;
+        EXPECT_EQ(ended.out, "1\n");
+        EXPECT_FALSE(m_server.TakeRequests().empty());
+    }
+
+    void ExpectUnknown(const QStringList& options, const QString& reason)
+    {
+        const Ended ended = Run(options);
+        EXPECT_EQ(ended.status, 1);
+        EXPECT_EQ(ended.out, "");
+        const QString line =
+            QStringLiteral("the server is not known, host: 127.0.0.1, port: %1, reason: %2, SHA-256 of "
+                           "its certificate: %3")
+                .arg(QString::number(m_server.Port()), reason,
+                     QString::fromLatin1(Digest(ItsCertificate().toDer()).toHex(':')));
+        EXPECT_TRUE(Contains(ended.err, line.toStdString()))
+            << "expected: " << line.toStdString() << " in: " << ended.err;
+        EXPECT_TRUE(Contains(ended.err, "BRMS.GetDeviceLoginModel failed with -1: " + ErrorText(-18) + "\n"))
+            << ended.err;
+        EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
+        EXPECT_TRUE(m_server.TakeRequests().empty()) << "nothing is sent to a server that is not known";
+    }
+
+    /// A PEM file with these certificates.
+    static QString FileWith(QTemporaryFile& file, const QList<QSslCertificate>& certificates)
+    {
+        EXPECT_TRUE(file.open());
+        for (const QSslCertificate& certificate : certificates) {
+            file.write(certificate.toPem());
+        }
+        file.close();
+        return file.fileName();
+    }
+
+private:
+    static constexpr const char* kAnswer = R"({"code": 1000, "desc": "", "data": {"deviceLoginModel": 1}})";
+
+    const testing_support::Certificate m_certificate;
+    testing_support::RawServer m_server;
+};
+
+QStringList Pin(const QByteArray& digest)
+{
+    return {QStringLiteral("--pin"), QString::fromLatin1(digest)};
+}
+
+TEST_F(Trust, ThePinOfTheCertificateOrOfItsKeyNamesTheServer)
+{
+    const QByteArray certificate = Digest(ItsCertificate().toDer()).toHex();
+    const QByteArray key = Digest(ItsCertificate().publicKey().toDer()).toHex(':');
+    ExpectKnown(Pin(certificate));
+    ExpectKnown(Pin(certificate.toUpper()));
+    ExpectKnown(Pin(key));
+    ExpectKnown(Pin(key.toUpper()));
+}
+
+TEST_F(Trust, OneOfSeveralPinsNamesTheServer)
+{
+    ExpectKnown(Pin(kDigest) + Pin(Digest(ItsCertificate().toDer()).toHex()));
+}
+
+TEST_F(Trust, AnotherPinRefusesTheServerAndPrintsItsDigest)
+{
+    ExpectUnknown(Pin(kDigest), QStringLiteral("another certificate is pinned"));
+}
+
+TEST_F(Trust, AnAuthorityThatSignedMakesTheServerKnown)
+{
+    QTemporaryFile one;
+    ExpectKnown({QStringLiteral("--ca"), FileWith(one, {ItsCertificate()})});
+    QTemporaryFile several;
+    ExpectKnown(
+        {QStringLiteral("--ca"),
+         FileWith(several, {testing_support::MakeCertificate({"other.example"}).certificate, ItsCertificate()})});
+    QTemporaryFile other;
+    ExpectKnown({QStringLiteral("--ca"),
+                 FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate}),
+                 QStringLiteral("--ca"), one.fileName()});
+}
+
+TEST_F(Trust, AnAuthorityThatDidNotSignRefusesTheServer)
+{
+    QTemporaryFile file;
+    ExpectUnknown(
+        {QStringLiteral("--ca"), FileWith(file, {testing_support::MakeCertificate({"other.example"}).certificate})},
+        QSslError(QSslError::SelfSignedCertificate).errorString());
+}
+
+TEST_F(Trust, AmongPinAndAuthorityThePinDecides)
+{
+    QTemporaryFile own;
+    const QStringList signer{QStringLiteral("--ca"), FileWith(own, {ItsCertificate()})};
+    ExpectUnknown(signer + Pin(kDigest), QStringLiteral("another certificate is pinned"));
+    QTemporaryFile other;
+    ExpectKnown(QStringList{QStringLiteral("--ca"),
+                            FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate})} +
+                Pin(Digest(ItsCertificate().toDer()).toHex()));
 }
 
 TEST(Ipv6, TheHostKeepsItsBrackets)

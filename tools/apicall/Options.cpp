@@ -46,6 +46,18 @@ Options ReadOptions(int argc, char** argv)
     app.add_option("-t,--token", options.token,
                    Filled(Texts::tr("Session token; the environment keeps it out of the process list")))
         ->envname("APICALL_TOKEN");
+    app.add_option("--pin", options.pins,
+                   Filled(Texts::tr("Trust only servers with this SHA-256 digest of their certificate or public key; "
+                                    "repeatable")))
+        ->allow_extra_args(false)
+        //: Stands for the value of --pin
+        ->type_name(Filled(Texts::tr("DIGEST")));
+    app.add_option("--ca", options.authorityFiles,
+                   Filled(Texts::tr("Trust only servers whose certificate an authority of this PEM file signed; "
+                                    "repeatable")))
+        ->allow_extra_args(false)
+        //: Stands for the value of --ca
+        ->type_name(Filled(Texts::tr("FILE")));
     app.add_option("--language", options.language,
                    Filled(Texts::tr("Language of the server's texts, otherwise English, and of the error texts")));
     app.add_option("--server-id", options.settings.serverId,

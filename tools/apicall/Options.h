@@ -23,6 +23,8 @@ struct Server {
 struct Options {
     std::string server;
     std::string token;
+    std::vector<std::string> pins;            ///< digests as they were given
+    std::vector<std::string> authorityFiles;  ///< PEM files
     std::string language;  ///< empty for English of the server and error texts in the program's language
     catalogue::RunSettings settings;
     std::string call;                    ///< name of the call, empty for none

@@ -2,6 +2,7 @@
 #include "Help.h"
 #include "Options.h"
 #include "Texts.h"
+#include "Trust.h"
 
 #include <catalogue/OneServer.h>
 #include <catalogue/Run.h>
@@ -45,7 +46,7 @@ std::string FailureText(const Outcome& outcome)
 }
 
 Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& arguments,
-            const apicall::Options& options, const apicall::Server& server)
+            const apicall::Options& options, const apicall::Server& server, const APIModule::ServerTrust& trust)
 {
     //: The code of this language, for the texts of error codes
     ErrorLexicon::SetLanguage(options.language.empty() ? Filled(Texts::tr("en")) : options.language);
@@ -54,6 +55,7 @@ Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& ar
     auto& library = APIModule::CAPIModule::GetInstance();
     library.SetHttpsMode(server.https ? 1 : 0);
     library.SetLanguage(options.language.empty() ? "en" : options.language);
+    library.SetServerTrust(trust);
     library.Init(&users);
     Outcome outcome = catalogue::Run(call, arguments, options.settings);
     library.UnInit();
@@ -67,7 +69,13 @@ int RunCall(const apicall::Options& options)
     if (options.server.empty()) {
         throw WrongUsage(Filled(Texts::tr("--server is missing")));
     }
-    const Outcome outcome = Run(call, arguments, options, apicall::ServerOf(options.server));
+    const apicall::Server server = apicall::ServerOf(options.server);
+    const APIModule::ServerTrust trust = apicall::TrustOf(options);
+    const bool restricted = !trust.pins.isEmpty() || !trust.authorities.isEmpty();
+    if (restricted && !server.https) {
+        throw WrongUsage(Filled(Texts::tr("--pin and --ca need a server with https://")));
+    }
+    const Outcome outcome = Run(call, arguments, options, server, trust);
     if (!outcome.Succeeded()) {
         const std::string text = FailureText(outcome);
         //: %1 is the call, %2 a code, %3 its text

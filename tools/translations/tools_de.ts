@@ -229,6 +229,40 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
         <translation>Sprache der Texte des Servers, sonst Englisch, und der Fehlertexte</translation>
     </message>
+    <message>
+        <source>--pin and --ca need a server with https://</source>
+        <translation>--pin und --ca brauchen einen Server mit https://</translation>
+    </message>
+    <message>
+        <source>Trust only servers with this SHA-256 digest of their certificate or public key; repeatable</source>
+        <translation>Nur Servern vertrauen, deren Zertifikat oder öffentlicher Schlüssel diesen SHA-256-Fingerabdruck hat; wiederholbar</translation>
+    </message>
+    <message>
+        <source>DIGEST</source>
+        <extracomment>Stands for the value of --pin</extracomment>
+        <translation>FINGERABDRUCK</translation>
+    </message>
+    <message>
+        <source>Trust only servers whose certificate an authority of this PEM file signed; repeatable</source>
+        <translation>Nur Servern vertrauen, deren Zertifikat eine Zertifizierungsstelle aus dieser PEM-Datei unterschrieben hat; wiederholbar</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <extracomment>Stands for the value of --ca</extracomment>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>a SHA-256 digest has 64 hexadecimal digits, with or without colons</source>
+        <translation>ein SHA-256-Fingerabdruck hat 64 hexadezimale Ziffern, mit oder ohne Doppelpunkte</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>die Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the file holds no certificate in PEM</source>
+        <translation>die Datei enthält kein Zertifikat im Format PEM</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>

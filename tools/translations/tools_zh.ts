@@ -229,6 +229,40 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
         <translation>服务器文本（默认英语）和错误文本的语言</translation>
     </message>
+    <message>
+        <source>--pin and --ca need a server with https://</source>
+        <translation>--pin 和 --ca 需要 https:// 的服务器</translation>
+    </message>
+    <message>
+        <source>Trust only servers with this SHA-256 digest of their certificate or public key; repeatable</source>
+        <translation>只信任证书或公钥具有此 SHA-256 摘要的服务器；可重复</translation>
+    </message>
+    <message>
+        <source>DIGEST</source>
+        <extracomment>Stands for the value of --pin</extracomment>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>Trust only servers whose certificate an authority of this PEM file signed; repeatable</source>
+        <translation>只信任证书由此 PEM 文件中的颁发机构签名的服务器；可重复</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <extracomment>Stands for the value of --ca</extracomment>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>a SHA-256 digest has 64 hexadecimal digits, with or without colons</source>
+        <translation>SHA-256 摘要有 64 个十六进制数字，可带冒号</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>无法读取该文件</translation>
+    </message>
+    <message>
+        <source>the file holds no certificate in PEM</source>
+        <translation>该文件中没有 PEM 格式的证书</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>
