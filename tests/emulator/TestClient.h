@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 using Json = nlohmann::json;
 
@@ -55,6 +56,31 @@ private:
     class Private;
 
     std::unique_ptr<Private> m_private;
+};
+
+/// A TCP connection over which a test sends what it likes.
+class RawConnection {
+public:
+    explicit RawConnection(int port);
+    ~RawConnection();
+    RawConnection(const RawConnection&) = delete;
+    RawConnection& operator=(const RawConnection&) = delete;
+    RawConnection(RawConnection&&) = delete;
+    RawConnection& operator=(RawConnection&&) = delete;
+
+    /// @return false when the peer takes no more
+    bool send(std::string_view text);
+    void endOwnSide();
+    /// Waits for the next bytes; empty when the peer has closed.
+    std::string receive();
+    /// Reads until the text was there or the peer closes; without a text, until the peer closes.
+    std::string receiveUntil(const std::string& text);
+    [[nodiscard]] bool isReset() const { return m_isReset; }
+
+private:
+    int m_socket;
+    bool m_isOpen = false;
+    bool m_isReset = false;
 };
 
 /// Sends the text over a TCP connection of its own and returns all that comes until the peer closes, after which the

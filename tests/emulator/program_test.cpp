@@ -5,15 +5,19 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <future>
+#include <iterator>
+#include <list>
 #include <thread>
 #include <vector>
 
@@ -84,6 +88,12 @@ public:
 
     void signal(int number) const { ::kill(m_process, number); }
 
+    [[nodiscard]] std::size_t threads() const
+    {
+        const std::filesystem::directory_iterator all("/proc/" + std::to_string(m_process) + "/task");
+        return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+    }
+
     /// The exit status; -1 when the program was ended by a signal or does not end.
     int exitStatus()
     {
@@ -143,6 +153,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"PortNegative", {"--http-port", "-1"}, "--http-port"},
                     BadOption{"ValueMissing", {"--token"}, "--token"},
                     BadOption{"TokenEmpty", {"--token", ""}, "--token"},
+                    BadOption{"ReadTimeoutZero", {"--read-timeout", "0"}, "--read-timeout"},
                     BadOption{"ScaleZero", {"--scale", "0"}, "--scale"},
                     BadOption{"ContractMissing", {"--contract", "/nowhere"}, "/nowhere"},
                     BadOption{"ContractEmpty", {"--contract", "/proc/self/task"}, "no operation"},
@@ -156,7 +167,7 @@ TEST(ProgramTest, HelpAndVersion)
     Program help({"--help"});
     EXPECT_EQ(help.exitStatus(), 0);
     for (const char* text : {"platform-emulator", "--http-port", "--https-port", "--token", "--seed", "--contract",
-                             "--scale", "--address", "--no-control", "--verbose"}) {
+                             "--scale", "--address", "--no-control", "--read-timeout", "--verbose"}) {
         EXPECT_NE(help.output().find(text), std::string::npos) << text;
     }
     Program version({"--version"});
@@ -195,9 +206,42 @@ TEST(ProgramTest, SecondOneOnTheSamePortIsRefused)
     const std::string port = std::to_string(first.port("http"));
     Program second({"--http-port", port});
     EXPECT_EQ(second.exitStatus(), 2);
-    EXPECT_NE(second.output().find("cannot listen on 127.0.0.1:" + port), std::string::npos) << second.output();
+    EXPECT_NE(second.output().find("cannot listen on 127.0.0.1:" + port + ": the port is taken"), std::string::npos)
+        << second.output();
     first.signal(SIGINT);
     EXPECT_EQ(first.exitStatus(), 0);
+}
+
+TEST(ProgramTest, ClosesIdleConnectionsAfterTheReadTimeout)
+{
+    Program program({"--read-timeout", "1"});
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(SendRaw(program.port("http"), "GET / HTTP/1.1\r\n"), "");
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+}
+
+TEST(ProgramTest, TakesAThousandConnectionsWithoutAThreadForEach)
+{
+    constexpr std::size_t kConnections = 1000;
+    constexpr std::size_t kMostThreads = 8;
+    rlimit files{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &files), 0);
+    rlimit few = files;
+    few.rlim_cur = 256;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+    Program program({});
+    const int port = program.port("http");
+    files.rlim_cur = files.rlim_max;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &files), 0);
+    std::list<RawConnection> idle;
+    for (std::size_t i = 0; i < kConnections; ++i) {
+        idle.emplace_back(port).send("GET");
+    }
+    TestClient client(TestClient::Scheme::Http, port, "");
+    EXPECT_EQ(client.get("/emulator/v1/connections").json().at("connections"), kConnections + 1);
+    EXPECT_LE(program.threads(), kMostThreads);
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.exitStatus(), 0) << program.output();
 }
 
 TEST(ProgramTest, ListensOnIpv6)

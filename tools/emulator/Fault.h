@@ -25,7 +25,8 @@ struct Fault {
         Large,        ///< the true answer, its "desc" made so long that the body has the size given
         CloseBefore,  ///< the connection is closed without an answer
         CloseMiddle,  ///< the connection is closed after half of the true body
-        Silent        ///< no answer and no end, until the client goes away or the emulator stops
+        Silent,       ///< no answer and no end, until the client goes away or the emulator stops
+        Reset         ///< the connection is reset without an answer
     };
 
     std::string path;                    ///< start of the target, query included; empty fits all

@@ -23,9 +23,10 @@ constexpr std::array kKinds = {KindName{Fault::Kind::Delay, "delay"},
                                KindName{Fault::Kind::Large, "large"},
                                KindName{Fault::Kind::CloseBefore, "closeBefore"},
                                KindName{Fault::Kind::CloseMiddle, "closeMiddle"},
-                               KindName{Fault::Kind::Silent, "silent"}};
+                               KindName{Fault::Kind::Silent, "silent"},
+                               KindName{Fault::Kind::Reset, "reset"}};
 constexpr int kDayMilliseconds = 24 * 60 * 60 * 1000;
-constexpr int kLargestBody = 1024 * 1024 * 1024;
+constexpr int kLargestAnswer = 1024 * 1024 * 1024;
 
 Fault::Kind KindOf(const std::string& name)
 {
@@ -77,7 +78,7 @@ void SetMember(Fault& fault, const std::string& name, const Json& value)
     } else if (name == "body") {
         fault.body = TextIn(value, name);
     } else if (name == "size") {
-        fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestBody));
+        fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestAnswer));
     } else {
         throw std::invalid_argument(name + ": not expected");
     }

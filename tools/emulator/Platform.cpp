@@ -45,8 +45,9 @@ Json CheckedQuery(const Operation& operation, const std::string& target)
 {
     Json query = Json::object();
     for (const auto& [name, text] : QueryOf(target)) {
-        const auto parameter = std::find_if(operation.query.begin(), operation.query.end(),
-                                            [&wanted = name](const QueryParameter& known) { return known.name == wanted; });
+        const auto parameter =
+            std::find_if(operation.query.begin(), operation.query.end(),
+                         [&wanted = name](const QueryParameter& known) { return known.name == wanted; });
         if (parameter == operation.query.end()) {
             throw Refusal(code::InvalidParameter, "query '" + name + "': not expected");
         }

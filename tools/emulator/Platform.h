@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Contract.h"
-#include "HttpListener.h"
+#include "HttpMessage.h"
 
 #include <mutex>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "Contract.h"
 #include "Faults.h"
-#include "HttpListener.h"
+#include "HttpServer.h"
 #include "Platform.h"
 #include "RequestLog.h"
 #include "State.h"
@@ -73,8 +73,10 @@ HttpResponse Replacement(const Fault& fault)
         response.body = fault.body;
         break;
     case Fault::Kind::CloseBefore:
-    case Fault::Kind::Silent:
         response.ending = HttpResponse::Ending::CloseBefore;
+        break;
+    case Fault::Kind::Reset:
+        response.ending = HttpResponse::Ending::Reset;
         break;
     default:
         break;
@@ -145,71 +147,56 @@ public:
     explicit Private(Options options)
         : m_options(std::move(options)),
           m_platform(Contract::Load(m_options.contract), LoadSeeds(m_options.seed, m_options.scale), m_options.token),
-          m_http(handler(), counter()), m_https(handler(), counter(), MakeServerTls())
+          m_server(handler(), m_options.readTimeout)
     {}
 
     void start()
     {
-        m_http.start(m_options.address, m_options.httpPort);
-        m_https.start(m_options.address, m_options.httpsPort);
-    }
-
-    void stop()
-    {
-        m_http.stop();
-        m_https.stop();
+        m_httpPort = m_server.listen(m_options.address, m_options.httpPort);
+        m_httpsPort = m_server.listen(m_options.address, m_options.httpsPort, MakeServerTls());
     }
 
     const Options m_options;
     Platform m_platform;
     Faults m_faults;
     RequestLog m_log;
-    std::atomic<std::size_t> m_connections = 0;
     std::mutex m_output;
-    HttpListener m_http;
-    HttpListener m_https;
+    std::atomic<int> m_httpPort = 0;
+    std::atomic<int> m_httpsPort = 0;
+    HttpServer m_server;
 
 private:
     HttpHandler handler()
     {
-        return [this](const HttpRequest& request, Peer& peer) {
-            return StartsWith(request.target, kControlPath) ? control(request) : serve(request, peer);
+        return [this](const HttpRequest& request) {
+            return StartsWith(OriginForm(request.target), kControlPath) ? control(request) : serve(request);
         };
     }
 
-    std::function<std::size_t()> counter()
-    {
-        return [this] { return ++m_connections; };
-    }
-
-    HttpResponse serve(const HttpRequest& request, Peer& peer)
+    HttpReply serve(const HttpRequest& request)
     {
         // In this order a request that is recorded has met its fault: who waits for it may add the next one.
-        const std::optional<Fault> fault = m_faults.take(request.target);
+        std::optional<Fault> fault = m_faults.take(std::string(OriginForm(request.target)));
         const std::size_t number = m_log.add(request);
-        HttpResponse response = fault ? answerWith(*fault, request, peer) : m_platform.answer(request);
-        const bool answered = response.ending != HttpResponse::Ending::CloseBefore;
-        const std::optional<int> code = EnvelopeCodeOf(response);
-        m_log.answered(number, answered ? response.status : 0, code);
-        if (m_options.verbose) {
-            const std::string line = request.method + " " + request.target + " -> " +
-                                     (answered ? std::to_string(response.status) : "no answer") +
-                                     (code ? " " + std::to_string(*code) : "") + ", connection " +
-                                     std::to_string(request.connection) + "\n";
-            const std::lock_guard lock(m_output);
-            std::cout << Masked(line, m_options.token) << std::flush;
+        if (!fault) {
+            return noted(m_platform.answer(request), request, number);
         }
-        return response;
+        const bool isSilent = fault->kind == Fault::Kind::Silent;
+        if (!isSilent && fault->delay.count() == 0) {
+            return noted(answerWith(*fault, request), request, number);
+        }
+        HttpWait wait;
+        if (!isSilent) {
+            wait.time = fault->delay;
+        }
+        wait.then = [this, fault = *std::move(fault), &request, number](bool isGone) {
+            return noted(isGone ? gone() : answerWith(fault, request), request, number);
+        };
+        return wait;
     }
 
-    HttpResponse answerWith(const Fault& fault, const HttpRequest& request, Peer& peer)
+    HttpResponse answerWith(const Fault& fault, const HttpRequest& request)
     {
-        if (fault.delay.count() > 0 && peer.waitGone(fault.delay)) {
-            return gone();
-        }
-        if (fault.kind == Fault::Kind::Silent) {
-            peer.waitGone();
-        }
         if (!SpoilsTrueAnswer(fault.kind)) {
             return Replacement(fault);
         }
@@ -225,12 +212,30 @@ private:
         return response;
     }
 
+    /// Records and prints what a request is answered with.
+    HttpResponse noted(HttpResponse response, const HttpRequest& request, std::size_t number)
+    {
+        const bool answered =
+            response.ending != HttpResponse::Ending::CloseBefore && response.ending != HttpResponse::Ending::Reset;
+        const std::optional<int> code = EnvelopeCodeOf(response);
+        m_log.answered(number, answered ? response.status : 0, code);
+        if (m_options.verbose) {
+            const std::string line = request.method + " " + request.target + " -> " +
+                                     (answered ? std::to_string(response.status) : "no answer") +
+                                     (code ? " " + std::to_string(*code) : "") + ", connection " +
+                                     std::to_string(request.connection) + "\n";
+            const std::lock_guard lock(m_output);
+            std::cout << Masked(line, m_options.token) << std::flush;
+        }
+        return response;
+    }
+
     HttpResponse control(const HttpRequest& request)
     {
         if (!m_options.controlPath) {
             return PlainError(403, "the control path is switched off");
         }
-        const std::string path = PathOf(request.target).substr(std::string(kControlPath).size());
+        const std::string path = PathOf(request.target).substr(std::string_view(kControlPath).size());
         const std::map<std::string, std::map<std::string, std::function<HttpResponse()>>> routes = {
             {"v1/faults",
              {{"GET", [this] { return Plain(200, ListOf(m_faults.list())); }},
@@ -242,7 +247,7 @@ private:
             {"v1/state", {{"GET", [this] { return Plain(200, m_platform.state()); }}}},
             {"v1/reset", {{"POST", [this] { return done([this] { m_platform.reset(); }); }}}},
             {"v1/connections", {{"GET", [this] {
-                                     return Plain(200, Json{{"connections", m_connections.load()}});
+                                     return Plain(200, Json{{"connections", m_server.connections()}});
                                  }}}}};
         const auto route = routes.find(path);
         if (route == routes.end()) {
@@ -291,17 +296,17 @@ void PlatformEmulator::start()
 
 void PlatformEmulator::stop()
 {
-    m_private->stop();
+    m_private->m_server.stop();
 }
 
 int PlatformEmulator::httpPort() const
 {
-    return m_private->m_http.port();
+    return m_private->m_httpPort;
 }
 
 int PlatformEmulator::httpsPort() const
 {
-    return m_private->m_https.port();
+    return m_private->m_httpsPort;
 }
 
 void PlatformEmulator::addFault(Fault fault)
@@ -351,7 +356,7 @@ void PlatformEmulator::reset()
 
 std::size_t PlatformEmulator::connections() const
 {
-    return m_private->m_connections;
+    return m_private->m_server.connections();
 }
 
 }  // namespace emulator

@@ -32,6 +32,8 @@ struct Options {
     int scale = 1;                                                       ///< multiplies the seeded lists
     bool controlPath = true;                                             ///< answer /emulator/v1/...
     bool verbose = false;  ///< a line for each request on standard output, without the token
+    /// How long a connection may be idle; a request that has begun has as long to be there whole.
+    std::chrono::milliseconds readTimeout = std::chrono::seconds(30);
 };
 
 /// Serves the contract with state over HTTP and HTTPS. All members may be called from any thread.

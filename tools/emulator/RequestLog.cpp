@@ -120,9 +120,21 @@ std::vector<std::pair<std::string, std::string>> QueryOf(const std::string& targ
     return query;
 }
 
+std::string_view OriginForm(std::string_view target)
+{
+    const std::size_t scheme = target.find("://");
+    if (StartsWith(target, "/") || scheme == std::string_view::npos || scheme > target.find('?')) {
+        return target;
+    }
+    const std::size_t origin = target.find_first_of("/?", scheme + 3);
+    return origin == std::string_view::npos ? "/" : target.substr(origin);
+}
+
 std::string PathOf(const std::string& target)
 {
-    return target.substr(0, target.find('?'));
+    const std::string_view origin = OriginForm(target);
+    const std::string path(origin.substr(0, origin.find('?')));
+    return path.empty() ? "/" : path;
 }
 
 }  // namespace emulator

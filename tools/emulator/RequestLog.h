@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HttpListener.h"
+#include "HttpMessage.h"
 #include "RecordedRequest.h"
 
 #include <chrono>
@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -42,7 +43,10 @@ private:
 /// The pairs of a query, decoded as forms are: '+' is a blank.
 std::vector<std::pair<std::string, std::string>> QueryOf(const std::string& target);
 
-/// The target without its query, not decoded.
+/// The target without the scheme and the host that it may begin with.
+std::string_view OriginForm(std::string_view target);
+
+/// The target without host and query, not decoded.
 std::string PathOf(const std::string& target);
 
 }  // namespace emulator

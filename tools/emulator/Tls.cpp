@@ -1,4 +1,4 @@
-#include "HttpListener.h"
+#include "HttpServer.h"
 
 #include "Texts.h"
 

@@ -1,3 +1,4 @@
+#include "HttpServer.h"
 #include "PlatformEmulator.h"
 #include "Texts.h"
 
@@ -5,12 +6,15 @@
 #include <translations/CommandLine.h>
 
 #include <pthread.h>
+#include <sys/resource.h>
 
+#include <chrono>
 #include <csignal>
 #include <exception>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
+#include <string>
 
 namespace {
 
@@ -20,6 +24,7 @@ using emulator::Texts;
 constexpr int kWrongUse = 2;
 constexpr int kHighestPort = 65535;
 constexpr int kLargestScale = 10000;
+constexpr int kLongestReadSeconds = 24 * 60 * 60;
 
 /// The signals that end the program, held back in all threads and waited for in the first.
 sigset_t HoldBackEndSignals()
@@ -32,15 +37,25 @@ sigset_t HoldBackEndSignals()
     return signals;
 }
 
+/// As many connections as the system lets this user have, not the few that a shell starts with.
+void AllowManyConnections()
+{
+    rlimit files{};
+    if (::getrlimit(RLIMIT_NOFILE, &files) == 0) {
+        files.rlim_cur = files.rlim_max;
+        ::setrlimit(RLIMIT_NOFILE, &files);
+    }
+}
+
 void PrintPort(const char* scheme, const std::string& address, int port)
 {
-    const bool isIpv6 = address.find(':') != std::string::npos;
-    std::cout << scheme << ' ' << (isIpv6 ? "[" + address + "]" : address) << ':' << port << std::endl;
+    std::cout << scheme << ' ' << emulator::ShownAddress(address, port) << std::endl;
 }
 
 int Run(const emulator::Options& options)
 {
     const sigset_t signals = HoldBackEndSignals();
+    AllowManyConnections();
     emulator::PlatformEmulator platform(options);
     platform.start();
     PrintPort("http", options.address, platform.httpPort());
@@ -85,6 +100,11 @@ std::optional<int> Read(int argc, char** argv, emulator::Options& options)
     app.add_option("--scale", options.scale, Filled(Texts::tr("Makes the seeded lists so many times as long")))
         ->check(translation::InRange(1, kLargestScale))
         ->capture_default_str();
+    app.add_option_function<int>(
+           "--read-timeout", [&options](int seconds) { options.readTimeout = std::chrono::seconds(seconds); },
+           Filled(Texts::tr("Seconds after which an idle connection, or one whose request does not end, is closed")))
+        ->check(translation::InRange(1, kLongestReadSeconds))
+        ->default_str(std::to_string(std::chrono::duration_cast<std::chrono::seconds>(options.readTimeout).count()));
     app.add_flag("!--no-control", options.controlPath, Filled(Texts::tr("Refuse the control path /emulator/v1/")));
     app.add_flag("--verbose", options.verbose, Filled(Texts::tr("Print a line for each request")));
     try {

@@ -774,10 +774,6 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>kein Vorgang im Ordner des Vertrags %1</translation>
     </message>
     <message>
-        <source>cannot listen on %1</source>
-        <translation>an %1 kann nicht gelauscht werden</translation>
-    </message>
-    <message>
         <source>platform-emulator: a platform server to develop and test against. It answers the services of the contract with state, over HTTP and HTTPS at once, and prints each address when it listens.</source>
         <translation>platform-emulator: ein Plattformserver zum Entwickeln und Testen. Er beantwortet die Dienste des Vertrags mit Zustand, über HTTP und HTTPS zugleich, und gibt jede Adresse aus, sobald er an ihr lauscht.</translation>
     </message>
@@ -841,6 +837,30 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     <message>
         <source>the server certificate cannot be made</source>
         <translation>das Zertifikat des Servers kann nicht erzeugt werden</translation>
+    </message>
+    <message>
+        <source>the port is taken</source>
+        <translation>der Port ist belegt</translation>
+    </message>
+    <message>
+        <source>this machine does not have the address</source>
+        <translation>dieser Rechner hat die Adresse nicht</translation>
+    </message>
+    <message>
+        <source>no permission for the port</source>
+        <translation>keine Berechtigung für den Port</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>die Adresse ist unbekannt</translation>
+    </message>
+    <message>
+        <source>cannot listen on %1: %2</source>
+        <translation>an %1 kann nicht gelauscht werden: %2</translation>
+    </message>
+    <message>
+        <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
+        <translation>Sekunden, nach denen eine Verbindung geschlossen wird, auf der nichts kommt oder deren Anfrage nicht endet</translation>
     </message>
 </context>
 </TS>

@@ -774,10 +774,6 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <translation>契约文件夹 %1 中没有任何操作</translation>
     </message>
     <message>
-        <source>cannot listen on %1</source>
-        <translation>无法监听 %1</translation>
-    </message>
-    <message>
         <source>platform-emulator: a platform server to develop and test against. It answers the services of the contract with state, over HTTP and HTTPS at once, and prints each address when it listens.</source>
         <translation>platform-emulator：用于开发和测试的平台服务器。它有状态地应答契约中的服务，同时支持 HTTP 和 HTTPS，并在开始监听时输出各个地址。</translation>
     </message>
@@ -841,6 +837,30 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
     <message>
         <source>the server certificate cannot be made</source>
         <translation>无法生成服务器证书</translation>
+    </message>
+    <message>
+        <source>the port is taken</source>
+        <translation>端口已被占用</translation>
+    </message>
+    <message>
+        <source>this machine does not have the address</source>
+        <translation>本机没有该地址</translation>
+    </message>
+    <message>
+        <source>no permission for the port</source>
+        <translation>没有使用该端口的权限</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>未知的地址</translation>
+    </message>
+    <message>
+        <source>cannot listen on %1: %2</source>
+        <translation>无法监听 %1：%2</translation>
+    </message>
+    <message>
+        <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
+        <translation>空闲连接或请求未结束的连接在多少秒后关闭</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,328 @@
+// What becomes of many connections, of idle and of slow ones, and of ports that cannot be listened on.
+#include "EmulatorTest.h"
+
+#include <sys/resource.h>
+
+#include <chrono>
+#include <filesystem>
+#include <iterator>
+#include <list>
+#include <thread>
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using std::chrono::steady_clock;
+
+namespace {
+
+constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
+const std::string kGet =
+    "GET /brms/api/v1.1/config/time-sync HTTP/1.1\r\nHost: a\r\nX-Subject-Token: emulator-token\r\n";
+
+std::size_t ThreadsOfThisProcess()
+{
+    const std::filesystem::directory_iterator all("/proc/self/task");
+    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+}
+
+/// Each connection takes two file descriptors of this process.
+void AllowManyFiles()
+{
+    rlimit files{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &files), 0);
+    files.rlim_cur = files.rlim_max;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &files), 0);
+    ASSERT_GE(files.rlim_cur, 4096U);
+}
+
+emulator::Options WithReadTimeout(milliseconds time)
+{
+    emulator::Options options;
+    options.readTimeout = time;
+    return options;
+}
+
+}  // namespace
+
+class ReadTimeoutTest : public testing::Test {
+protected:
+    ReadTimeoutTest() { m_platform.start(); }
+
+    static constexpr milliseconds kTime{300};
+
+    emulator::PlatformEmulator m_platform{WithReadTimeout(kTime)};
+};
+
+TEST_F(ReadTimeoutTest, ConnectionThatSaysNothingIsClosed)
+{
+    const auto begin = steady_clock::now();
+    EXPECT_EQ(SendRaw(m_platform.httpPort(), ""), "");
+    EXPECT_EQ(SendRaw(m_platform.httpsPort(), ""), "");
+    EXPECT_GE(steady_clock::now() - begin, 2 * kTime);
+}
+
+TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterItsLastAnswer)
+{
+    RawConnection connection(m_platform.httpPort());
+    connection.send(kGet + "\r\n");
+    EXPECT_NE(connection.receiveUntil("}}").find("\"code\":1000"), std::string::npos);
+    EXPECT_EQ(connection.receiveUntil({}), "");
+    EXPECT_FALSE(connection.isReset());
+}
+
+TEST_F(ReadTimeoutTest, RequestThatDoesNotEndIsClosedHoweverItDribbles)
+{
+    for (const std::string& start : {kGet + "X: ", kGet + "Content-Length: 1000000\r\n\r\n"}) {
+        RawConnection connection(m_platform.httpPort());
+        connection.send(start);
+        std::thread dribble([&connection] {
+            while (connection.send("x")) {
+                std::this_thread::sleep_for(kTime / 10);
+            }
+        });
+        EXPECT_EQ(connection.receiveUntil({}), "");
+        dribble.join();
+    }
+    EXPECT_TRUE(m_platform.requests().empty());
+}
+
+TEST_F(ReadTimeoutTest, RequestsThatComeInTimeGoOn)
+{
+    const auto client = ClientOf(m_platform);
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(client->get(kTimeSync).code(), 1000);
+        std::this_thread::sleep_for(kTime / 4);
+    }
+    EXPECT_GE(m_platform.requests().size(), 8U);
+}
+
+TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterAnAnswerThatWasReadSlowly)
+{
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Text;
+    fault.body.assign(64UL * 1024 * 1024, 'x');
+    m_platform.addFault(fault);
+    RawConnection connection(m_platform.httpPort());
+    connection.send(kGet + "\r\n");
+    EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
+    std::this_thread::sleep_for(2 * kTime);
+    const auto begin = steady_clock::now();
+    EXPECT_GE(connection.receiveUntil({}).size(), fault.body.size() / 2) << "the answer goes on";
+    EXPECT_LT(steady_clock::now() - begin, seconds(60)) << "long before an answer that is not taken is given up";
+}
+
+TEST_F(ReadTimeoutTest, AnswerMayTakeLonger)
+{
+    emulator::Fault fault;
+    fault.delay = 3 * kTime;
+    fault.times = 2;
+    m_platform.addFault(fault);
+    EXPECT_EQ(ClientOf(m_platform)->get(kTimeSync).code(), 1000);
+    EXPECT_EQ(ClientOf(m_platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
+}
+
+TEST(ManyConnectionsTest, IdleOnesTakeNoThreadAndAreClosedInTime)
+{
+    constexpr std::size_t kIdle = 1000;
+    AllowManyFiles();
+    emulator::PlatformEmulator platform(WithReadTimeout(seconds(20)));
+    platform.start();
+    const std::size_t threads = ThreadsOfThisProcess();
+    std::list<RawConnection> idle;
+    for (std::size_t i = 0; i < kIdle; ++i) {
+        idle.emplace_back(i % 2 == 0 ? platform.httpPort() : platform.httpsPort()).send(i % 4 == 0 ? kGet : "");
+    }
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
+    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
+    EXPECT_EQ(platform.connections(), kIdle + 2);
+    EXPECT_EQ(ThreadsOfThisProcess(), threads);
+    for (RawConnection& connection : idle) {
+        EXPECT_EQ(connection.receiveUntil({}), "");
+    }
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
+}
+
+TEST(ManyConnectionsTest, RequestsThatHangTakeNoThread)
+{
+    constexpr std::size_t kHanging = 1000;
+    AllowManyFiles();
+    emulator::PlatformEmulator platform;
+    platform.start();
+    const std::size_t threads = ThreadsOfThisProcess();
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Silent;
+    fault.times = static_cast<int>(kHanging);
+    platform.addFault(fault);
+    std::list<RawConnection> hanging;
+    for (std::size_t i = 0; i < kHanging; ++i) {
+        hanging.emplace_back(platform.httpPort()).send(kGet + "\r\n");
+    }
+    ASSERT_TRUE(platform.waitForRequests(kHanging, seconds(60)));
+    EXPECT_EQ(ThreadsOfThisProcess(), threads);
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
+    platform.stop();
+    for (RawConnection& connection : hanging) {
+        EXPECT_EQ(connection.receiveUntil({}), "");
+    }
+}
+
+TEST(ConnectionTest, RequestsBehindOneThatWaitsAreAnsweredAfterIt)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    emulator::Fault fault;
+    fault.delay = milliseconds(200);
+    platform.addFault(fault);
+    const std::string replies = SendRaw(platform.httpPort(), kGet + "\r\n" + kGet + "Connection: close\r\n\r\n");
+    EXPECT_NE(replies.find("\"code\":1000", replies.find("\"code\":1000") + 1), std::string::npos) << replies;
+    EXPECT_EQ(platform.requests().size(), 2U);
+}
+
+TEST(ConnectionTest, EndOfTheOwnSideEndsTheWaitForAnAnswer)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Silent;
+    platform.addFault(fault);
+    EXPECT_EQ(SendRaw(platform.httpPort(), kGet + "\r\n", true), "");
+    EXPECT_EQ(platform.requests().size(), 1U);
+    EXPECT_EQ(platform.requests().front().status, 0);
+}
+
+TEST(ConnectionTest, ResetFaultResetsTheConnection)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    ASSERT_EQ(ClientOf(platform)->post("/emulator/v1/faults", Json{{"kind", "reset"}}).status, 201);
+    RawConnection connection(platform.httpPort());
+    connection.send(kGet + "\r\n");
+    EXPECT_EQ(connection.receiveUntil({}), "");
+    EXPECT_TRUE(connection.isReset());
+    EXPECT_EQ(platform.requests().back().status, 0);
+
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::CloseBefore;
+    platform.addFault(fault);
+    RawConnection other(platform.httpPort());
+    other.send(kGet + "\r\n");
+    EXPECT_EQ(other.receiveUntil({}), "");
+    EXPECT_FALSE(other.isReset());
+}
+
+TEST(ConnectionTest, HalfAnAnswerIsHalfOfTheBodyUnderItsWholeLength)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    const std::string whole = ClientOf(platform)->get(kTimeSync).body;
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::CloseMiddle;
+    platform.addFault(fault);
+    RawConnection connection(platform.httpPort());
+    connection.send(kGet + "\r\n");
+    const std::string reply = connection.receiveUntil({});
+    EXPECT_NE(reply.find("Content-Length: " + std::to_string(whole.size()) + "\r\n"), std::string::npos) << reply;
+    EXPECT_EQ(reply.substr(reply.find("\r\n\r\n") + 4), whole.substr(0, whole.size() / 2));
+    EXPECT_FALSE(connection.isReset());
+}
+
+TEST(ConnectionTest, StopsWhileAClientDoesNotReadItsAnswer)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    emulator::Fault fault;
+    fault.kind = emulator::Fault::Kind::Text;
+    fault.body.assign(64UL * 1024 * 1024, 'x');
+    platform.addFault(fault);
+    RawConnection connection(platform.httpPort());
+    connection.send(kGet + "\r\n");
+    EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000) << "others are served meanwhile";
+    platform.stop();
+    EXPECT_LT(connection.receiveUntil({}).size(), fault.body.size());
+}
+
+struct NoPort {
+    const char* name;
+    const char* address;
+    const char* reason;
+};
+
+class ListenTest : public testing::TestWithParam<NoPort> {};
+
+TEST_P(ListenTest, SaysWhyAnAddressCannotBeListenedOn)
+{
+    emulator::Options options;
+    options.address = GetParam().address;
+    emulator::PlatformEmulator platform(options);
+    try {
+        platform.start();
+        FAIL() << "it listens on " << options.address;
+    } catch (const std::runtime_error& error) {
+        EXPECT_EQ(std::string(error.what()), GetParam().reason);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Addresses, ListenTest,
+    testing::Values(
+        NoPort{"OfNobodyHere", "192.0.2.1", "cannot listen on 192.0.2.1:0: this machine does not have the address"},
+        NoPort{"OfNobodyHereIpv6", "2001:db8::1",
+               "cannot listen on [2001:db8::1]:0: this machine does not have the address"},
+        NoPort{"Unknown", "no.such.host.invalid", "cannot listen on no.such.host.invalid:0: the address is unknown"}),
+    RowName<NoPort>);
+
+TEST(PortTest, SaysThatAPortIsTaken)
+{
+    emulator::PlatformEmulator first;
+    first.start();
+    for (const bool isHttps : {false, true}) {
+        emulator::Options options;
+        (isHttps ? options.httpsPort : options.httpPort) = first.httpPort();
+        emulator::PlatformEmulator second(options);
+        try {
+            second.start();
+            FAIL() << "two listen on " << first.httpPort();
+        } catch (const std::runtime_error& error) {
+            EXPECT_EQ(std::string(error.what()),
+                      "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is taken");
+        }
+    }
+}
+
+TEST(PortTest, SaysThatThePermissionIsMissing)
+{
+    emulator::Options options;
+    options.httpPort = 1;
+    emulator::PlatformEmulator platform(options);
+    try {
+        platform.start();
+        GTEST_SKIP() << "this user may listen on any port";
+    } catch (const std::runtime_error& error) {
+        EXPECT_EQ(std::string(error.what()), "cannot listen on 127.0.0.1:1: no permission for the port");
+    }
+}
+
+TEST(PortTest, PortIsFreeAgainAfterAStop)
+{
+    emulator::Options options;
+    {
+        emulator::PlatformEmulator first;
+        first.start();
+        EXPECT_EQ(ClientOf(first)->get(kTimeSync).code(), 1000);
+        options.httpPort = first.httpPort();
+        options.httpsPort = first.httpsPort();
+    }
+    emulator::PlatformEmulator second(options);
+    second.start();
+    EXPECT_EQ(ClientOf(second)->get(kTimeSync).code(), 1000);
+}
+
+TEST(PortTest, NameOfAnAddressIsTaken)
+{
+    emulator::Options options;
+    options.address = "localhost";
+    emulator::PlatformEmulator platform(options);
+    platform.start();
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
+}

@@ -1,0 +1,569 @@
+#include "RequestReader.h"
+
+#include "Text.h"
+
+#include <boost/asio/buffer.hpp>
+#include <boost/beast/http/basic_parser.hpp>
+#include <boost/beast/http/error.hpp>
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <strings.h>
+#include <vector>
+
+namespace emulator {
+namespace {
+
+namespace beast = boost::beast;
+namespace http = beast::http;
+using boost::system::error_code;
+using Progress = RequestReader::Progress;
+
+/// Method and version beside the target.
+constexpr std::size_t kLongestRequestLine = kLongestTarget + 32;
+/// What is left of any chunked body between two chunks; the parser stumbles over less.
+constexpr std::size_t kLeastOfChunk = std::string_view("0\r\n\r\n").size();
+constexpr int kHttp10 = 10;
+constexpr int kHttp11 = 11;
+
+constexpr const char* kBadLine = "line that does not end in CR LF, or a control character";
+constexpr int kBadRequest = 400;
+constexpr int kContentTooLarge = 413;
+constexpr int kUriTooLong = 414;
+constexpr int kExpectationFailed = 417;
+constexpr int kHeadTooLarge = 431;
+constexpr int kNotImplemented = 501;
+constexpr int kVersionNotSupported = 505;
+
+/// Keeps the fields as they come.
+class Parser final : public http::basic_parser<true> {
+public:
+    explicit Parser(HttpRequest& request) : m_request(request)
+    {
+        body_limit(kLargestBody);
+        header_limit(kLargestHead);
+    }
+
+    [[nodiscard]] int version() const { return m_version; }
+    /// Whether the bytes that come next are lines of text: the size of a chunk, or the end of a chunked body.
+    [[nodiscard]] bool isBetweenChunks() const { return chunked() && !m_inChunk; }
+
+private:
+    void on_request_impl(http::verb /*method*/, beast::string_view method, beast::string_view target, int version,
+                         error_code& /*ec*/) override
+    {
+        m_request.method = method;
+        m_request.target = target;
+        m_version = version;
+    }
+
+    void on_response_impl(int /*code*/, beast::string_view /*reason*/, int /*version*/, error_code& /*ec*/) override {}
+
+    void on_field_impl(http::field /*field*/, beast::string_view name, beast::string_view value,
+                       error_code& /*ec*/) override
+    {
+        if (!m_headIsRead) {
+            m_request.headers.emplace_back(name, value);
+        }
+    }
+
+    void on_header_impl(error_code& /*ec*/) override { m_headIsRead = true; }
+
+    void on_body_init_impl(const boost::optional<std::uint64_t>& /*length*/, error_code& /*ec*/) override {}
+
+    std::size_t on_body_impl(beast::string_view body, error_code& /*ec*/) override { return append(body); }
+
+    void on_chunk_header_impl(std::uint64_t size, beast::string_view /*extensions*/, error_code& /*ec*/) override
+    {
+        m_inChunk = size > 0;
+    }
+
+    std::size_t on_chunk_body_impl(std::uint64_t left, beast::string_view body, error_code& /*ec*/) override
+    {
+        m_inChunk = left > body.size();
+        return append(body);
+    }
+
+    void on_finish_impl(error_code& /*ec*/) override {}
+
+    std::size_t append(beast::string_view bytes)
+    {
+        m_request.body.append(bytes.data(), bytes.size());
+        return bytes.size();
+    }
+
+    HttpRequest& m_request;
+    int m_version = 0;
+    bool m_headIsRead = false;
+    bool m_inChunk = false;
+};
+
+bool IsControl(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    return (byte < 0x20 && c != '\t') || byte == 0x7f;
+}
+
+bool IsTokenChar(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+           (c != '\0' && std::string_view("!#$%&'*+-.^_`|~").find(c) != std::string_view::npos);
+}
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool IsName(const std::string& name, const char* wanted)
+{
+    return ::strcasecmp(name.c_str(), wanted) == 0;
+}
+
+std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool HasFoldedLine(std::string_view lines)
+{
+    return lines.find("\r\n ") != std::string_view::npos || lines.find("\r\n\t") != std::string_view::npos;
+}
+
+/// Goes through lines of text, which end in CR LF and hold no other control character. The parser would wait for more
+/// where the wrong end of a line makes it miss the right one.
+class LineScan {
+public:
+    enum class Found {
+        Nothing,
+        LineEnd,
+        Fault
+    };
+
+    /// Goes to the end of the line, or of the text, from where it stopped before.
+    Found scan(std::string_view text)
+    {
+        for (; m_at < text.size(); ++m_at) {
+            const char c = text[m_at];
+            const bool afterReturn = m_at > m_line && text[m_at - 1] == '\r';
+            if (c == '\n' ? !afterReturn : afterReturn || (c != '\r' && IsControl(c))) {
+                return Found::Fault;
+            }
+            if (c == '\n') {
+                m_lineBefore = m_line;
+                m_line = ++m_at;
+                return Found::LineEnd;
+            }
+        }
+        return Found::Nothing;
+    }
+
+    /// How far it came.
+    [[nodiscard]] std::size_t position() const { return m_at; }
+    /// Whether the line that ended last holds nothing.
+    [[nodiscard]] bool lineWasEmpty() const { return m_line == m_lineBefore + 2; }
+
+private:
+    std::size_t m_at = 0;
+    std::size_t m_line = 0;
+    std::size_t m_lineBefore = 0;
+};
+
+/// A length whose digits are right and that no number holds.
+bool DeclaresHugeLength(std::string_view head)
+{
+    constexpr std::string_view name = "content-length:";
+    constexpr std::size_t kSafeDigits = std::numeric_limits<std::uint64_t>::digits10;
+    for (std::size_t begin = head.find('\n'); begin != std::string_view::npos; begin = head.find('\n', begin)) {
+        ++begin;
+        const std::string_view line = head.substr(begin, head.find('\r', begin) - begin);
+        if (line.size() > name.size() && ::strncasecmp(line.data(), name.data(), name.size()) == 0) {
+            const std::string_view length = Trimmed(line.substr(name.size()));
+            if (length.size() > kSafeDigits && length.find_first_not_of("0123456789") == std::string_view::npos) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// A request line of three parts whose last one is "HTTP/" and two digits around a point.
+bool NamesVersion(std::string_view line)
+{
+    constexpr std::string_view form = " HTTP/d.d\r\n";
+    if (line.size() < form.size() || std::count(line.begin(), line.end(), ' ') != 2) {
+        return false;
+    }
+    line.remove_prefix(line.size() - form.size());
+    return std::equal(form.begin(), form.end(), line.begin(),
+                      [](char wanted, char c) { return wanted == 'd' ? c >= '0' && c <= '9' : c == wanted; });
+}
+
+bool IsServed(const std::string& method)
+{
+    static const std::vector<std::string> served = {"GET", "HEAD", "POST", "PUT", "DELETE", "OPTIONS", "PATCH"};
+    return std::find(served.begin(), served.end(), method) != served.end();
+}
+
+std::optional<RequestFault> FaultOfRequestLine(const error_code& error, const HttpRequest& request,
+                                               std::string_view line)
+{
+    if (error == http::error::bad_version && NamesVersion(line)) {
+        return RequestFault{kVersionNotSupported, "another version of HTTP"};
+    }
+    if (error && error != http::error::need_more) {
+        return RequestFault{kBadRequest, "request line: " + error.message()};
+    }
+    if (request.target.size() > kLongestTarget) {
+        return RequestFault{kUriTooLong, "target too long"};
+    }
+    if (!IsServed(request.method)) {
+        return RequestFault{kNotImplemented, "unknown method"};
+    }
+    return std::nullopt;
+}
+
+std::optional<RequestFault> FaultOfHost(const HttpRequest& request, int version)
+{
+    const auto isHost = [](const auto& header) { return IsName(header.first, "Host"); };
+    const auto count = std::count_if(request.headers.begin(), request.headers.end(), isHost);
+    if (count > 1 || (count == 0 && version >= kHttp11)) {
+        return RequestFault{kBadRequest, count == 0 ? "Host is missing" : "Host is there twice"};
+    }
+    const auto host = std::find_if(request.headers.begin(), request.headers.end(), isHost);
+    if (host != request.headers.end() && host->second.find_first_of(" \t,/?#@\\\"<>") != std::string::npos) {
+        return RequestFault{kBadRequest, "Host names no host"};
+    }
+    return std::nullopt;
+}
+
+/// The parser reads a message whose codings it does not know as one without a body.
+std::optional<RequestFault> FaultOfTransferCoding(const HttpRequest& request, int version)
+{
+    std::size_t chunked = 0;
+    bool isThere = false;
+    for (const auto& [name, value] : request.headers) {
+        if (!IsName(name, "Transfer-Encoding")) {
+            continue;
+        }
+        isThere = true;
+        for (const std::string& coding : Split(value, ',')) {
+            const std::string trimmed(Trimmed(coding));
+            if (IsName(trimmed, "chunked")) {
+                ++chunked;
+            } else if (!trimmed.empty()) {
+                return RequestFault{kNotImplemented, "unknown transfer coding"};
+            }
+        }
+    }
+    if (isThere && (chunked != 1 || version < kHttp11)) {
+        return RequestFault{kBadRequest, "transfer coding out of place"};
+    }
+    return std::nullopt;
+}
+
+std::string ExpectationOf(const HttpRequest& request)
+{
+    const auto found = std::find_if(request.headers.begin(), request.headers.end(),
+                                    [](const auto& header) { return IsName(header.first, "Expect"); });
+    return found == request.headers.end() ? std::string() : found->second;
+}
+
+std::optional<RequestFault> FaultOfHead(const error_code& error, const HttpRequest& request, std::string_view head,
+                                        int version)
+{
+    if (HasFoldedLine(head)) {
+        return RequestFault{kBadRequest, "folded header"};
+    }
+    if (error == http::error::body_limit || (error == http::error::bad_content_length && DeclaresHugeLength(head))) {
+        return RequestFault{kContentTooLarge, "body too large"};
+    }
+    if (error) {
+        return RequestFault{kBadRequest, "headers: " + error.message()};
+    }
+    if (std::optional<RequestFault> fault = FaultOfHost(request, version)) {
+        return fault;
+    }
+    if (std::optional<RequestFault> fault = FaultOfTransferCoding(request, version)) {
+        return fault;
+    }
+    const std::string expectation = ExpectationOf(request);
+    if (version >= kHttp11 && !expectation.empty() && !IsName(expectation, "100-continue")) {
+        return RequestFault{kExpectationFailed, "unknown expectation"};
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+class RequestReader::Private {
+public:
+    void add(std::string_view bytes)
+    {
+        m_input.erase(0, m_used);
+        m_used = 0;
+        m_input.append(bytes);
+    }
+
+    Progress read()
+    {
+        while (!m_fault) {
+            if (!m_parser) {
+                if (!begin()) {
+                    return m_fault ? Progress::Refused : Progress::NeedsMore;
+                }
+            } else if (!m_parser->is_header_done()) {
+                if (!readHead()) {
+                    return m_fault ? Progress::Refused : Progress::NeedsMore;
+                }
+                if (!m_parser->is_done() && rest().empty() && m_parser->version() >= kHttp11 &&
+                    !ExpectationOf(m_request).empty()) {
+                    return Progress::NeedsGoAhead;
+                }
+            } else if (m_parser->is_done()) {
+                return Progress::Whole;
+            } else if (!readBody()) {
+                return m_fault ? Progress::Refused : Progress::NeedsMore;
+            }
+        }
+        return Progress::Refused;
+    }
+
+    Progress readEnd()
+    {
+        if (hasBegun()) {
+            refuse({kBadRequest, "the request ends early"});
+        }
+        return m_fault ? Progress::Refused : Progress::NeedsMore;
+    }
+
+    void next()
+    {
+        m_parser.reset();
+        m_request = {};
+        m_lines = {};
+        m_parsed = 0;
+        m_skippedLine = false;
+    }
+
+    [[nodiscard]] bool hasBegun() const { return m_parser.has_value(); }
+    [[nodiscard]] std::string_view rest() const { return std::string_view(m_input).substr(m_used); }
+
+    std::string m_input;
+    std::size_t m_used = 0;  ///< bytes of the input that are read
+    HttpRequest m_request;
+    std::optional<Parser> m_parser;
+    std::optional<RequestFault> m_fault;
+
+private:
+    void refuse(RequestFault fault) { m_fault = std::move(fault); }
+
+    /// Passes over one empty line, which some clients send after a body.
+    bool begin()
+    {
+        const std::string_view input = rest();
+        if (input.empty() || (!m_skippedLine && input == "\r")) {
+            return false;
+        }
+        if (!m_skippedLine && StartsWith(input, "\r\n")) {
+            m_skippedLine = true;
+            m_used += 2;
+            return begin();
+        }
+        m_parser.emplace(m_request);
+        return true;
+    }
+
+    /// @return whether the head is whole and right
+    bool readHead()
+    {
+        const std::string_view input = rest();
+        for (;;) {
+            const LineScan::Found found = m_lines.scan(input);
+            const bool inFirstLine = m_request.method.empty();
+            if (found == LineScan::Found::Fault) {
+                refuse({kBadRequest, kBadLine});
+                return false;
+            }
+            if (inFirstLine && !readRequestLine(input.substr(0, m_lines.position()), found)) {
+                return false;
+            }
+            if (m_lines.position() > kLargestHead) {
+                refuse({kHeadTooLarge, "head too large"});
+                return false;
+            }
+            if (found == LineScan::Found::Nothing) {
+                return false;
+            }
+            if (!inFirstLine && m_lines.lineWasEmpty()) {
+                return endHead(input.substr(0, m_lines.position()));
+            }
+        }
+    }
+
+    /// Looks at the request line at once: what speaks another protocol may never send the end of a head.
+    bool readRequestLine(std::string_view line, LineScan::Found found)
+    {
+        const std::size_t blank = std::min(line.find(' '), line.size());
+        if (!std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(blank), IsTokenChar)) {
+            refuse({kBadRequest, "no method"});
+            return false;
+        }
+        if (line.size() > kLongestRequestLine) {
+            refuse({blank < kLongestRequestLine ? kUriTooLong : kBadRequest, "request line too long"});
+            return false;
+        }
+        if (found == LineScan::Found::Nothing) {
+            return true;
+        }
+        error_code error;
+        m_parsed = m_parser->put(boost::asio::buffer(line.data(), line.size()), error);
+        if (std::optional<RequestFault> fault = FaultOfRequestLine(error, m_request, line)) {
+            refuse(*std::move(fault));
+            return false;
+        }
+        return true;
+    }
+
+    bool endHead(std::string_view head)
+    {
+        error_code error;
+        m_parsed += m_parser->put(boost::asio::buffer(head.data() + m_parsed, head.size() - m_parsed), error);
+        if (std::optional<RequestFault> fault = FaultOfHead(error, m_request, head, m_parser->version())) {
+            refuse(*std::move(fault));
+            return false;
+        }
+        m_used += head.size();
+        return true;
+    }
+
+    /// @return whether it came on
+    bool readBody()
+    {
+        const std::string_view input = rest();
+        if (input.empty()) {
+            return false;
+        }
+        const bool isText = m_parser->isBetweenChunks();
+        if (isText && !hasChunkSize(input)) {
+            return false;
+        }
+        error_code error;
+        const std::size_t count = m_parser->put(boost::asio::buffer(input.data(), input.size()), error);
+        m_used += count;
+        if (error == http::error::need_more) {
+            checkEndOfBody(input);
+            return false;
+        }
+        if (error == http::error::body_limit) {
+            refuse({kContentTooLarge, "body too large"});
+        } else if (error) {
+            refuse({kBadRequest, "body: " + error.message()});
+        } else if (isText && count > kLargestEndOfBody) {
+            refuse({kHeadTooLarge, "end of the body too large"});
+        } else if (isText && HasFoldedLine(input.substr(0, count))) {
+            refuse({kBadRequest, "folded header"});
+        }
+        return !m_fault;
+    }
+
+    /// The line that holds the size of the next chunk, behind the end of the one before.
+    bool hasChunkSize(std::string_view input)
+    {
+        LineScan lines;
+        LineScan::Found found = lines.scan(input);
+        if (found == LineScan::Found::LineEnd && lines.lineWasEmpty()) {
+            found = lines.scan(input);
+        }
+        return checkText(input, found) && found == LineScan::Found::LineEnd && input.size() >= kLeastOfChunk;
+    }
+
+    /// The end of the body that is not all there.
+    void checkEndOfBody(std::string_view input)
+    {
+        LineScan lines;
+        LineScan::Found found = LineScan::Found::LineEnd;
+        while (found == LineScan::Found::LineEnd) {
+            found = lines.scan(input);
+        }
+        checkText(input, found);
+    }
+
+    bool checkText(std::string_view input, LineScan::Found found)
+    {
+        if (found == LineScan::Found::Fault) {
+            refuse({kBadRequest, kBadLine});
+        } else if (found == LineScan::Found::Nothing && input.size() > kLargestEndOfBody) {
+            refuse({kHeadTooLarge, "end of the body too large"});
+        }
+        return !m_fault;
+    }
+
+    LineScan m_lines;
+    std::size_t m_parsed = 0;  ///< bytes of the head that the parser has taken
+    bool m_skippedLine = false;
+};
+
+RequestReader::RequestReader() : m_private(std::make_unique<Private>()) {}
+
+RequestReader::~RequestReader() = default;
+
+void RequestReader::add(std::string_view bytes)
+{
+    m_private->add(bytes);
+}
+
+RequestReader::Progress RequestReader::read()
+{
+    return m_private->read();
+}
+
+RequestReader::Progress RequestReader::readEnd()
+{
+    return m_private->readEnd();
+}
+
+void RequestReader::next()
+{
+    m_private->next();
+}
+
+bool RequestReader::hasBegun() const
+{
+    return m_private->hasBegun();
+}
+
+std::size_t RequestReader::pending() const
+{
+    return m_private->rest().size();
+}
+
+HttpRequest& RequestReader::request()
+{
+    return m_private->m_request;
+}
+
+bool RequestReader::keepsAlive() const
+{
+    return m_private->m_parser->keep_alive();
+}
+
+bool RequestReader::isOldVersion() const
+{
+    return m_private->m_parser->version() == kHttp10;
+}
+
+const RequestFault& RequestReader::fault() const
+{
+    return *m_private->m_fault;
+}
+
+}  // namespace emulator
