@@ -1,4 +1,5 @@
-// The emulator's handling of requests: what the contract makes of them, the state, its faults and its log.
+// The emulator's handling of requests: how it reads them off the wire, what the contract makes of them, the state, its
+// faults and its log.
 #include "Fuzz.h"
 
 #include <Contract.h>
@@ -7,11 +8,15 @@
 #include <Platform.h>
 #include <PlatformEmulator.h>
 #include <RequestLog.h>
+#include <RequestReader.h>
 #include <State.h>
 
+#include <algorithm>
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <strings.h>
 #include <utility>
 #include <vector>
 
@@ -20,6 +25,7 @@ namespace {
 using emulator::HttpRequest;
 using emulator::Json;
 using emulator::Operation;
+using emulator::RequestReader;
 
 /// What an emulator is made of but its sockets.
 struct Server {
@@ -109,7 +115,9 @@ HttpRequest Request(FuzzedDataProvider& data)
 void ExpectAnswer(const HttpRequest& request)
 {
     const emulator::HttpResponse response = TheServer().platform.answer(request);
-    const bool bToken = request.headers.front().second == emulator::kDefaultToken;
+    const bool bToken = std::any_of(request.headers.begin(), request.headers.end(), [](const auto& header) {
+        return ::strcasecmp(header.first.c_str(), "X-Subject-Token") == 0 && header.second == emulator::kDefaultToken;
+    });
     const std::string shown = request.method + ' ' + request.target + '\n' + request.body + "\nis answered with " +
                               std::to_string(response.status) + '\n' + response.body;
     fuzz::Require(response.status == (bToken ? 200 : 401), shown);
@@ -140,16 +148,100 @@ void ExpectFault(const std::string& text, const std::string& target)
     }
 }
 
+/// What a connection's bytes come to.
+struct Reading {
+    std::vector<HttpRequest> requests;
+    int fault = 0;  ///< status; 0 when the bytes are right as far as they go
+};
+
+bool AreSame(const Reading& one, const Reading& other)
+{
+    const auto same = [](const HttpRequest& left, const HttpRequest& right) {
+        return left.method == right.method && left.target == right.target && left.headers == right.headers &&
+               left.body == right.body;
+    };
+    return one.fault == other.fault &&
+           std::equal(one.requests.begin(), one.requests.end(), other.requests.begin(), other.requests.end(), same);
+}
+
+/// Reads on until the reader wants more.
+/// @return false when it refuses
+bool ReadOn(RequestReader& reader, Reading& reading)
+{
+    for (;;) {
+        switch (reader.read()) {
+        case RequestReader::Progress::NeedsMore:
+            return true;
+        case RequestReader::Progress::NeedsGoAhead:
+            break;
+        case RequestReader::Progress::Whole:
+            reading.requests.push_back(reader.request());
+            reader.next();
+            break;
+        case RequestReader::Progress::Refused:
+            reading.fault = reader.fault().status;
+            return false;
+        }
+    }
+}
+
+/// @param pieces the sizes of the pieces in which the bytes come, used again and again
+Reading Read(std::string_view bytes, const std::vector<std::size_t>& pieces)
+{
+    Reading reading;
+    RequestReader reader;
+    bool bReads = true;
+    for (std::size_t i = 0; bReads && !bytes.empty(); ++i) {
+        const std::size_t size = std::min(pieces[i % pieces.size()], bytes.size());
+        reader.add(bytes.substr(0, size));
+        bytes.remove_prefix(size);
+        bReads = ReadOn(reader, reading);
+    }
+    if (bReads && reader.readEnd() == RequestReader::Progress::Refused) {
+        reading.fault = reader.fault().status;
+    }
+    return reading;
+}
+
+/// However the bytes are cut, they are the same requests and just as right, and nothing is in them that did not come.
+/// @return the requests
+std::vector<HttpRequest> ExpectReading(std::string_view bytes)
+{
+    const Reading whole = Read(bytes, {bytes.size()});
+    for (const std::vector<std::size_t>& pieces : {std::vector<std::size_t>{1}, {2, 3, 7, 1}}) {
+        const Reading cut = Read(bytes, pieces);
+        fuzz::Require(AreSame(cut, whole), "status " + std::to_string(whole.fault) + " as a whole, " +
+                                               std::to_string(cut.fault) + " in pieces:\n" + std::string(bytes));
+    }
+    for (const HttpRequest& request : whole.requests) {
+        const auto came = [bytes](const std::string& text) { return bytes.find(text) != std::string_view::npos; };
+        fuzz::Require(came(request.method + ' ' + request.target + " HTTP/1."), request.target);
+        for (const auto& [name, value] : request.headers) {
+            fuzz::Require(came(name + ':') && came(value), name);
+        }
+    }
+    return whole.requests;
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     Server& server = TheServer();
-    FuzzedDataProvider data(bytes, size);
     server.log.clear();
+    // What begins as a request does is read off the wire, all else is choices.
+    const bool bWire = size > 0 && (bytes[0] == '\r' || (bytes[0] >= 'A' && bytes[0] <= 'Z'));
+    std::vector<HttpRequest> requests;
+    FuzzedDataProvider data(bytes, bWire ? 0 : size);
+    if (bWire) {
+        requests = ExpectReading({reinterpret_cast<const char*>(bytes), size});
+    } else {
+        for (int left = data.ConsumeIntegralInRange(1, 8); left > 0; --left) {
+            requests.push_back(Request(data));
+        }
+    }
     bool bWrote = false;
-    for (int left = data.ConsumeIntegralInRange(1, 8); left > 0; --left) {
-        const HttpRequest request = Request(data);
+    for (const HttpRequest& request : requests) {
         server.log.add(request);
         ExpectAnswer(request);
         bWrote = bWrote || request.method != "GET";
