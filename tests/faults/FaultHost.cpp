@@ -3,6 +3,10 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QHostInfo>
+#include <QNetworkProxyFactory>
+#include <QNetworkProxyQuery>
+#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -154,6 +158,9 @@ void FaultHost::WarmUp()
         Use(server, way.scheme);
         ExpectSuccess(way);
     }
+    // What Qt makes once, for the first server with a name.
+    QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(QUrl(QStringLiteral("http://no-such-host.invalid"))));
+    QHostInfo::lookupHost(QStringLiteral("localhost"), QCoreApplication::instance(), [](const QHostInfo&) {});
     QEventLoop loop;
     QTimer::singleShot(100, &loop, &QEventLoop::quit);
     loop.exec();
