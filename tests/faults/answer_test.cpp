@@ -47,6 +47,26 @@ QByteArray Gzip()
         "1f8b0800000000000203ab564ace4f4955b232343030d0514a492c4954b2aa56021286b5b50085f97ac71c000000");
 }
 
+/// One whose length promises more than comes.
+RawAnswer GzippedAndClosed()
+{
+    RawAnswer answer = Gzipped(Gzip());
+    answer.bytes.chop(20);
+    answer.then = RawAnswer::Close;
+    return answer;
+}
+
+RawAnswer OfStatus404(RawAnswer answer)
+{
+    answer.bytes.replace(answer.bytes.indexOf("200"), 3, "404");
+    return answer;
+}
+
+Outcome CutShort()
+{
+    return NetworkFails("2", "Connection closed");
+}
+
 const std::vector<Fault> kFaults = {
     {"closed_before_the_answer", Answers(Raw("", RawAnswer::Close)), NetworkFails("2", "Connection closed")},
     {"closed_in_the_status_line", Answers(Raw("HTTP/1.1 2", RawAnswer::Close)), NetworkFails("2", "Connection closed")},
@@ -83,14 +103,20 @@ const std::vector<Fault> kFaults = {
      EnvelopeFails(-1)},
     {"chunk_longer_than_told", Answers(Chunked("5\r\n" + kBody + "\r\n0\r\n\r\n", RawAnswer::Close)),
      EnvelopeFails(-1)},
-    {"chunk_cut", Answers(Chunked("ff\r\n{\"code\":1000,", RawAnswer::Close)),
-     Either(NetworkFails(), EnvelopeFails(-1))},
-    {"chunk_cut_later", Answers(Chunked("ff\r\n{\"code\":1000,", RawAnswer::CloseLater)),
-     Either(NetworkFails(), EnvelopeFails(-1))},
-    {"chunk_last_missing", Answers(Chunked(Chunk(), RawAnswer::Close)), Either(NetworkFails(), Succeeds())},
+    {"chunk_cut", Answers(Chunked("ff\r\n{\"code\":1000,", RawAnswer::Close)), CutShort()},
+    {"chunk_cut_later", Answers(Chunked("ff\r\n{\"code\":1000,", RawAnswer::CloseLater)), CutShort()},
+    {"chunk_cut_of_404", Answers(OfStatus404(Chunked("ff\r\n{\"code\":1000,", RawAnswer::Close))), CutShort()},
+    {"chunk_last_missing", Answers(Chunked(Chunk(), RawAnswer::Close)), CutShort()},
+    {"chunk_last_missing_of_404", Answers(OfStatus404(Chunked(Chunk(), RawAnswer::Close))), CutShort()},
     {"gzip", Answers(Gzipped(Gzip())), Succeeds()},
-    {"gzip_of_something_else", Answers(Gzipped(kBody)), EnvelopeFails(-1)},
-    {"gzip_cut", Answers(Gzipped(Gzip().left(20))), EnvelopeFails(-1)},
+    {"gzip_of_something_else", Answers(Gzipped(kBody)), NetworkFails("399", "Data corrupted")},
+    {"gzip_cut", Answers(Gzipped(Gzip().left(20))), NetworkFails("399", "Data corrupted")},
+    {"gzip_cut_of_404", Answers(OfStatus404(Gzipped(Gzip().left(20)))), NetworkFails("399", "Data corrupted")},
+    {"gzip_cut_before_its_sum", Answers(Gzipped(Gzip().chopped(8))), NetworkFails("399", "Data corrupted")},
+    {"gzip_cut_until_the_end", Answers(WithHeaders("Content-Encoding: gzip\r\n", Gzip().left(20), RawAnswer::Close)),
+     CutShort()},
+    {"gzip_closed", Answers(GzippedAndClosed()), CutShort()},
+    {"gzip_closed_of_404", Answers(OfStatus404(GzippedAndClosed())), CutShort()},
     {"gzip_garbled", Answers(Gzipped(Gzip().replace(12, 6, "abcdef"))), NetworkFails("399", "Data corrupted")},
     {"gzip_empty", Answers(Gzipped("")), EnvelopeFails(-1)},
     {"401_without_challenge", Answers(HttpAnswer(401, "{}")), AsksForAuthentication()},

@@ -26,6 +26,9 @@ public:
     /// @param nMost largest size of @p out
     Result Append(const char* pData, qint64 size, QByteArray& out, qint64 nMost);
 
+    /// Whether the compressed stream has come to its end, or has not begun.
+    bool IsWhole() const { return m_bEnded || (!m_pStream && m_first.isEmpty()); }
+
 private:
     Result Run(const QByteArray& input, QByteArray& out, qint64 nMost);
 

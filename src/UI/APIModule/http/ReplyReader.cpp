@@ -257,9 +257,10 @@ qint64 ReplyReader::FeedBody(const char* pData, qint64 size)
 
 void ReplyReader::Finish(State state)
 {
-    m_state = state;
+    const bool bCut = state == State::Complete && m_pInflater && !m_pInflater->IsWhole();
+    m_state = bCut ? State::Corrupt : state;
     m_line.clear();
-    if (state != State::Complete) {
+    if (m_state != State::Complete) {
         m_bKeepsConnection = false;
     }
 }

@@ -23,7 +23,7 @@ public:
         Reading,
         Complete,
         Closed,    ///< no HTTP, or the connection ended within the reply
-        Corrupt,   ///< the content coding is broken
+        Corrupt,   ///< the content coding is broken, or cut short
         TooLarge,  ///< more bytes than the caller accepts
     };
 
