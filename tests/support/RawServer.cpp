@@ -11,6 +11,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
+#include <unistd.h>
 #include <utility>
 
 namespace testing_support {
@@ -31,6 +32,18 @@ QByteArray RawRequest::Value(const QByteArray& name) const
     const QList<QByteArray> values = Values(name);
     EXPECT_EQ(values.size(), 1) << name.constData();
     return values.isEmpty() ? QByteArray() : values.first();
+}
+
+bool CanVanish()
+{
+    static const bool bCan = [] {
+        const int nSocket = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        const int nOn = 1;
+        const bool bSet = setsockopt(nSocket, IPPROTO_TCP, TCP_REPAIR, &nOn, sizeof(nOn)) == 0;
+        close(nSocket);
+        return bSet;
+    }();
+    return bCan;
 }
 
 RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders)
@@ -75,8 +88,19 @@ void Reset(QAbstractSocket& socket)
     socket.abort();
 }
 
+/// Ends a connection without a packet: the other side goes on as if it were there.
+void Vanish(QAbstractSocket& socket)
+{
+    socket.flush();
+    const int nOn = 1;
+    // Refused where the other side has ended the connection already.
+    setsockopt(int(socket.socketDescriptor()), IPPROTO_TCP, TCP_REPAIR, &nOn, sizeof(nOn));
+    socket.abort();
+}
+
 void Finish(QAbstractSocket& socket, RawAnswer::Then then)
 {
+    constexpr int kLaterMs = 20;
     switch (then) {
     case RawAnswer::KeepOpen:
         break;
@@ -84,19 +108,73 @@ void Finish(QAbstractSocket& socket, RawAnswer::Then then)
         socket.disconnectFromHost();
         break;
     case RawAnswer::CloseLater:
-        QTimer::singleShot(20, &socket, [&socket] { socket.disconnectFromHost(); });
+        QTimer::singleShot(kLaterMs, &socket, [&socket] { socket.disconnectFromHost(); });
         break;
     case RawAnswer::Reset:
         Reset(socket);
         break;
+    case RawAnswer::HalfClose:
+        socket.flush();
+        shutdown(int(socket.socketDescriptor()), SHUT_WR);
+        break;
+    case RawAnswer::Vanish:
+        Vanish(socket);
+        break;
     }
+}
+
+/// Goes on at once, or after a time unless the connection is gone by then.
+void After(int milliseconds, QAbstractSocket& socket, const std::function<void()>& act)
+{
+    if (milliseconds > 0) {
+        QTimer::singleShot(milliseconds, Qt::PreciseTimer, &socket, act);
+    } else {
+        act();
+    }
+}
+
+/// Sends the bytes again and again, so many a second, but no more than the other side takes.
+void SendEndlessly(QAbstractSocket& socket, const QByteArray& bytes, int nPerSecond)
+{
+    constexpr int kTickMs = 10;
+    constexpr int kTicksPerSecond = 1000 / kTickMs;
+    QByteArray ofTick;
+    while (ofTick.size() < nPerSecond / kTicksPerSecond) {
+        ofTick += bytes;
+    }
+    auto* const pTicks = new QTimer(&socket);
+    QObject::connect(pTicks, &QTimer::timeout, &socket, [&socket, ofTick] {
+        if (socket.bytesToWrite() < ofTick.size()) {
+            socket.write(ofTick);
+        }
+    });
+    pTicks->start(kTickMs);
+}
+
+void SendMore(QAbstractSocket& socket, const RawAnswer& answer)
+{
+    if (answer.endlessPerSecond > 0) {
+        SendEndlessly(socket, answer.moreBytes, answer.endlessPerSecond);
+        return;
+    }
+    if (!answer.moreBytes.isEmpty()) {
+        socket.write(answer.moreBytes);
+        socket.flush();
+    }
+    After(answer.thenMilliseconds, socket, [&socket, then = answer.then, done = answer.done] { Finish(socket, then); });
 }
 
 void Send(QAbstractSocket& socket, const RawAnswer& answer)
 {
     if (answer.trickleMilliseconds == 0 || answer.bytes.isEmpty()) {
+        if (!answer.moreBytes.isEmpty()) {
+            socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);  // or they wait for an acknowledgement
+        }
         socket.write(answer.bytes);
-        Finish(socket, answer.then);
+        if (answer.done) {
+            socket.flush();
+        }
+        After(answer.moreMilliseconds, socket, [&socket, answer] { SendMore(socket, answer); });
         return;
     }
     socket.write(answer.bytes.left(1));
@@ -128,6 +206,7 @@ protected:
             pSocket->deleteLater();
         });
         connect(pSocket, &QSslSocket::readyRead, this, [this, pSocket, nConnection] { Read(*pSocket, nConnection); });
+        CloseWhenIdle(*pSocket);
         if (m_configuration) {
             pSocket->setSslConfiguration(*m_configuration);
             pSocket->startServerEncryption();
@@ -135,6 +214,20 @@ protected:
     }
 
 private:
+    void CloseWhenIdle(QSslSocket& socket)
+    {
+        if (m_server.m_idleMilliseconds == 0) {
+            return;
+        }
+        auto* const pIdle = new QTimer(&socket);
+        pIdle->setTimerType(Qt::PreciseTimer);
+        pIdle->start(m_server.m_idleMilliseconds);
+        connect(pIdle, &QTimer::timeout, &socket, [&socket] { socket.disconnectFromHost(); });
+        const auto restart = [pIdle] { pIdle->start(); };
+        connect(&socket, &QSslSocket::readyRead, pIdle, restart);
+        connect(&socket, &QSslSocket::bytesWritten, pIdle, restart);
+    }
+
     void Read(QSslSocket& socket, int nConnection)
     {
         Acknowledge(socket);

@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -39,14 +40,24 @@ struct RawAnswer {
         KeepOpen,
         Close,
         CloseLater,
-        Reset
+        Reset,
+        HalfClose,  ///< sends no more, goes on reading; over TLS without its notice
+        Vanish      ///< the other side learns of it when it sends; as root only
     };
 
     QByteArray bytes;             ///< goes over the wire as it is; nothing when empty
     int delayMilliseconds = 0;    ///< before the bytes
     Then then = KeepOpen;         ///< after the bytes
     int trickleMilliseconds = 0;  ///< between one byte and the next; 0 sends all at once
+    QByteArray moreBytes = {};    ///< in a segment (and a TLS record) of their own
+    int moreMilliseconds = 0;     ///< between the bytes and more bytes
+    int endlessPerSecond = 0;     ///< sends more bytes again and again, so many a second, until the server is destroyed
+    int thenMilliseconds = 0;     ///< between the last byte and what comes after it
+    std::shared_ptr<void> done = {};  ///< let go when everything above has happened or the connection is gone
 };
+
+/// Whether this process may let a connection vanish.
+bool CanVanish();
 
 /// A complete HTTP answer.
 RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
@@ -76,6 +87,9 @@ public:
     /// From now on whatever a client sends is answered as if it were a request.
     void AnswerAnything() { m_bAnswersAnything = true; }
 
+    /// From now on connections that are idle for so long are closed.
+    void CloseIdleAfter(int milliseconds) { m_idleMilliseconds = milliseconds; }
+
     std::vector<RawRequest> TakeRequests();
     int ConnectionCount() const { return m_connections; }
     /// Connections that the client still holds open.
@@ -91,6 +105,7 @@ private:
     std::mutex m_mutex;
     std::vector<RawRequest> m_requests;
     std::atomic<bool> m_bAnswersAnything{false};
+    std::atomic<int> m_idleMilliseconds{0};
     std::atomic<int> m_port{0};
     std::atomic<int> m_connections{0};
     std::atomic<int> m_openConnections{0};

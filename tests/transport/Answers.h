@@ -1,0 +1,18 @@
+#pragma once
+
+#include "support/RawServer.h"
+
+#include <vector>
+
+namespace testing_support {
+
+/// An answer on the wire, ordinary or odd.
+struct Answer {
+    const char* name;
+    RawAnswer answer;
+};
+
+/// Answers of every kind that a server may give to a request.
+std::vector<Answer> Answers();
+
+}  // namespace testing_support

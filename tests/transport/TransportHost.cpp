@@ -1,0 +1,50 @@
+#include "TransportHost.h"
+
+#include <QJsonObject>
+
+namespace testing_support {
+
+using APIModule::CAPIModule;
+
+std::shared_ptr<void> Happening::Handle() const
+{
+    return std::shared_ptr<void>(nullptr, [pHappened = m_pHappened](void*) { *pHappened = true; });
+}
+
+Ended TransportHost::Run(APIModule::Method method, const QString& url, const QString& body, int nTimeout)
+{
+    HostCall call;
+    call.method = method;
+    call.url = url;
+    call.body = body;
+    call.timeout = nTimeout;
+    call.uiError = QStringLiteral("No settings");
+    call.notifyOnFailure = false;
+    Ended ended;
+    call.parse = [&ended](const QJsonObject& data) {
+        ended.parsed = true;
+        ended.tag = data.value(QStringLiteral("n")).toInt(-1);
+        return 0;
+    };
+    notifications.Take();
+    ended.code = Execute(call);
+    const QStringList notices = notifications.Take();
+    for (const int nCode : {-4, -18, kTimedOut, 7000}) {
+        if (notices == QStringList{CAPIModule::GetErroCodeInfor(call.uiError, nCode, true)}) {
+            ended.code = nCode;
+        }
+    }
+    return ended;
+}
+
+RawAnswer TaggedAnswer(int nTag)
+{
+    return HttpAnswer(200, "{\"code\":1000,\"data\":{\"n\":" + QByteArray::number(nTag) + "}}");
+}
+
+int TagOf(const QByteArray& target)
+{
+    return target.mid(target.lastIndexOf('/') + 1).toInt();
+}
+
+}  // namespace testing_support

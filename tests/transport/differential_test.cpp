@@ -1,0 +1,251 @@
+// The library's HTTP against Qt's: what the one makes of an answer, the other makes of it too, but for a list of
+// intended differences.
+#include "Answers.h"
+#include "support/Watchdog.h"
+
+#include <http/AccessManager.h>
+#include <http/Reply.h>
+
+#include <QEventLoop>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+
+using namespace testing_support;
+
+namespace {
+
+using Pairs = QList<QNetworkReply::RawHeaderPair>;
+
+/// A whole answer of whatever status, but for 401, or what is wrong instead.
+struct Read {
+    bool answered = false;
+    int status = 0;
+    QByteArray body;
+    Pairs headers;
+    int error = 0;
+    QByteArray text;
+};
+
+/// One line that shows all of it.
+std::string Shown(const Read& read)
+{
+    QByteArray shown =
+        read.answered ? QByteArray::number(read.status) : "error " + QByteArray::number(read.error) + ' ' + read.text;
+    if (read.answered) {
+        for (const auto& header : read.headers) {
+            shown += " [" + header.first + ": " + header.second + ']';
+        }
+        shown += ' ' + read.body;
+    }
+    std::string line;
+    for (const char c : qAsConst(shown)) {
+        const bool bPlain = c >= ' ' && c <= '~';
+        line += bPlain ? std::string(1, c) : '<' + QByteArray(1, c).toHex().toStdString() + '>';
+    }
+    return line;
+}
+
+/// The errors by which Qt tells a status of 400 and above.
+bool IsOfStatus(QNetworkReply::NetworkError error)
+{
+    return error == QNetworkReply::ProxyAuthenticationRequiredError ||
+           (error >= QNetworkReply::ContentAccessDenied && error <= QNetworkReply::UnknownContentError &&
+            error != QNetworkReply::AuthenticationRequiredError) ||
+           error == QNetworkReply::ProtocolInvalidOperationError || error >= QNetworkReply::InternalServerError;
+}
+
+Read Taken(QNetworkReply& reply, const Pairs& headers)
+{
+    const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    const QNetworkReply::NetworkError error = reply.error();
+    Read read;
+    read.answered = status.isValid() && (error == QNetworkReply::NoError || IsOfStatus(error));
+    read.status = status.toInt();
+    read.headers = headers;
+    read.body = reply.readAll();
+    read.error = error;
+    read.text = reply.errorString().toUtf8();
+    return read;
+}
+
+QNetworkRequest RequestTo(const RawServer& server, RawServer::Scheme scheme)
+{
+    QNetworkRequest request(QUrl((scheme == RawServer::Http ? QStringLiteral("http") : QStringLiteral("https")) +
+                                 QStringLiteral("://127.0.0.1:%1/path").arg(server.Port())));
+    QSslConfiguration configuration = request.sslConfiguration();
+    configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+    request.setSslConfiguration(configuration);
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    return request;
+}
+
+/// @return whether the reply ended
+bool WaitFor(const QNetworkReply& reply)
+{
+    constexpr int kLongEnoughMs = 5000;
+    QEventLoop loop;
+    QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kLongEnoughMs, &loop, &QEventLoop::quit);
+    if (!reply.isFinished()) {
+        loop.exec();
+    }
+    return reply.isFinished();
+}
+
+std::string ByQt(const RawServer& server, RawServer::Scheme scheme)
+{
+    QNetworkAccessManager manager;
+    const std::unique_ptr<QNetworkReply> pReply(manager.get(RequestTo(server, scheme)));
+    return WaitFor(*pReply) ? Shown(Taken(*pReply, pReply->rawHeaderPairs())) : "no end";
+}
+
+std::string ByLibrary(const RawServer& server, RawServer::Scheme scheme)
+{
+    using namespace APIModule::http;
+    AccessManager manager;
+    const std::unique_ptr<QNetworkReply> pReply(manager.get(RequestTo(server, scheme)));
+    return WaitFor(*pReply) ? Shown(Taken(*pReply, static_cast<Reply&>(*pReply).Headers())) : "no end";
+}
+
+/// What the library makes of an answer otherwise than Qt, and why.
+struct Difference {
+    const char* library;
+    const char* reason;
+    bool always = true;  ///< or Qt's own result depends on how the bytes fall into packets
+};
+
+constexpr const char* kClosed = "error 2 Connection closed";
+constexpr const char* kCorrupt = "error 399 Data corrupted";
+
+constexpr const char* kNoFinalStatus =
+    "what follows a status below 200 is not known: the call ends, and its connection";
+constexpr const char* kFirstPlace =
+    "the values of a repeated header stand where it came first, in Qt where it came last";
+constexpr const char* kSeesTheEnd =
+    "an answer that is cut short is an error, in Qt only where it notices the end in time";
+constexpr const char* kKeepsLength = "Qt removes the length of a compressed body";
+constexpr const char* kNotWhole = "a compressed body that does not end is an error, in Qt only one that is garbled";
+
+const std::map<std::string, Difference>& Differences()
+{
+    static const std::map<std::string, Difference> differences = {
+        {"status_of_two_digits", {R"(20 [Content-Length: 28] )", kNoFinalStatus}},
+        {"status_negative", {R"(-20 [Content-Length: 28] )", kNoFinalStatus}},
+        {"status_0", {R"(0 [Content-Length: 28] )", kNoFinalStatus}},
+        {"header_folded_first",
+         {R"(200 [Content-Length: 28] {"code":1000,"data":{"a":1}})",
+          "a folded line without a line before it is none"}},
+        {"header_without_colon",
+         {R"(200 [Content-Length: 28] {"code":1000,"data":{"a":1}})",
+          "Qt takes the line after it for its value, loses the length and never ends"}},
+        {"header_with_empty_name",
+         {R"(200 [: one] [Content-Length: 28] {"code":1000,"data":{"a":1}})",
+          "Qt leaves the line out; nobody asks for it"}},
+        {"header_twice",
+         {R"(200 [X-A: one, two] [X-B: b] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kFirstPlace}},
+        {"header_twice_of_different_case",
+         {R"(200 [X-A: one, two] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kFirstPlace}},
+        {"header_twice_one_empty",
+         {R"(200 [X-A: , two] [Content-Length: 28] {"code":1000,"data":{"a":1}})",
+          "Qt forgets an empty value before another one"}},
+        {"chunked_with_line_feeds",
+         {R"(200 [Transfer-Encoding: chunked] {"code":1000,"data":{"a":1}})",
+          "line feeds end the lines of a head in both, those of chunks here alone"}},
+        {"401_cut", {kClosed, kSeesTheEnd, false}},
+        {"length_of_more_404", {kClosed, kSeesTheEnd, false}},
+        {"chunked_last_line_missing", {kClosed, kSeesTheEnd, false}},
+        {"chunked_last_missing", {kClosed, kSeesTheEnd, false}},
+        {"chunked_cut", {kClosed, kSeesTheEnd, false}},
+        {"chunked_cut_reset", {kClosed, kSeesTheEnd, false}},
+        {"chunked_cut_in_the_size", {kClosed, kSeesTheEnd, false}},
+        {"chunked_cut_404", {kClosed, kSeesTheEnd, false}},
+        {"chunked_last_missing_404", {kClosed, kSeesTheEnd, false}},
+        {"gzip", {R"(200 [Content-Encoding: gzip] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
+        {"gzip_in_capitals",
+         {R"(200 [Content-Encoding: GZIP] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
+        {"gzip_of_nothing", {R"(200 [Content-Encoding: gzip] [Content-Length: 20] )", kKeepsLength}},
+        {"gzip_without_a_byte", {R"(200 [Content-Encoding: gzip] [Content-Length: 0] )", kKeepsLength}},
+        {"gzip_and_more_behind",
+         {R"(200 [Content-Encoding: gzip] [Content-Length: 50] {"code":1000,"data":{"a":1}})", kKeepsLength}},
+        {"gzip_of_two_members", {R"(200 [Content-Encoding: gzip] [Content-Length: 66] {"code":10)", kKeepsLength}},
+        {"gzip_404",
+         {R"(404 [Content-Encoding: gzip] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
+        {"deflate",
+         {R"(200 [Content-Encoding: deflate] [Content-Length: 34] {"code":1000,"data":{"a":1}})", kKeepsLength}},
+        {"deflate_bare",
+         {R"(200 [Content-Encoding: deflate] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kKeepsLength}},
+        {"gzip_cut_within_its_length", {kCorrupt, kNotWhole}},
+        {"gzip_cut_before_the_sum", {kCorrupt, kNotWhole}},
+        {"gzip_of_something_else", {kCorrupt, kNotWhole}},
+        {"deflate_of_something_else", {kCorrupt, kNotWhole}},
+        {"deflate_cut", {kCorrupt, kNotWhole}},
+        {"gzip_cut_by_the_end", {kClosed, "Qt removes the length, and so does not miss what is not there"}},
+        {"gzip_cut_by_the_end_404", {kClosed, "Qt removes the length, and so does not miss what is not there"}},
+    };
+    return differences;
+}
+
+struct Row {
+    Answer answer;
+    RawServer::Scheme scheme;
+};
+
+void PrintTo(const Row& row, std::ostream* pStream)
+{
+    *pStream << row.answer.name;
+}
+
+std::vector<Row> Rows()
+{
+    std::vector<Row> rows;
+    for (const Answer& answer : Answers()) {
+        for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
+            rows.push_back({answer, scheme});
+        }
+    }
+    return rows;
+}
+
+class Differential : public testing::TestWithParam<Row> {
+    const Watchdog m_watchdog;
+};
+
+TEST_P(Differential, ReadsAnswersAsQtButForTheListedDifferences)
+{
+    const auto& [answer, scheme] = GetParam();
+    const RawServer server([bytes = answer.answer](const RawRequest&) { return bytes; }, scheme);
+    const std::string library = ByLibrary(server, scheme);
+    const auto difference = Differences().find(answer.name);
+    if (difference == Differences().end()) {
+        EXPECT_EQ(library, ByQt(server, scheme));
+        return;
+    }
+    EXPECT_EQ(library, difference->second.library) << difference->second.reason;
+    if (difference->second.always) {
+        EXPECT_NE(library, ByQt(server, scheme)) << "is no difference any more: " << difference->second.reason;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, Differential, testing::ValuesIn(Rows()), [](const auto& row) {
+    return std::string(row.param.answer.name) + (row.param.scheme == RawServer::Http ? "_http" : "_https");
+});
+
+/// Every row of the list is of an answer that is asked for.
+TEST(Differences, AreOfAnswers)
+{
+    for (const auto& [name, difference] : Differences()) {
+        bool bFound = false;
+        for (const Answer& answer : Answers()) {
+            bFound = bFound || name == answer.name;
+        }
+        EXPECT_TRUE(bFound) << name;
+    }
+}
+
+}  // namespace

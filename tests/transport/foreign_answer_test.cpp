@@ -1,0 +1,161 @@
+// Bytes that arrive after an answer, from servers that answer twice, or with a status that has no body, or with a
+// length that is too small. No call gets an answer to another.
+#include "support/Rows.h"
+#include "TransportHost.h"
+
+#include <QThread>
+
+#include <functional>
+
+using namespace testing_support;
+
+namespace {
+
+const QByteArray kForeign = TaggedAnswer(999999).bytes;
+
+/// What comes instead of the plain answer to a request, whose own data are @p own.
+struct Foreign {
+    const char* name;
+    std::function<RawAnswer(const RawAnswer& own)> make;
+    int code;  ///< what the request that meets it ends with
+};
+
+RawAnswer WithMore(const QByteArray& bytes, const QByteArray& more, int nMilliseconds = 0)
+{
+    RawAnswer answer{bytes};
+    answer.moreBytes = more;
+    answer.moreMilliseconds = nMilliseconds;
+    return answer;
+}
+
+/// A head of its own, with the answer behind it: at once, in a segment of its own, or some time later.
+std::function<RawAnswer(const RawAnswer&)> HeadBefore(const QByteArray& head, int nMilliseconds = -1)
+{
+    return [head, nMilliseconds](const RawAnswer& own) {
+        return nMilliseconds < 0 ? RawAnswer{head + own.bytes} : WithMore(head, own.bytes, nMilliseconds);
+    };
+}
+
+/// The answer with another one behind it.
+std::function<RawAnswer(const RawAnswer&)> TwoAnswers(int nMilliseconds = -1)
+{
+    return [nMilliseconds](const RawAnswer& own) {
+        return nMilliseconds < 0 ? RawAnswer{own.bytes + kForeign} : WithMore(own.bytes, kForeign, nMilliseconds);
+    };
+}
+
+/// The answer with a body whose length leaves out the second half, which is an answer itself.
+std::function<RawAnswer(const RawAnswer&)> LengthTooSmall(int nMilliseconds = -1)
+{
+    return [nMilliseconds](const RawAnswer& own) {
+        const QByteArray head = "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n{\"cod";
+        const QByteArray rest = "e\":1000}" + own.bytes;
+        return nMilliseconds < 0 ? RawAnswer{head + rest} : WithMore(head, rest, nMilliseconds);
+    };
+}
+
+const QByteArray kBodyless = "Content-Length: 28\r\n\r\n{\"code\":1000,\"data\":{\"n\":9}}";
+constexpr int kLaterMs = 3;
+
+const std::vector<Foreign> kForeigns = {
+    {"100_after", [](const RawAnswer& own) { return WithMore(own.bytes, "HTTP/1.1 100 Continue\r\n\r\n"); }, 0},
+    {"101", HeadBefore("HTTP/1.1 101 Switching Protocols\r\n\r\n"), 101},
+    {"102", HeadBefore("HTTP/1.1 102 Processing\r\n\r\n"), 102},
+    {"102_later", HeadBefore("HTTP/1.1 102 Processing\r\n\r\n", kLaterMs), 102},
+    {"103", HeadBefore("HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n"), 103},
+    {"103_later", HeadBefore("HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n", kLaterMs), 103},
+    {"204_with_body", HeadBefore("HTTP/1.1 204 No Content\r\n" + kBodyless), 204},
+    {"204_and_an_answer_later", HeadBefore("HTTP/1.1 204 No Content\r\n\r\n", kLaterMs), 204},
+    {"304_with_body", HeadBefore("HTTP/1.1 304 Not Modified\r\n" + kBodyless), 304},
+    {"304_and_an_answer_later", HeadBefore("HTTP/1.1 304 Not Modified\r\n\r\n", kLaterMs), 304},
+    {"two_answers", TwoAnswers(), 0},
+    {"two_answers_in_segments", TwoAnswers(0), 0},
+    {"two_answers_the_second_later", TwoAnswers(kLaterMs), 0},
+    {"length_too_small", LengthTooSmall(), -1},
+    {"length_too_small_in_segments", LengthTooSmall(0), -1},
+    {"length_too_small_the_rest_later", LengthTooSmall(kLaterMs), -1},
+};
+
+/// What the host does until the foreign bytes have arrived.
+enum Between {
+    EventLoop,
+    Sleep
+};
+
+struct ForeignCase {
+    std::string name;
+    Foreign foreign;
+    RawServer::Scheme scheme;
+    Between between;
+    int calls;
+};
+
+void PrintTo(const ForeignCase& row, std::ostream* pStream)
+{
+    *pStream << row.name;
+}
+
+std::vector<ForeignCase> Cases(int nCalls)
+{
+    std::vector<ForeignCase> cases;
+    for (const Foreign& foreign : kForeigns) {
+        for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
+            for (const Between between : {EventLoop, Sleep}) {
+                cases.push_back({foreign.name + std::string(scheme == RawServer::Http ? "_http" : "_https") +
+                                     (between == EventLoop ? "_loop" : "_sleep"),
+                                 foreign, scheme, between, nCalls});
+            }
+        }
+    }
+    return cases;
+}
+
+class ForeignAnswer : public TransportHost, public testing::WithParamInterface<ForeignCase> {};
+
+TEST_P(ForeignAnswer, GoesToNoCall)
+{
+    const auto& [name, foreign, scheme, between, nCalls] = GetParam();
+    std::shared_ptr<void> handle;
+    std::mutex mutex;
+    const RawServer server(
+        [&, make = foreign.make](const RawRequest& request) {
+            RawAnswer answer = TaggedAnswer(TagOf(request.target));
+            if (request.target.startsWith("/foreign/")) {
+                answer = make(answer);
+                const std::lock_guard<std::mutex> lock(mutex);
+                answer.done = std::move(handle);
+            }
+            return answer;
+        },
+        scheme);
+    Use(server, scheme);
+    constexpr APIModule::Method kMethods[] = {APIModule::Method_Get, APIModule::Method_Post, APIModule::Method_Put,
+                                              APIModule::Method_Delete};
+    int nForeign = 0;
+    for (int i = 0; i < nCalls / 2; ++i) {
+        const Happening sent;
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            handle = sent.Handle();
+        }
+        const Ended first = Get(QStringLiteral("/foreign/%1").arg(2 * i));
+        EXPECT_EQ(first.code, foreign.code);
+        nForeign += first.parsed && first.tag != 2 * i ? 1 : 0;
+        if (between == EventLoop) {
+            ASSERT_TRUE(Await([&sent] { return sent.HasHappened(); }));
+        }
+        while (!sent.HasHappened()) {
+            QThread::usleep(100);
+        }
+        const Ended second = Run(kMethods[i % 4], QStringLiteral("/own/%1").arg(2 * i + 1), QStringLiteral("{}"));
+        EXPECT_EQ(second.code, 0);
+        nForeign += second.parsed && second.tag != 2 * i + 1 ? 1 : 0;
+    }
+    EXPECT_EQ(nForeign, 0) << "of " << nCalls << " calls";
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, ForeignAnswer, testing::ValuesIn(Cases(8)), RowName());
+// 10,240 calls.
+INSTANTIATE_TEST_SUITE_P(DISABLED_ManyCalls, ForeignAnswer, testing::ValuesIn(Cases(160)), RowName());
+
+}  // namespace

@@ -1,0 +1,99 @@
+// What one call leaves for the next: connections within one use of the library, and nothing else.
+#include "support/Rows.h"
+#include "TransportHost.h"
+
+#include <QTimer>
+
+using namespace testing_support;
+using APIModule::CAPIModule;
+
+namespace {
+
+class Separation : public TransportHost, public testing::WithParamInterface<RawServer::Scheme> {};
+
+RawAnswer WithCookie(const RawRequest&)
+{
+    return HttpAnswer(200, R"({"code":1000,"data":{"n":1}})",
+                      "Set-Cookie: session=secret; Path=/\r\nSet-Cookie: all=1; Domain=127.0.0.1\r\n");
+}
+
+TEST_P(Separation, CookiesAreNotSentBack)
+{
+    RawServer server(WithCookie, GetParam());
+    RawServer otherPort(WithCookie, GetParam());
+    for (RawServer* const pServer : {&server, &server, &otherPort, &server}) {
+        Use(*pServer, GetParam());
+        for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
+            ASSERT_EQ(Run(method, QStringLiteral("/path"), QStringLiteral("{}")).code, 0);
+            for (const RawRequest& request : pServer->TakeRequests()) {
+                EXPECT_TRUE(request.Values("Cookie").isEmpty()) << request.head.constData();
+            }
+        }
+    }
+}
+
+TEST_P(Separation, CredentialsAreNotSent)
+{
+    RawServer server([](const RawRequest&) { return HttpAnswer(401, "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"); },
+                     GetParam());
+    Use(server, GetParam());
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(Get(QStringLiteral("/path")).code, 7000);
+    }
+    const std::vector<RawRequest> requests = server.TakeRequests();
+    EXPECT_EQ(requests.size(), 2U);
+    for (const RawRequest& request : requests) {
+        EXPECT_TRUE(request.Values("Authorization").isEmpty());
+    }
+}
+
+TEST_P(Separation, ConnectionsAreKeptWithinOneUseAndNotBeyond)
+{
+    RawServer server([](const RawRequest&) { return SuccessAnswer(); }, GetParam());
+    Use(server, GetParam());
+    for (int nUse = 1; nUse <= 3; ++nUse) {
+        for (int i = 0; i < 4; ++i) {
+            ASSERT_EQ(Get(QStringLiteral("/path")).code, 0);
+        }
+        for (const RawRequest& request : server.TakeRequests()) {
+            EXPECT_EQ(request.connection, nUse);
+        }
+        CAPIModule::GetInstance().UnInit();
+        EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 0; })) << "after the end of use";
+        CAPIModule::GetInstance().Init(&users);
+    }
+    EXPECT_EQ(server.ConnectionCount(), 3);
+}
+
+/// One that waits while use ends goes on to its result, on a connection that nobody uses after it.
+TEST_P(Separation, CallThatWaitsKeepsItsConnectionToItself)
+{
+    RawServer server(
+        [](const RawRequest& request) {
+            RawAnswer answer = SuccessAnswer();
+            answer.delayMilliseconds = request.target == "/waits" ? 200 : 0;
+            return answer;
+        },
+        GetParam());
+    Use(server, GetParam());
+    ASSERT_EQ(Get(QStringLiteral("/path")).code, 0);
+    QTimer::singleShot(50, [this] {
+        CAPIModule::GetInstance().UnInit();
+        CAPIModule::GetInstance().Init(&users);
+        EXPECT_EQ(Get(QStringLiteral("/meanwhile")).code, 0);
+    });
+    EXPECT_EQ(Get(QStringLiteral("/waits")).code, 0);
+    EXPECT_EQ(Get(QStringLiteral("/path")).code, 0);
+    const std::vector<RawRequest> requests = server.TakeRequests();
+    ASSERT_EQ(requests.size(), 4U);
+    EXPECT_EQ(requests[0].connection, 1);
+    EXPECT_EQ(requests[1].connection, 1) << "waits";
+    EXPECT_EQ(requests[2].connection, 2) << "meanwhile";
+    EXPECT_EQ(requests[3].connection, 2) << "after both";
+    EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 1; }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Schemes, Separation, testing::Values(RawServer::Http, RawServer::Https),
+                         [](const auto& row) { return row.param == RawServer::Http ? "http" : "https"; });
+
+}  // namespace
