@@ -27,8 +27,9 @@ namespace {
 QStringList ExportedNames()
 {
     QProcess nm;
-    nm.start(QStringLiteral("nm"), {QStringLiteral("-DC"), QStringLiteral("--defined-only"),
-                                    QStringLiteral("--format=posix"), QStringLiteral(API_MODULE_LIBRARY)});
+    nm.start(QStringLiteral("nm"),
+             {QStringLiteral("-DC"), QStringLiteral("--defined-only"), QStringLiteral("--extern-only"),
+              QStringLiteral("--format=posix"), QStringLiteral(API_MODULE_LIBRARY)});
     EXPECT_TRUE(nm.waitForFinished());
     EXPECT_EQ(nm.exitCode(), 0) << nm.readAllStandardError().constData();
     return QString::fromUtf8(nm.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
