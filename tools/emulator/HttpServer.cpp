@@ -4,12 +4,11 @@
 #include "RequestReader.h"
 #include "Texts.h"
 
-#include <boost/asio/bind_executor.hpp>
+#include <boost/asio/basic_waitable_timer.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/ip/v6_only.hpp>
 #include <boost/asio/ssl.hpp>
-#include <boost/asio/steady_timer.hpp>
 #include <boost/asio/strand.hpp>
 #include <boost/asio/write.hpp>
 #include <boost/beast/http/status.hpp>
@@ -38,6 +37,8 @@ using Clock = std::chrono::steady_clock;
 using Strand = asio::strand<asio::io_context::executor_type>;
 using Socket = asio::basic_stream_socket<tcp, Strand>;
 using TlsStream = asio::ssl::stream<Socket>;
+using Acceptor = asio::basic_socket_acceptor<tcp, Strand>;
+using Resolver = asio::ip::basic_resolver<tcp, Strand>;
 using Timer = asio::basic_waitable_timer<Clock, asio::wait_traits<Clock>, Strand>;
 
 constexpr unsigned kLeastThreads = 2;
@@ -556,9 +557,9 @@ public:
     void open(const std::string& address, int port)
     {
         error_code error;
-        tcp::resolver resolver(m_acceptor.get_executor());
-        const auto found = resolver.resolve(address, std::to_string(port),
-                                            tcp::resolver::passive | tcp::resolver::numeric_service, error);
+        Resolver resolver(m_acceptor.get_executor());
+        const auto found =
+            resolver.resolve(address, std::to_string(port), Resolver::passive | Resolver::numeric_service, error);
         for (const auto& entry : found) {
             error = open(entry.endpoint());
             if (!error) {
@@ -611,18 +612,18 @@ private:
         m_acceptor.close(error);
         attempt([&] { m_acceptor.open(endpoint.protocol(), error); });
         // Two servers must not share a port, so no SO_REUSEPORT.
-        attempt([&] { m_acceptor.set_option(tcp::acceptor::reuse_address(true), error); });
+        attempt([&] { m_acceptor.set_option(Acceptor::reuse_address(true), error); });
         if (endpoint.address().is_v6()) {
             attempt([&] { m_acceptor.set_option(asio::ip::v6_only(false), error); });
         }
         attempt([&] { m_acceptor.bind(endpoint, error); });
-        attempt([&] { m_acceptor.listen(tcp::acceptor::max_listen_connections, error); });
+        attempt([&] { m_acceptor.listen(Acceptor::max_listen_connections, error); });
         return error;
     }
 
     asio::io_context& m_context;
-    tcp::acceptor m_acceptor;
-    asio::steady_timer m_pause;
+    Acceptor m_acceptor;
+    Timer m_pause;
     std::optional<asio::ssl::context> m_tls;
 };
 
