@@ -79,7 +79,11 @@ Connection::Connection(AccessManager& manager, const QUrl& url, const QSslConfig
     m_timer.setSingleShot(true);
 }
 
-Connection::~Connection() = default;
+Connection::~Connection()
+{
+    disconnect();
+    Close();
+}
 
 void Connection::Open()
 {
@@ -232,7 +236,7 @@ bool Connection::IsFitFor(const Reply& reply)
     m_bProbing = true;
     m_pSocket->waitForReadyRead(0);
     m_bProbing = false;
-    return !m_bClosed;
+    return !m_bClosed && m_pSocket->state() == QAbstractSocket::ConnectedState;
 }
 
 void Connection::Carry(Reply& reply)
