@@ -10,6 +10,9 @@
 
 #include <functional>
 
+/// @file
+/// Types of CAPIModule::SetServerTrust(). The one header of the library that needs Qt Network.
+
 namespace APIModule {
 
 /// A server as it presents itself over TLS, before anything has been sent to it.
