@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCryptographicHash>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDirIterator>
@@ -161,6 +162,173 @@ TEST_F(ServersTest, ACancelledDialogChangesNothing)
     QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
     Press("serversDialog", QDialogButtonBox::Cancel);
     EXPECT_EQ(session->servers.All().size(), 1);
+}
+
+class CertificateTest : public ServersTest {
+protected:
+    CertificateTest()
+        : m_certificate(testing_support::MakeCertificate()),
+          m_configuration(testing_support::ServerConfiguration(m_certificate))
+    {}
+
+    /// The server with its certificate; another certificate makes a false one.
+    [[nodiscard]] const QSslConfiguration& Configuration() const { return m_configuration; }
+    [[nodiscard]] QByteArray Digest() const { return m_certificate.certificate.digest(QCryptographicHash::Sha256); }
+
+    static testing_support::RawAnswer Answer(const RawRequest&) { return Success("{}"); }
+
+    /// Opens the dialog at the last server.
+    void Edit()
+    {
+        QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+        Find<QListWidget>("serverList").setCurrentRow(session->servers.All().size() - 1);
+    }
+
+    void LookAtCertificate()
+    {
+        QTest::mouseClick(&Find<QPushButton>("showCertificate"), Qt::LeftButton);
+        ASSERT_TRUE(Await([this] { return Find<QPushButton>("showCertificate").isEnabled(); }));
+    }
+
+    void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
+
+    /// A digest as a label shows it.
+    [[nodiscard]] QByteArray DigestIn(const char* label) const
+    {
+        const QString text = TextOf(label);
+        return QByteArray::fromHex(text.mid(text.indexOf(QLatin1Char('\n'))).remove(QLatin1Char('\n')).toLatin1());
+    }
+
+    void Trust(const QByteArray& digest)
+    {
+        QVector<explorer::Server> servers = session->servers.All();
+        servers.last().pin = digest;
+        session->servers.Replace(servers);
+    }
+
+    void ExpectRefused(RawServer& server)
+    {
+        server.AnswerAnything();
+        const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
+        EXPECT_FALSE(outcome.succeeded);
+        EXPECT_EQ(outcome.result, -1);
+        EXPECT_FALSE(outcome.reply);
+        EXPECT_TRUE(server.TakeRequests().empty()) << "nothing is sent to a server that is not trusted";
+    }
+
+private:
+    const testing_support::Certificate m_certificate;
+    const QSslConfiguration m_configuration;
+};
+
+TEST_F(CertificateTest, IsShownAndTrustedAndKeptWithTheServer)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    Edit();
+    EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled()) << "nothing to trust was shown";
+    LookAtCertificate();
+    EXPECT_EQ(DigestIn("presentedCertificate"), Digest());
+    EXPECT_TRUE(TextOf("changedCertificate").isEmpty());
+    EXPECT_TRUE(server.TakeRequests().empty());
+    Click("trustCertificate");
+    EXPECT_EQ(DigestIn("trustedCertificate"), Digest());
+    Press("serversDialog", QDialogButtonBox::Ok);
+    EXPECT_EQ(session->servers.Current().pin, Digest());
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
+    Close();
+
+    Start();
+    EXPECT_EQ(session->servers.Current().pin, Digest());
+}
+
+TEST_F(CertificateTest, ThatHasChangedIsWarnedOf)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    const QByteArray before(Digest().size(), 'x');
+    Trust(before);
+    Edit();
+    EXPECT_TRUE(TextOf("changedCertificate").isEmpty());
+    LookAtCertificate();
+    EXPECT_EQ(DigestIn("trustedCertificate"), before);
+    EXPECT_EQ(DigestIn("presentedCertificate"), Digest());
+    EXPECT_TRUE(TextOf("changedCertificate").contains(QStringLiteral("has changed")));
+    EXPECT_TRUE(Find<QLabel>("changedCertificate").isVisible());
+    Click("trustCertificate");
+    EXPECT_TRUE(TextOf("changedCertificate").isEmpty());
+    Press("serversDialog", QDialogButtonBox::Ok);
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
+}
+
+TEST_F(CertificateTest, IsNoLongerTrustedAloneWhenAnyIs)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    Trust(QByteArray(Digest().size(), 'x'));
+    Edit();
+    Click("trustAnyCertificate");
+    Press("serversDialog", QDialogButtonBox::Ok);
+    EXPECT_TRUE(session->servers.Current().pin.isEmpty());
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
+}
+
+TEST_F(CertificateTest, OfAServerThatDoesNotAnswerIsSaidToBeMissing)
+{
+    Use(1, true);
+    Edit();
+    LookAtCertificate();
+    EXPECT_TRUE(TextOf("presentedCertificate").startsWith(QStringLiteral("The server shows none: ")));
+    EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled());
+}
+
+TEST_F(CertificateTest, OfAnotherAddressIsNotTrustedByMistake)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    Edit();
+    LookAtCertificate();
+    EXPECT_TRUE(Find<QPushButton>("trustCertificate").isEnabled());
+    TypeInto("serverHost", QStringLiteral("other.example"));
+    EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled());
+    EXPECT_TRUE(TextOf("presentedCertificate").isEmpty());
+}
+
+class CallToAPinnedServerTest : public CertificateTest, public testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override { session->tap.SetOn(GetParam()); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Recorders, CallToAPinnedServerTest, testing::Bool(),
+                         [](const auto& row) { return row.param ? "On" : "Off"; });
+
+TEST_P(CallToAPinnedServerTest, SucceedsWithItsCertificate)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    Trust(Digest());
+    const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
+    EXPECT_TRUE(outcome.succeeded);
+    EXPECT_EQ(outcome.request.recorded, GetParam());
+    EXPECT_EQ(server.TakeRequests().size(), 1U);
+}
+
+TEST_P(CallToAPinnedServerTest, SendsNothingToAnotherCertificate)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    Trust(QByteArray(Digest().size(), 'x'));
+    ExpectRefused(server);
+}
+
+TEST_P(CallToAPinnedServerTest, DoesNotUseAConnectionThatWasMadeBeforeThePin)
+{
+    RawServer server(Answer, Configuration());
+    Use(server.Port(), true);
+    EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
+    server.TakeRequests();
+    Trust(QByteArray(Digest().size(), 'x'));
+    ExpectRefused(server);
 }
 
 class HostTest : public ServersTest, public testing::WithParamInterface<std::pair<const char*, bool>> {};

@@ -29,7 +29,7 @@ QString Server::Address() const
 bool operator==(const Server& left, const Server& right)
 {
     return left.id == right.id && left.name == right.name && left.host == right.host && left.port == right.port &&
-           left.https == right.https && left.language == right.language;
+           left.https == right.https && left.language == right.language && left.pin == right.pin;
 }
 
 Servers::Servers(QSettings& settings, QObject* parent) : QObject(parent), m_settings(settings)
@@ -113,6 +113,7 @@ void Servers::Load()
         server.port = m_settings.value(Key("port"), server.port).toInt();
         server.https = m_settings.value(Key("https"), true).toBool();
         server.language = m_settings.value(Key("language"), server.language).toString();
+        server.pin = QByteArray::fromHex(m_settings.value(Key("pin")).toByteArray());
         if (server.id == kEmulatorId) {
             m_servers.first().https = server.https;
             m_servers.first().language = server.language;
@@ -144,6 +145,7 @@ void Servers::Save() const
         m_settings.setValue(Key("port"), server.port);
         m_settings.setValue(Key("https"), server.https);
         m_settings.setValue(Key("language"), server.language);
+        m_settings.setValue(Key("pin"), QString::fromLatin1(server.pin.toHex()));
     }
     m_settings.endArray();
     m_settings.setValue(Key(kCurrent), Current().id);

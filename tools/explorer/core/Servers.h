@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -16,6 +17,7 @@ struct Server {
     int port = 443;
     bool https = true;
     QString language = QStringLiteral("en");
+    QByteArray pin = {};  ///< SHA-256 digest of the only certificate that calls trust; empty to trust any
 
     /// "https://host:port"
     [[nodiscard]] QString Address() const;

@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include <APIModule.h>
+#include <ServerTrust.h>
 
 #include <QSettings>
 
@@ -21,6 +22,7 @@ Session::Session(QSettings& allSettings, Tokens::Vault* vault, const QString& em
 Session::~Session()
 {
     APIModule::CAPIModule::GetInstance().UnInit();
+    APIModule::CAPIModule::GetInstance().SetServerTrust({});
 }
 
 std::optional<QString> Session::CurrentToken() const
@@ -39,9 +41,26 @@ void Session::UseCurrentServer()
     m_users.Use(server.host.toStdString(), server.port, CurrentToken().value_or(QString()).toStdString());
     APIModule::CAPIModule::GetInstance().SetHttpsMode(server.https ? 1 : 0);
     APIModule::CAPIModule::GetInstance().SetLanguage(server.language.toStdString());
+    TrustCurrentServer();
     if (!servers.IsEmulator()) {
         tokens.Fetch(server.id);
     }
+}
+
+void Session::TrustCurrentServer()
+{
+    const Server& server = servers.Current();
+    tap.Pin(server.host, server.port, server.pin);
+    if (server.pin == m_pin) {
+        return;  // connections are kept
+    }
+    m_pin = server.pin;
+    APIModule::ServerTrust trust;
+    if (!m_pin.isEmpty()) {
+        // The recorder looks at the server itself before it presents a certificate of its own.
+        trust.pins = {{m_pin, QString(), 0}, {TrafficTap::OwnDigest(), QString(), 0}};
+    }
+    APIModule::CAPIModule::GetInstance().SetServerTrust(trust);
 }
 
 }  // namespace explorer

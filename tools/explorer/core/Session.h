@@ -45,8 +45,10 @@ public:
 
 private:
     void UseCurrentServer();
+    void TrustCurrentServer();
 
     catalogue::OneServer m_users;
+    QByteArray m_pin;  // that the library has
 };
 
 }  // namespace explorer

@@ -2,8 +2,10 @@
 
 #include "TapCertificate.h"
 
+#include <QCryptographicHash>
 #include <QHostAddress>
 #include <QNetworkProxy>
+#include <QSignalBlocker>
 #include <QSslConfiguration>
 #include <QSslSocket>
 #include <QTcpServer>
@@ -60,6 +62,17 @@ QString WithoutBrackets(QString host)
     return host.remove(QLatin1Char('[')).remove(QLatin1Char(']'));
 }
 
+const TapCertificate& OwnCertificate()
+{
+    static const TapCertificate own = TapCertificate::Make();
+    return own;
+}
+
+QByteArray DigestOf(const QSslCertificate& certificate)
+{
+    return certificate.digest(QCryptographicHash::Sha256);
+}
+
 QString TargetOf(const QUrl& url)
 {
     return url.toString(QUrl::FullyEncoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
@@ -76,7 +89,8 @@ public:
         connect(&m_client, &QSslSocket::readyRead, this, &Connection::ReadClient);
         connect(&m_client, &QSslSocket::disconnected, this, &Connection::ClientLeft);
         connect(&m_server, &QSslSocket::readyRead, this, &Connection::ReadServer);
-        connect(&m_server, &QSslSocket::connected, this, [this] { AnswerSocks(Succeeded, Opening); });
+        connect(&m_server, &QSslSocket::connected, this, &Connection::ServerConnected);
+        connect(&m_server, &QSslSocket::encrypted, this, &Connection::LookAtServer);
         connect(&m_server, &QSslSocket::errorOccurred, this, &Connection::ServerFailed);
         connect(&m_server, &QSslSocket::disconnected, this, &Connection::ServerLeft);
         m_client.setSocketDescriptor(descriptor);
@@ -100,7 +114,9 @@ private:
         Request,
         Connecting,
         Opening,
+        Looking,  // at the server's certificate
         Relaying,
+        Passing,  // what the library and the server encrypt for each other
         Closed
     };
 
@@ -109,8 +125,17 @@ private:
         if (m_stage == Opening) {
             Open();
         }
+        if (m_stage == Looking) {
+            return;  // the bytes stay for who opens them
+        }
         if (m_stage == Relaying) {
             RelayRequest(m_client.readAll());
+            return;
+        }
+        if (m_stage == Passing) {
+            if (m_server.state() == QAbstractSocket::ConnectedState) {
+                m_server.write(m_client.readAll());
+            }
             return;
         }
         m_socks += m_client.readAll();
@@ -209,8 +234,19 @@ private:
         }
         m_host = m_tap.m_hosts.value(m_name, m_name);
         m_stage = Connecting;
-        m_server.connectToHost(WithoutBrackets(m_host), static_cast<quint16>(m_port));
+        ConnectServer();
         return false;
+    }
+
+    void ConnectServer() { m_server.connectToHost(WithoutBrackets(m_host), static_cast<quint16>(m_port)); }
+
+    void ServerConnected()
+    {
+        if (m_stage == Passing) {
+            ReadClient();  // it waits with the first bytes of its handshake
+        } else {
+            AnswerSocks(Succeeded, Opening);
+        }
     }
 
     bool Refuse()
@@ -232,16 +268,43 @@ private:
     /// The first bytes tell whether the library speaks TLS.
     void Open()
     {
-        m_stage = Relaying;
         if (m_client.peek(1) != QByteArray(1, kTlsHandshake)) {
+            m_stage = Relaying;
             return;
         }
-        static const TapCertificate own = TapCertificate::Make();
-        m_client.setLocalCertificate(own.certificate);
-        m_client.setPrivateKey(own.key);
-        m_client.startServerEncryption();
+        m_stage = Looking;
         m_server.setPeerVerifyMode(QSslSocket::VerifyNone);
         m_server.startClientEncryption();
+    }
+
+    void LookAtServer()
+    {
+        if (m_stage != Looking) {
+            return;
+        }
+        if (m_tap.Trusts(WithoutBrackets(m_host), m_port, m_server.peerCertificate())) {
+            m_stage = Relaying;
+            m_client.setLocalCertificate(OwnCertificate().certificate);
+            m_client.setPrivateKey(OwnCertificate().key);
+            m_client.startServerEncryption();
+            return;
+        }
+        // Not inside a signal of the socket that is used again.
+        QMetaObject::invokeMethod(
+            this, [this] { ConnectAgain(); }, Qt::QueuedConnection);
+    }
+
+    void ConnectAgain()
+    {
+        if (m_stage != Looking) {
+            return;
+        }
+        {
+            const QSignalBlocker blocker(m_server);
+            m_server.abort();
+        }
+        m_stage = Passing;
+        ConnectServer();
     }
 
     void RelayRequest(const QByteArray& bytes)
@@ -268,7 +331,14 @@ private:
 
     void ReadServer()
     {
+        if (m_stage == Looking) {
+            return;  // nobody has asked for anything
+        }
         const QByteArray bytes = m_server.readAll();
+        if (m_stage == Passing) {
+            m_client.write(bytes);
+            return;
+        }
         m_replies.Feed(bytes);
         if (m_replies.IsComplete()) {  // the next request begins with a fresh pair
             m_requests.Next();
@@ -367,6 +437,27 @@ QString TrafficTap::NameFor(const QString& host)
     QString name = QStringLiteral("recorded-") + QString(bare).replace(QLatin1Char(':'), QLatin1Char('-'));
     m_hosts.insert(name, host);
     return name;
+}
+
+QByteArray TrafficTap::OwnDigest()
+{
+    return DigestOf(OwnCertificate().certificate);
+}
+
+void TrafficTap::Pin(const QString& host, int port, const QByteArray& digest)
+{
+    const QPair<QString, int> server(WithoutBrackets(host).toLower(), port);
+    if (digest.isEmpty()) {
+        m_pins.remove(server);
+    } else {
+        m_pins.insert(server, digest);
+    }
+}
+
+bool TrafficTap::Trusts(const QString& host, int port, const QSslCertificate& certificate) const
+{
+    const QByteArray pin = m_pins.value({host.toLower(), port});
+    return pin.isEmpty() || pin == DigestOf(certificate);
 }
 
 int TrafficTap::Expect(const QByteArray& method, const QUrl& url)

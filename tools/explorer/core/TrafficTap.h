@@ -4,12 +4,15 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPair>
 #include <QString>
 #include <QUrl>
 #include <QVector>
 
 #include <memory>
 #include <optional>
+
+class QSslCertificate;
 
 namespace explorer {
 
@@ -23,8 +26,10 @@ struct Exchange {
 ///
 /// The library uses the application's network proxy, as every network client of the program does. The tap is such a
 /// proxy (SOCKS 5, on the loopback address, with a password that only this process knows). It passes every byte on and
-/// keeps a copy. Where the library speaks TLS, the tap answers with a certificate of its own, which the library accepts
-/// since it does not verify its peers, and opens a second TLS connection to the server.
+/// keeps a copy. Where the library speaks TLS, the tap opens a TLS connection to the server and, when that one presents
+/// the certificate that is pinned for it or none is pinned, answers the library with a certificate of its own.
+/// Otherwise it connects the library with the server untouched, so that the library sees the server's certificate and
+/// refuses it.
 class TrafficTap : public QObject {
     Q_OBJECT
 
@@ -39,6 +44,12 @@ public:
     /// What the library must call a host so that its connections go through the tap: a name that the tap alone knows in
     /// the place of the loopback address, to which the toolkit uses no proxy; every other host keeps its own.
     QString NameFor(const QString& host);
+
+    /// The digest of the certificate that the library sees in the place of the server's.
+    static QByteArray OwnDigest();
+
+    /// Pins the certificate of a server by its SHA-256 digest; an empty digest trusts any.
+    void Pin(const QString& host, int port, const QByteArray& digest);
 
     /// Looks out for the next request of that method and URL. Take() gives what was seen of it, under the number that
     /// is returned here.
@@ -58,13 +69,15 @@ private:
         std::shared_ptr<const HttpMessage> reply = nullptr;
     };
 
+    [[nodiscard]] bool Trusts(const QString& host, int port, const QSslCertificate& certificate) const;
     void Seen(const QString& host, int port, const std::shared_ptr<const HttpMessage>& request,
               const std::shared_ptr<const HttpMessage>& reply);
 
     const std::unique_ptr<Listener> m_listener;
     const QString m_password;
     QVector<Expected> m_expected;
-    QHash<QString, QString> m_hosts;  // by the names of the tap's own
+    QHash<QPair<QString, int>, QByteArray> m_pins;  // by host, in lower case and without brackets, and port
+    QHash<QString, QString> m_hosts;                // by the names of the tap's own
     int m_lastNumber = 0;
 };
 

@@ -98,6 +98,13 @@
     </message>
 </context>
 <context>
+    <name>explorer::CertificateLook</name>
+    <message>
+        <source>The server does not answer</source>
+        <translation>Der Server antwortet nicht</translation>
+    </message>
+</context>
+<context>
     <name>explorer::CodeView</name>
     <message>
         <source>The first %1 of %2 characters; a copy has them all.</source>
@@ -836,6 +843,58 @@
     <message>
         <source>To&amp;ken</source>
         <translation>To&amp;ken</translation>
+    </message>
+    <message>
+        <source>Show the server’s</source>
+        <translation>Das des Servers zeigen</translation>
+    </message>
+    <message>
+        <source>Trust this certificate</source>
+        <translation>Diesem Zertifikat vertrauen</translation>
+    </message>
+    <message>
+        <source>Trust any</source>
+        <translation>Jedem vertrauen</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Zertifikat</translation>
+    </message>
+    <message>
+        <source>None: everything travels in the clear.</source>
+        <translation>Keines: alles wird unverschlüsselt übertragen.</translation>
+    </message>
+    <message>
+        <source>Only this one is trusted (SHA-256):
+%1</source>
+        <translation>Nur diesem wird vertraut (SHA-256):
+%1</translation>
+    </message>
+    <message>
+        <source>Any is trusted: who intercepts the connection reads the token.</source>
+        <translation>Jedem wird vertraut: wer die Verbindung abfängt, liest das Token.</translation>
+    </message>
+    <message>
+        <source>The server is asked…</source>
+        <translation>Der Server wird gefragt …</translation>
+    </message>
+    <message>
+        <source>The server shows none: %1</source>
+        <translation>Der Server zeigt keines: %1</translation>
+    </message>
+    <message>
+        <source>The server presents this certificate.</source>
+        <translation>Der Server legt dieses Zertifikat vor.</translation>
+    </message>
+    <message>
+        <source>The server presents (SHA-256):
+%1</source>
+        <translation>Der Server legt vor (SHA-256):
+%1</translation>
+    </message>
+    <message>
+        <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
+        <translation>Das Zertifikat hat sich geändert: Vielleicht antwortet jemand anstelle des Servers. Vergleichen Sie den Fingerabdruck mit dem am Server.</translation>
     </message>
 </context>
 <context>

@@ -97,6 +97,13 @@
     </message>
 </context>
 <context>
+    <name>explorer::CertificateLook</name>
+    <message>
+        <source>The server does not answer</source>
+        <translation>服务器没有应答</translation>
+    </message>
+</context>
+<context>
     <name>explorer::CodeView</name>
     <message>
         <source>The first %1 of %2 characters; a copy has them all.</source>
@@ -834,6 +841,58 @@
     <message>
         <source>To&amp;ken</source>
         <translation>令牌(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show the server’s</source>
+        <translation>显示服务器的证书</translation>
+    </message>
+    <message>
+        <source>Trust this certificate</source>
+        <translation>信任此证书</translation>
+    </message>
+    <message>
+        <source>Trust any</source>
+        <translation>信任任何证书</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>证书</translation>
+    </message>
+    <message>
+        <source>None: everything travels in the clear.</source>
+        <translation>无：所有内容都以明文传输。</translation>
+    </message>
+    <message>
+        <source>Only this one is trusted (SHA-256):
+%1</source>
+        <translation>只信任此证书（SHA-256）：
+%1</translation>
+    </message>
+    <message>
+        <source>Any is trusted: who intercepts the connection reads the token.</source>
+        <translation>信任任何证书：截获连接的人可以读取令牌。</translation>
+    </message>
+    <message>
+        <source>The server is asked…</source>
+        <translation>正在询问服务器…</translation>
+    </message>
+    <message>
+        <source>The server shows none: %1</source>
+        <translation>服务器没有出示证书：%1</translation>
+    </message>
+    <message>
+        <source>The server presents this certificate.</source>
+        <translation>服务器出示的正是此证书。</translation>
+    </message>
+    <message>
+        <source>The server presents (SHA-256):
+%1</source>
+        <translation>服务器出示（SHA-256）：
+%1</translation>
+    </message>
+    <message>
+        <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
+        <translation>证书已更改：可能有人冒充服务器应答。请与服务器上的摘要进行比较。</translation>
     </message>
 </context>
 <context>

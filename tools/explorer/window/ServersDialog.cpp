@@ -2,6 +2,7 @@
 
 #include "Icons.h"
 
+#include "../core/CertificateLook.h"
 #include "../core/Tokens.h"
 #include "../views/Theme.h"
 #include "../views/TintedLabel.h"
@@ -35,13 +36,31 @@ bool IsHost(const QString& text)
            url.port() == kHttpPort;
 }
 
+/// As tools print it, on two lines.
+QString DigestText(const QByteArray& digest)
+{
+    const QByteArray first = digest.left(digest.size() / 2);
+    return QString::fromLatin1(first.toHex(':') + ":\n" + digest.mid(first.size()).toHex(':'));
+}
+
+QLabel* Named(QLabel* pLabel, const char* name)
+{
+    pLabel->setObjectName(QLatin1String(name));
+    pLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    pLabel->setWordWrap(true);
+    return pLabel;
+}
+
 }  // namespace
 
 ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
     : QDialog(pParent), m_servers(servers), m_tokens(tokens), m_edited(servers.All()), m_pList(new QListWidget),
       m_pRemove(new QToolButton), m_pName(new QLineEdit), m_pScheme(new QComboBox), m_pHost(new QLineEdit),
       m_pPort(new QSpinBox), m_pToken(new QLineEdit), m_pLanguage(new QComboBox),
-      m_pProblem(new TintedLabel(theme::Error)),
+      m_pTrusted(Named(new QLabel, "trustedCertificate")), m_pPresented(Named(new QLabel, "presentedCertificate")),
+      m_pChanged(Named(new TintedLabel(theme::Error), "changedCertificate")),
+      m_pLookAt(new QPushButton(tr("Show the server’s"))), m_pTrust(new QPushButton(tr("Trust this certificate"))),
+      m_pTrustAny(new QPushButton(tr("Trust any"))), m_pProblem(new TintedLabel(theme::Error)),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle(tr("Servers"));
@@ -59,7 +78,7 @@ ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
     pLayout->addLayout(pPanes);
     pLayout->addWidget(m_pButtons);
     m_pList->setCurrentRow(m_servers.CurrentIndex());
-    constexpr QSize kSize(640, 360);
+    constexpr QSize kSize(860, 460);
     resize(kSize);
 }
 
@@ -141,8 +160,107 @@ QWidget* ServersDialog::MakeForm()
     pForm->addRow(tr("&Port"), m_pPort);
     pForm->addRow(tr("To&ken"), m_pToken);
     pForm->addRow(tr("&Language"), m_pLanguage);
+    pForm->addRow(tr("Certificate"), MakeCertificate());
     pForm->addRow(m_pProblem);
     return pPane;
+}
+
+QWidget* ServersDialog::MakeCertificate()
+{
+    m_pLookAt->setObjectName(QStringLiteral("showCertificate"));
+    m_pTrust->setObjectName(QStringLiteral("trustCertificate"));
+    m_pTrustAny->setObjectName(QStringLiteral("trustAnyCertificate"));
+    connect(m_pLookAt, &QPushButton::clicked, this, &ServersDialog::LookAtCertificate);
+    connect(m_pTrust, &QPushButton::clicked, this, [this] { Pin(m_presented); });
+    connect(m_pTrustAny, &QPushButton::clicked, this, [this] { Pin({}); });
+
+    auto* const pPane = new QWidget;
+    auto* const pLayout = new QVBoxLayout(pPane);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    for (QLabel* const pLabel : {m_pTrusted, m_pPresented, m_pChanged}) {
+        pLayout->addWidget(pLabel);
+    }
+    auto* const pBar = new QHBoxLayout;
+    for (QPushButton* const pButton : {m_pLookAt, m_pTrust, m_pTrustAny}) {
+        pButton->setAutoDefault(false);
+        pBar->addWidget(pButton);
+    }
+    pBar->addStretch();
+    pLayout->addLayout(pBar);
+    return pPane;
+}
+
+void ServersDialog::LookAtCertificate()
+{
+    ForgetPresented();
+    const Server& server = m_edited.at(m_shown);
+    auto* const pLook = new CertificateLook(server.host, server.port, this);
+    m_pLook = pLook;
+    const auto end = [this](const QByteArray& digest, const QString& why) {
+        m_presented = digest;
+        m_whyNotPresented = why;
+        m_pLook->deleteLater();
+        m_pLook.clear();
+        ShowCertificate();
+    };
+    connect(pLook, &CertificateLook::Seen, this, [end](const QByteArray& digest) { end(digest, QString()); });
+    connect(pLook, &CertificateLook::Failed, this, [end](const QString& why) { end(QByteArray(), why); });
+    ShowCertificate();
+}
+
+void ServersDialog::ForgetPresented()
+{
+    delete m_pLook;
+    m_presented.clear();
+    m_whyNotPresented.clear();
+    ShowCertificate();
+}
+
+void ServersDialog::Pin(const QByteArray& digest)
+{
+    m_edited[m_shown].pin = digest;
+    ShowCertificate();
+}
+
+void ServersDialog::ShowCertificate()
+{
+    const Server& server = m_edited.at(m_shown);
+    const bool isEmulator = server.id == kEmulatorId;
+    const bool isPinned = !server.pin.isEmpty();
+    if (isEmulator) {
+        m_pTrusted->setText(tr("A fresh one for each start"));
+    } else if (!server.https) {
+        m_pTrusted->setText(tr("None: everything travels in the clear."));
+    } else if (isPinned) {
+        m_pTrusted->setText(tr("Only this one is trusted (SHA-256):\n%1").arg(DigestText(server.pin)));
+    } else {
+        m_pTrusted->setText(tr("Any is trusted: who intercepts the connection reads the token."));
+    }
+
+    QString presented;
+    if (m_pLook) {
+        presented = tr("The server is asked…");
+    } else if (!m_whyNotPresented.isEmpty()) {
+        presented = tr("The server shows none: %1").arg(m_whyNotPresented);
+    } else if (!m_presented.isEmpty() && m_presented == server.pin) {
+        presented = tr("The server presents this certificate.");
+    } else if (!m_presented.isEmpty()) {
+        presented = tr("The server presents (SHA-256):\n%1").arg(DigestText(m_presented));
+    }
+    m_pPresented->setText(presented);
+    m_pPresented->setVisible(!presented.isEmpty());
+
+    const bool isOther = !m_presented.isEmpty() && m_presented != server.pin;
+    m_pChanged->setText(isPinned && isOther
+                            ? tr("The certificate has changed: somebody may answer in the server’s place. "
+                                 "Compare the digest with the one at the server.")
+                            : QString());
+    m_pChanged->setVisible(isPinned && isOther);
+
+    const bool isOffered = server.https && !isEmulator;
+    m_pLookAt->setEnabled(isOffered && !m_pLook && IsHost(server.host));
+    m_pTrust->setEnabled(isOffered && isOther);
+    m_pTrustAny->setEnabled(isOffered && isPinned);
 }
 
 void ServersDialog::Add()
@@ -187,6 +305,7 @@ void ServersDialog::ShowServer(int index)
         pWidget->setEnabled(!isEmulator);
     }
     m_shown = index;
+    ForgetPresented();
     Check();
 }
 
@@ -196,11 +315,15 @@ void ServersDialog::TakeOver()
         return;
     }
     Server& server = m_edited[m_shown];
+    const QString address = server.Address();
     server.name = m_pName->text().trimmed();
     server.host = m_pHost->text().trimmed();
     server.port = m_pPort->value();
     server.https = m_pScheme->currentData().toBool();
     server.language = m_pLanguage->currentText().trimmed();
+    if (server.Address() != address) {
+        ForgetPresented();
+    }
     Check();
 }
 

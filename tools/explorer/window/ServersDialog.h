@@ -4,12 +4,14 @@
 
 #include <QDialog>
 #include <QHash>
+#include <QPointer>
 
 class QComboBox;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QPushButton;
 class QSpinBox;
 class QToolButton;
 
@@ -29,10 +31,15 @@ public:
 private:
     [[nodiscard]] QWidget* MakeList();
     [[nodiscard]] QWidget* MakeForm();
+    [[nodiscard]] QWidget* MakeCertificate();
     void Add();
     void Remove();
     void ShowServer(int index);
     void TakeOver();
+    void LookAtCertificate();
+    void ForgetPresented();
+    void ShowCertificate();
+    void Pin(const QByteArray& digest);
     void Check();
 
     Servers& m_servers;
@@ -40,6 +47,9 @@ private:
     QVector<Server> m_edited;
     QHash<QString, QString> m_newTokens;
     int m_shown = -1;
+    QPointer<QObject> m_pLook;  // at the certificate of the server that is shown
+    QByteArray m_presented;     // digest that it found
+    QString m_whyNotPresented;
     QListWidget* m_pList;
     QToolButton* m_pRemove;
     QLineEdit* m_pName;
@@ -48,6 +58,12 @@ private:
     QSpinBox* m_pPort;
     QLineEdit* m_pToken;
     QComboBox* m_pLanguage;
+    QLabel* m_pTrusted;
+    QLabel* m_pPresented;
+    QLabel* m_pChanged;
+    QPushButton* m_pLookAt;
+    QPushButton* m_pTrust;
+    QPushButton* m_pTrustAny;
     QLabel* m_pProblem;
     QDialogButtonBox* m_pButtons;
 };
