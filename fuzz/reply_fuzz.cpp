@@ -59,7 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pBytes, std::size_t si
     const std::string bytes = data.ConsumeRemainingBytesAsString();
 
     const Read whole = ReadInPieces(bytes, [&] { return qint64(bytes.size()); });
-    // What a reply is does not depend on the pieces. A reply that is too large or corrupt may be noticed earlier or later.
+    // What a reply is does not depend on the pieces. A reply that is too large or corrupt may be noticed earlier or
+    // later.
     std::uint32_t nState = nSeed + 1U;
     const Read pieces = ReadInPieces(bytes, [&] {
         nState = nState * 1664525U + 1013904223U;

@@ -139,8 +139,9 @@ TEST_F(Results, LineOfANetworkErrorShowsNoUrl)
     HostCall call = Call(InLoop, false);
     call.url = QStringLiteral("/path?token=0123456789secret");
     EXPECT_EQ(Execute(call), -1);
-    EXPECT_EQ(logs.Take().back().message, "Request failed, an internal network error occurred, qt network error code: 2, "
-                                          "network error info: Connection closed");
+    EXPECT_EQ(logs.Take().back().message,
+              "Request failed, an internal network error occurred, qt network error code: 2, "
+              "network error info: Connection closed");
 }
 
 TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)

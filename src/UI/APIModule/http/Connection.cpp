@@ -1,10 +1,10 @@
 #include "Connection.h"
 
 #include "AccessManager.h"
+#include "QtText.h"
 #include "Reply.h"
 #include "Trust.h"
 
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <QHostInfo>
 #include <QNetworkProxyFactory>
@@ -31,28 +31,23 @@ constexpr auto kLongestIdle = 2min;
 constexpr std::chrono::milliseconds kLongestIdleForWrite = 100ms;
 constexpr qint64 kReadBufferSize = 256 * 1024;
 
-QString Text(const char* pText)
-{
-    return QCoreApplication::translate("QHttp", pText);
-}
-
 /// What Qt's own HTTP engine reports for an error of a socket.
 std::pair<QNetworkReply::NetworkError, QString> Reported(QAbstractSocket::SocketError error, const QString& host,
                                                          const QString& detail)
 {
     switch (error) {
     case QAbstractSocket::HostNotFoundError:
-        return {QNetworkReply::HostNotFoundError, Text("Host %1 not found").arg(host)};
+        return {QNetworkReply::HostNotFoundError, QtText("Host %1 not found").arg(host)};
     case QAbstractSocket::ConnectionRefusedError:
-        return {QNetworkReply::ConnectionRefusedError, Text("Connection refused")};
+        return {QNetworkReply::ConnectionRefusedError, QtText("Connection refused")};
     case QAbstractSocket::RemoteHostClosedError:
-        return {QNetworkReply::RemoteHostClosedError, Text("Connection closed")};
+        return {QNetworkReply::RemoteHostClosedError, QtText("Connection closed")};
     case QAbstractSocket::SocketTimeoutError:
-        return {QNetworkReply::TimeoutError, QAbstractSocket::tr("Socket operation timed out")};
+        return {QNetworkReply::TimeoutError, QtText("Socket operation timed out", "QAbstractSocket")};
     case QAbstractSocket::ProxyAuthenticationRequiredError:
-        return {QNetworkReply::ProxyAuthenticationRequiredError, Text("Proxy requires authentication")};
+        return {QNetworkReply::ProxyAuthenticationRequiredError, QtText("Proxy requires authentication")};
     case QAbstractSocket::SslHandshakeFailedError:
-        return {QNetworkReply::SslHandshakeFailedError, Text("SSL handshake failed") + QLatin1String(": ") + detail};
+        return {QNetworkReply::SslHandshakeFailedError, QtText("SSL handshake failed") + QLatin1String(": ") + detail};
     case QAbstractSocket::ProxyConnectionRefusedError:
         return {QNetworkReply::ProxyConnectionRefusedError, detail};
     case QAbstractSocket::ProxyConnectionClosedError:
@@ -262,7 +257,7 @@ void Connection::OnReadyRead()
     if (m_reader) {
         Receive();
     } else {
-        Fail(QNetworkReply::RemoteHostClosedError, Text("Connection closed"));  // it belongs to no request
+        Fail(QNetworkReply::RemoteHostClosedError, QtText("Connection closed"));  // it belongs to no request
     }
 }
 
@@ -306,7 +301,7 @@ void Connection::EndReply()
         reply.Complete(reader);
         break;
     case ReplyReader::State::Corrupt:
-        Fail(QNetworkReply::ProtocolFailure, Text("Data corrupted"));
+        Fail(QNetworkReply::ProtocolFailure, QtText("Data corrupted"));
         break;
     case ReplyReader::State::TooLarge:
         Fail(QNetworkReply::UnknownContentError,
@@ -314,7 +309,7 @@ void Connection::EndReply()
         break;
     case ReplyReader::State::Closed:
     case ReplyReader::State::Reading:
-        Fail(QNetworkReply::RemoteHostClosedError, Text("Connection closed"));
+        Fail(QNetworkReply::RemoteHostClosedError, QtText("Connection closed"));
         break;
     }
 }

@@ -1,9 +1,9 @@
 #include "Reply.h"
 
 #include "AccessManager.h"
+#include "QtText.h"
 #include "ReplyReader.h"
 
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <QNetworkProxy>
 
@@ -100,7 +100,7 @@ void Reply::abort()
 {
     m_pManager->Forget(*this);
     if (!isFinished()) {
-        setError(OperationCanceledError, tr("Operation canceled"));
+        setError(OperationCanceledError, QtText("Operation canceled", "QNetworkReply"));
         Finish();
     }
 }
@@ -114,7 +114,7 @@ void Reply::Complete(ReplyReader& reader)
     m_body = reader.TakeBody();
     constexpr int kUnauthorized = 401;
     if (nStatus == kUnauthorized) {
-        setError(AuthenticationRequiredError, QCoreApplication::translate("QHttp", "Host requires authentication"));
+        setError(AuthenticationRequiredError, QtText("Host requires authentication"));
     }
     FinishLater();
 }
