@@ -29,7 +29,7 @@ constexpr auto kLongestIdle = 2min;
 /// A server may close a connection that is idle for longer at the moment at which a write is sent, and nobody knows
 /// then whether it has seen the write.
 constexpr std::chrono::milliseconds kLongestIdleForWrite = 100ms;
-constexpr qint64 kReadBufferSize = 256 * 1024;
+constexpr qint64 kReadBufferSize = 256LL * 1024;
 
 /// What Qt's own HTTP engine reports for an error of a socket.
 std::pair<QNetworkReply::NetworkError, QString> Reported(QAbstractSocket::SocketError error, const QString& host,
@@ -114,7 +114,8 @@ void Connection::OnHostFound(const QHostInfo& info)
     }
     // A host with addresses of both families may be reachable through one of them alone.
     const QAbstractSocket::NetworkLayerProtocol first = info.addresses().constFirst().protocol();
-    for (const QHostAddress& address : info.addresses()) {
+    const QList<QHostAddress> addresses = info.addresses();
+    for (const QHostAddress& address : addresses) {
         if (address.protocol() != first) {
             m_second = address.protocol();
             connect(&m_timer, &QTimer::timeout, this, [this] { Dial(*std::exchange(m_second, std::nullopt)); });

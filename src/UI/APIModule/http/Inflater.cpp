@@ -51,7 +51,7 @@ Inflater::Result Inflater::Append(const char* pData, qint64 size, QByteArray& ou
 
 Inflater::Result Inflater::Run(const QByteArray& input, QByteArray& out, qint64 nMost)
 {
-    constexpr qint64 kLeastStep = 64 * 1024;
+    constexpr qint64 kLeastStep = 64LL * 1024;
     // zlib does not write to its input.
     m_pStream->next_in = reinterpret_cast<Bytef*>(const_cast<char*>(input.constData()));
     m_pStream->avail_in = uInt(input.size());

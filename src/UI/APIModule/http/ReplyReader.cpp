@@ -191,7 +191,7 @@ void ReplyReader::EndHead()
 
 void ReplyReader::BeginBody(std::optional<qint64> length)
 {
-    constexpr qint64 kMostReserved = 64 * 1024 * 1024;
+    constexpr qint64 kMostReserved = 64LL * 1024 * 1024;
     if (!length) {
         m_step = Step::BodyUntilEnd;
         m_bKeepsConnection = false;
