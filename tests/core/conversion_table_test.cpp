@@ -79,8 +79,9 @@ QByteArray Shown(const QJsonValue& value)
         return Shown(value.toString());
     case QJsonValue::Array: {
         QByteArray shown = "[";
-        for (const QJsonValue element : value.toArray()) {
-            shown += (shown.size() > 1 ? "," : "") + Shown(element);
+        const QJsonArray array = value.toArray();
+        for (int i = 0; i < array.size(); ++i) {
+            shown += (i > 0 ? "," : "") + Shown(array.at(i));
         }
         return shown + ']';
     }

@@ -14,7 +14,10 @@ Wait::Wait(QWidget& parent) : m_pDialog(new ORNGUI::OrnWaitDialog(&parent, true)
         m_bOrphaned = true;
         End();
     });
-    QObject::connect(m_pDialog, &QObject::destroyed, &m_loop, [this] { End(); });
+    QObject::connect(m_pDialog, &QObject::destroyed, &m_loop, [this] {
+        m_pDialog.clear();  // no dialog any more, but a mere widget
+        End();
+    });
 }
 
 Wait::~Wait()
