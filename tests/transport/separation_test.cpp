@@ -77,7 +77,8 @@ TEST_P(Separation, CallThatWaitsKeepsItsConnectionToItself)
         GetParam());
     Use(server, GetParam());
     ASSERT_EQ(Get(QStringLiteral("/path")).code, 0);
-    QTimer::singleShot(50, [this] {
+    QObject context;
+    QTimer::singleShot(50, &context, [this] {
         CAPIModule::GetInstance().UnInit();
         CAPIModule::GetInstance().Init(&users);
         EXPECT_EQ(Get(QStringLiteral("/meanwhile")).code, 0);
