@@ -112,6 +112,15 @@ void Install(const QString& file, const QString& folder)
     }
 }
 
+QString ToolkitTranslations()
+{
+#if QT_VERSION_MAJOR == 5
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
 }  // namespace
 
 Appearance StoredAppearance(const QSettings& settings)
@@ -163,7 +172,7 @@ void ApplyLanguage(const QString& language)
 {
     Translators().clear();
     const QString toolkit = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
-    Install(QStringLiteral("qtbase_") + toolkit, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    Install(QStringLiteral("qtbase_") + toolkit, ToolkitTranslations());
     // What no other language says is English, of which the files hold the plural forms.
     for (const QString& spoken : {QStringLiteral("en"), language}) {
         for (const char* name : {"apimodule", "orngui", "tools", "explorer"}) {
