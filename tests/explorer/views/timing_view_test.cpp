@@ -58,10 +58,10 @@ Widget& Child(const TimingView& view, const char* name)
     return *view.findChild<Widget*>(QString::fromLatin1(name));
 }
 
-QVector<QPointF> Points(const TimingView& view, int series)
+QList<QPointF> Points(const TimingView& view, int series)
 {
     const auto* pChart = view.findChild<TimingChart*>()->chart();
-    return qobject_cast<QXYSeries*>(pChart->series().at(series))->pointsVector();
+    return qobject_cast<QXYSeries*>(pChart->series().at(series))->points();
 }
 
 enum Series {
