@@ -57,7 +57,8 @@ function(apimodule_translations name)
         add_custom_target(${name}-texts COMMAND ${update} -P "${script}" VERBATIM)
         add_dependencies(translations ${name}-texts)
     endif()
-    if(APIMODULE_BUILD_TESTS AND BUILD_TESTING)
+    # The files are those of Qt 5's lupdate: that of Qt 6 reads the sources differently.
+    if(APIMODULE_BUILD_TESTS AND BUILD_TESTING AND APIMODULE_QT_MAJOR EQUAL 5)
         add_test(NAME ${name}_translations
             COMMAND ${update} "-DCHECK_IN=${CMAKE_CURRENT_BINARY_DIR}/${name}-translations" -P "${script}")
     endif()

@@ -58,10 +58,11 @@ Widget& Child(const TimingView& view, const char* name)
     return *view.findChild<Widget*>(QString::fromLatin1(name));
 }
 
-QList<QPointF> Points(const TimingView& view, int series)
+QVector<QPointF> Points(const TimingView& view, int series)
 {
     const auto* pChart = view.findChild<TimingChart*>()->chart();
-    return qobject_cast<QXYSeries*>(pChart->series().at(series))->points();
+    const QList<QPointF> points = qobject_cast<QXYSeries*>(pChart->series().at(series))->points();
+    return {points.begin(), points.end()};
 }
 
 enum Series {
