@@ -237,14 +237,14 @@ void MainWindow::MakeCallMenu()
 {
     QMenu* const pMenu = menuBar()->addMenu(tr("&Call"));
     QAction* const pRun = pMenu->addAction(tr("&Run"), this, &MainWindow::Run);
-    pRun->setShortcuts({Qt::Key_F5, QKeySequence(Qt::CTRL | Qt::Key_Return)});
+    pRun->setShortcuts({Qt::Key_F5, QKeySequence(int(Qt::CTRL) + Qt::Key_Return)});
     pMenu->addAction(tr("&Find a call"), m_pCalls, &CallPanel::FocusFilter)->setShortcut(QKeySequence::Find);
     QAction* const pFavourite = pMenu->addAction(tr("Favourite &on or off"), this, [this] {
         if (m_pCall != nullptr) {
             ToggleFavourite(!m_pCalls->IsFavourite(*m_pCall));
         }
     });
-    pFavourite->setShortcut(Qt::CTRL | Qt::Key_D);
+    pFavourite->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_D));
     pMenu->addSeparator();
     QAction* const pRecord = pMenu->addAction(tr("Record what goes over the &wire"), this, [this](bool on) {
         m_session.settings.setValue(QLatin1String(kRecordKey), on);
@@ -269,8 +269,10 @@ void MainWindow::RecordTraffic(bool on)
 void MainWindow::MakeServerMenu()
 {
     QMenu* const pMenu = menuBar()->addMenu(tr("&Server"));
-    pMenu->addAction(tr("&Choose"), m_pServerBar, &ServerBar::FocusServers)->setShortcut(Qt::CTRL | Qt::Key_L);
-    pMenu->addAction(tr("&Edit…"), this, &MainWindow::EditServers)->setShortcut(Qt::CTRL | Qt::Key_E);
+    pMenu->addAction(tr("&Choose"), m_pServerBar, &ServerBar::FocusServers)
+        ->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_L));
+    pMenu->addAction(tr("&Edit…"), this, &MainWindow::EditServers)
+        ->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_E));
     pMenu->addAction(tr("Give the &token…"), this, &MainWindow::AskForToken);
     pMenu->addSeparator();
     pMenu->addAction(tr("&Start the emulator"), &m_session.emulator, &EmulatorProcess::Start);
@@ -295,7 +297,8 @@ void MainWindow::MakeViewMenu()
     pMenu->addSeparator();
     MakeGoToMenu(pMenu->addMenu(tr("&Go to")));
     pMenu->addAction(tr("&Next pane"), this, [this] { FocusPane(1); })->setShortcut(Qt::Key_F6);
-    pMenu->addAction(tr("&Previous pane"), this, [this] { FocusPane(-1); })->setShortcut(Qt::SHIFT | Qt::Key_F6);
+    pMenu->addAction(tr("&Previous pane"), this, [this] { FocusPane(-1); })
+        ->setShortcut(QKeySequence(int(Qt::SHIFT) + Qt::Key_F6));
 }
 
 void MainWindow::MakeGoToMenu(QMenu* pMenu)
