@@ -307,7 +307,7 @@ TEST_P(EndTest, QuitAgainEndsACallInASlotOfAboutToQuit)
     EXPECT_LT(elapsed.elapsed(), 10000) << "neither call takes its 20 s";
 }
 
-/// Nobody tells of the end then: the next exec takes it back.
+/// Nothing is emitted then, and the next exec() clears the request to exit.
 TEST_P(EndTest, ExitWithoutARunningLoopEndsCallsUntilTheNextExec)
 {
     TestApplication application(g_argc, g_argv);

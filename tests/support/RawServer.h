@@ -49,7 +49,7 @@ struct RawAnswer {
     int delayMilliseconds = 0;    ///< before the bytes
     Then then = KeepOpen;         ///< after the bytes
     int trickleMilliseconds = 0;  ///< between one byte and the next; 0 sends all at once
-    QByteArray moreBytes = {};    ///< in a segment (and a TLS record) of their own
+    QByteArray moreBytes = {};    ///< sent as a separate segment and TLS record
     int moreMilliseconds = 0;     ///< between the bytes and more bytes
     int endlessPerSecond = 0;     ///< sends more bytes again and again, so many a second, until the server is destroyed
     int thenMilliseconds = 0;     ///< between the last byte and what comes after it

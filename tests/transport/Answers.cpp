@@ -93,7 +93,7 @@ std::vector<Answer> Answers()
         {"line_feeds_alone", Raw("HTTP/1.1 200 OK\nContent-Length: 28\n\n" + body)},
         {"line_feeds_mixed", Raw("HTTP/1.1 200 OK\r\nContent-Length: 28\n\r\n" + body)},
         {"carriage_returns_alone", Raw("HTTP/1.1 200 OK\rContent-Length: 28\r\r" + body, RawAnswer::Close)},
-        // Statuses with rules of their own
+        // Statuses with special rules
         {"100_before_200", Raw("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n" + kLength + "\r\n" + body)},
         {"100_with_headers_before_200",
          Raw("HTTP/1.1 100 Continue\r\nX-A: 1\r\n\r\nHTTP/1.1 200 OK\r\n" + kLength + "\r\n" + body)},

@@ -51,7 +51,7 @@ std::string Shown(const Read& read)
     return line;
 }
 
-/// The errors by which Qt tells a status of 400 and above.
+/// The errors that Qt reports for statuses of 400 and above.
 bool IsOfStatus(QNetworkReply::NetworkError error)
 {
     return error == QNetworkReply::ProxyAuthenticationRequiredError ||

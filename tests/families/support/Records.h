@@ -12,7 +12,7 @@
 #include <type_traits>
 #include <vector>
 
-/// Records told as JSON, each field under its name, in both directions.
+/// Converts records to and from JSON, each field under its name.
 namespace family_testing {
 
 using Json = nlohmann::json;

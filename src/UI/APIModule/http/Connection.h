@@ -98,7 +98,7 @@ private:
     std::optional<ReplyReader> m_reader;  ///< once the request has been sent
     bool m_bReady = false;
     bool m_bUsed = false;     ///< has carried a request before
-    bool m_bProbing = false;  ///< looks whether something has come
+    bool m_bProbing = false;  ///< while IsFitFor() polls the socket
     bool m_bClosed = false;
 };
 
