@@ -98,13 +98,15 @@ void Vanish(QAbstractSocket& socket)
     socket.abort();
 }
 
-void Finish(QAbstractSocket& socket, RawAnswer::Then then)
+void Finish(QAbstractSocket& socket, const RawAnswer& answer)
 {
     constexpr int kLaterMs = 20;
-    switch (then) {
+    switch (answer.then) {
     case RawAnswer::KeepOpen:
         break;
     case RawAnswer::Close:
+        // Closing goes on in the event loop; the socket is deleted when it is closed, and lets go of its slots then.
+        QObject::connect(&socket, &QAbstractSocket::disconnected, [done = answer.done] {});
         socket.disconnectFromHost();
         break;
     case RawAnswer::CloseLater:
@@ -161,15 +163,12 @@ void SendMore(QAbstractSocket& socket, const RawAnswer& answer)
         socket.write(answer.moreBytes);
         socket.flush();
     }
-    After(answer.thenMilliseconds, socket, [&socket, then = answer.then, done = answer.done] { Finish(socket, then); });
+    After(answer.thenMilliseconds, socket, [&socket, answer] { Finish(socket, answer); });
 }
 
 void Send(QAbstractSocket& socket, const RawAnswer& answer)
 {
     if (answer.trickleMilliseconds == 0 || answer.bytes.isEmpty()) {
-        if (!answer.moreBytes.isEmpty()) {
-            socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);  // or they wait for an acknowledgement
-        }
         socket.write(answer.bytes);
         if (answer.done) {
             socket.flush();
@@ -199,6 +198,8 @@ protected:
     {
         auto* pSocket = new QSslSocket(this);
         pSocket->setSocketDescriptor(descriptor);
+        // Otherwise an answer waits until the client has acknowledged what came before it, and a reset discards it.
+        pSocket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         const int nConnection = ++m_server.m_connections;
         ++m_server.m_openConnections;
         connect(pSocket, &QSslSocket::disconnected, this, [this, pSocket] {

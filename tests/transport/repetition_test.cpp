@@ -132,6 +132,7 @@ INSTANTIATE_TEST_SUITE_P(Reads, ReadTest, testing::ValuesIn(Rows({{"get", APIMod
 /// A kept connection that has ended, which the host's event loop may or may not have had time to see.
 struct Ending {
     std::string name;
+    RawServer::Scheme scheme;
     RawAnswer::Then then;
     APIModule::Method method;
     bool inEventLoop;
@@ -147,11 +148,14 @@ std::vector<Ending> Endings()
     std::vector<Ending> rows;
     for (const auto& [name, then] : {std::pair("closed", RawAnswer::Close), std::pair("reset", RawAnswer::Reset),
                                      std::pair("half_closed", RawAnswer::HalfClose)}) {
-        for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
-            for (const bool bInEventLoop : {false, true}) {
-                rows.push_back({std::string(name) + (method == APIModule::Method_Get ? "_read" : "_write") +
-                                    (bInEventLoop ? "_loop" : "_sleep"),
-                                then, method, bInEventLoop});
+        for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
+            for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
+                for (const bool bInEventLoop : {false, true}) {
+                    rows.push_back({std::string(name) + (scheme == RawServer::Http ? "_http" : "_https") +
+                                        (method == APIModule::Method_Get ? "_read" : "_write") +
+                                        (bInEventLoop ? "_loop" : "_sleep"),
+                                    scheme, then, method, bInEventLoop});
+                }
             }
         }
     }
@@ -165,17 +169,19 @@ TEST_P(EndingTest, CostsNoCallAndRepeatsNone)
     const Ending& row = GetParam();
     std::mutex mutex;
     std::shared_ptr<void> handle;
-    RawServer server([&](const RawRequest& request) {
-        RawAnswer answer = TaggedAnswer(TagOf(request.target));
-        if (request.target == "/first") {
-            answer.then = row.then;
-            answer.thenMilliseconds = 2;
-            const std::lock_guard<std::mutex> lock(mutex);
-            answer.done = std::move(handle);
-        }
-        return answer;
-    });
-    Use(server);
+    RawServer server(
+        [&](const RawRequest& request) {
+            RawAnswer answer = TaggedAnswer(TagOf(request.target));
+            if (request.target == "/first") {
+                answer.then = row.then;
+                answer.thenMilliseconds = 2;
+                const std::lock_guard<std::mutex> lock(mutex);
+                answer.done = std::move(handle);
+            }
+            return answer;
+        },
+        row.scheme);
+    Use(server, row.scheme);
     constexpr int kCalls = 20;
     for (int i = 1; i <= kCalls; ++i) {
         const Happening ended;
