@@ -1,7 +1,6 @@
 // Packing of requests: what Packs of the library cost beside the same request written by hand with Qt, one Pack for
 // each shape of a request.
 #include "Bench.h"
-#include "packing/Allocations.h"
 #include "packing/ByHand.h"
 
 #include <catalogue/Call.h>
@@ -55,20 +54,12 @@ private:
     std::vector<void*> m_arguments;
 };
 
-std::size_t AllocationsOf(const Packing& packing)
-{
-    const std::size_t before = Allocations();
-    benchmark::DoNotOptimize(packing.Run());
-    return Allocations() - before;
-}
-
 void Register(const std::string& name, const std::shared_ptr<const Packing>& pPacking)
 {
     benchmark::RegisterBenchmark(name.c_str(), [pPacking](benchmark::State& state) {
         for (auto _ : state) {
             benchmark::DoNotOptimize(pPacking->Run());
         }
-        state.counters["allocations"] = double(AllocationsOf(*pPacking));
     });
 }
 
