@@ -49,7 +49,7 @@ Outcome Unreadable(int code, const std::string& qtCode, const std::string& qtTex
     if (!qtCode.empty()) {
         line += qtCode + ", network error info: " + qtText;
     }
-    return {code, false, 6, line, !qtText.empty(), {}};
+    return {code, false, 6, line, !qtText.empty()};
 }
 
 }  // namespace
@@ -81,18 +81,17 @@ Outcome Succeeds()
 
 Outcome EnvelopeFails(int code)
 {
-    return {code, true, 4, "Request success.", true, {}};
+    return {code, true, 4, "Request success.", true};
 }
 
 Outcome StatusFails(int status)
 {
-    return {status, true, 6, "Request failed, http status Code: " + std::to_string(status) + ", request url: %1",
-            true,   {}};
+    return {status, true, 6, "Request failed, http status Code: " + std::to_string(status) + ", request url: %1", true};
 }
 
 Outcome TimesOut()
 {
-    return {kTimedOut, false, 6, "Request time out, request url: %1", true, {}};
+    return {kTimedOut, false, 6, "Request time out, request url: %1", true};
 }
 
 Outcome NetworkFails(const std::string& qtCode, const std::string& qtText)
@@ -103,12 +102,6 @@ Outcome NetworkFails(const std::string& qtCode, const std::string& qtText)
 Outcome AsksForAuthentication()
 {
     return Unreadable(7000, "204", "");
-}
-
-Outcome Either(Outcome first, const Outcome& second)
-{
-    first.orElse.push_back(second);
-    return first;
 }
 
 Outcome Unseen(Outcome outcome)
@@ -204,28 +197,22 @@ void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNoti
     lines.erase(std::remove_if(lines.begin(), lines.end(), IsOfTheHost), lines.end());
     const QStringList notices = notifications.Take();
 
-    const Outcome* pOutcome = &outcome;
-    for (const Outcome& other : outcome.orElse) {
-        if (lines.size() > 1 && Matches(lines[1], other, way.waiting, fullUrl)) {
-            pOutcome = &other;
-        }
-    }
-    const bool bSuccess = pOutcome->code == kSuccess;
-    const bool bNotified = !bSuccess && (bNotifyOnFailure || !pOutcome->answered);
-    const QString notice = bSuccess ? QStringLiteral("Done") : Notice(pOutcome->code);
-    EXPECT_EQ(nResult, bSuccess ? 0 : bNotified ? -1 : pOutcome->code);
+    const bool bSuccess = outcome.code == kSuccess;
+    const bool bNotified = !bSuccess && (bNotifyOnFailure || !outcome.answered);
+    const QString notice = bSuccess ? QStringLiteral("Done") : Notice(outcome.code);
+    EXPECT_EQ(nResult, bSuccess ? 0 : bNotified ? -1 : outcome.code);
     EXPECT_EQ(nParsed, bSuccess ? 1 : 0);
-    EXPECT_EQ(notices, pOutcome->shown && (bSuccess || bNotified) ? QStringList{notice} : QStringList());
+    EXPECT_EQ(notices, outcome.shown && (bSuccess || bNotified) ? QStringList{notice} : QStringList());
 
     const bool bUnknownCode = bNotified && notice == call.uiError;
     ASSERT_EQ(lines.size(), bUnknownCode ? 3U : 2U);
     EXPECT_EQ(lines[0],
               (LogLine{kFacadeFile, "APIModule::CAPIModule::ExecuteFuncs", 4, "ExecuteRequest url=" + fullUrl}));
-    EXPECT_TRUE(Matches(lines[1], *pOutcome, way.waiting, fullUrl)) << lines[1] << "\nexpected: " << pOutcome->line;
+    EXPECT_TRUE(Matches(lines[1], outcome, way.waiting, fullUrl)) << lines[1] << "\nexpected: " << outcome.line;
     if (bUnknownCode) {
         EXPECT_EQ(lines[2], (LogLine{kFacadeFile, "APIModule::CAPIModule::GetErroCodeInfor", 6,
                                      "Error code is not exist, strUIError=No settings, errorCode=" +
-                                         std::to_string(pOutcome->code)}));
+                                         std::to_string(outcome.code)}));
     }
 }
 

@@ -33,13 +33,12 @@ std::string NameOf(const Way& way);
 
 /// What the host gets for a call, and what the line of the wait says.
 struct Outcome {
-    int code;          ///< result, or what is notified instead
-    bool answered;     ///< whether an answer came, whose failure is notified only when the caller asked for it
-    int level;         ///< of the line
-    std::string line;  ///< its text, "%1" for the URL
-    bool isWhole;      ///< whether that is all of the line, or how it starts
-    std::vector<Outcome> orElse;  ///< what may come instead
-    bool shown = true;            ///< whether anything can be notified
+    int code;           ///< result, or what is notified instead
+    bool answered;      ///< whether an answer came, whose failure is notified only when the caller asked for it
+    int level;          ///< of the line
+    std::string line;   ///< its text, "%1" for the URL
+    bool isWhole;       ///< whether that is all of the line, or how it starts
+    bool shown = true;  ///< whether anything can be notified
 };
 
 Outcome Succeeds();
@@ -49,8 +48,6 @@ Outcome TimesOut();
 /// A failure of the network. Qt's code and text are left open where they depend on how the bytes fall into packets.
 Outcome NetworkFails(const std::string& qtCode = {}, const std::string& qtText = {});
 Outcome AsksForAuthentication();
-/// For what Qt sees in the one way or the other, as the bytes fall into packets.
-Outcome Either(Outcome first, const Outcome& second);
 
 /// The same for a host that ended use during the call.
 Outcome Unseen(Outcome outcome);

@@ -2,6 +2,8 @@
 
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace testing_support {
 
 using APIModule::CAPIModule;
@@ -35,6 +37,11 @@ Ended TransportHost::Run(APIModule::Method method, const QString& url, const QSt
         }
     }
     return ended;
+}
+
+int Times()
+{
+    return std::max(qEnvironmentVariableIntValue("APIMODULE_TIMES"), 1);
 }
 
 RawAnswer TaggedAnswer(int nTag)

@@ -37,6 +37,9 @@ protected:
     Ended Get(const QString& url) { return Run(APIModule::Method_Get, url); }
 };
 
+/// How many times the usual number of calls the program makes: APIMODULE_TIMES in the environment, otherwise 1.
+int Times();
+
 /// A success with the number of its request as data.
 RawAnswer TaggedAnswer(int nTag);
 /// The number behind the last slash of a target.
