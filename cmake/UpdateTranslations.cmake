@@ -31,6 +31,7 @@ foreach(file IN LISTS FILES)
             message(SEND_ERROR "${file} is not that of the sources: build the target translations")
         endif()
         file(READ "${updated}" text)
+        string(REGEX REPLACE "<name>catalogue::Call</name>([^<]|<[^/]|</[^c])*" "" text "${text}")  # may stay English
         if(text MATCHES "type=\"unfinished\"|<translation></translation>|<translation/>|<numerusform></numerusform>")
             message(SEND_ERROR "${file} misses translations")
         endif()
