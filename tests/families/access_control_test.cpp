@@ -248,4 +248,20 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(AccessControl, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::GetPageAccessAuthorizePersonsReq>(
+        "GetPageAccessAuthorizePersonsReq", "page pageSize containChild keyword deviceCode orgCode pointIds"),
+    FieldsOf<APIModule::PersonOrgInfo>("PersonOrgInfo", "orgCode orgName"),
+    FieldsOf<APIModule::AccessAuthorizePersonInfo>("AccessAuthorizePersonInfo",
+                                                   "personId personName orgCode orgName orgInfos"),
+    FieldsOf<APIModule::GetPageAccessAuthorizePersonsResp>("GetPageAccessAuthorizePersonsResp", "totalCount pageData"),
+    FieldsOf<APIModule::GetManagePersonReq>("GetManagePersonReq", "deviceCode"),
+    FieldsOf<APIModule::ManagePersonInfo>("ManagePersonInfo", "personId personName orgCode orgName errorCode orgInfos"),
+    FieldsOf<APIModule::SetManagePersonReq>("SetManagePersonReq", "deviceCode personIds"),
+    FieldsOf<APIModule::GetPointAccessRules>("GetPointAccessRules", "pointId ruleType hasOfflinePoint"),
+    FieldsOf<APIModule::RuleInfo>("RuleInfo", "ruleId ruleName ruleType hasOfflinePoint"),
+};
+
+INSTANTIATE_TEST_SUITE_P(AccessControl, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

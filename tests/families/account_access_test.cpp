@@ -261,4 +261,17 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(AccountAccess, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::GetChannelWebTunnelRsp>("GetChannelWebTunnelRsp", "https port ip username token"),
+    FieldsOf<APIModule::PermissionResourceCollectionResp>("PermissionResourceCollectionResp",
+                                                          "menuFunctionCodes localConfigItemCodes"),
+    FieldsOf<APIModule::FunctionChannelCheck>("FunctionChannelCheck", "channelId functionCode"),
+    FieldsOf<APIModule::FunctionChannelCheckResult>("FunctionChannelCheckResult", "authorized"),
+    FieldsOf<APIModule::DeviceCategoryParamReq>("DeviceCategoryParamReq",
+                                                "keyword orgCode domain permitted sourceType containChild"),
+    FieldsOf<APIModule::DeviceCategoryQueryResult>("DeviceCategoryQueryResult", "deviceCategory deviceCount"),
+};
+
+INSTANTIATE_TEST_SUITE_P(AccountAccess, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

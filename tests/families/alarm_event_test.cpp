@@ -363,4 +363,23 @@ std::vector<ParseRow> HandWrittenRows()
 INSTANTIATE_TEST_SUITE_P(AlarmEvent, ParseTest, testing::ValuesIn(Joined({GeneratedRows(), HandWrittenRows()})),
                          RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<GetPageSummaryAlarmPlansParam>("GetPageSummaryAlarmPlansParam", "page pageSize keyword"),
+    FieldsOf<SummaryAlarmPlan>("SummaryAlarmPlan", "id planName"),
+    FieldsOf<AlarmLinkChannel>("AlarmLinkChannel", "channelId channelName"),
+    FieldsOf<AlarmLinkAudioChannel>("AlarmLinkAudioChannel", "channelId channelName fileIds"),
+    FieldsOf<AlarmLinkControl>("AlarmLinkControl", "linkAlarmOutputChannels linkAudioLightChannels linkAudioChannels"),
+    FieldsOf<AlarmLayerInfo>("AlarmLayerInfo", "layerId layerName layerPicture locationX locationY width height angle"),
+    FieldsOf<AlarmRecordFile>("AlarmRecordFile",
+                              "fileType filePath ssId channelId recordTime fileTimeLength fileLength"),
+    FieldsOf<AlarmHostFileInfo>("AlarmHostFileInfo", "alarmCode files"),
+    FieldsOf<AudioFileInfo>("AudioFileInfo", "taskProgress fileUrl"),
+    FieldsOf<PluginLogEventType>("PluginLogEventType", "eventType eventTypeName sort"),
+    FieldsOf<PluginLogTypeGroupInfo>("PluginLogTypeGroupInfo", "groupId groupName sort eventTypes"),
+    FieldsOf<GetGeneralEventsParam>("GetGeneralEventsParam", "transportType matchType keyword"),
+    FieldsOf<GeneralEventRsp>("GeneralEventRsp", "id eventName"),
+};
+
+INSTANTIATE_TEST_SUITE_P(AlarmEvent, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

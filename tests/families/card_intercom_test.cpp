@@ -180,4 +180,14 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(CardIntercom, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::AcsCardConfigParam>("AcsCardConfigParam", "enableDesfire enableReadEncryptContent"),
+    FieldsOf<APIModule::ConfigDesFireFailureReq>("ConfigDesFireFailureReq", "page pageSize keyword"),
+    FieldsOf<APIModule::DesfireFailureInfo>("DesfireFailureInfo", "id deviceCode deviceName deviceIp reason"),
+    FieldsOf<APIModule::GetPageConfigDesfireFailureResp>("GetPageConfigDesfireFailureResp", "totalCount pageData"),
+    FieldsOf<APIModule::DeleteAddressBookParam>("DeleteAddressBookParam", "deleteAll vtoDeviceCode vthDeviceCodes"),
+};
+
+INSTANTIATE_TEST_SUITE_P(CardIntercom, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

@@ -306,4 +306,20 @@ TEST(DeviceConfig, FreshRecords)
     EXPECT_EQ(ToJson(MultiCastStreamStatus()), Json::parse(R"({"channelId": "", "streamType": 0, "status": false})"));
 }
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::NetworkConfig>("NetworkConfig", "deviceCode ip mask gateway dns"),
+    FieldsOf<APIModule::EncodeConfig>(
+        "EncodeConfig",
+        "channelId streamType bitRate bitRateControl compression enable frameRate iFrameInterval height width"),
+    FieldsOf<APIModule::EncodeFormat>("EncodeFormat", "frameRateMax videoHeight videoWidth"),
+    FieldsOf<APIModule::EncodeCompressionCapability>("EncodeCompressionCapability", "compression formats"),
+    FieldsOf<APIModule::EncodeCapability>("EncodeCapability", "supportCompressions encodeCapabilities"),
+    FieldsOf<APIModule::ImageConfig>("ImageConfig", "channelId brightness saturation contrast sharpness"),
+    FieldsOf<APIModule::MultiCastStream>("MultiCastStream", "multicastIp multicastPort streamType status"),
+    FieldsOf<APIModule::MultiCastConfigInfo>("MultiCastConfigInfo", "channelId status streams"),
+    FieldsOf<APIModule::MultiCastStreamStatus>("MultiCastStreamStatus", "channelId streamType status"),
+};
+
+INSTANTIATE_TEST_SUITE_P(DeviceConfig, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

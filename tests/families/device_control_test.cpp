@@ -117,4 +117,12 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(DeviceControl, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::IPSpeakerChannel>("IPSpeakerChannel", "channelId fileIds playCount"),
+    FieldsOf<APIModule::IPSpeakerControl>("IPSpeakerControl", "channels command"),
+    FieldsOf<APIModule::ChannelControlRsp>("ChannelControlRsp", "channelId errorCode"),
+};
+
+INSTANTIATE_TEST_SUITE_P(DeviceControl, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

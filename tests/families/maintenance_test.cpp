@@ -189,4 +189,21 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(Maintenance, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::AlertInfoResp>("AlertInfoResp", "alertTypeId alertTypeName"),
+    FieldsOf<APIModule::ChannelInfoResp>(
+        "ChannelInfoResp",
+        "channelName channelId channelType deviceCode deviceName deviceCategory deviceCategoryName orgCode "
+        "orgName onlineStatus channelStatus abnormalReason channelIp channelMac deviceIp macAddress "
+        "deviceRecordDays configRecordDays deviceRecordWholenessStatus motionDetectPlan patchPlan recordPlan "
+        "updateDate"),
+    FieldsOf<APIModule::DeviceInfoResp>(
+        "DeviceInfoResp",
+        "deviceCode deviceName deviceIp deviceSn status statusName offlineReason deviceCategory "
+        "deviceCategoryName deviceType deviceTypeName manufacturer manufacturerName faultStatus faultStatusName "
+        "updateTime addType orgCode orgName faultReason mac softwareVersion subnetMask deviceModel"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Maintenance, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

@@ -311,4 +311,28 @@ const ParseRow kRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Parking, ParseTest, testing::ValuesIn(kRows), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::SimpleParkingPointInfo>("SimpleParkingPointInfo",
+                                                "id pointName remark refPointId direction mode"),
+    FieldsOf<APIModule::SimpleParkingPositionInfo>("SimpleParkingPositionInfo", "id positionName remark points"),
+    FieldsOf<APIModule::SimpleParkingLotInfoRsp>(
+        "SimpleParkingLotInfoRsp",
+        "id parkingLotName orgCode orgName parentParkingLotId parentParkingLotName parkingLotMode "
+        "enableParkingSpaceStatistics parkingSpaceStatisticsType positions"),
+    FieldsOf<APIModule::ParkingChannelInfo>("ParkingChannelInfo", "channelId channelType"),
+    FieldsOf<APIModule::DetailParkingPointInfo>(
+        "DetailParkingPointInfo", "id pointName remark refPointId refPointName direction mode channels refChannels"),
+    FieldsOf<APIModule::DetailParkingPositionInfo>("DetailParkingPositionInfo", "id positionName remark points"),
+    FieldsOf<APIModule::DatailParkingLotInfoRsp>(
+        "DatailParkingLotInfoRsp",
+        "id parkingLotName orgCode orgName parentParkingLotId parentParkingLotName parkingLotMode "
+        "enableParkingSpaceStatistics parkingSpaceStatisticsType issueVehicles issueStatus totalParkingSpaceCount "
+        "idleParkingSpaceCount positions"),
+    FieldsOf<APIModule::OrganizationInfoRsp>("OrganizationInfoRsp",
+                                             "orgCode orgName parentOrgCode hasChild hasAuthority"),
+    FieldsOf<APIModule::UpdateVehicleCaptureRecordInfo>("UpdateVehicleCaptureRecordInfo", "id plateNo"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Parking, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

@@ -162,4 +162,12 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(Ptz, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::PtzWashStatus>("PtzWashStatus", "result userName userLevel lowerDomain"),
+    FieldsOf<APIModule::PtzBatchWashStatus>("PtzBatchWashStatus", "result msg"),
+    FieldsOf<APIModule::PtzPositionResetReq>("PtzPositionResetReq", "result userName userLevel lowerDomain"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Ptz, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

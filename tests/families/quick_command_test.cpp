@@ -339,4 +339,12 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(QuickCommand, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::QuickCommandHttpUrl>("QuickCommandHttpUrl", "method url body seq"),
+    FieldsOf<APIModule::QuickCommand>(
+        "QuickCommand", "id quickCommandName enableShortcutKeys shortcutKeys executeMode remark httpUrls"),
+};
+
+INSTANTIATE_TEST_SUITE_P(QuickCommand, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

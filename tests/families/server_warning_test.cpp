@@ -106,4 +106,14 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(ServerWarning, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::CheckHostSpareWarning>("CheckHostSpareWarning", "warningHappened warningTime warningContent"),
+    FieldsOf<APIModule::WarnDisk>("WarnDisk", "path slot"),
+    FieldsOf<APIModule::DiskWarmParam>("DiskWarmParam", "serverIp serverType warnDisks"),
+    FieldsOf<APIModule::NetWorkItem>("NetWorkItem", "netWorkName netWorkValue"),
+    FieldsOf<APIModule::NetWorksParam>("NetWorksParam", "netWorks"),
+};
+
+INSTANTIATE_TEST_SUITE_P(ServerWarning, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

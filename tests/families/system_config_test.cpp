@@ -205,4 +205,14 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(SystemConfig, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::TimeSyncConfig>(
+        "TimeSyncConfig", "enable startTime interval deviceOnlineTimeSync enableNtp ntpIp ntpPort ntpSyncInterval"),
+    FieldsOf<APIModule::RemoteLogConfigInfo>("RemoteLogConfigInfo", "enable ip port platformId"),
+    FieldsOf<APIModule::LocalSettingQueryResult>("LocalSettingQueryResult",
+                                                 "apply settingType settingVersion settingContent"),
+};
+
+INSTANTIATE_TEST_SUITE_P(SystemConfig, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

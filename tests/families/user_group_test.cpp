@@ -191,4 +191,12 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(UserGroup, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
+const RecordRow kRecords[] = {
+    FieldsOf<APIModule::UserConfigUserGroups>("UserConfigUserGroups", "id groupName memo"),
+    FieldsOf<APIModule::AddUserGroupsParam>("AddUserGroupsParam", "groupName memo"),
+    FieldsOf<APIModule::MoveUserGroupsParam>("MoveUserGroupsParam", "groupId userIds"),
+};
+
+INSTANTIATE_TEST_SUITE_P(UserGroup, RecordTest, testing::ValuesIn(kRecords), RowName());
+
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <ostream>
 #include <stdexcept>
 
@@ -49,6 +50,15 @@ public:
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
 };
+
+std::string Names(const RecordRow::Fields& fields)
+{
+    std::string names;
+    for (const auto& field : fields) {
+        names += (names.empty() ? "" : " ") + field.second;
+    }
+    return names;
+}
 
 /// A request in which every field differs from what a Pack must make of it.
 APIModule::RequestParam UsedRequest(const PackRow& row)
@@ -164,6 +174,20 @@ std::ostream& operator<<(std::ostream& stream, const ParseRow& row)
     return stream << row.parse.call << " of " << QJsonDocument(row.reply).toJson(QJsonDocument::Compact).toStdString()
                   << " into " << row.start;
 }
+
+TEST_P(RecordTest, DescribesItsFieldsInTheOrderOfTheInterface)
+{
+    EXPECT_EQ(Names(GetParam().described), GetParam().fields);
+}
+
+TEST_P(RecordTest, DeclaresItsFieldsInTheOrderOfTheInterface)
+{
+    RecordRow::Fields inMemory = GetParam().described;
+    std::sort(inMemory.begin(), inMemory.end());
+    EXPECT_EQ(Names(inMemory), GetParam().fields);
+}
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RecordTest);
 
 TEST_P(PackTest, DescribesTheRequest)
 {

@@ -14,7 +14,9 @@
 
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// Tables of Packs and Parses: a test file lists its rows and instantiates PackTest and ParseTest with them.
@@ -28,6 +30,28 @@ enum class Server {
     One,       ///< always 1
     Current,   ///< always -1, the user manager's current server
 };
+
+/// A record and its fields, separated by blanks, as the interface lists them.
+struct RecordRow {
+    /// A field's place in a record, and its name.
+    using Fields = std::vector<std::pair<const void*, std::string>>;
+
+    std::string name;
+    std::string fields;
+    Fields described;  ///< as the description lists them
+};
+
+template <typename T>
+RecordRow FieldsOf(const std::string& name, const std::string& fields)
+{
+    static const auto pRecord = std::make_unique<T>();
+    RecordRow row{name, fields, {}};
+    ForEachField<T>([&row](auto field) { row.described.emplace_back(&((*pRecord).*field.pointer), field.name); });
+    return row;
+}
+
+/// Compares the fields with the description and with their places in the record.
+class RecordTest : public testing::TestWithParam<RecordRow> {};
 
 /// One call of a Pack with what it must make of its arguments.
 struct PackRow {
