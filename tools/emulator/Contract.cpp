@@ -232,6 +232,19 @@ std::vector<QueryParameter> DescribedQuery(const Json& path, const Json& operati
     return query;
 }
 
+Json ParameterExamples(const Json& path, const Json& operation)
+{
+    Json examples = Json::object();
+    for (const Json* holder : {&path, &operation}) {
+        for (const Json& parameter : holder->value("parameters", Json::array())) {
+            if (parameter.at("in") != "header" && parameter.contains("example")) {
+                examples[parameter.at("name").get<std::string>()] = parameter.at("example");
+            }
+        }
+    }
+    return examples;
+}
+
 Operation OperationOf(const std::string& template_, const std::string& method, const Json& path,
                       const std::string& where)
 {
@@ -257,6 +270,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
                      SchemaOf(reply, where + "/responses/200"),
                      SchemaOf(success, where + "/responses/200"),
                      success.at("properties").value("data", Json::object()),
+                     ParameterExamples(path, described),
                      std::move(bodyExamples),
                      ExamplesOf(content)};
 }
@@ -285,6 +299,13 @@ std::optional<PathValues> ValuesOf(const std::string& template_, const std::vect
 }
 
 }  // namespace
+
+Json Operation::dataExample() const
+{
+    const auto found = std::find_if(replyExamples.begin(), replyExamples.end(),
+                                    [this](const Json& example) { return success.breach(example).empty(); });
+    return found == replyExamples.end() ? Json::object() : found->value("data", Json::object());
+}
 
 Contract Contract::Load(const std::filesystem::path& folder)
 {

@@ -33,8 +33,12 @@ struct Operation {
     Schema reply;                ///< every envelope that may come
     Schema success;              ///< the envelope of a call that was carried out
     Json dataSchema;             ///< of the successful reply's "data"; an empty object where it has none
+    Json parameterExamples;      ///< of path and query, by name
     std::vector<Json> bodyExamples;
     std::vector<Json> replyExamples;
+
+    /// The "data" of the first successful reply among the examples; an empty object where it has none.
+    [[nodiscard]] Json dataExample() const;
 };
 
 using PathValues = std::map<std::string, std::string>;

@@ -279,14 +279,6 @@ Handler Delete(const Collection& collection)
     };
 }
 
-Handler Accept()
-{
-    return [](const Call& call) {
-        Remember(call);
-        return Json::object();
-    };
-}
-
 Handler AcceptFor(const Collection& owners)
 {
     return [owners](const Call& call) {
@@ -294,6 +286,14 @@ Handler AcceptFor(const Collection& owners)
         Remember(call);
         return Json::object();
     };
+}
+
+Json AnswerAsInTheExample(const Call& call)
+{
+    if (call.operation.method != "GET") {
+        Remember(call);
+    }
+    return call.operation.dataExample();
 }
 
 const HandlerTable& AllHandlers()

@@ -128,13 +128,13 @@ Handler Update(const Collection& collection);
 /// Removes the elements that the query value "ids" names, separated by ','; refused when one is unknown.
 Handler Delete(const Collection& collection);
 
-/// Takes the call and remembers it.
-Handler Accept();
-/// The same, refused when the path value names no element of the collection.
+/// Takes the call and remembers it; refused when the path value names no element of the collection.
 Handler AcceptFor(const Collection& owners);
+/// Answers with the contract's example, and remembers what is no read.
+Json AnswerAsInTheExample(const Call& call);
 /// @}
 
-/// The handlers of all families.
+/// The handlers of all families. AnswerAsInTheExample carries out the other operations.
 const HandlerTable& AllHandlers();
 
 }  // namespace emulator

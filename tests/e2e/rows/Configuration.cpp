@@ -11,7 +11,6 @@ std::vector<Row> SystemConfigRows()
     const Json remoteLog = R"({"enable": false, "ip": "10.9.8.7", "port": 1514, "platformId": "Süd & Co #2"})"_json;
     const Json readSetting = {{"settingType", 3}};
     return {
-        {"BRMS.GetTimeSyncConfig", "", {}, At("/brms/timeSync")},
         {"BRMS.SetTimeSyncConfig",
          "",
          {{"config", timeSync}},
@@ -23,13 +22,11 @@ std::vector<Row> SystemConfigRows()
          {},
          {ReadBack("BRMS.GetTimeSyncConfig", {}, withNtp), Held("/brms/timeSync", withNtp)}},
         {"BRMS.ImmediatelySyncTime", "", {}, {}, {Accepted("BRMS.ImmediatelySyncTime", Json::object(), {})}},
-        {"BRMS.GetRemoteLogConfig", "", {}, At("/brms/remoteLog")},
         {"BRMS.SetRemoteLogConfig",
          "",
          {{"config", remoteLog}},
          {},
          {ReadBack("BRMS.GetRemoteLogConfig", {}, remoteLog), Held("/brms/remoteLog", remoteLog)}},
-        {"BRMS.GetDeviceLoginModel", "", {}, At("/brms/deviceLoginModel/deviceLoginModel")},
         {"BRMS.SetDeviceLoginModel",
          "",
          {{"model", 2}},

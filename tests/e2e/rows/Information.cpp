@@ -51,7 +51,6 @@ std::vector<Row> DeviceControlRows()
 std::vector<Row> ServerWarningRows()
 {
     return {
-        {"BRMS.CheckHotSpareWarning", "", {}, At("/brms/hotSpareWarning")},
         {"BRMS.GetBasicServiceWarm",
          "",
          {},

@@ -169,7 +169,6 @@ std::vector<Row> ObmsRows()
          {{"personId", "5006"}},
          {},
          {Accepted("OBMS.PersonResetAntiPass", {{"personId", "5006"}}, {})}},
-        {"OBMS.GetConfigDesfireInfo", "", {}, At("/obms/desfire")},
         {"OBMS.UpdateConfigDesfireInfo",
          "",
          {{"param", cardConfig}},

@@ -1,9 +1,40 @@
 #include "Rows.h"
 
+#include <catalogue/Call.h>
+#include <Contract.h>
+#include <PlatformEmulator.h>
+
 #include <algorithm>
+#include <set>
+#include <stdexcept>
 #include <utility>
 
 namespace e2e {
+namespace {
+
+/// The call with the examples of the contract: its arguments, and its record where it reads.
+Row OfTheContract(const catalogue::Call& call)
+{
+    static const emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
+    const emulator::Operation& operation = contract.operation(call.name);
+    Row row{call.name, {}, Json::object()};
+    for (const catalogue::Argument& argument : call.arguments) {
+        const std::string name(argument.name);
+        if (!operation.parameterExamples.contains(name)) {
+            throw std::logic_error(call.name + " needs a row in tests/e2e/rows: the contract has no example of " +
+                                   name);
+        }
+        row.arguments[name] = operation.parameterExamples.at(name);
+    }
+    if (call.parse != nullptr) {
+        const Json data = operation.dataExample();
+        const bool bInside = call.result->kind != catalogue::Kind::Record;  // a value or a list is the only member
+        row.record = [record = bInside ? data.front() : data](const Json& /*state*/) { return record; };
+    }
+    return row;
+}
+
+}  // namespace
 
 Trace ReadBack(std::string call, Json arguments, Json record)
 {
@@ -37,6 +68,15 @@ const std::vector<Row>& Rows()
                  ServerWarningRows(), AlarmEventRows(), AccountAccessRows(), DmsRows(), IamsRows(), IpmsRows(),
                  ObmsRows(), OmmsRows()}) {
             std::move(subject.begin(), subject.end(), std::back_inserter(all));
+        }
+        std::set<std::string> known;
+        for (const Row& row : all) {
+            known.insert(row.call);
+        }
+        for (const catalogue::Call& call : catalogue::Calls()) {
+            if (known.count(call.name) == 0) {
+                all.push_back(OfTheContract(call));
+            }
         }
         return all;
     }();

@@ -34,6 +34,7 @@ struct Row {
     [[nodiscard]] std::string Name() const;  ///< "BRMS_GetUserGroupList_Keyword"
 };
 
+/// Those below; a call without any has one by the examples of the contract.
 const std::vector<Row>& Rows();
 /// The first row of a call.
 const Row& RowOf(const std::string& call);

@@ -221,7 +221,6 @@ HandlerTable Brms()
     return {
         {"BRMS.GetTimeSyncConfig", ReadDocument("/brms/timeSync")},
         {"BRMS.SetTimeSyncConfig", WriteDocument("/brms/timeSync")},
-        {"BRMS.ImmediatelySyncTime", Accept()},
         {"BRMS.GetRemoteLogConfig", ReadDocument("/brms/remoteLog")},
         {"BRMS.SetRemoteLogConfig", WriteDocument("/brms/remoteLog")},
         {"BRMS.GetDeviceLoginModel", ReadDocument("/brms/deviceLoginModel")},
@@ -250,7 +249,6 @@ HandlerTable Brms()
         {"BRMS.AudioLightControl", ControlNamedChannels},
         {"BRMS.IPSpeakerControl", ControlSpeakers},
 
-        {"BRMS.CheckHotSpareWarning", ReadDocument("/brms/hotSpareWarning")},
         {"BRMS.GetBasicServiceWarm", ReadDocument("/brms/basicServiceWarning")},
         {"BRMS.GetDiskWarm", List("/brms/warnDisks")},
         {"BRMS.GetMemoryOutOfServerList", List("/brms/outOfMemory")},
