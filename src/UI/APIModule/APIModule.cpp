@@ -2,7 +2,6 @@
 
 #include "APIModule_p.h"
 #include "Log_p.h"
-#include "Mask_p.h"
 #include "RunHosted_p.h"
 
 #include <ErrorLexicon/ErrorLexicon.h>
@@ -24,7 +23,6 @@ using namespace detail;
 namespace {
 
 constexpr int kCurrentServer = -1;
-constexpr int kParseFailed = 3101;
 
 constexpr const char* kGetRequestParam = "APIModule::CAPIModule::GetRequestParam";
 constexpr const char* kNoUserManager = "GetRequestParam failed! no user manager.";
@@ -118,6 +116,7 @@ void CAPIModule::UnInit()
     Q_D(CAPIModule);
     m_pUserManager = nullptr;
     m_bInitialised = false;
+    d->EndStarted(CallEnd::Cancelled, &StartedCall::End);
     d->ForgetConnections();
     LogInfo({kModuleFile, "APIModule::CAPIModule::UnInit"}, "unInit Sucess");
 }
@@ -137,6 +136,24 @@ void CAPIModule::SetMaximumReplySize(qint64 nBytes)
 {
     Q_D(CAPIModule);
     d->SetMaximumReplySize(nBytes);
+}
+
+void CAPIModule::SetCallTimeout(std::optional<std::chrono::milliseconds> timeout)
+{
+    Q_D(CAPIModule);
+    d->m_callTimeout = timeout;
+}
+
+void CAPIModule::SetWaitDialogDelay(std::chrono::milliseconds delay)
+{
+    Q_D(CAPIModule);
+    d->m_waitDialogDelay = delay;
+}
+
+void CAPIModule::SetExchangeObserver(const std::function<void(const ObservedExchange&)>& observer)
+{
+    Q_D(CAPIModule);
+    d->m_observer = observer;
 }
 
 void CAPIModule::SetServerTrust(const ServerTrust& trust)
@@ -191,59 +208,50 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
                              bool bShowErrorCode, bool bNotifyOnFailure)
 {
     Q_D(CAPIModule);
-    constexpr const char* kFunction = "APIModule::CAPIModule::ExecuteFuncs";
     const ReleaseOnReturn release(packetFunc, parseFunc);
     // The host may delete what it owns while the call waits.
     const QPointer<QWidget> parent(pParent);
     const QString uiError(strUIError);        // NOLINT(performance-unnecessary-copy-initialization)
     const QString successTip(strSuccessTip);  // NOLINT(performance-unnecessary-copy-initialization)
 
-    if (!d->AttachToApplication()) {
-        LogFailure({kModuleFile, kFunction}, "ExecuteFuncs failed! wrong thread or no application.");
-        return -1;
+    CallSteps steps;
+    steps.pEntry = "ExecuteFuncs";
+    if (packetFunc) {
+        steps.pack = std::cref(packetFunc);
     }
-    if (!packetFunc) {
-        LogFailure({kModuleFile, kFunction}, "Call packetFunc failed! packetFunc can not be null.");
-        return -1;
+    if (parseFunc) {
+        steps.read = std::cref(parseFunc);
     }
+    const CallResult result = d->Perform(steps, parent);
 
-    RequestParam param;
-    if (CAPIModulePrivate::Describe(packetFunc, param) != 0) {
+    if (result.eEnd == CallEnd::NotPacked) {
         return -1;
     }
-
-    QNetworkRequest request;
-    if (const int nResult = BuildRequest(param, request)) {
-        NotifyErrorMessage(uiError, nResult, bShowErrorCode);
-        return -1;
-    }
-    LogInfo({kModuleFile, kFunction}, QStringLiteral("ExecuteRequest url=%1").arg(MaskToken(request.url().toString())));
-
-    ReplyInfo reply;
-    if (const int nResult = ExecuteRequest(request, parent, reply)) {
-        NotifyErrorMessage(uiError, nResult, bShowErrorCode);
-        return -1;
-    }
-
-    if (const std::optional<int> failure = CAPIModulePrivate::Judge(reply)) {
-        if (!bNotifyOnFailure) {
-            return *failure;
+    if (result.eEnd != CallEnd::Success) {
+        const bool bJudged = result.reply.eEnd == CallEnd::Success && !result.reply.parsed;
+        if (bJudged && !bNotifyOnFailure) {
+            return result.nCode;
         }
-        NotifyErrorMessage(uiError, *failure, bShowErrorCode);
-        return -1;
+        NotifyErrorMessage(uiError, result.nCode, bShowErrorCode);
+        return result.reply.parsed.value_or(-1);
     }
-
-    reply.byteBody.clear();  // a large one is not kept beside the host's records
-    const bool bHasData = !reply.jsonData.isEmpty();
-    if (const int nResult = bHasData ? CAPIModulePrivate::Deliver(parseFunc, reply) : 0) {
-        NotifyErrorMessage(uiError, kParseFailed, bShowErrorCode);
-        return nResult;
-    }
-    const bool bDelivered = !bHasData || parseFunc;
+    const bool bDelivered = result.reply.jsonData.isEmpty() || steps.read;
     if (bDelivered && !successTip.isEmpty() && m_bInitialised) {
         Notify(successTip);
     }
     return 0;
+}
+
+void CAPIModule::NotifyOutcome(const OutcomeBase& outcome, const QString& strUIError, const QString& strSuccessTip,
+                               bool bShowErrorCode)
+{
+    if (!outcome) {
+        if (outcome.End() != CallEnd::NotPacked) {
+            NotifyErrorMessage(strUIError, outcome.Code(), bShowErrorCode);
+        }
+    } else if (!strSuccessTip.isEmpty() && m_bInitialised) {
+        Notify(strSuccessTip);
+    }
 }
 
 int CAPIModule::BuildRequest(const RequestParam& param, QNetworkRequest& request)

@@ -11,7 +11,10 @@
 
 #include <boost/function.hpp>
 
+#include <chrono>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QNetworkRequest;
@@ -46,9 +49,11 @@ struct RequestParam {
     bool bExcludeUserInput = true;  ///< hold back user input while a call without wait dialog waits
 };
 
+struct ObservedExchange;
 struct ReplyInfo;
 struct ServerTrust;
 class CAPIModulePrivate;
+class OutcomeBase;
 
 /// The one object through which every call runs.
 ///
@@ -78,7 +83,7 @@ public:
     void Init(UserLogical::IUserManager* pUserManager);
 
     /// Ends use: the user manager is forgotten and nothing is notified any more. A call that is waiting goes on to
-    /// its own result.
+    /// its own result. Calls begun by Start() end as cancelled.
     void UnInit();
 
     /// Chooses https or http for the calls that are packed from now on.
@@ -107,6 +112,32 @@ public:
     ///
     /// @param trust pins, authorities and the host's decision (ServerTrust.h); a default-made one trusts every server
     void SetServerTrust(const ServerTrust& trust);
+
+    /// Sets the time-out of the typed calls (Call.h) that begin from now on and do not name one themselves.
+    ///
+    /// @param timeout in the place of the time-out of the Pack; nothing leaves it to the Pack, as by default
+    void SetCallTimeout(std::optional<std::chrono::milliseconds> timeout);
+
+    /// Sets how long a typed call that waits over a parent lasts before the wait dialog appears. ExecuteFuncs() shows
+    /// the dialog at once.
+    ///
+    /// @param delay 300 ms by default; 0 shows the dialog at once
+    void SetWaitDialogDelay(std::chrono::milliseconds delay);
+
+    /// Shows every exchange with a server, of typed calls and of ExecuteFuncs(), to the host.
+    ///
+    /// @param observer called at the end of each exchange that begins from now on (ObservedExchange.h); null for none
+    void SetExchangeObserver(const std::function<void(const ObservedExchange&)>& observer);
+
+    /// Notifies the end of a typed call as ExecuteFuncs() notifies its own: a failure, unless the call was not packed,
+    /// in the host's words and those of its code, a success by its tip.
+    ///
+    /// @param outcome what Run() returned or the function of Start() was given
+    /// @param strUIError the failure in the user's words; may be empty
+    /// @param strSuccessTip notified after success unless empty
+    /// @param bShowErrorCode add the text of the failure's code to the notification
+    void NotifyOutcome(const OutcomeBase& outcome, const QString& strUIError, const QString& strSuccessTip = QString(),
+                       bool bShowErrorCode = true);
 
     /// Fills the RequestParam that a Pack was given; every Pack ends in this call.
     ///

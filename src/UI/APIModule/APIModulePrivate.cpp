@@ -1,22 +1,26 @@
 #include "APIModule_p.h"
 
-#include "Envelope_p.h"
+#include "Exchange_p.h"
 #include "http/AccessManager.h"
 #include "http/Reply.h"
 #include "http/Trust.h"
 #include "Log_p.h"
 #include "Mask_p.h"
 #include "RunHosted_p.h"
+#include "JsonAccess_p.h"
+#include "StartedCall_p.h"
 #include "TlsRange_p.h"
 #include "Wait_p.h"
 
 #include <QEventLoop>
+#include <QHash>
 #include <QSslConfiguration>
 #include <QThread>
 #include <QTimer>
 #include <QTimeZone>
 #include <QUrl>
 #include <QVariant>
+#include <QWidget>
 
 #include <algorithm>
 #include <limits>
@@ -30,22 +34,13 @@ namespace {
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 
 constexpr int kInvalidRequest = -4;
-constexpr int kNetworkError = -18;
-constexpr int kTimedOut = -101;
-constexpr int kAuthenticationRequired = 7000;
+constexpr int kParseFailed = 3101;
 
 constexpr int kStatusOk = 200;
 constexpr int kCodeSuccess = 1000;
 
-constexpr auto kMethodAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 100);
-constexpr auto kBodyAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 101);
-constexpr auto kTimeoutAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 102);
-constexpr auto kExcludeUserInputAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 103);
-
-QString MaskedUrl(const QNetworkRequest& request)
-{
-    return MaskToken(request.url().toString());
-}
+/// Of the six connections to a server, those that calls without a wait may take.
+constexpr int kMostOnTheirWay = 5;
 
 /// Whether the value stays within its header.
 bool IsHeaderValue(const std::string& value)
@@ -58,48 +53,11 @@ QByteArray Bytes(const std::string& text)
     return QByteArray::fromStdString(text);
 }
 
-/// Takes what a finished reply brought. @return 0, -18 or 7000
-int TakeReply(http::Reply& finished, const QNetworkRequest& request, ReplyInfo& reply, const char* pFunction)
-{
-    if (const std::optional<http::UnknownServer>& unknown = finished.GetUnknownServer()) {
-        LogFailure(
-            {kModuleFile, pFunction},
-            QStringLiteral("Request failed, the server is not known, host: %1, port: %2, reason: %3, SHA-256 of its "
-                           "certificate: %4")
-                .arg(request.url().host(), QString::number(request.url().port()), unknown->reason,
-                     QString::fromLatin1(unknown->digest.toHex(':'))));
-        return kNetworkError;
-    }
-    const QVariant status = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    const bool bUnauthorized = finished.error() == QNetworkReply::AuthenticationRequiredError;
-    if (bUnauthorized || !status.isValid()) {
-        LogFailure({kModuleFile, pFunction},
-                   QStringLiteral("Request failed, an internal network error occurred, qt network error code: %1, "
-                                  "network error info: %2")
-                       .arg(QString::number(finished.error()), MaskToken(finished.errorString())));
-        return bUnauthorized ? kAuthenticationRequired : kNetworkError;
-    }
-
-    const int nStatus = status.toInt();
-    if (nStatus == kStatusOk) {
-        reply.byteBody = finished.TakeBody();
-        Unpack(reply);
-        reply.rawHeaders = finished.Headers();
-        LogInfo({kModuleFile, pFunction}, "Request success.");
-    } else {
-        LogFailure({kModuleFile, pFunction}, QStringLiteral("Request failed, http status Code: %1, request url: %2")
-                                                 .arg(QString::number(nStatus), MaskedUrl(request)));
-    }
-    reply.nHttpStatus = nStatus;
-    return 0;
-}
-
 /// The time-out of a timer, which holds no more than an int of milliseconds.
-int Milliseconds(int nSeconds)
+std::chrono::milliseconds Limited(std::chrono::milliseconds timeout)
 {
-    constexpr int kPerSecond = 1000;
-    constexpr int kMostSeconds = std::numeric_limits<int>::max() / kPerSecond;
-    return nSeconds > kMostSeconds ? std::numeric_limits<int>::max() : std::max(nSeconds, 0) * kPerSecond;
+    constexpr std::chrono::milliseconds kMost(std::numeric_limits<int>::max());
+    return std::clamp(timeout, std::chrono::milliseconds(0), kMost);
 }
 
 }  // namespace
@@ -146,6 +104,8 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
     MoveTo(application.thread());
     m_pApplication = &application;
     MakeNetworkManager();
+    connect(&application, &QCoreApplication::aboutToQuit, this,
+            [this] { EndStarted(CallEnd::ApplicationEnding, &StartedCall::Deliver); });
     // No socket may outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
 }
@@ -192,17 +152,24 @@ void CAPIModulePrivate::ForgetConnections()
         QMetaObject::invokeMethod(this, &CAPIModulePrivate::ForgetConnections, Qt::QueuedConnection);
         return;
     }
-    m_networkManagers.removeAll(nullptr);
-    if (m_pNetworkManager->HasReplies()) {
-        m_pNetworkManager->CloseIdleConnections();
-    } else {
-        delete m_pNetworkManager;
-    }
+    m_pNetworkManager->CloseIdleConnections();
     MakeNetworkManager();
+    RetireManagers();
+}
+
+void CAPIModulePrivate::RetireManagers()
+{
+    for (const QPointer<http::AccessManager>& pManager : qAsConst(m_networkManagers)) {
+        if (pManager != m_pNetworkManager && !pManager->HasReplies()) {
+            delete pManager;
+        }
+    }
+    m_networkManagers.removeAll(nullptr);
 }
 
 void CAPIModulePrivate::DetachFromApplication()
 {
+    EndStarted(CallEnd::ApplicationEnding, &StartedCall::Deliver);
     for (const QPointer<http::AccessManager>& pManager : qAsConst(m_networkManagers)) {
         delete pManager;
     }
@@ -210,9 +177,154 @@ void CAPIModulePrivate::DetachFromApplication()
     MoveTo(nullptr);
 }
 
-int CAPIModulePrivate::Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param)
+bool CAPIModulePrivate::Prepare(const CallSteps& steps, QNetworkRequest& request, CallResult& result)
 {
-    return RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("packetFunc"), [&] { return packetFunc(&param); });
+    RequestParam param;
+    const auto pack = [&] { return steps.pack(&param); };
+    if (RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("packetFunc"), pack) != 0) {
+        return false;
+    }
+    if (const int nResult = q_ptr->BuildRequest(param, request)) {
+        result.eEnd = CallEnd::InvalidRequest;
+        result.nCode = nResult;
+        return false;
+    }
+    LogInfo({kModuleFile, kExecuteFuncs}, QStringLiteral("ExecuteRequest url=%1").arg(MaskedUrl(request)));
+    return true;
+}
+
+CallResult CAPIModulePrivate::Perform(const CallSteps& steps, const QPointer<QWidget>& parent)
+{
+    CallResult result;
+    QNetworkRequest request;
+    if (!AttachToApplication()) {
+        LogFailure({kModuleFile, kExecuteFuncs},
+                   QStringLiteral("%1 failed! wrong thread or no application.").arg(QLatin1String(steps.pEntry)));
+        return result;
+    }
+    if (!steps.pack) {
+        LogFailure({kModuleFile, kExecuteFuncs}, "Call packetFunc failed! packetFunc can not be null.");
+        return result;
+    }
+    if (!Prepare(steps, request, result)) {
+        return result;
+    }
+    result.reply.pSteps = &steps;
+    const int nResult = q_ptr->ExecuteRequest(request, parent, result.reply);
+    result.reply.pSteps = nullptr;
+    result.nCode = nResult;
+    Conclude(steps.read, result);
+    return result;
+}
+
+void CAPIModulePrivate::Conclude(const ReadData& read, CallResult& result)
+{
+    ReplyInfo& reply = result.reply;
+    result.eEnd = reply.eEnd;
+    if (reply.eEnd != CallEnd::Success) {
+        result.nCode = CodeOf(reply.eEnd);
+        return;
+    }
+    if (const std::optional<int> failure = Judge(reply)) {
+        result.nCode = *failure;
+        result.eEnd = reply.nHttpStatus != kStatusOk ? CallEnd::HttpStatus
+                      : reply.bJson                  ? CallEnd::Refused
+                                                     : CallEnd::UnreadableReply;
+        return;
+    }
+    reply.byteBody.clear();  // a large one is not kept beside the host's records
+    if (read && !reply.jsonData.isEmpty() && !reply.parsed) {
+        Deliver(read, reply);
+    }
+    result.nCode = 0;
+    if (reply.parsed.value_or(0) != 0) {
+        result.eEnd = CallEnd::UnreadableReply;
+        result.nCode = kParseFailed;
+    }
+}
+
+void CAPIModulePrivate::Deliver(const ReadData& read, ReplyInfo& reply)
+{
+    const UnreadableKey key(reply.strUnreadableKey);
+    reply.parsed = RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("parseFunc"),
+                             [&] { return read(reply.jsonData); });
+    if (*reply.parsed == 0) {
+        reply.strUnreadableKey.clear();
+    }
+}
+
+CallHandle CAPIModulePrivate::Start(const CallSteps& steps, QObject* pContext, const Finished& finished)
+{
+    if (!AttachToApplication() || !pContext || pContext->thread() != thread()) {
+        LogFailure({kModuleFile, kExecuteFuncs}, "Start failed! wrong thread, no application or no context.");
+        return {};
+    }
+    auto* const pCall = new StartedCall(*this, steps, pContext, finished);
+    connect(pCall, &StartedCall::Left, this, &CAPIModulePrivate::BeginNext);
+    CallHandle handle(pCall);
+    pCall->Prepare();
+    if (handle.IsRunning()) {
+        m_started.append(pCall);
+        BeginNext();
+    }
+    return handle;
+}
+
+void CAPIModulePrivate::BeginNext()
+{
+    m_started.erase(std::remove_if(m_started.begin(), m_started.end(),
+                                   [](const QPointer<StartedCall>& pCall) {
+                                       return !pCall || pCall->GetState() == StartedCall::State::Finished;
+                                   }),
+                    m_started.end());
+    if (m_bEndingStarted) {
+        return;
+    }
+    QHash<QString, int> onTheirWay;
+    for (const QPointer<StartedCall>& pCall : qAsConst(m_started)) {
+        if (pCall->GetState() == StartedCall::State::OnItsWay) {
+            ++onTheirWay[pCall->Origin()];
+        }
+    }
+    const QList<QPointer<StartedCall>> calls = m_started;
+    for (const QPointer<StartedCall>& pCall : calls) {
+        if (pCall && pCall->GetState() == StartedCall::State::InLine &&
+            onTheirWay[pCall->Origin()] < kMostOnTheirWay) {
+            ++onTheirWay[pCall->Origin()];
+            pCall->Begin();
+        }
+    }
+}
+
+void CAPIModulePrivate::EndStarted(CallEnd eEnd, void (StartedCall::*pEnd)(CallEnd))
+{
+    const bool bOuter = std::exchange(m_bEndingStarted, true);
+    const QList<QPointer<StartedCall>> calls = m_started;
+    for (const QPointer<StartedCall>& pCall : calls) {
+        if (pCall) {
+            (pCall->*pEnd)(eEnd);
+        }
+    }
+    m_bEndingStarted = bOuter;
+    BeginNext();
+}
+
+void CAPIModulePrivate::SetUp(Exchange& exchange, const CallSteps* pSteps) const
+{
+    exchange.AddObserver(m_observer);
+    if (pSteps && pSteps->bTyped) {
+        exchange.ReadInBackground(pSteps->read);
+        exchange.AddObserver(pSteps->observer);
+    }
+}
+
+std::chrono::milliseconds CAPIModulePrivate::TimeoutOf(const QNetworkRequest& request, const CallSteps* pSteps) const
+{
+    std::optional<std::chrono::milliseconds> timeout;
+    if (pSteps && pSteps->bTyped) {
+        timeout = pSteps->timeout ? pSteps->timeout : m_callTimeout;
+    }
+    return Limited(timeout.value_or(std::chrono::seconds(request.attribute(kTimeoutAttribute).toInt())));
 }
 
 int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& request)
@@ -266,55 +378,58 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
 
 int CAPIModulePrivate::ExecuteRequestWithWaitDlg(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply)
 {
-    Wait wait(*pParent);
-    return Execute(request, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
+    const bool bTyped = reply.pSteps && reply.pSteps->bTyped;
+    Wait wait(*pParent, bTyped ? m_waitDialogDelay : std::chrono::milliseconds(0));
+    return Execute(request, pParent, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
 }
 
 int CAPIModulePrivate::ExecuteRequestWithoutWaitDlg(const QNetworkRequest& request, ReplyInfo& reply)
 {
     Wait wait(request.attribute(kExcludeUserInputAttribute).toBool() ? QEventLoop::ExcludeUserInputEvents
                                                                      : QEventLoop::AllEvents);
-    return Execute(request, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg");
+    return Execute(request, nullptr, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg");
 }
 
-int CAPIModulePrivate::Execute(const QNetworkRequest& request, ReplyInfo& reply, Wait& wait, const char* pFunction)
+int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply, Wait& wait,
+                               const char* pFunction)
 {
-    const QVariant timeout = request.attribute(kTimeoutAttribute);
-    if (!m_pNetworkManager || !timeout.isValid() || !request.attribute(kMethodAttribute).isValid()) {
+    if (!m_pNetworkManager || !request.attribute(kTimeoutAttribute).isValid() ||
+        !request.attribute(kMethodAttribute).isValid()) {
+        reply.eEnd = CallEnd::InvalidRequest;
         return kInvalidRequest;
     }
+
+    Exchange exchange(request, pFunction);
+    SetUp(exchange, reply.pSteps);
+    if (pParent) {
+        // What comes after the parent has gone is no result of the call.
+        connect(pParent, &QObject::destroyed, &exchange, [&exchange] { exchange.Close(CallEnd::Cancelled); });
+    }
+    connect(&exchange, &Exchange::Ended, wait.Context(), [&wait] { wait.End(); });
 
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
     timer.setSingleShot(true);
-    connect(&timer, &QTimer::timeout, wait.Context(), [&wait] { wait.End(); });
-    timer.start(Milliseconds(timeout.toInt()));
-
-    std::optional<int> result;
-    const QPointer<http::AccessManager> pManager = m_pNetworkManager;
-    const QPointer<http::Reply> pReply = Send(request);
-    connect(pReply, &QNetworkReply::finished, wait.Context(), [&] {
-        timer.stop();
-        if (wait.IsOrphaned()) {
-            return;
-        }
-        result = TakeReply(*pReply, request, reply, pFunction);
+    CallEnd eBroken = CallEnd::ApplicationEnding;
+    connect(&timer, &QTimer::timeout, wait.Context(), [&] {
+        eBroken = CallEnd::TimedOut;
         wait.End();
     });
-    connect(pReply, &QObject::destroyed, wait.Context(), [&wait] { wait.End(); });
+    connect(&exchange, &Exchange::Answered, &timer, &QTimer::stop);
+    timer.start(TimeoutOf(request, reply.pSteps));
+
+    exchange.Begin(Send(request));
     wait.Run();
 
-    // No signal of the reply is under way any more, and none is to come. Deleted now, a reply that timed out closes its
-    // connection even when the host makes further calls without a return to its event loop.
-    delete pReply;
-    if (pManager && pManager != m_pNetworkManager && !pManager->HasReplies()) {
-        delete pManager;
+    // Closed now, a connection whose answer did not come in time is gone even when the host makes further calls
+    // without a return to its event loop.
+    if (!exchange.HasReply()) {
+        exchange.Close(wait.IsBroken() ? CallEnd::Cancelled : eBroken);
+        exchange.LogTimeOut();
     }
-    if (!result) {
-        LogFailure({kModuleFile, pFunction},
-                   QStringLiteral("Request time out, request url: %1").arg(MaskedUrl(request)));
-    }
-    return result.value_or(kTimedOut);
+    reply = std::move(exchange.Reply());
+    RetireManagers();
+    return CodeOf(reply.eEnd);
 }
 
 http::Reply* CAPIModulePrivate::Send(const QNetworkRequest& request)
@@ -344,15 +459,6 @@ std::optional<int> CAPIModulePrivate::Judge(const ReplyInfo& reply)
         return reply.nCode;
     }
     return std::nullopt;
-}
-
-int CAPIModulePrivate::Deliver(const boost::function<int(QJsonObject const&)>& parseFunc, const ReplyInfo& reply)
-{
-    if (!parseFunc) {
-        return 0;
-    }
-    return RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("parseFunc"),
-                     [&] { return parseFunc(reply.jsonData); });
 }
 
 }  // namespace APIModule

@@ -1,20 +1,25 @@
 #pragma once
 
 #include "APIModule.h"
+#include "CallResult_p.h"
+#include "CallSteps_p.h"
 #include "http/AccessManager.h"
 #include "ReplyInfo_p.h"
+#include "StartedCall_p.h"
 
 #include <QCoreApplication>
 #include <QNetworkRequest>
 #include <QObject>
 #include <QPointer>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace APIModule {
 
+class Exchange;
 class Wait;
 
 namespace http {
@@ -32,14 +37,27 @@ public:
     explicit CAPIModulePrivate(CAPIModule* q);
     ~CAPIModulePrivate() override;
 
+    /// Of the one CAPIModule.
+    static CAPIModulePrivate& Get() { return *CAPIModule::GetInstance().d_func(); }
+
     /// Whether the calling thread is the application object's and may run calls; the façade then belongs to it.
     bool AttachToApplication();
 
     void SetMaximumReplySize(qint64 nBytes);
     void SetServerTrust(const ServerTrust& trust);
 
-    /// Runs the Pack. @return 0, its own result, or -1 when it throws
-    static int Describe(const boost::function<int(void*)>& packetFunc, RequestParam& param);
+    /// Packs, sends, waits, judges and parses. Log lines and waits, but no notification.
+    /// @param parent of the wait dialog; null waits in a local event loop
+    detail::CallResult Perform(const CallSteps& steps, const QPointer<QWidget>& parent);
+
+    /// Packs and builds. @return whether the request can be sent; otherwise @p result says why not
+    bool Prepare(const CallSteps& steps, QNetworkRequest& request, detail::CallResult& result);
+
+    /// Judges the reply in @p result and delivers its data.
+    static void Conclude(const detail::ReadData& read, detail::CallResult& result);
+
+    /// Begins a call that nobody waits for.
+    CallHandle Start(const CallSteps& steps, QObject* pContext, const detail::Finished& finished);
 
     /// Makes URL, headers and attributes. @return 0, or -4 for what cannot be sent
     int BuildRequest(const RequestParam& param, QNetworkRequest& request);
@@ -53,8 +71,17 @@ public:
     /// The HTTP status or envelope code that makes a reply a failure; nothing for a success. 0 can be such a code.
     static std::optional<int> Judge(const ReplyInfo& reply);
 
-    /// Runs the Parse on the data of a successful reply. @return 0, its own result, or -1 when it throws
-    static int Deliver(const boost::function<int(QJsonObject const&)>& parseFunc, const ReplyInfo& reply);
+    /// Runs the Parse on the data of a successful reply. Its result is -1 when it throws.
+    static void Deliver(const detail::ReadData& read, ReplyInfo& reply);
+
+    /// Lets an exchange have what its call and the host want of it.
+    void SetUp(Exchange& exchange, const CallSteps* pSteps) const;
+
+    /// How long a request may be on its way.
+    /// @param pSteps of a typed call, null for ExecuteFuncs()
+    std::chrono::milliseconds TimeoutOf(const QNetworkRequest& request, const CallSteps* pSteps) const;
+
+    http::Reply* Send(const QNetworkRequest& request);
 
 private:
     friend class CAPIModule;
@@ -67,13 +94,24 @@ private:
     /// What comes from now on reaches its server over new connections. Calls that wait keep theirs.
     void ForgetConnections();
 
-    int Execute(const QNetworkRequest& request, ReplyInfo& reply, Wait& wait, const char* pFunction);
-    http::Reply* Send(const QNetworkRequest& request);
+    int Execute(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply, Wait& wait, const char* pFunction);
+    /// Deletes earlier network managers whose calls have ended.
+    void RetireManagers();
+
+    /// Begins those calls in line that have their turn.
+    void BeginNext();
+    /// Ends the calls that Start() began, whose functions are called later, or before this returns.
+    void EndStarted(CallEnd eEnd, void (StartedCall::*pEnd)(CallEnd));
 
     CAPIModule* const q_ptr;
     std::string m_strLanguage = "en";
     std::string m_strTimeZoneId;
     qint64 m_nMaximumReplySize = http::AccessManager::kDefaultMaximumReplySize;
+    std::chrono::milliseconds m_waitDialogDelay{300};
+    std::optional<std::chrono::milliseconds> m_callTimeout;
+    ExchangeObserver m_observer;
+    QList<QPointer<StartedCall>> m_started;  ///< in the order of their beginning
+    bool m_bEndingStarted = false;
     std::shared_ptr<const ServerTrust> m_pServerTrust;  ///< null when every server is trusted
     QPointer<http::AccessManager> m_pNetworkManager;
     QList<QPointer<http::AccessManager>> m_networkManagers;  ///< with earlier ones whose calls still wait

@@ -15,6 +15,7 @@ void Unpack(ReplyInfo& reply)
     if (error.error != QJsonParseError::NoError) {
         return;
     }
+    reply.bJson = true;
     const QJsonObject envelope = document.object();
     const QJsonValue code = envelope.value(QLatin1String("code"));
     reply.nCode = code.isNull() ? -1 : code.toInt(0);

@@ -5,12 +5,15 @@
 #include <QtNumeric>
 
 #include <algorithm>
+#include <utility>
 
 namespace APIModule::detail {
 
 namespace {
 
 constexpr const char* kFile = "src/UI/APIModule/public/CommonFunc";
+
+thread_local QString* pUnreadableKey = nullptr;
 
 }  // namespace
 
@@ -106,6 +109,20 @@ void LogUndefinedValue(const QString& key)
 {
     LogFailure({kFile, "APIModule::CCommonFunc::GetJsonValue"},
                QStringLiteral("[%1]: type mismatch. jsonValue's type is undefined.").arg(key));
+}
+
+UnreadableKey::UnreadableKey(QString& key) : m_pOuter(std::exchange(pUnreadableKey, &key)) {}
+
+UnreadableKey::~UnreadableKey()
+{
+    pUnreadableKey = m_pOuter;
+}
+
+void UnreadableKey::Note(const QString& key)
+{
+    if (pUnreadableKey) {
+        *pUnreadableKey = key;
+    }
 }
 
 }  // namespace APIModule::detail

@@ -115,6 +115,20 @@ void LogNoValue(const Object& object, const QString& key)
     }
 }
 
+/// Notes the last key that gives no value on its thread while it lives.
+class UnreadableKey {
+public:
+    explicit UnreadableKey(QString& key);
+    ~UnreadableKey();
+    UnreadableKey(const UnreadableKey&) = delete;
+    UnreadableKey& operator=(const UnreadableKey&) = delete;
+
+    static void Note(const QString& key);
+
+private:
+    QString* const m_pOuter;
+};
+
 /// One value by its key. @return 0, or -1 with a log line
 template <typename Object, typename Key, typename Result>
 int ReadConverted(const Object& object, const Key& key, Result& result)
@@ -122,6 +136,7 @@ int ReadConverted(const Object& object, const Key& key, Result& result)
     const auto value = object.value(key);
     if (value.isUndefined()) {
         LogNoValue(object, key);
+        UnreadableKey::Note(key);
         return -1;
     }
     Convert(value, result);

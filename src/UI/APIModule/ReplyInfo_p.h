@@ -1,12 +1,18 @@
 #pragma once
 
+#include "Outcome.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QList>
 #include <QPair>
 #include <QString>
 
+#include <optional>
+
 namespace APIModule {
+
+struct CallSteps;
 
 /// What came back for one request.
 struct ReplyInfo {
@@ -16,6 +22,12 @@ struct ReplyInfo {
     int nCode = -1;                                   ///< "code" of the envelope, -1 without an envelope
     QString strDesc;                                  ///< "desc" of the envelope
     QJsonObject jsonData;                             ///< "data" of the envelope
+    bool bJson = false;                               ///< whether the body is JSON
+    CallEnd eEnd = CallEnd::ApplicationEnding;        ///< Success for a reply of whatever status and code
+    std::optional<int> parsed;                        ///< result of the Parse, where it ran
+    QString strUnreadableKey;                         ///< the key at which the Parse stopped
+    bool bLarge = false;                              ///< whether releasing it takes noticeable time
+    const CallSteps* pSteps = nullptr;                ///< of the typed call that it is for, null for ExecuteFuncs()
 };
 
 }  // namespace APIModule

@@ -3,6 +3,8 @@
 #include <QEventLoop>
 #include <QPointer>
 
+#include <chrono>
+
 class QWidget;
 
 namespace ORNGUI {
@@ -22,7 +24,9 @@ public:
 
     /// A wait behind a modal dialog over @p parent. It ends when the parent or the dialog is destroyed, and when the
     /// dialog returns from exec() for any other reason.
-    explicit Wait(QWidget& parent);
+    ///
+    /// @param delay until the dialog appears; until then user input to all windows is discarded in its place
+    explicit Wait(QWidget& parent, std::chrono::milliseconds delay = std::chrono::milliseconds(0));
 
     ~Wait();
 
@@ -36,18 +40,23 @@ public:
     /// Ends the wait, also one that has not begun.
     void End();
 
-    /// Whether the parent is gone: what comes after that is no result of the call.
-    bool IsOrphaned() const { return m_bOrphaned; }
+    /// Whether somebody else ended the wait: the parent or the dialog is gone, or the dialog was stopped.
+    bool IsBroken() const { return m_bBroken; }
 
     /// Lives as long as the wait: a context for connections that end it.
     QObject* Context() { return &m_loop; }
 
 private:
+    void MakeDialog(QWidget& parent);
+    bool WaitForDialog();
+
     QEventLoop m_loop;
     QEventLoop::ProcessEventsFlags m_flags = QEventLoop::AllEvents;
     QPointer<ORNGUI::OrnWaitDialog> m_pDialog;
+    QPointer<QWidget> m_pParent;  ///< of the dialog that is still to be made
+    std::chrono::milliseconds m_delay{};
     bool m_bEnded = false;
-    bool m_bOrphaned = false;
+    bool m_bBroken = false;
 };
 
 }  // namespace APIModule

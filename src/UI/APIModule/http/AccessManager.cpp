@@ -22,7 +22,8 @@ AccessManager::~AccessManager()
 
 bool AccessManager::HasReplies() const
 {
-    return findChild<Reply*>(QString(), Qt::FindDirectChildrenOnly);
+    const QList<Reply*> replies = findChildren<Reply*>(QString(), Qt::FindDirectChildrenOnly);
+    return std::any_of(replies.begin(), replies.end(), [](const Reply* pReply) { return !pReply->isFinished(); });
 }
 
 QNetworkReply* AccessManager::createRequest(Operation operation, const QNetworkRequest& request, QIODevice* pBody)

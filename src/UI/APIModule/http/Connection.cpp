@@ -249,7 +249,9 @@ void Connection::Carry(Reply& reply)
 void Connection::Send()
 {
     m_reader.emplace(m_manager.MaximumReplySize());
-    m_pSocket->write(m_pReply->Bytes(m_bThroughCache ? &m_proxy : nullptr));
+    const QByteArray bytes = m_pReply->Bytes(m_bThroughCache ? &m_proxy : nullptr);
+    m_pReply->NoteSent(bytes);
+    m_pSocket->write(bytes);
     m_pSocket->flush();
 }
 
@@ -270,6 +272,7 @@ void Connection::Receive()
         if (nRead <= 0) {
             return;
         }
+        m_pReply->NoteFirstByte();
         const qint64 nTaken = m_reader->Feed(buffer.data(), nRead);
         if (m_reader->GetState() != ReplyReader::State::Reading) {
             const bool bReusable = nTaken == nRead && m_pSocket->bytesAvailable() == 0 &&
@@ -305,8 +308,8 @@ void Connection::EndReply()
         Fail(QNetworkReply::ProtocolFailure, QtText("Data corrupted"));
         break;
     case ReplyReader::State::TooLarge:
-        Fail(QNetworkReply::UnknownContentError,
-             QStringLiteral("The reply is larger than %1 bytes").arg(m_manager.MaximumReplySize()));
+        Close();
+        reply.FailTooLarge();
         break;
     case ReplyReader::State::Closed:
     case ReplyReader::State::Reading:

@@ -14,7 +14,7 @@ namespace APIModule::http {
 
 namespace {
 
-QByteArray Verb(QNetworkAccessManager::Operation operation, const QNetworkRequest& request)
+QByteArray VerbOf(QNetworkAccessManager::Operation operation, const QNetworkRequest& request)
 {
     switch (operation) {
     case QNetworkAccessManager::PutOperation:
@@ -42,7 +42,7 @@ QByteArray HostOf(const QUrl& url)
 
 Reply::Reply(AccessManager& manager, QNetworkAccessManager::Operation operation, const QNetworkRequest& request,
              QIODevice* pBody)
-    : QNetworkReply(&manager), m_pManager(&manager), m_verb(Verb(operation, request)),
+    : QNetworkReply(&manager), m_pManager(&manager), m_verb(VerbOf(operation, request)),
       m_sentBody(pBody ? pBody->readAll() : QByteArray()), m_bHasBody(pBody != nullptr),
       m_bWrite(operation != QNetworkAccessManager::GetOperation)
 {
@@ -129,6 +129,20 @@ void Reply::Refuse(const UnknownServer& server)
 {
     m_unknownServer = server;
     Fail(SslHandshakeFailedError, server.reason);
+}
+
+void Reply::FailTooLarge()
+{
+    m_bTooLarge = true;
+    Fail(UnknownContentError,
+         QStringLiteral("The reply is larger than %1 bytes").arg(m_pManager->MaximumReplySize()));
+}
+
+void Reply::NoteFirstByte()
+{
+    if (m_bObserved && !m_firstByte) {
+        m_firstByte = std::chrono::steady_clock::now();
+    }
 }
 
 void Reply::FinishLater()

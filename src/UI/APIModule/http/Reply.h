@@ -8,6 +8,7 @@
 #include <QNetworkRequest>
 #include <QPair>
 
+#include <chrono>
 #include <optional>
 #include <utility>
 
@@ -45,6 +46,17 @@ public:
     /// @param pProxy the HTTP proxy that the request is sent to, null without one
     QByteArray Bytes(const QNetworkProxy* pProxy) const;
 
+    const QByteArray& Verb() const { return m_verb; }
+    const QByteArray& SentBody() const { return m_sentBody; }
+
+    /// From now on the reply notes when its first byte comes.
+    void Observe() { m_bObserved = true; }
+    void NoteSent(const QByteArray& bytes) { m_sent = bytes; }
+    void NoteFirstByte();
+    /// Request line and header lines as they were sent; empty when nothing was sent.
+    QByteArray SentHead() const { return m_sent.left(m_sent.size() - m_sentBody.size()); }
+    const std::optional<std::chrono::steady_clock::time_point>& FirstByte() const { return m_firstByte; }
+
     /// Whether the server may do something twice when the request reaches it twice.
     bool IsWrite() const { return m_bWrite; }
 
@@ -61,6 +73,10 @@ public:
 
     const std::optional<UnknownServer>& GetUnknownServer() const { return m_unknownServer; }
 
+    /// Finishes because more came than the manager accepts.
+    void FailTooLarge();
+    bool IsTooLarge() const { return m_bTooLarge; }
+
 protected:
     qint64 readData(char* pData, qint64 size) override;
 
@@ -74,6 +90,10 @@ private:
     bool m_bHasBody;
     bool m_bWrite;
     bool m_bRepeated = false;
+    bool m_bTooLarge = false;
+    bool m_bObserved = false;
+    QByteArray m_sent;
+    std::optional<std::chrono::steady_clock::time_point> m_firstByte;
     QByteArray m_body;
     qint64 m_nRead = 0;
     QList<QPair<QByteArray, QByteArray>> m_headers;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "../Call.h"
+#include "DMSModule.h"
+
+/// The calls of CDMSModule as values: each one is a Pack with the Parse that belongs to it.
+namespace APIModule::DMS {
+
+using Module = CDMSModule;  ///< whose Packs and Parses the calls are made of
+
+// clang-format off: a call, a line
+
+/// @name PTZ
+/// @{
+/// @copybrief CDMSModule::PackeWashOpen
+inline constexpr Call<&Module::PackeWashOpen, &Module::ParseWashOpen> WashOpen;
+/// @copybrief CDMSModule::PackeBatchWashOpen
+inline constexpr Call<&Module::PackeBatchWashOpen, &Module::ParseBatchWashOpen> BatchWashOpen;
+/// @copybrief CDMSModule::PackeSetHomePosition
+inline constexpr Call<&Module::PackeSetHomePosition, &Module::ParseSetHomePosition> SetHomePosition;
+/// @copybrief CDMSModule::PackeGotoHomePosition
+inline constexpr Call<&Module::PackeGotoHomePosition, &Module::ParseGotoHomePosition> GotoHomePosition;
+/// @}
+
+// clang-format on
+
+}  // namespace APIModule::DMS

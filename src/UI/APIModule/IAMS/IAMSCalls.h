@@ -1,0 +1,21 @@
+#pragma once
+
+#include "../Call.h"
+#include "IAMSModule.h"
+
+/// The calls of CIAMSModule as values: each one is a Pack with the Parse that belongs to it.
+namespace APIModule::IAMS {
+
+using Module = CIAMSModule;  ///< whose Packs and Parses the calls are made of
+
+// clang-format off: a call, a line
+
+/// @name Analysis tasks
+/// @{
+/// @copybrief CIAMSModule::PacketSetAnalysisTaskUploadFailed
+inline constexpr Call<&Module::PacketSetAnalysisTaskUploadFailed> SetAnalysisTaskUploadFailed;
+/// @}
+
+// clang-format on
+
+}  // namespace APIModule::IAMS

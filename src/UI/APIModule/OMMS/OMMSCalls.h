@@ -1,0 +1,25 @@
+#pragma once
+
+#include "../Call.h"
+#include "OMMSModule.h"
+
+/// The calls of COMMSModule as values: each one is a Pack with the Parse that belongs to it.
+namespace APIModule::OMMS {
+
+using Module = COMMSModule;  ///< whose Packs and Parses the calls are made of
+
+// clang-format off: a call, a line
+
+/// @name Maintenance
+/// @{
+/// @copybrief COMMSModule::PacketGetAlertTypes
+inline constexpr Call<&Module::PacketGetAlertTypes, &Module::ParseGetAlertTypes> GetAlertTypes;
+/// @copybrief COMMSModule::PacketGetChannelInfo
+inline constexpr Call<&Module::PacketGetChannelInfo, &Module::ParseGetChannelInfo> GetChannelInfo;
+/// @copybrief COMMSModule::PacketGetDeviceInfo
+inline constexpr Call<&Module::PacketGetDeviceInfo, &Module::ParseGetDeviceInfo> GetDeviceInfo;
+/// @}
+
+// clang-format on
+
+}  // namespace APIModule::OMMS

@@ -1,0 +1,103 @@
+#include "Outcome.h"
+
+#include "CallResult_p.h"
+#include "Exchange_p.h"
+
+#include <ErrorLexicon/ErrorLexicon.h>
+
+#include "APIModule.h"
+
+#include <string>
+
+namespace APIModule {
+
+namespace {
+
+const detail::CallResult& NoResult()
+{
+    static const detail::CallResult none;
+    return none;
+}
+
+}  // namespace
+
+namespace detail {
+
+int CodeOf(CallEnd eEnd)
+{
+    switch (eEnd) {
+    case CallEnd::Success:
+        return 0;
+    case CallEnd::InvalidRequest:
+        return -4;
+    case CallEnd::NoConnection:
+    case CallEnd::ServerNotTrusted:
+    case CallEnd::ReplyTooLarge:
+        return -18;
+    case CallEnd::TimedOut:
+    case CallEnd::Cancelled:
+    case CallEnd::ApplicationEnding:
+        return -101;
+    case CallEnd::NotAuthenticated:
+        return 7000;
+    case CallEnd::NotPacked:
+    case CallEnd::HttpStatus:
+    case CallEnd::Refused:
+    case CallEnd::UnreadableReply:
+        break;
+    }
+    return -1;
+}
+
+std::shared_ptr<const CallResult> Shared(CallResult&& result)
+{
+    if (!result.reply.bLarge) {
+        return std::make_shared<const CallResult>(std::move(result));
+    }
+    return {new CallResult(std::move(result)), [](const CallResult* pResult) { RunInPool([pResult] { delete pResult; }); }};
+}
+
+}  // namespace detail
+
+OutcomeBase::OutcomeBase() = default;
+
+OutcomeBase::OutcomeBase(std::shared_ptr<const detail::CallResult> pResult) : m_pResult(std::move(pResult)) {}
+
+CallEnd OutcomeBase::End() const
+{
+    return (m_pResult ? *m_pResult : NoResult()).eEnd;
+}
+
+int OutcomeBase::Code() const
+{
+    return (m_pResult ? *m_pResult : NoResult()).nCode;
+}
+
+QString OutcomeBase::Text() const
+{
+    if (*this) {
+        return {};
+    }
+    std::string text;
+    if (ErrorLexicon::ErrorLexiconQuery(Code(), text) == 0) {
+        return QString::fromStdString(text);
+    }
+    return CAPIModule::tr("Operation failed") + QStringLiteral(" (%1)").arg(Code());
+}
+
+QString OutcomeBase::ServerText() const
+{
+    return (m_pResult ? *m_pResult : NoResult()).reply.strDesc;
+}
+
+QString OutcomeBase::UnreadableKey() const
+{
+    return (m_pResult ? *m_pResult : NoResult()).reply.strUnreadableKey;
+}
+
+const QJsonObject& OutcomeBase::Data() const
+{
+    return (m_pResult ? *m_pResult : NoResult()).reply.jsonData;
+}
+
+}  // namespace APIModule

@@ -1,0 +1,218 @@
+#pragma once
+
+#include "ObservedExchange.h"
+#include "Outcome.h"
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+/// @file
+/// Calls as values: a Call is a constant, applied to its arguments it makes a Request, which Run() and Start() of
+/// Call.h run.
+
+namespace APIModule {
+
+namespace detail {
+
+/// What describes a request.
+struct RequestParts {
+    std::function<int(void* pReqParamData, int nServerId)> pack;
+    int nServerId = -1;
+    std::optional<std::chrono::milliseconds> timeout;
+    ExchangeObserver observer;
+};
+
+}  // namespace detail
+
+/// A call with its arguments. A value: it can be kept, copied and run any number of times.
+///
+/// The call itself names its server; most calls make a Request, which can be sent to any.
+template <typename Record>
+class FixedRequest {
+public:
+    using Parse = int (*)(const QJsonObject&, Record&);
+
+    FixedRequest(detail::RequestParts parts, Parse parse) : m_parts(std::move(parts)), m_parse(parse) {}
+
+    /// The same request with a time-out, in the place of CAPIModule::SetCallTimeout() and of the Pack's own. It counts
+    /// from the moment at which the request has its turn to be sent.
+    [[nodiscard]] FixedRequest Within(std::chrono::milliseconds timeout) const
+    {
+        FixedRequest request(*this);
+        request.m_parts.timeout = timeout;
+        return request;
+    }
+
+    /// The same request, whose exchanges are shown to @p observer besides the one of CAPIModule::SetExchangeObserver().
+    [[nodiscard]] FixedRequest Observed(ExchangeObserver observer) const
+    {
+        FixedRequest request(*this);
+        request.m_parts.observer = std::move(observer);
+        return request;
+    }
+
+    [[nodiscard]] const detail::RequestParts& Parts() const { return m_parts; }
+    /// Null for a call without a Parse.
+    [[nodiscard]] Parse GetParse() const { return m_parse; }
+
+protected:
+    detail::RequestParts m_parts;  // NOLINT(cppcoreguidelines-non-private-member-variables-in-classes)
+
+private:
+    Parse m_parse;
+};
+
+/// A call with its arguments, for the user manager's current server unless OnServer() names one.
+template <typename Record>
+class Request : public FixedRequest<Record> {
+public:
+    using FixedRequest<Record>::FixedRequest;
+
+    /// The same request for a server of the user manager; -1 for the current one.
+    [[nodiscard]] Request OnServer(int nServerId) const
+    {
+        Request request(*this);
+        request.m_parts.nServerId = nServerId;
+        return request;
+    }
+
+    /// As FixedRequest::Within().
+    [[nodiscard]] Request Within(std::chrono::milliseconds timeout) const
+    {
+        return Request(FixedRequest<Record>::Within(timeout));
+    }
+
+    /// As FixedRequest::Observed().
+    [[nodiscard]] Request Observed(ExchangeObserver observer) const
+    {
+        return Request(FixedRequest<Record>::Observed(std::move(observer)));
+    }
+
+private:
+    explicit Request(const FixedRequest<Record>& request) : FixedRequest<Record>(request) {}
+};
+
+namespace detail {
+
+/// A stored argument as a Pack takes it: one by reference to non-const gets a fresh copy.
+template <typename Parameter>
+class Passed {
+    using Value = std::decay_t<Parameter>;
+    static constexpr bool kMayChange =
+        std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>;
+
+public:
+    explicit Passed(const Value& value) : m_value(value) {}
+    operator std::conditional_t<kMayChange, Value&, const Value&>() { return m_value; }
+
+private:
+    std::conditional_t<kMayChange, Value, const Value&> m_value;
+};
+
+template <typename... All>
+struct ParameterList {};
+
+/// The parameters of a Pack between the request and the server identifier. An `int` by value at the end is the server
+/// identifier; a few Packs take none.
+template <typename Done, typename... Rest>
+struct SplitParameters;
+
+template <typename... Done, typename Last>
+struct SplitParameters<ParameterList<Done...>, Last> {
+    static constexpr bool kTakesServerId = std::is_same_v<Last, int>;
+    using Arguments = std::conditional_t<kTakesServerId, ParameterList<Done...>, ParameterList<Done..., Last>>;
+};
+
+template <typename... Done, typename Next, typename... Rest>
+struct SplitParameters<ParameterList<Done...>, Next, Rest...> : SplitParameters<ParameterList<Done..., Next>, Rest...> {};
+
+template <typename Function>
+struct PackSignature;
+
+template <typename... All>
+struct PackSignature<int (*)(void*, All...)> : SplitParameters<ParameterList<>, All...> {};
+
+template <typename Function>
+struct ParseSignature;
+
+template <typename Out>
+struct ParseSignature<int (*)(const QJsonObject&, Out&)> {
+    using Record = Out;
+};
+
+template <>
+struct ParseSignature<std::nullptr_t> {
+    using Record = NoRecord;
+};
+
+/// Makes requests from the arguments of a Pack.
+template <auto Pack, auto Parse, typename Arguments>
+class CallOf;
+
+template <auto Pack, auto Parse, typename... Arguments>
+class CallOf<Pack, Parse, ParameterList<Arguments...>> {
+    static constexpr bool kTakesServerId = PackSignature<decltype(Pack)>::kTakesServerId;
+
+    template <typename... Given>
+    static constexpr bool Fits()
+    {
+        if constexpr (sizeof...(Given) == sizeof...(Arguments)) {
+            return (... && std::is_convertible_v<Given, std::decay_t<Arguments>>);
+        } else {
+            return false;
+        }
+    }
+
+    template <typename... Given>
+    static constexpr bool kNever = false;
+
+public:
+    using Record = typename ParseSignature<decltype(Parse)>::Record;
+    using RequestType = std::conditional_t<kTakesServerId, Request<Record>, FixedRequest<Record>>;
+
+    /// A request with these arguments, which are those of the Pack between request and server identifier.
+    RequestType operator()(std::decay_t<Arguments>... arguments) const
+    {
+        RequestParts parts;
+        parts.pack = [values = std::tuple<std::decay_t<Arguments>...>(std::move(arguments)...)](
+                         void* pReqParamData, [[maybe_unused]] int nServerId) {
+            return std::apply(
+                [&](const std::decay_t<Arguments>&... value) {
+                    if constexpr (kTakesServerId) {
+                        return Pack(pReqParamData, Passed<Arguments>(value)..., nServerId);
+                    } else {
+                        return Pack(pReqParamData, Passed<Arguments>(value)...);
+                    }
+                },
+                values);
+        };
+        return RequestType(std::move(parts), Parse);
+    }
+
+    /// Takes what the other overload does not, for the sake of the message.
+    template <typename... Given, typename = std::enable_if_t<!Fits<Given...>()>>
+    RequestType operator()(const Given&... /*given*/) const
+    {
+        static_assert(kNever<Given...>,
+                      "These are not the arguments of the call: it takes those of its Pack, without the request and "
+                      "the server identifier; OnServer() names the server.");
+        return operator()(std::decay_t<Arguments>()...);
+    }
+};
+
+}  // namespace detail
+
+/// A call of the library: a Pack and, where its reply carries data for the caller, the Parse that belongs to it.
+///
+/// Applied to the Pack's arguments, without the request and the server identifier, it makes a request:
+/// @code
+/// const Request<std::vector<RuleInfo>> rules = OBMS::GetPointRules(GetPointAccessRules{"7", 1, false}).OnServer(2);
+/// @endcode
+template <auto Pack, auto Parse = nullptr>
+class Call : public detail::CallOf<Pack, Parse, typename detail::PackSignature<decltype(Pack)>::Arguments> {};
+
+}  // namespace APIModule
