@@ -14,114 +14,78 @@ using APIModule::Method_Get;
 using APIModule::Method_Post;
 using APIModule::Method_Put;
 
-PackRow AuthorizePersonsRow(const std::string& name, const APIModule::GetPageAccessAuthorizePersonsReq& req,
-                            const std::string& body)
-{
-    return {name,
-            "COBMSModule::PacketGetPageAccessAuthorizePersons",
-            Bind<const APIModule::GetPageAccessAuthorizePersonsReq&>(&COBMSModule::PacketGetPageAccessAuthorizePersons,
-                                                                     req),
-            Method_Post,
-            "/obms/api/v1.1/acs/person/access/authorize/fetch/page",
-            body};
-}
-
-PackRow GetManagedRow(const std::string& name, const std::string& deviceCode, const std::string& url)
-{
-    return {name,
-            "COBMSModule::PacketGetManagePersons",
-            Bind<const APIModule::GetManagePersonReq&>(&COBMSModule::PacketGetManagePersons, {deviceCode}),
-            Method_Get,
-            url,
-            "",
-            Server::Current};
-}
-
-PackRow SetManagedRow(const std::string& name, const APIModule::SetManagePersonReq& req, const std::string& url,
-                      const std::string& body)
-{
-    return {name,
-            "COBMSModule::PacketSetManagePersons",
-            Bind<const APIModule::SetManagePersonReq&>(&COBMSModule::PacketSetManagePersons, req),
-            Method_Put,
-            url,
-            body};
-}
-
-PackRow PointRulesRow(const std::string& name, const APIModule::GetPointAccessRules& req, const std::string& url)
-{
-    return {name, "COBMSModule::PackGetPointRules",
-            Bind<const APIModule::GetPointAccessRules&>(&COBMSModule::PackGetPointRules, req), Method_Get, url};
-}
-
-PackRow ResetAntiPassRow(const std::string& name, const std::string& personId, const std::string& url)
-{
-    return {name, "COBMSModule::PackPersonResetAntiPass",
-            Bind<const std::string&>(&COBMSModule::PackPersonResetAntiPass, personId), Method_Post, url};
-}
+const BodyPack<const APIModule::GetPageAccessAuthorizePersonsReq&> kAuthorizePersonsPack(
+    "COBMSModule::PacketGetPageAccessAuthorizePersons", &COBMSModule::PacketGetPageAccessAuthorizePersons, Method_Post,
+    "/obms/api/v1.1/acs/person/access/authorize/fetch/page");
+const UrlPack<const APIModule::GetManagePersonReq&> kGetManaged("COBMSModule::PacketGetManagePersons",
+                                                                &COBMSModule::PacketGetManagePersons, Method_Get,
+                                                                "/obms/api/v1.1/acs/device/", {Server::Current});
+const UrlPack<const APIModule::SetManagePersonReq&> kSetManaged("COBMSModule::PacketSetManagePersons",
+                                                                &COBMSModule::PacketSetManagePersons, Method_Put,
+                                                                "/obms/api/v1.1/acs/device/");
+const UrlPack<const APIModule::GetPointAccessRules&> kPointRulesPack("COBMSModule::PackGetPointRules",
+                                                                     &COBMSModule::PackGetPointRules, Method_Get,
+                                                                     "/obms/api/v1.1/acp/point/");
+const UrlPack<const std::string&> kResetAntiPass("COBMSModule::PackPersonResetAntiPass",
+                                                 &COBMSModule::PackPersonResetAntiPass, Method_Post,
+                                                 "/obms/api/v1.1/acs/person/");
 
 const PackRow kPacks[] = {
-    AuthorizePersonsRow("AuthorizePersons_page_0_of_20_and_flag_are_texts", {0, 20, false, "jo", "dev 1", "001", {"7"}},
-                        R"({"page": "0", "pageSize": "20", "containChild": "0", "keyword": "jo", "deviceCode": "dev 1",
+    kAuthorizePersonsPack(
+        "AuthorizePersons_page_0_of_20_and_flag_are_texts", {0, 20, false, "jo", "dev 1", "001", {"7"}},
+        R"({"page": "0", "pageSize": "20", "containChild": "0", "keyword": "jo", "deviceCode": "dev 1",
                             "orgCode": "001", "pointIds": ["7"]})"),
-    AuthorizePersonsRow("AuthorizePersons_containChild_and_points_in_order", {3, 50, true, "", "", "", {"b", "a", "b"}},
-                        R"({"page": "3", "pageSize": "50", "containChild": "1", "keyword": "", "deviceCode": "",
+    kAuthorizePersonsPack("AuthorizePersons_containChild_and_points_in_order",
+                          {3, 50, true, "", "", "", {"b", "a", "b"}},
+                          R"({"page": "3", "pageSize": "50", "containChild": "1", "keyword": "", "deviceCode": "",
                             "orgCode": "", "pointIds": ["b", "a", "b"]})"),
-    AuthorizePersonsRow("AuthorizePersons_fresh_sends_an_empty_list_of_points", {},
-                        R"({"page": "0", "pageSize": "0", "containChild": "0", "keyword": "", "deviceCode": "",
+    kAuthorizePersonsPack("AuthorizePersons_fresh_sends_an_empty_list_of_points", {},
+                          R"({"page": "0", "pageSize": "0", "containChild": "0", "keyword": "", "deviceCode": "",
                             "orgCode": "", "pointIds": []})"),
-    AuthorizePersonsRow("AuthorizePersons_negative_numbers", {-1, -2147483647 - 1, false, "", "", "", {}},
-                        R"({"page": "-1", "pageSize": "-2147483648", "containChild": "0", "keyword": "",
+    kAuthorizePersonsPack("AuthorizePersons_negative_numbers", {-1, -2147483647 - 1, false, "", "", "", {}},
+                          R"({"page": "-1", "pageSize": "-2147483648", "containChild": "0", "keyword": "",
                             "deviceCode": "", "orgCode": "", "pointIds": []})"),
-    AuthorizePersonsRow("AuthorizePersons_zero_bytes_are_kept", {1, 2, true, "a\0b"s, "\0"s, "c\0"s, {"d\0e"s}},
-                        R"({"page": "1", "pageSize": "2", "containChild": "1", "keyword": "a\u0000b",
+    kAuthorizePersonsPack("AuthorizePersons_zero_bytes_are_kept", {1, 2, true, "a\0b"s, "\0"s, "c\0"s, {"d\0e"s}},
+                          R"({"page": "1", "pageSize": "2", "containChild": "1", "keyword": "a\u0000b",
                             "deviceCode": "\u0000", "orgCode": "c\u0000", "pointIds": ["d\u0000e"]})"),
-    AuthorizePersonsRow("AuthorizePersons_utf8_quotes_and_markers",
-                        {1, 2, true, "\xC3\xBC \xE4\xB8\xAD", R"("q"\)", "%1", {"x\xFF", ""}},
-                        R"({"page": "1", "pageSize": "2", "containChild": "1", "keyword": "\u00fc \u4e2d",
+    kAuthorizePersonsPack("AuthorizePersons_utf8_quotes_and_markers",
+                          {1, 2, true, "\xC3\xBC \xE4\xB8\xAD", R"("q"\)", "%1", {"x\xFF", ""}},
+                          R"({"page": "1", "pageSize": "2", "containChild": "1", "keyword": "\u00fc \u4e2d",
                             "deviceCode": "\"q\"\\", "orgCode": "%1", "pointIds": ["x\ufffd", ""]})"),
-    GetManagedRow("GetManagePersons_always_asks_the_current_server", "1000001",
-                  "/obms/api/v1.1/acs/device/1000001/manage/person/list"),
-    GetManagedRow("GetManagePersons_empty_text", "", "/obms/api/v1.1/acs/device//manage/person/list"),
-    GetManagedRow("GetManagePersons_nothing_is_escaped", "a b/%1?\xC3\xBC\"",
-                  "/obms/api/v1.1/acs/device/a b/%1?\xC3\xBC\"/manage/person/list"),
-    GetManagedRow("GetManagePersons_zero_byte_is_kept", "a\0b"s, "/obms/api/v1.1/acs/device/a\0b/manage/person/list"s),
-    GetManagedRow("GetManagePersons_invalid_utf8", "x\xFF",
-                  "/obms/api/v1.1/acs/device/x\xEF\xBF\xBD/manage/person/list"),
-    SetManagedRow("SetManagePersons", {"1000001", {"2", "1"}}, "/obms/api/v1.1/acs/device/1000001/manage/person",
-                  R"({"personIds": ["2", "1"]})"),
-    SetManagedRow("SetManagePersons_empty_list_is_sent", {"1000001", {}},
-                  "/obms/api/v1.1/acs/device/1000001/manage/person", R"({"personIds": []})"),
-    SetManagedRow("SetManagePersons_nothing_is_escaped", {"a b/%1?\xC3\xBC\"", {"%1", R"("q"\)", "\xE4\xB8\xAD"}},
-                  "/obms/api/v1.1/acs/device/a b/%1?\xC3\xBC\"/manage/person",
-                  R"({"personIds": ["%1", "\"q\"\\", "\u4e2d"]})"),
-    SetManagedRow("SetManagePersons_zero_bytes_are_kept", {"a\0b"s, {"c\0d"s, ""}},
-                  "/obms/api/v1.1/acs/device/a\0b/manage/person"s, R"({"personIds": ["c\u0000d", ""]})"),
-    SetManagedRow("SetManagePersons_invalid_utf8", {"x\xFF", {"y\xC3"}},
-                  "/obms/api/v1.1/acs/device/x\xEF\xBF\xBD/manage/person", R"({"personIds": ["y\ufffd"]})"),
-    PointRulesRow("GetPointRules", {"77", "2", 1},
-                  "/obms/api/v1.1/acp/point/77/rule/list?ruleType=2&hasOfflinePoint=1"),
-    PointRulesRow("GetPointRules_hasOfflinePoint_is_a_decimal_number", {"77", "2", -12},
-                  "/obms/api/v1.1/acp/point/77/rule/list?ruleType=2&hasOfflinePoint=-12"),
-    PointRulesRow("GetPointRules_fresh", {}, "/obms/api/v1.1/acp/point//rule/list?ruleType=&hasOfflinePoint=0"),
-    PointRulesRow("GetPointRules_nothing_is_escaped", {"a b/?", "\xC3\xBC&\"#", 0},
-                  "/obms/api/v1.1/acp/point/a b/?/rule/list?ruleType=\xC3\xBC&\"#&hasOfflinePoint=0"),
-    PointRulesRow("GetPointRules_zero_bytes_are_kept", {"a\0b"s, "\0"s, 0},
-                  "/obms/api/v1.1/acp/point/a\0b/rule/list?ruleType=\0&hasOfflinePoint=0"s),
-    PointRulesRow("GetPointRules_invalid_utf8", {"x\xFF", "\xC3", 0},
-                  "/obms/api/v1.1/acp/point/x\xEF\xBF\xBD/rule/list?ruleType=\xEF\xBF\xBD&hasOfflinePoint=0"),
-    PointRulesRow("GetPointRules_markers_of_later_places_are_rewritten", {"a%2b", "t%3", 5},
-                  "/obms/api/v1.1/acp/point/at5b/rule/list?ruleType=t5&hasOfflinePoint=5"),
-    PointRulesRow("GetPointRules_marker_1_in_the_point_takes_the_type", {"%1", "t", 5},
-                  "/obms/api/v1.1/acp/point/t/rule/list?ruleType=5&hasOfflinePoint=%3"),
-    ResetAntiPassRow("PersonResetAntiPass", "31", "/obms/api/v1.1/acs/person/31/anti-pass-time/reset"),
-    ResetAntiPassRow("PersonResetAntiPass_empty_text", "", "/obms/api/v1.1/acs/person//anti-pass-time/reset"),
-    ResetAntiPassRow("PersonResetAntiPass_nothing_is_escaped", "a b/%1?\xC3\xBC\"",
-                     "/obms/api/v1.1/acs/person/a b/%1?\xC3\xBC\"/anti-pass-time/reset"),
-    ResetAntiPassRow("PersonResetAntiPass_zero_byte_is_kept", "a\0b"s,
-                     "/obms/api/v1.1/acs/person/a\0b/anti-pass-time/reset"s),
-    ResetAntiPassRow("PersonResetAntiPass_invalid_utf8", "x\xFF",
-                     "/obms/api/v1.1/acs/person/x\xEF\xBF\xBD/anti-pass-time/reset"),
+    kGetManaged("GetManagePersons_always_asks_the_current_server", {"1000001"}, "1000001/manage/person/list"),
+    kGetManaged("GetManagePersons_empty_text", {""}, "/manage/person/list"),
+    kGetManaged("GetManagePersons_nothing_is_escaped", {"a b/%1?\xC3\xBC\""}, "a b/%1?\xC3\xBC\"/manage/person/list"),
+    kGetManaged("GetManagePersons_zero_byte_is_kept", {"a\0b"s}, "a\0b/manage/person/list"s),
+    kGetManaged("GetManagePersons_invalid_utf8", {"x\xFF"}, "x\xEF\xBF\xBD/manage/person/list"),
+    kSetManaged("SetManagePersons", {"1000001", {"2", "1"}}, "1000001/manage/person", R"({"personIds": ["2", "1"]})"),
+    kSetManaged("SetManagePersons_empty_list_is_sent", {"1000001", {}}, "1000001/manage/person",
+                R"({"personIds": []})"),
+    kSetManaged("SetManagePersons_nothing_is_escaped", {"a b/%1?\xC3\xBC\"", {"%1", R"("q"\)", "\xE4\xB8\xAD"}},
+                "a b/%1?\xC3\xBC\"/manage/person", R"({"personIds": ["%1", "\"q\"\\", "\u4e2d"]})"),
+    kSetManaged("SetManagePersons_zero_bytes_are_kept", {"a\0b"s, {"c\0d"s, ""}}, "a\0b/manage/person"s,
+                R"({"personIds": ["c\u0000d", ""]})"),
+    kSetManaged("SetManagePersons_invalid_utf8", {"x\xFF", {"y\xC3"}}, "x\xEF\xBF\xBD/manage/person",
+                R"({"personIds": ["y\ufffd"]})"),
+    kPointRulesPack("GetPointRules", {"77", "2", 1}, "77/rule/list?ruleType=2&hasOfflinePoint=1"),
+    kPointRulesPack("GetPointRules_hasOfflinePoint_is_a_decimal_number", {"77", "2", -12},
+                    "77/rule/list?ruleType=2&hasOfflinePoint=-12"),
+    kPointRulesPack("GetPointRules_fresh", {}, "/rule/list?ruleType=&hasOfflinePoint=0"),
+    kPointRulesPack("GetPointRules_nothing_is_escaped", {"a b/?", "\xC3\xBC&\"#", 0},
+                    "a b/?/rule/list?ruleType=\xC3\xBC&\"#&hasOfflinePoint=0"),
+    kPointRulesPack("GetPointRules_zero_bytes_are_kept", {"a\0b"s, "\0"s, 0},
+                    "a\0b/rule/list?ruleType=\0&hasOfflinePoint=0"s),
+    kPointRulesPack("GetPointRules_invalid_utf8", {"x\xFF", "\xC3", 0},
+                    "x\xEF\xBF\xBD/rule/list?ruleType=\xEF\xBF\xBD&hasOfflinePoint=0"),
+    kPointRulesPack("GetPointRules_markers_of_later_places_are_rewritten", {"a%2b", "t%3", 5},
+                    "at5b/rule/list?ruleType=t5&hasOfflinePoint=5"),
+    kPointRulesPack("GetPointRules_marker_1_in_the_point_takes_the_type", {"%1", "t", 5},
+                    "t/rule/list?ruleType=5&hasOfflinePoint=%3"),
+    kResetAntiPass("PersonResetAntiPass", "31", "31/anti-pass-time/reset"),
+    kResetAntiPass("PersonResetAntiPass_empty_text", "", "/anti-pass-time/reset"),
+    kResetAntiPass("PersonResetAntiPass_nothing_is_escaped", "a b/%1?\xC3\xBC\"",
+                   "a b/%1?\xC3\xBC\"/anti-pass-time/reset"),
+    kResetAntiPass("PersonResetAntiPass_zero_byte_is_kept", "a\0b"s, "a\0b/anti-pass-time/reset"s),
+    kResetAntiPass("PersonResetAntiPass_invalid_utf8", "x\xFF", "x\xEF\xBF\xBD/anti-pass-time/reset"),
 };
 
 INSTANTIATE_TEST_SUITE_P(AccessControl, PackTest, testing::ValuesIn(kPacks), RowName());

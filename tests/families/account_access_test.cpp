@@ -44,22 +44,12 @@ std::vector<PackRow> RowsOfId(const CallOfId& call)
     };
 }
 
-PackRow Check(const std::string& name, const FunctionChannelCheck& check, const std::string& body)
-{
-    return {name,
-            "CBRMSModule::PacketFunctionChannelCheck",
-            Bind<FunctionChannelCheck&>(&CBRMSModule::PacketFunctionChannelCheck, check),
-            Method_Post,
-            "/brms/api/v1.1/account/function/channel/check",
-            body};
-}
-
-PackRow Count(const std::string& name, const DeviceCategoryParamReq& query, const std::string& urlQuery)
-{
-    return {name, "CBRMSModule::PacketGetDeviceCategoryCount",
-            Bind<const DeviceCategoryParamReq&>(&CBRMSModule::PacketGetDeviceCategoryCount, query), Method_Get,
-            "/brms/api/v1.1/device/statistics/count-by-device-category/list?" + urlQuery};
-}
+const BodyPack<FunctionChannelCheck&> kCheckPack("CBRMSModule::PacketFunctionChannelCheck",
+                                                 &CBRMSModule::PacketFunctionChannelCheck, Method_Post,
+                                                 "/brms/api/v1.1/account/function/channel/check");
+const UrlPack<const DeviceCategoryParamReq&> kCountPack(
+    "CBRMSModule::PacketGetDeviceCategoryCount", &CBRMSModule::PacketGetDeviceCategoryCount, Method_Get,
+    "/brms/api/v1.1/device/statistics/count-by-device-category/list?");
 
 std::vector<PackRow> PackRows()
 {
@@ -70,34 +60,35 @@ std::vector<PackRow> PackRows()
          Bind<>(&CBRMSModule::PacketGetPermissionResourceCollection), Method_Get,
          "/brms/api/v1.1/account/permission/resource/collection"},
 
-        Check("Check", {"c1", "PLAYBACK"}, R"({"channelId": "c1", "functionCode": "PLAYBACK"})"),
-        Check("Check_fresh", {}, R"({"channelId": "", "functionCode": ""})"),
-        Check("Check_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n"},
-              R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
-        Check("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
-              R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
-        Check("Check_texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s},
-              R"({"channelId": "a\u0000b", "functionCode": "c\u0000d"})"),
+        kCheckPack("Check", {"c1", "PLAYBACK"}, R"({"channelId": "c1", "functionCode": "PLAYBACK"})"),
+        kCheckPack("Check_fresh", {}, R"({"channelId": "", "functionCode": ""})"),
+        kCheckPack("Check_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n"},
+                   R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
+        kCheckPack("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
+                   R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
+        kCheckPack("Check_texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s},
+                   R"({"channelId": "a\u0000b", "functionCode": "c\u0000d"})"),
 
-        Count("Count", {"k", "o", "d", "p", "s", "c"},
-              "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
-        Count("Count_with_only_the_keyword_cam", {"cam", "", "", "", "", ""},
-              "keyword=cam&orgCode=&domain=&permitted=&sourceType=&containChild="),
-        Count("Count_fresh", {}, "keyword=&orgCode=&domain=&permitted=&sourceType=&containChild="),
-        Count("Count_is_not_escaped", {"a&b#c", "0 01", "x/y?", "\"", "+", "%20"},
-              "keyword=a&b#c&orgCode=0 01&domain=x/y?&permitted=\"&sourceType=+&containChild=%20"),
-        Count("Count_marker_in_a_field_is_replaced_by_later_fields", {"a%2b", "ORG", "D", "P", "S", "C"},
-              "keyword=aORGb&orgCode=ORG&domain=D&permitted=P&sourceType=S&containChild=C"),
-        Count("Count_lowest_marker_is_replaced_first", {"%1", "ORG", "D", "P", "S", "C"},
-              "keyword=ORG&orgCode=D&domain=P&permitted=S&sourceType=C&containChild=%6"),
-        Count("Count_marker_in_the_last_field_stays", {"k", "o", "d", "p", "s", "%1%6"},
-              "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=%1%6"),
-        Count("Count_marker_beyond_the_places_stays", {"%9", "o", "d", "p", "s", "c"},
-              "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
-        Count("Count_is_utf8_and_goes_on_behind_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
-              "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
-        Count("Count_every_text_goes_on_behind_a_zero_byte", {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
-              "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
+        kCountPack("Count", {"k", "o", "d", "p", "s", "c"},
+                   "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
+        kCountPack("Count_with_only_the_keyword_cam", {"cam", "", "", "", "", ""},
+                   "keyword=cam&orgCode=&domain=&permitted=&sourceType=&containChild="),
+        kCountPack("Count_fresh", {}, "keyword=&orgCode=&domain=&permitted=&sourceType=&containChild="),
+        kCountPack("Count_is_not_escaped", {"a&b#c", "0 01", "x/y?", "\"", "+", "%20"},
+                   "keyword=a&b#c&orgCode=0 01&domain=x/y?&permitted=\"&sourceType=+&containChild=%20"),
+        kCountPack("Count_marker_in_a_field_is_replaced_by_later_fields", {"a%2b", "ORG", "D", "P", "S", "C"},
+                   "keyword=aORGb&orgCode=ORG&domain=D&permitted=P&sourceType=S&containChild=C"),
+        kCountPack("Count_lowest_marker_is_replaced_first", {"%1", "ORG", "D", "P", "S", "C"},
+                   "keyword=ORG&orgCode=D&domain=P&permitted=S&sourceType=C&containChild=%6"),
+        kCountPack("Count_marker_in_the_last_field_stays", {"k", "o", "d", "p", "s", "%1%6"},
+                   "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=%1%6"),
+        kCountPack("Count_marker_beyond_the_places_stays", {"%9", "o", "d", "p", "s", "c"},
+                   "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
+        kCountPack("Count_is_utf8_and_goes_on_behind_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
+                   "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
+        kCountPack("Count_every_text_goes_on_behind_a_zero_byte",
+                   {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
+                   "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
     };
     for (const CallOfId& call : std::initializer_list<CallOfId>{
              {"GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",

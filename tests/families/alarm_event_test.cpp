@@ -16,19 +16,12 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-PackRow Plans(const std::string& name, const GetPageSummaryAlarmPlansParam& query, const std::string& urlQuery)
-{
-    return {"Plans_" + name, "CBRMSModule::PacketGetPageSummaryAlarmPlans",
-            Bind<const GetPageSummaryAlarmPlansParam&>(&CBRMSModule::PacketGetPageSummaryAlarmPlans, query), Method_Get,
-            "/brms/api/v1.1/alarm/plan/summary/page?" + urlQuery};
-}
-
-PackRow Links(const std::string& name, const std::string& sourceCode, int alarmType, const std::string& urlQuery)
-{
-    return {"Links_" + name, "CBRMSModule::PacketGetAlarmLinkControlList",
-            Bind<const std::string&, int>(&CBRMSModule::PacketGetAlarmLinkControlList, sourceCode, alarmType),
-            Method_Get, "/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?" + urlQuery};
-}
+const UrlPack<const GetPageSummaryAlarmPlansParam&> kPlansPack("CBRMSModule::PacketGetPageSummaryAlarmPlans",
+                                                               &CBRMSModule::PacketGetPageSummaryAlarmPlans, Method_Get,
+                                                               "/brms/api/v1.1/alarm/plan/summary/page?");
+const UrlPack<const std::string&, int> kLinksPack("CBRMSModule::PacketGetAlarmLinkControlList",
+                                                  &CBRMSModule::PacketGetAlarmLinkControlList, Method_Get,
+                                                  "/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?");
 
 /// In a client whose numbers have a point behind their thousands.
 PackRow InGerman(PackRow row)
@@ -43,96 +36,76 @@ PackRow InGerman(PackRow row)
     return row;
 }
 
-PackRow Layer(const std::string& name, const std::string& resourceCode, int resourceType, const std::string& urlQuery)
-{
-    return {"Layer_" + name, "CBRMSModule::PacketGetAlarmLayerDetail",
-            Bind<const std::string&, int>(&CBRMSModule::PacketGetAlarmLayerDetail, resourceCode, resourceType),
-            Method_Get, "/ipms/api/v1.1/parking-lot/layer/detail?" + urlQuery};
-}
-
-PackRow Files(const std::string& name, const std::string& alarmRecordId, const std::string& url)
-{
-    return {"Files_" + name, "CBRMSModule::PacketGetAlarmHostFileInfo",
-            Bind<const std::string&>(&CBRMSModule::PacketGetAlarmHostFileInfo, alarmRecordId), Method_Get, url};
-}
-
-std::function<int(void*, int)> GetAudioFileInfo(const std::string& url, const std::string& body)
-{
-    return Bind<const std::string&, const std::string&>(&CBRMSModule::PacketGetAudioFileInfo, url, body);
-}
-
-PackRow Audio(const std::string& name, const std::string& url, const std::string& body, const std::string& sentUrl,
-              const std::string& sentBody)
-{
-    return {"Audio_" + name, "CBRMSModule::PacketGetAudioFileInfo", GetAudioFileInfo(url, body), Method_Get, sentUrl,
-            sentBody};
-}
-
-PackRow Events(const std::string& name, const GetGeneralEventsParam& query, const std::string& body)
-{
-    return {"Events_" + name,
-            "CBRMSModule::PacketGetGeneralEvents",
-            Bind<GetGeneralEventsParam&>(&CBRMSModule::PacketGetGeneralEvents, query),
-            Method_Get,
-            "/brms/api/v1.1/alarm/general/event/list",
-            body};
-}
+const UrlPack<const std::string&, int> kLayerPack("CBRMSModule::PacketGetAlarmLayerDetail",
+                                                  &CBRMSModule::PacketGetAlarmLayerDetail, Method_Get,
+                                                  "/ipms/api/v1.1/parking-lot/layer/detail?");
+const UrlPack<const std::string&> kFilesPack("CBRMSModule::PacketGetAlarmHostFileInfo",
+                                             &CBRMSModule::PacketGetAlarmHostFileInfo, Method_Get,
+                                             "/brms/api/v1.1/alarm/record/");
+const UrlPack<const std::string&, const std::string&> kAudioFile("CBRMSModule::PacketGetAudioFileInfo",
+                                                                 &CBRMSModule::PacketGetAudioFileInfo, Method_Get);
+const BodyPack<GetGeneralEventsParam&> kEventsPack("CBRMSModule::PacketGetGeneralEvents",
+                                                   &CBRMSModule::PacketGetGeneralEvents, Method_Get,
+                                                   "/brms/api/v1.1/alarm/general/event/list");
 
 const PackRow kPacks[] = {
-    Plans("page_2_of_20_with_the_keyword_door", {2, 20, "door"}, "page=2&pageSize=20&keyword=door"),
-    Plans("empty_keyword_ends_the_url", {1, 50, ""}, "page=1&pageSize=50&keyword="),
-    Plans("fresh", {}, "page=0&pageSize=0&keyword="),
-    Plans("negative_and_largest_number", {-1, std::numeric_limits<int>::max(), "k"},
-          "page=-1&pageSize=2147483647&keyword=k"),
-    Plans("keyword_is_not_escaped", {1, 2, "a&b#c %20\"%1%2b"}, "page=1&pageSize=2&keyword=a&b#c %20\"%1%2b"),
-    Plans("keyword_is_utf8_and_goes_on_behind_a_zero_byte", {1, 2, "\xC3\xBC\xFF\0b"s},
-          "page=1&pageSize=2&keyword=\xC3\xBC\xEF\xBF\xBD\0b"s),
+    kPlansPack("Plans_page_2_of_20_with_the_keyword_door", {2, 20, "door"}, "page=2&pageSize=20&keyword=door"),
+    kPlansPack("Plans_empty_keyword_ends_the_url", {1, 50, ""}, "page=1&pageSize=50&keyword="),
+    kPlansPack("Plans_fresh", {}, "page=0&pageSize=0&keyword="),
+    kPlansPack("Plans_negative_and_largest_number", {-1, std::numeric_limits<int>::max(), "k"},
+               "page=-1&pageSize=2147483647&keyword=k"),
+    kPlansPack("Plans_keyword_is_not_escaped", {1, 2, "a&b#c %20\"%1%2b"},
+               "page=1&pageSize=2&keyword=a&b#c %20\"%1%2b"),
+    kPlansPack("Plans_keyword_is_utf8_and_goes_on_behind_a_zero_byte", {1, 2, "\xC3\xBC\xFF\0b"s},
+               "page=1&pageSize=2&keyword=\xC3\xBC\xEF\xBF\xBD\0b"s),
 
-    Links("src1_and_type_5", "src1", 5, "sourceCode=src1&alarmType=5"),
-    Links("negative_type_has_a_minus_sign", "src1", -5, "sourceCode=src1&alarmType=-5"),
-    Links("smallest_type", "", std::numeric_limits<int>::min(), "sourceCode=&alarmType=-2147483648"),
-    Links("source_is_not_escaped", "a&b#c/%20", 0, "sourceCode=a&b#c/%20&alarmType=0"),
-    Links("marker_in_the_source_is_replaced_by_the_type", "a%1b", 5, "sourceCode=a5b&alarmType=%2"),
-    Links("equal_marker_in_the_source_is_replaced_too", "a%2b", 5, "sourceCode=a5b&alarmType=5"),
-    Links("higher_marker_in_the_source_stays", "a%3b", 5, "sourceCode=a%3b&alarmType=5"),
-    InGerman(Links("localised_marker_in_the_source_takes_plain_digits", "a%L1b", 1234567,
-                   "sourceCode=a1234567b&alarmType=%2")),
-    Links("source_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 5,
-          "sourceCode=\xC3\xBC\xEF\xBF\xBD\0b&alarmType=5"s),
+    kLinksPack("Links_src1_and_type_5", "src1", 5, "sourceCode=src1&alarmType=5"),
+    kLinksPack("Links_negative_type_has_a_minus_sign", "src1", -5, "sourceCode=src1&alarmType=-5"),
+    kLinksPack("Links_smallest_type", "", std::numeric_limits<int>::min(), "sourceCode=&alarmType=-2147483648"),
+    kLinksPack("Links_source_is_not_escaped", "a&b#c/%20", 0, "sourceCode=a&b#c/%20&alarmType=0"),
+    kLinksPack("Links_marker_in_the_source_is_replaced_by_the_type", "a%1b", 5, "sourceCode=a5b&alarmType=%2"),
+    kLinksPack("Links_equal_marker_in_the_source_is_replaced_too", "a%2b", 5, "sourceCode=a5b&alarmType=5"),
+    kLinksPack("Links_higher_marker_in_the_source_stays", "a%3b", 5, "sourceCode=a%3b&alarmType=5"),
+    InGerman(kLinksPack("Links_localised_marker_in_the_source_takes_plain_digits", "a%L1b", 1234567,
+                        "sourceCode=a1234567b&alarmType=%2")),
+    kLinksPack("Links_source_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 5,
+               "sourceCode=\xC3\xBC\xEF\xBF\xBD\0b&alarmType=5"s),
 
-    Layer("code_c9_of_type_3", "c9", 3, "resourceType=3&resourceCode=c9"),
-    Layer("negative_type_and_empty_code", "", -3, "resourceType=-3&resourceCode="),
-    Layer("code_is_not_escaped", "a&b#c%1%2", 0, "resourceType=0&resourceCode=a&b#c%1%2"),
-    Layer("code_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 3,
-          "resourceType=3&resourceCode=\xC3\xBC\xEF\xBF\xBD\0b"s),
+    kLayerPack("Layer_code_c9_of_type_3", "c9", 3, "resourceType=3&resourceCode=c9"),
+    kLayerPack("Layer_negative_type_and_empty_code", "", -3, "resourceType=-3&resourceCode="),
+    kLayerPack("Layer_code_is_not_escaped", "a&b#c%1%2", 0, "resourceType=0&resourceCode=a&b#c%1%2"),
+    kLayerPack("Layer_code_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 3,
+               "resourceType=3&resourceCode=\xC3\xBC\xEF\xBF\xBD\0b"s),
 
-    Files("one", "r1", "/brms/api/v1.1/alarm/record/r1/file/detail"),
-    Files("empty_id", "", "/brms/api/v1.1/alarm/record//file/detail"),
-    Files("id_is_not_escaped", "a/b?c&d#%1", "/brms/api/v1.1/alarm/record/a/b?c&d#%1/file/detail"),
-    Files("id_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s,
-          "/brms/api/v1.1/alarm/record/\xC3\xBC\xEF\xBF\xBD\0b/file/detail"s),
+    kFilesPack("Files_one", "r1", "r1/file/detail"),
+    kFilesPack("Files_empty_id", "", "/file/detail"),
+    kFilesPack("Files_id_is_not_escaped", "a/b?c&d#%1", "a/b?c&d#%1/file/detail"),
+    kFilesPack("Files_id_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s,
+               "\xC3\xBC\xEF\xBF\xBD\0b/file/detail"s),
 
-    Audio("url_and_body_of_the_caller", "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})",
-          "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})"),
-    Audio("empty_body", "/audio", "", "/audio", ""),
-    Audio("url_is_neither_escaped_nor_filled", "http://h:8/a b?c=%1&d=%20#\"", "", "http://h:8/a b?c=%1&d=%20#\"", ""),
-    Audio("url_and_body_end_at_a_zero_byte", "/audio\0/more"s, "{\"a\":\"%1\"}\0{}"s, "/audio", R"({"a":"%1"})"),
-    Audio("body_that_begins_with_a_zero_byte_is_empty", "/audio", "\0{}"s, "/audio", ""),
-    Audio("url_and_body_are_utf8", "/\xC3\xBC\xFF", "{\"a\":\"\xE4\xB8\xAD\xFF\"}", "/\xC3\xBC\xEF\xBF\xBD",
-          R"({"a": "\u4e2d\ufffd"})"),
+    kAudioFile("Audio_url_and_body_of_the_caller", "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})",
+               "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})"),
+    kAudioFile("Audio_empty_body", "/audio", "", "/audio", ""),
+    kAudioFile("Audio_url_is_neither_escaped_nor_filled", "http://h:8/a b?c=%1&d=%20#\"", "",
+               "http://h:8/a b?c=%1&d=%20#\"", ""),
+    kAudioFile("Audio_url_and_body_end_at_a_zero_byte", "/audio\0/more"s, "{\"a\":\"%1\"}\0{}"s, "/audio",
+               R"({"a":"%1"})"),
+    kAudioFile("Audio_body_that_begins_with_a_zero_byte_is_empty", "/audio", "\0{}"s, "/audio", ""),
+    kAudioFile("Audio_url_and_body_are_utf8", "/\xC3\xBC\xFF", "{\"a\":\"\xE4\xB8\xAD\xFF\"}", "/\xC3\xBC\xEF\xBF\xBD",
+               R"({"a": "\u4e2d\ufffd"})"),
 
     {"PluginLogType", "CBRMSModule::PacketGetPluginLogType", Bind<>(&CBRMSModule::PacketGetPluginLogType), Method_Get,
      "/brms/api/v1.1/log/plugin-log/event-type/list"},
 
-    Events("filter_is_the_body_of_a_get", {"TCP", "1", "door"},
-           R"({"transportType": "TCP", "matchType": "1", "keyword": "door"})"),
-    Events("empty_texts_are_sent", {}, R"({"transportType": "", "matchType": "", "keyword": ""})"),
-    Events("texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n", "\t{}"},
-           R"({"transportType": "\"a\\b\"", "matchType": "%1\n", "keyword": "\t{}"})"),
-    Events("texts_are_utf8", {"\xC3\xBC", "\xE4\xB8\xAD", "invalid \xFF"},
-           R"({"transportType": "\u00fc", "matchType": "\u4e2d", "keyword": "invalid \ufffd"})"),
-    Events("texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s, "e\0f"s},
-           R"({"transportType": "a\u0000b", "matchType": "c\u0000d", "keyword": "e\u0000f"})"),
+    kEventsPack("Events_filter_is_the_body_of_a_get", {"TCP", "1", "door"},
+                R"({"transportType": "TCP", "matchType": "1", "keyword": "door"})"),
+    kEventsPack("Events_empty_texts_are_sent", {}, R"({"transportType": "", "matchType": "", "keyword": ""})"),
+    kEventsPack("Events_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n", "\t{}"},
+                R"({"transportType": "\"a\\b\"", "matchType": "%1\n", "keyword": "\t{}"})"),
+    kEventsPack("Events_texts_are_utf8", {"\xC3\xBC", "\xE4\xB8\xAD", "invalid \xFF"},
+                R"({"transportType": "\u00fc", "matchType": "\u4e2d", "keyword": "invalid \ufffd"})"),
+    kEventsPack("Events_texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s, "e\0f"s},
+                R"({"transportType": "a\u0000b", "matchType": "c\u0000d", "keyword": "e\u0000f"})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(AlarmEvent, PackTest, testing::ValuesIn(kPacks), RowName());
@@ -154,7 +127,7 @@ TEST_F(AudioFileInfoTest, BodyIsNotLookedInto)
 {
     for (const char* const body : {"{ \"a\" : 1 }\n", "[1,", "no JSON \"%1\"", " "}) {
         RequestParam param;
-        EXPECT_EQ(GetAudioFileInfo("/audio", body)(&param, 1), 0);
+        EXPECT_EQ(kAudioFile("", "/audio", body, "").run(&param, 1), 0);
         EXPECT_EQ(param.strBody, body);
     }
 }
@@ -163,7 +136,7 @@ TEST_F(AudioFileInfoTest, UrlThatBeginsWithAZeroByteIsRefusedAsEmpty)
 {
     RequestParam param;
     testing_support::LogRecorder logs;
-    EXPECT_EQ(GetAudioFileInfo("\0/audio"s, "")(&param, 1), -1);
+    EXPECT_EQ(kAudioFile("", "\0/audio"s, "", "").run(&param, 1), -1);
     const testing_support::LogLines expected{{"src/UI/APIModule/APIModule", "APIModule::CAPIModule::GetRequestParam", 6,
                                               "GetRequestParam failed! strUrl can not be empty."},
                                              {"src/UI/APIModule/BRMS/BRMSModule",

@@ -10,25 +10,19 @@ using namespace family_testing;
 using namespace std::string_literals;
 using APIModule::CIAMSModule;
 
-PackRow UploadFailedRow(const std::string& name, const std::vector<std::string>& taskIds, const std::string& body)
-{
-    return {name,
-            "CIAMSModule::PacketSetAnalysisTaskUploadFailed",
-            Bind<const std::vector<std::string>&>(&CIAMSModule::PacketSetAnalysisTaskUploadFailed, taskIds),
-            APIModule::Method_Post,
-            "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch",
-            body};
-}
+const BodyPack<const std::vector<std::string>&> kUploadFailed(
+    "CIAMSModule::PacketSetAnalysisTaskUploadFailed", &CIAMSModule::PacketSetAnalysisTaskUploadFailed,
+    APIModule::Method_Post, "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch");
 
 const PackRow kPacks[] = {
-    UploadFailedRow("UploadFailed_ids_in_order", {"7", "3", "7"}, R"({"ids": ["7", "3", "7"]})"),
-    UploadFailedRow("UploadFailed_one_id", {"7"}, R"({"ids": ["7"]})"),
-    UploadFailedRow("UploadFailed_empty_list_is_sent", {}, R"({"ids": []})"),
-    UploadFailedRow("UploadFailed_empty_text", {""}, R"({"ids": [""]})"),
-    UploadFailedRow("UploadFailed_zero_byte_is_kept", {"a\0b"s, "\0"s}, R"({"ids": ["a\u0000b", "\u0000"]})"),
-    UploadFailedRow("UploadFailed_utf8_quote_and_marker", {"\xC3\xBC \xE4\xB8\xAD", "\"%1\\"},
-                    R"({"ids": ["\u00fc \u4e2d", "\"%1\\"]})"),
-    UploadFailedRow("UploadFailed_invalid_utf8", {"x\xFF"}, R"({"ids": ["x\ufffd"]})"),
+    kUploadFailed("UploadFailed_ids_in_order", {"7", "3", "7"}, R"({"ids": ["7", "3", "7"]})"),
+    kUploadFailed("UploadFailed_one_id", {"7"}, R"({"ids": ["7"]})"),
+    kUploadFailed("UploadFailed_empty_list_is_sent", {}, R"({"ids": []})"),
+    kUploadFailed("UploadFailed_empty_text", {""}, R"({"ids": [""]})"),
+    kUploadFailed("UploadFailed_zero_byte_is_kept", {"a\0b"s, "\0"s}, R"({"ids": ["a\u0000b", "\u0000"]})"),
+    kUploadFailed("UploadFailed_utf8_quote_and_marker", {"\xC3\xBC \xE4\xB8\xAD", "\"%1\\"},
+                  R"({"ids": ["\u00fc \u4e2d", "\"%1\\"]})"),
+    kUploadFailed("UploadFailed_invalid_utf8", {"x\xFF"}, R"({"ids": ["x\ufffd"]})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(AnalysisTask, PackTest, testing::ValuesIn(kPacks), RowName());

@@ -14,105 +14,69 @@ using APIModule::Method_Get;
 using APIModule::Method_Post;
 using APIModule::Method_Put;
 
-PackRow UpdateDesfireRow(const std::string& name, const APIModule::AcsCardConfigParam& param, const std::string& body)
-{
-    return {name,
-            "COBMSModule::PackUpdateConfigDesfireInfo",
-            Bind<const APIModule::AcsCardConfigParam&>(&COBMSModule::PackUpdateConfigDesfireInfo, param),
-            Method_Put,
-            "/obms/api/v1.1/acs/config/desfire",
-            body,
-            Server::OfCaller,
-            "UpdateConfigDesfireInfo is failed.",
-            "UpdateConfigDesfireInfo is success."};
-}
-
-PackRow DesfireFailureRow(const std::string& name, const APIModule::ConfigDesFireFailureReq& req,
-                          const std::string& url)
-{
-    return {name, "COBMSModule::PackGetPageConfigDesfireFailInfo",
-            Bind<const APIModule::ConfigDesFireFailureReq&>(&COBMSModule::PackGetPageConfigDesfireFailInfo, req),
-            Method_Get, url};
-}
-
-PackRow DeleteContactsRow(const std::string& name, const APIModule::DeleteAddressBookParam& param,
-                          const std::string& body)
-{
-    return {name,
-            "COBMSModule::PackDeleteAddressBooks",
-            Bind<const APIModule::DeleteAddressBookParam&>(&COBMSModule::PackDeleteAddressBooks, param),
-            Method_Post,
-            "/obms/api/v1.1/vtalk/issue/contact/delete",
-            body,
-            Server::OfCaller,
-            "Delete contacts failed.",
-            "Delete contacts success."};
-}
-
-PackRow SnapShotRow(const std::string& name, const std::string& zoneId, int action, const std::string& url,
-                    const std::string& body)
-{
-    return {name,
-            "COBMSModule::PacketAlarmHostZoneSnapShot",
-            Bind<const std::string&, int>(&COBMSModule::PacketAlarmHostZoneSnapShot, zoneId, action),
-            Method_Post,
-            url,
-            body};
-}
+const BodyPack<const APIModule::AcsCardConfigParam&> kUpdateDesfire(
+    "COBMSModule::PackUpdateConfigDesfireInfo", &COBMSModule::PackUpdateConfigDesfireInfo, Method_Put,
+    "/obms/api/v1.1/acs/config/desfire",
+    {Server::OfCaller, "UpdateConfigDesfireInfo is failed.", "UpdateConfigDesfireInfo is success."});
+const UrlPack<const APIModule::ConfigDesFireFailureReq&> kDesfireFailure(
+    "COBMSModule::PackGetPageConfigDesfireFailInfo", &COBMSModule::PackGetPageConfigDesfireFailInfo, Method_Get);
+const BodyPack<const APIModule::DeleteAddressBookParam&> kDeleteContacts(
+    "COBMSModule::PackDeleteAddressBooks", &COBMSModule::PackDeleteAddressBooks, Method_Post,
+    "/obms/api/v1.1/vtalk/issue/contact/delete",
+    {Server::OfCaller, "Delete contacts failed.", "Delete contacts success."});
+const UrlPack<const std::string&, int> kSnapShotPack("COBMSModule::PacketAlarmHostZoneSnapShot",
+                                                     &COBMSModule::PacketAlarmHostZoneSnapShot, Method_Post,
+                                                     "/obms/api/v1.1/alarm-host/zone/");
 
 const PackRow kPacks[] = {
     {"GetConfigDesfireInfo", "COBMSModule::PackGetConfigDesfireInfo", &COBMSModule::PackGetConfigDesfireInfo,
      Method_Get, "/obms/api/v1.1/acs/config/desfire"},
-    UpdateDesfireRow("UpdateConfigDesfireInfo_both_true", {true, true},
-                     R"({"enableDesfire": "1", "enableReadEncryptContent": "1"})"),
-    UpdateDesfireRow("UpdateConfigDesfireInfo_first_true", {true, false},
-                     R"({"enableDesfire": "1", "enableReadEncryptContent": "0"})"),
-    UpdateDesfireRow("UpdateConfigDesfireInfo_second_true", {false, true},
-                     R"({"enableDesfire": "0", "enableReadEncryptContent": "1"})"),
-    UpdateDesfireRow("UpdateConfigDesfireInfo_fresh", {}, R"({"enableDesfire": "0", "enableReadEncryptContent": "0"})"),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo", {2, 20, "door"},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=2&pageSize=20&keyword=door"),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo_empty_keyword_stays_empty_at_the_end", {1, 20, ""},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword="),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo_fresh", {},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=0&pageSize=0&keyword="),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo_negative_numbers", {-1, -2147483647 - 1, "a"},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=-1&pageSize=-2147483648&keyword=a"),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo_nothing_is_escaped", {1, 20, "a&b#c \xC3\xBC\"%2b%3"},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&"
-                      "keyword=a&b#c \xC3\xBC\"%2b%3"),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo_zero_byte_is_kept", {1, 20, "a\0b"s},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a\0b"s),
-    DesfireFailureRow("GetPageConfigDesfireFailInfo_invalid_utf8", {1, 20, "x\xFF"},
-                      "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=x\xEF\xBF\xBD"),
+    kUpdateDesfire("UpdateConfigDesfireInfo_both_true", {true, true},
+                   R"({"enableDesfire": "1", "enableReadEncryptContent": "1"})"),
+    kUpdateDesfire("UpdateConfigDesfireInfo_first_true", {true, false},
+                   R"({"enableDesfire": "1", "enableReadEncryptContent": "0"})"),
+    kUpdateDesfire("UpdateConfigDesfireInfo_second_true", {false, true},
+                   R"({"enableDesfire": "0", "enableReadEncryptContent": "1"})"),
+    kUpdateDesfire("UpdateConfigDesfireInfo_fresh", {}, R"({"enableDesfire": "0", "enableReadEncryptContent": "0"})"),
+    kDesfireFailure("GetPageConfigDesfireFailInfo", {2, 20, "door"},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=2&pageSize=20&keyword=door"),
+    kDesfireFailure("GetPageConfigDesfireFailInfo_empty_keyword_stays_empty_at_the_end", {1, 20, ""},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword="),
+    kDesfireFailure("GetPageConfigDesfireFailInfo_fresh", {},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=0&pageSize=0&keyword="),
+    kDesfireFailure("GetPageConfigDesfireFailInfo_negative_numbers", {-1, -2147483647 - 1, "a"},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=-1&pageSize=-2147483648&keyword=a"),
+    kDesfireFailure("GetPageConfigDesfireFailInfo_nothing_is_escaped", {1, 20, "a&b#c \xC3\xBC\"%2b%3"},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&"
+                    "keyword=a&b#c \xC3\xBC\"%2b%3"),
+    kDesfireFailure("GetPageConfigDesfireFailInfo_zero_byte_is_kept", {1, 20, "a\0b"s},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a\0b"s),
+    kDesfireFailure("GetPageConfigDesfireFailInfo_invalid_utf8", {1, 20, "x\xFF"},
+                    "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=x\xEF\xBF\xBD"),
     {"ReissueConfigDesfire", "COBMSModule::PackReissueConfigDesfire", &COBMSModule::PackReissueConfigDesfire,
      Method_Post, "/obms/api/v1.1/acs/config/desfire/failure/reissue"},
-    DeleteContactsRow("DeleteAddressBooks_all_ignores_three_indoor_codes", {true, "vto", {"a", "b", "c"}},
-                      R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
-    DeleteContactsRow("DeleteAddressBooks_all_without_indoor_codes", {true, "vto", {}},
-                      R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
-    DeleteContactsRow("DeleteAddressBooks_listed_in_order", {false, "vto", {"b", "a"}},
-                      R"({"mode": "2", "vtoDeviceCode": "vto", "vthDeviceCodes": ["b", "a"]})"),
-    DeleteContactsRow("DeleteAddressBooks_listed_with_an_empty_vector", {false, "vto", {}},
-                      R"({"mode": "2", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
-    DeleteContactsRow("DeleteAddressBooks_fresh", {}, R"({"mode": "2", "vtoDeviceCode": "", "vthDeviceCodes": []})"),
-    DeleteContactsRow("DeleteAddressBooks_zero_bytes_are_kept", {false, "a\0b"s, {"c\0d"s, ""}},
-                      R"({"mode": "2", "vtoDeviceCode": "a\u0000b", "vthDeviceCodes": ["c\u0000d", ""]})"),
-    DeleteContactsRow(
-        "DeleteAddressBooks_utf8_quotes_and_markers", {false, "\xC3\xBC\"%1\\", {"\xE4\xB8\xAD", "x\xFF", "%2"}},
-        R"({"mode": "2", "vtoDeviceCode": "\u00fc\"%1\\", "vthDeviceCodes": ["\u4e2d", "x\ufffd", "%2"]})"),
-    SnapShotRow("AlarmHostZoneSnapShot_action_is_a_number", "31", 1, "/obms/api/v1.1/alarm-host/zone/31/snapshot",
-                R"({"action": 1})"),
-    SnapShotRow("AlarmHostZoneSnapShot_action_0", "31", 0, "/obms/api/v1.1/alarm-host/zone/31/snapshot",
-                R"({"action": 0})"),
-    SnapShotRow("AlarmHostZoneSnapShot_negative_action", "", -2147483647 - 1,
-                "/obms/api/v1.1/alarm-host/zone//snapshot", R"({"action": -2147483648})"),
-    SnapShotRow("AlarmHostZoneSnapShot_nothing_is_escaped", "a b/%1?\xC3\xBC\"", 2147483647,
-                "/obms/api/v1.1/alarm-host/zone/a b/%1?\xC3\xBC\"/snapshot", R"({"action": 2147483647})"),
-    SnapShotRow("AlarmHostZoneSnapShot_zero_byte_is_kept", "a\0b"s, 1, "/obms/api/v1.1/alarm-host/zone/a\0b/snapshot"s,
-                R"({"action": 1})"),
-    SnapShotRow("AlarmHostZoneSnapShot_invalid_utf8", "x\xFF", 1,
-                "/obms/api/v1.1/alarm-host/zone/x\xEF\xBF\xBD/snapshot", R"({"action": 1})"),
+    kDeleteContacts("DeleteAddressBooks_all_ignores_three_indoor_codes", {true, "vto", {"a", "b", "c"}},
+                    R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
+    kDeleteContacts("DeleteAddressBooks_all_without_indoor_codes", {true, "vto", {}},
+                    R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
+    kDeleteContacts("DeleteAddressBooks_listed_in_order", {false, "vto", {"b", "a"}},
+                    R"({"mode": "2", "vtoDeviceCode": "vto", "vthDeviceCodes": ["b", "a"]})"),
+    kDeleteContacts("DeleteAddressBooks_listed_with_an_empty_vector", {false, "vto", {}},
+                    R"({"mode": "2", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
+    kDeleteContacts("DeleteAddressBooks_fresh", {}, R"({"mode": "2", "vtoDeviceCode": "", "vthDeviceCodes": []})"),
+    kDeleteContacts("DeleteAddressBooks_zero_bytes_are_kept", {false, "a\0b"s, {"c\0d"s, ""}},
+                    R"({"mode": "2", "vtoDeviceCode": "a\u0000b", "vthDeviceCodes": ["c\u0000d", ""]})"),
+    kDeleteContacts("DeleteAddressBooks_utf8_quotes_and_markers",
+                    {false, "\xC3\xBC\"%1\\", {"\xE4\xB8\xAD", "x\xFF", "%2"}},
+                    R"({"mode": "2", "vtoDeviceCode": "\u00fc\"%1\\", "vthDeviceCodes": ["\u4e2d", "x\ufffd", "%2"]})"),
+    kSnapShotPack("AlarmHostZoneSnapShot_action_is_a_number", "31", 1, "31/snapshot", R"({"action": 1})"),
+    kSnapShotPack("AlarmHostZoneSnapShot_action_0", "31", 0, "31/snapshot", R"({"action": 0})"),
+    kSnapShotPack("AlarmHostZoneSnapShot_negative_action", "", -2147483647 - 1, "/snapshot",
+                  R"({"action": -2147483648})"),
+    kSnapShotPack("AlarmHostZoneSnapShot_nothing_is_escaped", "a b/%1?\xC3\xBC\"", 2147483647,
+                  "a b/%1?\xC3\xBC\"/snapshot", R"({"action": 2147483647})"),
+    kSnapShotPack("AlarmHostZoneSnapShot_zero_byte_is_kept", "a\0b"s, 1, "a\0b/snapshot"s, R"({"action": 1})"),
+    kSnapShotPack("AlarmHostZoneSnapShot_invalid_utf8", "x\xFF", 1, "x\xEF\xBF\xBD/snapshot", R"({"action": 1})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(CardIntercom, PackTest, testing::ValuesIn(kPacks), RowName());

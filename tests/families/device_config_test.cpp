@@ -1,4 +1,5 @@
 // Settings of one device or channel.
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
@@ -17,163 +18,111 @@ using APIModule::MultiCastConfigInfo;
 using APIModule::MultiCastStreamStatus;
 using APIModule::NetworkConfig;
 
-using Run = std::function<int(void*, int)>;
-
-/// A Pack of the identifier of a device or channel alone.
-Run WithId(int (*pack)(void*, const std::string&, int), const std::string& id)
-{
-    return [=](void* param, int nServerId) { return pack(param, id, nServerId); };
-}
-
-/// A Pack whose argument it could change, and may not.
-template <typename Config>
-Run WithConfig(int (*pack)(void*, Config&, int), const Config& config)
-{
-    return [=](void* param, int nServerId) {
-        Config argument = config;
-        const int nResult = pack(param, argument, nServerId);
-        EXPECT_EQ(ToJson(argument), ToJson(config)) << "the argument changed";
-        return nResult;
-    };
-}
-
-Run UpdateEncode(const std::string& channelId, const std::vector<EncodeConfig>& configs)
-{
-    return [=](void* param, int nServerId) {
-        std::vector<EncodeConfig> argument = configs;
-        const int nResult = CBRMSModule::PacketUpdateEncodeConfig(param, channelId, argument, nServerId);
-        EXPECT_EQ(ToJson(argument), ToJson(configs)) << "the argument changed";
-        return nResult;
-    };
-}
-
-Run GetCapability(const std::string& channelId, int streamType)
-{
-    return [=](void* param, int nServerId) {
-        return CBRMSModule::PacketGetEncodeCapability(param, channelId, streamType, nServerId);
-    };
-}
-
-Run SetMultiCast(const MultiCastConfigInfo& info)
-{
-    return [=](void* param, int nServerId) { return CBRMSModule::PacketSetMultiCastConfig(param, info, nServerId); };
-}
-
-Run SetStreamStatus(const MultiCastStreamStatus& status)
-{
-    return [=](void* param, int nServerId) {
-        return CBRMSModule::PacketSetMultiCastStreamStatus(param, status, nServerId);
-    };
-}
+const UrlPack<const std::string&> kGetNetworkConfig("CBRMSModule::PacketGetNetworkConfig",
+                                                    &CBRMSModule::PacketGetNetworkConfig, Method_Get,
+                                                    "/brms/api/v1.1/device/");
+const UrlPack<NetworkConfig&> kUpdateNetworkConfig("CBRMSModule::PacketUpdateNetworkConfig",
+                                                   &CBRMSModule::PacketUpdateNetworkConfig, Method_Put,
+                                                   "/brms/api/v1.1/device/");
+const UrlPack<const std::string&> kGetEncodeConfig("CBRMSModule::PacketGetEncodeConfig",
+                                                   &CBRMSModule::PacketGetEncodeConfig, Method_Get,
+                                                   "/brms/api/v1.1/device/channel/");
+const UrlPack<const std::string&, std::vector<EncodeConfig>&> kUpdateEncodeConfig(
+    "CBRMSModule::PacketUpdateEncodeConfig", &CBRMSModule::PacketUpdateEncodeConfig, Method_Put,
+    "/brms/api/v1.1/device/channel/");
+const UrlPack<const std::string&, int> kGetEncodeCapability("CBRMSModule::PacketGetEncodeCapability",
+                                                            &CBRMSModule::PacketGetEncodeCapability, Method_Get,
+                                                            "/brms/api/v1.1/device/channel/");
+const UrlPack<const std::string&> kGetImageConfig("CBRMSModule::PacketGetImageConfig",
+                                                  &CBRMSModule::PacketGetImageConfig, Method_Get,
+                                                  "/brms/api/v1.1/device/channel/");
+const UrlPack<ImageConfig&> kUpdateImageConfig("CBRMSModule::PacketUpdateImageConfig",
+                                               &CBRMSModule::PacketUpdateImageConfig, Method_Put,
+                                               "/brms/api/v1.1/device/channel/");
+const UrlPack<const std::string&> kGetMultiCastConfig("CBRMSModule::PacketGetMultiCastConfig",
+                                                      &CBRMSModule::PacketGetMultiCastConfig, Method_Get,
+                                                      "/brms/api/v1.1/device/channel/");
+const UrlPack<const MultiCastConfigInfo&> kSetMultiCastConfig("CBRMSModule::PacketSetMultiCastConfig",
+                                                              &CBRMSModule::PacketSetMultiCastConfig, Method_Put,
+                                                              "/brms/api/v1.1/device/channel/");
+const UrlPack<const MultiCastStreamStatus&> kSetMultiCastStreamStatus("CBRMSModule::PacketSetMultiCastStreamStatus",
+                                                                      &CBRMSModule::PacketSetMultiCastStreamStatus,
+                                                                      Method_Put, "/brms/api/v1.1/device/channel/");
 
 const PackRow kPacks[] = {
-    {"GetNetworkConfig", "CBRMSModule::PacketGetNetworkConfig", WithId(&CBRMSModule::PacketGetNetworkConfig, "dev1"),
-     Method_Get, "/brms/api/v1.1/device/dev1/config/network"},
-    {"GetNetworkConfig_code_is_not_escaped", "CBRMSModule::PacketGetNetworkConfig",
-     WithId(&CBRMSModule::PacketGetNetworkConfig, "a b/\xC3\xBC?\"%1#"), Method_Get,
-     "/brms/api/v1.1/device/a b/\xC3\xBC?\"%1#/config/network"},
-    {"GetNetworkConfig_code_goes_whole", "CBRMSModule::PacketGetNetworkConfig",
-     WithId(&CBRMSModule::PacketGetNetworkConfig, "a\0b\xFF"s), Method_Get,
-     "/brms/api/v1.1/device/a\0b\xEF\xBF\xBD/config/network"s},
-    {"GetNetworkConfig_empty_code", "CBRMSModule::PacketGetNetworkConfig",
-     WithId(&CBRMSModule::PacketGetNetworkConfig, ""), Method_Get, "/brms/api/v1.1/device//config/network"},
+    kGetNetworkConfig("GetNetworkConfig", "dev1", "dev1/config/network"),
+    kGetNetworkConfig("GetNetworkConfig_code_is_not_escaped", "a b/\xC3\xBC?\"%1#",
+                      "a b/\xC3\xBC?\"%1#/config/network"),
+    kGetNetworkConfig("GetNetworkConfig_code_goes_whole", "a\0b\xFF"s, "a\0b\xEF\xBF\xBD/config/network"s),
+    kGetNetworkConfig("GetNetworkConfig_empty_code", "", "/config/network"),
 
-    {"UpdateNetworkConfig", "CBRMSModule::PacketUpdateNetworkConfig",
-     WithConfig(&CBRMSModule::PacketUpdateNetworkConfig,
-                NetworkConfig{"dev1", "10.0.0.7", "255.255.255.0", "10.0.0.1", "10.0.0.2"}),
-     Method_Put, "/brms/api/v1.1/device/dev1/config/network",
-     R"({"ip": "10.0.0.7", "mask": "255.255.255.0", "gateway": "10.0.0.1", "dns": "10.0.0.2"})"},
-    {"UpdateNetworkConfig_fresh", "CBRMSModule::PacketUpdateNetworkConfig",
-     WithConfig(&CBRMSModule::PacketUpdateNetworkConfig, NetworkConfig()), Method_Put,
-     "/brms/api/v1.1/device//config/network", R"({"ip": "", "mask": "", "gateway": "", "dns": ""})"},
-    {"UpdateNetworkConfig_texts_end_at_a_zero_byte_but_the_code", "CBRMSModule::PacketUpdateNetworkConfig",
-     WithConfig(&CBRMSModule::PacketUpdateNetworkConfig,
-                NetworkConfig{"d\0e"s, "a\0b"s, "\0b"s, "\xC3\xBC\0b"s, "\xFF\0b"s}),
-     Method_Put, "/brms/api/v1.1/device/d\0e/config/network"s,
-     R"({"ip": "a", "mask": "", "gateway": "\u00fc", "dns": "\ufffd"})"},
+    kUpdateNetworkConfig("UpdateNetworkConfig", {"dev1", "10.0.0.7", "255.255.255.0", "10.0.0.1", "10.0.0.2"},
+                         "dev1/config/network",
+                         R"({"ip": "10.0.0.7", "mask": "255.255.255.0", "gateway": "10.0.0.1", "dns": "10.0.0.2"})"),
+    kUpdateNetworkConfig("UpdateNetworkConfig_fresh", {}, "/config/network",
+                         R"({"ip": "", "mask": "", "gateway": "", "dns": ""})"),
+    kUpdateNetworkConfig("UpdateNetworkConfig_texts_end_at_a_zero_byte_but_the_code",
+                         {"d\0e"s, "a\0b"s, "\0b"s, "\xC3\xBC\0b"s, "\xFF\0b"s}, "d\0e/config/network"s,
+                         R"({"ip": "a", "mask": "", "gateway": "\u00fc", "dns": "\ufffd"})"),
 
-    {"GetEncodeConfig", "CBRMSModule::PacketGetEncodeConfig", WithId(&CBRMSModule::PacketGetEncodeConfig, "ch7"),
-     Method_Get, "/brms/api/v1.1/device/channel/ch7/config/encode"},
-    {"GetEncodeConfig_channel_goes_whole", "CBRMSModule::PacketGetEncodeConfig",
-     WithId(&CBRMSModule::PacketGetEncodeConfig, "a\0\xC3\xBC%1"s), Method_Get,
-     "/brms/api/v1.1/device/channel/a\0\xC3\xBC%1/config/encode"s},
+    kGetEncodeConfig("GetEncodeConfig", "ch7", "ch7/config/encode"),
+    kGetEncodeConfig("GetEncodeConfig_channel_goes_whole", "a\0\xC3\xBC%1"s, "a\0\xC3\xBC%1/config/encode"s),
 
-    {"UpdateEncodeConfig", "CBRMSModule::PacketUpdateEncodeConfig",
-     UpdateEncode("ch7", {{"other", 1, 4096, 2, 3, 1, 25, 50, 1080, 1920}, {"", 2, -512, 0, 4, 0, 12, 24, 288, 352}}),
-     Method_Put, "/brms/api/v1.1/device/channel/ch7/config/encode",
-     R"({"encodeConfigurations": [
+    kUpdateEncodeConfig("UpdateEncodeConfig", "ch7",
+                        {{"other", 1, 4096, 2, 3, 1, 25, 50, 1080, 1920}, {"", 2, -512, 0, 4, 0, 12, 24, 288, 352}},
+                        "ch7/config/encode", R"({"encodeConfigurations": [
          {"streamType": 1, "bitRate": 4096, "bitRateControl": 2, "compression": 3, "enable": 1, "frameRate": 25,
           "iFrameInterval": 50, "height": 1080, "width": 1920},
          {"streamType": 2, "bitRate": -512, "bitRateControl": 0, "compression": 4, "enable": 0, "frameRate": 12,
-          "iFrameInterval": 24, "height": 288, "width": 352}]})"},
-    {"UpdateEncodeConfig_fresh_stream", "CBRMSModule::PacketUpdateEncodeConfig", UpdateEncode("a\0b"s, {{}}),
-     Method_Put, "/brms/api/v1.1/device/channel/a\0b/config/encode"s,
-     R"({"encodeConfigurations": [
+          "iFrameInterval": 24, "height": 288, "width": 352}]})"),
+    kUpdateEncodeConfig("UpdateEncodeConfig_fresh_stream", "a\0b"s, {{}}, "a\0b/config/encode"s,
+                        R"({"encodeConfigurations": [
          {"streamType": 0, "bitRate": 0, "bitRateControl": 0, "compression": 0, "enable": 0, "frameRate": 0,
-          "iFrameInterval": 0, "height": 0, "width": 0}]})"},
-    {"UpdateEncodeConfig_no_stream", "CBRMSModule::PacketUpdateEncodeConfig", UpdateEncode("ch7", {}), Method_Put,
-     "/brms/api/v1.1/device/channel/ch7/config/encode", R"({"encodeConfigurations": []})"},
+          "iFrameInterval": 0, "height": 0, "width": 0}]})"),
+    kUpdateEncodeConfig("UpdateEncodeConfig_no_stream", "ch7", {}, "ch7/config/encode",
+                        R"({"encodeConfigurations": []})"),
 
-    {"GetEncodeCapability_of_ch7_and_stream_type_2", "CBRMSModule::PacketGetEncodeCapability", GetCapability("ch7", 2),
-     Method_Get, "/brms/api/v1.1/device/channel/ch7/capability/encode?streamType=2"},
-    {"GetEncodeCapability_marker_in_the_channel_is_rewritten", "CBRMSModule::PacketGetEncodeCapability",
-     GetCapability("a%2b", -3), Method_Get, "/brms/api/v1.1/device/channel/a-3b/capability/encode?streamType=-3"},
-    {"GetEncodeCapability_channel_goes_whole", "CBRMSModule::PacketGetEncodeCapability", GetCapability("a\0b c"s, 0),
-     Method_Get, "/brms/api/v1.1/device/channel/a\0b c/capability/encode?streamType=0"s},
+    kGetEncodeCapability("GetEncodeCapability_of_ch7_and_stream_type_2", "ch7", 2,
+                         "ch7/capability/encode?streamType=2"),
+    kGetEncodeCapability("GetEncodeCapability_marker_in_the_channel_is_rewritten", "a%2b", -3,
+                         "a-3b/capability/encode?streamType=-3"),
+    kGetEncodeCapability("GetEncodeCapability_channel_goes_whole", "a\0b c"s, 0,
+                         "a\0b c/capability/encode?streamType=0"s),
 
-    {"GetImageConfig", "CBRMSModule::PacketGetImageConfig", WithId(&CBRMSModule::PacketGetImageConfig, "ch7"),
-     Method_Get, "/brms/api/v1.1/device/channel/ch7/config/video"},
-    {"GetImageConfig_channel_goes_whole", "CBRMSModule::PacketGetImageConfig",
-     WithId(&CBRMSModule::PacketGetImageConfig, "a\0b"s), Method_Get,
-     "/brms/api/v1.1/device/channel/a\0b/config/video"s},
+    kGetImageConfig("GetImageConfig", "ch7", "ch7/config/video"),
+    kGetImageConfig("GetImageConfig_channel_goes_whole", "a\0b"s, "a\0b/config/video"s),
 
-    {"UpdateImageConfig", "CBRMSModule::PacketUpdateImageConfig",
-     WithConfig(&CBRMSModule::PacketUpdateImageConfig, ImageConfig{"ch7", 50, -60, 70, 80}), Method_Put,
-     "/brms/api/v1.1/device/channel/ch7/config/video",
-     R"({"brightness": 50, "saturation": -60, "contrast": 70, "sharpness": 80})"},
-    {"UpdateImageConfig_fresh", "CBRMSModule::PacketUpdateImageConfig",
-     WithConfig(&CBRMSModule::PacketUpdateImageConfig, ImageConfig()), Method_Put,
-     "/brms/api/v1.1/device/channel//config/video",
-     R"({"brightness": 0, "saturation": 0, "contrast": 0, "sharpness": 0})"},
-    {"UpdateImageConfig_channel_goes_whole", "CBRMSModule::PacketUpdateImageConfig",
-     WithConfig(&CBRMSModule::PacketUpdateImageConfig, ImageConfig{"a\0b"s, 1, 2, 3, 4}), Method_Put,
-     "/brms/api/v1.1/device/channel/a\0b/config/video"s,
-     R"({"brightness": 1, "saturation": 2, "contrast": 3, "sharpness": 4})"},
+    kUpdateImageConfig("UpdateImageConfig", {"ch7", 50, -60, 70, 80}, "ch7/config/video",
+                       R"({"brightness": 50, "saturation": -60, "contrast": 70, "sharpness": 80})"),
+    kUpdateImageConfig("UpdateImageConfig_fresh", {}, "/config/video",
+                       R"({"brightness": 0, "saturation": 0, "contrast": 0, "sharpness": 0})"),
+    kUpdateImageConfig("UpdateImageConfig_channel_goes_whole", {"a\0b"s, 1, 2, 3, 4}, "a\0b/config/video"s,
+                       R"({"brightness": 1, "saturation": 2, "contrast": 3, "sharpness": 4})"),
 
-    {"GetMultiCastConfig", "CBRMSModule::PacketGetMultiCastConfig",
-     WithId(&CBRMSModule::PacketGetMultiCastConfig, "ch7"), Method_Get,
-     "/brms/api/v1.1/device/channel/ch7/config/multicast"},
-    {"GetMultiCastConfig_channel_goes_whole", "CBRMSModule::PacketGetMultiCastConfig",
-     WithId(&CBRMSModule::PacketGetMultiCastConfig, "a\0b"s), Method_Get,
-     "/brms/api/v1.1/device/channel/a\0b/config/multicast"s},
+    kGetMultiCastConfig("GetMultiCastConfig", "ch7", "ch7/config/multicast"),
+    kGetMultiCastConfig("GetMultiCastConfig_channel_goes_whole", "a\0b"s, "a\0b/config/multicast"s),
 
-    {"SetMultiCastConfig_stream_type_2_on_is_sent_as_texts", "CBRMSModule::PacketSetMultiCastConfig",
-     SetMultiCast({"ch7", false, {{"239.0.0.1", "5000", 2, true}}}), Method_Put,
-     "/brms/api/v1.1/device/channel/ch7/config/multicast",
-     R"({"status": "0", "streams": [{"status": "1", "multicastIp": "239.0.0.1", "multicastPort": "5000",
-                                     "streamType": "2"}]})"},
-    {"SetMultiCastConfig_streams_in_their_order", "CBRMSModule::PacketSetMultiCastConfig",
-     SetMultiCast({"ch7", true, {{"239.0.0.2", "", -3, false}, {}}}), Method_Put,
-     "/brms/api/v1.1/device/channel/ch7/config/multicast",
-     R"({"status": "1", "streams": [
+    kSetMultiCastConfig(
+        "SetMultiCastConfig_stream_type_2_on_is_sent_as_texts", {"ch7", false, {{"239.0.0.1", "5000", 2, true}}},
+        "ch7/config/multicast",
+        R"({"status": "0", "streams": [{"status": "1", "multicastIp": "239.0.0.1", "multicastPort": "5000",
+                                     "streamType": "2"}]})"),
+    kSetMultiCastConfig("SetMultiCastConfig_streams_in_their_order", {"ch7", true, {{"239.0.0.2", "", -3, false}, {}}},
+                        "ch7/config/multicast", R"({"status": "1", "streams": [
          {"status": "0", "multicastIp": "239.0.0.2", "multicastPort": "", "streamType": "-3"},
-         {"status": "0", "multicastIp": "", "multicastPort": "", "streamType": "1"}]})"},
-    {"SetMultiCastConfig_no_stream", "CBRMSModule::PacketSetMultiCastConfig", SetMultiCast({}), Method_Put,
-     "/brms/api/v1.1/device/channel//config/multicast", R"({"status": "0", "streams": []})"},
-    {"SetMultiCastConfig_texts_end_at_a_zero_byte_but_the_channel", "CBRMSModule::PacketSetMultiCastConfig",
-     SetMultiCast({"a\0b"s, true, {{"\xC3\xBC\0x"s, "5\0x"s, 1, true}}}), Method_Put,
-     "/brms/api/v1.1/device/channel/a\0b/config/multicast"s,
-     R"({"status": "1", "streams": [{"status": "1", "multicastIp": "\u00fc", "multicastPort": "5",
-                                     "streamType": "1"}]})"},
+         {"status": "0", "multicastIp": "", "multicastPort": "", "streamType": "1"}]})"),
+    kSetMultiCastConfig("SetMultiCastConfig_no_stream", {}, "/config/multicast", R"({"status": "0", "streams": []})"),
+    kSetMultiCastConfig("SetMultiCastConfig_texts_end_at_a_zero_byte_but_the_channel",
+                        {"a\0b"s, true, {{"\xC3\xBC\0x"s, "5\0x"s, 1, true}}}, "a\0b/config/multicast"s,
+                        R"({"status": "1", "streams": [{"status": "1", "multicastIp": "\u00fc", "multicastPort": "5",
+                                     "streamType": "1"}]})"),
 
-    {"SetMultiCastStreamStatus_on", "CBRMSModule::PacketSetMultiCastStreamStatus", SetStreamStatus({"ch7", 2, true}),
-     Method_Put, "/brms/api/v1.1/device/channel/ch7/config/multicast/stream/status",
-     R"({"status": "1", "streamType": "2"})"},
-    {"SetMultiCastStreamStatus_off_negative_type", "CBRMSModule::PacketSetMultiCastStreamStatus",
-     SetStreamStatus({"a\0b"s, -2, false}), Method_Put,
-     "/brms/api/v1.1/device/channel/a\0b/config/multicast/stream/status"s, R"({"status": "0", "streamType": "-2"})"},
-    {"SetMultiCastStreamStatus_fresh", "CBRMSModule::PacketSetMultiCastStreamStatus", SetStreamStatus({}), Method_Put,
-     "/brms/api/v1.1/device/channel//config/multicast/stream/status", R"({"status": "0", "streamType": "0"})"},
+    kSetMultiCastStreamStatus("SetMultiCastStreamStatus_on", {"ch7", 2, true}, "ch7/config/multicast/stream/status",
+                              R"({"status": "1", "streamType": "2"})"),
+    kSetMultiCastStreamStatus("SetMultiCastStreamStatus_off_negative_type", {"a\0b"s, -2, false},
+                              "a\0b/config/multicast/stream/status"s, R"({"status": "0", "streamType": "-2"})"),
+    kSetMultiCastStreamStatus("SetMultiCastStreamStatus_fresh", {}, "/config/multicast/stream/status",
+                              R"({"status": "0", "streamType": "0"})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(DeviceConfig, PackTest, testing::ValuesIn(kPacks), RowName());

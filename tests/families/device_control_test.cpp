@@ -1,4 +1,5 @@
 // Commands to devices and channels.
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
@@ -11,73 +12,47 @@ using namespace std::string_literals;
 using APIModule::CBRMSModule;
 using APIModule::Method_Post;
 
-std::function<int(void*, int)> Discover(const std::vector<std::string>& deviceCodes, int discoverMode)
-{
-    return [=](void* param, int nServerId) {
-        return CBRMSModule::PacketBatchDiscoverDevices(param, deviceCodes, discoverMode, nServerId);
-    };
-}
-
-std::function<int(void*, int)> AlarmOutput(const std::vector<std::string>& channelIds, bool on)
-{
-    return [=](void* param, int nServerId) {
-        return CBRMSModule::PacketAlarmOutputControl(param, channelIds, on, nServerId);
-    };
-}
-
-std::function<int(void*, int)> AudioLight(const std::vector<std::string>& channelIds, bool on)
-{
-    return [=](void* param, int nServerId) {
-        return CBRMSModule::PacketAudioLightControl(param, channelIds, on, nServerId);
-    };
-}
-
-std::function<int(void*, int)> IPSpeaker(const APIModule::IPSpeakerControl& control)
-{
-    return [=](void* param, int nServerId) { return CBRMSModule::PacketIPSpeakerControl(param, control, nServerId); };
-}
+const BodyPack<const std::vector<std::string>&, int> kBatchDiscoverDevices(
+    "CBRMSModule::PacketBatchDiscoverDevices", &CBRMSModule::PacketBatchDiscoverDevices, Method_Post,
+    "/brms/api/v1.1/device/discover/async/batch");
+const BodyPack<const std::vector<std::string>&, bool> kAlarmOutputControl(
+    "CBRMSModule::PacketAlarmOutputControl", &CBRMSModule::PacketAlarmOutputControl, Method_Post,
+    "/brms/api/v1.1/device/channel/alarm-output/control");
+const BodyPack<const std::vector<std::string>&, bool> kAudioLightControl(
+    "CBRMSModule::PacketAudioLightControl", &CBRMSModule::PacketAudioLightControl, Method_Post,
+    "/brms/api/v1.1/device/channel/audio-light/regulate");
+const BodyPack<APIModule::IPSpeakerControl> kIPSpeakerControl("CBRMSModule::PacketIPSpeakerControl",
+                                                              &CBRMSModule::PacketIPSpeakerControl, Method_Post,
+                                                              "/brms/api/v1.1/device/channel/audio/ip-speaker/control");
 
 const PackRow kPacks[] = {
-    {"BatchDiscoverDevices", "CBRMSModule::PacketBatchDiscoverDevices", Discover({"dev2", "dev1"}, 3), Method_Post,
-     "/brms/api/v1.1/device/discover/async/batch", R"({"deviceCodes": ["dev2", "dev1"], "discoverMode": 3})"},
-    {"BatchDiscoverDevices_of_none_in_a_negative_mode", "CBRMSModule::PacketBatchDiscoverDevices", Discover({}, -3),
-     Method_Post, "/brms/api/v1.1/device/discover/async/batch", R"({"deviceCodes": [], "discoverMode": -3})"},
-    {"BatchDiscoverDevices_texts_go_whole_as_utf8", "CBRMSModule::PacketBatchDiscoverDevices",
-     Discover({"a\0b"s, "\xC3\xBC", "\xFF", "", "\"%1\\"}, 0), Method_Post,
-     "/brms/api/v1.1/device/discover/async/batch",
-     R"({"deviceCodes": ["a\u0000b", "\u00fc", "\ufffd", "", "\"%1\\"], "discoverMode": 0})"},
-    {"AlarmOutputControl_two_channels_on", "CBRMSModule::PacketAlarmOutputControl", AlarmOutput({"ch1", "ch2"}, true),
-     Method_Post, "/brms/api/v1.1/device/channel/alarm-output/control",
-     R"({"channelIds": ["ch1", "ch2"], "action": 0, "command": 1})"},
-    {"AlarmOutputControl_off", "CBRMSModule::PacketAlarmOutputControl", AlarmOutput({"ch1"}, false), Method_Post,
-     "/brms/api/v1.1/device/channel/alarm-output/control", R"({"channelIds": ["ch1"], "action": 0, "command": 0})"},
-    {"AlarmOutputControl_of_none", "CBRMSModule::PacketAlarmOutputControl", AlarmOutput({}, true), Method_Post,
-     "/brms/api/v1.1/device/channel/alarm-output/control", R"({"channelIds": [], "action": 0, "command": 1})"},
-    {"AlarmOutputControl_text_with_a_zero_byte_goes_whole", "CBRMSModule::PacketAlarmOutputControl",
-     AlarmOutput({"a\0b"s}, true), Method_Post, "/brms/api/v1.1/device/channel/alarm-output/control",
-     R"({"channelIds": ["a\u0000b"], "action": 0, "command": 1})"},
-    {"AudioLightControl_no_channels_off", "CBRMSModule::PacketAudioLightControl", AudioLight({}, false), Method_Post,
-     "/brms/api/v1.1/device/channel/audio-light/regulate", R"({"channelIds": [], "command": 0})"},
-    {"AudioLightControl_on_has_no_action", "CBRMSModule::PacketAudioLightControl", AudioLight({"ch2", "ch1"}, true),
-     Method_Post, "/brms/api/v1.1/device/channel/audio-light/regulate",
-     R"({"channelIds": ["ch2", "ch1"], "command": 1})"},
-    {"AudioLightControl_text_with_a_zero_byte_goes_whole", "CBRMSModule::PacketAudioLightControl",
-     AudioLight({"a\0b"s}, true), Method_Post, "/brms/api/v1.1/device/channel/audio-light/regulate",
-     R"({"channelIds": ["a\u0000b"], "command": 1})"},
-    {"IPSpeakerControl", "CBRMSModule::PacketIPSpeakerControl",
-     IPSpeaker({{{"ch1", "f1,f2", "3"}, {"ch2", "", "-1"}}, -4}), Method_Post,
-     "/brms/api/v1.1/device/channel/audio/ip-speaker/control",
-     R"({"channels": [{"channelId": "ch1", "fileIds": "f1,f2", "playCount": "3"},
-                      {"channelId": "ch2", "fileIds": "", "playCount": "-1"}], "command": -4})"},
-    {"IPSpeakerControl_playCount_3_is_a_text", "CBRMSModule::PacketIPSpeakerControl",
-     IPSpeaker({{{"ch1", "f1", "3"}}, 1}), Method_Post, "/brms/api/v1.1/device/channel/audio/ip-speaker/control",
-     R"({"channels": [{"channelId": "ch1", "fileIds": "f1", "playCount": "3"}], "command": 1})"},
-    {"IPSpeakerControl_fresh", "CBRMSModule::PacketIPSpeakerControl", IPSpeaker({}), Method_Post,
-     "/brms/api/v1.1/device/channel/audio/ip-speaker/control", R"({"channels": [], "command": 0})"},
-    {"IPSpeakerControl_texts_go_whole_as_utf8", "CBRMSModule::PacketIPSpeakerControl",
-     IPSpeaker({{{"a\0b"s, "\xC3\xBC\0"s, "\0"s}}, 0}), Method_Post,
-     "/brms/api/v1.1/device/channel/audio/ip-speaker/control",
-     R"({"channels": [{"channelId": "a\u0000b", "fileIds": "\u00fc\u0000", "playCount": "\u0000"}], "command": 0})"},
+    kBatchDiscoverDevices("BatchDiscoverDevices", {"dev2", "dev1"}, 3,
+                          R"({"deviceCodes": ["dev2", "dev1"], "discoverMode": 3})"),
+    kBatchDiscoverDevices("BatchDiscoverDevices_of_none_in_a_negative_mode", {}, -3,
+                          R"({"deviceCodes": [], "discoverMode": -3})"),
+    kBatchDiscoverDevices("BatchDiscoverDevices_texts_go_whole_as_utf8", {"a\0b"s, "\xC3\xBC", "\xFF", "", "\"%1\\"}, 0,
+                          R"({"deviceCodes": ["a\u0000b", "\u00fc", "\ufffd", "", "\"%1\\"], "discoverMode": 0})"),
+    kAlarmOutputControl("AlarmOutputControl_two_channels_on", {"ch1", "ch2"}, true,
+                        R"({"channelIds": ["ch1", "ch2"], "action": 0, "command": 1})"),
+    kAlarmOutputControl("AlarmOutputControl_off", {"ch1"}, false,
+                        R"({"channelIds": ["ch1"], "action": 0, "command": 0})"),
+    kAlarmOutputControl("AlarmOutputControl_of_none", {}, true, R"({"channelIds": [], "action": 0, "command": 1})"),
+    kAlarmOutputControl("AlarmOutputControl_text_with_a_zero_byte_goes_whole", {"a\0b"s}, true,
+                        R"({"channelIds": ["a\u0000b"], "action": 0, "command": 1})"),
+    kAudioLightControl("AudioLightControl_no_channels_off", {}, false, R"({"channelIds": [], "command": 0})"),
+    kAudioLightControl("AudioLightControl_on_has_no_action", {"ch2", "ch1"}, true,
+                       R"({"channelIds": ["ch2", "ch1"], "command": 1})"),
+    kAudioLightControl("AudioLightControl_text_with_a_zero_byte_goes_whole", {"a\0b"s}, true,
+                       R"({"channelIds": ["a\u0000b"], "command": 1})"),
+    kIPSpeakerControl("IPSpeakerControl", {{{"ch1", "f1,f2", "3"}, {"ch2", "", "-1"}}, -4},
+                      R"({"channels": [{"channelId": "ch1", "fileIds": "f1,f2", "playCount": "3"},
+                      {"channelId": "ch2", "fileIds": "", "playCount": "-1"}], "command": -4})"),
+    kIPSpeakerControl("IPSpeakerControl_playCount_3_is_a_text", {{{"ch1", "f1", "3"}}, 1},
+                      R"({"channels": [{"channelId": "ch1", "fileIds": "f1", "playCount": "3"}], "command": 1})"),
+    kIPSpeakerControl("IPSpeakerControl_fresh", {}, R"({"channels": [], "command": 0})"),
+    kIPSpeakerControl(
+        "IPSpeakerControl_texts_go_whole_as_utf8", {{{"a\0b"s, "\xC3\xBC\0"s, "\0"s}}, 0},
+        R"({"channels": [{"channelId": "a\u0000b", "fileIds": "\u00fc\u0000", "playCount": "\u0000"}], "command": 0})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(DeviceControl, PackTest, testing::ValuesIn(kPacks), RowName());

@@ -12,31 +12,24 @@ using namespace std::string_literals;
 using APIModule::COMMSModule;
 using APIModule::Method_Get;
 
-PackRow ChannelRow(const std::string& name, const std::string& channelId, const std::string& url)
-{
-    return {name, "COMMSModule::PacketGetChannelInfo", Bind<std::string>(&COMMSModule::PacketGetChannelInfo, channelId),
-            Method_Get, url};
-}
-
-PackRow DeviceRow(const std::string& name, const std::string& deviceCode, const std::string& url)
-{
-    return {name, "COMMSModule::PacketGetDeviceInfo", Bind<std::string>(&COMMSModule::PacketGetDeviceInfo, deviceCode),
-            Method_Get, url};
-}
+const UrlPack<std::string> kChannelPack("COMMSModule::PacketGetChannelInfo", &COMMSModule::PacketGetChannelInfo,
+                                        Method_Get, "/omms/api/v1.1/channel/");
+const UrlPack<std::string> kDevicePack("COMMSModule::PacketGetDeviceInfo", &COMMSModule::PacketGetDeviceInfo,
+                                       Method_Get, "/omms/api/v1.1/device/");
 
 const PackRow kPacks[] = {
     {"GetAlertTypes", "COMMSModule::PacketGetAlertTypes", &COMMSModule::PacketGetAlertTypes, Method_Get,
      "/omms/api/v1.1/alert/rule/alert-type/list"},
-    ChannelRow("GetChannelInfo", "1000001$1$0$0", "/omms/api/v1.1/channel/1000001$1$0$0"),
-    ChannelRow("GetChannelInfo_empty_text", "", "/omms/api/v1.1/channel/"),
-    ChannelRow("GetChannelInfo_nothing_is_escaped", "a b/%1?\xC3\xBC\"", "/omms/api/v1.1/channel/a b/%1?\xC3\xBC\""),
-    ChannelRow("GetChannelInfo_zero_byte_is_kept", "a\0b"s, "/omms/api/v1.1/channel/a\0b"s),
-    ChannelRow("GetChannelInfo_invalid_utf8", "x\xFF", "/omms/api/v1.1/channel/x\xEF\xBF\xBD"),
-    DeviceRow("GetDeviceInfo", "1000001", "/omms/api/v1.1/device/1000001"),
-    DeviceRow("GetDeviceInfo_empty_text", "", "/omms/api/v1.1/device/"),
-    DeviceRow("GetDeviceInfo_nothing_is_escaped", "a b/%1?\xC3\xBC\"", "/omms/api/v1.1/device/a b/%1?\xC3\xBC\""),
-    DeviceRow("GetDeviceInfo_zero_byte_is_kept", "a\0b"s, "/omms/api/v1.1/device/a\0b"s),
-    DeviceRow("GetDeviceInfo_invalid_utf8", "x\xFF", "/omms/api/v1.1/device/x\xEF\xBF\xBD"),
+    kChannelPack("GetChannelInfo", "1000001$1$0$0", "1000001$1$0$0"),
+    kChannelPack("GetChannelInfo_empty_text", "", ""),
+    kChannelPack("GetChannelInfo_nothing_is_escaped", "a b/%1?\xC3\xBC\"", "a b/%1?\xC3\xBC\""),
+    kChannelPack("GetChannelInfo_zero_byte_is_kept", "a\0b"s, "a\0b"s),
+    kChannelPack("GetChannelInfo_invalid_utf8", "x\xFF", "x\xEF\xBF\xBD"),
+    kDevicePack("GetDeviceInfo", "1000001", "1000001"),
+    kDevicePack("GetDeviceInfo_empty_text", "", ""),
+    kDevicePack("GetDeviceInfo_nothing_is_escaped", "a b/%1?\xC3\xBC\"", "a b/%1?\xC3\xBC\""),
+    kDevicePack("GetDeviceInfo_zero_byte_is_kept", "a\0b"s, "a\0b"s),
+    kDevicePack("GetDeviceInfo_invalid_utf8", "x\xFF", "x\xEF\xBF\xBD"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Maintenance, PackTest, testing::ValuesIn(kPacks), RowName());

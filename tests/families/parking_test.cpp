@@ -13,75 +13,45 @@ using APIModule::CIPMSModule;
 using APIModule::Method_Get;
 using APIModule::Method_Put;
 
-PackRow SimpleRow(const std::string& name, const std::string& parkingLotIds, int mode, const std::string& url)
-{
-    return {name, "CIPMSModule::PacketGetSimpleParkingLots",
-            Bind<const std::string&, int>(&CIPMSModule::PacketGetSimpleParkingLots, parkingLotIds, mode), Method_Get,
-            url};
-}
-
-PackRow DetailRow(const std::string& name, const std::string& parkingLotIds, const std::string& orgCode, int mode,
-                  const std::string& url)
-{
-    return {name, "CIPMSModule::PacketGetDetailParkingLots",
-            Bind<const std::string&, const std::string&, int>(&CIPMSModule::PacketGetDetailParkingLots, parkingLotIds,
-                                                              orgCode, mode),
-            Method_Get, url};
-}
-
-PackRow CaptureRow(const std::string& name, const APIModule::UpdateVehicleCaptureRecordInfo& info,
-                   const std::string& body)
-{
-    return {
-        name,
-        "CIPMSModule::PacketUpdateVehicleCaptureRecord",
-        Bind<const APIModule::UpdateVehicleCaptureRecordInfo&>(&CIPMSModule::PacketUpdateVehicleCaptureRecord, info),
-        Method_Put,
-        "/ipms/api/v1.1/fusion/vehicle-capture/record",
-        body};
-}
+const UrlPack<const std::string&, int> kSimplePack("CIPMSModule::PacketGetSimpleParkingLots",
+                                                   &CIPMSModule::PacketGetSimpleParkingLots, Method_Get,
+                                                   "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=");
+const UrlPack<const std::string&, const std::string&, int> kDetailPack(
+    "CIPMSModule::PacketGetDetailParkingLots", &CIPMSModule::PacketGetDetailParkingLots, Method_Get,
+    "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=");
+const BodyPack<const APIModule::UpdateVehicleCaptureRecordInfo&> kCapture(
+    "CIPMSModule::PacketUpdateVehicleCaptureRecord", &CIPMSModule::PacketUpdateVehicleCaptureRecord, Method_Put,
+    "/ipms/api/v1.1/fusion/vehicle-capture/record");
 
 const PackRow kPacks[] = {
-    SimpleRow("GetSimpleParkingLots", "11,12", 2, "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=11,12&mode=2"),
-    SimpleRow("GetSimpleParkingLots_mode_minus_1", "11", -1,
-              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=11&mode=-1"),
-    SimpleRow("GetSimpleParkingLots_all", "", 0, "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=&mode=0"),
-    SimpleRow("GetSimpleParkingLots_nothing_is_escaped", "a b&c#\"\xC3\xBC", 2147483647,
-              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a b&c#\"\xC3\xBC&mode=2147483647"),
-    SimpleRow("GetSimpleParkingLots_zero_byte_is_kept", "a\0b"s, 1,
-              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a\0b&mode=1"s),
-    SimpleRow("GetSimpleParkingLots_invalid_utf8", "x\xFF", 1,
-              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=x\xEF\xBF\xBD&mode=1"),
-    SimpleRow("GetSimpleParkingLots_marker_2_in_the_ids_is_rewritten", "a%2b", 5,
-              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a5b&mode=5"),
-    SimpleRow("GetSimpleParkingLots_marker_1_in_the_ids_takes_the_mode", "a%1b", 5,
-              "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=a5b&mode=%2"),
-    DetailRow("GetDetailParkingLots_mode_stands_before_orgCode", "11,12", "001", 2,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=11,12&mode=2&orgCode=001"),
-    DetailRow("GetDetailParkingLots_mode_minus_1", "11", "001001", -1,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=11&mode=-1&orgCode=001001"),
-    DetailRow("GetDetailParkingLots_all", "", "", 0,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=&mode=0&orgCode="),
-    DetailRow("GetDetailParkingLots_nothing_is_escaped", "a b&c", "\xE4\xB8\xAD#\"", 1,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a b&c&mode=1&orgCode=\xE4\xB8\xAD#\""),
-    DetailRow("GetDetailParkingLots_zero_bytes_are_kept", "a\0b"s, "\0"s, 1,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a\0b&mode=1&orgCode=\0"s),
-    DetailRow("GetDetailParkingLots_invalid_utf8", "x\xFF", "\xC3", 1,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=x\xEF\xBF\xBD&mode=1&orgCode=\xEF\xBF\xBD"),
-    DetailRow("GetDetailParkingLots_markers_in_the_ids_are_rewritten", "a%2b%3", "c", 5,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a5bc&mode=5&orgCode=c"),
-    DetailRow("GetDetailParkingLots_marker_in_orgCode_stays", "a", "%3%1", 5,
-              "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=a&mode=5&orgCode=%3%1"),
+    kSimplePack("GetSimpleParkingLots", "11,12", 2, "11,12&mode=2"),
+    kSimplePack("GetSimpleParkingLots_mode_minus_1", "11", -1, "11&mode=-1"),
+    kSimplePack("GetSimpleParkingLots_all", "", 0, "&mode=0"),
+    kSimplePack("GetSimpleParkingLots_nothing_is_escaped", "a b&c#\"\xC3\xBC", 2147483647,
+                "a b&c#\"\xC3\xBC&mode=2147483647"),
+    kSimplePack("GetSimpleParkingLots_zero_byte_is_kept", "a\0b"s, 1, "a\0b&mode=1"s),
+    kSimplePack("GetSimpleParkingLots_invalid_utf8", "x\xFF", 1, "x\xEF\xBF\xBD&mode=1"),
+    kSimplePack("GetSimpleParkingLots_marker_2_in_the_ids_is_rewritten", "a%2b", 5, "a5b&mode=5"),
+    kSimplePack("GetSimpleParkingLots_marker_1_in_the_ids_takes_the_mode", "a%1b", 5, "a5b&mode=%2"),
+    kDetailPack("GetDetailParkingLots_mode_stands_before_orgCode", "11,12", "001", 2, "11,12&mode=2&orgCode=001"),
+    kDetailPack("GetDetailParkingLots_mode_minus_1", "11", "001001", -1, "11&mode=-1&orgCode=001001"),
+    kDetailPack("GetDetailParkingLots_all", "", "", 0, "&mode=0&orgCode="),
+    kDetailPack("GetDetailParkingLots_nothing_is_escaped", "a b&c", "\xE4\xB8\xAD#\"", 1,
+                "a b&c&mode=1&orgCode=\xE4\xB8\xAD#\""),
+    kDetailPack("GetDetailParkingLots_zero_bytes_are_kept", "a\0b"s, "\0"s, 1, "a\0b&mode=1&orgCode=\0"s),
+    kDetailPack("GetDetailParkingLots_invalid_utf8", "x\xFF", "\xC3", 1, "x\xEF\xBF\xBD&mode=1&orgCode=\xEF\xBF\xBD"),
+    kDetailPack("GetDetailParkingLots_markers_in_the_ids_are_rewritten", "a%2b%3", "c", 5, "a5bc&mode=5&orgCode=c"),
+    kDetailPack("GetDetailParkingLots_marker_in_orgCode_stays", "a", "%3%1", 5, "a&mode=5&orgCode=%3%1"),
     {"GetParkingOrganization", "CIPMSModule::PacketGetParkingOrganization", &CIPMSModule::PacketGetParkingOrganization,
      Method_Get, "/ipms/api/v1.1/organization/list"},
-    CaptureRow("UpdateVehicleCaptureRecord", {"55", "AB 123"}, R"({"id": "55", "plateNo": "AB 123"})"),
-    CaptureRow("UpdateVehicleCaptureRecord_fresh", {}, R"({"id": "", "plateNo": ""})"),
-    CaptureRow("UpdateVehicleCaptureRecord_zero_bytes_are_kept", {"5\0"s, "a\0b"s},
-               R"({"id": "5\u0000", "plateNo": "a\u0000b"})"),
-    CaptureRow("UpdateVehicleCaptureRecord_utf8_quote_and_marker",
-               {"%1\"\\", "\xE4\xBA\xAC"
-                          "A-123\xFF"},
-               R"({"id": "%1\"\\", "plateNo": "\u4eacA-123\ufffd"})"),
+    kCapture("UpdateVehicleCaptureRecord", {"55", "AB 123"}, R"({"id": "55", "plateNo": "AB 123"})"),
+    kCapture("UpdateVehicleCaptureRecord_fresh", {}, R"({"id": "", "plateNo": ""})"),
+    kCapture("UpdateVehicleCaptureRecord_zero_bytes_are_kept", {"5\0"s, "a\0b"s},
+             R"({"id": "5\u0000", "plateNo": "a\u0000b"})"),
+    kCapture("UpdateVehicleCaptureRecord_utf8_quote_and_marker",
+             {"%1\"\\", "\xE4\xBA\xAC"
+                        "A-123\xFF"},
+             R"({"id": "%1\"\\", "plateNo": "\u4eacA-123\ufffd"})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Parking, PackTest, testing::ValuesIn(kPacks), RowName());

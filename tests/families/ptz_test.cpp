@@ -12,88 +12,49 @@ using namespace std::string_literals;
 using APIModule::CDMSModule;
 using APIModule::Method_Post;
 
-std::function<int(void*, int)> WashOpen(const std::string& channelId)
-{
-    return [channelId](void* param, int) { return CDMSModule::PackeWashOpen(param, channelId); };
-}
-
-std::function<int(void*, int)> BatchWashOpen(const std::vector<std::string>& channelIds)
-{
-    return [channelIds](void* param, int) {
-        std::vector<std::string> argument = channelIds;
-        const int nResult = CDMSModule::PackeBatchWashOpen(param, argument);
-        EXPECT_EQ(argument, channelIds) << "the argument changed";
-        return nResult;
-    };
-}
-
-PackRow WashRow(const std::string& name, const std::string& channelId, const std::string& body)
-{
-    return {name,        "CDMSModule::PackeWashOpen",     WashOpen(channelId),
-            Method_Post, "/admin/API/DMS/Ptz/AuxControl", body,
-            Server::One};
-}
-
-PackRow BatchWashRow(const std::string& name, const std::vector<std::string>& channelIds, const std::string& body)
-{
-    return {name,        "CDMSModule::PackeBatchWashOpen",     BatchWashOpen(channelIds),
-            Method_Post, "/admin/API/DMS/Ptz/AuxBatchControl", body,
-            Server::One};
-}
-
-PackRow SetHomeRow(const std::string& name, const std::string& channelId, const std::string& url)
-{
-    return {name, "CDMSModule::PackeSetHomePosition", Bind<std::string>(&CDMSModule::PackeSetHomePosition, channelId),
-            Method_Post, url};
-}
-
-PackRow GotoHomeRow(const std::string& name, const std::string& channelId, const std::string& url)
-{
-    return {name,
-            "CDMSModule::PackeGotoHomePosition",
-            Bind<std::string>(&CDMSModule::PackeGotoHomePosition, channelId),
-            Method_Post,
-            url,
-            "",
-            Server::OfCaller,
-            "PackeSetHomePosition failed.",
-            "PackeSetHomePosition success."};
-}
+const BodyPack<std::string> kWashOpen("CDMSModule::PackeWashOpen", &CDMSModule::PackeWashOpen, Method_Post,
+                                      "/admin/API/DMS/Ptz/AuxControl", {Server::One});
+const BodyPack<std::vector<std::string>&> kBatchWashOpen("CDMSModule::PackeBatchWashOpen",
+                                                         &CDMSModule::PackeBatchWashOpen, Method_Post,
+                                                         "/admin/API/DMS/Ptz/AuxBatchControl", {Server::One});
+const UrlPack<std::string> kSetHomePack("CDMSModule::PackeSetHomePosition", &CDMSModule::PackeSetHomePosition,
+                                        Method_Post, "/brms/api/v1.1/ptz/channel/");
+const UrlPack<std::string> kGotoHomePack("CDMSModule::PackeGotoHomePosition", &CDMSModule::PackeGotoHomePosition,
+                                         Method_Post, "/brms/api/v1.1/ptz/channel/",
+                                         {Server::OfCaller, "PackeSetHomePosition failed.",
+                                          "PackeSetHomePosition success."});
 
 const PackRow kPacks[] = {
-    WashRow("WashOpen_command_is_the_number_1", "1000001$1$0$0",
-            R"({"data": {"channelId": "1000001$1$0$0", "command": 1}})"),
-    WashRow("WashOpen_empty_text", "", R"({"data": {"channelId": "", "command": 1}})"),
-    WashRow("WashOpen_zero_byte_is_kept", "a\0b"s, R"({"data": {"channelId": "a\u0000b", "command": 1}})"),
-    WashRow("WashOpen_utf8_quote_and_marker", "\xC3\xBC \xE4\xB8\xAD \"%1\\",
-            R"({"data": {"channelId": "\u00fc \u4e2d \"%1\\", "command": 1}})"),
-    WashRow("WashOpen_invalid_utf8", "x\xFF", R"({"data": {"channelId": "x\ufffd", "command": 1}})"),
-    BatchWashRow("BatchWashOpen_two_channels_in_order", {"b", "a"},
-                 R"({"data": {"ptzAuxControlXos": [{"channelId": "b", "command": 1},
+    kWashOpen("WashOpen_command_is_the_number_1", "1000001$1$0$0",
+              R"({"data": {"channelId": "1000001$1$0$0", "command": 1}})"),
+    kWashOpen("WashOpen_empty_text", "", R"({"data": {"channelId": "", "command": 1}})"),
+    kWashOpen("WashOpen_zero_byte_is_kept", "a\0b"s, R"({"data": {"channelId": "a\u0000b", "command": 1}})"),
+    kWashOpen("WashOpen_utf8_quote_and_marker", "\xC3\xBC \xE4\xB8\xAD \"%1\\",
+              R"({"data": {"channelId": "\u00fc \u4e2d \"%1\\", "command": 1}})"),
+    kWashOpen("WashOpen_invalid_utf8", "x\xFF", R"({"data": {"channelId": "x\ufffd", "command": 1}})"),
+    kBatchWashOpen("BatchWashOpen_two_channels_in_order", {"b", "a"},
+                   R"({"data": {"ptzAuxControlXos": [{"channelId": "b", "command": 1},
                                                    {"channelId": "a", "command": 1}]}})"),
-    BatchWashRow("BatchWashOpen_empty_list_is_sent", {}, R"({"data": {"ptzAuxControlXos": []}})"),
-    BatchWashRow("BatchWashOpen_texts_stand_as_they_are", {"", "a\0b"s, "\xC3\xBC\"%1", "x\xFF", "same", "same"},
-                 R"({"data": {"ptzAuxControlXos": [{"channelId": "", "command": 1},
+    kBatchWashOpen("BatchWashOpen_empty_list_is_sent", {}, R"({"data": {"ptzAuxControlXos": []}})"),
+    kBatchWashOpen("BatchWashOpen_texts_stand_as_they_are", {"", "a\0b"s, "\xC3\xBC\"%1", "x\xFF", "same", "same"},
+                   R"({"data": {"ptzAuxControlXos": [{"channelId": "", "command": 1},
                                                    {"channelId": "a\u0000b", "command": 1},
                                                    {"channelId": "\u00fc\"%1", "command": 1},
                                                    {"channelId": "x\ufffd", "command": 1},
                                                    {"channelId": "same", "command": 1},
                                                    {"channelId": "same", "command": 1}]}})"),
-    SetHomeRow("SetHomePosition", "1000001$1$0$0", "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/configure"),
-    SetHomeRow("SetHomePosition_bytes_are_latin1", "\xC3\xBC\xFF",
-               "/brms/api/v1.1/ptz/channel/\xC3\x83\xC2\xBC\xC3\xBF/home-position/configure"),
-    SetHomeRow("SetHomePosition_ends_at_a_zero_byte", "a\0b"s, "/brms/api/v1.1/ptz/channel/a/home-position/configure"),
-    SetHomeRow("SetHomePosition_empty_text", "", "/brms/api/v1.1/ptz/channel//home-position/configure"),
-    SetHomeRow("SetHomePosition_nothing_is_escaped", "a b/%1?%20&\"",
-               "/brms/api/v1.1/ptz/channel/a b/%1?%20&\"/home-position/configure"),
-    GotoHomeRow("GotoHomePosition_logs_the_texts_of_SetHomePosition", "1000001$1$0$0",
-                "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/goto"),
-    GotoHomeRow("GotoHomePosition_bytes_are_latin1", "\xC3\xBC\xFF",
-                "/brms/api/v1.1/ptz/channel/\xC3\x83\xC2\xBC\xC3\xBF/home-position/goto"),
-    GotoHomeRow("GotoHomePosition_ends_at_a_zero_byte", "a\0b"s, "/brms/api/v1.1/ptz/channel/a/home-position/goto"),
-    GotoHomeRow("GotoHomePosition_empty_text", "", "/brms/api/v1.1/ptz/channel//home-position/goto"),
-    GotoHomeRow("GotoHomePosition_nothing_is_escaped", "a b/%1?%20&\"",
-                "/brms/api/v1.1/ptz/channel/a b/%1?%20&\"/home-position/goto"),
+    kSetHomePack("SetHomePosition", "1000001$1$0$0", "1000001$1$0$0/home-position/configure"),
+    kSetHomePack("SetHomePosition_bytes_are_latin1", "\xC3\xBC\xFF",
+                 "\xC3\x83\xC2\xBC\xC3\xBF/home-position/configure"),
+    kSetHomePack("SetHomePosition_ends_at_a_zero_byte", "a\0b"s, "a/home-position/configure"),
+    kSetHomePack("SetHomePosition_empty_text", "", "/home-position/configure"),
+    kSetHomePack("SetHomePosition_nothing_is_escaped", "a b/%1?%20&\"", "a b/%1?%20&\"/home-position/configure"),
+    kGotoHomePack("GotoHomePosition_logs_the_texts_of_SetHomePosition", "1000001$1$0$0",
+                  "1000001$1$0$0/home-position/goto"),
+    kGotoHomePack("GotoHomePosition_bytes_are_latin1", "\xC3\xBC\xFF", "\xC3\x83\xC2\xBC\xC3\xBF/home-position/goto"),
+    kGotoHomePack("GotoHomePosition_ends_at_a_zero_byte", "a\0b"s, "a/home-position/goto"),
+    kGotoHomePack("GotoHomePosition_empty_text", "", "/home-position/goto"),
+    kGotoHomePack("GotoHomePosition_nothing_is_escaped", "a b/%1?%20&\"", "a b/%1?%20&\"/home-position/goto"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Ptz, PackTest, testing::ValuesIn(kPacks), RowName());

@@ -19,49 +19,20 @@ using APIModule::Method_Put;
 using APIModule::QuickCommand;
 using APIModule::QuickCommandHttpUrl;
 
-PackRow Add(const std::string& name, const QuickCommand& command, const std::string& body)
-{
-    return {"Add_" + name,
-            "CBRMSModule::PacketAddQuickCommand",
-            Bind<const QuickCommand&>(&CBRMSModule::PacketAddQuickCommand, command),
-            Method_Post,
-            "/brms/api/v1.1/config/quick/command",
-            body};
-}
-
-PackRow Update(const std::string& name, const QuickCommand& command, const std::string& url, const std::string& body)
-{
-    return {"Update_" + name,
-            "CBRMSModule::PacketUpdateQuickCommand",
-            Bind<const QuickCommand&>(&CBRMSModule::PacketUpdateQuickCommand, command),
-            Method_Put,
-            url,
-            body};
-}
-
-PackRow Delete(const std::string& name, const std::vector<std::string>& ids, const std::string& url)
-{
-    return {"Delete_" + name, "CBRMSModule::PacketDelQuickCommand",
-            Bind<std::vector<std::string>>(&CBRMSModule::PacketDelQuickCommand, ids), Method_Delete, url};
-}
-
-PackRow Get(const std::string& name, const std::string& id, const std::string& url)
-{
-    return {"Get_" + name, "CBRMSModule::PacketGetQuickCommand",
-            Bind<const std::string&>(&CBRMSModule::PacketGetQuickCommand, id), Method_Get, url};
-}
-
-PackRow List(const std::string& name, const std::string& keyword, const std::string& url)
-{
-    return {"List_" + name, "CBRMSModule::PacketGetQuickCommands",
-            Bind<const std::string&>(&CBRMSModule::PacketGetQuickCommands, keyword), Method_Get, url};
-}
-
-PackRow OfPlan(const std::string& name, const std::string& planId, const std::string& url)
-{
-    return {"OfPlan_" + name, "CBRMSModule::PacketGetAlarmPlanQuickCommands",
-            Bind<const std::string&>(&CBRMSModule::PacketGetAlarmPlanQuickCommands, planId), Method_Get, url};
-}
+const BodyPack<const QuickCommand&> kAdd("CBRMSModule::PacketAddQuickCommand", &CBRMSModule::PacketAddQuickCommand,
+                                         Method_Post, "/brms/api/v1.1/config/quick/command");
+const UrlPack<const QuickCommand&> kUpdate("CBRMSModule::PacketUpdateQuickCommand",
+                                           &CBRMSModule::PacketUpdateQuickCommand, Method_Put);
+const UrlPack<std::vector<std::string>> kDelete("CBRMSModule::PacketDelQuickCommand",
+                                                &CBRMSModule::PacketDelQuickCommand, Method_Delete,
+                                                "/brms/api/v1.1/config/quick/command?ids=");
+const UrlPack<const std::string&> kGetPack("CBRMSModule::PacketGetQuickCommand", &CBRMSModule::PacketGetQuickCommand,
+                                           Method_Get, "/brms/api/v1.1/config/quick/command/");
+const UrlPack<const std::string&> kListPack("CBRMSModule::PacketGetQuickCommands", &CBRMSModule::PacketGetQuickCommands,
+                                            Method_Get, "/brms/api/v1.1/config/quick/command/list?keyword=");
+const UrlPack<const std::string&> kOfPlanPack("CBRMSModule::PacketGetAlarmPlanQuickCommands",
+                                              &CBRMSModule::PacketGetAlarmPlanQuickCommands, Method_Get,
+                                              "/brms/api/v1.1/alarm/plan/");
 
 /// What add and update alike make of a command.
 struct BodyRow {
@@ -152,40 +123,39 @@ std::vector<PackRow> PackRows()
     const char* const freshBody = R"({"quickCommandName": "", "enableShortcutKeys": "0", "shortcutKeys": "",
                                       "executeMode": "0", "remark": "", "httpUrls": []})";
     std::vector<PackRow> rows{
-        Update("id_goes_into_the_url_alone", OnlyId("q7"), "/brms/api/v1.1/config/quick/command/q7", freshBody),
-        Update("id_is_not_escaped", OnlyId("a/b&c#%1"), "/brms/api/v1.1/config/quick/command/a/b&c#%1", freshBody),
-        Update("id_goes_on_behind_a_zero_byte", OnlyId("a\0b"s), "/brms/api/v1.1/config/quick/command/a\0b"s,
-               freshBody),
+        kUpdate("Update_id_goes_into_the_url_alone", OnlyId("q7"), "/brms/api/v1.1/config/quick/command/q7", freshBody),
+        kUpdate("Update_id_is_not_escaped", OnlyId("a/b&c#%1"), "/brms/api/v1.1/config/quick/command/a/b&c#%1",
+                freshBody),
+        kUpdate("Update_id_goes_on_behind_a_zero_byte", OnlyId("a\0b"s), "/brms/api/v1.1/config/quick/command/a\0b"s,
+                freshBody),
 
-        Delete("two_joined_with_a_comma", {"x", "y"}, "/brms/api/v1.1/config/quick/command?ids=x,y"),
-        Delete("one_has_no_trailing_comma", {"x"}, "/brms/api/v1.1/config/quick/command?ids=x"),
-        Delete("none", {}, "/brms/api/v1.1/config/quick/command?ids="),
-        Delete("empty_ids_keep_their_commas", {"", "y", ""}, "/brms/api/v1.1/config/quick/command?ids=,y,"),
-        Delete("ids_are_not_escaped", {"x,y", "a&b", "%1"}, "/brms/api/v1.1/config/quick/command?ids=x,y,a&b,%1"),
-        Delete("ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
-               "/brms/api/v1.1/config/quick/command?ids=a\0b,\xC3\xBC\xEF\xBF\xBD"s),
+        kDelete("Delete_two_joined_with_a_comma", {"x", "y"}, "x,y"),
+        kDelete("Delete_one_has_no_trailing_comma", {"x"}, "x"),
+        kDelete("Delete_none", {}, ""),
+        kDelete("Delete_empty_ids_keep_their_commas", {"", "y", ""}, ",y,"),
+        kDelete("Delete_ids_are_not_escaped", {"x,y", "a&b", "%1"}, "x,y,a&b,%1"),
+        kDelete("Delete_ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
+                "a\0b,\xC3\xBC\xEF\xBF\xBD"s),
 
-        Get("one", "q1", "/brms/api/v1.1/config/quick/command/q1"),
-        Get("empty_id", "", "/brms/api/v1.1/config/quick/command/"),
-        Get("id_is_not_escaped", "a/b?c&d#%1 \xC3\xBC", "/brms/api/v1.1/config/quick/command/a/b?c&d#%1 \xC3\xBC"),
-        Get("id_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/config/quick/command/a\0b"s),
+        kGetPack("Get_one", "q1", "q1"),
+        kGetPack("Get_empty_id", "", ""),
+        kGetPack("Get_id_is_not_escaped", "a/b?c&d#%1 \xC3\xBC", "a/b?c&d#%1 \xC3\xBC"),
+        kGetPack("Get_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
 
-        List("keyword", "gate", "/brms/api/v1.1/config/quick/command/list?keyword=gate"),
-        List("empty_keyword", "", "/brms/api/v1.1/config/quick/command/list?keyword="),
-        List("keyword_is_not_escaped", "a&b#c %1%2b \xC3\xBC\xFF",
-             "/brms/api/v1.1/config/quick/command/list?keyword=a&b#c %1%2b \xC3\xBC\xEF\xBF\xBD"),
-        List("keyword_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/config/quick/command/list?keyword=a\0b"s),
+        kListPack("List_keyword", "gate", "gate"),
+        kListPack("List_empty_keyword", "", ""),
+        kListPack("List_keyword_is_not_escaped", "a&b#c %1%2b \xC3\xBC\xFF", "a&b#c %1%2b \xC3\xBC\xEF\xBF\xBD"),
+        kListPack("List_keyword_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
 
-        OfPlan("one", "p1", "/brms/api/v1.1/alarm/plan/p1/quick/command/list"),
-        OfPlan("empty_id", "", "/brms/api/v1.1/alarm/plan//quick/command/list"),
-        OfPlan("id_is_not_escaped", "a/b&c#%1 \xC3\xBC",
-               "/brms/api/v1.1/alarm/plan/a/b&c#%1 \xC3\xBC/quick/command/list"),
-        OfPlan("id_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/alarm/plan/a\0b/quick/command/list"s),
+        kOfPlanPack("OfPlan_one", "p1", "p1/quick/command/list"),
+        kOfPlanPack("OfPlan_empty_id", "", "/quick/command/list"),
+        kOfPlanPack("OfPlan_id_is_not_escaped", "a/b&c#%1 \xC3\xBC", "a/b&c#%1 \xC3\xBC/quick/command/list"),
+        kOfPlanPack("OfPlan_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b/quick/command/list"s),
     };
     for (const BodyRow& row : kBodies) {
-        rows.push_back(Add(row.name, row.command, row.body));
-        rows.push_back(
-            Update(row.name, row.command, "/brms/api/v1.1/config/quick/command/" + row.command.id, row.body));
+        rows.push_back(kAdd("Add_" + row.name, row.command, row.body));
+        rows.push_back(kUpdate("Update_" + row.name, row.command,
+                               "/brms/api/v1.1/config/quick/command/" + row.command.id, row.body));
     }
     return rows;
 }

@@ -1,4 +1,5 @@
 // Settings of the whole platform.
+#include "support/Bind.h"
 #include "support/Family.h"
 
 #include <BRMS/BRMSModule.h>
@@ -13,125 +14,82 @@ using APIModule::Method_Get;
 using APIModule::Method_Post;
 using APIModule::Method_Put;
 
-std::function<int(void*, int)> SetTimeSync(const APIModule::TimeSyncConfig& config)
-{
-    return
-        [config](void* param, int nServerId) { return CBRMSModule::PacketSetTimeSyncConfig(param, config, nServerId); };
-}
-
-std::function<int(void*, int)> SetRemoteLog(const APIModule::RemoteLogConfigInfo& config)
-{
-    return [config](void* param, int nServerId) {
-        return CBRMSModule::PacketSetRemoteLogConfig(param, config, nServerId);
-    };
-}
-
-std::function<int(void*, int)> SetLoginModel(int model)
-{
-    return
-        [model](void* param, int nServerId) { return CBRMSModule::PacketSetDeviceLoginModel(param, model, nServerId); };
-}
-
-std::function<int(void*, int)> SetPushAppMsg(bool enable)
-{
-    return [enable](void* param, int nServerId) {
-        return CBRMSModule::PacketSetPushAppMsgConfig(param, enable, nServerId);
-    };
-}
-
-std::function<int(void*, int)> GetLocalSetting(int settingType)
-{
-    return [settingType](void* param, int nServerId) {
-        return CBRMSModule::PacketGetLocalSetting(param, settingType, nServerId);
-    };
-}
-
-std::function<int(void*, int)> UpdateLocalSetting(bool apply, const std::string& content)
-{
-    return [apply, content](void* param, int nServerId) {
-        bool argument = apply;
-        const int nResult = CBRMSModule::PacketUpdateLocalSetting(param, argument, content, nServerId);
-        EXPECT_EQ(argument, apply) << "the argument changed";
-        return nResult;
-    };
-}
-
-std::function<int(void*, int)> UpdateAIPrivacy(bool enable)
-{
-    return [enable](void* param, int nServerId) {
-        return CBRMSModule::PacketUpdateAIPrivacyConfig(param, enable, nServerId);
-    };
-}
+const BodyPack<const APIModule::TimeSyncConfig&> kSetTimeSyncConfig("CBRMSModule::PacketSetTimeSyncConfig",
+                                                                    &CBRMSModule::PacketSetTimeSyncConfig, Method_Put,
+                                                                    "/brms/api/v1.1/config/time-sync");
+const BodyPack<const APIModule::RemoteLogConfigInfo&> kSetRemoteLogConfig("CBRMSModule::PacketSetRemoteLogConfig",
+                                                                          &CBRMSModule::PacketSetRemoteLogConfig,
+                                                                          Method_Put,
+                                                                          "/brms/api/v1.1/config/remote-log");
+const BodyPack<const int&> kSetDeviceLoginModel("CBRMSModule::PacketSetDeviceLoginModel",
+                                                &CBRMSModule::PacketSetDeviceLoginModel, Method_Put,
+                                                "/brms/api/v1.1/config/device-login-model");
+const BodyPack<const bool&> kSetPushAppMsgConfig("CBRMSModule::PacketSetPushAppMsgConfig",
+                                                 &CBRMSModule::PacketSetPushAppMsgConfig, Method_Put,
+                                                 "/brms/api/v1.1/config/app/push-message");
+const UrlPack<const int&> kGetLocalSetting("CBRMSModule::PacketGetLocalSetting", &CBRMSModule::PacketGetLocalSetting,
+                                           Method_Get, "/brms/api/v1.1/config/local/setting?settingType=");
+const BodyPack<bool&, const std::string&> kUpdateLocalSetting("CBRMSModule::PacketUpdateLocalSetting",
+                                                              &CBRMSModule::PacketUpdateLocalSetting, Method_Put,
+                                                              "/brms/api/v1.1/config/local/setting");
+const BodyPack<const bool&> kUpdateAIPrivacyConfig("CBRMSModule::PacketUpdateAIPrivacyConfig",
+                                                   &CBRMSModule::PacketUpdateAIPrivacyConfig, Method_Put,
+                                                   "/brms/api/v1.1/config/ai/privacy");
 
 const PackRow kPacks[] = {
     {"GetTimeSyncConfig", "CBRMSModule::PacketGetTimeSyncConfig", &CBRMSModule::PacketGetTimeSyncConfig, Method_Get,
      "/brms/api/v1.1/config/time-sync"},
-    {"SetTimeSyncConfig", "CBRMSModule::PacketSetTimeSyncConfig",
-     SetTimeSync({true, "02:30:00", 7, false, true, "ntp.example", 123, 60}), Method_Put,
-     "/brms/api/v1.1/config/time-sync",
-     R"({"enable": "1", "startTime": "02:30:00", "interval": "7", "deviceOnlineTimeSync": "0", "enableNtp": "1",
-         "ntpIp": "ntp.example", "ntpPort": "123", "ntpSyncInterval": "60"})"},
-    {"SetTimeSyncConfig_enabled_interval_30_port_minus_1_all_texts", "CBRMSModule::PacketSetTimeSyncConfig",
-     SetTimeSync({true, "", 30, true, false, "", -1, -2147483647 - 1}), Method_Put, "/brms/api/v1.1/config/time-sync",
-     R"({"enable": "1", "startTime": "", "interval": "30", "deviceOnlineTimeSync": "1", "enableNtp": "0",
-         "ntpIp": "", "ntpPort": "-1", "ntpSyncInterval": "-2147483648"})"},
-    {"SetTimeSyncConfig_fresh", "CBRMSModule::PacketSetTimeSyncConfig", SetTimeSync({}), Method_Put,
-     "/brms/api/v1.1/config/time-sync",
-     R"({"enable": "0", "startTime": "", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
-         "ntpIp": "", "ntpPort": "0", "ntpSyncInterval": "0"})"},
-    {"SetTimeSyncConfig_texts_end_at_a_zero_byte", "CBRMSModule::PacketSetTimeSyncConfig",
-     SetTimeSync({false, "a\0b"s, 0, false, false, "\0b"s, 0, 0}), Method_Put, "/brms/api/v1.1/config/time-sync",
-     R"({"enable": "0", "startTime": "a", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
-         "ntpIp": "", "ntpPort": "0", "ntpSyncInterval": "0"})"},
-    {"SetTimeSyncConfig_texts_are_utf8", "CBRMSModule::PacketSetTimeSyncConfig",
-     SetTimeSync({false, "\xC3\xBC \xE4\xB8\xAD", 0, false, false, "invalid \xFF", 0, 0}), Method_Put,
-     "/brms/api/v1.1/config/time-sync",
-     R"({"enable": "0", "startTime": "\u00fc \u4e2d", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
-         "ntpIp": "invalid \ufffd", "ntpPort": "0", "ntpSyncInterval": "0"})"},
+    kSetTimeSyncConfig(
+        "SetTimeSyncConfig", {true, "02:30:00", 7, false, true, "ntp.example", 123, 60},
+        R"({"enable": "1", "startTime": "02:30:00", "interval": "7", "deviceOnlineTimeSync": "0", "enableNtp": "1",
+         "ntpIp": "ntp.example", "ntpPort": "123", "ntpSyncInterval": "60"})"),
+    kSetTimeSyncConfig(
+        "SetTimeSyncConfig_enabled_interval_30_port_minus_1_all_texts",
+        {true, "", 30, true, false, "", -1, -2147483647 - 1},
+        R"({"enable": "1", "startTime": "", "interval": "30", "deviceOnlineTimeSync": "1", "enableNtp": "0",
+         "ntpIp": "", "ntpPort": "-1", "ntpSyncInterval": "-2147483648"})"),
+    kSetTimeSyncConfig(
+        "SetTimeSyncConfig_fresh", {},
+        R"({"enable": "0", "startTime": "", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
+         "ntpIp": "", "ntpPort": "0", "ntpSyncInterval": "0"})"),
+    kSetTimeSyncConfig(
+        "SetTimeSyncConfig_texts_end_at_a_zero_byte", {false, "a\0b"s, 0, false, false, "\0b"s, 0, 0},
+        R"({"enable": "0", "startTime": "a", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
+         "ntpIp": "", "ntpPort": "0", "ntpSyncInterval": "0"})"),
+    kSetTimeSyncConfig(
+        "SetTimeSyncConfig_texts_are_utf8", {false, "\xC3\xBC \xE4\xB8\xAD", 0, false, false, "invalid \xFF", 0, 0},
+        R"({"enable": "0", "startTime": "\u00fc \u4e2d", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
+         "ntpIp": "invalid \ufffd", "ntpPort": "0", "ntpSyncInterval": "0"})"),
     {"ImmediatelySyncTime", "CBRMSModule::PacketImmediatelySyncTime", &CBRMSModule::PacketImmediatelySyncTime,
      Method_Post, "/brms/api/v1.1/config/time-sync/immediate"},
     {"GetRemoteLogConfig", "CBRMSModule::PacketGetRemoteLogConfig", &CBRMSModule::PacketGetRemoteLogConfig, Method_Get,
      "/brms/api/v1.1/config/remote-log"},
-    {"SetRemoteLogConfig", "CBRMSModule::PacketSetRemoteLogConfig", SetRemoteLog({true, "10.0.0.9", 514, "site 1"}),
-     Method_Put, "/brms/api/v1.1/config/remote-log",
-     R"({"enable": "1", "ip": "10.0.0.9", "port": "514", "platformId": "site 1"})"},
-    {"SetRemoteLogConfig_fresh", "CBRMSModule::PacketSetRemoteLogConfig", SetRemoteLog({}), Method_Put,
-     "/brms/api/v1.1/config/remote-log", R"({"enable": "0", "ip": "", "port": "0", "platformId": ""})"},
-    {"SetRemoteLogConfig_texts_end_at_a_zero_byte", "CBRMSModule::PacketSetRemoteLogConfig",
-     SetRemoteLog({false, "10.0.0.9\0x"s, -514, "site\0x"s}), Method_Put, "/brms/api/v1.1/config/remote-log",
-     R"({"enable": "0", "ip": "10.0.0.9", "port": "-514", "platformId": "site"})"},
+    kSetRemoteLogConfig("SetRemoteLogConfig", {true, "10.0.0.9", 514, "site 1"},
+                        R"({"enable": "1", "ip": "10.0.0.9", "port": "514", "platformId": "site 1"})"),
+    kSetRemoteLogConfig("SetRemoteLogConfig_fresh", {}, R"({"enable": "0", "ip": "", "port": "0", "platformId": ""})"),
+    kSetRemoteLogConfig("SetRemoteLogConfig_texts_end_at_a_zero_byte", {false, "10.0.0.9\0x"s, -514, "site\0x"s},
+                        R"({"enable": "0", "ip": "10.0.0.9", "port": "-514", "platformId": "site"})"),
     {"GetDeviceLoginModel", "CBRMSModule::PacketGetDeviceLoginModel", &CBRMSModule::PacketGetDeviceLoginModel,
      Method_Get, "/brms/api/v1.1/config/device-login-model"},
-    {"SetDeviceLoginModel", "CBRMSModule::PacketSetDeviceLoginModel", SetLoginModel(2), Method_Put,
-     "/brms/api/v1.1/config/device-login-model", R"({"deviceLoginModel": "2"})"},
-    {"SetDeviceLoginModel_negative", "CBRMSModule::PacketSetDeviceLoginModel", SetLoginModel(-2), Method_Put,
-     "/brms/api/v1.1/config/device-login-model", R"({"deviceLoginModel": "-2"})"},
+    kSetDeviceLoginModel("SetDeviceLoginModel", 2, R"({"deviceLoginModel": "2"})"),
+    kSetDeviceLoginModel("SetDeviceLoginModel_negative", -2, R"({"deviceLoginModel": "-2"})"),
     {"GetPushAppMsgConfig", "CBRMSModule::PacketGetPushAppMsgConfig", &CBRMSModule::PacketGetPushAppMsgConfig,
      Method_Get, "/brms/api/v1.1/config/app/push-message"},
-    {"SetPushAppMsgConfig_on_is_a_text", "CBRMSModule::PacketSetPushAppMsgConfig", SetPushAppMsg(true), Method_Put,
-     "/brms/api/v1.1/config/app/push-message", R"({"enablePushMessage": "1"})"},
-    {"SetPushAppMsgConfig_off_is_a_text", "CBRMSModule::PacketSetPushAppMsgConfig", SetPushAppMsg(false), Method_Put,
-     "/brms/api/v1.1/config/app/push-message", R"({"enablePushMessage": "0"})"},
+    kSetPushAppMsgConfig("SetPushAppMsgConfig_on_is_a_text", true, R"({"enablePushMessage": "1"})"),
+    kSetPushAppMsgConfig("SetPushAppMsgConfig_off_is_a_text", false, R"({"enablePushMessage": "0"})"),
     {"GetSupportDataBaseType", "CBRMSModule::PacketGetSupportDataBaseType", &CBRMSModule::PacketGetSupportDataBaseType,
      Method_Get, "/brms/api/v1.1/config/outside-database/support/list"},
-    {"GetLocalSetting_of_type_3", "CBRMSModule::PacketGetLocalSetting", GetLocalSetting(3), Method_Get,
-     "/brms/api/v1.1/config/local/setting?settingType=3"},
-    {"GetLocalSetting_of_negative_type", "CBRMSModule::PacketGetLocalSetting", GetLocalSetting(-12), Method_Get,
-     "/brms/api/v1.1/config/local/setting?settingType=-12"},
-    {"UpdateLocalSetting_apply", "CBRMSModule::PacketUpdateLocalSetting",
-     UpdateLocalSetting(true, "{\"theme\": \"dark %1\"}\n"), Method_Put, "/brms/api/v1.1/config/local/setting",
-     R"({"apply": "1", "settingContent": "{\"theme\": \"dark %1\"}\n"})"},
-    {"UpdateLocalSetting_not_apply", "CBRMSModule::PacketUpdateLocalSetting", UpdateLocalSetting(false, ""), Method_Put,
-     "/brms/api/v1.1/config/local/setting", R"({"apply": "0", "settingContent": ""})"},
-    {"UpdateLocalSetting_content_ends_at_a_zero_byte", "CBRMSModule::PacketUpdateLocalSetting",
-     UpdateLocalSetting(false, "a\0b"s), Method_Put, "/brms/api/v1.1/config/local/setting",
-     R"({"apply": "0", "settingContent": "a"})"},
+    kGetLocalSetting("GetLocalSetting_of_type_3", 3, "3"),
+    kGetLocalSetting("GetLocalSetting_of_negative_type", -12, "-12"),
+    kUpdateLocalSetting("UpdateLocalSetting_apply", true, "{\"theme\": \"dark %1\"}\n",
+                        R"({"apply": "1", "settingContent": "{\"theme\": \"dark %1\"}\n"})"),
+    kUpdateLocalSetting("UpdateLocalSetting_not_apply", false, "", R"({"apply": "0", "settingContent": ""})"),
+    kUpdateLocalSetting("UpdateLocalSetting_content_ends_at_a_zero_byte", false, "a\0b"s,
+                        R"({"apply": "0", "settingContent": "a"})"),
     {"GetAIPrivacyConfig", "CBRMSModule::PacketGetAIPrivacyConfig", &CBRMSModule::PacketGetAIPrivacyConfig, Method_Get,
      "/brms/api/v1.1/config/ai/privacy"},
-    {"UpdateAIPrivacyConfig_on_is_a_number", "CBRMSModule::PacketUpdateAIPrivacyConfig", UpdateAIPrivacy(true),
-     Method_Put, "/brms/api/v1.1/config/ai/privacy", R"({"enable": 1})"},
-    {"UpdateAIPrivacyConfig_off_is_a_number", "CBRMSModule::PacketUpdateAIPrivacyConfig", UpdateAIPrivacy(false),
-     Method_Put, "/brms/api/v1.1/config/ai/privacy", R"({"enable": 0})"},
+    kUpdateAIPrivacyConfig("UpdateAIPrivacyConfig_on_is_a_number", true, R"({"enable": 1})"),
+    kUpdateAIPrivacyConfig("UpdateAIPrivacyConfig_off_is_a_number", false, R"({"enable": 0})"),
 };
 
 INSTANTIATE_TEST_SUITE_P(SystemConfig, PackTest, testing::ValuesIn(kPacks), RowName());

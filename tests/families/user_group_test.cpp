@@ -18,122 +18,77 @@ using APIModule::Method_Put;
 using APIModule::MoveUserGroupsParam;
 using APIModule::UserConfigUserGroups;
 
-PackRow List(const std::string& name, const std::string& keyword, const std::string& url)
-{
-    return {name, "CBRMSModule::PacketGetUserGroupList",
-            Bind<const std::string&>(&CBRMSModule::PacketGetUserGroupList, keyword), Method_Get, url};
-}
-
-PackRow Get(const std::string& name, const std::string& groupId, const std::string& url)
-{
-    return {name, "CBRMSModule::PacketGetUserGroup",
-            Bind<const std::string&>(&CBRMSModule::PacketGetUserGroup, groupId), Method_Get, url};
-}
-
-PackRow Add(const std::string& name, const AddUserGroupsParam& group, const std::string& body)
-{
-    return {name,
-            "CBRMSModule::PacketAddUserGroup",
-            Bind<const AddUserGroupsParam&>(&CBRMSModule::PacketAddUserGroup, group),
-            Method_Post,
-            "/brms/api/v1.1/user/group",
-            body};
-}
-
-PackRow Update(const std::string& name, const std::string& groupId, const AddUserGroupsParam& group,
-               const std::string& url, const std::string& body)
-{
-    return {name,
-            "CBRMSModule::PacketUpdateUserGroup",
-            Bind<const std::string&, const AddUserGroupsParam&>(&CBRMSModule::PacketUpdateUserGroup, groupId, group),
-            Method_Put,
-            url,
-            body};
-}
-
-PackRow Move(const std::string& name, const MoveUserGroupsParam& move, const std::string& body)
-{
-    return {name,
-            "CBRMSModule::PacketMoveUserGroup",
-            Bind<const MoveUserGroupsParam&>(&CBRMSModule::PacketMoveUserGroup, move),
-            Method_Post,
-            "/brms/api/v1.1/user/group/move/batch",
-            body};
-}
-
-PackRow Clear(const std::string& name, const std::string& groupId, const std::string& url)
-{
-    return {name, "CBRMSModule::PacketClearUserGroup",
-            Bind<const std::string&>(&CBRMSModule::PacketClearUserGroup, groupId), Method_Post, url};
-}
-
+const UrlPack<const std::string&> kListPack("CBRMSModule::PacketGetUserGroupList", &CBRMSModule::PacketGetUserGroupList,
+                                            Method_Get, "/brms/api/v1.1/user/group/list?keyword=");
+const UrlPack<const std::string&> kGetPack("CBRMSModule::PacketGetUserGroup", &CBRMSModule::PacketGetUserGroup,
+                                           Method_Get, "/brms/api/v1.1/user/group/");
+const BodyPack<const AddUserGroupsParam&> kAddPack("CBRMSModule::PacketAddUserGroup", &CBRMSModule::PacketAddUserGroup,
+                                                   Method_Post, "/brms/api/v1.1/user/group");
+const UrlPack<const std::string&, const AddUserGroupsParam&> kUpdate("CBRMSModule::PacketUpdateUserGroup",
+                                                                     &CBRMSModule::PacketUpdateUserGroup, Method_Put,
+                                                                     "/brms/api/v1.1/user/group/");
+const BodyPack<const MoveUserGroupsParam&> kMove("CBRMSModule::PacketMoveUserGroup", &CBRMSModule::PacketMoveUserGroup,
+                                                 Method_Post, "/brms/api/v1.1/user/group/move/batch");
+const UrlPack<const std::string&> kClear("CBRMSModule::PacketClearUserGroup", &CBRMSModule::PacketClearUserGroup,
+                                         Method_Post, "/brms/api/v1.1/user/group/");
 /// Its log texts are those of the clear call, under its own function name.
-PackRow Delete(const std::string& name, const std::vector<std::string>& groupIds, const std::string& url)
-{
-    PackRow row{name, "CBRMSModule::PacketDeleteUserGroup",
-                Bind<const std::vector<std::string>&>(&CBRMSModule::PacketDeleteUserGroup, groupIds), Method_Delete,
-                url};
-    row.failed = "PacketClearUserGroup failed.";
-    row.success = "PacketClearUserGroup success.";
-    return row;
-}
+const UrlPack<const std::vector<std::string>&> kDelete("CBRMSModule::PacketDeleteUserGroup",
+                                                       &CBRMSModule::PacketDeleteUserGroup, Method_Delete,
+                                                       "/brms/api/v1.1/user/group?ids=",
+                                                       {Server::OfCaller, "PacketClearUserGroup failed.",
+                                                        "PacketClearUserGroup success."});
 
 const PackRow kPacks[] = {
-    List("List", "night", "/brms/api/v1.1/user/group/list?keyword=night"),
-    List("List_empty_keyword_leaves_nothing_behind_the_equals_sign", "", "/brms/api/v1.1/user/group/list?keyword="),
-    List("List_keyword_with_ampersand_and_hash_is_not_escaped", "a&b#c",
-         "/brms/api/v1.1/user/group/list?keyword=a&b#c"),
-    List("List_keyword_with_space_percent_and_quote", "a %20 \"b\"",
-         "/brms/api/v1.1/user/group/list?keyword=a %20 \"b\""),
-    List("List_keyword_with_marker_stays", "%1%2b", "/brms/api/v1.1/user/group/list?keyword=%1%2b"),
-    List("List_keyword_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80",
-         "/brms/api/v1.1/user/group/list?keyword=\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
-    List("List_keyword_of_invalid_utf8_is_replaced", "a\xFF", "/brms/api/v1.1/user/group/list?keyword=a\xEF\xBF\xBD"),
-    List("List_keyword_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/user/group/list?keyword=a\0b"s),
+    kListPack("List", "night", "night"),
+    kListPack("List_empty_keyword_leaves_nothing_behind_the_equals_sign", "", ""),
+    kListPack("List_keyword_with_ampersand_and_hash_is_not_escaped", "a&b#c", "a&b#c"),
+    kListPack("List_keyword_with_space_percent_and_quote", "a %20 \"b\"", "a %20 \"b\""),
+    kListPack("List_keyword_with_marker_stays", "%1%2b", "%1%2b"),
+    kListPack("List_keyword_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
+    kListPack("List_keyword_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"),
+    kListPack("List_keyword_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
 
-    Get("Get", "g1", "/brms/api/v1.1/user/group/g1"),
-    Get("Get_empty_id", "", "/brms/api/v1.1/user/group/"),
-    Get("Get_id_is_not_escaped", "a/b?c&d#e %1", "/brms/api/v1.1/user/group/a/b?c&d#e %1"),
-    Get("Get_id_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/user/group/a\0b"s),
+    kGetPack("Get", "g1", "g1"),
+    kGetPack("Get_empty_id", "", ""),
+    kGetPack("Get_id_is_not_escaped", "a/b?c&d#e %1", "a/b?c&d#e %1"),
+    kGetPack("Get_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
 
-    Add("Add", {"Night shift", "guards"}, R"({"groupName": "Night shift", "memo": "guards"})"),
-    Add("Add_empty_memo_is_sent", {"Night shift", ""}, R"({"groupName": "Night shift", "memo": ""})"),
-    Add("Add_fresh", {}, R"({"groupName": "", "memo": ""})"),
-    Add("Add_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n\t{}"},
-        R"({"groupName": "\"a\\b\"", "memo": "%1\n\t{}"})"),
-    Add("Add_texts_are_utf8", {"\xC3\xBC \xE4\xB8\xAD", "invalid \xFF"},
-        R"({"groupName": "\u00fc \u4e2d", "memo": "invalid \ufffd"})"),
-    Add("Add_texts_go_on_behind_a_zero_byte", {"a\0b"s, "\0"s}, R"({"groupName": "a\u0000b", "memo": "\u0000"})"),
+    kAddPack("Add", {"Night shift", "guards"}, R"({"groupName": "Night shift", "memo": "guards"})"),
+    kAddPack("Add_empty_memo_is_sent", {"Night shift", ""}, R"({"groupName": "Night shift", "memo": ""})"),
+    kAddPack("Add_fresh", {}, R"({"groupName": "", "memo": ""})"),
+    kAddPack("Add_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n\t{}"},
+             R"({"groupName": "\"a\\b\"", "memo": "%1\n\t{}"})"),
+    kAddPack("Add_texts_are_utf8", {"\xC3\xBC \xE4\xB8\xAD", "invalid \xFF"},
+             R"({"groupName": "\u00fc \u4e2d", "memo": "invalid \ufffd"})"),
+    kAddPack("Add_texts_go_on_behind_a_zero_byte", {"a\0b"s, "\0"s}, R"({"groupName": "a\u0000b", "memo": "\u0000"})"),
 
-    Update("Update", "g1", {"Day shift", "staff"}, "/brms/api/v1.1/user/group/g1",
-           R"({"groupName": "Day shift", "memo": "staff"})"),
-    Update("Update_empty_texts_are_sent", "", {}, "/brms/api/v1.1/user/group/", R"({"groupName": "", "memo": ""})"),
-    Update("Update_id_is_not_escaped", "a/b&c#%1", {"n", "m"}, "/brms/api/v1.1/user/group/a/b&c#%1",
-           R"({"groupName": "n", "memo": "m"})"),
-    Update("Update_texts_go_on_behind_a_zero_byte", "g\0x"s, {"a\0b"s, "c\0d"s}, "/brms/api/v1.1/user/group/g\0x"s,
-           R"({"groupName": "a\u0000b", "memo": "c\u0000d"})"),
+    kUpdate("Update", "g1", {"Day shift", "staff"}, "g1", R"({"groupName": "Day shift", "memo": "staff"})"),
+    kUpdate("Update_empty_texts_are_sent", "", {}, "", R"({"groupName": "", "memo": ""})"),
+    kUpdate("Update_id_is_not_escaped", "a/b&c#%1", {"n", "m"}, "a/b&c#%1", R"({"groupName": "n", "memo": "m"})"),
+    kUpdate("Update_texts_go_on_behind_a_zero_byte", "g\0x"s, {"a\0b"s, "c\0d"s}, "g\0x"s,
+            R"({"groupName": "a\u0000b", "memo": "c\u0000d"})"),
 
-    Move("Move", {"g1", {"u2", "u1"}}, R"({"userIds": ["u2", "u1"], "groupId": "g1"})"),
-    Move("Move_no_users_is_an_empty_list", {"g1", {}}, R"({"userIds": [], "groupId": "g1"})"),
-    Move("Move_fresh", {}, R"({"userIds": [], "groupId": ""})"),
-    Move("Move_users_given_twice_and_empty", {"g1", {"u1", "", "u1"}},
-         R"({"userIds": ["u1", "", "u1"], "groupId": "g1"})"),
-    Move("Move_texts_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, {"c\0d"s, "\xC3\xBC", "\xFF", "\"%1\""}},
-         R"({"userIds": ["c\u0000d", "\u00fc", "\ufffd", "\"%1\""], "groupId": "a\u0000b"})"),
+    kMove("Move", {"g1", {"u2", "u1"}}, R"({"userIds": ["u2", "u1"], "groupId": "g1"})"),
+    kMove("Move_no_users_is_an_empty_list", {"g1", {}}, R"({"userIds": [], "groupId": "g1"})"),
+    kMove("Move_fresh", {}, R"({"userIds": [], "groupId": ""})"),
+    kMove("Move_users_given_twice_and_empty", {"g1", {"u1", "", "u1"}},
+          R"({"userIds": ["u1", "", "u1"], "groupId": "g1"})"),
+    kMove("Move_texts_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, {"c\0d"s, "\xC3\xBC", "\xFF", "\"%1\""}},
+          R"({"userIds": ["c\u0000d", "\u00fc", "\ufffd", "\"%1\""], "groupId": "a\u0000b"})"),
 
-    Clear("Clear", "g1", "/brms/api/v1.1/user/group/g1/clear"),
-    Clear("Clear_empty_id", "", "/brms/api/v1.1/user/group//clear"),
-    Clear("Clear_id_is_not_escaped", "a/b&c#%1", "/brms/api/v1.1/user/group/a/b&c#%1/clear"),
-    Clear("Clear_id_goes_on_behind_a_zero_byte", "a\0b"s, "/brms/api/v1.1/user/group/a\0b/clear"s),
+    kClear("Clear", "g1", "g1/clear"),
+    kClear("Clear_empty_id", "", "/clear"),
+    kClear("Clear_id_is_not_escaped", "a/b&c#%1", "a/b&c#%1/clear"),
+    kClear("Clear_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b/clear"s),
 
-    Delete("Delete_three_joined_with_commas", {"a", "b", "c"}, "/brms/api/v1.1/user/group?ids=a,b,c"),
-    Delete("Delete_one_has_no_trailing_comma", {"a"}, "/brms/api/v1.1/user/group?ids=a"),
-    Delete("Delete_none", {}, "/brms/api/v1.1/user/group?ids="),
-    Delete("Delete_empty_ids_keep_their_commas", {"", "b", ""}, "/brms/api/v1.1/user/group?ids=,b,"),
-    Delete("Delete_equal_ids", {"a", "a"}, "/brms/api/v1.1/user/group?ids=a,a"),
-    Delete("Delete_ids_are_not_escaped", {"a,b", "c&d", "%1"}, "/brms/api/v1.1/user/group?ids=a,b,c&d,%1"),
-    Delete("Delete_ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
-           "/brms/api/v1.1/user/group?ids=a\0b,\xC3\xBC\xEF\xBF\xBD"s),
+    kDelete("Delete_three_joined_with_commas", {"a", "b", "c"}, "a,b,c"),
+    kDelete("Delete_one_has_no_trailing_comma", {"a"}, "a"),
+    kDelete("Delete_none", {}, ""),
+    kDelete("Delete_empty_ids_keep_their_commas", {"", "b", ""}, ",b,"),
+    kDelete("Delete_equal_ids", {"a", "a"}, "a,a"),
+    kDelete("Delete_ids_are_not_escaped", {"a,b", "c&d", "%1"}, "a,b,c&d,%1"),
+    kDelete("Delete_ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
+            "a\0b,\xC3\xBC\xEF\xBF\xBD"s),
 };
 
 INSTANTIATE_TEST_SUITE_P(UserGroup, PackTest, testing::ValuesIn(kPacks), RowName());

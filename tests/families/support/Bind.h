@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Family.h"
 #include "Records.h"
 
 #include <functional>
+#include <string>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -12,21 +14,102 @@ namespace family_testing {
 template <typename... Parameters>
 struct Signature {
     using Pack = int (*)(void*, Parameters..., int);
+    using PackOfNoServer = int (*)(void*, Parameters...);
 };
 
-/// A Pack with its own arguments, which must come back unchanged. The parameters are given as the interface declares
-/// them: a Pack that declares others does not compile.
-template <typename... Parameters>
-std::function<int(void*, int)> Bind(typename Signature<Parameters...>::Pack pack, std::decay_t<Parameters>... arguments)
+/// Calls a Pack with its own arguments, which must come back unchanged.
+template <typename Call, typename... Arguments>
+std::function<int(void*, int)> Bound(const Call& call, Arguments... arguments)
 {
-    return [pack, given = std::make_tuple(std::move(arguments)...)](void* pReqParamData, int nServerId) {
+    return [call, given = std::make_tuple(std::move(arguments)...)](void* pReqParamData, int nServerId) {
         auto passed = given;
-        const auto call = [&](auto&... each) { return pack(pReqParamData, each..., nServerId); };
-        const int nResult = std::apply(call, passed);
+        const int nResult = std::apply([&](auto&... each) { return call(pReqParamData, nServerId, each...); }, passed);
         const auto toJson = [](const auto&... each) { return Json::array({ToJson(each)...}); };
         EXPECT_EQ(std::apply(toJson, passed), std::apply(toJson, given)) << "an argument changed";
         return nResult;
     };
 }
+
+/// The parameters are given as the interface declares them: a Pack that declares others does not compile.
+template <typename... Parameters>
+std::function<int(void*, int)> Bind(typename Signature<Parameters...>::Pack pack, std::decay_t<Parameters>... arguments)
+{
+    return Bound(
+        [pack](void* pReqParamData, int nServerId, auto&... each) { return pack(pReqParamData, each..., nServerId); },
+        std::move(arguments)...);
+}
+
+template <typename... Parameters>
+std::function<int(void*, int)> Bind(typename Signature<Parameters...>::PackOfNoServer pack,
+                                    std::decay_t<Parameters>... arguments)
+{
+    return Bound([pack](void* pReqParamData, int /*nServerId*/, auto&... each) { return pack(pReqParamData, each...); },
+                 std::move(arguments)...);
+}
+
+/// What few Packs have of their own, as in PackRow.
+struct Irregular {
+    Server server = Server::OfCaller;
+    std::string failed = {};
+    std::string success = {};
+};
+
+/// A Pack that several rows call.
+template <typename... Parameters>
+class PackOfRows {
+public:
+    template <typename Pack>
+    PackOfRows(std::string call, Pack pack, APIModule::Method method, std::string url = {}, Irregular irregular = {})
+        : m_call(std::move(call)), m_bind([pack](std::decay_t<Parameters>... arguments) {
+              return Bind<Parameters...>(pack, std::move(arguments)...);
+          }),
+          m_method(method), m_url(std::move(url)), m_irregular(std::move(irregular))
+    {}
+
+protected:
+    [[nodiscard]] PackRow Row(const std::string& name, std::decay_t<Parameters>... arguments, const std::string& inUrl,
+                              const std::string& body) const
+    {
+        return {name,
+                m_call,
+                m_bind(std::move(arguments)...),
+                m_method,
+                m_url + inUrl,
+                body,
+                m_irregular.server,
+                m_irregular.failed,
+                m_irregular.success};
+    }
+
+private:
+    std::string m_call;
+    std::function<std::function<int(void*, int)>(std::decay_t<Parameters>...)> m_bind;
+    APIModule::Method m_method;
+    std::string m_url;
+    Irregular m_irregular;
+};
+
+/// Its rows have a name, the arguments, what they add to the URL, and a body where there is one.
+template <typename... Parameters>
+class UrlPack : public PackOfRows<Parameters...> {
+public:
+    using PackOfRows<Parameters...>::PackOfRows;
+    PackRow operator()(const std::string& name, std::decay_t<Parameters>... arguments, const std::string& inUrl,
+                       const std::string& body = {}) const
+    {
+        return this->Row(name, std::move(arguments)..., inUrl, body);
+    }
+};
+
+/// Its rows have a name, the arguments and the body.
+template <typename... Parameters>
+class BodyPack : public PackOfRows<Parameters...> {
+public:
+    using PackOfRows<Parameters...>::PackOfRows;
+    PackRow operator()(const std::string& name, std::decay_t<Parameters>... arguments, const std::string& body) const
+    {
+        return this->Row(name, std::move(arguments)..., {}, body);
+    }
+};
 
 }  // namespace family_testing
