@@ -15,6 +15,7 @@ using std::chrono::steady_clock;
 
 namespace {
 
+constexpr std::size_t kLarge = 64UL * 1024 * 1024;
 constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 const std::string kGet =
     "GET /brms/api/v1.1/config/time-sync HTTP/1.1\r\nHost: a\r\nX-Subject-Token: emulator-token\r\n";
@@ -98,25 +99,19 @@ TEST_F(ReadTimeoutTest, RequestsThatComeInTimeGoOn)
 
 TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterAnAnswerThatWasReadSlowly)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Text;
-    fault.body.assign(64UL * 1024 * 1024, 'x');
-    m_platform.addFault(fault);
+    m_platform.addFault(emulator::Fault::FromJson({{"kind", "text"}, {"body", std::string(kLarge, 'x')}}));
     RawConnection connection(m_platform.httpPort());
     connection.send(kGet + "\r\n");
     EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
     std::this_thread::sleep_for(2 * kTime);
     const auto begin = steady_clock::now();
-    EXPECT_GE(connection.receiveUntil({}).size(), fault.body.size() / 2) << "the answer goes on";
+    EXPECT_GE(connection.receiveUntil({}).size(), kLarge / 2) << "the answer goes on";
     EXPECT_LT(steady_clock::now() - begin, seconds(60)) << "long before an answer that is not taken is given up";
 }
 
 TEST_F(ReadTimeoutTest, AnswerMayTakeLonger)
 {
-    emulator::Fault fault;
-    fault.delay = 3 * kTime;
-    fault.times = 2;
-    m_platform.addFault(fault);
+    m_platform.addFault(emulator::Fault::FromJson({{"kind", "delay"}, {"delayMs", (3 * kTime).count()}, {"times", 2}}));
     EXPECT_EQ(ClientOf(m_platform)->get(kTimeSync).code(), 1000);
     EXPECT_EQ(ClientOf(m_platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
 }
@@ -149,10 +144,7 @@ TEST(ManyConnectionsTest, RequestsThatHangTakeNoThread)
     emulator::PlatformEmulator platform;
     platform.start();
     const std::size_t threads = ThreadsOfThisProcess();
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Silent;
-    fault.times = static_cast<int>(kHanging);
-    platform.addFault(fault);
+    platform.addFault(emulator::Fault::FromJson({{"kind", "silent"}, {"times", static_cast<int>(kHanging)}}));
     std::list<RawConnection> hanging;
     for (std::size_t i = 0; i < kHanging; ++i) {
         hanging.emplace_back(platform.httpPort()).send(kGet + "\r\n");
@@ -170,9 +162,7 @@ TEST(ConnectionTest, RequestsBehindOneThatWaitsAreAnsweredAfterIt)
 {
     emulator::PlatformEmulator platform;
     platform.start();
-    emulator::Fault fault;
-    fault.delay = milliseconds(200);
-    platform.addFault(fault);
+    platform.addFault(emulator::Fault::FromJson({{"kind", "delay"}, {"delayMs", 200}}));
     const std::string replies = SendRaw(platform.httpPort(), kGet + "\r\n" + kGet + "Connection: close\r\n\r\n");
     EXPECT_NE(replies.find("\"code\":1000", replies.find("\"code\":1000") + 1), std::string::npos) << replies;
     EXPECT_EQ(platform.requests().size(), 2U);
@@ -182,9 +172,7 @@ TEST(ConnectionTest, EndOfTheOwnSideEndsTheWaitForAnAnswer)
 {
     emulator::PlatformEmulator platform;
     platform.start();
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Silent;
-    platform.addFault(fault);
+    platform.addFault(emulator::Fault::FromJson({{"kind", "silent"}}));
     EXPECT_EQ(SendRaw(platform.httpPort(), kGet + "\r\n", true), "");
     EXPECT_EQ(platform.requests().size(), 1U);
     EXPECT_EQ(platform.requests().front().status, 0);
@@ -201,9 +189,7 @@ TEST(ConnectionTest, ResetFaultResetsTheConnection)
     EXPECT_TRUE(connection.isReset());
     EXPECT_EQ(platform.requests().back().status, 0);
 
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::CloseBefore;
-    platform.addFault(fault);
+    platform.addFault(emulator::Fault::FromJson({{"kind", "closeBefore"}}));
     RawConnection other(platform.httpPort());
     other.send(kGet + "\r\n");
     EXPECT_EQ(other.receiveUntil({}), "");
@@ -215,9 +201,7 @@ TEST(ConnectionTest, HalfAnAnswerIsHalfOfTheBodyUnderItsWholeLength)
     emulator::PlatformEmulator platform;
     platform.start();
     const std::string whole = ClientOf(platform)->get(kTimeSync).body;
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::CloseMiddle;
-    platform.addFault(fault);
+    platform.addFault(emulator::Fault::FromJson({{"kind", "closeMiddle"}}));
     RawConnection connection(platform.httpPort());
     connection.send(kGet + "\r\n");
     const std::string reply = connection.receiveUntil({});
@@ -230,16 +214,13 @@ TEST(ConnectionTest, StopsWhileAClientDoesNotReadItsAnswer)
 {
     emulator::PlatformEmulator platform;
     platform.start();
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Text;
-    fault.body.assign(64UL * 1024 * 1024, 'x');
-    platform.addFault(fault);
+    platform.addFault(emulator::Fault::FromJson({{"kind", "text"}, {"body", std::string(kLarge, 'x')}}));
     RawConnection connection(platform.httpPort());
     connection.send(kGet + "\r\n");
     EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000) << "others are served meanwhile";
     platform.stop();
-    EXPECT_LT(connection.receiveUntil({}).size(), fault.body.size());
+    EXPECT_LT(connection.receiveUntil({}).size(), kLarge);
 }
 
 struct NoPort {

@@ -242,11 +242,7 @@ TEST_F(HttpTest, RecordsNoTrailerAmongTheHeaders)
 
 TEST_F(HttpTest, RecordsAnAbsoluteTargetAsItCameAndServesItsPath)
 {
-    emulator::Fault fault;
-    fault.path = kPath + "?a=";
-    fault.kind = emulator::Fault::Kind::Envelope;
-    fault.code = 7;
-    m_platform.addFault(fault);
+    m_platform.addFault(emulator::Fault::FromJson({{"kind", "envelope"}, {"path", kPath + "?a="}, {"code", 7}}));
     const std::string target = "http://127.0.0.1:80" + kPath + "?a=b";
     reply("GET " + target + " HTTP/1.1\r\nHost: a\r\nConnection: close\r\n\r\n");
     ASSERT_EQ(m_platform.requests().size(), 1U);
@@ -370,12 +366,8 @@ TEST_F(HttpTest, HeadersOfAFaultReplaceThoseOfTheServer)
 
 TEST_F(HttpTest, LengthThatAFaultGivesIsSentAndTheConnectionClosed)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Status;
-    fault.status = 200;
-    fault.headers = {{"Content-Length", "9"}};
-    fault.body = "text";
-    m_platform.addFault(fault);
+    m_platform.addFault(emulator::Fault::FromJson(
+        {{"kind", "status"}, {"status", 200}, {"headers", {{"Content-Length", "9"}}}, {"body", "text"}}));
     const std::string answer = reply(kGet + "\r\n");
     EXPECT_EQ(Count(answer, "Content-Length"), 1U) << answer;
     EXPECT_NE(answer.find("Content-Length: 9\r\n"), std::string::npos) << answer;

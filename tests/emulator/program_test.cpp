@@ -1,16 +1,12 @@
 #include "PlatformEmulator.h"
 #include "TestClient.h"
 
-#include <fcntl.h>
+#include <support/Program.h>
+
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <spawn.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -25,102 +21,28 @@ namespace {
 
 constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 constexpr const char* kToken = "a-secret-token";
-constexpr int kLongMilliseconds = 60'000;
 
-/// The program with its output and its error output in one pipe.
-class Program {
+QStringList Words(const std::vector<std::string>& words)
+{
+    QStringList list;
+    for (const std::string& word : words) {
+        list.append(QString::fromStdString(word));
+    }
+    return list;
+}
+
+/// platform-emulator.
+class Program : public testing_support::RunningProgram {
 public:
-    explicit Program(std::vector<std::string> arguments)
-    {
-        arguments.insert(arguments.begin(), EMULATOR_PROGRAM);
-        std::vector<char*> argv;
-        argv.reserve(arguments.size() + 1);
-        for (std::string& argument : arguments) {
-            argv.push_back(argument.data());
-        }
-        argv.push_back(nullptr);
-        std::array<int, 2> ends{};
-        EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
-        posix_spawn_file_actions_t actions{};
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
-        posix_spawn_file_actions_adddup2(&actions, ends[1], STDERR_FILENO);
-        EXPECT_EQ(::posix_spawn(&m_process, EMULATOR_PROGRAM, &actions, nullptr, argv.data(), environ), 0);
-        posix_spawn_file_actions_destroy(&actions);
-        ::close(ends[1]);
-        m_output = ends[0];
-    }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-    Program(Program&&) = delete;
-    Program& operator=(Program&&) = delete;
-    ~Program()
-    {
-        if (!m_ended) {
-            ::kill(m_process, SIGKILL);
-            ::waitpid(m_process, nullptr, 0);
-        }
-        ::close(m_output);
-    }
+    explicit Program(const std::vector<std::string>& arguments)
+        : RunningProgram(QStringLiteral(EMULATOR_PROGRAM), Words(arguments))
+    {}
 
-    /// Reads until the text is there or the program ends.
-    bool waitFor(const std::string& text)
+    [[nodiscard]] std::size_t Threads() const
     {
-        while (m_read.find(text) == std::string::npos) {
-            if (!readSome()) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    /// The port of the line that begins with the scheme.
-    int port(const std::string& scheme)
-    {
-        const std::string start = scheme + " 127.0.0.1:";
-        EXPECT_TRUE(waitFor(start)) << m_read;
-        EXPECT_TRUE(waitFor("https 127.0.0.1:")) << m_read;
-        while (m_read.back() != '\n' && readSome()) {
-        }
-        const std::size_t at = m_read.find(start);
-        return at == std::string::npos ? 0 : std::stoi(m_read.substr(at + start.size()));
-    }
-
-    void signal(int number) const { ::kill(m_process, number); }
-
-    [[nodiscard]] std::size_t threads() const
-    {
-        const std::filesystem::directory_iterator all("/proc/" + std::to_string(m_process) + "/task");
+        const std::filesystem::directory_iterator all("/proc/" + std::to_string(ProcessId()) + "/task");
         return static_cast<std::size_t>(std::distance(begin(all), end(all)));
     }
-
-    /// The exit status; -1 when the program was ended by a signal or does not end.
-    int exitStatus()
-    {
-        while (readSome()) {
-        }
-        int status = 0;
-        m_ended = ::waitpid(m_process, &status, 0) == m_process;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
-    [[nodiscard]] const std::string& output() const { return m_read; }
-
-private:
-    bool readSome()
-    {
-        pollfd readable{m_output, POLLIN, 0};
-        std::array<char, 4096> buffer{};
-        const ssize_t count =
-            ::poll(&readable, 1, kLongMilliseconds) > 0 ? ::read(m_output, buffer.data(), buffer.size()) : 0;
-        m_read.append(buffer.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
-        return count > 0;
-    }
-
-    pid_t m_process = 0;
-    int m_output = -1;
-    bool m_ended = false;
-    std::string m_read;
 };
 
 struct BadOption {
@@ -141,8 +63,8 @@ class BadOptionTest : public testing::TestWithParam<BadOption> {};
 TEST_P(BadOptionTest, IsNamedAndEndsWithStatus2)
 {
     Program program(GetParam().arguments);
-    EXPECT_EQ(program.exitStatus(), 2);
-    EXPECT_NE(program.output().find(GetParam().message), std::string::npos) << program.output();
+    EXPECT_EQ(program.ExitStatus(), 2);
+    EXPECT_NE(program.Output().find(GetParam().message), std::string::npos) << program.Output();
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -165,58 +87,58 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ProgramTest, HelpAndVersion)
 {
     Program help({"--help"});
-    EXPECT_EQ(help.exitStatus(), 0);
+    EXPECT_EQ(help.ExitStatus(), 0);
     for (const char* text : {"platform-emulator", "--http-port", "--https-port", "--token", "--seed", "--contract",
                              "--scale", "--address", "--no-control", "--read-timeout", "--verbose"}) {
-        EXPECT_NE(help.output().find(text), std::string::npos) << text;
+        EXPECT_NE(help.Output().find(text), std::string::npos) << text;
     }
     Program version({"--version"});
-    EXPECT_EQ(version.exitStatus(), 0);
-    EXPECT_EQ(version.output().find("platform-emulator "), 0U) << version.output();
+    EXPECT_EQ(version.ExitStatus(), 0);
+    EXPECT_EQ(version.Output().find("platform-emulator "), 0U) << version.Output();
 }
 
 TEST(ProgramTest, PrintsItsPortsAndServesThem)
 {
     Program program({"--token", kToken, "--verbose"});
-    TestClient plain(TestClient::Scheme::Http, program.port("http"), kToken);
-    TestClient secure(TestClient::Scheme::Https, program.port("https"), kToken);
+    TestClient plain(TestClient::Scheme::Http, program.Port("http"), kToken);
+    TestClient secure(TestClient::Scheme::Https, program.Port("https"), kToken);
     EXPECT_EQ(plain.get(kTimeSync).code(), 1000);
     EXPECT_EQ(secure.get(std::string(kTimeSync) + "?x=" + kToken).code(), 1003);
-    EXPECT_TRUE(program.waitFor("-> 200 1003"));
-    program.signal(SIGTERM);
-    EXPECT_EQ(program.exitStatus(), 0) << program.output();
-    EXPECT_NE(program.output().find("GET /brms/api/v1.1/config/time-sync -> 200 1000"), std::string::npos)
-        << program.output();
-    EXPECT_EQ(program.output().find(kToken), std::string::npos) << program.output();
+    EXPECT_TRUE(program.WaitFor("-> 200 1003"));
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
+    EXPECT_NE(program.Output().find("GET /brms/api/v1.1/config/time-sync -> 200 1000"), std::string::npos)
+        << program.Output();
+    EXPECT_EQ(program.Output().find(kToken), std::string::npos) << program.Output();
 }
 
 TEST(ProgramTest, IsQuietUnlessVerbose)
 {
     Program program({});
-    TestClient client(TestClient::Scheme::Http, program.port("http"), emulator::kDefaultToken);
+    TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
     EXPECT_EQ(client.get(kTimeSync).code(), 1000);
-    program.signal(SIGTERM);
-    EXPECT_EQ(program.exitStatus(), 0);
-    EXPECT_EQ(std::count(program.output().begin(), program.output().end(), '\n'), 2) << program.output();
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.ExitStatus(), 0);
+    EXPECT_EQ(std::count(program.Output().begin(), program.Output().end(), '\n'), 2) << program.Output();
 }
 
 TEST(ProgramTest, SecondOneOnTheSamePortIsRefused)
 {
     Program first({});
-    const std::string port = std::to_string(first.port("http"));
+    const std::string port = std::to_string(first.Port("http"));
     Program second({"--http-port", port});
-    EXPECT_EQ(second.exitStatus(), 2);
-    EXPECT_NE(second.output().find("cannot listen on 127.0.0.1:" + port + ": the port is taken"), std::string::npos)
-        << second.output();
-    first.signal(SIGINT);
-    EXPECT_EQ(first.exitStatus(), 0);
+    EXPECT_EQ(second.ExitStatus(), 2);
+    EXPECT_NE(second.Output().find("cannot listen on 127.0.0.1:" + port + ": the port is taken"), std::string::npos)
+        << second.Output();
+    first.Signal(SIGINT);
+    EXPECT_EQ(first.ExitStatus(), 0);
 }
 
 TEST(ProgramTest, ClosesIdleConnectionsAfterTheReadTimeout)
 {
     Program program({"--read-timeout", "1"});
     const auto begin = std::chrono::steady_clock::now();
-    EXPECT_EQ(SendRaw(program.port("http"), "GET / HTTP/1.1\r\n"), "");
+    EXPECT_EQ(SendRaw(program.Port("http"), "GET / HTTP/1.1\r\n"), "");
     EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
@@ -230,7 +152,7 @@ TEST(ProgramTest, TakesAThousandConnectionsWithoutAThreadForEach)
     few.rlim_cur = 256;
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
     Program program({});
-    const int port = program.port("http");
+    const int port = program.Port("http");
     files.rlim_cur = files.rlim_max;
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &files), 0);
     std::list<RawConnection> idle;
@@ -239,17 +161,17 @@ TEST(ProgramTest, TakesAThousandConnectionsWithoutAThreadForEach)
     }
     TestClient client(TestClient::Scheme::Http, port, "");
     EXPECT_EQ(client.get("/emulator/v1/connections").json().at("connections"), kConnections + 1);
-    EXPECT_LE(program.threads(), kMostThreads);
-    program.signal(SIGTERM);
-    EXPECT_EQ(program.exitStatus(), 0) << program.output();
+    EXPECT_LE(program.Threads(), kMostThreads);
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
 }
 
 TEST(ProgramTest, ListensOnIpv6)
 {
     Program program({"--address", "::1"});
-    EXPECT_TRUE(program.waitFor("https [::1]:")) << program.output();
-    program.signal(SIGTERM);
-    EXPECT_EQ(program.exitStatus(), 0) << program.output();
+    EXPECT_TRUE(program.WaitFor("https [::1]:")) << program.Output();
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
 }
 
 class SignalTest : public testing::TestWithParam<int> {};
@@ -257,7 +179,7 @@ class SignalTest : public testing::TestWithParam<int> {};
 TEST_P(SignalTest, EndsCleanlyWhileRequestsHang)
 {
     Program program({});
-    const int port = program.port("http");
+    const int port = program.Port("http");
     TestClient control(TestClient::Scheme::Http, port, "");
     ASSERT_EQ(control.post("/emulator/v1/faults", Json{{"kind", "silent"}}).status, 201);
     std::future<Answer> hanging = std::async(std::launch::async, [port] {
@@ -266,8 +188,8 @@ TEST_P(SignalTest, EndsCleanlyWhileRequestsHang)
     while (control.get("/emulator/v1/requests").json().empty()) {
         std::this_thread::yield();
     }
-    program.signal(GetParam());
-    EXPECT_EQ(program.exitStatus(), 0) << program.output();
+    program.Signal(GetParam());
+    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
     EXPECT_FALSE(hanging.get().arrived);
 }
 
@@ -283,10 +205,10 @@ TEST(ProgramTest, EditedSeedsAreServed)
     std::filesystem::copy(emulator::Options().seed, folder, std::filesystem::copy_options::overwrite_existing);
     std::ofstream(folder / "omms.json") << R"({"alertTypes": [{"alertTypeId": "a", "alertTypeName": "b"}]})";
     Program program({"--seed", folder});
-    TestClient client(TestClient::Scheme::Http, program.port("http"), emulator::kDefaultToken);
+    TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
     EXPECT_EQ(client.get("/omms/api/v1.1/alert/rule/alert-type/list").data(),
               Json::parse(R"({"results": [{"alertTypeId": "a", "alertTypeName": "b"}]})"));
-    program.signal(SIGTERM);
-    EXPECT_EQ(program.exitStatus(), 0) << program.output();
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
     std::filesystem::remove_all(folder);
 }

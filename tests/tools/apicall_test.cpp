@@ -1,4 +1,5 @@
 // apicall as a process against the emulator.
+#include "support/Program.h"
 #include "support/RawServer.h"
 #include "support/Rows.h"
 
@@ -11,7 +12,6 @@
 #include <nlohmann/json.hpp>
 
 #include <QCryptographicHash>
-#include <QProcess>
 #include <QSslError>
 #include <QTcpServer>
 #include <QTemporaryFile>
@@ -22,39 +22,24 @@
 #include <sstream>
 
 using nlohmann::json;
+using testing_support::Ended;
 using testing_support::RowName;
+using testing_support::RunProgram;
 
 namespace {
 
 constexpr const char* kToken = "token-that-nobody-prints";
 
-struct Ended {
-    int status = -1;
-    std::string out;
-    std::string err;
-};
-
 /// Runs apicall as a shell without a display does.
 Ended Apicall(const QStringList& arguments, const QByteArray& input = {}, const QString& tokenInEnvironment = {})
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "APICALL_TOKEN"}) {
-        environment.remove(QString::fromLatin1(display));
+    testing_support::Variables variables{{QStringLiteral("APICALL_TOKEN"), tokenInEnvironment}};
+    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        variables[QString::fromLatin1(display)] = QString();
     }
-    if (!tokenInEnvironment.isEmpty()) {
-        environment.insert(QStringLiteral("APICALL_TOKEN"), tokenInEnvironment);
-    }
-
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(APICALL_FILE), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    constexpr int kMilliseconds = 60000;
-    EXPECT_TRUE(process.waitForFinished(kMilliseconds)) << process.errorString().toStdString();
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-            process.readAllStandardError().toStdString()};
+    Ended ended = RunProgram(QStringLiteral(APICALL_FILE), arguments, variables, input);
+    EXPECT_FALSE(ended.crashed);
+    return ended;
 }
 
 bool Contains(const std::string& text, const std::string& part)
@@ -299,10 +284,10 @@ protected:
 
     emulator::PlatformEmulator& Platform() { return m_platform; }
 
-    void Spoil(emulator::Fault fault)
+    void Spoil(json fault)
     {
-        fault.path = "/brms";
-        m_platform.addFault(std::move(fault));
+        fault["path"] = "/brms";
+        m_platform.addFault(emulator::Fault::FromJson(fault));
     }
 
 private:
@@ -417,63 +402,43 @@ TEST_P(Calls, AWrongTokenFails)
 
 TEST_P(Calls, AnEnvelopeCodeFailsWithItsText)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Envelope;
-    fault.code = 1003;
-    Spoil(fault);
+    Spoil({{"kind", "envelope"}, {"code", 1003}});
     ExpectFailure(GetTimeSync(), 1003, ErrorText(1003));
 }
 
 TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Envelope;
-    fault.code = 987654;
-    Spoil(fault);
+    Spoil({{"kind", "envelope"}, {"code", 987654}});
     ExpectFailure(GetTimeSync(), 987654, "Operation failed");
 }
 
 TEST_P(Calls, AnEnvelopeWithCode0IsNoSuccess)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Envelope;
-    fault.code = 0;
-    Spoil(fault);
+    Spoil({{"kind", "envelope"}, {"code", 0}});
     ExpectFailure(GetTimeSync(), 0, "the reply was not confirmed");
 }
 
 TEST_P(Calls, AStatusFailsWithItsText)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Status;
-    fault.status = 503;
-    Spoil(fault);
+    Spoil({{"kind", "status"}, {"status", 503}});
     ExpectFailure(GetTimeSync(), 503, ErrorText(503));
 }
 
 TEST_P(Calls, DataThatCannotBeReadFails)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Text;
-    fault.body = R"({"code": 1000, "desc": "", "data": {"enable": true}})";
-    Spoil(fault);
+    Spoil({{"kind", "text"}, {"body", R"({"code": 1000, "desc": "", "data": {"enable": true}})"}});
     ExpectFailure(GetTimeSync(), -1, ErrorText(3101));
 }
 
 TEST_P(Calls, AnAnswerThatDoesNotComeFailsInTime)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::Silent;
-    Spoil(fault);
+    Spoil({{"kind", "silent"}});
     ExpectFailure(Words({"--timeout", "1", "BRMS.GetTimeSyncConfig"}), -1, ErrorText(-101));
 }
 
 TEST_P(Calls, TheTextIsInTheLanguageAskedFor)
 {
-    emulator::Fault fault;
-    fault.kind = emulator::Fault::Kind::CloseBefore;
-    fault.times = 0;
-    Spoil(fault);
+    Spoil({{"kind", "closeBefore"}, {"times", 0}});
     const std::string german = ErrorText(-18, "de");
     EXPECT_NE(german, ErrorText(-18));
     ExpectFailure(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}), -1, german);

@@ -1,17 +1,19 @@
 // What apicall and platform-emulator say in the language of their environment.
+#include "support/Program.h"
 #include "support/Rows.h"
 
 #include <catalogue/Call.h>
 
 #include <QFileInfo>
-#include <QProcess>
 #include <QTranslator>
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
+using testing_support::Ended;
 using testing_support::RowName;
+using testing_support::RunProgram;
 
 namespace {
 
@@ -82,29 +84,16 @@ struct Environment {
     Texts texts;
 };
 
-struct Ended {
-    int status;
-    std::string out;
-    std::string err;
-};
-
 class Programs : public testing::TestWithParam<Environment> {
 protected:
     static Ended Run(const char* program, const QStringList& arguments)
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        testing_support::Variables variables;
         for (const char* variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
-            environment.remove(QLatin1String(variable));
+            variables[QLatin1String(variable)] = QString();
         }
-        environment.insert(QLatin1String(GetParam().variable), QLatin1String(GetParam().value));
-
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(QString::fromUtf8(program), arguments);
-        constexpr int kMilliseconds = 60000;
-        EXPECT_TRUE(process.waitForFinished(kMilliseconds)) << process.errorString().toStdString();
-        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-                process.readAllStandardError().toStdString()};
+        variables[QLatin1String(GetParam().variable)] = QLatin1String(GetParam().value);
+        return RunProgram(QString::fromUtf8(program), arguments, variables);
     }
 
     static Ended Apicall(const QStringList& arguments) { return Run(APICALL_FILE, arguments); }

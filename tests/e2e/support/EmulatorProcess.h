@@ -1,11 +1,11 @@
 #pragma once
 
+#include "support/Program.h"
+
 #include <TestClient.h>
 
-#include <QProcess>
 #include <QStringList>
 
-#include <memory>
 #include <string>
 
 namespace e2e {
@@ -14,32 +14,23 @@ namespace e2e {
 class EmulatorProcess {
 public:
     /// Starts it and waits until it listens.
-    /// @throws std::runtime_error when it does not
     explicit EmulatorProcess(const QStringList& arguments);
-    ~EmulatorProcess();
-    EmulatorProcess(const EmulatorProcess&) = delete;
-    EmulatorProcess& operator=(const EmulatorProcess&) = delete;
-    EmulatorProcess(EmulatorProcess&&) = delete;
-    EmulatorProcess& operator=(EmulatorProcess&&) = delete;
 
     [[nodiscard]] int HttpPort() const { return m_httpPort; }
     [[nodiscard]] int HttpsPort() const { return m_httpsPort; }
 
     /// For its control path.
-    TestClient& Control() { return *m_control; }
+    TestClient& Control() { return m_control; }
 
     /// Ends it.
     /// @return all that it printed
     std::string End();
 
 private:
-    int ReadPort(const QByteArray& scheme);
-
-    QProcess m_process;
-    QByteArray m_printed;
-    int m_httpPort = 0;
-    int m_httpsPort = 0;
-    std::unique_ptr<TestClient> m_control;
+    testing_support::RunningProgram m_program;
+    const int m_httpPort;
+    const int m_httpsPort;
+    TestClient m_control;
 };
 
 }  // namespace e2e

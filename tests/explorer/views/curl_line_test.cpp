@@ -1,11 +1,9 @@
 // The curl command of a call sends the request that the library sends.
 #include "e2e/rows/Rows.h"
 #include "e2e/support/EndToEnd.h"
+#include "support/Program.h"
 
 #include <explorer/views/CurlLine.h>
-
-#include <QProcess>
-#include <QProcessEnvironment>
 
 #include <gtest/gtest.h>
 
@@ -15,24 +13,13 @@ namespace e2e {
 namespace {
 
 using emulator::RecordedRequest;
-
-struct Ended {
-    int status;
-    Json output;
-    std::string errors;
-};
+using testing_support::Ended;
 
 /// Runs the command as a user with the token in the environment does.
 Ended RunInShell(const QString& command)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TOKEN"), QString::fromLatin1(emulator::kDefaultToken));
-    QProcess shell;
-    shell.setProcessEnvironment(environment);
-    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
-    EXPECT_TRUE(shell.waitForFinished()) << shell.errorString().toStdString();
-    return {shell.exitCode(), Json::parse(shell.readAllStandardOutput().toStdString(), nullptr, false),
-            shell.readAllStandardError().toStdString()};
+    return testing_support::RunProgram(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command},
+                                       {{QStringLiteral("TOKEN"), QString::fromLatin1(emulator::kDefaultToken)}});
 }
 
 /// The server adds the addresses of both ends to the headers that came.
@@ -95,8 +82,8 @@ protected:
         Platform().reset();
         Platform().clearRequests();
         const Ended ended = RunInShell(command);
-        EXPECT_EQ(ended.status, 0) << ended.errors << "\n" << command.toStdString();
-        EXPECT_TRUE(ended.output.contains("code")) << ended.output;
+        EXPECT_EQ(ended.status, 0) << ended.err << "\n" << command.toStdString();
+        EXPECT_TRUE(Json::parse(ended.out, nullptr, false).contains("code")) << ended.out;
 
         const std::vector<RecordedRequest> requests = Platform().requests();
         ASSERT_EQ(requests.size(), 1U) << command.toStdString();
