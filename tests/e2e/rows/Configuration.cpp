@@ -11,62 +11,35 @@ std::vector<Row> SystemConfigRows()
     const Json remoteLog = R"({"enable": false, "ip": "10.9.8.7", "port": 1514, "platformId": "Süd & Co #2"})"_json;
     const Json readSetting = {{"settingType", 3}};
     return {
-        {"BRMS.SetTimeSyncConfig",
-         "",
-         {{"config", timeSync}},
-         {},
-         {ReadBack("BRMS.GetTimeSyncConfig", {}, timeSync), Held("/brms/timeSync", timeSync)}},
-        {"BRMS.SetTimeSyncConfig",
-         "WithNtp",
-         {{"config", withNtp}},
-         {},
-         {ReadBack("BRMS.GetTimeSyncConfig", {}, withNtp), Held("/brms/timeSync", withNtp)}},
-        {"BRMS.ImmediatelySyncTime", "", {}, {}, {Accepted("BRMS.ImmediatelySyncTime", Json::object(), {})}},
-        {"BRMS.SetRemoteLogConfig",
-         "",
-         {{"config", remoteLog}},
-         {},
-         {ReadBack("BRMS.GetRemoteLogConfig", {}, remoteLog), Held("/brms/remoteLog", remoteLog)}},
-        {"BRMS.SetDeviceLoginModel",
-         "",
-         {{"model", 2}},
-         {},
-         {ReadBack("BRMS.GetDeviceLoginModel", {}, 2), Held("/brms/deviceLoginModel/deviceLoginModel", 2)}},
-        {"BRMS.GetPushAppMsgConfig",
-         "",
-         {},
-         At("/brms/pushMessage/enablePushMessage"),
-         {},
-         {{"/brms/pushMessage/enablePushMessage", true}}},
-        {"BRMS.SetPushAppMsgConfig",
-         "",
-         {{"enable", true}},
-         {},
-         {ReadBack("BRMS.GetPushAppMsgConfig", {}, true), Held("/brms/pushMessage/enablePushMessage", true)}},
-        {"BRMS.GetSupportDataBaseType",
-         "",
-         {},
-         [](const Json& state) {
-             return Each(state.at("brms").at("databaseTypes").at("databaseTypes"),
-                         [](const Json& type) { return std::stoi(type.get<std::string>()); });
-         }},
-        {"BRMS.GetLocalSetting", "", readSetting, At("/brms/localSettings/3")},
+        Writes("BRMS.SetTimeSyncConfig", {{"config", timeSync}},
+               {ReadBack("BRMS.GetTimeSyncConfig", {}, timeSync), Held("/brms/timeSync", timeSync)}),
+        Writes("BRMS.SetTimeSyncConfig WithNtp", {{"config", withNtp}},
+               {ReadBack("BRMS.GetTimeSyncConfig", {}, withNtp), Held("/brms/timeSync", withNtp)}),
+        Writes("BRMS.ImmediatelySyncTime", {}, {Accepted("BRMS.ImmediatelySyncTime", Json::object(), {})}),
+        Writes("BRMS.SetRemoteLogConfig", {{"config", remoteLog}},
+               {ReadBack("BRMS.GetRemoteLogConfig", {}, remoteLog), Held("/brms/remoteLog", remoteLog)}),
+        Writes("BRMS.SetDeviceLoginModel", {{"model", 2}},
+               {ReadBack("BRMS.GetDeviceLoginModel", {}, 2), Held("/brms/deviceLoginModel/deviceLoginModel", 2)}),
+        Reads("BRMS.GetPushAppMsgConfig", {}, At("/brms/pushMessage/enablePushMessage"),
+              {{"/brms/pushMessage/enablePushMessage", true}}),
+        Writes("BRMS.SetPushAppMsgConfig", {{"enable", true}},
+               {ReadBack("BRMS.GetPushAppMsgConfig", {}, true), Held("/brms/pushMessage/enablePushMessage", true)}),
+        Reads("BRMS.GetSupportDataBaseType", {},
+              [](const Json& state) {
+                  return Each(state.at("brms").at("databaseTypes").at("databaseTypes"),
+                              [](const Json& type) { return std::stoi(type.get<std::string>()); });
+              }),
+        Reads("BRMS.GetLocalSetting", readSetting, At("/brms/localSettings/3")),
         // The setting that the trace has just read is the one that is written, with a version of its own.
-        {"BRMS.UpdateLocalSetting",
-         "",
-         {{"apply", false}, {"content", "<layout name=\"Halle\"/>"}},
-         {},
-         {ReadBack("BRMS.GetLocalSetting", readSetting,
-                   {{"apply", false},
-                    {"settingType", 3},
-                    {"settingVersion", 13},
-                    {"settingContent", "<layout name=\"Halle\"/>"}})}},
-        {"BRMS.GetAIPrivacyConfig", "", {}, At("/brms/aiPrivacy/enable"), {}, {{"/brms/aiPrivacy/enable", 1}}},
-        {"BRMS.UpdateAIPrivacyConfig",
-         "",
-         {{"enable", true}},
-         {},
-         {ReadBack("BRMS.GetAIPrivacyConfig", {}, 1), Held("/brms/aiPrivacy/enable", 1)}},
+        Writes("BRMS.UpdateLocalSetting", {{"apply", false}, {"content", "<layout name=\"Halle\"/>"}},
+               {ReadBack("BRMS.GetLocalSetting", readSetting,
+                         {{"apply", false},
+                          {"settingType", 3},
+                          {"settingVersion", 13},
+                          {"settingContent", "<layout name=\"Halle\"/>"}})}),
+        Reads("BRMS.GetAIPrivacyConfig", {}, At("/brms/aiPrivacy/enable"), {{"/brms/aiPrivacy/enable", 1}}),
+        Writes("BRMS.UpdateAIPrivacyConfig", {{"enable", true}},
+               {ReadBack("BRMS.GetAIPrivacyConfig", {}, 1), Held("/brms/aiPrivacy/enable", 1)}),
     };
 }
 
@@ -91,64 +64,47 @@ std::vector<Row> DeviceConfigRows()
         {"multicastIp": "239.255.2.1", "multicastPort": "40000", "streamType": 1, "status": true},
         {"multicastIp": "239.255.2.2", "multicastPort": "40002", "streamType": 3, "status": false}]})"_json;
     return {
-        {"BRMS.GetNetworkConfig",
-         "",
-         {{"deviceCode", "1000002"}},
-         [](const Json& state) {
-             return With(state.at("brms").at("network").at("1000002"), {{"deviceCode", ""}});
-         }},
-        {"BRMS.GetNetworkConfig",
-         "OfADeviceWithoutItsOwn",
-         {{"deviceCode", "1000051"}},
-         [](const Json& state) {
-             return With(state.at("brms").at("network").at("*"), {{"deviceCode", ""}});
-         }},
-        {"BRMS.UpdateNetworkConfig",
-         "",
-         {{"config", With(network, {{"deviceCode", "1000001"}})}},
-         {},
-         {ReadBack("BRMS.GetNetworkConfig", {{"deviceCode", "1000001"}}, With(network, {{"deviceCode", ""}})),
-          Held("/brms/network/1000001", network)}},
-        {"BRMS.GetEncodeConfig", "", yard,
-         [](const Json& state) {
-             return Each(state.at("brms").at("encode").at("1000002$1$0$0").at("encodeConfigurations"), WithoutChannel);
-         }},
-        {"BRMS.UpdateEncodeConfig",
-         "",
-         With(yard, {{"configs", encode}}),
-         {},
-         {ReadBack("BRMS.GetEncodeConfig", yard, Each(encode, WithoutChannel)),
-          Held("/brms/encode/1000002$1$0$0/encodeConfigurations", encode)}},
-        {"BRMS.GetEncodeCapability", "", With(gate, {{"streamType", 1}}),
-         [](const Json& state) {
-             Json capability = state.at("brms").at("encodeCapability").at("*").at("1");
-             capability["supportCompressions"] = Each(capability.at("supportCompressions"), [](const Json& code) {
-                 return std::stoi(code.get<std::string>());
-             });
-             return capability;
-         }},
-        {"BRMS.GetImageConfig", "", yard,
-         [](const Json& state) { return WithoutChannel(state.at("brms").at("image").at("1000002$1$0$0")); }},
-        {"BRMS.UpdateImageConfig",
-         "",
-         {{"config", With(image, yard)}},
-         {},
-         {ReadBack("BRMS.GetImageConfig", yard, WithoutChannel(image)), Held("/brms/image/1000002$1$0$0", image)}},
-        {"BRMS.GetMultiCastConfig", "", gate,
-         [](const Json& state) { return WithoutChannel(state.at("brms").at("multicast").at("1000001$1$0$0")); }},
-        {"BRMS.SetMultiCastConfig",
-         "",
-         {{"info", With(multicast, yard)}},
-         {},
-         {ReadBack("BRMS.GetMultiCastConfig", yard, WithoutChannel(multicast)),
-          Held("/brms/multicast/1000002$1$0$0", multicast)}},
-        {"BRMS.SetMultiCastStreamStatus",
-         "",
-         {{"status", With(gate, {{"streamType", 2}, {"status", true}})}},
-         {},
-         {ReadBack("BRMS.GetMultiCastConfig", gate, R"({"channelId": "", "status": true, "streams": [
+        Reads("BRMS.GetNetworkConfig", {{"deviceCode", "1000002"}},
+              [](const Json& state) {
+                  return With(state.at("brms").at("network").at("1000002"), {{"deviceCode", ""}});
+              }),
+        Reads("BRMS.GetNetworkConfig OfADeviceWithoutItsOwn", {{"deviceCode", "1000051"}},
+              [](const Json& state) {
+                  return With(state.at("brms").at("network").at("*"), {{"deviceCode", ""}});
+              }),
+        Writes("BRMS.UpdateNetworkConfig", {{"config", With(network, {{"deviceCode", "1000001"}})}},
+               {ReadBack("BRMS.GetNetworkConfig", {{"deviceCode", "1000001"}}, With(network, {{"deviceCode", ""}})),
+                Held("/brms/network/1000001", network)}),
+        Reads("BRMS.GetEncodeConfig", yard,
+              [](const Json& state) {
+                  return Each(state.at("brms").at("encode").at("1000002$1$0$0").at("encodeConfigurations"),
+                              WithoutChannel);
+              }),
+        Writes("BRMS.UpdateEncodeConfig", With(yard, {{"configs", encode}}),
+               {ReadBack("BRMS.GetEncodeConfig", yard, Each(encode, WithoutChannel)),
+                Held("/brms/encode/1000002$1$0$0/encodeConfigurations", encode)}),
+        Reads("BRMS.GetEncodeCapability", With(gate, {{"streamType", 1}}),
+              [](const Json& state) {
+                  Json capability = state.at("brms").at("encodeCapability").at("*").at("1");
+                  capability["supportCompressions"] = Each(capability.at("supportCompressions"), [](const Json& code) {
+                      return std::stoi(code.get<std::string>());
+                  });
+                  return capability;
+              }),
+        Reads("BRMS.GetImageConfig", yard,
+              [](const Json& state) { return WithoutChannel(state.at("brms").at("image").at("1000002$1$0$0")); }),
+        Writes(
+            "BRMS.UpdateImageConfig", {{"config", With(image, yard)}},
+            {ReadBack("BRMS.GetImageConfig", yard, WithoutChannel(image)), Held("/brms/image/1000002$1$0$0", image)}),
+        Reads("BRMS.GetMultiCastConfig", gate,
+              [](const Json& state) { return WithoutChannel(state.at("brms").at("multicast").at("1000001$1$0$0")); }),
+        Writes("BRMS.SetMultiCastConfig", {{"info", With(multicast, yard)}},
+               {ReadBack("BRMS.GetMultiCastConfig", yard, WithoutChannel(multicast)),
+                Held("/brms/multicast/1000002$1$0$0", multicast)}),
+        Writes("BRMS.SetMultiCastStreamStatus", {{"status", With(gate, {{"streamType", 2}, {"status", true}})}},
+               {ReadBack("BRMS.GetMultiCastConfig", gate, R"({"channelId": "", "status": true, "streams": [
               {"multicastIp": "239.255.0.11", "multicastPort": "36666", "streamType": 1, "status": true},
-              {"multicastIp": "239.255.0.12", "multicastPort": "36668", "streamType": 2, "status": true}]})"_json)}},
+              {"multicastIp": "239.255.0.12", "multicastPort": "36668", "streamType": 2, "status": true}]})"_json)}),
     };
 }
 

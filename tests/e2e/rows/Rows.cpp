@@ -52,6 +52,25 @@ Trace Accepted(const std::string& operation, Json path, Json body)
                 {{"path", std::move(path)}, {"query", Json::object()}, {"body", std::move(body)}});
 }
 
+Row Reads(const std::string& name, Json arguments, Expectation record, Json state)
+{
+    Row row = WritesAndReads(name, std::move(arguments), {}, std::move(record));
+    row.state = std::move(state);
+    return row;
+}
+
+Row Writes(const std::string& name, Json arguments, std::vector<Trace> traces)
+{
+    return WritesAndReads(name, std::move(arguments), std::move(traces), {});
+}
+
+Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> traces, Expectation record)
+{
+    const std::size_t blank = std::min(name.find(' '), name.size());
+    return {name.substr(0, blank), name.substr(std::min(blank + 1, name.size())), std::move(arguments),
+            std::move(record), std::move(traces)};
+}
+
 std::string Row::Name() const
 {
     std::string name = variant.empty() ? call : call + "_" + variant;

@@ -34,6 +34,13 @@ struct Row {
     [[nodiscard]] std::string Name() const;  ///< "BRMS_GetUserGroupList_Keyword"
 };
 
+/// @name Rows of a call, and of its variant behind a blank: "BRMS.GetUserGroupList Keyword"
+/// @{
+Row Reads(const std::string& name, Json arguments, Expectation record, Json state = {});
+Row Writes(const std::string& name, Json arguments, std::vector<Trace> traces);
+Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> traces, Expectation record);
+/// @}
+
 /// Those below; a call without any has one by the examples of the contract.
 const std::vector<Row>& Rows();
 /// The first row of a call.
