@@ -9,23 +9,20 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::COBMSModule;
-using APIModule::Method_Get;
-using APIModule::Method_Post;
-using APIModule::Method_Put;
+using namespace APIModule;
 
-const BodyPack<const APIModule::GetPageAccessAuthorizePersonsReq&> kAuthorizePersonsPack(
+const BodyPack<const GetPageAccessAuthorizePersonsReq&> kAuthorizePersonsPack(
     "COBMSModule::PacketGetPageAccessAuthorizePersons", &COBMSModule::PacketGetPageAccessAuthorizePersons, Method_Post,
     "/obms/api/v1.1/acs/person/access/authorize/fetch/page");
-const UrlPack<const APIModule::GetManagePersonReq&> kGetManaged("COBMSModule::PacketGetManagePersons",
-                                                                &COBMSModule::PacketGetManagePersons, Method_Get,
-                                                                "/obms/api/v1.1/acs/device/", {Server::Current});
-const UrlPack<const APIModule::SetManagePersonReq&> kSetManaged("COBMSModule::PacketSetManagePersons",
-                                                                &COBMSModule::PacketSetManagePersons, Method_Put,
-                                                                "/obms/api/v1.1/acs/device/");
-const UrlPack<const APIModule::GetPointAccessRules&> kPointRulesPack("COBMSModule::PackGetPointRules",
-                                                                     &COBMSModule::PackGetPointRules, Method_Get,
-                                                                     "/obms/api/v1.1/acp/point/");
+const UrlPack<const GetManagePersonReq&> kGetManaged("COBMSModule::PacketGetManagePersons",
+                                                     &COBMSModule::PacketGetManagePersons, Method_Get,
+                                                     "/obms/api/v1.1/acs/device/", {Server::Current});
+const UrlPack<const SetManagePersonReq&> kSetManaged("COBMSModule::PacketSetManagePersons",
+                                                     &COBMSModule::PacketSetManagePersons, Method_Put,
+                                                     "/obms/api/v1.1/acs/device/");
+const UrlPack<const GetPointAccessRules&> kPointRulesPack("COBMSModule::PackGetPointRules",
+                                                          &COBMSModule::PackGetPointRules, Method_Get,
+                                                          "/obms/api/v1.1/acp/point/");
 const UrlPack<const std::string&> kResetAntiPass("COBMSModule::PackPersonResetAntiPass",
                                                  &COBMSModule::PackPersonResetAntiPass, Method_Post,
                                                  "/obms/api/v1.1/acs/person/");
@@ -95,26 +92,25 @@ const Parse kAuthorizePersons =
 const Parse kManagePersons = MakeParse("COBMSModule::ParseGetManagePersons", &COBMSModule::ParseGetManagePersons);
 const Parse kPointRules = MakeParse("COBMSModule::ParesGetPointRules", &COBMSModule::ParesGetPointRules);
 
-const Reading kOrganizations = Records<APIModule::PersonOrgInfo>("orgInfos", {Text("orgCode"), Text("orgName")});
+const Reading kOrganizations = Records<PersonOrgInfo>("orgInfos", {Text("orgCode"), Text("orgName")});
 
 std::vector<ParseRow> ParseRows()
 {
     return Joined({
-        Variations(
-            kAuthorizePersons,
-            {Found("totalCount"), Found("pageData"), Int("totalCount"),
-             Records<APIModule::AccessAuthorizePersonInfo>(
-                 "pageData", {Text("personId"), Text("personName"), Text("orgCode"), Text("orgName"), kOrganizations})},
-            R"({"totalCount": 57, "pageData": [
+        Variations(kAuthorizePersons,
+                   {Found("totalCount"), Found("pageData"), Int("totalCount"),
+                    Records<AccessAuthorizePersonInfo>("pageData", {Text("personId"), Text("personName"),
+                                                                    Text("orgCode"), Text("orgName"), kOrganizations})},
+                   R"({"totalCount": 57, "pageData": [
                         {"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root",
                          "orgInfos": [{"orgCode": "002", "orgName": "A"}, {"orgCode": "003", "orgName": "B"}]},
                         {"personId": "2", "personName": "Bo", "orgCode": "004", "orgName": "Branch",
                          "orgInfos": [{"orgCode": "005", "orgName": "C"}, {"orgCode": "006", "orgName": "D"}]}]})"),
         Variations(kManagePersons,
-                   {Records<APIModule::ManagePersonInfo>("results",
-                                                         {Text("personId"), Text("personName"), Text("orgCode"),
-                                                          Text("orgName"), Text("errorCode"), kOrganizations},
-                                                         kItself)},
+                   {Records<ManagePersonInfo>("results",
+                                              {Text("personId"), Text("personName"), Text("orgCode"), Text("orgName"),
+                                               Text("errorCode"), kOrganizations},
+                                              kItself)},
                    R"({"results": [
                         {"personId": "1", "personName": "Jo", "orgCode": "001", "orgName": "Root", "errorCode": "0",
                          "orgInfos": [{"orgCode": "002", "orgName": "A"}, {"orgCode": "003", "orgName": "B"}]},
@@ -122,8 +118,8 @@ std::vector<ParseRow> ParseRows()
                          "orgInfos": [{"orgCode": "005", "orgName": "C"}, {"orgCode": "006", "orgName": "D"}]}]})"),
         Variations(
             kPointRules,
-            {Records<APIModule::RuleInfo>(
-                "results", {Text("ruleId"), Text("ruleName"), Text("ruleType"), Bool("hasOfflinePoint")}, kItself)},
+            {Records<RuleInfo>("results", {Text("ruleId"), Text("ruleName"), Text("ruleType"), Bool("hasOfflinePoint")},
+                               kItself)},
             R"({"results": [{"ruleId": "1", "ruleName": "Day", "ruleType": "2", "hasOfflinePoint": true},
                                    {"ruleId": "3", "ruleName": "Night", "ruleType": "4", "hasOfflinePoint": false}]})"),
         {
@@ -213,17 +209,16 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(AccessControl, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::GetPageAccessAuthorizePersonsReq>(
-        "GetPageAccessAuthorizePersonsReq", "page pageSize containChild keyword deviceCode orgCode pointIds"),
-    FieldsOf<APIModule::PersonOrgInfo>("PersonOrgInfo", "orgCode orgName"),
-    FieldsOf<APIModule::AccessAuthorizePersonInfo>("AccessAuthorizePersonInfo",
-                                                   "personId personName orgCode orgName orgInfos"),
-    FieldsOf<APIModule::GetPageAccessAuthorizePersonsResp>("GetPageAccessAuthorizePersonsResp", "totalCount pageData"),
-    FieldsOf<APIModule::GetManagePersonReq>("GetManagePersonReq", "deviceCode"),
-    FieldsOf<APIModule::ManagePersonInfo>("ManagePersonInfo", "personId personName orgCode orgName errorCode orgInfos"),
-    FieldsOf<APIModule::SetManagePersonReq>("SetManagePersonReq", "deviceCode personIds"),
-    FieldsOf<APIModule::GetPointAccessRules>("GetPointAccessRules", "pointId ruleType hasOfflinePoint"),
-    FieldsOf<APIModule::RuleInfo>("RuleInfo", "ruleId ruleName ruleType hasOfflinePoint"),
+    FieldsOf<GetPageAccessAuthorizePersonsReq>("GetPageAccessAuthorizePersonsReq",
+                                               "page pageSize containChild keyword deviceCode orgCode pointIds"),
+    FieldsOf<PersonOrgInfo>("PersonOrgInfo", "orgCode orgName"),
+    FieldsOf<AccessAuthorizePersonInfo>("AccessAuthorizePersonInfo", "personId personName orgCode orgName orgInfos"),
+    FieldsOf<GetPageAccessAuthorizePersonsResp>("GetPageAccessAuthorizePersonsResp", "totalCount pageData"),
+    FieldsOf<GetManagePersonReq>("GetManagePersonReq", "deviceCode"),
+    FieldsOf<ManagePersonInfo>("ManagePersonInfo", "personId personName orgCode orgName errorCode orgInfos"),
+    FieldsOf<SetManagePersonReq>("SetManagePersonReq", "deviceCode personIds"),
+    FieldsOf<GetPointAccessRules>("GetPointAccessRules", "pointId ruleType hasOfflinePoint"),
+    FieldsOf<RuleInfo>("RuleInfo", "ruleId ruleName ruleType hasOfflinePoint"),
 };
 
 INSTANTIATE_TEST_SUITE_P(AccessControl, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -10,12 +10,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CBRMSModule;
-using APIModule::DeviceCategoryParamReq;
-using APIModule::DeviceCategoryQueryResult;
-using APIModule::FunctionChannelCheck;
-using APIModule::Method_Get;
-using APIModule::Method_Post;
+using namespace APIModule;
 
 /// A call whose one argument stands between two parts of its URL.
 struct CallOfId {
@@ -253,14 +248,14 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(AccountAccess, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::GetChannelWebTunnelRsp>("GetChannelWebTunnelRsp", "https port ip username token"),
-    FieldsOf<APIModule::PermissionResourceCollectionResp>("PermissionResourceCollectionResp",
-                                                          "menuFunctionCodes localConfigItemCodes"),
-    FieldsOf<APIModule::FunctionChannelCheck>("FunctionChannelCheck", "channelId functionCode"),
-    FieldsOf<APIModule::FunctionChannelCheckResult>("FunctionChannelCheckResult", "authorized"),
-    FieldsOf<APIModule::DeviceCategoryParamReq>("DeviceCategoryParamReq",
-                                                "keyword orgCode domain permitted sourceType containChild"),
-    FieldsOf<APIModule::DeviceCategoryQueryResult>("DeviceCategoryQueryResult", "deviceCategory deviceCount"),
+    FieldsOf<GetChannelWebTunnelRsp>("GetChannelWebTunnelRsp", "https port ip username token"),
+    FieldsOf<PermissionResourceCollectionResp>("PermissionResourceCollectionResp",
+                                               "menuFunctionCodes localConfigItemCodes"),
+    FieldsOf<FunctionChannelCheck>("FunctionChannelCheck", "channelId functionCode"),
+    FieldsOf<FunctionChannelCheckResult>("FunctionChannelCheckResult", "authorized"),
+    FieldsOf<DeviceCategoryParamReq>("DeviceCategoryParamReq",
+                                     "keyword orgCode domain permitted sourceType containChild"),
+    FieldsOf<DeviceCategoryQueryResult>("DeviceCategoryQueryResult", "deviceCategory deviceCount"),
 };
 
 INSTANTIATE_TEST_SUITE_P(AccountAccess, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -8,11 +8,11 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CIAMSModule;
+using namespace APIModule;
 
 const BodyPack<const std::vector<std::string>&> kUploadFailed(
-    "CIAMSModule::PacketSetAnalysisTaskUploadFailed", &CIAMSModule::PacketSetAnalysisTaskUploadFailed,
-    APIModule::Method_Post, "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch");
+    "CIAMSModule::PacketSetAnalysisTaskUploadFailed", &CIAMSModule::PacketSetAnalysisTaskUploadFailed, Method_Post,
+    "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch");
 
 const PackRow kPacks[] = {
     kUploadFailed("UploadFailed_ids_in_order", {"7", "3", "7"}, R"({"ids": ["7", "3", "7"]})"),

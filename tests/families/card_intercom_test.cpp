@@ -9,21 +9,21 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::COBMSModule;
-using APIModule::Method_Get;
-using APIModule::Method_Post;
-using APIModule::Method_Put;
+using namespace APIModule;
 
-const BodyPack<const APIModule::AcsCardConfigParam&> kUpdateDesfire(
-    "COBMSModule::PackUpdateConfigDesfireInfo", &COBMSModule::PackUpdateConfigDesfireInfo, Method_Put,
-    "/obms/api/v1.1/acs/config/desfire",
-    {Server::OfCaller, "UpdateConfigDesfireInfo is failed.", "UpdateConfigDesfireInfo is success."});
-const UrlPack<const APIModule::ConfigDesFireFailureReq&> kDesfireFailure(
-    "COBMSModule::PackGetPageConfigDesfireFailInfo", &COBMSModule::PackGetPageConfigDesfireFailInfo, Method_Get);
-const BodyPack<const APIModule::DeleteAddressBookParam&> kDeleteContacts(
-    "COBMSModule::PackDeleteAddressBooks", &COBMSModule::PackDeleteAddressBooks, Method_Post,
-    "/obms/api/v1.1/vtalk/issue/contact/delete",
-    {Server::OfCaller, "Delete contacts failed.", "Delete contacts success."});
+const BodyPack<const AcsCardConfigParam&> kUpdateDesfire("COBMSModule::PackUpdateConfigDesfireInfo",
+                                                         &COBMSModule::PackUpdateConfigDesfireInfo, Method_Put,
+                                                         "/obms/api/v1.1/acs/config/desfire",
+                                                         {Server::OfCaller, "UpdateConfigDesfireInfo is failed.",
+                                                          "UpdateConfigDesfireInfo is success."});
+const UrlPack<const ConfigDesFireFailureReq&> kDesfireFailure("COBMSModule::PackGetPageConfigDesfireFailInfo",
+                                                              &COBMSModule::PackGetPageConfigDesfireFailInfo,
+                                                              Method_Get);
+const BodyPack<const DeleteAddressBookParam&> kDeleteContacts("COBMSModule::PackDeleteAddressBooks",
+                                                              &COBMSModule::PackDeleteAddressBooks, Method_Post,
+                                                              "/obms/api/v1.1/vtalk/issue/contact/delete",
+                                                              {Server::OfCaller, "Delete contacts failed.",
+                                                               "Delete contacts success."});
 const UrlPack<const std::string&, int> kSnapShotPack("COBMSModule::PacketAlarmHostZoneSnapShot",
                                                      &COBMSModule::PacketAlarmHostZoneSnapShot, Method_Post,
                                                      "/obms/api/v1.1/alarm-host/zone/");
@@ -91,12 +91,11 @@ std::vector<ParseRow> ParseRows()
     return Joined({
         Variations(kDesfire, {Bool("enableDesfire"), Bool("enableReadEncryptContent")},
                    R"({"enableDesfire": true, "enableReadEncryptContent": true})"),
-        Variations(
-            kDesfireFailures,
-            {Found("totalCount"), Found("pageData"), Int("totalCount"),
-             Records<APIModule::DesfireFailureInfo>(
-                 "pageData", {Text("id"), Text("deviceCode"), Text("deviceName"), Text("deviceIp"), Int("reason")})},
-            R"({"totalCount": 31, "pageData": [
+        Variations(kDesfireFailures,
+                   {Found("totalCount"), Found("pageData"), Int("totalCount"),
+                    Records<DesfireFailureInfo>("pageData", {Text("id"), Text("deviceCode"), Text("deviceName"),
+                                                             Text("deviceIp"), Int("reason")})},
+                   R"({"totalCount": 31, "pageData": [
                         {"id": "1", "deviceCode": "1001", "deviceName": "Door A", "deviceIp": "10.0.0.1", "reason": 4},
                         {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2",
                          "reason": 5}]})"),
@@ -145,11 +144,11 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(CardIntercom, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::AcsCardConfigParam>("AcsCardConfigParam", "enableDesfire enableReadEncryptContent"),
-    FieldsOf<APIModule::ConfigDesFireFailureReq>("ConfigDesFireFailureReq", "page pageSize keyword"),
-    FieldsOf<APIModule::DesfireFailureInfo>("DesfireFailureInfo", "id deviceCode deviceName deviceIp reason"),
-    FieldsOf<APIModule::GetPageConfigDesfireFailureResp>("GetPageConfigDesfireFailureResp", "totalCount pageData"),
-    FieldsOf<APIModule::DeleteAddressBookParam>("DeleteAddressBookParam", "deleteAll vtoDeviceCode vthDeviceCodes"),
+    FieldsOf<AcsCardConfigParam>("AcsCardConfigParam", "enableDesfire enableReadEncryptContent"),
+    FieldsOf<ConfigDesFireFailureReq>("ConfigDesFireFailureReq", "page pageSize keyword"),
+    FieldsOf<DesfireFailureInfo>("DesfireFailureInfo", "id deviceCode deviceName deviceIp reason"),
+    FieldsOf<GetPageConfigDesfireFailureResp>("GetPageConfigDesfireFailureResp", "totalCount pageData"),
+    FieldsOf<DeleteAddressBookParam>("DeleteAddressBookParam", "deleteAll vtoDeviceCode vthDeviceCodes"),
 };
 
 INSTANTIATE_TEST_SUITE_P(CardIntercom, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -9,14 +9,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CBRMSModule;
-using APIModule::EncodeConfig;
-using APIModule::ImageConfig;
-using APIModule::Method_Get;
-using APIModule::Method_Put;
-using APIModule::MultiCastConfigInfo;
-using APIModule::MultiCastStreamStatus;
-using APIModule::NetworkConfig;
+using namespace APIModule;
 
 const UrlPack<const std::string&> kGetNetworkConfig("CBRMSModule::PacketGetNetworkConfig",
                                                     &CBRMSModule::PacketGetNetworkConfig, Method_Get,
@@ -158,22 +151,20 @@ std::vector<ParseRow> ParseRows()
                         "frameRate": 25, "iFrameInterval": 50, "height": 1080, "width": 1920, "channelId": "not read"},
                        {"streamType": 2, "bitRate": 512, "bitRateControl": 0, "compression": 4, "enable": 0,
                         "frameRate": 12, "iFrameInterval": 24, "height": 288, "width": 352}]})"),
-        Variations(
-            kCapability,
-            {NumbersOfTexts("supportCompressions"),
-             Records<APIModule::EncodeCompressionCapability>(
-                 "encodeCapabilities",
-                 {Int("compression"), Records<APIModule::EncodeFormat>(
-                                          "formats", {Int("frameRateMax"), Int("videoHeight"), Int("videoWidth")})})},
-            kWholeCapability),
+        Variations(kCapability,
+                   {NumbersOfTexts("supportCompressions"),
+                    Records<EncodeCompressionCapability>(
+                        "encodeCapabilities",
+                        {Int("compression"), Records<EncodeFormat>("formats", {Int("frameRateMax"), Int("videoHeight"),
+                                                                               Int("videoWidth")})})},
+                   kWholeCapability),
         Variations(kImage, {Int("brightness"), Int("saturation"), Int("contrast"), Int("sharpness")},
                    R"({"brightness": 50, "saturation": -60, "contrast": 70, "sharpness": 80,
                        "channelId": "not read"})"),
-        Variations(
-            kMultiCast,
-            {Bool("status"), Records<APIModule::MultiCastStream>("streams", {Text("multicastIp"), Text("multicastPort"),
-                                                                             Int("streamType"), Bool("status")})},
-            R"({"status": true, "channelId": "not read", "streams": [
+        Variations(kMultiCast,
+                   {Bool("status"), Records<MultiCastStream>("streams", {Text("multicastIp"), Text("multicastPort"),
+                                                                         Int("streamType"), Bool("status")})},
+                   R"({"status": true, "channelId": "not read", "streams": [
                 {"multicastIp": "239.0.0.1", "multicastPort": "5000", "streamType": 2, "status": true},
                 {"multicastIp": "239.0.0.2", "multicastPort": "5002", "streamType": 1, "status": false}]})"),
         {
@@ -250,23 +241,23 @@ INSTANTIATE_TEST_SUITE_P(DeviceConfig, ParseTest, testing::ValuesIn(ParseRows())
 
 TEST(DeviceConfig, FreshRecords)
 {
-    EXPECT_EQ(ToJson(APIModule::MultiCastStream()),
+    EXPECT_EQ(ToJson(MultiCastStream()),
               Json::parse(R"({"multicastIp": "", "multicastPort": "", "streamType": 1, "status": false})"));
     EXPECT_EQ(ToJson(MultiCastStreamStatus()), Json::parse(R"({"channelId": "", "streamType": 0, "status": false})"));
 }
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::NetworkConfig>("NetworkConfig", "deviceCode ip mask gateway dns"),
-    FieldsOf<APIModule::EncodeConfig>(
+    FieldsOf<NetworkConfig>("NetworkConfig", "deviceCode ip mask gateway dns"),
+    FieldsOf<EncodeConfig>(
         "EncodeConfig",
         "channelId streamType bitRate bitRateControl compression enable frameRate iFrameInterval height width"),
-    FieldsOf<APIModule::EncodeFormat>("EncodeFormat", "frameRateMax videoHeight videoWidth"),
-    FieldsOf<APIModule::EncodeCompressionCapability>("EncodeCompressionCapability", "compression formats"),
-    FieldsOf<APIModule::EncodeCapability>("EncodeCapability", "supportCompressions encodeCapabilities"),
-    FieldsOf<APIModule::ImageConfig>("ImageConfig", "channelId brightness saturation contrast sharpness"),
-    FieldsOf<APIModule::MultiCastStream>("MultiCastStream", "multicastIp multicastPort streamType status"),
-    FieldsOf<APIModule::MultiCastConfigInfo>("MultiCastConfigInfo", "channelId status streams"),
-    FieldsOf<APIModule::MultiCastStreamStatus>("MultiCastStreamStatus", "channelId streamType status"),
+    FieldsOf<EncodeFormat>("EncodeFormat", "frameRateMax videoHeight videoWidth"),
+    FieldsOf<EncodeCompressionCapability>("EncodeCompressionCapability", "compression formats"),
+    FieldsOf<EncodeCapability>("EncodeCapability", "supportCompressions encodeCapabilities"),
+    FieldsOf<ImageConfig>("ImageConfig", "channelId brightness saturation contrast sharpness"),
+    FieldsOf<MultiCastStream>("MultiCastStream", "multicastIp multicastPort streamType status"),
+    FieldsOf<MultiCastConfigInfo>("MultiCastConfigInfo", "channelId status streams"),
+    FieldsOf<MultiCastStreamStatus>("MultiCastStreamStatus", "channelId streamType status"),
 };
 
 INSTANTIATE_TEST_SUITE_P(DeviceConfig, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -9,8 +9,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CBRMSModule;
-using APIModule::Method_Post;
+using namespace APIModule;
 
 const BodyPack<const std::vector<std::string>&, int> kBatchDiscoverDevices(
     "CBRMSModule::PacketBatchDiscoverDevices", &CBRMSModule::PacketBatchDiscoverDevices, Method_Post,
@@ -21,9 +20,9 @@ const BodyPack<const std::vector<std::string>&, bool> kAlarmOutputControl(
 const BodyPack<const std::vector<std::string>&, bool> kAudioLightControl(
     "CBRMSModule::PacketAudioLightControl", &CBRMSModule::PacketAudioLightControl, Method_Post,
     "/brms/api/v1.1/device/channel/audio-light/regulate");
-const BodyPack<APIModule::IPSpeakerControl> kIPSpeakerControl("CBRMSModule::PacketIPSpeakerControl",
-                                                              &CBRMSModule::PacketIPSpeakerControl, Method_Post,
-                                                              "/brms/api/v1.1/device/channel/audio/ip-speaker/control");
+const BodyPack<IPSpeakerControl> kIPSpeakerControl("CBRMSModule::PacketIPSpeakerControl",
+                                                   &CBRMSModule::PacketIPSpeakerControl, Method_Post,
+                                                   "/brms/api/v1.1/device/channel/audio/ip-speaker/control");
 
 const PackRow kPacks[] = {
     kBatchDiscoverDevices("BatchDiscoverDevices", {"dev2", "dev1"}, 3,
@@ -64,10 +63,9 @@ std::vector<ParseRow> ParseRows()
 {
     return Joined({
         Variations(kDiscover, {Text("session", kItself)}, R"({"session": "s-1"})"),
-        Variations(
-            kControl,
-            {Records<APIModule::ChannelControlRsp>("failedChannels", {Text("channelId"), Int("errorCode")}, kItself)},
-            R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5},
+        Variations(kControl,
+                   {Records<ChannelControlRsp>("failedChannels", {Text("channelId"), Int("errorCode")}, kItself)},
+                   R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5},
                                           {"channelId": "ch2", "errorCode": -6}]})"),
         {
             Row("Control_complete_entry_before_one_without_errorCode", kControl,
@@ -93,9 +91,9 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(DeviceControl, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::IPSpeakerChannel>("IPSpeakerChannel", "channelId fileIds playCount"),
-    FieldsOf<APIModule::IPSpeakerControl>("IPSpeakerControl", "channels command"),
-    FieldsOf<APIModule::ChannelControlRsp>("ChannelControlRsp", "channelId errorCode"),
+    FieldsOf<IPSpeakerChannel>("IPSpeakerChannel", "channelId fileIds playCount"),
+    FieldsOf<IPSpeakerControl>("IPSpeakerControl", "channels command"),
+    FieldsOf<ChannelControlRsp>("ChannelControlRsp", "channelId errorCode"),
 };
 
 INSTANTIATE_TEST_SUITE_P(DeviceControl, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -9,8 +9,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::COMMSModule;
-using APIModule::Method_Get;
+using namespace APIModule;
 
 const UrlPack<std::string> kChannelPack("COMMSModule::PacketGetChannelInfo", &COMMSModule::PacketGetChannelInfo,
                                         Method_Get, "/omms/api/v1.1/channel/");
@@ -38,29 +37,12 @@ const Parse kAlertTypes = MakeParse("COMMSModule::ParseGetAlertTypes", &COMMSMod
 const Parse kChannel = MakeParse("COMMSModule::ParseGetChannelInfo", &COMMSModule::ParseGetChannelInfo);
 const Parse kDevice = MakeParse("COMMSModule::ParseGetDeviceInfo", &COMMSModule::ParseGetDeviceInfo);
 
-const Readings kChannelKeys = {Text("channelName"),
-                               Text("channelId"),
-                               Int("channelType"),
-                               Text("deviceCode"),
-                               Text("deviceName"),
-                               Int("deviceCategory"),
-                               Text("deviceCategoryName"),
-                               Text("orgCode"),
-                               Text("orgName"),
-                               Int("onlineStatus"),
-                               Text("channelStatus"),
-                               Text("abnormalReason"),
-                               Text("channelIp"),
-                               Text("channelMac"),
-                               Text("deviceIp"),
-                               Text("macAddress"),
-                               Text("deviceRecordDays"),
-                               Text("configRecordDays"),
-                               Text("deviceRecordWholenessStatus"),
-                               Text("motionDetectPlan"),
-                               Text("patchPlan"),
-                               Text("recordPlan"),
-                               Int64("updateDate")};
+const Readings kChannelKeys =
+    InTurn(Text("channelName"), Text("channelId"), Int("channelType"), Text("deviceCode"), Text("deviceName"),
+           Int("deviceCategory"), Text("deviceCategoryName"), Text("orgCode"), Text("orgName"), Int("onlineStatus"),
+           Text("channelStatus"), Text("abnormalReason"), Text("channelIp"), Text("channelMac"), Text("deviceIp"),
+           Text("macAddress"), Text("deviceRecordDays"), Text("configRecordDays"), Text("deviceRecordWholenessStatus"),
+           Text("motionDetectPlan"), Text("patchPlan"), Text("recordPlan"), Int64("updateDate"));
 
 const char* const kWholeChannel =
     R"({"channelName": "Gate", "channelId": "1$1", "channelType": 1, "deviceCode": "1001", "deviceName": "Camera",
@@ -121,10 +103,9 @@ std::string Without(const char* text, const std::string& key)
 std::vector<ParseRow> ParseRows()
 {
     return Joined({
-        Variations(
-            kAlertTypes,
-            {Records<APIModule::AlertInfoResp>("results", {Text("alertTypeId"), Text("alertTypeName")}, kItself)},
-            R"({"results": [{"alertTypeId": "1", "alertTypeName": "Offline"},
+        Variations(kAlertTypes,
+                   {Records<AlertInfoResp>("results", {Text("alertTypeId"), Text("alertTypeName")}, kItself)},
+                   R"({"results": [{"alertTypeId": "1", "alertTypeName": "Offline"},
                                    {"alertTypeId": "2", "alertTypeName": "Disk full"}]})"),
         Variations(kChannel, kChannelKeys, kWholeChannel),
         Variations(kDevice, kDeviceKeys, kWholeDevice),
@@ -183,14 +164,14 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(Maintenance, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::AlertInfoResp>("AlertInfoResp", "alertTypeId alertTypeName"),
-    FieldsOf<APIModule::ChannelInfoResp>(
+    FieldsOf<AlertInfoResp>("AlertInfoResp", "alertTypeId alertTypeName"),
+    FieldsOf<ChannelInfoResp>(
         "ChannelInfoResp",
         "channelName channelId channelType deviceCode deviceName deviceCategory deviceCategoryName orgCode "
         "orgName onlineStatus channelStatus abnormalReason channelIp channelMac deviceIp macAddress "
         "deviceRecordDays configRecordDays deviceRecordWholenessStatus motionDetectPlan patchPlan recordPlan "
         "updateDate"),
-    FieldsOf<APIModule::DeviceInfoResp>(
+    FieldsOf<DeviceInfoResp>(
         "DeviceInfoResp",
         "deviceCode deviceName deviceIp deviceSn status statusName offlineReason deviceCategory "
         "deviceCategoryName deviceType deviceTypeName manufacturer manufacturerName faultStatus faultStatusName "

@@ -9,9 +9,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CIPMSModule;
-using APIModule::Method_Get;
-using APIModule::Method_Put;
+using namespace APIModule;
 
 const UrlPack<const std::string&, int> kSimplePack("CIPMSModule::PacketGetSimpleParkingLots",
                                                    &CIPMSModule::PacketGetSimpleParkingLots, Method_Get,
@@ -19,9 +17,10 @@ const UrlPack<const std::string&, int> kSimplePack("CIPMSModule::PacketGetSimple
 const UrlPack<const std::string&, const std::string&, int> kDetailPack(
     "CIPMSModule::PacketGetDetailParkingLots", &CIPMSModule::PacketGetDetailParkingLots, Method_Get,
     "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=");
-const BodyPack<const APIModule::UpdateVehicleCaptureRecordInfo&> kCapture(
-    "CIPMSModule::PacketUpdateVehicleCaptureRecord", &CIPMSModule::PacketUpdateVehicleCaptureRecord, Method_Put,
-    "/ipms/api/v1.1/fusion/vehicle-capture/record");
+const BodyPack<const UpdateVehicleCaptureRecordInfo&> kCapture("CIPMSModule::PacketUpdateVehicleCaptureRecord",
+                                                               &CIPMSModule::PacketUpdateVehicleCaptureRecord,
+                                                               Method_Put,
+                                                               "/ipms/api/v1.1/fusion/vehicle-capture/record");
 
 const PackRow kPacks[] = {
     kSimplePack("GetSimpleParkingLots", "11,12", 2, "11,12&mode=2"),
@@ -64,44 +63,24 @@ const Parse kOrganization =
 const Readings kSimplePoint = {Text("id"),         Text("pointName"), Text("remark"),
                                Text("refPointId"), Int("direction"),  Int("mode")};
 const Readings kSimplePosition = {Text("id"), Text("positionName"), Text("remark"),
-                                  Records<APIModule::SimpleParkingPointInfo>("points", kSimplePoint)};
-const Readings kSimpleLot = {Text("id"),
-                             Text("parkingLotName"),
-                             Text("orgCode"),
-                             Text("orgName"),
-                             Text("parentParkingLotId"),
-                             Text("parentParkingLotName"),
-                             Int("parkingLotMode"),
-                             Int("enableParkingSpaceStatistics"),
-                             Int("parkingSpaceStatisticsType"),
-                             Records<APIModule::SimpleParkingPositionInfo>("positions", kSimplePosition)};
+                                  Records<SimpleParkingPointInfo>("points", kSimplePoint)};
+const Readings kSimpleLot =
+    InTurn(Text("id"), Text("parkingLotName"), Text("orgCode"), Text("orgName"), Text("parentParkingLotId"),
+           Text("parentParkingLotName"), Int("parkingLotMode"), Int("enableParkingSpaceStatistics"),
+           Int("parkingSpaceStatisticsType"), Records<SimpleParkingPositionInfo>("positions", kSimplePosition));
 
 const Readings kChannel = {Text("channelId"), Int("channelType")};
-const Readings kDetailPoint = {Text("id"),
-                               Text("pointName"),
-                               Text("remark"),
-                               Text("refPointId"),
-                               Text("refPointName"),
-                               Int("direction"),
-                               Int("mode"),
-                               Records<APIModule::ParkingChannelInfo>("channels", kChannel),
-                               Records<APIModule::ParkingChannelInfo>("refChannels", kChannel)};
+const Readings kDetailPoint =
+    InTurn(Text("id"), Text("pointName"), Text("remark"), Text("refPointId"), Text("refPointName"), Int("direction"),
+           Int("mode"), Records<ParkingChannelInfo>("channels", kChannel),
+           Records<ParkingChannelInfo>("refChannels", kChannel));
 const Readings kDetailPosition = {Text("id"), Text("positionName"), Text("remark"),
-                                  Records<APIModule::DetailParkingPointInfo>("points", kDetailPoint)};
-const Readings kDetailLot = {Text("id"),
-                             Text("parkingLotName"),
-                             Text("orgCode"),
-                             Text("orgName"),
-                             Text("parentParkingLotId"),
-                             Text("parentParkingLotName"),
-                             Int("parkingLotMode"),
-                             Int("enableParkingSpaceStatistics"),
-                             Int("parkingSpaceStatisticsType"),
-                             Int("issueVehicles"),
-                             Int("issueStatus"),
-                             Int("totalParkingSpaceCount"),
-                             Int("idleParkingSpaceCount"),
-                             Records<APIModule::DetailParkingPositionInfo>("positions", kDetailPosition)};
+                                  Records<DetailParkingPointInfo>("points", kDetailPoint)};
+const Readings kDetailLot =
+    InTurn(Text("id"), Text("parkingLotName"), Text("orgCode"), Text("orgName"), Text("parentParkingLotId"),
+           Text("parentParkingLotName"), Int("parkingLotMode"), Int("enableParkingSpaceStatistics"),
+           Int("parkingSpaceStatisticsType"), Int("issueVehicles"), Int("issueStatus"), Int("totalParkingSpaceCount"),
+           Int("idleParkingSpaceCount"), Records<DetailParkingPositionInfo>("positions", kDetailPosition));
 
 const char* const kTwoSimpleLots = R"({"results": [
     {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "1",
@@ -145,13 +124,11 @@ const char* const kTwoDetailLots = R"({"results": [
 std::vector<ParseRow> VariationRows()
 {
     return Joined({
-        Variations(kSimple, {Records<APIModule::SimpleParkingLotInfoRsp>("results", kSimpleLot, kItself)},
-                   kTwoSimpleLots),
-        Variations(kDetail, {Records<APIModule::DatailParkingLotInfoRsp>("results", kDetailLot, kItself)},
-                   kTwoDetailLots),
+        Variations(kSimple, {Records<SimpleParkingLotInfoRsp>("results", kSimpleLot, kItself)}, kTwoSimpleLots),
+        Variations(kDetail, {Records<DatailParkingLotInfoRsp>("results", kDetailLot, kItself)}, kTwoDetailLots),
         Variations(
             kOrganization,
-            {Records<APIModule::OrganizationInfoRsp>(
+            {Records<OrganizationInfoRsp>(
                 "results",
                 {Text("orgCode"), Text("orgName"), Text("parentOrgCode"), Int("hasChild"), Int("hasAuthority")},
                 kItself)},
@@ -282,25 +259,23 @@ const ParseRow kRows[] = {
 INSTANTIATE_TEST_SUITE_P(Parking, ParseTest, testing::ValuesIn(kRows), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::SimpleParkingPointInfo>("SimpleParkingPointInfo",
-                                                "id pointName remark refPointId direction mode"),
-    FieldsOf<APIModule::SimpleParkingPositionInfo>("SimpleParkingPositionInfo", "id positionName remark points"),
-    FieldsOf<APIModule::SimpleParkingLotInfoRsp>(
+    FieldsOf<SimpleParkingPointInfo>("SimpleParkingPointInfo", "id pointName remark refPointId direction mode"),
+    FieldsOf<SimpleParkingPositionInfo>("SimpleParkingPositionInfo", "id positionName remark points"),
+    FieldsOf<SimpleParkingLotInfoRsp>(
         "SimpleParkingLotInfoRsp",
         "id parkingLotName orgCode orgName parentParkingLotId parentParkingLotName parkingLotMode "
         "enableParkingSpaceStatistics parkingSpaceStatisticsType positions"),
-    FieldsOf<APIModule::ParkingChannelInfo>("ParkingChannelInfo", "channelId channelType"),
-    FieldsOf<APIModule::DetailParkingPointInfo>(
-        "DetailParkingPointInfo", "id pointName remark refPointId refPointName direction mode channels refChannels"),
-    FieldsOf<APIModule::DetailParkingPositionInfo>("DetailParkingPositionInfo", "id positionName remark points"),
-    FieldsOf<APIModule::DatailParkingLotInfoRsp>(
+    FieldsOf<ParkingChannelInfo>("ParkingChannelInfo", "channelId channelType"),
+    FieldsOf<DetailParkingPointInfo>("DetailParkingPointInfo",
+                                     "id pointName remark refPointId refPointName direction mode channels refChannels"),
+    FieldsOf<DetailParkingPositionInfo>("DetailParkingPositionInfo", "id positionName remark points"),
+    FieldsOf<DatailParkingLotInfoRsp>(
         "DatailParkingLotInfoRsp",
         "id parkingLotName orgCode orgName parentParkingLotId parentParkingLotName parkingLotMode "
         "enableParkingSpaceStatistics parkingSpaceStatisticsType issueVehicles issueStatus totalParkingSpaceCount "
         "idleParkingSpaceCount positions"),
-    FieldsOf<APIModule::OrganizationInfoRsp>("OrganizationInfoRsp",
-                                             "orgCode orgName parentOrgCode hasChild hasAuthority"),
-    FieldsOf<APIModule::UpdateVehicleCaptureRecordInfo>("UpdateVehicleCaptureRecordInfo", "id plateNo"),
+    FieldsOf<OrganizationInfoRsp>("OrganizationInfoRsp", "orgCode orgName parentOrgCode hasChild hasAuthority"),
+    FieldsOf<UpdateVehicleCaptureRecordInfo>("UpdateVehicleCaptureRecordInfo", "id plateNo"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Parking, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -9,8 +9,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CDMSModule;
-using APIModule::Method_Post;
+using namespace APIModule;
 
 const BodyPack<std::string> kWashOpen("CDMSModule::PackeWashOpen", &CDMSModule::PackeWashOpen, Method_Post,
                                       "/admin/API/DMS/Ptz/AuxControl", {Server::One});
@@ -124,9 +123,9 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(Ptz, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::PtzWashStatus>("PtzWashStatus", "result userName userLevel lowerDomain"),
-    FieldsOf<APIModule::PtzBatchWashStatus>("PtzBatchWashStatus", "result msg"),
-    FieldsOf<APIModule::PtzPositionResetReq>("PtzPositionResetReq", "result userName userLevel lowerDomain"),
+    FieldsOf<PtzWashStatus>("PtzWashStatus", "result userName userLevel lowerDomain"),
+    FieldsOf<PtzBatchWashStatus>("PtzBatchWashStatus", "result msg"),
+    FieldsOf<PtzPositionResetReq>("PtzPositionResetReq", "result userName userLevel lowerDomain"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Ptz, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -11,13 +11,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CBRMSModule;
-using APIModule::Method_Delete;
-using APIModule::Method_Get;
-using APIModule::Method_Post;
-using APIModule::Method_Put;
-using APIModule::QuickCommand;
-using APIModule::QuickCommandHttpUrl;
+using namespace APIModule;
 
 const BodyPack<const QuickCommand&> kAdd("CBRMSModule::PacketAddQuickCommand", &CBRMSModule::PacketAddQuickCommand,
                                          Method_Post, "/brms/api/v1.1/config/quick/command");
@@ -310,9 +304,9 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(QuickCommand, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::QuickCommandHttpUrl>("QuickCommandHttpUrl", "method url body seq"),
-    FieldsOf<APIModule::QuickCommand>(
-        "QuickCommand", "id quickCommandName enableShortcutKeys shortcutKeys executeMode remark httpUrls"),
+    FieldsOf<QuickCommandHttpUrl>("QuickCommandHttpUrl", "method url body seq"),
+    FieldsOf<QuickCommand>("QuickCommand",
+                           "id quickCommandName enableShortcutKeys shortcutKeys executeMode remark httpUrls"),
 };
 
 INSTANTIATE_TEST_SUITE_P(QuickCommand, RecordTest, testing::ValuesIn(kRecords), RowName());

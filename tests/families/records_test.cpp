@@ -6,11 +6,12 @@
 namespace {
 
 using namespace family_testing;
+using namespace APIModule;
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::RequestParam>(
-        "RequestParam", "nPort nTimeout bHttps bCompress eMethod strIp strUrl strBody strToken strSequence "
-                        "bExcludeUserInput"),
+    FieldsOf<RequestParam>("RequestParam",
+                           "nPort nTimeout bHttps bCompress eMethod strIp strUrl strBody strToken strSequence "
+                           "bExcludeUserInput"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Core, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -7,8 +7,7 @@
 namespace {
 
 using namespace family_testing;
-using APIModule::CBRMSModule;
-using APIModule::Method_Get;
+using namespace APIModule;
 
 const PackRow kPacks[] = {
     {"CheckHotSpareWarning", "CBRMSModule::PacketCheckHotSpareWarning", &CBRMSModule::PacketCheckHotSpareWarning,
@@ -38,21 +37,19 @@ std::vector<ParseRow> ParseRows()
         Variations(kHotSpare, {Bool("warningHappened"), Int64("warningTime"), Text("warningContent")},
                    R"({"warningHappened": true, "warningTime": 1700000000123, "warningContent": "switched to spare"})"),
         Variations(kBasicService, {Bool("warningHappened", kItself)}, R"({"warningHappened": true})"),
-        Variations(
-            kDisk,
-            {Records<APIModule::DiskWarmParam>("results",
-                                               {Text("serverIp"), Int("serverType"),
-                                                Records<APIModule::WarnDisk>("warnDisks", {Text("path"), Int("slot")})},
-                                               kItself)},
-            R"({"results": [
+        Variations(kDisk,
+                   {Records<DiskWarmParam>("results",
+                                           {Text("serverIp"), Int("serverType"),
+                                            Records<WarnDisk>("warnDisks", {Text("path"), Int("slot")})},
+                                           kItself)},
+                   R"({"results": [
                        {"serverIp": "10.0.0.1", "serverType": 2,
                         "warnDisks": [{"path": "/dev/sda", "slot": 1}, {"path": "/dev/sdb", "slot": 2}]},
                        {"serverIp": "10.0.0.2", "serverType": 3,
                         "warnDisks": [{"path": "/dev/sdc", "slot": 3}, {"path": "/dev/sdd", "slot": 4}]}]})"),
         Variations(kMemory, {Records<std::string>("results", {Text("serverIp", kItself)}, kItself)},
                    R"({"results": [{"serverIp": "10.0.0.1"}, {"serverIp": "10.0.0.2"}]})"),
-        Variations(kNetWorks,
-                   {Records<APIModule::NetWorkItem>("results", {Text("netWorkName"), Int("netWorkValue")}, "netWorks")},
+        Variations(kNetWorks, {Records<NetWorkItem>("results", {Text("netWorkName"), Int("netWorkValue")}, "netWorks")},
                    R"({"results": [{"netWorkName": "LAN", "netWorkValue": 1},
                                    {"netWorkName": "WAN", "netWorkValue": 2}]})"),
         {
@@ -107,11 +104,11 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(ServerWarning, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::CheckHostSpareWarning>("CheckHostSpareWarning", "warningHappened warningTime warningContent"),
-    FieldsOf<APIModule::WarnDisk>("WarnDisk", "path slot"),
-    FieldsOf<APIModule::DiskWarmParam>("DiskWarmParam", "serverIp serverType warnDisks"),
-    FieldsOf<APIModule::NetWorkItem>("NetWorkItem", "netWorkName netWorkValue"),
-    FieldsOf<APIModule::NetWorksParam>("NetWorksParam", "netWorks"),
+    FieldsOf<CheckHostSpareWarning>("CheckHostSpareWarning", "warningHappened warningTime warningContent"),
+    FieldsOf<WarnDisk>("WarnDisk", "path slot"),
+    FieldsOf<DiskWarmParam>("DiskWarmParam", "serverIp serverType warnDisks"),
+    FieldsOf<NetWorkItem>("NetWorkItem", "netWorkName netWorkValue"),
+    FieldsOf<NetWorksParam>("NetWorksParam", "netWorks"),
 };
 
 INSTANTIATE_TEST_SUITE_P(ServerWarning, RecordTest, testing::ValuesIn(kRecords), RowName());

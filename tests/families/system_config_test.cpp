@@ -9,18 +9,14 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::CBRMSModule;
-using APIModule::Method_Get;
-using APIModule::Method_Post;
-using APIModule::Method_Put;
+using namespace APIModule;
 
-const BodyPack<const APIModule::TimeSyncConfig&> kSetTimeSyncConfig("CBRMSModule::PacketSetTimeSyncConfig",
-                                                                    &CBRMSModule::PacketSetTimeSyncConfig, Method_Put,
-                                                                    "/brms/api/v1.1/config/time-sync");
-const BodyPack<const APIModule::RemoteLogConfigInfo&> kSetRemoteLogConfig("CBRMSModule::PacketSetRemoteLogConfig",
-                                                                          &CBRMSModule::PacketSetRemoteLogConfig,
-                                                                          Method_Put,
-                                                                          "/brms/api/v1.1/config/remote-log");
+const BodyPack<const TimeSyncConfig&> kSetTimeSyncConfig("CBRMSModule::PacketSetTimeSyncConfig",
+                                                         &CBRMSModule::PacketSetTimeSyncConfig, Method_Put,
+                                                         "/brms/api/v1.1/config/time-sync");
+const BodyPack<const RemoteLogConfigInfo&> kSetRemoteLogConfig("CBRMSModule::PacketSetRemoteLogConfig",
+                                                               &CBRMSModule::PacketSetRemoteLogConfig, Method_Put,
+                                                               "/brms/api/v1.1/config/remote-log");
 const BodyPack<const int&> kSetDeviceLoginModel("CBRMSModule::PacketSetDeviceLoginModel",
                                                 &CBRMSModule::PacketSetDeviceLoginModel, Method_Put,
                                                 "/brms/api/v1.1/config/device-login-model");
@@ -164,11 +160,10 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(SystemConfig, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::TimeSyncConfig>(
-        "TimeSyncConfig", "enable startTime interval deviceOnlineTimeSync enableNtp ntpIp ntpPort ntpSyncInterval"),
-    FieldsOf<APIModule::RemoteLogConfigInfo>("RemoteLogConfigInfo", "enable ip port platformId"),
-    FieldsOf<APIModule::LocalSettingQueryResult>("LocalSettingQueryResult",
-                                                 "apply settingType settingVersion settingContent"),
+    FieldsOf<TimeSyncConfig>("TimeSyncConfig",
+                             "enable startTime interval deviceOnlineTimeSync enableNtp ntpIp ntpPort ntpSyncInterval"),
+    FieldsOf<RemoteLogConfigInfo>("RemoteLogConfigInfo", "enable ip port platformId"),
+    FieldsOf<LocalSettingQueryResult>("LocalSettingQueryResult", "apply settingType settingVersion settingContent"),
 };
 
 INSTANTIATE_TEST_SUITE_P(SystemConfig, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -9,14 +9,7 @@ namespace {
 
 using namespace family_testing;
 using namespace std::string_literals;
-using APIModule::AddUserGroupsParam;
-using APIModule::CBRMSModule;
-using APIModule::Method_Delete;
-using APIModule::Method_Get;
-using APIModule::Method_Post;
-using APIModule::Method_Put;
-using APIModule::MoveUserGroupsParam;
-using APIModule::UserConfigUserGroups;
+using namespace APIModule;
 
 const UrlPack<const std::string&> kListPack("CBRMSModule::PacketGetUserGroupList", &CBRMSModule::PacketGetUserGroupList,
                                             Method_Get, "/brms/api/v1.1/user/group/list?keyword=");
@@ -147,9 +140,9 @@ std::vector<ParseRow> ParseRows()
 INSTANTIATE_TEST_SUITE_P(UserGroup, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<APIModule::UserConfigUserGroups>("UserConfigUserGroups", "id groupName memo"),
-    FieldsOf<APIModule::AddUserGroupsParam>("AddUserGroupsParam", "groupName memo"),
-    FieldsOf<APIModule::MoveUserGroupsParam>("MoveUserGroupsParam", "groupId userIds"),
+    FieldsOf<UserConfigUserGroups>("UserConfigUserGroups", "id groupName memo"),
+    FieldsOf<AddUserGroupsParam>("AddUserGroupsParam", "groupName memo"),
+    FieldsOf<MoveUserGroupsParam>("MoveUserGroupsParam", "groupId userIds"),
 };
 
 INSTANTIATE_TEST_SUITE_P(UserGroup, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QStringList>
 
 #include <cmath>
 #include <cstring>
@@ -40,35 +41,13 @@ const double kDoubles[] = {-0.0,
                            -Doubles::infinity(),
                            Doubles::quiet_NaN()};
 
-const char* const kNumbers[] = {"-0",
-                                "0.0",
-                                "-0.0",
-                                "1.0",
-                                "1e0",
-                                "1E+2",
-                                "-1e-0",
-                                "100e-2",
-                                "2147483647",
-                                "2147483648",
-                                "-2147483648",
-                                "-2147483649",
-                                "2147483647.5",
-                                "4294967295",
-                                "4294967296",
-                                "9007199254740991",
-                                "9007199254740992",
-                                "9007199254740993",
-                                "9007199254740993.0",
-                                "-9007199254740993",
-                                "9223372036854775807",
-                                "9223372036854775808",
-                                "-9223372036854775808",
-                                "-9223372036854775809",
-                                "18446744073709551615",
-                                "18446744073709551616",
-                                "1.7976931348623157e308",
-                                "2.2250738585072014e-308",
-                                "5e-324"};
+const QStringList kNumbers =
+    QStringLiteral(
+        "-0 0.0 -0.0 1.0 1e0 1E+2 -1e-0 100e-2 2147483647 2147483648 -2147483648 -2147483649 2147483647.5 "
+        "4294967295 4294967296 9007199254740991 9007199254740992 9007199254740993 9007199254740993.0 "
+        "-9007199254740993 9223372036854775807 9223372036854775808 -9223372036854775808 -9223372036854775809 "
+        "18446744073709551615 18446744073709551616 1.7976931348623157e308 2.2250738585072014e-308 5e-324")
+        .split(QLatin1Char(' '));
 
 const char* const kTexts[] = {
     "",     "0",    "1",    "00",  "-0",      "+1",      " 1",        "1 ",      "\t1\n", "- 1",   "0x10",   "010",
@@ -212,7 +191,7 @@ QJsonValue RandomJson::BuiltNumber()
 QString RandomJson::WrittenNumber()
 {
     if (OneIn(2)) {
-        return QLatin1String(OneOf(kNumbers));
+        return OneOf(kNumbers);
     }
     QString text = OneIn(3) ? QStringLiteral("-") : QString();
     text += OneIn(5) ? QStringLiteral("0") : QString::number(1 + UpTo(8)) + (OneIn(2) ? QString() : Digits());

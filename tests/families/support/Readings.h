@@ -69,6 +69,13 @@ Reading Records(const std::string& key, const Readings& inner, const FieldName& 
     return {Reading::Records, key, field.value_or(key), inner, ToJson(Element{})};
 }
 
+/// Many steps.
+template <typename... Steps>
+Readings InTurn(const Steps&... steps)
+{
+    return {steps...};
+}
+
 /// Follows the steps as a plain reader that shares no code with the library. @return 0 or -1
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines);
 
