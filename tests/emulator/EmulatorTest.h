@@ -3,6 +3,8 @@
 #include "PlatformEmulator.h"
 #include "TestClient.h"
 
+#include <support/Rows.h>
+
 #include <gtest/gtest.h>
 
 inline std::unique_ptr<TestClient> ClientOf(const emulator::PlatformEmulator& platform,
@@ -38,12 +40,7 @@ private:
     }
 };
 
-/// The name of a table row as the name of its test.
-template <typename Row>
-std::string RowName(const testing::TestParamInfo<Row>& info)
-{
-    return info.param.name;
-}
+using testing_support::RowName;
 
 inline std::string SchemeName(const testing::TestParamInfo<TestClient::Scheme>& scheme)
 {

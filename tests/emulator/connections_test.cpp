@@ -251,7 +251,7 @@ INSTANTIATE_TEST_SUITE_P(
         NoPort{"OfNobodyHereIpv6", "2001:db8::1",
                "cannot listen on [2001:db8::1]:0: this machine does not have the address"},
         NoPort{"Unknown", "no.such.host.invalid", "cannot listen on no.such.host.invalid:0: the address is unknown"}),
-    RowName<NoPort>);
+    RowName());
 
 TEST(PortTest, SaysThatAPortIsTaken)
 {

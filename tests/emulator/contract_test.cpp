@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
                         "{application/json: {schema: {oneOf: [{type: object}]}}}}}}}}",
                         "", "code 1000"},
         RefusedContract{"NoReply", "paths: {/t: {get: {operationId: T}}}", "", "a.yaml: /t/get"}),
-    RowName<RefusedContract>);
+    RowName());
 
 TEST(ContractTest, ReferencesBetweenFilesAreResolved)
 {
@@ -320,7 +320,7 @@ INSTANTIATE_TEST_SUITE_P(Seeds, RefusedSeedTest,
                                          RefusedSeed{"ScalesWhatIsNotThere",
                                                      R"({"scale": {"lists": ["missing"], "identifiers": []}})",
                                                      "missing"}),
-                         RowName<RefusedSeed>);
+                         RowName());
 
 TEST(SeedTest, FolderWithoutSeedsIsRefused)
 {

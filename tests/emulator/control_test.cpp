@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
                     RefusedFault{"HeadersNoObject", R"({"kind":"status","headers":[]})", "headers"},
                     RefusedFault{"HeaderNoText", R"({"kind":"status","headers":{"A":1}})", "headers"}),
-    RowName<RefusedFault>);
+    RowName());
 
 TEST_F(ControlTest, RequestsAreHandedOutAsTheyCame)
 {

@@ -1,6 +1,8 @@
 #include "Schema.h"
 #include "Text.h"
 
+#include <support/Rows.h>
+
 #include <gtest/gtest.h>
 
 using emulator::Json;
@@ -13,11 +15,6 @@ struct Conversion {
     const char* value;
     const char* converted;
 };
-
-std::string NameOf(const testing::TestParamInfo<Conversion>& row)
-{
-    return row.param.name;
-}
 
 }  // namespace
 
@@ -47,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
         Conversion{"WithoutSchemaItStays", "{}", R"({"a":"1"})", R"({"a":"1"})"},
         Conversion{"DeepInside", R"({"properties":{"l":{"items":{"properties":{"n":{"type":"integer"}}}}}})",
                    R"({"l":[{"n":"1","t":"1"},{"n":"2"}],"x":"1"})", R"({"l":[{"n":1,"t":"1"},{"n":2}],"x":"1"})"}),
-    NameOf);
+    testing_support::RowName());
 
 class ProjectionTest : public testing::TestWithParam<Conversion> {};
 
@@ -66,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Conversion{"ElementsOfAList", R"({"items":{"additionalProperties":false}})", R"([{"a":1},2])",
                                "[{},2]"},
                     Conversion{"TypesStay", R"({"type":"integer"})", R"("1")", R"("1")"}),
-    NameOf);
+    testing_support::RowName());
 
 TEST(TextTest, PercentDecoding)
 {

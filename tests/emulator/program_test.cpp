@@ -2,6 +2,7 @@
 #include "TestClient.h"
 
 #include <support/Program.h>
+#include <support/Rows.h>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -51,11 +52,6 @@ struct BadOption {
     const char* message;
 };
 
-std::string NameOf(const testing::TestParamInfo<BadOption>& row)
-{
-    return row.param.name;
-}
-
 }  // namespace
 
 class BadOptionTest : public testing::TestWithParam<BadOption> {};
@@ -82,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"SeedMissing", {"--seed", "/nowhere"}, "/nowhere"},
                     BadOption{"SeedEmpty", {"--seed", "/proc/self/task"}, "no seed file"},
                     BadOption{"AddressNotOurs", {"--address", "192.0.2.1"}, "cannot listen on 192.0.2.1"}),
-    NameOf);
+    testing_support::RowName());
 
 TEST(ProgramTest, HelpAndVersion)
 {

@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(
         ReadBack{"CardConfiguration", "/obms/api/v1.1/acs/config/desfire",
                  R"({"enableDesfire":"0","enableReadEncryptContent":"1"})",
                  R"({"enableDesfire":false,"enableReadEncryptContent":true})", ""}),
-    RowName<ReadBack>);
+    RowName());
 
 class StateTest : public EmulatorTableTest {
 protected:
@@ -298,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "OBMS.PersonResetAntiPass", R"({"personId":"5003"})"},
         Remembered{"Snapshot", "/obms/api/v1.1/alarm-host/zone/72/snapshot", R"({"action":-1})",
                    "OBMS.AlarmHostZoneSnapShot", R"({"zoneId":"72"})"}),
-    RowName<Remembered>);
+    RowName());
 
 struct Read {
     const char* name;
@@ -416,7 +416,7 @@ INSTANTIATE_TEST_SUITE_P(
             "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=HALL", "", "",
             R"({"totalCount":1,"pageData":[{"id":"302","deviceCode":"1000042","deviceName":"Hall reader","deviceIp":"192.168.20.42","reason":1}]})"},
         Read{"DeviceOffline", "GET", "/omms/api/v1.1/device/1000022", "", "/statusName", R"("Offline")"}),
-    RowName<Read>);
+    RowName());
 
 TEST_F(StateTest, SessionsAndTokensAreNewEachTime)
 {

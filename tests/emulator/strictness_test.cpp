@@ -167,7 +167,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"UnknownZone", "POST", "/obms/api/v1.1/alarm-host/zone/9/snapshot", R"({"action":1})", 1005, "'9'"},
         Refused{"UnknownChannelMaintained", "GET", "/omms/api/v1.1/channel/x", "", 1005, "'x'"},
         Refused{"UnknownDeviceMaintained", "GET", "/omms/api/v1.1/device/x", "", 1005, "'x'"}),
-    RowName<Refused>);
+    RowName());
 
 class StrictnessTest : public EmulatorTest {};
 
