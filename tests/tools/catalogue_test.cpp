@@ -85,12 +85,23 @@ private:
     }
 };
 
+namespace TEST {
+
+inline constexpr Call<&CTESTModule::PacketByReference, &CTESTModule::ParesBicycle> TakeReferences;
+inline constexpr Call<&CTESTModule::PackeByValue> TakeValues;
+inline constexpr Call<&CTESTModule::PackWithoutServer> TakeNoServer;
+inline constexpr Call<&CTESTModule::PackWithoutServer, &CTESTModule::ParesBicycle> ReadBicycle;
+inline constexpr Call<&CTESTModule::PacketFails> Fail;
+
+}  // namespace TEST
+
 }  // namespace APIModule
 
 namespace {
 
 using APIModule::Bicycle;
 using TestModule = APIModule::CTESTModule;
+namespace TEST = APIModule::TEST;
 
 json Parsed(const char* text)
 {
@@ -245,7 +256,7 @@ class Arguments : public testing::TestWithParam<ArgumentRow> {};
 
 TEST_P(Arguments, AreRefusedWithAReason)
 {
-    const auto call = Entry<&TestModule::PacketByReference>("Takes references", "flag", "bicycle", "number");
+    const auto call = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
     try {
         catalogue::ReadArguments(call, Parsed(GetParam().json));
         FAIL() << "taken: " << GetParam().json;
@@ -257,12 +268,12 @@ TEST_P(Arguments, AreRefusedWithAReason)
 INSTANTIATE_TEST_SUITE_P(
     Rows, Arguments,
     testing::Values(ArgumentRow{"NoObject", "[true]",
-                                "the arguments of TEST.ByReference must be a JSON object that holds each under its "
+                                "the arguments of TEST.TakeReferences must be a JSON object that holds each under its "
                                 "name"},
                     ArgumentRow{"Unknown", R"({"flag": true, "colour": "red"})",
-                                "TEST.ByReference has no argument \"colour\": it takes flag, bicycle, number"},
+                                "TEST.TakeReferences has no argument \"colour\": it takes flag, bicycle, number"},
                     ArgumentRow{"Missing", R"({"flag": true, "number": 1})",
-                                "TEST.ByReference needs the argument \"bicycle\" (Bicycle)"},
+                                "TEST.TakeReferences needs the argument \"bicycle\" (Bicycle)"},
                     ArgumentRow{"WrongType", R"({"flag": 1, "bicycle": {}, "number": 1})",
                                 "/flag: expected bool, got integer"},
                     ArgumentRow{"WrongTypeWithin", R"({"flag": true, "bicycle": {"gears": ""}, "number": 1})",
@@ -272,35 +283,34 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Entries, AnUnknownArgumentOfACallWithoutAnyIsRefused)
 {
     try {
-        catalogue::ReadArguments(Entry<&TestModule::PacketFails>("Fails"), {{"flag", true}});
+        catalogue::ReadArguments(Entry<TEST::Fail>("Fails"), {{"flag", true}});
         FAIL();
     } catch (const Mismatch& mismatch) {
-        EXPECT_STREQ(mismatch.what(), "TEST.Fails has no argument \"flag\": it takes none");
+        EXPECT_STREQ(mismatch.what(), "TEST.Fail has no argument \"flag\": it takes none");
     }
 }
 
-TEST(Entries, NamesFollowFromTheFunctions)
+TEST(Entries, NamesFollowFromTheConstant)
 {
-    const auto call = Entry<&TestModule::PackeByValue, &TestModule::ParesBicycle>("Takes values", "names");
-    EXPECT_EQ(call.name, "TEST.ByValue");
+    const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
+    EXPECT_EQ(call.name, "TEST.ReadBicycle");
     EXPECT_EQ(call.family, "TEST");
-    EXPECT_EQ(call.packName, "APIModule::CTESTModule::PackeByValue");
+    EXPECT_EQ(call.packName, "APIModule::CTESTModule::PackWithoutServer");
     EXPECT_EQ(call.parseName, "APIModule::CTESTModule::ParesBicycle");
-    EXPECT_EQ((Entry<&TestModule::PackWithoutServer>("Takes no server", "names").name), "TEST.WithoutServer");
+    EXPECT_EQ(Entry<TEST::Fail>("Fails").parseName, "");
 }
 
 TEST(Entries, TypesFollowFromTheSignatures)
 {
-    const auto call = Entry<&TestModule::PacketByReference, &TestModule::ParesBicycle>("Takes references", "flag",
-                                                                                       "bicycle", "number");
+    const auto call = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
     ASSERT_EQ(call.arguments.size(), 3U);
     EXPECT_EQ(call.arguments[0].type, &TypeOf<bool>());
     EXPECT_EQ(call.arguments[1].type, &TypeOf<Bicycle>());
     EXPECT_EQ(call.arguments[2].type, &TypeOf<int>());
     EXPECT_EQ(call.result, &TypeOf<Bicycle>());
-    EXPECT_EQ(Entry<&TestModule::PacketFails>("Fails").result, nullptr);
+    EXPECT_EQ(Entry<TEST::Fail>("Fails").result, nullptr);
     EXPECT_TRUE(call.takesServerId);
-    EXPECT_FALSE((Entry<&TestModule::PackWithoutServer>("Takes no server", "names").takesServerId));
+    EXPECT_FALSE((Entry<TEST::TakeNoServer>("Takes no server", "names").takesServerId));
 }
 
 TEST(Calls, AnUnknownNameIsNotFound)
@@ -348,7 +358,7 @@ protected:
 
 TEST_F(Runs, ArgumentsReachThePack)
 {
-    const auto byReference = Entry<&TestModule::PacketByReference>("Takes references", "flag", "bicycle", "number");
+    const auto byReference = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
     const json arguments = {{"flag", true}, {"bicycle", {{"colour", "red"}}}, {"number", 5}};
     catalogue::RunSettings settings;
     settings.serverId = 0;
@@ -356,17 +366,16 @@ TEST_F(Runs, ArgumentsReachThePack)
     EXPECT_EQ(TestModule::got, (json{{"flag", true}, {"colour", "red"}, {"number", 5}, {"serverId", 0}}));
 
     const json names = {{"names", {"a", "b"}}};
-    EXPECT_TRUE(Run(Entry<&TestModule::PackeByValue>("Takes values", "names"), names, Envelope("{}")).Succeeded());
+    EXPECT_TRUE(Run(Entry<TEST::TakeValues>("Takes values", "names"), names, Envelope("{}")).Succeeded());
     EXPECT_EQ(TestModule::got, (json{{"names", {"a", "b"}}, {"serverId", -1}}));
 
-    EXPECT_TRUE(
-        Run(Entry<&TestModule::PackWithoutServer>("Takes no server", "names"), names, Envelope("{}")).Succeeded());
+    EXPECT_TRUE(Run(Entry<TEST::TakeNoServer>("Takes no server", "names"), names, Envelope("{}")).Succeeded());
     EXPECT_EQ(TestModule::got, names);
 }
 
 TEST_F(Runs, TheRecordComesBack)
 {
-    const auto call = Entry<&TestModule::PackWithoutServer, &TestModule::ParesBicycle>("Reads a bicycle", "names");
+    const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
     const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21, "colour": "blue"})"));
     EXPECT_TRUE(outcome.Succeeded());
     EXPECT_EQ(outcome.result, 0);
@@ -377,7 +386,7 @@ TEST_F(Runs, TheRecordComesBack)
 
 TEST_F(Runs, AFailedParseLeavesWhatItRead)
 {
-    const auto call = Entry<&TestModule::PackWithoutServer, &TestModule::ParesBicycle>("Reads a bicycle", "names");
+    const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
     const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21})"));
     EXPECT_FALSE(outcome.Succeeded());
     EXPECT_EQ(outcome.result, -1);
@@ -388,7 +397,7 @@ TEST_F(Runs, AFailedParseLeavesWhatItRead)
 
 TEST_F(Runs, DataForACallWithoutAParseIsConfirmed)
 {
-    const auto call = Entry<&TestModule::PackWithoutServer>("Reads nothing", "names");
+    const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
     const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21})"));
     EXPECT_TRUE(outcome.Succeeded());
     EXPECT_TRUE(outcome.record.is_null());
@@ -396,7 +405,7 @@ TEST_F(Runs, DataForACallWithoutAParseIsConfirmed)
 
 TEST_F(Runs, AFailingPackSaysNothing)
 {
-    const auto outcome = catalogue::Run(Entry<&TestModule::PacketFails>("Fails"), {}, {});
+    const auto outcome = catalogue::Run(Entry<TEST::Fail>("Fails"), {}, {});
     EXPECT_FALSE(outcome.Succeeded());
     EXPECT_EQ(outcome.result, -1);
     EXPECT_EQ(outcome.notification, "");
@@ -404,7 +413,7 @@ TEST_F(Runs, AFailingPackSaysNothing)
 
 TEST_F(Runs, StatusesAndCodesComeBackUnnotified)
 {
-    const auto call = Entry<&TestModule::PackWithoutServer>("Reads nothing", "names");
+    const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
     const json arguments = {{"names", json::array()}};
     EXPECT_EQ(Run(call, arguments, HttpAnswer(503, "")).result, 503);
     const auto outcome = Run(call, arguments, HttpAnswer(200, R"({"code": 0, "desc": "", "data": {}})"));
@@ -417,8 +426,8 @@ TEST_F(Runs, TheWaitCanBeShortened)
 {
     catalogue::RunSettings settings;
     settings.timeoutSeconds = 1;
-    const auto outcome = Run(Entry<&TestModule::PackWithoutServer>("Reads nothing", "names"),
-                             {{"names", json::array()}}, RawAnswer{}, settings);
+    const auto outcome =
+        Run(Entry<TEST::TakeNoServer>("Reads nothing", "names"), {{"names", json::array()}}, RawAnswer{}, settings);
     EXPECT_EQ(outcome.result, -1);
     EXPECT_EQ(outcome.notification, CAPIModule::GetErroCodeInfor({}, -101, false).toStdString());
 }

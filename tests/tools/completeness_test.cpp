@@ -1,4 +1,4 @@
-// The catalogue against what the library really exports.
+// The catalogue against what the library exports and declares.
 #include <catalogue/Call.h>
 
 #include <gtest/gtest.h>
@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <iterator>
 #include <memory>
 #include <regex>
@@ -49,6 +51,25 @@ std::set<std::string> CataloguedFunctions()
     return functions;
 }
 
+/// "BRMS.GetTimeSyncConfig" for each constant in the library's headers.
+std::multiset<std::string> DeclaredCalls()
+{
+    static const std::regex constant(R"(inline constexpr Call<[^;]*> (\w+);)");
+    std::multiset<std::string> calls;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(HEADERS_FOLDER)) {
+        const std::string family = file.path().parent_path().filename();
+        if (file.path().filename() != family + "Calls.h") {
+            continue;
+        }
+        std::ifstream stream(file.path());
+        const std::string text(std::istreambuf_iterator<char>(stream), {});
+        for (std::sregex_iterator match(text.begin(), text.end(), constant), end; match != end; ++match) {
+            calls.insert(family + "." + match->str(1));
+        }
+    }
+    return calls;
+}
+
 std::vector<std::string> Difference(const std::set<std::string>& left, const std::set<std::string>& right)
 {
     std::vector<std::string> difference;
@@ -63,6 +84,16 @@ TEST(Completeness, TheCatalogueHasWhatTheLibraryExports)
     EXPECT_EQ(exported.count("APIModule::CBRMSModule::PacketGetTimeSyncConfig"), 1U) << "is this the library?";
     EXPECT_EQ(Difference(exported, catalogued), std::vector<std::string>()) << "not in the catalogue";
     EXPECT_EQ(Difference(catalogued, exported), std::vector<std::string>()) << "not in the library";
+}
+
+TEST(Completeness, EveryConstantIsOneCallOfTheCatalogue)
+{
+    std::multiset<std::string> catalogued;
+    for (const catalogue::Call& call : catalogue::Calls()) {
+        catalogued.insert(call.name);
+    }
+    EXPECT_EQ(catalogued.size(), 85U);
+    EXPECT_EQ(catalogued, DeclaredCalls());
 }
 
 TEST(Completeness, EveryPackIsOneCall)

@@ -18,7 +18,7 @@ struct Argument {
     const Type* type;
 };
 
-/// A call of the library: a Pack and, where its reply carries data for the caller, a Parse.
+/// A call of the library.
 struct Call {
     std::string name;            ///< "BRMS.GetTimeSyncConfig"
     std::string family;          ///< "BRMS"

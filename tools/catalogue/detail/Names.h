@@ -14,6 +14,13 @@ constexpr std::string_view ParameterIn(std::string_view function)
     return parameter.substr(parameter.front() == '&' ? 1 : 0);
 }
 
+/// "APIModule::BRMS::GetTimeSyncConfig"
+template <const auto& kConstant>
+constexpr std::string_view ConstantName()
+{
+    return ParameterIn(__PRETTY_FUNCTION__);
+}
+
 /// "APIModule::CBRMSModule::PacketGetTimeSyncConfig"
 template <auto Function>
 constexpr std::string_view FunctionName()

@@ -1,19 +1,19 @@
 #include "../detail/Entry.h"
 #include "Families.h"
 
-#include <IAMS/IAMSModule.h>
+#include <IAMS/IAMSCalls.h>
 
 namespace catalogue {
 
 using detail::AddSubject;
 using detail::Entry;
-using Iams = APIModule::CIAMSModule;
+namespace IAMS = APIModule::IAMS;
 
 void AddIamsCalls(std::vector<Call>& calls)
 {
     AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Analysis tasks"),
                {
-                   Entry<&Iams::PacketSetAnalysisTaskUploadFailed>(
+                   Entry<IAMS::SetAnalysisTaskUploadFailed>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Marks the file uploads of tasks as failed"), "taskIds"),
                });
 }

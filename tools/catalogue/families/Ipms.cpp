@@ -1,28 +1,28 @@
 #include "../detail/Entry.h"
 #include "Families.h"
 
-#include <IPMS/IPMSModule.h>
+#include <IPMS/IPMSCalls.h>
 #include <IPMS/ParkingFields.h>
 
 namespace catalogue {
 
 using detail::AddSubject;
 using detail::Entry;
-using Ipms = APIModule::CIPMSModule;
+namespace IPMS = APIModule::IPMS;
 
 void AddIpmsCalls(std::vector<Call>& calls)
 {
     AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Parking"),
                {
-                   Entry<&Ipms::PacketGetSimpleParkingLots, &Ipms::ParseGetSimpleParkingLots>(
+                   Entry<IPMS::GetSimpleParkingLots>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists parking lots with their positions and points"),
                        "parkingLotIds", "mode"),
-                   Entry<&Ipms::PacketGetDetailParkingLots, &Ipms::ParseGetDetailParkingLots>(
+                   Entry<IPMS::GetDetailParkingLots>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists parking lots with their spaces and channels"),
                        "parkingLotIds", "orgCode", "mode"),
-                   Entry<&Ipms::PacketGetParkingOrganization, &Ipms::ParseGetParkingOrganization>(
+                   Entry<IPMS::GetParkingOrganization>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists the organisations of the parking lots")),
-                   Entry<&Ipms::PacketUpdateVehicleCaptureRecord>(
+                   Entry<IPMS::UpdateVehicleCaptureRecord>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Corrects the plate number of a capture record"), "info"),
                });
 }

@@ -3,47 +3,47 @@
 
 #include <OBMS/AccessControlFields.h>
 #include <OBMS/CardIntercomFields.h>
-#include <OBMS/OBMSModule.h>
+#include <OBMS/OBMSCalls.h>
 
 namespace catalogue {
 
 using detail::AddSubject;
 using detail::Entry;
-using Obms = APIModule::COBMSModule;
+namespace OBMS = APIModule::OBMS;
 
 void AddObmsCalls(std::vector<Call>& calls)
 {
     AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Access-control persons and rules"),
                {
-                   Entry<&Obms::PacketGetPageAccessAuthorizePersons, &Obms::ParseGetPageAccessAuthorizePersons>(
+                   Entry<OBMS::GetPageAccessAuthorizePersons>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Reads one page of the persons with access"), "req"),
-                   Entry<&Obms::PacketGetManagePersons, &Obms::ParseGetManagePersons>(
+                   Entry<OBMS::GetManagePersons>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists the persons managed on a device"), "req"),
-                   Entry<&Obms::PacketSetManagePersons>(
+                   Entry<OBMS::SetManagePersons>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Replaces the persons managed on a device"), "req"),
-                   Entry<&Obms::PackGetPointRules, &Obms::ParesGetPointRules>(
+                   Entry<OBMS::GetPointRules>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists the rules of an access point"), "req"),
-                   Entry<&Obms::PackPersonResetAntiPass>(
+                   Entry<OBMS::PersonResetAntiPass>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Resets the anti-pass time of a person"), "personId"),
                });
-    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Cards, intercom and alarm hosts"),
-               {
-                   Entry<&Obms::PackGetConfigDesfireInfo, &Obms::ParseGetConfigDesfireInfo>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the card configuration")),
-                   Entry<&Obms::PackUpdateConfigDesfireInfo>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the card configuration"), "param"),
-                   Entry<&Obms::PackGetPageConfigDesfireFailInfo, &Obms::ParseGetPageConfigDesfireFailInfo>(
-                       QT_TRANSLATE_NOOP("catalogue::Call",
-                                         "Reads one page of the devices that failed to take the card configuration"),
-                       "req"),
-                   Entry<&Obms::PackReissueConfigDesfire>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Sends the card configuration to those devices again")),
-                   Entry<&Obms::PackDeleteAddressBooks>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Deletes contacts of an outdoor station"), "param"),
-                   Entry<&Obms::PacketAlarmHostZoneSnapShot, &Obms::ParseAlarmHostZoneSnapShot>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Has a snapshot taken of an alarm host's zone"), "zoneId",
-                       "action"),
-               });
+    AddSubject(
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "Cards, intercom and alarm hosts"),
+        {
+            Entry<OBMS::GetConfigDesfireInfo>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads the card configuration")),
+            Entry<OBMS::UpdateConfigDesfireInfo>(QT_TRANSLATE_NOOP("catalogue::Call", "Writes the card configuration"),
+                                                 "param"),
+            Entry<OBMS::GetPageConfigDesfireFailInfo>(
+                QT_TRANSLATE_NOOP("catalogue::Call",
+                                  "Reads one page of the devices that failed to take the card configuration"),
+                "req"),
+            Entry<OBMS::ReissueConfigDesfire>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Sends the card configuration to those devices again")),
+            Entry<OBMS::DeleteAddressBooks>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Deletes contacts of an outdoor station"), "param"),
+            Entry<OBMS::AlarmHostZoneSnapShot>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Has a snapshot taken of an alarm host's zone"), "zoneId",
+                "action"),
+        });
 }
 
 }  // namespace catalogue

@@ -2,23 +2,22 @@
 #include "Families.h"
 
 #include <OMMS/MaintenanceFields.h>
-#include <OMMS/OMMSModule.h>
+#include <OMMS/OMMSCalls.h>
 
 namespace catalogue {
 
 using detail::AddSubject;
 using detail::Entry;
-using Omms = APIModule::COMMSModule;
+namespace OMMS = APIModule::OMMS;
 
 void AddOmmsCalls(std::vector<Call>& calls)
 {
     AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Maintenance"),
                {
-                   Entry<&Omms::PacketGetAlertTypes, &Omms::ParseGetAlertTypes>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the alert types")),
-                   Entry<&Omms::PacketGetChannelInfo, &Omms::ParseGetChannelInfo>(
+                   Entry<OMMS::GetAlertTypes>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the alert types")),
+                   Entry<OMMS::GetChannelInfo>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Reads the maintenance view of a channel"), "channelId"),
-                   Entry<&Omms::PacketGetDeviceInfo, &Omms::ParseGetDeviceInfo>(
+                   Entry<OMMS::GetDeviceInfo>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Reads the maintenance view of a device"), "deviceCode"),
                });
 }
