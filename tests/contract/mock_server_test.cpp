@@ -105,11 +105,11 @@ TEST_P(EveryCall, IsTakenAndItsReplyRead)
     const catalogue::Call& call = *catalogue::FindCall(row.call);
     const Json arguments = row.arguments.is_null() ? Json::object() : row.arguments;
     catalogue::RunSettings settings;
-    settings.timeoutSeconds = 60;
+    settings.timeout = std::chrono::seconds(60);
     settings.onPacked = FillEmptyQueryValues;
     Server().Printed();
     const catalogue::Outcome outcome = catalogue::Run(call, catalogue::ReadArguments(call, arguments), settings);
-    EXPECT_TRUE(outcome.Succeeded()) << outcome.result << " " << outcome.notification << "\n" << Server().Printed();
+    EXPECT_TRUE(outcome) << outcome.Code() << " " << outcome.Text().toStdString() << "\n" << Server().Printed();
     if (call.parse != nullptr) {
         const Json& example = Document().operation(call.name).replyExamples.front();
         EXPECT_EQ(outcome.record, Read(call, example.at("data")).record);

@@ -35,7 +35,7 @@ protected:
             return state.contains(place) ? state.at(place) : Json();
         }
         const catalogue::Outcome outcome = Run(trace.call, trace.arguments);
-        return outcome.Succeeded() ? outcome.record : Json{{"failed", outcome.result}};
+        return outcome ? outcome.record : Json{{"failed", outcome.Code()}};
     }
 
     static std::string Described(const Trace& trace)
@@ -55,9 +55,9 @@ TEST_P(EveryCall, GivesWhatThePlatformHoldsAndChangesIt)
     const catalogue::Outcome outcome = Run(row.call, row.arguments);
     const std::vector<emulator::RecordedRequest> requests = Platform().requests();
     ASSERT_EQ(requests.size(), 1U);
-    EXPECT_EQ(outcome.result, 0) << outcome.notification << "\n" << requests.front().toJson().dump(4);
-    EXPECT_TRUE(outcome.confirmed);
-    EXPECT_EQ(outcome.notification, "");
+    EXPECT_TRUE(outcome) << outcome.Text().toStdString() << "\n" << requests.front().toJson().dump(4);
+    EXPECT_EQ(outcome.Code(), 0);
+    EXPECT_EQ(notifications.Take(), QStringList());
     if (row.record) {
         EXPECT_EQ(outcome.record, row.record(Platform().state()));
         EXPECT_NE(outcome.record, FreshRecord(row.call)) << "a record that nothing was read into looks the same";

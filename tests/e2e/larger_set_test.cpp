@@ -42,7 +42,7 @@ TEST_P(LargerList, IsReadWhole)
 {
     const Row& row = RowOf(GetParam().call);
     const catalogue::Outcome outcome = Run(row.call, row.arguments);
-    ASSERT_TRUE(outcome.Succeeded()) << outcome.result << outcome.notification;
+    ASSERT_TRUE(outcome) << outcome.Code() << outcome.Text().toStdString();
     EXPECT_EQ(outcome.record, row.record(Platform().state()));
     EXPECT_EQ(outcome.record.at(Json::json_pointer(GetParam().inside)).size(), kScale * SeededCount(GetParam().seed));
 }
@@ -63,7 +63,7 @@ TEST_F(LargerSet, AllDevicesAreCounted)
 {
     const Row& row = RowOf("BRMS.GetDeviceCategoryCount");
     const catalogue::Outcome outcome = Run(row.call, row.arguments);
-    ASSERT_TRUE(outcome.Succeeded()) << outcome.result << outcome.notification;
+    ASSERT_TRUE(outcome) << outcome.Code() << outcome.Text().toStdString();
     EXPECT_EQ(outcome.record, row.record(Platform().state()));
     std::size_t devices = 0;
     for (const Json& category : outcome.record) {
@@ -95,7 +95,7 @@ TEST_P(LargerPages, AddUpToTheWhole)
     for (std::size_t page = 1; all.size() < expected.size(); ++page) {
         const Json query = {{"page", page}, {"pageSize", kPageSize}};
         const catalogue::Outcome outcome = Run(row.call, {{row.argument, query}});
-        ASSERT_TRUE(outcome.Succeeded()) << outcome.result << outcome.notification;
+        ASSERT_TRUE(outcome) << outcome.Code() << outcome.Text().toStdString();
         const Json& elements = outcome.record.at(Json::json_pointer(row.inside));
         ASSERT_EQ(elements.size(), std::min(kPageSize, expected.size() - all.size())) << "page " << page;
         all.insert(all.end(), elements.begin(), elements.end());

@@ -25,7 +25,7 @@ TEST_P(Keyword, GoesIntoTheRequest)
     const catalogue::Outcome outcome = Run(GetParam().call, GetParam().arguments);
     ASSERT_EQ(Platform().requests().size(), 1U);
     EXPECT_EQ(Platform().requests().front().target, GetParam().target);
-    EXPECT_EQ(outcome.result, GetParam().result) << outcome.notification;
+    EXPECT_EQ(outcome.Code(), GetParam().result) << outcome.Text().toStdString();
 }
 
 Json Query(const std::string& keyword)
@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(PercentSign, Keyword,
 TEST_F(EndToEnd, AKeywordInABodyArrivesWhole)
 {
     const catalogue::Outcome outcome = Run("OBMS.GetPageAccessAuthorizePersons", {{"req", Query("a&b#c%2")}});
-    EXPECT_EQ(outcome.result, 0) << outcome.notification;
+    EXPECT_TRUE(outcome) << outcome.Text().toStdString();
     ASSERT_EQ(Platform().requests().size(), 1U);
     EXPECT_EQ(Json::parse(Platform().requests().front().body).at("keyword"), "a&b#c%2");
 }
@@ -107,7 +107,7 @@ protected:
         const catalogue::Outcome outcome = Run(call, arguments, settings);
         EXPECT_EQ(Platform().requests().size(), 1U) << call;
         const bool second = Platform().requests().back().header("X-Subject-Token") == users.servers[2].token;
-        EXPECT_EQ(outcome.result == 0, !second) << call << ": " << outcome.notification;
+        EXPECT_EQ(bool(outcome), !second) << call << ": " << outcome.Text().toStdString();
         return second ? 2 : 1;
     }
 };
@@ -142,9 +142,9 @@ TEST_P(UnknownObject, GivesTheCodeOfTheEnvelopeAndChangesNothing)
 {
     const Json before = Platform().state();
     const catalogue::Outcome outcome = Run(GetParam().call, GetParam().arguments);
-    EXPECT_EQ(outcome.result, kUnknownObject);
-    EXPECT_EQ(outcome.notification, "");
-    EXPECT_FALSE(outcome.confirmed);
+    EXPECT_EQ(outcome.End(), APIModule::CallEnd::Refused);
+    EXPECT_EQ(outcome.Code(), kUnknownObject);
+    EXPECT_EQ(notifications.Take(), QStringList());
     EXPECT_EQ(outcome.record, FreshRecord(GetParam().call));
     EXPECT_EQ(Platform().state(), before);
 }

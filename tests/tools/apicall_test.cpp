@@ -396,7 +396,7 @@ TEST_P(Calls, AWrongTokenFails)
     const Ended ended = Apicall(Server() + Words({"--token", "wrong"}) + GetTimeSync());
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.out, "");
-    EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with -1: " + ErrorText(7000) + "\n"))
+    EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 7000: " + ErrorText(7000) + "\n"))
         << ended.err;
 }
 
@@ -406,16 +406,23 @@ TEST_P(Calls, AnEnvelopeCodeFailsWithItsText)
     ExpectFailure(GetTimeSync(), 1003, ErrorText(1003));
 }
 
+TEST_P(Calls, TheServersOwnTextIsQuotedWithoutToken)
+{
+    Spoil({{"kind", "envelope"}, {"code", 1003}, {"desc", std::string("Not \x1b[31mnow, ") + kToken}});
+    ExpectFailure(GetTimeSync(), 1003, ErrorText(1003) + R"(
+apicall: the server says "Not \u001b[31mnow, ******")");
+}
+
 TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
 {
     Spoil({{"kind", "envelope"}, {"code", 987654}});
-    ExpectFailure(GetTimeSync(), 987654, "Operation failed");
+    ExpectFailure(GetTimeSync(), 987654, "Operation failed (987654)");
 }
 
 TEST_P(Calls, AnEnvelopeWithCode0IsNoSuccess)
 {
     Spoil({{"kind", "envelope"}, {"code", 0}});
-    ExpectFailure(GetTimeSync(), 0, "the reply was not confirmed");
+    ExpectFailure(GetTimeSync(), 0, "Operation failed (0)");
 }
 
 TEST_P(Calls, AStatusFailsWithItsText)
@@ -427,13 +434,13 @@ TEST_P(Calls, AStatusFailsWithItsText)
 TEST_P(Calls, DataThatCannotBeReadFails)
 {
     Spoil({{"kind", "text"}, {"body", R"({"code": 1000, "desc": "", "data": {"enable": true}})"}});
-    ExpectFailure(GetTimeSync(), -1, ErrorText(3101));
+    ExpectFailure(GetTimeSync(), 3101, ErrorText(3101) + "\napicall: the reply holds no readable \"startTime\"");
 }
 
 TEST_P(Calls, AnAnswerThatDoesNotComeFailsInTime)
 {
     Spoil({{"kind", "silent"}});
-    ExpectFailure(Words({"--timeout", "1", "BRMS.GetTimeSyncConfig"}), -1, ErrorText(-101));
+    ExpectFailure(Words({"--timeout", "1", "BRMS.GetTimeSyncConfig"}), -101, ErrorText(-101));
 }
 
 TEST_P(Calls, TheTextIsInTheLanguageAskedFor)
@@ -441,7 +448,7 @@ TEST_P(Calls, TheTextIsInTheLanguageAskedFor)
     Spoil({{"kind", "closeBefore"}, {"times", 0}});
     const std::string german = ErrorText(-18, "de");
     EXPECT_NE(german, ErrorText(-18));
-    ExpectFailure(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}), -1, german);
+    ExpectFailure(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}), -18, german);
 }
 
 TEST(Unreachable, ServersFailWithTheTextOfANetworkError)
@@ -455,7 +462,7 @@ TEST(Unreachable, ServersFailWithTheTextOfANetworkError)
                                      QStringLiteral("BRMS.GetTimeSyncConfig")});
         EXPECT_EQ(ended.status, 1);
         EXPECT_EQ(ended.out, "");
-        EXPECT_TRUE(Contains(ended.err, "failed with -1: " + ErrorText(-18) + "\n")) << ended.err;
+        EXPECT_TRUE(Contains(ended.err, "failed with -18: " + ErrorText(-18) + "\n")) << ended.err;
     }
 }
 
@@ -505,7 +512,7 @@ protected:
                      QString::fromLatin1(Digest(ItsCertificate().toDer()).toHex(':')));
         EXPECT_TRUE(Contains(ended.err, line.toStdString()))
             << "expected: " << line.toStdString() << " in: " << ended.err;
-        EXPECT_TRUE(Contains(ended.err, "BRMS.GetDeviceLoginModel failed with -1: " + ErrorText(-18) + "\n"))
+        EXPECT_TRUE(Contains(ended.err, "BRMS.GetDeviceLoginModel failed with -18: " + ErrorText(-18) + "\n"))
             << ended.err;
         EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
         EXPECT_TRUE(m_server.TakeRequests().empty()) << "nothing is sent to a server that is not known";

@@ -9,9 +9,12 @@
 
 #include <nlohmann/json.hpp>
 
+#include <QTest>
+
 #include <set>
 
 using namespace testing_support;
+using APIModule::CallEnd;
 using APIModule::CAPIModule;
 using APIModule::int64;
 using catalogue::Mismatch;
@@ -354,6 +357,8 @@ protected:
     {
         return HttpAnswer(200, R"({"code": 1000, "desc": "", "data": )" + data + "}");
     }
+
+    const json m_noNames = {{"names", json::array()}};
 };
 
 TEST_F(Runs, ArgumentsReachThePack)
@@ -362,74 +367,116 @@ TEST_F(Runs, ArgumentsReachThePack)
     const json arguments = {{"flag", true}, {"bicycle", {{"colour", "red"}}}, {"number", 5}};
     catalogue::RunSettings settings;
     settings.serverId = 0;
-    EXPECT_TRUE(Run(byReference, arguments, Envelope("{}"), settings).Succeeded());
+    EXPECT_TRUE(Run(byReference, arguments, Envelope("{}"), settings));
     EXPECT_EQ(TestModule::got, (json{{"flag", true}, {"colour", "red"}, {"number", 5}, {"serverId", 0}}));
 
     const json names = {{"names", {"a", "b"}}};
-    EXPECT_TRUE(Run(Entry<TEST::TakeValues>("Takes values", "names"), names, Envelope("{}")).Succeeded());
+    EXPECT_TRUE(Run(Entry<TEST::TakeValues>("Takes values", "names"), names, Envelope("{}")));
     EXPECT_EQ(TestModule::got, (json{{"names", {"a", "b"}}, {"serverId", -1}}));
 
-    EXPECT_TRUE(Run(Entry<TEST::TakeNoServer>("Takes no server", "names"), names, Envelope("{}")).Succeeded());
+    EXPECT_TRUE(Run(Entry<TEST::TakeNoServer>("Takes no server", "names"), names, Envelope("{}")));
     EXPECT_EQ(TestModule::got, names);
+}
+
+TEST_F(Runs, ThePackCanBeCalledAlone)
+{
+    users.servers[7] = users.servers[1];
+    const auto call = Entry<TEST::TakeValues>("Takes values", "names");
+    const std::vector<Value> arguments = catalogue::ReadArguments(call, {{"names", {"a"}}});
+    void* const data[] = {arguments.front().Data()};
+    APIModule::RequestParam request;
+    EXPECT_EQ(call.pack(&request, data, 7), 0);
+    EXPECT_EQ(request.strUrl, "/bicycle");
+    EXPECT_EQ(TestModule::got, (json{{"names", {"a"}}, {"serverId", 7}}));
 }
 
 TEST_F(Runs, TheRecordComesBack)
 {
     const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
-    const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21, "colour": "blue"})"));
-    EXPECT_TRUE(outcome.Succeeded());
-    EXPECT_EQ(outcome.result, 0);
+    const auto outcome = Run(call, m_noNames, Envelope(R"({"gears": 21, "colour": "blue", "bell": true})"));
+    EXPECT_TRUE(outcome);
+    EXPECT_EQ(outcome.Code(), 0);
     EXPECT_EQ(outcome.record.at("gears"), 21);
     EXPECT_EQ(outcome.record.at("colour"), "blue");
-    EXPECT_EQ(outcome.notification, "");
+    EXPECT_TRUE(outcome.Data().value(QStringLiteral("bell")).toBool());
 }
 
 TEST_F(Runs, AFailedParseLeavesWhatItRead)
 {
     const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
-    const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21})"));
-    EXPECT_FALSE(outcome.Succeeded());
-    EXPECT_EQ(outcome.result, -1);
-    EXPECT_FALSE(outcome.confirmed);
+    const auto outcome = Run(call, m_noNames, Envelope(R"({"gears": 21})"));
+    EXPECT_FALSE(outcome);
+    EXPECT_EQ(outcome.End(), CallEnd::UnreadableReply);
+    EXPECT_EQ(outcome.Code(), 3101);
     EXPECT_EQ(outcome.record.at("gears"), 21);
-    EXPECT_EQ(outcome.notification, CAPIModule::GetErroCodeInfor({}, 3101, false).toStdString());
 }
 
-TEST_F(Runs, DataForACallWithoutAParseIsConfirmed)
+TEST_F(Runs, DataForACallWithoutAParseIsASuccess)
 {
     const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
-    const auto outcome = Run(call, {{"names", json::array()}}, Envelope(R"({"gears": 21})"));
-    EXPECT_TRUE(outcome.Succeeded());
+    const auto outcome = Run(call, m_noNames, Envelope(R"({"gears": 21})"));
+    EXPECT_TRUE(outcome);
     EXPECT_TRUE(outcome.record.is_null());
 }
 
-TEST_F(Runs, AFailingPackSaysNothing)
+TEST_F(Runs, AFailingPackIsNotPacked)
 {
-    const auto outcome = catalogue::Run(Entry<TEST::Fail>("Fails"), {}, {});
-    EXPECT_FALSE(outcome.Succeeded());
-    EXPECT_EQ(outcome.result, -1);
-    EXPECT_EQ(outcome.notification, "");
+    const auto outcome = catalogue::Run(Entry<TEST::Fail>("Fails"), {});
+    EXPECT_EQ(outcome.End(), CallEnd::NotPacked);
+    EXPECT_EQ(outcome.Code(), -1);
 }
 
 TEST_F(Runs, StatusesAndCodesComeBackUnnotified)
 {
     const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
-    const json arguments = {{"names", json::array()}};
-    EXPECT_EQ(Run(call, arguments, HttpAnswer(503, "")).result, 503);
-    const auto outcome = Run(call, arguments, HttpAnswer(200, R"({"code": 0, "desc": "", "data": {}})"));
-    EXPECT_EQ(outcome.result, 0);
-    EXPECT_FALSE(outcome.Succeeded()) << "code 0 is no success";
-    EXPECT_EQ(outcome.notification, "");
+    EXPECT_EQ(Run(call, m_noNames, HttpAnswer(503, "")).Code(), 503);
+    const auto outcome = Run(call, m_noNames, HttpAnswer(200, R"({"code": 0, "desc": "No", "data": {}})"));
+    EXPECT_EQ(outcome.End(), CallEnd::Refused);
+    EXPECT_EQ(outcome.Code(), 0);
+    EXPECT_EQ(outcome.ServerText(), QStringLiteral("No"));
+    EXPECT_EQ(notifications.Take(), QStringList());
 }
 
 TEST_F(Runs, TheWaitCanBeShortened)
 {
     catalogue::RunSettings settings;
-    settings.timeoutSeconds = 1;
-    const auto outcome =
-        Run(Entry<TEST::TakeNoServer>("Reads nothing", "names"), {{"names", json::array()}}, RawAnswer{}, settings);
-    EXPECT_EQ(outcome.result, -1);
-    EXPECT_EQ(outcome.notification, CAPIModule::GetErroCodeInfor({}, -101, false).toStdString());
+    settings.timeout = std::chrono::milliseconds(50);
+    const auto outcome = Run(Entry<TEST::TakeNoServer>("Reads nothing", "names"), m_noNames, RawAnswer{}, settings);
+    EXPECT_EQ(outcome.End(), CallEnd::TimedOut);
+}
+
+TEST_F(Runs, TheCallerHasTheLastWordOnTheRequestAndSeesTheExchange)
+{
+    catalogue::RunSettings settings;
+    settings.onPacked = [](APIModule::RequestParam& request) { request.strUrl += "?more"; };
+    std::vector<APIModule::ObservedExchange> exchanges;
+    settings.observer = [&exchanges](const APIModule::ObservedExchange& exchange) { exchanges.push_back(exchange); };
+    EXPECT_TRUE(Run(Entry<TEST::TakeNoServer>("Reads nothing", "names"), m_noNames, Envelope("{}"), settings));
+    ASSERT_EQ(exchanges.size(), 1U);
+    EXPECT_TRUE(exchanges.front().url.endsWith(QStringLiteral("/bicycle?more"))) << exchanges.front().url.toStdString();
+    EXPECT_EQ(exchanges.front().nStatus, 200);
+}
+
+TEST_F(Runs, StartedCallsEndInTheirFunctionsOrAreCancelled)
+{
+    RawServer server([](const RawRequest&) { return Envelope(R"({"gears": 21, "colour": "blue"})"); });
+    Use(server);
+    const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
+    const std::vector<Value> arguments = catalogue::ReadArguments(call, m_noNames);
+    QObject context;
+    std::vector<json> records;
+    const auto finished = [&records](const catalogue::Outcome& outcome) {
+        EXPECT_TRUE(outcome);
+        records.push_back(outcome.record);
+    };
+    APIModule::CallHandle cancelled = catalogue::Start(call, arguments, {}, &context, finished);
+    const APIModule::CallHandle kept = catalogue::Start(call, arguments, {}, &context, finished);
+    EXPECT_TRUE(kept.IsRunning());
+    EXPECT_TRUE(records.empty());
+    cancelled.Cancel();
+    EXPECT_TRUE(QTest::qWaitFor([&kept] { return !kept.IsRunning(); }));
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records.front().at("gears"), 21);
 }
 
 }  // namespace

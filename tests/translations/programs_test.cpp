@@ -44,7 +44,7 @@ constexpr Texts kEnglish{
     "Reads one of the client's settings",
     "--seed: there is no folder /nowhere",
     "no seed file in the folder /proc/self/task",
-    "BRMS.GetTimeSyncConfig failed with -1: The server cannot be reached because of a network error",
+    "BRMS.GetTimeSyncConfig failed with -18: The server cannot be reached because of a network error",
 };
 
 constexpr Texts kGerman{
@@ -59,7 +59,7 @@ constexpr Texts kGerman{
     "Liest eine der Einstellungen des Clients",
     "--seed: es gibt keinen Ordner /nowhere",
     "keine Datei mit Anfangsdaten im Ordner /proc/self/task",
-    "BRMS.GetTimeSyncConfig ist fehlgeschlagen mit -1: Der Server ist wegen eines Netzwerkfehlers nicht erreichbar",
+    "BRMS.GetTimeSyncConfig ist fehlgeschlagen mit -18: Der Server ist wegen eines Netzwerkfehlers nicht erreichbar",
 };
 
 constexpr Texts kChinese{
@@ -74,7 +74,7 @@ constexpr Texts kChinese{
     "读取客户端的一项设置",
     "--seed: 文件夹 /nowhere 不存在",
     "文件夹 /proc/self/task 中没有初始数据文件",
-    "BRMS.GetTimeSyncConfig 失败，代码 -1：网络错误，无法连接服务器",
+    "BRMS.GetTimeSyncConfig 失败，代码 -18：网络错误，无法连接服务器",
 };
 
 struct Environment {

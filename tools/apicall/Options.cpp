@@ -60,11 +60,10 @@ Options ReadOptions(int argc, char** argv)
         ->type_name(Filled(Texts::tr("FILE")));
     app.add_option("--language", options.language,
                    Filled(Texts::tr("Language of the server's texts, otherwise English, and of the error texts")));
-    app.add_option("--server-id", options.settings.serverId,
-                   Filled(Texts::tr("Server identifier that the call is made with")))
+    app.add_option("--server-id", options.serverId, Filled(Texts::tr("Server identifier that the call is made with")))
         ->check(translation::InRange(-1, 1))
         ->capture_default_str();
-    app.add_option("--timeout", options.settings.timeoutSeconds,
+    app.add_option("--timeout", options.timeoutSeconds,
                    Filled(Texts::tr("Longest wait, instead of the call's own 10 s")))
         ->check(translation::InRange(1, std::numeric_limits<int>::max()))
         //: Stands for the value of --timeout

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <catalogue/Run.h>
-
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -26,7 +25,8 @@ struct Options {
     std::vector<std::string> pins;            ///< digests as they were given
     std::vector<std::string> authorityFiles;  ///< PEM files
     std::string language;  ///< empty for English of the server and error texts in the program's language
-    catalogue::RunSettings settings;
+    int serverId = -1;
+    std::optional<int> timeoutSeconds;   ///< instead of the call's own
     std::string call;                    ///< name of the call, empty for none
     std::vector<std::string> arguments;  ///< as they were given
     bool list = false;

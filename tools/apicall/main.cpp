@@ -11,7 +11,7 @@
 #include <APIModule.h>
 #include <ErrorLexicon/ErrorLexicon.h>
 
-#include <exception>
+#include <chrono>
 #include <iostream>
 
 namespace {
@@ -34,15 +34,37 @@ const catalogue::Call& NamedCall(const std::string& name)
     return *call;
 }
 
-std::string FailureText(const Outcome& outcome)
+/// What the server or its reply adds to the failure. Characters that would steer a terminal are escaped, and the token
+/// of the session is masked.
+std::string DetailsOf(const Outcome& outcome, const std::string& token)
 {
-    if (outcome.result == 0) {
-        return Filled(Texts::tr("the reply was not confirmed"));
+    const auto quoted = [&token](QString text) {
+        if (!token.empty()) {
+            text.replace(QString::fromStdString(token), QStringLiteral("******"));
+        }
+        return nlohmann::json(text.toStdString()).dump();
+    };
+    std::string details;
+    if (!outcome.ServerText().isEmpty()) {
+        //: %1 is the server's own text in quotation marks
+        details += "apicall: " + Filled(Texts::tr("the server says %1"), quoted(outcome.ServerText())) + "\n";
     }
-    if (!outcome.notification.empty()) {
-        return outcome.notification;
+    if (!outcome.UnreadableKey().isEmpty()) {
+        //: %1 is a key of a JSON object in quotation marks
+        details +=
+            "apicall: " + Filled(Texts::tr("the reply holds no readable %1"), quoted(outcome.UnreadableKey())) + "\n";
     }
-    return APIModule::CAPIModule::GetErroCodeInfor(QString(), outcome.result, false).toStdString();
+    return details;
+}
+
+catalogue::RunSettings SettingsOf(const apicall::Options& options)
+{
+    catalogue::RunSettings settings;
+    settings.serverId = options.serverId;
+    if (options.timeoutSeconds) {
+        settings.timeout = std::chrono::seconds(*options.timeoutSeconds);
+    }
+    return settings;
 }
 
 Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& arguments,
@@ -57,7 +79,7 @@ Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& ar
     library.SetLanguage(options.language.empty() ? "en" : options.language);
     library.SetServerTrust(trust);
     library.Init(&users);
-    Outcome outcome = catalogue::Run(call, arguments, options.settings);
+    Outcome outcome = catalogue::Run(call, arguments, SettingsOf(options));
     library.UnInit();
     return outcome;
 }
@@ -76,12 +98,13 @@ int RunCall(const apicall::Options& options)
         throw WrongUsage(Filled(Texts::tr("--pin and --ca need a server with https://")));
     }
     const Outcome outcome = Run(call, arguments, options, server, trust);
-    if (!outcome.Succeeded()) {
-        const std::string text = FailureText(outcome);
+    if (!outcome) {
         //: %1 is the call, %2 a code, %3 its text
         std::cerr << "apicall: "
-                  << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.result), text)
-                  << std::endl;
+                  << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.Code()),
+                            outcome.Text().toStdString())
+                  << '\n'
+                  << DetailsOf(outcome, options.token) << std::flush;
         return kFailedCall;
     }
     std::cout << outcome.record.dump(4, ' ', false, nlohmann::json::error_handler_t::replace) << std::endl;

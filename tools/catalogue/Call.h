@@ -4,13 +4,23 @@
 
 #include <nlohmann/json_fwd.hpp>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 class QJsonObject;
+class QObject;
+class QWidget;
+
+namespace APIModule {
+class CallHandle;
+}
 
 namespace catalogue {
+
+struct Outcome;
+struct RunSettings;
 
 /// An argument of a Pack, between the request and the server identifier.
 struct Argument {
@@ -32,6 +42,11 @@ struct Call {
 
     int (*pack)(void* pReqParamData, void* const* arguments, int nServerId) = nullptr;
     int (*parse)(const QJsonObject& data, void* record) = nullptr;  ///< null without a Parse
+
+    /// See Run() and Start() of Run.h.
+    Outcome (*run)(void* const* arguments, const RunSettings& settings, QWidget* parent) = nullptr;
+    APIModule::CallHandle (*start)(void* const* arguments, const RunSettings& settings, QObject* context,
+                                   const std::function<void(const Outcome&)>& finished) = nullptr;
 
     [[nodiscard]] const Argument* FindArgument(std::string_view argumentName) const;
 };

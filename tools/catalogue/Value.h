@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace catalogue {
 
@@ -19,7 +20,9 @@ public:
 class Value {
 public:
     /// A fresh value: empty, 0, false, or the defaults of a record's fields.
-    explicit Value(const Type& type) : m_type(&type), m_data(type.make()) {}
+    explicit Value(const Type& type) : Value(type, type.make()) {}
+    /// @p data is a C++ object of the type.
+    Value(const Type& type, std::shared_ptr<void> data) : m_type(&type), m_data(std::move(data)) {}
 
     [[nodiscard]] const Type& GetType() const { return *m_type; }
     /// The C++ object.

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "../Call.h"
+#include "../Run.h"
 #include "TypeOf.h"
-
-#include <Call.h>
 
 #include <array>
 #include <cstddef>
@@ -33,35 +31,89 @@ constexpr std::size_t Size(APIModule::detail::ParameterList<Parameters...> /*par
 /// A call with the names that follow from the one of its constant, "APIModule::BRMS::GetTimeSyncConfig".
 Call NamedCall(std::string_view constantName);
 
-template <const auto& kCall, typename... Parameters, std::size_t... Index>
-Call DescribedCall(const std::array<std::string_view, sizeof...(Parameters)>& argumentNames,
-                   APIModule::detail::ParameterList<Parameters...> /*parameters*/,
-                   std::index_sequence<Index...> /*parameters*/)
+/// What describes a request, with the settings put into it.
+APIModule::detail::RequestParts Adapted(const APIModule::detail::RequestParts& parts, const RunSettings& settings);
+
+template <typename Record>
+APIModule::FixedRequest<Record> Adapted(const APIModule::FixedRequest<Record>& request, const RunSettings& settings)
 {
+    return {Adapted(request.Parts(), settings), request.GetParse()};
+}
+
+template <typename Record>
+Outcome Untyped(const APIModule::Outcome<Record>& outcome)
+{
+    if constexpr (std::is_same_v<Record, APIModule::NoRecord>) {
+        return {outcome, {}};
+    } else {
+        return {outcome, Value(TypeOf<Record>(), std::make_shared<Record>(outcome.Incomplete())).ToJson()};
+    }
+}
+
+/// A call, with its arguments and its record behind pointers.
+template <const auto& kCall, typename Parameters, typename Indices>
+struct Erased;
+
+template <const auto& kCall, typename... Parameters, std::size_t... Index>
+struct Erased<kCall, APIModule::detail::ParameterList<Parameters...>, std::index_sequence<Index...>> {
     using Constant = std::decay_t<decltype(kCall)>;
     using Its = Functions<Constant>;
 
-    Call call = NamedCall(ConstantName<kCall>());
-    call.packName = FunctionName<Its::kPack>();
-    call.takesServerId = Its::Signature::kTakesServerId;
-    call.arguments = {{argumentNames[Index], &TypeOf<std::decay_t<Parameters>>()}...};
-    call.pack = [](void* pReqParamData, [[maybe_unused]] void* const* arguments, [[maybe_unused]] int nServerId) {
+    static int Pack(void* pReqParamData, [[maybe_unused]] void* const* arguments, [[maybe_unused]] int nServerId)
+    {
         if constexpr (Its::Signature::kTakesServerId) {
-            return Its::kPack(pReqParamData, *static_cast<std::decay_t<Parameters>*>(arguments[Index])..., nServerId);
+            return Its::kPack(pReqParamData, Argument<Parameters>(arguments[Index])..., nServerId);
         } else {
-            return Its::kPack(pReqParamData, *static_cast<std::decay_t<Parameters>*>(arguments[Index])...);
+            return Its::kPack(pReqParamData, Argument<Parameters>(arguments[Index])...);
         }
-    };
-    if constexpr (Its::kHasParse) {
-        using Record = typename Constant::Record;
-        call.parseName = FunctionName<Its::kParse>();
-        call.result = &TypeOf<Record>();
-        call.parse = [](const QJsonObject& data, void* record) {
-            return Its::kParse(data, *static_cast<Record*>(record));
-        };
     }
-    return call;
-}
+
+    static int Parse(const QJsonObject& data, void* record)
+    {
+        return Its::kParse(data, *static_cast<typename Constant::Record*>(record));
+    }
+
+    static Outcome Run(void* const* arguments, const RunSettings& settings, QWidget* parent)
+    {
+        return Untyped(APIModule::Run(RequestFor(arguments, settings), parent));
+    }
+
+    static APIModule::CallHandle Start(void* const* arguments, const RunSettings& settings, QObject* context,
+                                       const std::function<void(const Outcome&)>& finished)
+    {
+        return APIModule::Start(RequestFor(arguments, settings), context,
+                                [finished](const auto& outcome) { finished(Untyped(outcome)); });
+    }
+
+    static Call Describe(const std::array<std::string_view, sizeof...(Parameters)>& argumentNames)
+    {
+        Call call = NamedCall(ConstantName<kCall>());
+        call.packName = FunctionName<Its::kPack>();
+        call.takesServerId = Its::Signature::kTakesServerId;
+        call.arguments = {{argumentNames[Index], &TypeOf<std::decay_t<Parameters>>()}...};
+        call.pack = Pack;
+        call.run = Run;
+        call.start = Start;
+        if constexpr (Its::kHasParse) {
+            call.parseName = FunctionName<Its::kParse>();
+            call.result = &TypeOf<typename Constant::Record>();
+            call.parse = Parse;
+        }
+        return call;
+    }
+
+private:
+    template <typename Parameter>
+    static auto& Argument(void* argument)
+    {
+        return *static_cast<std::decay_t<Parameter>*>(argument);
+    }
+
+    static auto RequestFor([[maybe_unused]] void* const* arguments, const RunSettings& settings)
+    {
+        return Adapted(kCall(Argument<Parameters>(arguments[Index])...), settings);
+    }
+};
 
 /// Describes a call of the library: its constant, a line on what it does, and the name of each argument.
 template <const auto& kCall, typename... Names>
@@ -71,8 +123,8 @@ Call Entry(std::string_view summary, Names... argumentNames)
     constexpr std::size_t kArguments = Size(typename Signature::Arguments());
     static_assert(sizeof...(Names) == kArguments, "every argument of a call needs a name");
 
-    Call call = DescribedCall<kCall>({std::string_view(argumentNames)...}, typename Signature::Arguments(),
-                                     std::make_index_sequence<kArguments>());
+    using Its = Erased<kCall, typename Signature::Arguments, std::make_index_sequence<kArguments>>;
+    Call call = Its::Describe({std::string_view(argumentNames)...});
     call.summary = summary;
     return call;
 }
