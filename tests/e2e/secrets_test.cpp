@@ -237,7 +237,9 @@ TEST_F(Secrets, StayOutOfLogsNotificationsFilesAndTheEmulatorsOutput)
         }
     }
     EXPECT_EQ(called.size(), catalogue::Calls().size());
-    EXPECT_EQ(m_codes, (std::set<int>{0, 500, 2001, 7000, -1, -18, -101}));
+    for (const int code : {0, 500, 2001, 7000, -1, -18, -101}) {
+        EXPECT_EQ(m_codes.count(code), 1U) << code;
+    }
     EXPECT_GT(m_inUrl, 20);
     EXPECT_GT(m_inBody, 50);
 

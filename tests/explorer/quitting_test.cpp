@@ -9,11 +9,12 @@
 namespace {
 
 using namespace explorer_test;
+using explorer::Way;
 using testing_support::RawAnswer;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
-class QuittingTest : public ExplorerTest, public testing::WithParamInterface<bool> {};
+class QuittingTest : public ExplorerTest, public testing::WithParamInterface<Way> {};
 
 TEST_P(QuittingTest, TheLastWindowWhileACallWaitsEndsTheProgram)
 {
@@ -23,9 +24,7 @@ TEST_P(QuittingTest, TheLastWindowWhileACallWaitsEndsTheProgram)
         return RawAnswer{};
     });
     Use(server.Port());
-    if (!GetParam()) {
-        WaitInEventLoop();
-    }
+    Use(GetParam());
     constexpr int kLong = 600;  // seconds
     Find<QSpinBox>("timeout").setValue(kLong);
     Choose("BRMS.GetRemoteLogConfig");
@@ -45,11 +44,10 @@ TEST_P(QuittingTest, TheLastWindowWhileACallWaitsEndsTheProgram)
     EXPECT_FALSE(timer.isActive());
     EXPECT_EQ(session->runner.Pending(), 0);
     ASSERT_EQ(outcomes.size(), 1U);
-    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().result, -101);
     EXPECT_LT(outcomes.front().elapsedMilliseconds, kPatience / 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(Waits, QuittingTest, testing::Bool(),
-                         [](const auto& row) { return row.param ? "BehindTheWaitDialog" : "InTheEventLoop"; });
+INSTANTIATE_TEST_SUITE_P(Ways, QuittingTest, testing::ValuesIn(kWays), WayName);
 
 }  // namespace

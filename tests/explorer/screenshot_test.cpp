@@ -159,6 +159,26 @@ TEST_F(ScreenshotTest, Waiting)
     EXPECT_FALSE(timer.isActive());
 }
 
+class WithoutWaitingTest : public ScreenshotTest, public testing::WithParamInterface<Appearance> {};
+
+TEST_P(WithoutWaitingTest, CallsUnderWay)
+{
+    RawServer server([](const RawRequest&) { return RawAnswer{}; });
+    explorer::ApplyAppearance(GetParam());
+    Use(server.Port());
+    Use(explorer::Way::WithoutWaiting);
+    for (const char* call : {"BRMS.GetTimeSyncConfig", "BRMS.GetRemoteLogConfig", "IPMS.GetParkingOrganization"}) {
+        Choose(call);
+        ClickRun();
+    }
+    ASSERT_TRUE(Await([this] { return session->runner.WithoutWaiting().size() == 3; }));
+    Shoot(Window(), GetParam() == Appearance::Dark ? "without-waiting-dark" : "without-waiting-light");
+    explorer::ApplyAppearance(Appearance::Light);
+}
+
+INSTANTIATE_TEST_SUITE_P(Appearances, WithoutWaitingTest, testing::Values(Appearance::Light, Appearance::Dark),
+                         [](const auto& row) { return row.param == Appearance::Dark ? "Dark" : "Light"; });
+
 TEST_F(ScreenshotTest, FilteredCalls)
 {
     ASSERT_TRUE(Await([this] {

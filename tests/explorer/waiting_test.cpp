@@ -2,12 +2,12 @@
 
 #include <OrnGui/OrnWaitDialog.h>
 
-#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -17,6 +17,7 @@
 namespace {
 
 using namespace explorer_test;
+using explorer::Way;
 using testing_support::RawAnswer;
 using testing_support::RawRequest;
 using testing_support::RawServer;
@@ -74,7 +75,7 @@ TEST_F(WaitingTest, ATimeOutIsShown)
     Use(server.Port());
     SetTimeout(1);
     const CallOutcome outcome = Run(kCall);
-    EXPECT_EQ(outcome.result, -1);
+    EXPECT_EQ(outcome.result, -101);
     EXPECT_EQ(outcome.timeoutSeconds, 1);
     EXPECT_GE(outcome.elapsedMilliseconds, 1000);
     EXPECT_LT(outcome.elapsedMilliseconds, 3000);
@@ -90,21 +91,22 @@ TEST_F(WaitingTest, TheWaitDialogIsOverTheWindowAndPaintingGoesOn)
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&ticks] { ++ticks; });
     timer.start(50);
-    RunAnd(server, [this] {
+    bool shown = false;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &shown] {
         const auto* const pDialog = Window().findChild<ORNGUI::OrnWaitDialog*>();
-        ASSERT_NE(pDialog, nullptr);
-        EXPECT_TRUE(pDialog->isModal());
-        EXPECT_TRUE(pDialog->isVisible());
+        shown = shown || (pDialog != nullptr && pDialog->isVisible() && pDialog->isModal());
     });
+    RunAnd(server, [] {});
+    EXPECT_TRUE(shown);
     EXPECT_GE(ticks, 5);
-    EXPECT_TRUE(outcomes.front().waitDialog);
+    EXPECT_EQ(outcomes.front().way, Way::WaitDialog);
 }
 
 TEST_F(WaitingTest, InTheEventLoopInputGoesOn)
 {
     const HoldingServer server;
     Use(server.Port());
-    WaitInEventLoop();
+    Use(Way::EventLoop);
     SetTimeout(1);
     RunAnd(server, [this] {
         EXPECT_EQ(Window().findChild<ORNGUI::OrnWaitDialog*>(), nullptr);
@@ -119,7 +121,7 @@ TEST_F(WaitingTest, ASecondRunEndsInsideTheFirst)
 {
     const HoldingServer server("remote-log");
     Use(server.Port());
-    WaitInEventLoop();
+    Use(Way::EventLoop);
     SetTimeout(2);
     RunAnd(server, [this] {
         Choose("BRMS.GetTimeSyncConfig");
@@ -129,7 +131,7 @@ TEST_F(WaitingTest, ASecondRunEndsInsideTheFirst)
     EXPECT_EQ(outcomes.at(0).call->name, "BRMS.GetTimeSyncConfig");
     EXPECT_TRUE(outcomes.at(0).succeeded);
     EXPECT_EQ(outcomes.at(1).call->name, kCall);
-    EXPECT_EQ(outcomes.at(1).result, -1);
+    EXPECT_EQ(outcomes.at(1).result, -101);
     // Shown is what belongs to the call that is chosen.
     EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
     Choose(kCall);
@@ -143,7 +145,7 @@ TEST_F(WaitingTest, TheSameCallTwiceAtOnceHasTwoResults)
         return ++count == 1 ? Success("{}", 1500) : testing_support::HttpAnswer(503, "");
     });
     Use(server.Port());
-    WaitInEventLoop();
+    Use(Way::EventLoop);
     Choose(kCall);
     ClickRun();
     QTimer timer;
@@ -167,11 +169,11 @@ TEST_F(WaitingTest, ChangingTheServerLeavesTheRunToItsOwn)
     RawServer other([](const RawRequest&) { return Success("{}"); });
     Use(holding.Port());
     const QString name = session->servers.Current().name;
-    WaitInEventLoop();
+    Use(Way::EventLoop);
     SetTimeout(1);
     RunAnd(holding, [this, &other] { Use(other.Port()); });
     ASSERT_EQ(outcomes.size(), 1U);
-    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().result, -101);
     EXPECT_EQ(outcomes.front().server, name);
     EXPECT_TRUE(outcomes.front().request.url.contains(QString::number(holding.Port())));
     EXPECT_TRUE(other.TakeRequests().empty());
@@ -179,31 +181,27 @@ TEST_F(WaitingTest, ChangingTheServerLeavesTheRunToItsOwn)
     EXPECT_EQ(other.TakeRequests().size(), 1U);
 }
 
-class ClosingTest : public WaitingTest, public testing::WithParamInterface<bool> {};
+class ClosingTest : public WaitingTest, public testing::WithParamInterface<Way> {};
 
 TEST_P(ClosingTest, TheWindowWhileACallWaitsDoesNoHarm)
 {
     const HoldingServer server;
     Use(server.Port());
-    if (!GetParam()) {
-        WaitInEventLoop();
-    }
+    Use(GetParam());
     SetTimeout(1);
     RunAnd(server, [this] {
         Window().close();
         EXPECT_FALSE(Window().isVisible());
     });
     ASSERT_EQ(outcomes.size(), 1U);
-    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().result, -101);
 }
 
 TEST_P(ClosingTest, ALanguageThatTakesANewWindowWhileACallWaitsDoesNoHarm)
 {
     const HoldingServer server;
     Use(server.Port());
-    if (!GetParam()) {
-        WaitInEventLoop();
-    }
+    Use(GetParam());
     SetTimeout(1);
     const QPointer<explorer::MainWindow> old = &Window();
     RunAnd(server, [this, &old] {
@@ -211,13 +209,12 @@ TEST_P(ClosingTest, ALanguageThatTakesANewWindowWhileACallWaitsDoesNoHarm)
         EXPECT_NE(old, &Window());
     });
     ASSERT_EQ(outcomes.size(), 1U);
-    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().result, -101);
     EXPECT_TRUE(Await([&old] { return old.isNull(); }));
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Waits, ClosingTest, testing::Bool(),
-                         [](const auto& row) { return row.param ? "BehindTheWaitDialog" : "InTheEventLoop"; });
+INSTANTIATE_TEST_SUITE_P(Ways, ClosingTest, testing::ValuesIn(kWays), WayName);
 
 TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
 {
@@ -231,7 +228,7 @@ TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
     ASSERT_TRUE(Await([&reply] { return reply->isFinished(); }));
     ASSERT_EQ(reply->error(), QNetworkReply::NoError) << reply->readAll().toStdString();
 
-    WaitInEventLoop();
+    Use(Way::EventLoop);
     SetTimeout(60);
     Choose(kCall);
     ClickRun();
@@ -245,24 +242,9 @@ TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
     });
     ASSERT_TRUE(AwaitRuns(1));
     EXPECT_GE(clock.elapsed(), kUnderWay);
-    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().result, -18);
     ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Stopped; }));
     EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
-}
-
-TEST_F(WaitingTest, WhatIsRecordedMayChangeWhileACallWaits)
-{
-    const HoldingServer server("remote-log");
-    Use(server.Port());
-    WaitInEventLoop();
-    SetTimeout(1);
-    RunAnd(server, [this] { Find<QAction>("recordTraffic").trigger(); });
-    ASSERT_EQ(outcomes.size(), 1U);
-    EXPECT_EQ(outcomes.front().result, -1);
-    EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").succeeded);
-    EXPECT_FALSE(outcomes.back().reply);
-    Find<QAction>("recordTraffic").trigger();
-    EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").reply);
 }
 
 TEST_F(WaitingTest, TheParentThatIsDeletedEndsTheWait)
@@ -274,6 +256,7 @@ TEST_F(WaitingTest, TheParentThatIsDeletedEndsTheWait)
     explorer::RunOrder order;
     order.call = catalogue::FindCall(kCall);
     order.server = session->servers.Current();
+    order.way = Way::WaitDialog;
     order.parent = pParent;
     session->runner.Order(order);
     QElapsedTimer clock;
@@ -289,7 +272,104 @@ TEST_F(WaitingTest, TheParentThatIsDeletedEndsTheWait)
     ASSERT_TRUE(AwaitRuns(1));
     ASSERT_TRUE(clock.isValid());
     EXPECT_LT(clock.elapsed(), 5000);  // the call's own time-out is 10 s
-    EXPECT_EQ(outcomes.front().result, -1);
+    EXPECT_EQ(outcomes.front().result, -101);
+}
+
+class WithoutWaitingTest : public WaitingTest {
+protected:
+    void SetUp() override { Use(Way::WithoutWaiting); }
+
+    [[nodiscard]] QList<QPushButton*> CancelButtons() const
+    {
+        QList<QPushButton*> shown;
+        const auto buttons = Find<QWidget>("runningCalls").findChildren<QPushButton*>(QStringLiteral("cancelCall"));
+        for (QPushButton* pButton : buttons) {
+            if (pButton->isVisible()) {
+                shown.append(pButton);
+            }
+        }
+        return shown;
+    }
+
+    void Begin(const char* call)
+    {
+        Choose(call);
+        ClickRun();
+    }
+};
+
+TEST_F(WithoutWaitingTest, SeveralCallsAreUnderWayAndEachResultAppearsWhenItComes)
+{
+    const HoldingServer server("remote-log");
+    Use(server.Port());
+    EXPECT_FALSE(Find<QWidget>("runningCalls").isVisible());
+    Begin(kCall);
+    Begin(kCall);
+    ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
+    EXPECT_EQ(CancelButtons().size(), 2);
+    EXPECT_EQ(TextOf("runState").toStdString(), "2 calls waiting for the server");
+    EXPECT_EQ(Window().findChild<ORNGUI::OrnWaitDialog*>(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+
+    const CallOutcome other = Run("BRMS.GetTimeSyncConfig");
+    EXPECT_TRUE(other.succeeded);
+    EXPECT_EQ(other.way, Way::WithoutWaiting);
+    EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
+    EXPECT_EQ(CancelButtons().size(), 2);
+}
+
+TEST_F(WithoutWaitingTest, EachCallIsCancelledByItsButton)
+{
+    const HoldingServer server("remote-log");
+    Use(server.Port());
+    Begin(kCall);
+    ASSERT_TRUE(Await([&server] { return server.Requests() == 1; }));
+    Choose("BRMS.SetRemoteLogConfig");
+    ClickRun();
+    ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
+    ASSERT_EQ(CancelButtons().size(), 2);
+
+    QTest::mouseClick(CancelButtons().last(), Qt::LeftButton);
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_EQ(outcomes.front().call->name, "BRMS.SetRemoteLogConfig");
+    EXPECT_EQ(outcomes.front().result, -101);
+    EXPECT_EQ(outcomes.front().request.method, QStringLiteral("PUT"));
+    EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Cancelled"));
+    EXPECT_EQ(session->notifications.rowCount(), 0) << "who cancels knows";
+    ASSERT_EQ(CancelButtons().size(), 1);
+
+    QTest::mouseClick(CancelButtons().first(), Qt::LeftButton);
+    ASSERT_EQ(outcomes.size(), 2U);
+    EXPECT_EQ(outcomes.back().call->name, kCall);
+    EXPECT_EQ(session->runner.Pending(), 0);
+    EXPECT_FALSE(Find<QWidget>("runningCalls").isVisible());
+}
+
+TEST_F(WithoutWaitingTest, TheNextWindowListsTheCallsUnderWay)
+{
+    const HoldingServer server;
+    Use(server.Port());
+    Begin(kCall);
+    ASSERT_TRUE(Await([&server] { return server.Requests() == 1; }));
+    emit Window().LanguageChosen(QStringLiteral("de"));
+    ASSERT_EQ(CancelButtons().size(), 1);
+    QTest::mouseClick(CancelButtons().first(), Qt::LeftButton);
+    EXPECT_EQ(outcomes.size(), 1U);
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+TEST_F(WithoutWaitingTest, ArgumentsThatDoNotFitAreRefused)
+{
+    explorer::RunOrder order;
+    order.call = catalogue::FindCall("BRMS.GetLocalSetting");
+    order.server = session->servers.Current();
+    order.way = Way::WithoutWaiting;
+    session->runner.Order(order);
+    ASSERT_TRUE(AwaitRuns(1));
+    EXPECT_FALSE(outcomes.front().succeeded);
+    EXPECT_TRUE(outcomes.front().resultText.contains(QStringLiteral("settingType")));
+    EXPECT_EQ(session->runner.Pending(), 0);
+    EXPECT_TRUE(session->runner.WithoutWaiting().empty());
 }
 
 }  // namespace

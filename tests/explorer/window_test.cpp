@@ -113,13 +113,13 @@ INSTANTIATE_TEST_SUITE_P(
     Servers, FailureTest,
     testing::Values(Failure{"InternalError", 500, "", 500, "GetRemoteLogConfig failed: ", "HTTP 500"},
                     Failure{"NotFound", 404, "", 404, "did not find", "Result 404"},
-                    Failure{"SignedOut", 401, "", -1, "sign in", "HTTP 401"},
+                    Failure{"SignedOut", 401, "", 7000, "sign in", "HTTP 401"},
                     Failure{"EnvelopeCode", 200, "{\"code\": 1002, \"desc\": \"/port: too large\", \"data\": {}}", 1002,
                             "GetRemoteLogConfig failed: ", "The server says: /port: too large"},
                     Failure{"UnknownCode", 200, "{\"code\": 77123, \"desc\": \"?\"}", 77123,
                             "GetRemoteLogConfig failed", "Result 77123"},
                     Failure{"NoEnvelope", 200, "<html>", -1, "GetRemoteLogConfig failed", "HTTP 200"},
-                    Failure{"KeyMissing", 200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}", -1,
+                    Failure{"KeyMissing", 200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}", 3101,
                             "failed: ", "HTTP 200"}),
     [](const auto& row) { return row.param.name; });
 

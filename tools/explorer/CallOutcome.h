@@ -26,20 +26,31 @@ using Headers = QVector<Header>;
 
 /// The request of a call. No session token is in it: the mask stands in its place.
 struct SentRequest {
-    QString method;         ///< "GET", "PUT", "POST" or "DELETE"; empty when the Pack failed
-    QString url;            ///< scheme, host, port, path and query
-    Headers headers;        ///< in the order in which they went
-    QByteArray body;        ///< UTF-8, empty for none
-    bool recorded = false;  ///< the headers were seen on the wire, else they are what the library sets
+    QString method;   ///< "GET", "PUT", "POST" or "DELETE"; empty when there was none to send
+    QString url;      ///< scheme, host, port, path and query
+    Headers headers;  ///< in the order in which they went; empty when nothing was sent
+    QByteArray body;  ///< UTF-8, empty for none
 };
 
-/// The answer as it came over the wire.
+/// The answer of a server.
 struct RawReply {
-    QByteArray statusLine;  ///< "HTTP/1.1 200 OK"
     int status = -1;
     Headers headers;
-    QByteArray body;        ///< without the encodings of the transfer
-    bool complete = false;  ///< else the connection ended or the time was over before
+    QByteArray body;  ///< decompressed
+};
+
+/// When an exchange came how far, in milliseconds since its call was packed.
+struct ExchangeTimes {
+    double sent = 0;  ///< the call had its turn
+    std::optional<double> firstByte;
+    double finished = 0;
+};
+
+/// How a call is run.
+enum class Way {
+    WaitDialog,      ///< waits behind the wait dialog
+    EventLoop,       ///< waits in the event loop, input goes on
+    WithoutWaiting,  ///< begins it; others may be under way at the same time
 };
 
 /// What one run of a call left behind.
@@ -48,17 +59,18 @@ struct CallOutcome {
     QJsonObject arguments;
     QString server;  ///< the name of the server that was asked
     QDateTime started;
-    double elapsedMilliseconds = 0;
+    double elapsedMilliseconds = 0;      ///< until the end of the exchange, or of the run when there was none
+    std::optional<ExchangeTimes> times;  ///< nothing without an exchange
 
-    int result = -1;  ///< of CAPIModule::ExecuteFuncs
+    int result = -1;  ///< APIModule::OutcomeBase::Code()
     bool succeeded = false;
-    QString resultText;       ///< the result in the user's words
-    bool waitDialog = false;  ///< waited behind the wait dialog, else in the event loop
-    int timeoutSeconds = 0;   ///< longest wait
+    QString resultText;  ///< the result in the user's words
+    Way way = Way::EventLoop;
+    int timeoutSeconds = 0;  ///< longest wait
 
     SentRequest request;
-    std::optional<RawReply> reply;  ///< when traffic was recorded and an answer came
-    QJsonObject data;               ///< what the library handed to the Parse; empty when it handed nothing
+    std::optional<RawReply> reply;  ///< when a complete answer came
+    QString connectionError;        ///< why none came
     nlohmann::json record;          ///< as far as the Parse filled it; null when it did not run
 };
 

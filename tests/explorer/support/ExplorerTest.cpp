@@ -8,6 +8,12 @@
 
 namespace explorer_test {
 
+std::string WayName(const testing::TestParamInfo<explorer::Way>& row)
+{
+    constexpr const char* kNames[] = {"BehindTheWaitDialog", "InTheEventLoop", "WithoutWaiting"};
+    return kNames[int(row.param)];
+}
+
 bool Await(const std::function<bool()>& holds)
 {
     return QTest::qWaitFor(holds, kPatience);
@@ -111,10 +117,10 @@ void ExplorerTest::Choose(const char* call)
     Window().SelectCall(*pCall);
 }
 
-void ExplorerTest::WaitInEventLoop()
+void ExplorerTest::Use(explorer::Way way)
 {
-    auto& wait = Find<QComboBox>("wait");
-    wait.setCurrentIndex(wait.findData(false));
+    auto& ways = Find<QComboBox>("wait");
+    ways.setCurrentIndex(ways.findData(int(way)));
 }
 
 void ExplorerTest::ClickRun()

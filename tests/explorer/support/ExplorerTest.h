@@ -20,6 +20,10 @@ namespace explorer_test {
 
 using explorer::CallOutcome;
 
+/// The ways to run a call, and their names in those of tests.
+constexpr explorer::Way kWays[] = {explorer::Way::WaitDialog, explorer::Way::EventLoop, explorer::Way::WithoutWaiting};
+std::string WayName(const testing::TestParamInfo<explorer::Way>& row);
+
 constexpr int kPatience = 20000;  // milliseconds until a test gives up
 
 /// Waits until it holds, while the event loop runs.
@@ -76,8 +80,7 @@ protected:
     [[nodiscard]] QString TextOf(const char* label) const;
 
     void Choose(const char* call);
-    /// Not behind the wait dialog.
-    void WaitInEventLoop();
+    void Use(explorer::Way way);
     void ClickRun();
     /// Waits until so many runs have ended since the start.
     [[nodiscard]] bool AwaitRuns(int count) const;

@@ -63,7 +63,6 @@ protected:
         masked.url =
             QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort()) + QString::fromStdString(request.target);
         masked.body = QByteArray::fromStdString(request.body);
-        masked.recorded = true;
         for (const auto& [name, value] : request.headers) {
             if (IsOfTheServer(name)) {
                 continue;

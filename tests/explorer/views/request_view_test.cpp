@@ -27,7 +27,7 @@ private slots:
     void MethodUrlHeadersAndBodyAreShown();
     void ABodyThatIsNoJsonIsShownAsItIs();
     void TheCommandsAreReadyToCopy();
-    void HeadersThatNobodySawAreMarked();
+    void ARequestThatWasNotSentIsMarked();
     void ARequestThatWasNotMadeIsNotShown();
     void Screenshots();
 };
@@ -99,13 +99,13 @@ void RequestViewTest::TheCommandsAreReadyToCopy()
     QCOMPARE(copied("cpp"), explorer::CppLines(*outcome.call, explorer::FromQt(outcome.arguments), -1));
 }
 
-void RequestViewTest::HeadersThatNobodySawAreMarked()
+void RequestViewTest::ARequestThatWasNotSentIsMarked()
 {
     RequestView view;
     CallOutcome outcome = view_test::EncodeUpdate();
     view.Show(outcome);
     QVERIFY(!HasMark(view));
-    outcome.request.recorded = false;
+    outcome.request.headers.clear();
     view.Show(outcome);
     QVERIFY(HasMark(view));
 }
@@ -139,10 +139,10 @@ void RequestViewTest::Screenshots()
         tabs.setCurrentIndex(tab);
         TakeScreenshots(view, QStringLiteral("request-%1").arg(tab), size);
     }
-    outcome.request.recorded = false;
+    outcome.request.headers.clear();
     view.Show(outcome);
     tabs.setCurrentIndex(0);
-    TakeScreenshots(view, QStringLiteral("request-not-seen"), size);
+    TakeScreenshots(view, QStringLiteral("request-not-sent"), size);
 }
 
 int main(int argc, char** argv)

@@ -58,7 +58,6 @@ private slots:
     void TheButtonAsksForTheFile();
     void AFileThatCannotBeWrittenIsTold();
     void TheReplyIsShownAsItCame();
-    void AReplyThatWasCutShortIsMarked();
     void WithoutARecordThereIsAHint();
     void Screenshots();
 };
@@ -474,20 +473,11 @@ void ResultViewTest::TheReplyIsShownAsItCame()
     outcome.reply->body = "{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}";
     outcome.reply->headers = {{QStringLiteral("X-A"), QStringLiteral("1")}};
     view.Show(outcome);
-    const auto& page = *view.findChild<QTabWidget*>()->widget(ReplyTab)->findChild<CodeView*>();
-    QCOMPARE(page.Text(), QString::fromUtf8("HTTP/1.1 200 OK\nX-A: 1\n\n{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
+    const auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(ReplyTab));
+    QCOMPARE(page.Text(), QString::fromUtf8("HTTP 200\nX-A: 1\n\n{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
     outcome.reply.reset();
     view.Show(outcome);
     QCOMPARE(page.Text(), QString());
-}
-
-void ResultViewTest::AReplyThatWasCutShortIsMarked()
-{
-    ResultView view;
-    view.Show(view_test::CutShort());
-    QVERIFY(HintOn(view, ReplyTab).contains(QStringLiteral("not complete")));
-    view.Show(view_test::AlarmLinkage());
-    QCOMPARE(HintOn(view, ReplyTab), QString());
 }
 
 void ResultViewTest::WithoutARecordThereIsAHint()

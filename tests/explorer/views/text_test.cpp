@@ -145,8 +145,7 @@ TEST(CurlLines, AreTheRequestWithoutTheToken)
                                {QStringLiteral("X-Subject-Token"), QStringLiteral("**********")},
                                {QStringLiteral("X-Empty"), QString()},
                                {QStringLiteral("CONTENT-LENGTH"), QStringLiteral("7")}},
-                              R"({"a":'$1'})",
-                              true};
+                              R"({"a":'$1'})"};
     EXPECT_EQ(CurlLine(request).toStdString(), R"(curl --insecure --globoff --path-as-is --request PUT \
     'https://127.0.0.1:8443/a?token='"$TOKEN"'&b='\''1'\''' \
     -H 'X-Subject-Token: '"$TOKEN" \
@@ -156,14 +155,14 @@ TEST(CurlLines, AreTheRequestWithoutTheToken)
 
 TEST(CurlLines, OfAGetHaveNoBody)
 {
-    const SentRequest request{QStringLiteral("GET"), QStringLiteral("http://h:1/"), {}, "body", true};
+    const SentRequest request{QStringLiteral("GET"), QStringLiteral("http://h:1/"), {}, "body"};
     EXPECT_EQ(CurlLine(request).toStdString(),
               "curl --insecure --globoff --path-as-is --request GET \\\n    'http://h:1/'");
 }
 
 TEST(CurlLines, OfAPostWithoutABodySayThatItIsEmpty)
 {
-    const SentRequest request{QStringLiteral("POST"), QStringLiteral("http://h:1/"), {}, {}, true};
+    const SentRequest request{QStringLiteral("POST"), QStringLiteral("http://h:1/"), {}, {}};
     EXPECT_EQ(CurlLine(request).toStdString(),
               "curl --insecure --globoff --path-as-is --request POST \\\n    'http://h:1/' \\\n    --data-raw ''");
 }

@@ -25,6 +25,7 @@ class TimingViewTest : public QObject {
 
 private slots:
     void FiguresAreThoseOfTheCalls();
+    void TheLastCallIsShownInItsParts();
     void TheChartShowsEachCall();
     void TheLastHundredAreKept();
     void ClearingBeginsAnew();
@@ -86,6 +87,23 @@ void TimingViewTest::FiguresAreThoseOfTheCalls()
     QCOMPARE(Figure(view, "median"), QStringLiteral("20.0 ms"));
     QCOMPARE(Figure(view, "percentile"), QStringLiteral("30.3 ms"));
     QCOMPARE(Figure(view, "failed"), QStringLiteral("1"));
+}
+
+void TimingViewTest::TheLastCallIsShownInItsParts()
+{
+    TimingView view;
+    QCOMPARE(Figure(view, "lastCall"), QString());
+    explorer::CallOutcome outcome = view_test::DeviceCategories();
+    outcome.times = explorer::ExchangeTimes{0.5, 11.5, 12.5};
+    view.Add(outcome);
+    QCOMPARE(Figure(view, "lastCall"),
+             QStringLiteral("Last call: sent after 0.5 ms, first byte after 11.5 ms, all after 12.5 ms"));
+    outcome.times->firstByte.reset();
+    view.Add(outcome);
+    QCOMPARE(Figure(view, "lastCall"), QStringLiteral("Last call: sent after 0.5 ms, no byte until 12.5 ms"));
+    outcome.times.reset();
+    view.Add(outcome);
+    QCOMPARE(Figure(view, "lastCall"), QString());
 }
 
 void TimingViewTest::TheChartShowsEachCall()

@@ -1,7 +1,6 @@
 #include "CertificateLook.h"
 
 #include <QCryptographicHash>
-#include <QNetworkProxy>
 #include <QSslCertificate>
 #include <QTimer>
 
@@ -9,8 +8,7 @@ namespace explorer {
 
 CertificateLook::CertificateLook(const QString& host, int port, QObject* parent) : QObject(parent)
 {
-    constexpr int kPatience = 10000;            // milliseconds
-    m_socket.setProxy(QNetworkProxy::NoProxy);  // the recorder presents a certificate of its own
+    constexpr int kPatience = 10000;  // milliseconds
     m_socket.setPeerVerifyMode(QSslSocket::VerifyNone);
     connect(&m_socket, &QSslSocket::encrypted, this, [this] {
         const QByteArray digest = m_socket.peerCertificate().digest(QCryptographicHash::Sha256);

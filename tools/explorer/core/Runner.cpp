@@ -1,87 +1,59 @@
 #include "Runner.h"
 
 #include <APIModule.h>
-#include <OrnGui/OrnMessageNotify.h>
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
-#include <QTimeZone>
+
+#include <chrono>
 
 namespace explorer {
 namespace {
 
-using APIModule::RequestParam;
+using APIModule::CAPIModule;
+using APIModule::ObservedExchange;
 
 constexpr const char* kTokenHeader = "X-Subject-Token";
+constexpr int kCancelled = -101;
 
-QString MethodName(APIModule::Method method)
-{
-    switch (method) {
-    case APIModule::Method_Get:
-        return QStringLiteral("GET");
-    case APIModule::Method_Put:
-        return QStringLiteral("PUT");
-    case APIModule::Method_Post:
-        return QStringLiteral("POST");
-    case APIModule::Method_Delete:
-        return QStringLiteral("DELETE");
-    }
-    return {};
-}
-
-QString UrlOf(const RequestParam& request)
-{
-    return QStringLiteral("%1://%2:%3")
-               .arg(request.bHttps ? QStringLiteral("https") : QStringLiteral("http"),
-                    QString::fromStdString(request.strIp))
-               .arg(request.nPort) +
-           QString::fromStdString(request.strUrl);
-}
-
-/// Puts the mask in the place of every token.
+/// Puts the mask in the place of every token, one that the library has masked in part included.
 QString Masked(QString text, const QString& token)
 {
-    return token.isEmpty() ? text : text.replace(token, QLatin1String(kTokenMask));
-}
-
-Headers Masked(Headers headers, const QString& token)
-{
-    for (Header& header : headers) {
-        header.value = header.name.compare(QLatin1String(kTokenHeader), Qt::CaseInsensitive) == 0
-                           ? QString::fromLatin1(kTokenMask)
-                           : Masked(header.value, token);
+    const QString mask = QString::fromLatin1(kTokenMask);
+    if (token.size() > mask.size()) {
+        text.replace(mask + token.mid(mask.size()), mask);
     }
-    return headers;
+    return token.isEmpty() ? text : text.replace(token, mask);
 }
 
-/// What the library sets; the network client adds more.
-Headers OwnHeaders(const RequestParam& request, const QString& language)
+Headers Masked(const ObservedExchange::Headers& headers, const QString& token)
 {
-    Headers headers{{QStringLiteral("Accept-Language"), language},
-                    {QStringLiteral("Time-Zone"), QString::fromLatin1(QTimeZone::systemTimeZoneId())},
-                    {QStringLiteral("Content-Type"), QStringLiteral("application/json;charset=UTF-8")},
-                    {QLatin1String(kTokenHeader), QLatin1String(kTokenMask)}};
-    if (request.bCompress) {
-        headers.append({QStringLiteral("Compress-Type"), QStringLiteral("1")});
+    Headers masked;
+    for (const auto& [name, value] : headers) {
+        const bool isToken = name.compare(kTokenHeader, Qt::CaseInsensitive) == 0;
+        masked.append({QString::fromUtf8(name),
+                       isToken ? QString::fromLatin1(kTokenMask) : Masked(QString::fromUtf8(value), token)});
     }
-    if (!request.strSequence.empty()) {
-        headers.append({QStringLiteral("X-Subject-Sequence"), QString::fromStdString(request.strSequence)});
+    return masked;
+}
+
+double Milliseconds(std::chrono::nanoseconds time)
+{
+    return std::chrono::duration<double, std::milli>(time).count();
+}
+
+void Take(CallOutcome& outcome, const ObservedExchange& exchange, const QString& token)
+{
+    outcome.request = {QString::fromLatin1(exchange.method), Masked(exchange.url, token),
+                       Masked(exchange.requestHeaders, token), exchange.requestBody};
+    if (exchange.nStatus >= 0) {
+        outcome.reply = RawReply{exchange.nStatus, Masked(exchange.responseHeaders, token), exchange.responseBody};
     }
-    return headers;
-}
-
-SentRequest Describe(const RequestParam& request, const QString& language)
-{
-    const QString token = QString::fromStdString(request.strToken);
-    return {MethodName(request.eMethod), Masked(UrlOf(request), token), OwnHeaders(request, language),
-            QByteArray::fromStdString(request.strBody), false};
-}
-
-RawReply ReplyOf(const HttpMessage& message)
-{
-    bool isNumber = false;
-    const int status = message.SecondWord().toInt(&isNumber);
-    return {message.startLine, isNumber ? status : -1, message.headers, message.DecodedBody(), message.complete};
+    outcome.connectionError = exchange.error;
+    outcome.times = ExchangeTimes{Milliseconds(exchange.sentAfter), std::nullopt, Milliseconds(exchange.finishedAfter)};
+    if (exchange.firstByte) {
+        outcome.times->firstByte = Milliseconds(*exchange.firstByte);
+    }
 }
 
 nlohmann::json ToJson(const QJsonObject& object)
@@ -91,17 +63,142 @@ nlohmann::json ToJson(const QJsonObject& object)
 
 }  // namespace
 
-Runner::Runner(TrafficTap& tap, QObject* parent) : QObject(parent), m_tap(tap) {}
+/// A run of a call: what is known of it so far.
+struct Runner::Course {
+    explicit Course(const RunOrder& order)
+    {
+        outcome.call = order.call;
+        outcome.arguments = order.arguments;
+        outcome.server = order.server.name;
+        outcome.started = QDateTime::currentDateTime();
+        outcome.way = order.way;
+        clock.start();
+    }
+
+    CallOutcome outcome;
+    QElapsedTimer clock;
+    QString token;
+
+    static catalogue::RunSettings Settings(const std::shared_ptr<Course>& pCourse, const RunOrder& order)
+    {
+        catalogue::RunSettings settings;
+        if (order.timeoutSeconds) {
+            settings.timeout = std::chrono::seconds(*order.timeoutSeconds);
+        }
+        settings.onPacked = [pCourse, timeout = order.timeoutSeconds](APIModule::RequestParam& request) {
+            request.bExcludeUserInput = false;
+            pCourse->outcome.timeoutSeconds = timeout.value_or(request.nTimeout);
+            pCourse->token = QString::fromStdString(request.strToken);
+        };
+        settings.observer = [pCourse](const ObservedExchange& exchange) {
+            Take(pCourse->outcome, exchange, pCourse->token);
+        };
+        return settings;
+    }
+
+    CallOutcome Concluded(const catalogue::Outcome& ended)
+    {
+        const QString name = QString::fromStdString(outcome.call->name);
+        const QString caption = Runner::tr("%1 failed").arg(name);
+        outcome.result = ended.Code();
+        outcome.succeeded = bool(ended);
+        outcome.record = ended.Data().isEmpty() ? nlohmann::json() : ended.record;
+        outcome.resultText =
+            outcome.succeeded ? Runner::tr("Success") : CAPIModule::GetErroCodeInfor(caption, outcome.result, true);
+        CAPIModule::GetInstance().NotifyOutcome(ended, caption, Runner::tr("%1 succeeded").arg(name));
+        return Concluded();
+    }
+
+    CallOutcome Cancelled()
+    {
+        outcome.result = kCancelled;
+        outcome.resultText = Runner::tr("Cancelled");
+        return Concluded();
+    }
+
+    CallOutcome Refused(const catalogue::Mismatch& mismatch)
+    {
+        outcome.resultText = QString::fromUtf8(mismatch.what());
+        return Concluded();
+    }
+
+private:
+    CallOutcome Concluded()
+    {
+        outcome.elapsedMilliseconds = outcome.times ? outcome.times->finished : Milliseconds(Elapsed());
+        return outcome;
+    }
+
+    [[nodiscard]] std::chrono::nanoseconds Elapsed() const { return std::chrono::nanoseconds(clock.nsecsElapsed()); }
+};
+
+Runner::Runner(QObject* parent) : QObject(parent) {}
+
+Runner::~Runner() = default;
 
 void Runner::Order(const RunOrder& order)
 {
     ++m_pending;
     Post([this, order] {
         emit Started(order.call);
-        const CallOutcome outcome = Run(order);
-        --m_pending;
-        emit Finished(outcome);
+        if (order.way == Way::WithoutWaiting) {
+            Begin(order);
+        } else {
+            Wait(order);
+        }
     });
+}
+
+void Runner::Wait(const RunOrder& order)
+{
+    const CallOutcome outcome = Run(order);
+    --m_pending;
+    emit Finished(outcome);
+}
+
+void Runner::Begin(const RunOrder& order)
+{
+    const int number = ++m_lastNumber;
+    const auto pCourse = std::make_shared<Course>(order);
+    m_running[number] = {order, pCourse, {}};
+    try {
+        const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
+        m_running[number].handle =
+            catalogue::Start(*order.call, arguments, Course::Settings(pCourse, order), this,
+                             [this, number](const catalogue::Outcome& ended) {
+                                 End(number, [&ended](Course& course) { return course.Concluded(ended); });
+                             });
+        emit WithoutWaitingChanged();
+    } catch (const catalogue::Mismatch& mismatch) {
+        End(number, [&mismatch](Course& course) { return course.Refused(mismatch); });
+    }
+}
+
+void Runner::Cancel(int number)
+{
+    const auto found = m_running.find(number);
+    if (found != m_running.end()) {
+        found->second.handle.Cancel();
+        End(number, [](Course& course) { return course.Cancelled(); });
+    }
+}
+
+void Runner::End(int number, const std::function<CallOutcome(Course&)>& conclude)
+{
+    const std::shared_ptr<Course> pCourse = m_running.at(number).pCourse;
+    m_running.erase(number);
+    --m_pending;
+    emit WithoutWaitingChanged();
+    emit Finished(conclude(*pCourse));
+}
+
+std::map<int, RunOrder> Runner::WithoutWaiting() const
+{
+    std::map<int, RunOrder> orders;
+    for (const auto& [number, running] : m_running) {
+        orders.emplace(number, running.order);
+    }
+    return orders;
 }
 
 void Runner::Repeat(const RunOrder& order, int count)
@@ -145,78 +242,14 @@ void Runner::Post(std::function<void()> step)
 
 CallOutcome Runner::Run(const RunOrder& order)
 {
-    CallOutcome outcome;
-    outcome.call = order.call;
-    outcome.arguments = order.arguments;
-    outcome.server = order.server.name;
-    outcome.started = QDateTime::currentDateTime();
-    outcome.waitDialog = !order.parent.isNull();
-
-    const QString name = QString::fromStdString(order.call->name);
-    QString token;
-    int expected = 0;
-    catalogue::RunSettings settings;
-    settings.timeoutSeconds = order.timeoutSeconds;
-    settings.parent = order.parent;
-    settings.excludeUserInput = false;
-    settings.caption = tr("%1 failed").arg(name);
-    settings.successTip = tr("%1 succeeded").arg(name);
-    settings.onPacked = [&](RequestParam& request) {
-        outcome.request = Describe(request, order.server.language);
-        outcome.timeoutSeconds = request.nTimeout;
-        token = QString::fromStdString(request.strToken);
-        if (m_tap.IsOn()) {
-            expected = m_tap.Expect(outcome.request.method.toLatin1(), QUrl(UrlOf(request), QUrl::TolerantMode));
-            request.strIp = m_tap.NameFor(QString::fromStdString(request.strIp)).toStdString();
-        }
-    };
-    bool hasData = false;
-    settings.onData = [&outcome, &hasData](const QJsonObject& data) {
-        outcome.data = data;
-        hasData = true;
-    };
-
-    QElapsedTimer clock;
-    clock.start();
+    const auto pCourse = std::make_shared<Course>(order);
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-        clock.restart();
-        const catalogue::Outcome ran = catalogue::Run(*order.call, arguments, settings);
-        outcome.elapsedMilliseconds = static_cast<double>(clock.nsecsElapsed()) / 1e6;
-        outcome.result = ran.result;
-        outcome.succeeded = ran.Succeeded();
-        outcome.record = hasData ? ran.record : nlohmann::json();
-        outcome.resultText = Judge(ran, settings.caption);
+        return pCourse->Concluded(
+            catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent));
     } catch (const catalogue::Mismatch& mismatch) {
-        outcome.resultText = QString::fromUtf8(mismatch.what());
+        return pCourse->Refused(mismatch);
     }
-
-    if (const auto exchange = m_tap.Take(expected)) {
-        outcome.request.headers = Masked(exchange->request.headers, token);
-        outcome.request.body = exchange->request.body;
-        outcome.request.recorded = true;
-        if (!exchange->reply.startLine.isEmpty()) {
-            outcome.reply = ReplyOf(exchange->reply);
-        }
-    }
-    return outcome;
-}
-
-QString Runner::Judge(const catalogue::Outcome& ran, const QString& caption)
-{
-    if (ran.Succeeded()) {
-        return tr("Success");
-    }
-    if (ran.result == 0) {
-        return tr("The reply was not confirmed");
-    }
-    if (!ran.notification.empty()) {
-        return QString::fromStdString(ran.notification);
-    }
-    // The library hands statuses and envelope codes over without a word to the user: that is left to the host.
-    QString text = APIModule::CAPIModule::GetErroCodeInfor(caption, ran.result, true);
-    ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance().AddTextNotification(text, false, {}, {}, false);
-    return text;
 }
 
 }  // namespace explorer

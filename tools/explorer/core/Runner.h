@@ -2,7 +2,6 @@
 
 #include "../CallOutcome.h"
 #include "Servers.h"
-#include "TrafficTap.h"
 
 #include <catalogue/Run.h>
 
@@ -11,6 +10,8 @@
 #include <QWidget>
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
 
 namespace explorer {
@@ -21,16 +22,19 @@ struct RunOrder {
     QJsonObject arguments;
     Server server;                           ///< that the user manager knows as the current one
     std::optional<int> timeoutSeconds = {};  ///< instead of the call's own
-    QPointer<QWidget> parent = {};  ///< under the wait dialog; without one the event loop waits and input goes on
+    Way way = Way::EventLoop;
+    QPointer<QWidget> parent = {};  ///< under the wait dialog
 };
 
 /// Makes calls through the library, each from the event loop, so that nothing of a window is on the stack while a call
-/// waits. Calls may be ordered while others wait; they run inside the wait of those.
+/// waits. Calls may be ordered while others wait: those that wait run inside the wait of the others, those without
+/// waiting beside them.
 class Runner : public QObject {
     Q_OBJECT
 
 public:
-    explicit Runner(TrafficTap& tap, QObject* parent = nullptr);
+    explicit Runner(QObject* parent = nullptr);
+    ~Runner() override;
 
     void Order(const RunOrder& order);
 
@@ -39,24 +43,42 @@ public:
     /// No further repetition begins.
     void CancelRepeat();
 
+    /// Ends a call that runs without waiting, which has its outcome at once. Nothing happens when it has ended.
+    void Cancel(int number);
+
     /// Calls that were ordered and have not ended.
     [[nodiscard]] int Pending() const { return m_pending; }
     [[nodiscard]] bool IsRepeating() const { return m_bRepeats; }
 
+    /// The orders of the calls that run without waiting, by their numbers.
+    [[nodiscard]] std::map<int, RunOrder> WithoutWaiting() const;
+
 Q_SIGNALS:
     void Started(const catalogue::Call* call);
     void Finished(const explorer::CallOutcome& outcome);
+    /// WithoutWaiting() has changed.
+    void WithoutWaitingChanged();
     void RepeatProgress(int done, int total);
     /// After the last repetition or a cancellation.
     void RepeatEnded();
 
 private:
+    struct Course;
+    struct Running {
+        RunOrder order;
+        std::shared_ptr<Course> pCourse;
+        APIModule::CallHandle handle;
+    };
+
+    void Wait(const RunOrder& order);
+    void Begin(const RunOrder& order);
+    void End(int number, const std::function<CallOutcome(Course&)>& conclude);
     CallOutcome Run(const RunOrder& order);
     void RepeatFrom(const RunOrder& order, int done);
     void Post(std::function<void()> step);
-    static QString Judge(const catalogue::Outcome& ran, const QString& caption);
 
-    TrafficTap& m_tap;
+    std::map<int, Running> m_running;
+    int m_lastNumber = 0;
     int m_pending = 0;
     bool m_bRepeats = false;
     int m_repeats = 0;  // asked for

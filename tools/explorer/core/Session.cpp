@@ -8,8 +8,7 @@
 namespace explorer {
 
 Session::Session(QSettings& allSettings, Tokens::Vault* vault, const QString& emulatorProgram, QObject* parent)
-    : QObject(parent), settings(allSettings), servers(allSettings), tokens(vault), emulator(emulatorProgram),
-      runner(tap)
+    : QObject(parent), settings(allSettings), servers(allSettings), tokens(vault), emulator(emulatorProgram)
 {
     connect(&servers, &Servers::Changed, this, &Session::UseCurrentServer);
     connect(&tokens, &Tokens::Changed, this, &Session::UseCurrentServer);
@@ -50,15 +49,13 @@ void Session::UseCurrentServer()
 void Session::TrustCurrentServer()
 {
     const Server& server = servers.Current();
-    tap.Pin(server.host, server.port, server.pin);
     if (server.pin == m_pin) {
         return;  // connections are kept
     }
     m_pin = server.pin;
     APIModule::ServerTrust trust;
     if (!m_pin.isEmpty()) {
-        // The recorder looks at the server itself before it presents a certificate of its own.
-        trust.pins = {{m_pin, QString(), 0}, {TrafficTap::OwnDigest(), QString(), 0}};
+        trust.pins = {{m_pin, QString(), 0}};
     }
     APIModule::CAPIModule::GetInstance().SetServerTrust(trust);
 }

@@ -5,7 +5,6 @@
 #include "Runner.h"
 #include "Servers.h"
 #include "Tokens.h"
-#include "TrafficTap.h"
 
 #include <catalogue/OneServer.h>
 
@@ -32,7 +31,6 @@ public:
     Servers servers;
     Tokens tokens;
     EmulatorProcess emulator;
-    TrafficTap tap;
     Runner runner;
     LogFeed log;
     NotificationFeed notifications;

@@ -34,7 +34,7 @@ QString Pretty(const QByteArray& body)
 
 RequestView::RequestView(QWidget* pParent)
     : QWidget(pParent), m_pPages(new QStackedWidget), m_pTarget(new QPlainTextEdit), m_pHeaders(new QTreeWidget),
-      m_pNotSeen(new TintedLabel(theme::Hint)),
+      m_pNothingSent(new TintedLabel(theme::Hint)),
       m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
       m_pCurl(new CodeView(CodeView::Kind::Text, tr("No request was made."))),
       m_pCpp(new CodeView(CodeView::Kind::Code, QString()))
@@ -56,8 +56,8 @@ RequestView::RequestView(QWidget* pParent)
     m_pHeaders->setAllColumnsShowFocus(true);
     m_pHeaders->setFrameShape(QFrame::NoFrame);
     m_pHeaders->setItemDelegate(new RoomyDelegate(m_pHeaders));
-    m_pNotSeen->setContentsMargins(kMargin, 0, kMargin, kMargin);
-    m_pNotSeen->setText(tr("The headers are those that the library sets; the connection adds its own."));
+    m_pNothingSent->setContentsMargins(kMargin, 0, kMargin, kMargin);
+    m_pNothingSent->setText(tr("Nothing was sent."));
     m_pBody->setObjectName(QStringLiteral("body"));
     m_pCurl->setObjectName(QStringLiteral("curl"));
     m_pCpp->setObjectName(QStringLiteral("cpp"));
@@ -66,7 +66,7 @@ RequestView::RequestView(QWidget* pParent)
     auto* pHeaderLayout = new QVBoxLayout(pHeaderPage);
     pHeaderLayout->setContentsMargins(0, 0, 0, 0);
     pHeaderLayout->addWidget(m_pHeaders, 1);
-    pHeaderLayout->addWidget(m_pNotSeen);
+    pHeaderLayout->addWidget(m_pNothingSent);
 
     auto* pTabs = new QTabWidget;
     pTabs->setDocumentMode(true);
@@ -124,7 +124,7 @@ void RequestView::ShowRequest(const SentRequest& request)
     constexpr int kRoom = 24;
     m_pHeaders->resizeColumnToContents(0);
     m_pHeaders->setColumnWidth(0, m_pHeaders->columnWidth(0) + kRoom);
-    m_pNotSeen->setVisible(wasMade && !request.recorded);
+    m_pNothingSent->setVisible(wasMade && request.headers.isEmpty());
     m_pBody->SetText(Pretty(request.body));
     m_pCurl->SetText(wasMade ? CurlLine(request) : QString());
 }

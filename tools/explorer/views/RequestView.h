@@ -29,7 +29,7 @@ private:
     QStackedWidget* m_pPages;
     QPlainTextEdit* m_pTarget;
     QTreeWidget* m_pHeaders;
-    QLabel* m_pNotSeen;
+    QLabel* m_pNothingSent;
     CodeView* m_pBody;
     CodeView* m_pCurl;
     CodeView* m_pCpp;

@@ -4,7 +4,6 @@
 #include "Json.h"
 #include "RecordTable.h"
 #include "RoomyDelegate.h"
-#include "Theme.h"
 #include "TintedLabel.h"
 
 #include <explorer/CallOutcome.h>
@@ -18,10 +17,10 @@
 namespace explorer {
 namespace {
 
-/// Status line, headers and body with the line ends of this machine.
+/// Status, headers and body with the line ends of this machine.
 QString TextOf(const RawReply& reply)
 {
-    QString text = QString::fromUtf8(reply.statusLine) + QLatin1Char('\n');
+    QString text = QStringLiteral("HTTP %1\n").arg(reply.status);
     for (const Header& header : reply.headers) {
         text += header.name + QLatin1String(": ") + header.value + QLatin1Char('\n');
     }
@@ -49,9 +48,8 @@ void Open(QTreeView& tree, int textLength)
 
 ResultView::ResultView(QWidget* pParent)
     : QWidget(pParent), m_pTree(new QTreeView), m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))),
-      m_pTable(new RecordTable), m_pReply(new CodeView(CodeView::Kind::Text, tr("No reply was recorded."))),
-      m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pIncomplete(new TintedLabel(theme::Error)),
-      m_pTabs(new QTabWidget)
+      m_pTable(new RecordTable), m_pReply(new CodeView(CodeView::Kind::Text, tr("No complete reply came."))),
+      m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pTabs(new QTabWidget)
 {
     m_pTree->setModel(&m_model);
     m_pTree->setAlternatingRowColors(true);
@@ -68,19 +66,10 @@ ResultView::ResultView(QWidget* pParent)
     m_pTree->header()->setStretchLastSection(false);
     m_pTree->header()->setSectionResizeMode(RecordModel::ValueColumn, QHeaderView::Stretch);
 
-    m_pIncomplete->setText(tr("The reply is not complete: the connection ended or the time was over before."));
-    m_pIncomplete->setContentsMargins(12, 8, 12, 0);
-    auto* pReplyPage = new QWidget;
-    auto* pReplyLayout = new QVBoxLayout(pReplyPage);
-    pReplyLayout->setContentsMargins(0, 0, 0, 0);
-    pReplyLayout->setSpacing(0);
-    pReplyLayout->addWidget(m_pIncomplete);
-    pReplyLayout->addWidget(m_pReply, 1);
-
     m_pTreePages = AddTab(m_pTree, m_pTreeHint, tr("&Record"));
     m_pTabs->addTab(m_pJson, tr("&JSON"));
     m_pTablePages = AddTab(m_pTable, m_pTableHint, tr("&Table"));
-    m_pTabs->addTab(pReplyPage, tr("Raw repl&y"));
+    m_pTabs->addTab(m_pReply, tr("Raw repl&y"));
     m_pTabs->setDocumentMode(true);
 
     auto* pLayout = new QVBoxLayout(this);
@@ -99,14 +88,12 @@ void ResultView::Show(const CallOutcome& outcome)
         ShowRecord(outcome);
     }
     m_pReply->SetText(outcome.reply ? TextOf(*outcome.reply) : QString());
-    m_pIncomplete->setVisible(outcome.reply && !outcome.reply->complete);
 }
 
 void ResultView::Clear()
 {
     ShowNoRecord(tr("Run a call to see its result here."));
     m_pReply->SetText(QString());
-    m_pIncomplete->hide();
 }
 
 void ResultView::ShowRecord(const CallOutcome& outcome)

@@ -37,7 +37,6 @@ private:
     CodeView* m_pReply;
     QLabel* m_pTreeHint;
     QLabel* m_pTableHint;
-    QLabel* m_pIncomplete;
     QTabWidget* m_pTabs;
     QStackedWidget* m_pTreePages;
     QStackedWidget* m_pTablePages;

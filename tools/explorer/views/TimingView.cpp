@@ -47,15 +47,17 @@ TimingView::TimingView(QWidget* pParent)
     : QWidget(pParent), m_pChart(new TimingChart), m_pPages(new QStackedWidget),
       m_pCalls(MakeFigure(QStringLiteral("calls"))), m_pMedian(MakeFigure(QStringLiteral("median"))),
       m_pPercentile(MakeFigure(QStringLiteral("percentile"))), m_pFailed(MakeFigure(QStringLiteral("failed"))),
-      m_pClear(MakeButton(tr("C&lear"), QStringLiteral("clear"))), m_pTimes(new QSpinBox),
-      m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))), m_pProgress(new QProgressBar),
-      m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
+      m_pLast(new TintedLabel(theme::Hint)), m_pClear(MakeButton(tr("C&lear"), QStringLiteral("clear"))),
+      m_pTimes(new QSpinBox), m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))),
+      m_pProgress(new QProgressBar), m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
 {
     m_pPages->addWidget(MakeHint(tr("Run a call to see how long it takes.")));
     m_pPages->addWidget(m_pChart);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addLayout(MakeFigures());
+    m_pLast->setObjectName(QStringLiteral("lastCall"));
+    pLayout->addWidget(m_pLast);
     pLayout->addWidget(m_pPages, 1);
     pLayout->addLayout(MakeRepeat());
 
@@ -74,11 +76,13 @@ void TimingView::Add(const CallOutcome& outcome)
     const QString name = outcome.call == nullptr ? QString() : QString::fromStdString(outcome.call->name);
     m_pChart->Add({name, outcome.elapsedMilliseconds, outcome.succeeded});
     ShowFigures();
+    ShowLast(outcome);
 }
 
 void TimingView::Clear()
 {
     m_pChart->Clear();
+    m_pLast->clear();
     ShowFigures();
 }
 
@@ -162,6 +166,23 @@ void TimingView::ShowFigures()
         QString::number(std::count_if(calls.begin(), calls.end(), [](const auto& call) { return !call.succeeded; })));
     m_pClear->setEnabled(!isEmpty);
     m_pPages->setCurrentIndex(isEmpty ? 0 : 1);
+}
+
+void TimingView::ShowLast(const CallOutcome& outcome)
+{
+    if (!outcome.times) {
+        m_pLast->clear();
+        return;
+    }
+    const auto time = [](double milliseconds) { return QLocale().toString(milliseconds, 'f', 1); };
+    const ExchangeTimes& times = *outcome.times;
+    m_pLast->setText(
+        times.firstByte
+            //: Times in milliseconds
+            ? tr("Last call: sent after %1 ms, first byte after %2 ms, all after %3 ms")
+                  .arg(time(times.sent), time(*times.firstByte), time(times.finished))
+            //: Times in milliseconds
+            : tr("Last call: sent after %1 ms, no byte until %2 ms").arg(time(times.sent), time(times.finished)));
 }
 
 void TimingView::UpdateRepeat()

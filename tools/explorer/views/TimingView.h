@@ -38,6 +38,7 @@ private:
     QLayout* MakeFigures();
     QLayout* MakeRepeat();
     void ShowFigures();
+    void ShowLast(const CallOutcome& outcome);
     void UpdateRepeat();
 
     TimingChart* m_pChart;
@@ -46,6 +47,7 @@ private:
     QLabel* m_pMedian;
     QLabel* m_pPercentile;
     QLabel* m_pFailed;
+    QLabel* m_pLast;
     QPushButton* m_pClear;
     QSpinBox* m_pTimes;
     QPushButton* m_pRepeat;

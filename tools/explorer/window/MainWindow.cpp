@@ -6,6 +6,7 @@
 #include "FeedPanel.h"
 #include "ResultHeader.h"
 #include "RunBar.h"
+#include "RunningCalls.h"
 #include "ServerBar.h"
 #include "ServersDialog.h"
 #include "TokenDialog.h"
@@ -45,7 +46,6 @@ constexpr const char* kPanesKey = "window/panes";
 constexpr const char* kRowsKey = "window/rows";
 constexpr const char* kFeedsKey = "window/feeds";
 constexpr const char* kCallKey = "window/call";
-constexpr const char* kRecordKey = "run/recordTraffic";
 
 constexpr int kPaneWidths[] = {320, 360, 600};  // at first; any width is shared like this
 
@@ -103,9 +103,9 @@ QSplitter* NewSplitter(Qt::Orientation orientation)
 MainWindow::MainWindow(Session& session, QWidget* pParent)
     : QMainWindow(pParent), m_session(session), m_pServerBar(new ServerBar(session)),
       m_pCalls(new CallPanel(session.settings)), m_pHeader(new CallHeader), m_pForm(new ArgumentForm),
-      m_pRunBar(new RunBar(session.settings)), m_pResultHeader(new ResultHeader), m_pResult(new ResultView),
-      m_pRequest(new RequestView), m_pTiming(new TimingView), m_pRecording(new QLabel),
-      m_pPanes(NewSplitter(Qt::Horizontal)), m_pRows(NewSplitter(Qt::Vertical))
+      m_pRunBar(new RunBar(session.settings)), m_pRunning(new RunningCalls(session.runner)),
+      m_pResultHeader(new ResultHeader), m_pResult(new ResultView), m_pRequest(new RequestView),
+      m_pTiming(new TimingView), m_pPanes(NewSplitter(Qt::Horizontal)), m_pRows(NewSplitter(Qt::Vertical))
 {
     setWindowTitle(tr("APIModule Explorer"));
     MakeLayout();
@@ -179,8 +179,6 @@ void MainWindow::MakeLayout()
     m_pPanes->addWidget(m_pCalls);
     m_pPanes->addWidget(MakeCallPane());
     m_pPanes->addWidget(MakeResultPane());
-    m_pRecording->setForegroundRole(QPalette::PlaceholderText);
-    m_pRecording->setContentsMargins(0, 0, 12, 0);
     for (const int pane : {0, 1, 2}) {
         m_pPanes->setStretchFactor(pane, kPaneWidths[pane]);
     }
@@ -190,7 +188,6 @@ void MainWindow::MakeLayout()
     setCentralWidget(m_pRows);
     setContextMenuPolicy(Qt::PreventContextMenu);
     statusBar()->setSizeGripEnabled(false);
-    statusBar()->addPermanentWidget(m_pRecording);
 }
 
 QWidget* MainWindow::MakeCallPane()
@@ -201,6 +198,7 @@ QWidget* MainWindow::MakeCallPane()
     pLayout->addWidget(m_pHeader);
     pLayout->addWidget(m_pForm, 1);
     pLayout->addWidget(m_pRunBar);
+    pLayout->addWidget(m_pRunning);
     return pPane;
 }
 
@@ -246,24 +244,7 @@ void MainWindow::MakeCallMenu()
     });
     pFavourite->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_D));
     pMenu->addSeparator();
-    QAction* const pRecord = pMenu->addAction(tr("Record what goes over the &wire"), this, [this](bool on) {
-        m_session.settings.setValue(QLatin1String(kRecordKey), on);
-        RecordTraffic(on);
-    });
-    pRecord->setCheckable(true);
-    pRecord->setToolTip(tr("Passes the calls through a recorder in this program"));
-    pRecord->setObjectName(QStringLiteral("recordTraffic"));
-    const bool records = m_session.settings.value(QLatin1String(kRecordKey), true).toBool();
-    RecordTraffic(records);
-    pRecord->setChecked(m_session.tap.IsOn());
-    pMenu->addSeparator();
     pMenu->addAction(tr("&Quit"), this, &QWidget::close)->setShortcut(QKeySequence::Quit);
-}
-
-void MainWindow::RecordTraffic(bool on)
-{
-    m_session.tap.SetOn(on);
-    m_pRecording->setText(m_session.tap.IsOn() ? tr("Traffic is recorded") : tr("Traffic is not recorded"));
 }
 
 void MainWindow::MakeServerMenu()
@@ -535,13 +516,14 @@ std::optional<RunOrder> MainWindow::Order()
     }
     const QJsonObject arguments = m_pForm->Arguments();
     m_session.settings.setValue(ArgumentsKey(*m_pCall), QJsonDocument(arguments).toJson(QJsonDocument::Compact));
-    return RunOrder{m_pCall, arguments, m_session.servers.Current(), m_pRunBar->TimeoutSeconds(), {}};
+    return RunOrder{m_pCall, arguments, m_session.servers.Current(), m_pRunBar->TimeoutSeconds()};
 }
 
 void MainWindow::Run()
 {
     if (std::optional<RunOrder> order = Order()) {
-        if (m_pRunBar->UsesWaitDialog()) {
+        order->way = m_pRunBar->ChosenWay();
+        if (order->way == Way::WaitDialog) {
             order->parent = this;
         }
         m_session.runner.Order(*order);

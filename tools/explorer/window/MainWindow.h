@@ -23,6 +23,7 @@ class RequestView;
 class ResultHeader;
 class ResultView;
 class RunBar;
+class RunningCalls;
 class ServerBar;
 class Session;
 class TimingView;
@@ -55,7 +56,6 @@ private:
     [[nodiscard]] QWidget* MakeFeeds();
     void MakeMenus();
     void MakeCallMenu();
-    void RecordTraffic(bool on);
     void MakeServerMenu();
     void MakeViewMenu();
     void MakeGoToMenu(QMenu* pMenu);
@@ -94,11 +94,11 @@ private:
     CallHeader* m_pHeader;
     ArgumentForm* m_pForm;
     RunBar* m_pRunBar;
+    RunningCalls* m_pRunning;
     ResultHeader* m_pResultHeader;
     ResultView* m_pResult;
     RequestView* m_pRequest;
     TimingView* m_pTiming;
-    QLabel* m_pRecording;
     QTabWidget* m_pResults = nullptr;
     QTabWidget* m_pFeeds = nullptr;
     QAction* m_pShowFeeds = nullptr;

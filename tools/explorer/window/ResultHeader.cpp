@@ -99,6 +99,9 @@ void ResultHeader::Show(const CallOutcome& outcome)
     if (!words.isEmpty()) {
         text += QLatin1Char('\n') + tr("The server says: %1").arg(words);
     }
+    if (!outcome.connectionError.isEmpty()) {
+        text += QLatin1Char('\n') + tr("The connection: %1").arg(outcome.connectionError);
+    }
     m_pDetails->setText(text);
 }
 

@@ -12,14 +12,14 @@
 namespace explorer {
 namespace {
 
-constexpr const char* kWaitDialogKey = "run/waitDialog";
+constexpr const char* kWayKey = "run/way";
 constexpr const char* kTimeoutKey = "run/timeoutSeconds";
 constexpr int kLongestTimeout = 3600;
 
 }  // namespace
 
 RunBar::RunBar(QSettings& settings, QWidget* pParent)
-    : QWidget(pParent), m_settings(settings), m_pRun(new QPushButton(tr("Run"))), m_pWait(new QComboBox),
+    : QWidget(pParent), m_settings(settings), m_pRun(new QPushButton(tr("Run"))), m_pWay(new QComboBox),
       m_pTimeout(new QSpinBox), m_pState(new QLabel)
 {
     m_pRun->setObjectName(QStringLiteral("run"));
@@ -27,13 +27,14 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pRun->setDefault(true);
     connect(m_pRun, &QPushButton::clicked, this, &RunBar::RunRequested);
 
-    m_pWait->setObjectName(QStringLiteral("wait"));
-    m_pWait->addItem(tr("Behind the wait dialog"), true);
-    m_pWait->addItem(tr("In the event loop, input goes on"), false);
-    m_pWait->setCurrentIndex(settings.value(QLatin1String(kWaitDialogKey), true).toBool() ? 0 : 1);
-    m_pWait->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto* const pWaitLabel = new QLabel(tr("&Wait"));
-    pWaitLabel->setBuddy(m_pWait);
+    m_pWay->setObjectName(QStringLiteral("wait"));
+    m_pWay->addItem(tr("Behind the wait dialog"), int(Way::WaitDialog));
+    m_pWay->addItem(tr("In the event loop, input goes on"), int(Way::EventLoop));
+    m_pWay->addItem(tr("Not at all, several at once"), int(Way::WithoutWaiting));
+    m_pWay->setCurrentIndex(qMax(0, m_pWay->findData(settings.value(QLatin1String(kWayKey)).toInt())));
+    m_pWay->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* const pWayLabel = new QLabel(tr("&Wait"));
+    pWayLabel->setBuddy(m_pWay);
 
     m_pTimeout->setObjectName(QStringLiteral("timeout"));
     m_pTimeout->setRange(0, kLongestTimeout);
@@ -51,26 +52,26 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setHorizontalSpacing(8);
     pLayout->setColumnStretch(1, 1);
-    pLayout->addWidget(pWaitLabel, 0, 0);
-    pLayout->addWidget(m_pWait, 0, 1, 1, 2);
+    pLayout->addWidget(pWayLabel, 0, 0);
+    pLayout->addWidget(m_pWay, 0, 1, 1, 2);
     pLayout->addWidget(pTimeoutLabel, 1, 0);
     pLayout->addWidget(m_pTimeout, 1, 1);
     pLayout->addWidget(m_pRun, 1, 2);
     pLayout->addWidget(m_pState, 2, 0, 1, 3);
     m_pState->hide();
-    setTabOrder(m_pWait, m_pTimeout);
+    setTabOrder(m_pWay, m_pTimeout);
     setTabOrder(m_pTimeout, m_pRun);
 }
 
 RunBar::~RunBar()
 {
-    m_settings.setValue(QLatin1String(kWaitDialogKey), UsesWaitDialog());
+    m_settings.setValue(QLatin1String(kWayKey), int(ChosenWay()));
     m_settings.setValue(QLatin1String(kTimeoutKey), m_pTimeout->value());
 }
 
-bool RunBar::UsesWaitDialog() const
+Way RunBar::ChosenWay() const
 {
-    return m_pWait->currentData().toBool();
+    return Way(m_pWay->currentData().toInt());
 }
 
 std::optional<int> RunBar::TimeoutSeconds() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "../CallOutcome.h"
+
 #include <QWidget>
 
 #include <optional>
@@ -21,8 +23,7 @@ public:
     explicit RunBar(QSettings& settings, QWidget* pParent = nullptr);
     ~RunBar() override;
 
-    /// Behind the wait dialog; else the event loop waits and input goes on.
-    [[nodiscard]] bool UsesWaitDialog() const;
+    [[nodiscard]] Way ChosenWay() const;
     /// Nothing for the call's own.
     [[nodiscard]] std::optional<int> TimeoutSeconds() const;
 
@@ -35,7 +36,7 @@ signals:
 private:
     QSettings& m_settings;
     QPushButton* m_pRun;
-    QComboBox* m_pWait;
+    QComboBox* m_pWay;
     QSpinBox* m_pTimeout;
     QLabel* m_pState;
 };

@@ -15,6 +15,7 @@ CallOutcome Succeeded(const char* call, const char* arguments, const char* recor
     outcome.server = QStringLiteral("Emulator");
     outcome.started = QDateTime::currentDateTime();
     outcome.elapsedMilliseconds = 12.4;
+    outcome.times = explorer::ExchangeTimes{0.1, 11.9, 12.4};
     outcome.result = 0;
     outcome.succeeded = true;
     outcome.resultText = QStringLiteral("Success");
@@ -29,15 +30,12 @@ CallOutcome Succeeded(const char* call, const char* arguments, const char* recor
                                {QStringLiteral("Content-Type"), QStringLiteral("application/json;charset=UTF-8")},
                                {QStringLiteral("X-Subject-Token"), QString::fromLatin1(explorer::kTokenMask)},
                                {QStringLiteral("Connection"), QStringLiteral("Keep-Alive")}};
-    outcome.request.recorded = true;
 
     explorer::RawReply reply;
-    reply.statusLine = "HTTP/1.1 200 OK";
     reply.status = 200;
     reply.body = QByteArray(R"({"code":1000,"desc":"Success","data":)") + record + "}";
     reply.headers = {{QStringLiteral("Content-Type"), QStringLiteral("application/json")},
                      {QStringLiteral("Content-Length"), QString::number(reply.body.size())}};
-    reply.complete = true;
     outcome.reply = reply;
     return outcome;
 }
@@ -101,8 +99,8 @@ CallOutcome CutShort()
     outcome.succeeded = false;
     outcome.resultText = QStringLiteral("Network error");
     outcome.record = catalogue::Value(*outcome.call->result).ToJson();
-    outcome.reply->complete = false;
-    outcome.reply->body.truncate(60);
+    outcome.reply.reset();
+    outcome.connectionError = QStringLiteral("Connection closed");
     return outcome;
 }
 

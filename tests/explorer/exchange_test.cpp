@@ -1,10 +1,7 @@
 #include "support/ExplorerTest.h"
 
-#include <explorer/core/HttpReader.h>
-
-#include <QNetworkProxy>
+#include <QLineEdit>
 #include <QTcpServer>
-#include <QTcpSocket>
 
 #include <algorithm>
 
@@ -15,7 +12,7 @@ using testing_support::HttpAnswer;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
-class TrafficTest : public ExplorerTest {
+class ExchangeTest : public ExplorerTest {
 protected:
     static QString ValueOf(const explorer::Headers& headers, const char* name)
     {
@@ -26,9 +23,9 @@ protected:
     }
 };
 
-class TrafficOfASchemeTest : public TrafficTest, public testing::WithParamInterface<bool> {};
+class ExchangeOfASchemeTest : public ExchangeTest, public testing::WithParamInterface<bool> {};
 
-TEST_P(TrafficOfASchemeTest, RequestAndReplyAreRecordedAsTheServerSawThem)
+TEST_P(ExchangeOfASchemeTest, RequestAndReplyAreShownAsTheServerSawThem)
 {
     const QByteArray reply = "{\"code\": 1000, \"desc\": \"Fine\", \"data\": {\"enable\": \"1\"}}";
     RawServer server([&reply](const RawRequest&) { return HttpAnswer(200, reply, "X-Of-The-Server: yes\r\n"); },
@@ -39,9 +36,12 @@ TEST_P(TrafficOfASchemeTest, RequestAndReplyAreRecordedAsTheServerSawThem)
     const std::vector<RawRequest> requests = server.TakeRequests();
     ASSERT_EQ(requests.size(), 1U);
     EXPECT_EQ(requests.front().Value("X-Subject-Token"), kToken);
-    EXPECT_TRUE(outcome.request.recorded);
     EXPECT_EQ(outcome.request.method, QString::fromLatin1(requests.front().method));
     EXPECT_TRUE(outcome.request.url.endsWith(QString::fromLatin1(requests.front().target)));
+    EXPECT_TRUE(outcome.times && outcome.times->firstByte);
+    EXPECT_LE(outcome.times->sent, *outcome.times->firstByte);
+    EXPECT_LE(*outcome.times->firstByte, outcome.times->finished);
+    EXPECT_EQ(outcome.elapsedMilliseconds, outcome.times->finished);
     EXPECT_TRUE(outcome.request.url.startsWith(GetParam() ? QStringLiteral("https://") : QStringLiteral("http://")));
     ASSERT_EQ(outcome.request.headers.size(), requests.front().headers.size());
     for (int index = 0; index < outcome.request.headers.size(); ++index) {
@@ -54,12 +54,11 @@ TEST_P(TrafficOfASchemeTest, RequestAndReplyAreRecordedAsTheServerSawThem)
 
     ASSERT_TRUE(outcome.reply);
     EXPECT_EQ(outcome.reply->status, 200);
-    EXPECT_TRUE(outcome.reply->complete);
     EXPECT_EQ(outcome.reply->body, reply);
     EXPECT_EQ(ValueOf(outcome.reply->headers, "X-Of-The-Server"), QStringLiteral("yes"));
 }
 
-TEST_P(TrafficOfASchemeTest, CallsShareAConnectionAndEachHasItsOwnReply)
+TEST_P(ExchangeOfASchemeTest, CallsShareAConnectionAndEachHasItsOwnReply)
 {
     int count = 0;
     RawServer server(
@@ -77,10 +76,10 @@ TEST_P(TrafficOfASchemeTest, CallsShareAConnectionAndEachHasItsOwnReply)
     EXPECT_EQ(server.ConnectionCount(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Schemes, TrafficOfASchemeTest, testing::Bool(),
+INSTANTIATE_TEST_SUITE_P(Schemes, ExchangeOfASchemeTest, testing::Bool(),
                          [](const auto& row) { return row.param ? "Https" : "Http"; });
 
-TEST_F(TrafficTest, ABodyIsRecorded)
+TEST_F(ExchangeTest, ABodyIsShown)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -91,7 +90,7 @@ TEST_F(TrafficTest, ABodyIsRecorded)
     EXPECT_EQ(outcome.request.body, requests.front().body);
 }
 
-TEST_F(TrafficTest, AnAnswerThatIsNoEnvelopeIsThereToBeRead)
+TEST_F(ExchangeTest, AnAnswerThatIsNoEnvelopeIsThereToBeRead)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, "<html>proxy login</html>"); });
     Use(server.Port());
@@ -101,7 +100,7 @@ TEST_F(TrafficTest, AnAnswerThatIsNoEnvelopeIsThereToBeRead)
     EXPECT_EQ(outcome.reply->body, "<html>proxy login</html>");
 }
 
-TEST_F(TrafficTest, AnAnswerThatIsCutShortIsIncomplete)
+TEST_F(ExchangeTest, AnAnswerThatIsCutShortIsNoReply)
 {
     RawServer server([](const RawRequest&) {
         testing_support::RawAnswer answer{"HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"code\""};
@@ -110,74 +109,45 @@ TEST_F(TrafficTest, AnAnswerThatIsCutShortIsIncomplete)
     });
     Use(server.Port());
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
-    EXPECT_EQ(outcome.result, -1);
-    ASSERT_TRUE(outcome.reply);
-    EXPECT_FALSE(outcome.reply->complete);
-    EXPECT_EQ(outcome.reply->body, "{\"code\"");
+    EXPECT_EQ(outcome.result, -18);
+    EXPECT_FALSE(outcome.reply);
+    EXPECT_FALSE(outcome.connectionError.isEmpty());
+    EXPECT_TRUE(TextOf("resultDetails").contains(outcome.connectionError)) << TextOf("resultDetails").toStdString();
 }
 
-TEST_F(TrafficTest, ARefusedConnectionFailsAsItDoesWithoutTheRecorder)
+TEST_F(ExchangeTest, OfARefusedConnectionNothingWasSent)
 {
-    const auto failure = [this](bool records) {
-        session->tap.SetOn(records);
-        session->log.Clear();
-        const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
-        EXPECT_FALSE(outcome.reply);
-        EXPECT_EQ(outcome.result, -1);
-        QStringList lines;
-        EXPECT_TRUE(Await([this, &lines] {
-            lines.clear();
-            for (int row = 0; row < session->log.rowCount(); ++row) {
-                lines.append(session->log.index(row, explorer::Feed::TextColumn).data().toString());
-            }
-            lines = lines.filter(QStringLiteral("qt network error code"));
-            return !lines.isEmpty();
-        }));
-        return lines.join(QLatin1Char('\n')).toStdString();
-    };
     QTcpServer nobody;
-    nobody.setProxy(QNetworkProxy::NoProxy);
     ASSERT_TRUE(nobody.listen(QHostAddress::LocalHost));
     const int port = nobody.serverPort();
     nobody.close();
     Use(port);
-
-    const std::string direct = failure(false);
-    EXPECT_EQ(failure(true), direct);
-}
-
-TEST_F(TrafficTest, WithoutTheRecorderTheRequestIsWhatThePackSays)
-{
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
-    session->tap.SetOn(false);
-    const CallOutcome outcome = Run("BRMS.SetRemoteLogConfig");
-    const auto requests = server.TakeRequests();
-    ASSERT_EQ(requests.size(), 1U);
-    EXPECT_FALSE(outcome.request.recorded);
+    const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
+    EXPECT_EQ(outcome.result, -18);
+    EXPECT_EQ(outcome.request.method, QStringLiteral("GET"));
+    EXPECT_TRUE(outcome.request.url.startsWith(QStringLiteral("http://127.0.0.1:%1/").arg(port)))
+        << outcome.request.url.toStdString();
+    EXPECT_TRUE(outcome.request.headers.isEmpty());
     EXPECT_FALSE(outcome.reply);
-    EXPECT_EQ(outcome.request.body, requests.front().body);
-    for (const explorer::Header& header : outcome.request.headers) {
-        const QByteArray sent = requests.front().Value(header.name.toLatin1());
-        EXPECT_EQ(header.value, header.name == QLatin1String("X-Subject-Token") ? QLatin1String(explorer::kTokenMask)
-                                                                                : QLatin1String(sent));
-    }
+    ASSERT_TRUE(outcome.times);
+    EXPECT_FALSE(outcome.times->firstByte);
 }
 
-TEST_F(TrafficTest, TheRecorderServesThisProgramAlone)
+TEST_F(ExchangeTest, ATokenInTheUrlOrTheReplysHeadersIsMasked)
 {
-    ASSERT_TRUE(session->tap.IsOn());
-    const QNetworkProxy proxy = QNetworkProxy::applicationProxy();
-    QTcpSocket stranger;
-    stranger.setProxy(QNetworkProxy::NoProxy);
-    stranger.connectToHost(proxy.hostName(), proxy.port());
-    ASSERT_TRUE(stranger.waitForConnected(kPatience));
-    stranger.write(QByteArray("\x05\x01\x02", 3));
-    ASSERT_TRUE(Await([&stranger] { return stranger.bytesAvailable() >= 2; }));
-    stranger.readAll();
-    stranger.write(QByteArray("\x01\x08") + "explorer" + "\x05" + "wrong");
-    EXPECT_TRUE(Await([&stranger] { return stranger.state() == QAbstractSocket::UnconnectedState; }));
-    EXPECT_EQ(stranger.readAll(), QByteArray());
+    RawServer server([](const RawRequest&) {
+        return HttpAnswer(200, "{\"code\": 1000, \"data\": {}}", QByteArray("X-Echo: ") + kToken + "\r\n");
+    });
+    Use(server.Port());
+    Choose("BRMS.GetUserGroupList");
+    Find<QLineEdit>("keyword").setText(QStringLiteral("token=") + QLatin1String(kToken));
+    ClickRun();
+    ASSERT_TRUE(AwaitRuns(1));
+    const CallOutcome& outcome = outcomes.front();
+    EXPECT_TRUE(outcome.request.url.endsWith(QStringLiteral("token=") + QLatin1String(explorer::kTokenMask)))
+        << outcome.request.url.toStdString();
+    ASSERT_TRUE(outcome.reply);
+    EXPECT_EQ(ValueOf(outcome.reply->headers, "X-Echo"), QLatin1String(explorer::kTokenMask));
 }
 
 }  // namespace

@@ -1,0 +1,82 @@
+#include "RunningCalls.h"
+
+#include "../core/CallIndex.h"
+#include "../views/NameLabel.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+
+RunningCalls::RunningCalls(Runner& runner, QWidget* pParent)
+    : QScrollArea(pParent), m_runner(runner), m_pLayout(new QVBoxLayout)
+{
+    setObjectName(QStringLiteral("runningCalls"));
+    setAccessibleName(tr("Calls under way"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    auto* const pRows = new QWidget;
+    m_pLayout->setContentsMargins(0, 0, 0, 0);
+    pRows->setLayout(m_pLayout);
+    setWidget(pRows);
+    connect(&runner, &Runner::WithoutWaitingChanged, this, &RunningCalls::Update);
+    Update();
+}
+
+void RunningCalls::Update()
+{
+    const std::map<int, RunOrder> orders = m_runner.WithoutWaiting();
+    for (auto row = m_rows.begin(); row != m_rows.end();) {
+        if (orders.count(row->first) == 0) {
+            row->second->hide();
+            m_pLayout->removeWidget(row->second);
+            row->second->deleteLater();  // its button may just be clicked
+            row = m_rows.erase(row);
+        } else {
+            ++row;
+        }
+    }
+    for (const auto& [number, order] : orders) {
+        if (m_rows.count(number) == 0) {
+            m_rows[number] = MakeRow(number, order);
+            m_pLayout->addWidget(m_rows[number]);
+        }
+    }
+    Fit();
+}
+
+QWidget* RunningCalls::MakeRow(int number, const RunOrder& order)
+{
+    const QString name = ShortName(*order.call);
+    auto* const pCancel = new QPushButton(tr("Cancel"));
+    pCancel->setObjectName(QStringLiteral("cancelCall"));
+    //: %1 is a call
+    pCancel->setAccessibleName(tr("Cancel %1").arg(name));
+    pCancel->setToolTip(pCancel->accessibleName());
+    connect(pCancel, &QPushButton::clicked, this, [this, number] { m_runner.Cancel(number); });
+
+    auto* const pRow = new QWidget;
+    auto* const pLayout = new QHBoxLayout(pRow);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(new NameLabel(name), 1);
+    pLayout->addWidget(pCancel);
+    return pRow;
+}
+
+/// As high as its rows, of which a few are seen at a time.
+void RunningCalls::Fit()
+{
+    constexpr std::size_t kSeen = 4;
+    setVisible(!m_rows.empty());
+    if (!m_rows.empty()) {
+        const int height = m_rows.begin()->second->sizeHint().height() + m_pLayout->spacing();
+        setFixedHeight(height * int(std::min(m_rows.size(), kSeen)));
+    }
+}
+
+}  // namespace explorer
