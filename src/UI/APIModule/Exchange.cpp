@@ -151,7 +151,7 @@ void Exchange::OnFinished()
     http::Reply& finished = *m_pReply;
     emit Answered();
     m_reply.eEnd = TakeEnd(finished, m_request, m_pFunction);
-    if (m_reply.eEnd == CallEnd::Success) {
+    if (m_reply.eEnd == CallEnd::Success || m_reply.eEnd == CallEnd::NotAuthenticated) {
         m_reply.nHttpStatus = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         m_reply.byteBody = finished.TakeBody();
         m_reply.rawHeaders = finished.Headers();
@@ -163,9 +163,9 @@ void Exchange::OnFinished()
         return;  // ended by an observer
     }
     if (m_reply.nHttpStatus != kStatusOk) {
+        m_reply.byteBody.clear();
+        m_reply.rawHeaders.clear();
         if (m_reply.eEnd == CallEnd::Success) {
-            m_reply.byteBody.clear();
-            m_reply.rawHeaders.clear();
             LogFailure({kModuleFile, m_pFunction},
                        QStringLiteral("Request failed, http status Code: %1, request url: %2")
                            .arg(QString::number(m_reply.nHttpStatus), MaskedUrl(m_request)));
