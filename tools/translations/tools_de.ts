@@ -115,10 +115,6 @@
         <translation>es gibt keinen Aufruf „%1“; apicall --list nennt alle</translation>
     </message>
     <message>
-        <source>the reply was not confirmed</source>
-        <translation>die Antwort wurde nicht bestätigt</translation>
-    </message>
-    <message>
         <source>--server is missing</source>
         <translation>--server fehlt</translation>
     </message>
@@ -263,6 +259,16 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <source>the file holds no certificate in PEM</source>
         <translation>die Datei enthält kein Zertifikat im Format PEM</translation>
     </message>
+    <message>
+        <source>the server says %1</source>
+        <extracomment>%1 is the server&apos;s own text in quotation marks</extracomment>
+        <translation>der Server sagt %1</translation>
+    </message>
+    <message>
+        <source>the reply holds no readable %1</source>
+        <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
+        <translation>die Antwort enthält kein lesbares %1</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>
@@ -284,11 +290,6 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <source>%1 needs the argument &quot;%2&quot; (%3)</source>
         <extracomment>%1 is a call, %3 a type</extracomment>
         <translation>%1 braucht das Argument „%2“ (%3)</translation>
-    </message>
-    <message>
-        <source>%1 succeeded</source>
-        <extracomment>%1 is a call</extracomment>
-        <translation>%1 war erfolgreich</translation>
     </message>
     <message>
         <source>text</source>

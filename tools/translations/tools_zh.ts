@@ -115,10 +115,6 @@
         <translation>没有名为“%1”的调用；apicall --list 可列出全部调用</translation>
     </message>
     <message>
-        <source>the reply was not confirmed</source>
-        <translation>应答未得到确认</translation>
-    </message>
-    <message>
         <source>--server is missing</source>
         <translation>缺少 --server</translation>
     </message>
@@ -263,6 +259,16 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <source>the file holds no certificate in PEM</source>
         <translation>该文件中没有 PEM 格式的证书</translation>
     </message>
+    <message>
+        <source>the server says %1</source>
+        <extracomment>%1 is the server&apos;s own text in quotation marks</extracomment>
+        <translation>服务器称 %1</translation>
+    </message>
+    <message>
+        <source>the reply holds no readable %1</source>
+        <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
+        <translation>应答中没有可读的 %1</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>
@@ -284,11 +290,6 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <source>%1 needs the argument &quot;%2&quot; (%3)</source>
         <extracomment>%1 is a call, %3 a type</extracomment>
         <translation>%1 需要参数“%2”（%3）</translation>
-    </message>
-    <message>
-        <source>%1 succeeded</source>
-        <extracomment>%1 is a call</extracomment>
-        <translation>%1 成功</translation>
     </message>
     <message>
         <source>text</source>

@@ -298,14 +298,6 @@
         <translation>Fa&amp;vorit ein oder aus</translation>
     </message>
     <message>
-        <source>Record what goes over the &amp;wire</source>
-        <translation>Auf&amp;zeichnen, was über die Leitung geht</translation>
-    </message>
-    <message>
-        <source>Passes the calls through a recorder in this program</source>
-        <translation>Leitet die Aufrufe durch einen Rekorder in diesem Programm</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
@@ -392,14 +384,6 @@
     <message>
         <source>The emulator gets a fresh token with each start.</source>
         <translation>Der Emulator bekommt bei jedem Start ein neues Token.</translation>
-    </message>
-    <message>
-        <source>Traffic is recorded</source>
-        <translation>Verkehr wird aufgezeichnet</translation>
-    </message>
-    <message>
-        <source>Traffic is not recorded</source>
-        <translation>Verkehr wird nicht aufgezeichnet</translation>
     </message>
     <message>
         <source>Log and n&amp;otifications</source>
@@ -553,10 +537,6 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>The headers are those that the library sets; the connection adds its own.</source>
-        <translation>Die Kopfzeilen sind die der Bibliothek; die Verbindung fügt eigene hinzu.</translation>
-    </message>
-    <message>
         <source>&amp;Body</source>
         <translation>&amp;Rumpf</translation>
     </message>
@@ -579,6 +559,10 @@
     <message>
         <source>Hea&amp;ders</source>
         <translation>Ko&amp;pfzeilen</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>Nichts wurde gesendet.</translation>
     </message>
 </context>
 <context>
@@ -619,13 +603,13 @@
         <source>time-out %1 s</source>
         <translation>Zeitgrenze %1 s</translation>
     </message>
+    <message>
+        <source>The connection: %1</source>
+        <translation>Verbindung: %1</translation>
+    </message>
 </context>
 <context>
     <name>explorer::ResultView</name>
-    <message>
-        <source>The reply is not complete: the connection ended or the time was over before.</source>
-        <translation>Die Antwort ist nicht vollständig: Vorher endete die Verbindung oder die Zeit war um.</translation>
-    </message>
     <message>
         <source>&amp;Record</source>
         <translation>&amp;Datensatz</translation>
@@ -655,10 +639,6 @@
         <translation>Es gibt keinen Datensatz.</translation>
     </message>
     <message>
-        <source>No reply was recorded.</source>
-        <translation>Keine Antwort wurde aufgezeichnet.</translation>
-    </message>
-    <message>
         <source>No data came for a record.</source>
         <translation>Es kamen keine Daten für einen Datensatz.</translation>
     </message>
@@ -669,6 +649,10 @@
     <message>
         <source>Raw repl&amp;y</source>
         <translation>R&amp;ohe Antwort</translation>
+    </message>
+    <message>
+        <source>No complete reply came.</source>
+        <translation>Es kam keine vollständige Antwort.</translation>
     </message>
 </context>
 <context>
@@ -712,6 +696,10 @@
             <numerusform>%n Aufrufe warten auf den Server</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Not at all, several at once</source>
+        <translation>Gar nicht, mehrere zugleich</translation>
+    </message>
 </context>
 <context>
     <name>explorer::Runner</name>
@@ -728,8 +716,24 @@
         <translation>Erfolg</translation>
     </message>
     <message>
-        <source>The reply was not confirmed</source>
-        <translation>Die Antwort wurde nicht bestätigt</translation>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RunningCalls</name>
+    <message>
+        <source>Calls under way</source>
+        <translation>Laufende Aufrufe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancel %1</source>
+        <extracomment>%1 is a call</extracomment>
+        <translation>%1 abbrechen</translation>
     </message>
 </context>
 <context>
@@ -977,6 +981,14 @@
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Last call: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
+        <translation>Letzter Aufruf: gesendet nach %1 ms, erstes Byte nach %2 ms, alles nach %3 ms</translation>
+    </message>
+    <message>
+        <source>Last call: sent after %1 ms, no byte until %2 ms</source>
+        <translation>Letzter Aufruf: gesendet nach %1 ms, kein Byte bis %2 ms</translation>
     </message>
 </context>
 <context>

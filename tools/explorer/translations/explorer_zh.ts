@@ -297,14 +297,6 @@
         <translation>切换收藏(&amp;O)</translation>
     </message>
     <message>
-        <source>Record what goes over the &amp;wire</source>
-        <translation>记录网络数据(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Passes the calls through a recorder in this program</source>
-        <translation>让调用经过本程序内的记录器</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
     </message>
@@ -391,14 +383,6 @@
     <message>
         <source>The emulator gets a fresh token with each start.</source>
         <translation>模拟器每次启动都会得到新的令牌。</translation>
-    </message>
-    <message>
-        <source>Traffic is recorded</source>
-        <translation>正在记录网络数据</translation>
-    </message>
-    <message>
-        <source>Traffic is not recorded</source>
-        <translation>未记录网络数据</translation>
     </message>
     <message>
         <source>Log and n&amp;otifications</source>
@@ -552,10 +536,6 @@
         <translation>值</translation>
     </message>
     <message>
-        <source>The headers are those that the library sets; the connection adds its own.</source>
-        <translation>这些标头由库设置；连接还会添加自己的标头。</translation>
-    </message>
-    <message>
         <source>&amp;Body</source>
         <translation>正文(&amp;B)</translation>
     </message>
@@ -578,6 +558,10 @@
     <message>
         <source>Hea&amp;ders</source>
         <translation>标头(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Nothing was sent.</source>
+        <translation>未发送任何内容。</translation>
     </message>
 </context>
 <context>
@@ -618,13 +602,13 @@
         <source>time-out %1 s</source>
         <translation>超时 %1 秒</translation>
     </message>
+    <message>
+        <source>The connection: %1</source>
+        <translation>连接：%1</translation>
+    </message>
 </context>
 <context>
     <name>explorer::ResultView</name>
-    <message>
-        <source>The reply is not complete: the connection ended or the time was over before.</source>
-        <translation>应答不完整：连接提前断开或已超时。</translation>
-    </message>
     <message>
         <source>&amp;Record</source>
         <translation>记录(&amp;R)</translation>
@@ -654,10 +638,6 @@
         <translation>没有记录。</translation>
     </message>
     <message>
-        <source>No reply was recorded.</source>
-        <translation>未记录应答。</translation>
-    </message>
-    <message>
         <source>No data came for a record.</source>
         <translation>没有收到用于记录的数据。</translation>
     </message>
@@ -668,6 +648,10 @@
     <message>
         <source>Raw repl&amp;y</source>
         <translation>原始应答(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>No complete reply came.</source>
+        <translation>没有收到完整的应答。</translation>
     </message>
 </context>
 <context>
@@ -710,6 +694,10 @@
             <numerusform>%n 个调用正在等待服务器</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Not at all, several at once</source>
+        <translation>不等待，可同时运行多个</translation>
+    </message>
 </context>
 <context>
     <name>explorer::Runner</name>
@@ -726,8 +714,24 @@
         <translation>成功</translation>
     </message>
     <message>
-        <source>The reply was not confirmed</source>
-        <translation>应答未得到确认</translation>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RunningCalls</name>
+    <message>
+        <source>Calls under way</source>
+        <translation>正在运行的调用</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cancel %1</source>
+        <extracomment>%1 is a call</extracomment>
+        <translation>取消 %1</translation>
     </message>
 </context>
 <context>
@@ -975,6 +979,14 @@
     <message>
         <source>%1 ms</source>
         <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>Last call: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
+        <translation>上次调用：%1 毫秒后发送，%2 毫秒后收到首字节，%3 毫秒后完成</translation>
+    </message>
+    <message>
+        <source>Last call: sent after %1 ms, no byte until %2 ms</source>
+        <translation>上次调用：%1 毫秒后发送，到 %2 毫秒仍未收到数据</translation>
     </message>
 </context>
 <context>
