@@ -12,19 +12,15 @@ using namespace std::string_literals;
 using namespace APIModule;
 
 const BodyPack<const GetPageAccessAuthorizePersonsReq&> kAuthorizePersonsPack(
-    "COBMSModule::PacketGetPageAccessAuthorizePersons", &COBMSModule::PacketGetPageAccessAuthorizePersons, Method_Post,
+    NAMED(COBMSModule::PacketGetPageAccessAuthorizePersons), Method_Post,
     "/obms/api/v1.1/acs/person/access/authorize/fetch/page");
-const UrlPack<const GetManagePersonReq&> kGetManaged("COBMSModule::PacketGetManagePersons",
-                                                     &COBMSModule::PacketGetManagePersons, Method_Get,
+const UrlPack<const GetManagePersonReq&> kGetManaged(NAMED(COBMSModule::PacketGetManagePersons), Method_Get,
                                                      "/obms/api/v1.1/acs/device/", {Server::Current});
-const UrlPack<const SetManagePersonReq&> kSetManaged("COBMSModule::PacketSetManagePersons",
-                                                     &COBMSModule::PacketSetManagePersons, Method_Put,
+const UrlPack<const SetManagePersonReq&> kSetManaged(NAMED(COBMSModule::PacketSetManagePersons), Method_Put,
                                                      "/obms/api/v1.1/acs/device/");
-const UrlPack<const GetPointAccessRules&> kPointRulesPack("COBMSModule::PackGetPointRules",
-                                                          &COBMSModule::PackGetPointRules, Method_Get,
+const UrlPack<const GetPointAccessRules&> kPointRulesPack(NAMED(COBMSModule::PackGetPointRules), Method_Get,
                                                           "/obms/api/v1.1/acp/point/");
-const UrlPack<const std::string&> kResetAntiPass("COBMSModule::PackPersonResetAntiPass",
-                                                 &COBMSModule::PackPersonResetAntiPass, Method_Post,
+const UrlPack<const std::string&> kResetAntiPass(NAMED(COBMSModule::PackPersonResetAntiPass), Method_Post,
                                                  "/obms/api/v1.1/acs/person/");
 
 const PackRow kPacks[] = {
@@ -87,10 +83,9 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(AccessControl, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kAuthorizePersons =
-    MakeParse("COBMSModule::ParseGetPageAccessAuthorizePersons", &COBMSModule::ParseGetPageAccessAuthorizePersons);
-const Parse kManagePersons = MakeParse("COBMSModule::ParseGetManagePersons", &COBMSModule::ParseGetManagePersons);
-const Parse kPointRules = MakeParse("COBMSModule::ParesGetPointRules", &COBMSModule::ParesGetPointRules);
+const Parse kAuthorizePersons = MakeParse(NAMED(COBMSModule::ParseGetPageAccessAuthorizePersons));
+const Parse kManagePersons = MakeParse(NAMED(COBMSModule::ParseGetManagePersons));
+const Parse kPointRules = MakeParse(NAMED(COBMSModule::ParesGetPointRules));
 
 const Reading kOrganizations = Records<PersonOrgInfo>("orgInfos", {Text("orgCode"), Text("orgName")});
 

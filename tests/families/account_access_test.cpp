@@ -39,11 +39,10 @@ std::vector<PackRow> RowsOfId(const CallOfId& call)
     };
 }
 
-const BodyPack<FunctionChannelCheck&> kCheckPack("CBRMSModule::PacketFunctionChannelCheck",
-                                                 &CBRMSModule::PacketFunctionChannelCheck, Method_Post,
+const BodyPack<FunctionChannelCheck&> kCheckPack(NAMED(CBRMSModule::PacketFunctionChannelCheck), Method_Post,
                                                  "/brms/api/v1.1/account/function/channel/check");
 const UrlPack<const DeviceCategoryParamReq&> kCountPack(
-    "CBRMSModule::PacketGetDeviceCategoryCount", &CBRMSModule::PacketGetDeviceCategoryCount, Method_Get,
+    NAMED(CBRMSModule::PacketGetDeviceCategoryCount), Method_Get,
     "/brms/api/v1.1/device/statistics/count-by-device-category/list?");
 
 std::vector<PackRow> PackRows()
@@ -103,19 +102,15 @@ std::vector<PackRow> PackRows()
 
 INSTANTIATE_TEST_SUITE_P(AccountAccess, PackTest, testing::ValuesIn(PackRows()), RowName());
 
-const Parse kTunnel = MakeParse("CBRMSModule::ParseGetChannelWebTunnel", &CBRMSModule::ParseGetChannelWebTunnel);
-const Parse kAuthorization =
-    MakeParse("CBRMSModule::ParseGetChannelWebAuthorization", &CBRMSModule::ParseGetChannelWebAuthorization);
-const Parse kChannelWeb =
-    MakeParse("CBRMSModule::ParseGetChannelWebEnablement", &CBRMSModule::ParseGetChannelWebEnablement);
-const Parse kDeviceWeb = MakeParse("CBRMSModule::ParseGetWebEnablement", &CBRMSModule::ParseGetWebEnablement);
-const Parse kMenu = MakeParse("CBRMSModule::ParseGetMenuAvailable", &CBRMSModule::ParseGetMenuAvailable);
-const Parse kToken = MakeParse("CBRMSModule::ParseGetDeriveToken", &CBRMSModule::ParseGetDeriveToken);
-const Parse kPermissions =
-    MakeParse("CBRMSModule::ParseGetPermissionResourceCollection", &CBRMSModule::ParseGetPermissionResourceCollection);
-const Parse kCheck = MakeParse("CBRMSModule::ParseFunctionChannelCheck", &CBRMSModule::ParseFunctionChannelCheck);
-const Parse kCount =
-    MakeParse("CBRMSModule::ParseGetGetDeviceCategoryCount", &CBRMSModule::ParseGetGetDeviceCategoryCount);
+const Parse kTunnel = MakeParse(NAMED(CBRMSModule::ParseGetChannelWebTunnel));
+const Parse kAuthorization = MakeParse(NAMED(CBRMSModule::ParseGetChannelWebAuthorization));
+const Parse kChannelWeb = MakeParse(NAMED(CBRMSModule::ParseGetChannelWebEnablement));
+const Parse kDeviceWeb = MakeParse(NAMED(CBRMSModule::ParseGetWebEnablement));
+const Parse kMenu = MakeParse(NAMED(CBRMSModule::ParseGetMenuAvailable));
+const Parse kToken = MakeParse(NAMED(CBRMSModule::ParseGetDeriveToken));
+const Parse kPermissions = MakeParse(NAMED(CBRMSModule::ParseGetPermissionResourceCollection));
+const Parse kCheck = MakeParse(NAMED(CBRMSModule::ParseFunctionChannelCheck));
+const Parse kCount = MakeParse(NAMED(CBRMSModule::ParseGetGetDeviceCategoryCount));
 
 /// Rows for what the value of "authorized" is taken for.
 std::vector<ParseRow> CheckRows()

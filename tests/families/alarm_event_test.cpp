@@ -16,11 +16,9 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const UrlPack<const GetPageSummaryAlarmPlansParam&> kPlansPack("CBRMSModule::PacketGetPageSummaryAlarmPlans",
-                                                               &CBRMSModule::PacketGetPageSummaryAlarmPlans, Method_Get,
-                                                               "/brms/api/v1.1/alarm/plan/summary/page?");
-const UrlPack<const std::string&, int> kLinksPack("CBRMSModule::PacketGetAlarmLinkControlList",
-                                                  &CBRMSModule::PacketGetAlarmLinkControlList, Method_Get,
+const UrlPack<const GetPageSummaryAlarmPlansParam&> kPlansPack(NAMED(CBRMSModule::PacketGetPageSummaryAlarmPlans),
+                                                               Method_Get, "/brms/api/v1.1/alarm/plan/summary/page?");
+const UrlPack<const std::string&, int> kLinksPack(NAMED(CBRMSModule::PacketGetAlarmLinkControlList), Method_Get,
                                                   "/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?");
 
 /// In a client whose numbers have a point behind their thousands.
@@ -36,16 +34,13 @@ PackRow InGerman(PackRow row)
     return row;
 }
 
-const UrlPack<const std::string&, int> kLayerPack("CBRMSModule::PacketGetAlarmLayerDetail",
-                                                  &CBRMSModule::PacketGetAlarmLayerDetail, Method_Get,
+const UrlPack<const std::string&, int> kLayerPack(NAMED(CBRMSModule::PacketGetAlarmLayerDetail), Method_Get,
                                                   "/ipms/api/v1.1/parking-lot/layer/detail?");
-const UrlPack<const std::string&> kFilesPack("CBRMSModule::PacketGetAlarmHostFileInfo",
-                                             &CBRMSModule::PacketGetAlarmHostFileInfo, Method_Get,
+const UrlPack<const std::string&> kFilesPack(NAMED(CBRMSModule::PacketGetAlarmHostFileInfo), Method_Get,
                                              "/brms/api/v1.1/alarm/record/");
-const UrlPack<const std::string&, const std::string&> kAudioFile("CBRMSModule::PacketGetAudioFileInfo",
-                                                                 &CBRMSModule::PacketGetAudioFileInfo, Method_Get);
-const BodyPack<GetGeneralEventsParam&> kEventsPack("CBRMSModule::PacketGetGeneralEvents",
-                                                   &CBRMSModule::PacketGetGeneralEvents, Method_Get,
+const UrlPack<const std::string&, const std::string&> kAudioFile(NAMED(CBRMSModule::PacketGetAudioFileInfo),
+                                                                 Method_Get);
+const BodyPack<GetGeneralEventsParam&> kEventsPack(NAMED(CBRMSModule::PacketGetGeneralEvents), Method_Get,
                                                    "/brms/api/v1.1/alarm/general/event/list");
 
 const PackRow kPacks[] = {
@@ -145,14 +140,13 @@ TEST_F(AudioFileInfoTest, UrlThatBeginsWithAZeroByteIsRefusedAsEmpty)
     EXPECT_EQ(logs.Take(), expected);
 }
 
-const Parse kPlans =
-    MakeParse("CBRMSModule::ParseGetPageSummaryAlarmPlans", &CBRMSModule::ParseGetPageSummaryAlarmPlans);
-const Parse kLinks = MakeParse("CBRMSModule::ParseGetAlarmLinkControlList", &CBRMSModule::ParseGetAlarmLinkControlList);
-const Parse kLayer = MakeParse("CBRMSModule::ParseGetAlarmLayerDetail", &CBRMSModule::ParseGetAlarmLayerDetail);
-const Parse kFiles = MakeParse("CBRMSModule::ParseGetAlarmHostFileInfo", &CBRMSModule::ParseGetAlarmHostFileInfo);
-const Parse kAudio = MakeParse("CBRMSModule::ParseGetAudioFileInfo", &CBRMSModule::ParseGetAudioFileInfo);
-const Parse kPluginLog = MakeParse("CBRMSModule::ParseGetPluginLogType", &CBRMSModule::ParseGetPluginLogType);
-const Parse kEvents = MakeParse("CBRMSModule::ParseGetGeneralEvents", &CBRMSModule::ParseGetGeneralEvents);
+const Parse kPlans = MakeParse(NAMED(CBRMSModule::ParseGetPageSummaryAlarmPlans));
+const Parse kLinks = MakeParse(NAMED(CBRMSModule::ParseGetAlarmLinkControlList));
+const Parse kLayer = MakeParse(NAMED(CBRMSModule::ParseGetAlarmLayerDetail));
+const Parse kFiles = MakeParse(NAMED(CBRMSModule::ParseGetAlarmHostFileInfo));
+const Parse kAudio = MakeParse(NAMED(CBRMSModule::ParseGetAudioFileInfo));
+const Parse kPluginLog = MakeParse(NAMED(CBRMSModule::ParseGetPluginLogType));
+const Parse kEvents = MakeParse(NAMED(CBRMSModule::ParseGetGeneralEvents));
 
 std::vector<ParseRow> GeneratedRows()
 {

@@ -11,7 +11,7 @@ using namespace std::string_literals;
 using namespace APIModule;
 
 const BodyPack<const std::vector<std::string>&> kUploadFailed(
-    "CIAMSModule::PacketSetAnalysisTaskUploadFailed", &CIAMSModule::PacketSetAnalysisTaskUploadFailed, Method_Post,
+    NAMED(CIAMSModule::PacketSetAnalysisTaskUploadFailed), Method_Post,
     "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch");
 
 const PackRow kPacks[] = {

@@ -11,26 +11,22 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const BodyPack<const AcsCardConfigParam&> kUpdateDesfire("COBMSModule::PackUpdateConfigDesfireInfo",
-                                                         &COBMSModule::PackUpdateConfigDesfireInfo, Method_Put,
+const BodyPack<const AcsCardConfigParam&> kUpdateDesfire(NAMED(COBMSModule::PackUpdateConfigDesfireInfo), Method_Put,
                                                          "/obms/api/v1.1/acs/config/desfire",
                                                          {Server::OfCaller, "UpdateConfigDesfireInfo is failed.",
                                                           "UpdateConfigDesfireInfo is success."});
-const UrlPack<const ConfigDesFireFailureReq&> kDesfireFailure("COBMSModule::PackGetPageConfigDesfireFailInfo",
-                                                              &COBMSModule::PackGetPageConfigDesfireFailInfo,
+const UrlPack<const ConfigDesFireFailureReq&> kDesfireFailure(NAMED(COBMSModule::PackGetPageConfigDesfireFailInfo),
                                                               Method_Get);
-const BodyPack<const DeleteAddressBookParam&> kDeleteContacts("COBMSModule::PackDeleteAddressBooks",
-                                                              &COBMSModule::PackDeleteAddressBooks, Method_Post,
+const BodyPack<const DeleteAddressBookParam&> kDeleteContacts(NAMED(COBMSModule::PackDeleteAddressBooks), Method_Post,
                                                               "/obms/api/v1.1/vtalk/issue/contact/delete",
                                                               {Server::OfCaller, "Delete contacts failed.",
                                                                "Delete contacts success."});
-const UrlPack<const std::string&, int> kSnapShotPack("COBMSModule::PacketAlarmHostZoneSnapShot",
-                                                     &COBMSModule::PacketAlarmHostZoneSnapShot, Method_Post,
+const UrlPack<const std::string&, int> kSnapShotPack(NAMED(COBMSModule::PacketAlarmHostZoneSnapShot), Method_Post,
                                                      "/obms/api/v1.1/alarm-host/zone/");
 
 const PackRow kPacks[] = {
-    {"GetConfigDesfireInfo", "COBMSModule::PackGetConfigDesfireInfo", &COBMSModule::PackGetConfigDesfireInfo,
-     Method_Get, "/obms/api/v1.1/acs/config/desfire"},
+    {"GetConfigDesfireInfo", NAMED(COBMSModule::PackGetConfigDesfireInfo), Method_Get,
+     "/obms/api/v1.1/acs/config/desfire"},
     kUpdateDesfire("UpdateConfigDesfireInfo_both_true", {true, true},
                    R"({"enableDesfire": "1", "enableReadEncryptContent": "1"})"),
     kUpdateDesfire("UpdateConfigDesfireInfo_first_true", {true, false},
@@ -53,8 +49,8 @@ const PackRow kPacks[] = {
                     "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a\0b"s),
     kDesfireFailure("GetPageConfigDesfireFailInfo_invalid_utf8", {1, 20, "x\xFF"},
                     "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=x\xEF\xBF\xBD"),
-    {"ReissueConfigDesfire", "COBMSModule::PackReissueConfigDesfire", &COBMSModule::PackReissueConfigDesfire,
-     Method_Post, "/obms/api/v1.1/acs/config/desfire/failure/reissue"},
+    {"ReissueConfigDesfire", NAMED(COBMSModule::PackReissueConfigDesfire), Method_Post,
+     "/obms/api/v1.1/acs/config/desfire/failure/reissue"},
     kDeleteContacts("DeleteAddressBooks_all_ignores_three_indoor_codes", {true, "vto", {"a", "b", "c"}},
                     R"({"mode": "1", "vtoDeviceCode": "vto", "vthDeviceCodes": []})"),
     kDeleteContacts("DeleteAddressBooks_all_without_indoor_codes", {true, "vto", {}},
@@ -81,10 +77,9 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(CardIntercom, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kDesfire = MakeParse("COBMSModule::ParseGetConfigDesfireInfo", &COBMSModule::ParseGetConfigDesfireInfo);
-const Parse kDesfireFailures =
-    MakeParse("COBMSModule::ParseGetPageConfigDesfireFailInfo", &COBMSModule::ParseGetPageConfigDesfireFailInfo);
-const Parse kSnapShot = MakeParse("COBMSModule::ParseAlarmHostZoneSnapShot", &COBMSModule::ParseAlarmHostZoneSnapShot);
+const Parse kDesfire = MakeParse(NAMED(COBMSModule::ParseGetConfigDesfireInfo));
+const Parse kDesfireFailures = MakeParse(NAMED(COBMSModule::ParseGetPageConfigDesfireFailInfo));
+const Parse kSnapShot = MakeParse(NAMED(COBMSModule::ParseAlarmHostZoneSnapShot));
 
 std::vector<ParseRow> ParseRows()
 {

@@ -11,36 +11,26 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const UrlPack<const std::string&> kGetNetworkConfig("CBRMSModule::PacketGetNetworkConfig",
-                                                    &CBRMSModule::PacketGetNetworkConfig, Method_Get,
+const UrlPack<const std::string&> kGetNetworkConfig(NAMED(CBRMSModule::PacketGetNetworkConfig), Method_Get,
                                                     "/brms/api/v1.1/device/");
-const UrlPack<NetworkConfig&> kUpdateNetworkConfig("CBRMSModule::PacketUpdateNetworkConfig",
-                                                   &CBRMSModule::PacketUpdateNetworkConfig, Method_Put,
+const UrlPack<NetworkConfig&> kUpdateNetworkConfig(NAMED(CBRMSModule::PacketUpdateNetworkConfig), Method_Put,
                                                    "/brms/api/v1.1/device/");
-const UrlPack<const std::string&> kGetEncodeConfig("CBRMSModule::PacketGetEncodeConfig",
-                                                   &CBRMSModule::PacketGetEncodeConfig, Method_Get,
+const UrlPack<const std::string&> kGetEncodeConfig(NAMED(CBRMSModule::PacketGetEncodeConfig), Method_Get,
                                                    "/brms/api/v1.1/device/channel/");
 const UrlPack<const std::string&, std::vector<EncodeConfig>&> kUpdateEncodeConfig(
-    "CBRMSModule::PacketUpdateEncodeConfig", &CBRMSModule::PacketUpdateEncodeConfig, Method_Put,
-    "/brms/api/v1.1/device/channel/");
-const UrlPack<const std::string&, int> kGetEncodeCapability("CBRMSModule::PacketGetEncodeCapability",
-                                                            &CBRMSModule::PacketGetEncodeCapability, Method_Get,
+    NAMED(CBRMSModule::PacketUpdateEncodeConfig), Method_Put, "/brms/api/v1.1/device/channel/");
+const UrlPack<const std::string&, int> kGetEncodeCapability(NAMED(CBRMSModule::PacketGetEncodeCapability), Method_Get,
                                                             "/brms/api/v1.1/device/channel/");
-const UrlPack<const std::string&> kGetImageConfig("CBRMSModule::PacketGetImageConfig",
-                                                  &CBRMSModule::PacketGetImageConfig, Method_Get,
+const UrlPack<const std::string&> kGetImageConfig(NAMED(CBRMSModule::PacketGetImageConfig), Method_Get,
                                                   "/brms/api/v1.1/device/channel/");
-const UrlPack<ImageConfig&> kUpdateImageConfig("CBRMSModule::PacketUpdateImageConfig",
-                                               &CBRMSModule::PacketUpdateImageConfig, Method_Put,
+const UrlPack<ImageConfig&> kUpdateImageConfig(NAMED(CBRMSModule::PacketUpdateImageConfig), Method_Put,
                                                "/brms/api/v1.1/device/channel/");
-const UrlPack<const std::string&> kGetMultiCastConfig("CBRMSModule::PacketGetMultiCastConfig",
-                                                      &CBRMSModule::PacketGetMultiCastConfig, Method_Get,
+const UrlPack<const std::string&> kGetMultiCastConfig(NAMED(CBRMSModule::PacketGetMultiCastConfig), Method_Get,
                                                       "/brms/api/v1.1/device/channel/");
-const UrlPack<const MultiCastConfigInfo&> kSetMultiCastConfig("CBRMSModule::PacketSetMultiCastConfig",
-                                                              &CBRMSModule::PacketSetMultiCastConfig, Method_Put,
+const UrlPack<const MultiCastConfigInfo&> kSetMultiCastConfig(NAMED(CBRMSModule::PacketSetMultiCastConfig), Method_Put,
                                                               "/brms/api/v1.1/device/channel/");
-const UrlPack<const MultiCastStreamStatus&> kSetMultiCastStreamStatus("CBRMSModule::PacketSetMultiCastStreamStatus",
-                                                                      &CBRMSModule::PacketSetMultiCastStreamStatus,
-                                                                      Method_Put, "/brms/api/v1.1/device/channel/");
+const UrlPack<const MultiCastStreamStatus&> kSetMultiCastStreamStatus(
+    NAMED(CBRMSModule::PacketSetMultiCastStreamStatus), Method_Put, "/brms/api/v1.1/device/channel/");
 
 const PackRow kPacks[] = {
     kGetNetworkConfig("GetNetworkConfig", "dev1", "dev1/config/network"),
@@ -120,11 +110,11 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(DeviceConfig, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kNetwork = MakeParse("CBRMSModule::ParseGetNetworkConfig", &CBRMSModule::ParseGetNetworkConfig);
-const Parse kEncode = MakeParse("CBRMSModule::ParseGetEncodeConfig", &CBRMSModule::ParseGetEncodeConfig);
-const Parse kCapability = MakeParse("CBRMSModule::ParseGetEncodeCapability", &CBRMSModule::ParseGetEncodeCapability);
-const Parse kImage = MakeParse("CBRMSModule::ParseGetImageConfig", &CBRMSModule::ParseGetImageConfig);
-const Parse kMultiCast = MakeParse("CBRMSModule::ParseGetMultiCastConfig", &CBRMSModule::ParseGetMultiCastConfig);
+const Parse kNetwork = MakeParse(NAMED(CBRMSModule::ParseGetNetworkConfig));
+const Parse kEncode = MakeParse(NAMED(CBRMSModule::ParseGetEncodeConfig));
+const Parse kCapability = MakeParse(NAMED(CBRMSModule::ParseGetEncodeCapability));
+const Parse kImage = MakeParse(NAMED(CBRMSModule::ParseGetImageConfig));
+const Parse kMultiCast = MakeParse(NAMED(CBRMSModule::ParseGetMultiCastConfig));
 
 const char* const kWholeCapability = R"({
     "supportCompressions": ["1", "3"],

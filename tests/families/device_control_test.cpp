@@ -12,16 +12,12 @@ using namespace std::string_literals;
 using namespace APIModule;
 
 const BodyPack<const std::vector<std::string>&, int> kBatchDiscoverDevices(
-    "CBRMSModule::PacketBatchDiscoverDevices", &CBRMSModule::PacketBatchDiscoverDevices, Method_Post,
-    "/brms/api/v1.1/device/discover/async/batch");
+    NAMED(CBRMSModule::PacketBatchDiscoverDevices), Method_Post, "/brms/api/v1.1/device/discover/async/batch");
 const BodyPack<const std::vector<std::string>&, bool> kAlarmOutputControl(
-    "CBRMSModule::PacketAlarmOutputControl", &CBRMSModule::PacketAlarmOutputControl, Method_Post,
-    "/brms/api/v1.1/device/channel/alarm-output/control");
+    NAMED(CBRMSModule::PacketAlarmOutputControl), Method_Post, "/brms/api/v1.1/device/channel/alarm-output/control");
 const BodyPack<const std::vector<std::string>&, bool> kAudioLightControl(
-    "CBRMSModule::PacketAudioLightControl", &CBRMSModule::PacketAudioLightControl, Method_Post,
-    "/brms/api/v1.1/device/channel/audio-light/regulate");
-const BodyPack<IPSpeakerControl> kIPSpeakerControl("CBRMSModule::PacketIPSpeakerControl",
-                                                   &CBRMSModule::PacketIPSpeakerControl, Method_Post,
+    NAMED(CBRMSModule::PacketAudioLightControl), Method_Post, "/brms/api/v1.1/device/channel/audio-light/regulate");
+const BodyPack<IPSpeakerControl> kIPSpeakerControl(NAMED(CBRMSModule::PacketIPSpeakerControl), Method_Post,
                                                    "/brms/api/v1.1/device/channel/audio/ip-speaker/control");
 
 const PackRow kPacks[] = {
@@ -56,8 +52,8 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(DeviceControl, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kDiscover = MakeParse("CBRMSModule::ParseBatchDiscoverDevices", &CBRMSModule::ParseBatchDiscoverDevices);
-const Parse kControl = MakeParse("CBRMSModule::ParseChannelControl", &CBRMSModule::ParseChannelControl);
+const Parse kDiscover = MakeParse(NAMED(CBRMSModule::ParseBatchDiscoverDevices));
+const Parse kControl = MakeParse(NAMED(CBRMSModule::ParseChannelControl));
 
 std::vector<ParseRow> ParseRows()
 {

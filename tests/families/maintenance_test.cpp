@@ -11,14 +11,12 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const UrlPack<std::string> kChannelPack("COMMSModule::PacketGetChannelInfo", &COMMSModule::PacketGetChannelInfo,
-                                        Method_Get, "/omms/api/v1.1/channel/");
-const UrlPack<std::string> kDevicePack("COMMSModule::PacketGetDeviceInfo", &COMMSModule::PacketGetDeviceInfo,
-                                       Method_Get, "/omms/api/v1.1/device/");
+const UrlPack<std::string> kChannelPack(NAMED(COMMSModule::PacketGetChannelInfo), Method_Get,
+                                        "/omms/api/v1.1/channel/");
+const UrlPack<std::string> kDevicePack(NAMED(COMMSModule::PacketGetDeviceInfo), Method_Get, "/omms/api/v1.1/device/");
 
 const PackRow kPacks[] = {
-    {"GetAlertTypes", "COMMSModule::PacketGetAlertTypes", &COMMSModule::PacketGetAlertTypes, Method_Get,
-     "/omms/api/v1.1/alert/rule/alert-type/list"},
+    {"GetAlertTypes", NAMED(COMMSModule::PacketGetAlertTypes), Method_Get, "/omms/api/v1.1/alert/rule/alert-type/list"},
     kChannelPack("GetChannelInfo", "1000001$1$0$0", "1000001$1$0$0"),
     kChannelPack("GetChannelInfo_empty_text", "", ""),
     kChannelPack("GetChannelInfo_nothing_is_escaped", "a b/%1?\xC3\xBC\"", "a b/%1?\xC3\xBC\""),
@@ -33,9 +31,9 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(Maintenance, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kAlertTypes = MakeParse("COMMSModule::ParseGetAlertTypes", &COMMSModule::ParseGetAlertTypes);
-const Parse kChannel = MakeParse("COMMSModule::ParseGetChannelInfo", &COMMSModule::ParseGetChannelInfo);
-const Parse kDevice = MakeParse("COMMSModule::ParseGetDeviceInfo", &COMMSModule::ParseGetDeviceInfo);
+const Parse kAlertTypes = MakeParse(NAMED(COMMSModule::ParseGetAlertTypes));
+const Parse kChannel = MakeParse(NAMED(COMMSModule::ParseGetChannelInfo));
+const Parse kDevice = MakeParse(NAMED(COMMSModule::ParseGetDeviceInfo));
 
 const Readings kChannelKeys =
     InTurn(Text("channelName"), Text("channelId"), Int("channelType"), Text("deviceCode"), Text("deviceName"),

@@ -11,14 +11,12 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const UrlPack<const std::string&, int> kSimplePack("CIPMSModule::PacketGetSimpleParkingLots",
-                                                   &CIPMSModule::PacketGetSimpleParkingLots, Method_Get,
+const UrlPack<const std::string&, int> kSimplePack(NAMED(CIPMSModule::PacketGetSimpleParkingLots), Method_Get,
                                                    "/ipms/api/v1.1/parking-lot/summary/list?parkingLotIds=");
 const UrlPack<const std::string&, const std::string&, int> kDetailPack(
-    "CIPMSModule::PacketGetDetailParkingLots", &CIPMSModule::PacketGetDetailParkingLots, Method_Get,
+    NAMED(CIPMSModule::PacketGetDetailParkingLots), Method_Get,
     "/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=");
-const BodyPack<const UpdateVehicleCaptureRecordInfo&> kCapture("CIPMSModule::PacketUpdateVehicleCaptureRecord",
-                                                               &CIPMSModule::PacketUpdateVehicleCaptureRecord,
+const BodyPack<const UpdateVehicleCaptureRecordInfo&> kCapture(NAMED(CIPMSModule::PacketUpdateVehicleCaptureRecord),
                                                                Method_Put,
                                                                "/ipms/api/v1.1/fusion/vehicle-capture/record");
 
@@ -41,8 +39,8 @@ const PackRow kPacks[] = {
     kDetailPack("GetDetailParkingLots_invalid_utf8", "x\xFF", "\xC3", 1, "x\xEF\xBF\xBD&mode=1&orgCode=\xEF\xBF\xBD"),
     kDetailPack("GetDetailParkingLots_markers_in_the_ids_are_rewritten", "a%2b%3", "c", 5, "a5bc&mode=5&orgCode=c"),
     kDetailPack("GetDetailParkingLots_marker_in_orgCode_stays", "a", "%3%1", 5, "a&mode=5&orgCode=%3%1"),
-    {"GetParkingOrganization", "CIPMSModule::PacketGetParkingOrganization", &CIPMSModule::PacketGetParkingOrganization,
-     Method_Get, "/ipms/api/v1.1/organization/list"},
+    {"GetParkingOrganization", NAMED(CIPMSModule::PacketGetParkingOrganization), Method_Get,
+     "/ipms/api/v1.1/organization/list"},
     kCapture("UpdateVehicleCaptureRecord", {"55", "AB 123"}, R"({"id": "55", "plateNo": "AB 123"})"),
     kCapture("UpdateVehicleCaptureRecord_fresh", {}, R"({"id": "", "plateNo": ""})"),
     kCapture("UpdateVehicleCaptureRecord_zero_bytes_are_kept", {"5\0"s, "a\0b"s},
@@ -55,10 +53,9 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(Parking, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kSimple = MakeParse("CIPMSModule::ParseGetSimpleParkingLots", &CIPMSModule::ParseGetSimpleParkingLots);
-const Parse kDetail = MakeParse("CIPMSModule::ParseGetDetailParkingLots", &CIPMSModule::ParseGetDetailParkingLots);
-const Parse kOrganization =
-    MakeParse("CIPMSModule::ParseGetParkingOrganization", &CIPMSModule::ParseGetParkingOrganization);
+const Parse kSimple = MakeParse(NAMED(CIPMSModule::ParseGetSimpleParkingLots));
+const Parse kDetail = MakeParse(NAMED(CIPMSModule::ParseGetDetailParkingLots));
+const Parse kOrganization = MakeParse(NAMED(CIPMSModule::ParseGetParkingOrganization));
 
 const Readings kSimplePoint = {Text("id"),         Text("pointName"), Text("remark"),
                                Text("refPointId"), Int("direction"),  Int("mode")};

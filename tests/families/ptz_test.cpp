@@ -11,15 +11,14 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const BodyPack<std::string> kWashOpen("CDMSModule::PackeWashOpen", &CDMSModule::PackeWashOpen, Method_Post,
-                                      "/admin/API/DMS/Ptz/AuxControl", {Server::One});
-const BodyPack<std::vector<std::string>&> kBatchWashOpen("CDMSModule::PackeBatchWashOpen",
-                                                         &CDMSModule::PackeBatchWashOpen, Method_Post,
+const BodyPack<std::string> kWashOpen(NAMED(CDMSModule::PackeWashOpen), Method_Post, "/admin/API/DMS/Ptz/AuxControl",
+                                      {Server::One});
+const BodyPack<std::vector<std::string>&> kBatchWashOpen(NAMED(CDMSModule::PackeBatchWashOpen), Method_Post,
                                                          "/admin/API/DMS/Ptz/AuxBatchControl", {Server::One});
-const UrlPack<std::string> kSetHomePack("CDMSModule::PackeSetHomePosition", &CDMSModule::PackeSetHomePosition,
-                                        Method_Post, "/brms/api/v1.1/ptz/channel/");
-const UrlPack<std::string> kGotoHomePack("CDMSModule::PackeGotoHomePosition", &CDMSModule::PackeGotoHomePosition,
-                                         Method_Post, "/brms/api/v1.1/ptz/channel/",
+const UrlPack<std::string> kSetHomePack(NAMED(CDMSModule::PackeSetHomePosition), Method_Post,
+                                        "/brms/api/v1.1/ptz/channel/");
+const UrlPack<std::string> kGotoHomePack(NAMED(CDMSModule::PackeGotoHomePosition), Method_Post,
+                                         "/brms/api/v1.1/ptz/channel/",
                                          {Server::OfCaller, "PackeSetHomePosition failed.",
                                           "PackeSetHomePosition success."});
 
@@ -58,10 +57,10 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(Ptz, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kWash = MakeParse("CDMSModule::ParseWashOpen", &CDMSModule::ParseWashOpen);
-const Parse kBatchWash = MakeParse("CDMSModule::ParseBatchWashOpen", &CDMSModule::ParseBatchWashOpen);
-const Parse kSetHome = MakeParse("CDMSModule::ParseSetHomePosition", &CDMSModule::ParseSetHomePosition);
-const Parse kGotoHome = MakeParse("CDMSModule::ParseGotoHomePosition", &CDMSModule::ParseGotoHomePosition);
+const Parse kWash = MakeParse(NAMED(CDMSModule::ParseWashOpen));
+const Parse kBatchWash = MakeParse(NAMED(CDMSModule::ParseBatchWashOpen));
+const Parse kSetHome = MakeParse(NAMED(CDMSModule::ParseSetHomePosition));
+const Parse kGotoHome = MakeParse(NAMED(CDMSModule::ParseGotoHomePosition));
 
 /// The user is read from "lockUser" only after "result".
 const Readings kStatus = {Found("lockUser"), Text("result"),

@@ -13,19 +13,16 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const BodyPack<const QuickCommand&> kAdd("CBRMSModule::PacketAddQuickCommand", &CBRMSModule::PacketAddQuickCommand,
-                                         Method_Post, "/brms/api/v1.1/config/quick/command");
-const UrlPack<const QuickCommand&> kUpdate("CBRMSModule::PacketUpdateQuickCommand",
-                                           &CBRMSModule::PacketUpdateQuickCommand, Method_Put);
-const UrlPack<std::vector<std::string>> kDelete("CBRMSModule::PacketDelQuickCommand",
-                                                &CBRMSModule::PacketDelQuickCommand, Method_Delete,
+const BodyPack<const QuickCommand&> kAdd(NAMED(CBRMSModule::PacketAddQuickCommand), Method_Post,
+                                         "/brms/api/v1.1/config/quick/command");
+const UrlPack<const QuickCommand&> kUpdate(NAMED(CBRMSModule::PacketUpdateQuickCommand), Method_Put);
+const UrlPack<std::vector<std::string>> kDelete(NAMED(CBRMSModule::PacketDelQuickCommand), Method_Delete,
                                                 "/brms/api/v1.1/config/quick/command?ids=");
-const UrlPack<const std::string&> kGetPack("CBRMSModule::PacketGetQuickCommand", &CBRMSModule::PacketGetQuickCommand,
-                                           Method_Get, "/brms/api/v1.1/config/quick/command/");
-const UrlPack<const std::string&> kListPack("CBRMSModule::PacketGetQuickCommands", &CBRMSModule::PacketGetQuickCommands,
-                                            Method_Get, "/brms/api/v1.1/config/quick/command/list?keyword=");
-const UrlPack<const std::string&> kOfPlanPack("CBRMSModule::PacketGetAlarmPlanQuickCommands",
-                                              &CBRMSModule::PacketGetAlarmPlanQuickCommands, Method_Get,
+const UrlPack<const std::string&> kGetPack(NAMED(CBRMSModule::PacketGetQuickCommand), Method_Get,
+                                           "/brms/api/v1.1/config/quick/command/");
+const UrlPack<const std::string&> kListPack(NAMED(CBRMSModule::PacketGetQuickCommands), Method_Get,
+                                            "/brms/api/v1.1/config/quick/command/list?keyword=");
+const UrlPack<const std::string&> kOfPlanPack(NAMED(CBRMSModule::PacketGetAlarmPlanQuickCommands), Method_Get,
                                               "/brms/api/v1.1/alarm/plan/");
 
 /// What add and update alike make of a command.
@@ -156,10 +153,9 @@ std::vector<PackRow> PackRows()
 
 INSTANTIATE_TEST_SUITE_P(QuickCommand, PackTest, testing::ValuesIn(PackRows()), RowName());
 
-const Parse kGet = MakeParse("CBRMSModule::ParseGetQuickCommand", &CBRMSModule::ParseGetQuickCommand);
-const Parse kList = MakeParse("CBRMSModule::ParseGetQuickCommands", &CBRMSModule::ParseGetQuickCommands);
-const Parse kOfPlan =
-    MakeParse("CBRMSModule::ParseGetAlarmPlanQuickCommands", &CBRMSModule::ParseGetAlarmPlanQuickCommands);
+const Parse kGet = MakeParse(NAMED(CBRMSModule::ParseGetQuickCommand));
+const Parse kList = MakeParse(NAMED(CBRMSModule::ParseGetQuickCommands));
+const Parse kOfPlan = MakeParse(NAMED(CBRMSModule::ParseGetAlarmPlanQuickCommands));
 
 std::vector<ParseRow> ParseRows()
 {

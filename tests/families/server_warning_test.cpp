@@ -10,26 +10,23 @@ using namespace family_testing;
 using namespace APIModule;
 
 const PackRow kPacks[] = {
-    {"CheckHotSpareWarning", "CBRMSModule::PacketCheckHotSpareWarning", &CBRMSModule::PacketCheckHotSpareWarning,
-     Method_Get, "/brms/api/v1.1/system/hot-spare/switch/warning"},
-    {"GetBasicServiceWarm", "CBRMSModule::PacketGetBasicServiceWarm", &CBRMSModule::PacketGetBasicServiceWarm,
-     Method_Get, "/brms/api/v1.1/system/only-startup-basic-service/warning"},
-    {"GetDiskWarm", "CBRMSModule::PacketGetDiskWarm", &CBRMSModule::PacketGetDiskWarm, Method_Get,
-     "/brms/api/v1.1/system/warn/disk/list"},
-    {"GetMemoryOutOfServerList", "CBRMSModule::PacketGetMemoryOutOfServerList",
-     &CBRMSModule::PacketGetMemoryOutOfServerList, Method_Get, "/brms/api/v1.1/system/out/memory/server/list"},
-    {"GetNetWorks", "CBRMSModule::PacketGetNetWorks", &CBRMSModule::PacketGetNetWorks, Method_Get,
-     "/brms/api/v1.1/system/network/list"},
+    {"CheckHotSpareWarning", NAMED(CBRMSModule::PacketCheckHotSpareWarning), Method_Get,
+     "/brms/api/v1.1/system/hot-spare/switch/warning"},
+    {"GetBasicServiceWarm", NAMED(CBRMSModule::PacketGetBasicServiceWarm), Method_Get,
+     "/brms/api/v1.1/system/only-startup-basic-service/warning"},
+    {"GetDiskWarm", NAMED(CBRMSModule::PacketGetDiskWarm), Method_Get, "/brms/api/v1.1/system/warn/disk/list"},
+    {"GetMemoryOutOfServerList", NAMED(CBRMSModule::PacketGetMemoryOutOfServerList), Method_Get,
+     "/brms/api/v1.1/system/out/memory/server/list"},
+    {"GetNetWorks", NAMED(CBRMSModule::PacketGetNetWorks), Method_Get, "/brms/api/v1.1/system/network/list"},
 };
 
 INSTANTIATE_TEST_SUITE_P(ServerWarning, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kHotSpare = MakeParse("CBRMSModule::ParseCheckHotSpareWarning", &CBRMSModule::ParseCheckHotSpareWarning);
-const Parse kBasicService = MakeParse("CBRMSModule::ParseGetBasicServiceWarm", &CBRMSModule::ParseGetBasicServiceWarm);
-const Parse kDisk = MakeParse("CBRMSModule::ParseGetDiskWarm", &CBRMSModule::ParseGetDiskWarm);
-const Parse kMemory =
-    MakeParse("CBRMSModule::ParseGetMemoryOutOfServerList", &CBRMSModule::ParseGetMemoryOutOfServerList);
-const Parse kNetWorks = MakeParse("CBRMSModule::ParseGetNetWorks", &CBRMSModule::ParseGetNetWorks);
+const Parse kHotSpare = MakeParse(NAMED(CBRMSModule::ParseCheckHotSpareWarning));
+const Parse kBasicService = MakeParse(NAMED(CBRMSModule::ParseGetBasicServiceWarm));
+const Parse kDisk = MakeParse(NAMED(CBRMSModule::ParseGetDiskWarm));
+const Parse kMemory = MakeParse(NAMED(CBRMSModule::ParseGetMemoryOutOfServerList));
+const Parse kNetWorks = MakeParse(NAMED(CBRMSModule::ParseGetNetWorks));
 
 std::vector<ParseRow> ParseRows()
 {

@@ -11,30 +11,23 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const BodyPack<const TimeSyncConfig&> kSetTimeSyncConfig("CBRMSModule::PacketSetTimeSyncConfig",
-                                                         &CBRMSModule::PacketSetTimeSyncConfig, Method_Put,
+const BodyPack<const TimeSyncConfig&> kSetTimeSyncConfig(NAMED(CBRMSModule::PacketSetTimeSyncConfig), Method_Put,
                                                          "/brms/api/v1.1/config/time-sync");
-const BodyPack<const RemoteLogConfigInfo&> kSetRemoteLogConfig("CBRMSModule::PacketSetRemoteLogConfig",
-                                                               &CBRMSModule::PacketSetRemoteLogConfig, Method_Put,
+const BodyPack<const RemoteLogConfigInfo&> kSetRemoteLogConfig(NAMED(CBRMSModule::PacketSetRemoteLogConfig), Method_Put,
                                                                "/brms/api/v1.1/config/remote-log");
-const BodyPack<const int&> kSetDeviceLoginModel("CBRMSModule::PacketSetDeviceLoginModel",
-                                                &CBRMSModule::PacketSetDeviceLoginModel, Method_Put,
+const BodyPack<const int&> kSetDeviceLoginModel(NAMED(CBRMSModule::PacketSetDeviceLoginModel), Method_Put,
                                                 "/brms/api/v1.1/config/device-login-model");
-const BodyPack<const bool&> kSetPushAppMsgConfig("CBRMSModule::PacketSetPushAppMsgConfig",
-                                                 &CBRMSModule::PacketSetPushAppMsgConfig, Method_Put,
+const BodyPack<const bool&> kSetPushAppMsgConfig(NAMED(CBRMSModule::PacketSetPushAppMsgConfig), Method_Put,
                                                  "/brms/api/v1.1/config/app/push-message");
-const UrlPack<const int&> kGetLocalSetting("CBRMSModule::PacketGetLocalSetting", &CBRMSModule::PacketGetLocalSetting,
-                                           Method_Get, "/brms/api/v1.1/config/local/setting?settingType=");
-const BodyPack<bool&, const std::string&> kUpdateLocalSetting("CBRMSModule::PacketUpdateLocalSetting",
-                                                              &CBRMSModule::PacketUpdateLocalSetting, Method_Put,
+const UrlPack<const int&> kGetLocalSetting(NAMED(CBRMSModule::PacketGetLocalSetting), Method_Get,
+                                           "/brms/api/v1.1/config/local/setting?settingType=");
+const BodyPack<bool&, const std::string&> kUpdateLocalSetting(NAMED(CBRMSModule::PacketUpdateLocalSetting), Method_Put,
                                                               "/brms/api/v1.1/config/local/setting");
-const BodyPack<const bool&> kUpdateAIPrivacyConfig("CBRMSModule::PacketUpdateAIPrivacyConfig",
-                                                   &CBRMSModule::PacketUpdateAIPrivacyConfig, Method_Put,
+const BodyPack<const bool&> kUpdateAIPrivacyConfig(NAMED(CBRMSModule::PacketUpdateAIPrivacyConfig), Method_Put,
                                                    "/brms/api/v1.1/config/ai/privacy");
 
 const PackRow kPacks[] = {
-    {"GetTimeSyncConfig", "CBRMSModule::PacketGetTimeSyncConfig", &CBRMSModule::PacketGetTimeSyncConfig, Method_Get,
-     "/brms/api/v1.1/config/time-sync"},
+    {"GetTimeSyncConfig", NAMED(CBRMSModule::PacketGetTimeSyncConfig), Method_Get, "/brms/api/v1.1/config/time-sync"},
     kSetTimeSyncConfig(
         "SetTimeSyncConfig", {true, "02:30:00", 7, false, true, "ntp.example", 123, 60},
         R"({"enable": "1", "startTime": "02:30:00", "interval": "7", "deviceOnlineTimeSync": "0", "enableNtp": "1",
@@ -56,25 +49,25 @@ const PackRow kPacks[] = {
         "SetTimeSyncConfig_texts_are_utf8", {false, "\xC3\xBC \xE4\xB8\xAD", 0, false, false, "invalid \xFF", 0, 0},
         R"({"enable": "0", "startTime": "\u00fc \u4e2d", "interval": "0", "deviceOnlineTimeSync": "0", "enableNtp": "0",
          "ntpIp": "invalid \ufffd", "ntpPort": "0", "ntpSyncInterval": "0"})"),
-    {"ImmediatelySyncTime", "CBRMSModule::PacketImmediatelySyncTime", &CBRMSModule::PacketImmediatelySyncTime,
-     Method_Post, "/brms/api/v1.1/config/time-sync/immediate"},
-    {"GetRemoteLogConfig", "CBRMSModule::PacketGetRemoteLogConfig", &CBRMSModule::PacketGetRemoteLogConfig, Method_Get,
+    {"ImmediatelySyncTime", NAMED(CBRMSModule::PacketImmediatelySyncTime), Method_Post,
+     "/brms/api/v1.1/config/time-sync/immediate"},
+    {"GetRemoteLogConfig", NAMED(CBRMSModule::PacketGetRemoteLogConfig), Method_Get,
      "/brms/api/v1.1/config/remote-log"},
     kSetRemoteLogConfig("SetRemoteLogConfig", {true, "10.0.0.9", 514, "site 1"},
                         R"({"enable": "1", "ip": "10.0.0.9", "port": "514", "platformId": "site 1"})"),
     kSetRemoteLogConfig("SetRemoteLogConfig_fresh", {}, R"({"enable": "0", "ip": "", "port": "0", "platformId": ""})"),
     kSetRemoteLogConfig("SetRemoteLogConfig_texts_end_at_a_zero_byte", {false, "10.0.0.9\0x"s, -514, "site\0x"s},
                         R"({"enable": "0", "ip": "10.0.0.9", "port": "-514", "platformId": "site"})"),
-    {"GetDeviceLoginModel", "CBRMSModule::PacketGetDeviceLoginModel", &CBRMSModule::PacketGetDeviceLoginModel,
-     Method_Get, "/brms/api/v1.1/config/device-login-model"},
+    {"GetDeviceLoginModel", NAMED(CBRMSModule::PacketGetDeviceLoginModel), Method_Get,
+     "/brms/api/v1.1/config/device-login-model"},
     kSetDeviceLoginModel("SetDeviceLoginModel", 2, R"({"deviceLoginModel": "2"})"),
     kSetDeviceLoginModel("SetDeviceLoginModel_negative", -2, R"({"deviceLoginModel": "-2"})"),
-    {"GetPushAppMsgConfig", "CBRMSModule::PacketGetPushAppMsgConfig", &CBRMSModule::PacketGetPushAppMsgConfig,
-     Method_Get, "/brms/api/v1.1/config/app/push-message"},
+    {"GetPushAppMsgConfig", NAMED(CBRMSModule::PacketGetPushAppMsgConfig), Method_Get,
+     "/brms/api/v1.1/config/app/push-message"},
     kSetPushAppMsgConfig("SetPushAppMsgConfig_on_is_a_text", true, R"({"enablePushMessage": "1"})"),
     kSetPushAppMsgConfig("SetPushAppMsgConfig_off_is_a_text", false, R"({"enablePushMessage": "0"})"),
-    {"GetSupportDataBaseType", "CBRMSModule::PacketGetSupportDataBaseType", &CBRMSModule::PacketGetSupportDataBaseType,
-     Method_Get, "/brms/api/v1.1/config/outside-database/support/list"},
+    {"GetSupportDataBaseType", NAMED(CBRMSModule::PacketGetSupportDataBaseType), Method_Get,
+     "/brms/api/v1.1/config/outside-database/support/list"},
     kGetLocalSetting("GetLocalSetting_of_type_3", 3, "3"),
     kGetLocalSetting("GetLocalSetting_of_negative_type", -12, "-12"),
     kUpdateLocalSetting("UpdateLocalSetting_apply", true, "{\"theme\": \"dark %1\"}\n",
@@ -82,7 +75,7 @@ const PackRow kPacks[] = {
     kUpdateLocalSetting("UpdateLocalSetting_not_apply", false, "", R"({"apply": "0", "settingContent": ""})"),
     kUpdateLocalSetting("UpdateLocalSetting_content_ends_at_a_zero_byte", false, "a\0b"s,
                         R"({"apply": "0", "settingContent": "a"})"),
-    {"GetAIPrivacyConfig", "CBRMSModule::PacketGetAIPrivacyConfig", &CBRMSModule::PacketGetAIPrivacyConfig, Method_Get,
+    {"GetAIPrivacyConfig", NAMED(CBRMSModule::PacketGetAIPrivacyConfig), Method_Get,
      "/brms/api/v1.1/config/ai/privacy"},
     kUpdateAIPrivacyConfig("UpdateAIPrivacyConfig_on_is_a_number", true, R"({"enable": 1})"),
     kUpdateAIPrivacyConfig("UpdateAIPrivacyConfig_off_is_a_number", false, R"({"enable": 0})"),
@@ -90,14 +83,13 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(SystemConfig, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kTimeSync = MakeParse("CBRMSModule::ParseGetTimeSyncConfig", &CBRMSModule::ParseGetTimeSyncConfig);
-const Parse kRemoteLog = MakeParse("CBRMSModule::ParseGetRemoteLogConfig", &CBRMSModule::ParseGetRemoteLogConfig);
-const Parse kLoginModel = MakeParse("CBRMSModule::ParseGetDeviceLoginModel", &CBRMSModule::ParseGetDeviceLoginModel);
-const Parse kPushAppMsg = MakeParse("CBRMSModule::ParseGetPushAppMsgConfig", &CBRMSModule::ParseGetPushAppMsgConfig);
-const Parse kDataBaseType =
-    MakeParse("CBRMSModule::ParseGetSupportDataBaseType", &CBRMSModule::ParseGetSupportDataBaseType);
-const Parse kLocalSetting = MakeParse("CBRMSModule::ParseGetLocalSetting", &CBRMSModule::ParseGetLocalSetting);
-const Parse kAIPrivacy = MakeParse("CBRMSModule::ParseGetAIPrivacyConfig", &CBRMSModule::ParseGetAIPrivacyConfig);
+const Parse kTimeSync = MakeParse(NAMED(CBRMSModule::ParseGetTimeSyncConfig));
+const Parse kRemoteLog = MakeParse(NAMED(CBRMSModule::ParseGetRemoteLogConfig));
+const Parse kLoginModel = MakeParse(NAMED(CBRMSModule::ParseGetDeviceLoginModel));
+const Parse kPushAppMsg = MakeParse(NAMED(CBRMSModule::ParseGetPushAppMsgConfig));
+const Parse kDataBaseType = MakeParse(NAMED(CBRMSModule::ParseGetSupportDataBaseType));
+const Parse kLocalSetting = MakeParse(NAMED(CBRMSModule::ParseGetLocalSetting));
+const Parse kAIPrivacy = MakeParse(NAMED(CBRMSModule::ParseGetAIPrivacyConfig));
 
 std::vector<ParseRow> ParseRows()
 {

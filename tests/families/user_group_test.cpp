@@ -11,22 +11,20 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-const UrlPack<const std::string&> kListPack("CBRMSModule::PacketGetUserGroupList", &CBRMSModule::PacketGetUserGroupList,
-                                            Method_Get, "/brms/api/v1.1/user/group/list?keyword=");
-const UrlPack<const std::string&> kGetPack("CBRMSModule::PacketGetUserGroup", &CBRMSModule::PacketGetUserGroup,
-                                           Method_Get, "/brms/api/v1.1/user/group/");
-const BodyPack<const AddUserGroupsParam&> kAddPack("CBRMSModule::PacketAddUserGroup", &CBRMSModule::PacketAddUserGroup,
-                                                   Method_Post, "/brms/api/v1.1/user/group");
-const UrlPack<const std::string&, const AddUserGroupsParam&> kUpdate("CBRMSModule::PacketUpdateUserGroup",
-                                                                     &CBRMSModule::PacketUpdateUserGroup, Method_Put,
-                                                                     "/brms/api/v1.1/user/group/");
-const BodyPack<const MoveUserGroupsParam&> kMove("CBRMSModule::PacketMoveUserGroup", &CBRMSModule::PacketMoveUserGroup,
-                                                 Method_Post, "/brms/api/v1.1/user/group/move/batch");
-const UrlPack<const std::string&> kClear("CBRMSModule::PacketClearUserGroup", &CBRMSModule::PacketClearUserGroup,
-                                         Method_Post, "/brms/api/v1.1/user/group/");
+const UrlPack<const std::string&> kListPack(NAMED(CBRMSModule::PacketGetUserGroupList), Method_Get,
+                                            "/brms/api/v1.1/user/group/list?keyword=");
+const UrlPack<const std::string&> kGetPack(NAMED(CBRMSModule::PacketGetUserGroup), Method_Get,
+                                           "/brms/api/v1.1/user/group/");
+const BodyPack<const AddUserGroupsParam&> kAddPack(NAMED(CBRMSModule::PacketAddUserGroup), Method_Post,
+                                                   "/brms/api/v1.1/user/group");
+const UrlPack<const std::string&, const AddUserGroupsParam&> kUpdate(NAMED(CBRMSModule::PacketUpdateUserGroup),
+                                                                     Method_Put, "/brms/api/v1.1/user/group/");
+const BodyPack<const MoveUserGroupsParam&> kMove(NAMED(CBRMSModule::PacketMoveUserGroup), Method_Post,
+                                                 "/brms/api/v1.1/user/group/move/batch");
+const UrlPack<const std::string&> kClear(NAMED(CBRMSModule::PacketClearUserGroup), Method_Post,
+                                         "/brms/api/v1.1/user/group/");
 /// Its log texts are those of the clear call, under its own function name.
-const UrlPack<const std::vector<std::string>&> kDelete("CBRMSModule::PacketDeleteUserGroup",
-                                                       &CBRMSModule::PacketDeleteUserGroup, Method_Delete,
+const UrlPack<const std::vector<std::string>&> kDelete(NAMED(CBRMSModule::PacketDeleteUserGroup), Method_Delete,
                                                        "/brms/api/v1.1/user/group?ids=",
                                                        {Server::OfCaller, "PacketClearUserGroup failed.",
                                                         "PacketClearUserGroup success."});
@@ -86,9 +84,9 @@ const PackRow kPacks[] = {
 
 INSTANTIATE_TEST_SUITE_P(UserGroup, PackTest, testing::ValuesIn(kPacks), RowName());
 
-const Parse kList = MakeParse("CBRMSModule::ParseGetUserGroupList", &CBRMSModule::ParseGetUserGroupList);
-const Parse kGet = MakeParse("CBRMSModule::ParseGetUserGroup", &CBRMSModule::ParseGetUserGroup);
-const Parse kAdd = MakeParse("CBRMSModule::ParseAddUserGroup", &CBRMSModule::ParseAddUserGroup);
+const Parse kList = MakeParse(NAMED(CBRMSModule::ParseGetUserGroupList));
+const Parse kGet = MakeParse(NAMED(CBRMSModule::ParseGetUserGroup));
+const Parse kAdd = MakeParse(NAMED(CBRMSModule::ParseAddUserGroup));
 
 std::vector<ParseRow> ParseRows()
 {

@@ -19,6 +19,9 @@
 #include <utility>
 #include <vector>
 
+/// The name of a function as the log has it, and the function.
+#define NAMED(function) #function, &function
+
 /// Tables of Packs and Parses: a test file lists its rows and instantiates PackTest and ParseTest with them.
 namespace family_testing {
 
