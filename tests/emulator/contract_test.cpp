@@ -226,6 +226,26 @@ TEST(RealContractTest, ExamplesAreValid)
     }
 }
 
+TEST(RealContractTest, EveryParameterHasAnExample)
+{
+    for (const Operation& operation : RealContract().operations()) {
+        for (const auto& placeholder : RealContract().find(operation.method, operation.path).values) {
+            EXPECT_TRUE(operation.parameterExamples.contains(placeholder.first)) << operation.id << placeholder.first;
+        }
+        for (const emulator::QueryParameter& parameter : operation.query) {
+            EXPECT_TRUE(operation.parameterExamples.contains(parameter.name)) << operation.id << parameter.name;
+        }
+    }
+}
+
+TEST(RealContractTest, EveryReplyWithDataHasAnExampleOfThem)
+{
+    for (const Operation& operation : RealContract().operations()) {
+        const bool bData = !operation.dataSchema.value("properties", Json::object()).empty();
+        EXPECT_EQ(operation.dataExample().empty(), !bData) << operation.id;
+    }
+}
+
 TEST(RealContractTest, BodiesAndSuccessesAreClosed)
 {
     for (const Operation& operation : RealContract().operations()) {
