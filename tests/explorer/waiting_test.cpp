@@ -8,6 +8,8 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -306,7 +308,9 @@ TEST_F(WithoutWaitingTest, SeveralCallsAreUnderWayAndEachResultAppearsWhenItCome
     Begin(kCall);
     Begin(kCall);
     ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
-    EXPECT_EQ(CancelButtons().size(), 2);
+    ASSERT_EQ(CancelButtons().size(), 2);
+    const QScrollBar& scrollBar = *Find<QScrollArea>("runningCalls").verticalScrollBar();
+    EXPECT_TRUE(Await([&scrollBar] { return scrollBar.maximum() == 0; })) << "all are seen";
     EXPECT_EQ(TextOf("runState").toStdString(), "2 calls waiting for the server");
     EXPECT_EQ(Window().findChild<ORNGUI::OrnWaitDialog*>(), nullptr);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

@@ -3,7 +3,8 @@
 #include "Call.h"
 
 #include <APIModule.h>
-#include <Call.h>
+#include <ObservedExchange.h>
+#include <Outcome.h>
 
 #include <nlohmann/json.hpp>
 

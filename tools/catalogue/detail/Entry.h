@@ -3,6 +3,8 @@
 #include "../Run.h"
 #include "TypeOf.h"
 
+#include <Call.h>
+
 #include <array>
 #include <cstddef>
 #include <type_traits>

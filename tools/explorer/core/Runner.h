@@ -5,6 +5,8 @@
 
 #include <catalogue/Run.h>
 
+#include <Call.h>
+
 #include <QObject>
 #include <QPointer>
 #include <QWidget>

@@ -3,11 +3,10 @@
 #include "../core/CallIndex.h"
 #include "../views/NameLabel.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace explorer {
 
@@ -68,14 +67,25 @@ QWidget* RunningCalls::MakeRow(int number, const RunOrder& order)
     return pRow;
 }
 
+bool RunningCalls::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    const bool handled = QScrollArea::eventFilter(pWatched, pEvent);
+    if (pWatched == widget() && pEvent->type() == QEvent::LayoutRequest) {
+        Fit();  // only now the rows have the sizes of the style
+    }
+    return handled;
+}
+
 /// As high as its rows, of which a few are seen at a time.
 void RunningCalls::Fit()
 {
-    constexpr std::size_t kSeen = 4;
-    setVisible(!m_rows.empty());
-    if (!m_rows.empty()) {
-        const int height = m_rows.begin()->second->sizeHint().height() + m_pLayout->spacing();
-        setFixedHeight(height * int(std::min(m_rows.size(), kSeen)));
+    constexpr int kSeen = 4;
+    const int count = int(m_rows.size());
+    setVisible(count > 0);
+    if (count > 0) {
+        const int gap = m_pLayout->spacing();
+        const int all = widget()->sizeHint().height();
+        setFixedHeight(count <= kSeen ? all : (all + gap) * kSeen / count - gap);
     }
 }
 

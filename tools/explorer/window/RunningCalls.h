@@ -16,6 +16,9 @@ public:
     /// @param runner must outlive the list
     explicit RunningCalls(Runner& runner, QWidget* pParent = nullptr);
 
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
 private:
     void Update();
     [[nodiscard]] QWidget* MakeRow(int number, const RunOrder& order);
