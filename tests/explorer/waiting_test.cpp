@@ -333,7 +333,7 @@ TEST_F(WithoutWaitingTest, EachCallIsCancelledByItsButton)
     ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
     ASSERT_EQ(CancelButtons().size(), 2);
 
-    QTest::mouseClick(CancelButtons().last(), Qt::LeftButton);
+    QTest::mouseClick(CancelButtons().constLast(), Qt::LeftButton);
     ASSERT_EQ(outcomes.size(), 1U);
     EXPECT_EQ(outcomes.front().call->name, "BRMS.SetRemoteLogConfig");
     EXPECT_EQ(outcomes.front().result, -101);
@@ -342,7 +342,7 @@ TEST_F(WithoutWaitingTest, EachCallIsCancelledByItsButton)
     EXPECT_EQ(session->notifications.rowCount(), 0) << "who cancels knows";
     ASSERT_EQ(CancelButtons().size(), 1);
 
-    QTest::mouseClick(CancelButtons().first(), Qt::LeftButton);
+    QTest::mouseClick(CancelButtons().constFirst(), Qt::LeftButton);
     ASSERT_EQ(outcomes.size(), 2U);
     EXPECT_EQ(outcomes.back().call->name, kCall);
     EXPECT_EQ(session->runner.Pending(), 0);
@@ -357,7 +357,7 @@ TEST_F(WithoutWaitingTest, TheNextWindowListsTheCallsUnderWay)
     ASSERT_TRUE(Await([&server] { return server.Requests() == 1; }));
     emit Window().LanguageChosen(QStringLiteral("de"));
     ASSERT_EQ(CancelButtons().size(), 1);
-    QTest::mouseClick(CancelButtons().first(), Qt::LeftButton);
+    QTest::mouseClick(CancelButtons().constFirst(), Qt::LeftButton);
     EXPECT_EQ(outcomes.size(), 1U);
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
