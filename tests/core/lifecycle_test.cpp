@@ -3,6 +3,8 @@
 #include "support/TestApplication.h"
 #include "support/Waiting.h"
 
+#include <Call.h>
+
 #include <QElapsedTimer>
 #include <QThread>
 #include <QTimer>
@@ -386,6 +388,79 @@ TEST_F(Lifecycle, CallWhileTheApplicationIsDestroyed)
     }
     EXPECT_EQ(s_nResult, -1);
     EXPECT_EQ(notifications.Take(), QStringList{CAPIModule::GetErroCodeInfor(QString(), -4, true)});
+}
+
+int PackSilent(void* pReqParamData, int nServerId)
+{
+    return CAPIModule::GetInstance().GetRequestParam(pReqParamData, APIModule::Method_Get, QStringLiteral("/silent"),
+                                                     nServerId, {}, {}, 20, false);
+}
+
+constexpr APIModule::Call<&PackSilent> Silent;
+
+/// Appends how the call ended.
+auto NoteIn(std::vector<APIModule::CallEnd>& ends)
+{
+    return [&ends](const APIModule::Outcome<APIModule::NoRecord>& outcome) { ends.push_back(outcome.End()); };
+}
+
+TEST_F(Lifecycle, QuitDeliversStartedCallsAsApplicationEnding)
+{
+    QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    std::vector<APIModule::CallEnd> ends;
+    for (int i = 0; i < 7; ++i) {
+        Start(Silent(), &application, NoteIn(ends));
+    }
+    QTimer::singleShot(50, &application, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    EXPECT_EQ(ends, std::vector<APIModule::CallEnd>(7, APIModule::CallEnd::ApplicationEnding));
+}
+
+TEST_F(Lifecycle, CallsStartedAtTheEndAreDeliveredBeforeTheApplicationObjectIsGone)
+{
+    std::vector<APIModule::CallEnd> ends;
+    {
+        QCoreApplication application(g_argc, g_argv);
+        const Server server(*this);
+        QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
+                         [&] { Start(Silent(), &application, NoteIn(ends)); });
+        QTimer::singleShot(0, &application, &QCoreApplication::quit);
+        QCoreApplication::exec();
+        Start(Silent(), &application, NoteIn(ends));
+        EXPECT_TRUE(ends.empty());
+    }
+    EXPECT_EQ(ends, std::vector<APIModule::CallEnd>(2, APIModule::CallEnd::ApplicationEnding));
+}
+
+TEST_F(Lifecycle, StartedCallsGoOnInASecondExec)
+{
+    QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    QTimer::singleShot(0, &application, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    std::vector<APIModule::CallEnd> ends;
+    Start(Silent().Within(std::chrono::milliseconds(50)), &application,
+          [&](const APIModule::Outcome<APIModule::NoRecord>& outcome) {
+              ends.push_back(outcome.End());
+              QCoreApplication::quit();
+          });
+    QCoreApplication::exec();
+    EXPECT_EQ(ends, std::vector<APIModule::CallEnd>{APIModule::CallEnd::TimedOut});
+}
+
+TEST_F(Lifecycle, RunAfterQuitEndsAsApplicationEnding)
+{
+    QCoreApplication application(g_argc, g_argv);
+    const Server server(*this);
+    APIModule::Outcome<APIModule::NoRecord> outcome;
+    QTimer::singleShot(0, &application, [&] {
+        QCoreApplication::quit();
+        outcome = APIModule::Run(Silent());
+    });
+    QCoreApplication::exec();
+    EXPECT_EQ(outcome.End(), APIModule::CallEnd::ApplicationEnding);
+    EXPECT_EQ(outcome.Code(), -101);
 }
 
 }  // namespace

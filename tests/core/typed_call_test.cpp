@@ -1,0 +1,730 @@
+// Calls as values: how they end, beside what ExecuteFuncs makes of the same replies; calls without a wait; what an
+// observer sees.
+#include "support/Host.h"
+#include "support/Rows.h"
+#include "support/Watchdog.h"
+
+#include <BRMS/BRMSCalls.h>
+#include <DMS/DMSCalls.h>
+#include <ObservedExchange.h>
+#include <OBMS/OBMSCalls.h>
+#include <OrnGui/OrnWaitDialog.h>
+#include <public/CommonFunc.h>
+#include <ServerTrust.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QThread>
+#include <QTimer>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <thread>
+#include <vector>
+
+using namespace testing_support;
+using namespace APIModule;
+
+namespace {
+
+struct Number {
+    int a = -1;
+    std::string b;
+    QThread* thread = nullptr;  ///< that read it
+};
+
+std::atomic<int> g_parseMilliseconds{0};  ///< that a Parse takes
+std::atomic<int> g_parsing{0};            ///< Parses under way
+
+int PackPath(void* pReqParamData, const std::string& path, int nServerId)
+{
+    return CAPIModule::GetInstance().GetRequestParam(pReqParamData, Method_Get, QString::fromStdString(path), nServerId,
+                                                     QString(), QString(), 20, false);
+}
+
+int ParseNumber(const QJsonObject& data, Number& number)
+{
+    number.thread = QThread::currentThread();
+    ++g_parsing;
+    QThread::msleep(static_cast<unsigned long>(g_parseMilliseconds.load()));
+    --g_parsing;
+    if (CCommonFunc::GetJsonValue(data, QStringLiteral("a"), number.a) != 0) {
+        return -1;
+    }
+    return CCommonFunc::GetJsonValue(data, QStringLiteral("b"), number.b);
+}
+
+constexpr Call<&PackPath, &ParseNumber> GetNumber;
+constexpr Call<&PackPath> Touch;
+
+constexpr const char* kWhole = R"({"code":1000,"desc":"fine","data":{"a":1,"b":"x","totalCount":7}})";
+
+/// The ways in which a request can be run to its end.
+enum class Way {
+    Loop,
+    Dialog,
+    Started
+};
+
+std::string NameOf(Way way)
+{
+    return way == Way::Loop ? "loop" : way == Way::Dialog ? "dialog" : "started";
+}
+
+class TypedCall : public Host {
+protected:
+    void Serve(RawServer::Responder responder, RawServer::Scheme scheme = RawServer::Http)
+    {
+        m_pServer = std::make_unique<RawServer>(std::move(responder), scheme);
+        Use(*m_pServer, scheme);
+    }
+
+    ~TypedCall() override
+    {
+        g_parseMilliseconds = 0;
+        CAPIModule& module = CAPIModule::GetInstance();
+        module.SetCallTimeout(std::nullopt);
+        module.SetWaitDialogDelay(std::chrono::milliseconds(300));
+        module.SetExchangeObserver(nullptr);
+        module.SetServerTrust({});
+        module.SetMaximumReplySize(512LL * 1024 * 1024);
+    }
+
+    template <typename Request>
+    auto Ended(Way way, const Request& request)
+    {
+        using Result = decltype(APIModule::Run(request));
+        if (way != Way::Started) {
+            return APIModule::Run(request, way == Way::Dialog ? &m_parent : nullptr);
+        }
+        Result result;
+        bool bCalled = false;
+        Start(request, &m_parent, [&](const Result& outcome) {
+            EXPECT_FALSE(bCalled);
+            bCalled = true;
+            result = outcome;
+        });
+        EXPECT_FALSE(bCalled) << "inside Start()";
+        EXPECT_TRUE(Await([&] { return bCalled; }));
+        return result;
+    }
+
+    static bool Await(const std::function<bool()>& condition)
+    {
+        QElapsedTimer elapsed;
+        for (elapsed.start(); !condition() && elapsed.elapsed() < 20000;) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        }
+        return condition();
+    }
+
+    QWidget m_parent;
+    std::unique_ptr<RawServer> m_pServer;
+
+private:
+    const Watchdog m_watchdog;
+};
+
+struct EndRow {
+    std::string name;
+    RawAnswer answer;
+    CallEnd end;
+    int code;
+    const char* serverText = "";
+    const char* key = "";
+    int a = -1;  ///< as far as the record was read
+};
+
+void PrintTo(const EndRow& row, std::ostream* pStream)
+{
+    *pStream << row.name;
+}
+
+const std::vector<EndRow> kEnds = {
+    {"success", HttpAnswer(200, kWhole), CallEnd::Success, 0, "fine", "", 1},
+    {"success_without_data", HttpAnswer(200, R"({"code":1000})"), CallEnd::Success, 0},
+    {"refused", HttpAnswer(200, R"({"code":2001,"desc":"no such thing","data":{"a":1}})"), CallEnd::Refused, 2001,
+     "no such thing"},
+    {"refused_with_0", HttpAnswer(200, R"({"code":0,"data":{"a":1}})"), CallEnd::Refused, 0},
+    {"refused_without_code", HttpAnswer(200, R"({"data":{"a":1}})"), CallEnd::Refused, 0},
+    {"refused_with_null", HttpAnswer(200, R"({"code":null})"), CallEnd::Refused, -1},
+    {"no_json", HttpAnswer(200, "<html>"), CallEnd::UnreadableReply, -1},
+    {"empty_body", HttpAnswer(200, ""), CallEnd::UnreadableReply, -1},
+    {"key_missing", HttpAnswer(200, R"({"code":1000,"data":{"a":5}})"), CallEnd::UnreadableReply, 3101, "", "b", 5},
+    {"status_404", HttpAnswer(404, ""), CallEnd::HttpStatus, 404},
+    {"status_401", HttpAnswer(401, ""), CallEnd::NotAuthenticated, 7000},
+    {"closed", {"", 0, RawAnswer::Close}, CallEnd::NoConnection, -18},
+    {"silent", {}, CallEnd::TimedOut, -101},
+};
+
+class EndTest : public TypedCall, public testing::WithParamInterface<std::tuple<EndRow, Way, RawServer::Scheme>> {};
+
+TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
+{
+    const auto& [row, way, scheme] = GetParam();
+    Serve([answer = row.answer](const RawRequest&) { return answer; }, scheme);
+    const auto request = GetNumber("/path").Within(std::chrono::milliseconds(row.end == CallEnd::TimedOut ? 300 : 20000));
+    logs.Take();
+    const Outcome<Number> outcome = Ended(way, request);
+    const LogLines lines = logs.Take();
+    EXPECT_EQ(bool(outcome), row.end == CallEnd::Success);
+    EXPECT_EQ(outcome.End(), row.end);
+    EXPECT_EQ(outcome.Code(), row.code);
+    EXPECT_EQ(outcome.ServerText(), QString::fromUtf8(row.serverText));
+    EXPECT_EQ(outcome.UnreadableKey(), QString::fromUtf8(row.key));
+    EXPECT_EQ(outcome->a, row.end == CallEnd::Success ? row.a : -1);
+    EXPECT_EQ(outcome.Incomplete().a, row.a);
+    EXPECT_EQ(outcome.Text().isEmpty(), row.end == CallEnd::Success);
+    EXPECT_EQ(logs.Take(), LogLines()) << "Text() writes no line";
+    EXPECT_EQ(notifications.Take(), QStringList());
+    if (row.end == CallEnd::Success && row.a == 1) {
+        EXPECT_EQ(outcome.Data().value(QStringLiteral("totalCount")).toInt(), 7);
+    }
+
+    CAPIModule::GetInstance().NotifyOutcome(outcome, QStringLiteral("No settings"), QStringLiteral("Done"));
+    const QStringList ofOutcome = notifications.Take();
+    logs.Take();
+    HostCall call;
+    call.parent = way == Way::Dialog ? &m_parent : nullptr;
+    call.timeout = row.end == CallEnd::TimedOut ? 1 : 20;
+    call.uiError = QStringLiteral("No settings");
+    call.successTip = QStringLiteral("Done");
+    Number number;
+    call.parse = [&number](const QJsonObject& data) { return ParseNumber(data, number); };
+    Execute(call);
+    EXPECT_EQ(notifications.Take(), ofOutcome);
+    LogLines ofExecuteFuncs = logs.Take();
+    ofExecuteFuncs.erase(std::remove_if(ofExecuteFuncs.begin(), ofExecuteFuncs.end(),
+                                        [](const LogLine& line) {
+                                            return line.function == "APIModule::CAPIModule::GetErroCodeInfor";
+                                        }),
+                         ofExecuteFuncs.end());
+    if (way == Way::Started) {
+        for (LogLine& line : ofExecuteFuncs) {
+            if (line.function == "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg") {
+                line.function = "APIModule::Start";
+            }
+        }
+    }
+    EXPECT_EQ(lines, ofExecuteFuncs);
+}
+
+INSTANTIATE_TEST_SUITE_P(Ends, EndTest,
+                         testing::Combine(testing::ValuesIn(kEnds), testing::Values(Way::Loop, Way::Dialog, Way::Started),
+                                          testing::Values(RawServer::Http, RawServer::Https)),
+                         [](const auto& row) {
+                             return std::get<0>(row.param).name + '_' + NameOf(std::get<1>(row.param)) +
+                                    (std::get<2>(row.param) == RawServer::Http ? "_http" : "_https");
+                         });
+
+class WayTest : public TypedCall, public testing::WithParamInterface<Way> {};
+
+INSTANTIATE_TEST_SUITE_P(Ways, WayTest, testing::Values(Way::Loop, Way::Dialog, Way::Started),
+                         [](const auto& row) { return NameOf(row.param); });
+
+TEST_P(WayTest, EndsAsNotPackedWhenThePackRefuses)
+{
+    users.servers.clear();
+    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    EXPECT_EQ(outcome.End(), CallEnd::NotPacked);
+    EXPECT_EQ(outcome.Code(), -1);
+    CAPIModule::GetInstance().NotifyOutcome(outcome, QStringLiteral("No settings"));
+    EXPECT_EQ(notifications.Take(), QStringList());
+}
+
+TEST_P(WayTest, EndsAsInvalidRequestWhenItCannotBeSent)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    users.servers[1].host = "user@127.0.0.1";
+    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    EXPECT_EQ(outcome.End(), CallEnd::InvalidRequest);
+    EXPECT_EQ(outcome.Code(), -4);
+}
+
+TEST_P(WayTest, EndsAsReplyTooLarge)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, QByteArray(5000, ' ')); });
+    CAPIModule::GetInstance().SetMaximumReplySize(4000);
+    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    EXPECT_EQ(outcome.End(), CallEnd::ReplyTooLarge);
+    EXPECT_EQ(outcome.Code(), -18);
+}
+
+TEST_P(WayTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); }, RawServer::Https);
+    ServerTrust trust;
+    trust.bSystemAuthorities = true;
+    CAPIModule::GetInstance().SetServerTrust(trust);
+    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    EXPECT_EQ(outcome.End(), CallEnd::ServerNotTrusted);
+    EXPECT_EQ(outcome.Code(), -18);
+    EXPECT_EQ(m_pServer->TakeRequests().size(), 0U);
+}
+
+TEST_P(WayTest, RunsARequestThatIsKeptAgainAndOnOtherServers)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    RawServer other([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":2,"b":""}})"); });
+    users.servers[2] = users.servers[1];
+    users.servers[2].port = other.Port();
+    const Request<Number> request = GetNumber("/path");
+    const Request<Number> copy = request.OnServer(2);
+    EXPECT_EQ(Ended(GetParam(), request)->a, 1);
+    EXPECT_EQ(Ended(GetParam(), copy)->a, 2);
+    EXPECT_EQ(Ended(GetParam(), copy)->a, 2);
+    EXPECT_EQ(Ended(GetParam(), request)->a, 1);
+    EXPECT_EQ(m_pServer->TakeRequests().size(), 2U);
+    EXPECT_EQ(other.TakeRequests().size(), 2U);
+}
+
+TEST_P(WayTest, GivesNoRecordForACallWithoutOne)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    const Outcome<NoRecord> outcome = Ended(GetParam(), Touch("/path"));
+    EXPECT_TRUE(outcome);
+    EXPECT_EQ(outcome.Data().value(QStringLiteral("a")).toInt(), 1);
+}
+
+TEST_P(WayTest, TakesTheDefaultTimeOutInMilliseconds)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    CAPIModule::GetInstance().SetCallTimeout(std::chrono::milliseconds(50));
+    QElapsedTimer elapsed;
+    elapsed.start();
+    EXPECT_EQ(Ended(GetParam(), GetNumber("/path")).End(), CallEnd::TimedOut);
+    EXPECT_GE(elapsed.elapsed(), 50);
+}
+
+QByteArray LargeReply(int nCode = 1000)
+{
+    return R"({"code":)" + QByteArray::number(nCode) + R"(,"data":{"a":1,"b":")" + QByteArray(300 * 1024, 'x') + R"("}})";
+}
+
+TEST_P(WayTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopGoesOn)
+{
+    Serve([](const RawRequest& request) {
+        return HttpAnswer(200, request.target == "/large" ? LargeReply() : QByteArray(kWhole));
+    });
+    EXPECT_EQ(Ended(GetParam(), GetNumber("/small"))->thread, QThread::currentThread());
+    g_parseMilliseconds = 300;
+    int nTicks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&nTicks] { ++nTicks; });
+    timer.start(10);
+    logs.Take();
+    // The time-out is over while the record is read, and no longer counts.
+    const auto outcome = Ended(GetParam(), GetNumber("/large").Within(std::chrono::milliseconds(200)));
+    EXPECT_EQ(outcome.End(), CallEnd::Success);
+    EXPECT_NE(outcome->thread, QThread::currentThread());
+    EXPECT_EQ(outcome->b.size(), 300U * 1024);
+    EXPECT_GE(nTicks, 5);
+    ASSERT_EQ(logs.Take().size(), 2U);
+}
+
+TEST_P(WayTest, WritesTheLogLinesOfALargeReplyFromItsOwnThread)
+{
+    Serve([](const RawRequest&) {
+        return HttpAnswer(200, R"({"code":1000,"data":{"a":1,"c":")" + QByteArray(300 * 1024, 'x') + R"("}})");
+    });
+    logs.Take();
+    const auto outcome = Ended(GetParam(), GetNumber("/large"));
+    EXPECT_EQ(outcome.End(), CallEnd::UnreadableReply);
+    EXPECT_EQ(outcome.Code(), 3101);
+    EXPECT_EQ(outcome.UnreadableKey(), QStringLiteral("b"));
+    EXPECT_EQ(outcome.Incomplete().a, 1);
+    const LogLines lines = logs.Take();
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[1].message, "Request success.");
+    EXPECT_EQ(lines[2].message, "Invalid key: [b], jsonObject does not contain the key.");
+}
+
+TEST_P(WayTest, ShowsTheExchangeToTheObservers)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole, "X-More: one\r\n"); });
+    std::vector<ObservedExchange> seen;
+    CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
+    std::vector<ObservedExchange> ofRequest;
+    const Outcome<Number> outcome =
+        Ended(GetParam(), GetNumber("/path?token=0123456789x").Observed([&](const ObservedExchange& exchange) {
+            ofRequest.push_back(exchange);
+        }));
+    ASSERT_TRUE(outcome);
+    ASSERT_EQ(seen.size(), 1U);
+    ASSERT_EQ(ofRequest.size(), 1U);
+    const ObservedExchange& exchange = seen.front();
+    EXPECT_EQ(exchange.method, "GET");
+    EXPECT_EQ(exchange.url, QStringLiteral("http://127.0.0.1:%1/path?token=**********x").arg(m_pServer->Port()));
+    EXPECT_EQ(exchange.requestBody, QByteArray());
+    EXPECT_EQ(exchange.nStatus, 200);
+    EXPECT_EQ(exchange.responseBody, kWhole);
+    EXPECT_TRUE(exchange.responseHeaders.contains({"X-More", "one"}));
+    EXPECT_EQ(exchange.error, QString());
+    ASSERT_TRUE(exchange.firstByte);
+    EXPECT_LE(exchange.sentAfter, *exchange.firstByte);
+    EXPECT_LE(*exchange.firstByte, exchange.finishedAfter);
+
+    const RawRequest received = m_pServer->TakeRequests().front();
+    ObservedExchange::Headers sent = received.headers;
+    for (auto& header : sent) {
+        if (header.first == "X-Subject-Token") {
+            header.second = "******";
+        }
+    }
+    EXPECT_EQ(exchange.requestHeaders, sent);
+}
+
+TEST_P(WayTest, ShowsAnExchangeThatTimedOut)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    std::vector<ObservedExchange> seen;
+    CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
+    EXPECT_EQ(Ended(GetParam(), GetNumber("/path").Within(std::chrono::milliseconds(100))).End(), CallEnd::TimedOut);
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].nStatus, -1);
+    EXPECT_EQ(seen[0].error, QStringLiteral("Request time out"));
+    EXPECT_FALSE(seen[0].firstByte);
+    EXPECT_FALSE(seen[0].requestHeaders.isEmpty());
+}
+
+TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    std::vector<ObservedExchange> seen;
+    CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
+    HostCall call;
+    call.method = Method_Delete;
+    call.body = QStringLiteral("{\"x\":1}");
+    EXPECT_EQ(Execute(call), 0);
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].method, "DELETE");
+    EXPECT_EQ(seen[0].requestBody, "{\"x\":1}");
+}
+
+TEST_F(TypedCall, AnObserverThatThrowsEndsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    CAPIModule::GetInstance().SetExchangeObserver([](const ObservedExchange&) { throw std::runtime_error("no"); });
+    EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
+}
+
+TEST_F(TypedCall, TextNamesTheNumberOfAnUnknownCode)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":987654321})"); });
+    EXPECT_EQ(APIModule::Run(GetNumber("/path")).Text(), QStringLiteral("Operation failed (987654321)"));
+}
+
+TEST_F(TypedCall, AnOutcomeOfAFlagConvertsToSuccess)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"enable":"0"}})"); });
+    const auto outcome = APIModule::Run(BRMS::GetAIPrivacyConfig());
+    ASSERT_TRUE(outcome);
+}
+
+TEST_F(TypedCall, APackThatChangesItsArgumentGetsAFreshCopyEachRun)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    const auto request = DMS::BatchWashOpen({"1", "2"});
+    users.servers[1].host = "127.0.0.1";
+    APIModule::Run(request);
+    APIModule::Run(request);
+    const std::vector<RawRequest> requests = m_pServer->TakeRequests();
+    ASSERT_EQ(requests.size(), 2U);
+    EXPECT_EQ(requests[0].body, requests[1].body);
+    EXPECT_FALSE(requests[0].body.isEmpty());
+}
+
+TEST_F(TypedCall, ADefaultOutcomeIsNotPacked)
+{
+    const Outcome<Number> none;
+    EXPECT_FALSE(none);
+    EXPECT_EQ(none.End(), CallEnd::NotPacked);
+    EXPECT_EQ(none->a, -1);
+    EXPECT_EQ(none.Data(), QJsonObject());
+}
+
+bool HasWaitDialog()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [](QWidget* pWidget) {
+        return qobject_cast<ORNGUI::OrnWaitDialog*>(pWidget) && pWidget->isVisible();
+    });
+}
+
+TEST_F(TypedCall, WaitDialogAppearsAfterItsDelayAlone)
+{
+    Serve([](const RawRequest& request) {
+        RawAnswer answer = HttpAnswer(200, kWhole);
+        answer.delayMilliseconds = request.target == "/slow" ? 1000 : 0;
+        return answer;
+    });
+    m_parent.show();
+    bool bSeen = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&bSeen] { bSeen = bSeen || HasWaitDialog(); });
+    poll.start(1);
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::seconds(30));
+    EXPECT_TRUE(APIModule::Run(GetNumber("/slow"), &m_parent));
+    EXPECT_FALSE(bSeen);
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(100));
+    EXPECT_TRUE(APIModule::Run(GetNumber("/slow"), &m_parent));
+    EXPECT_TRUE(bSeen);
+    EXPECT_FALSE(HasWaitDialog());
+}
+
+/// A window that counts what the user does to it.
+class Counting : public QWidget {
+public:
+    int nKeys = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent* /*pEvent*/) override { ++nKeys; }
+};
+
+TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
+{
+    Serve([](const RawRequest&) {
+        RawAnswer answer = HttpAnswer(200, kWhole);
+        answer.delayMilliseconds = 300;
+        return answer;
+    });
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::seconds(30));
+    Counting window;
+    const auto press = [&window] {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+        QCoreApplication::sendEvent(&window, &event);
+    };
+    QTimer::singleShot(50, &window, press);
+    EXPECT_TRUE(APIModule::Run(GetNumber("/path"), &m_parent));
+    EXPECT_EQ(window.nKeys, 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.nKeys, 0);
+    press();
+    EXPECT_EQ(window.nKeys, 1);
+}
+
+TEST_P(WayTest, AParentOrContextThatGoesEndsTheCall)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    auto* const pParent = new QWidget;
+    QTimer::singleShot(50, pParent, [pParent] { delete pParent; });
+    if (GetParam() == Way::Started) {
+        bool bCalled = false;
+        const CallHandle handle = Start(GetNumber("/path"), pParent, [&](const Outcome<Number>&) { bCalled = true; });
+        EXPECT_TRUE(Await([&] { return !handle.IsRunning(); }));
+        EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
+        EXPECT_FALSE(bCalled);
+    } else if (GetParam() == Way::Dialog) {
+        for (const int nDelay : {0, 10000}) {
+            auto* const pWindow = new QWidget;
+            CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
+            QTimer::singleShot(50, pWindow, [pWindow] { delete pWindow; });
+            const auto outcome = APIModule::Run(GetNumber("/path"), pWindow);
+            EXPECT_EQ(outcome.End(), CallEnd::Cancelled);
+            EXPECT_EQ(outcome.Code(), -101);
+        }
+        EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
+    }
+}
+
+TEST_F(TypedCall, AReceiverThatGoesWhileALargeReplyIsReadIsNotCalled)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    g_parseMilliseconds = 300;
+    auto pContext = std::make_unique<QObject>();
+    bool bCalled = false;
+    const CallHandle handle = Start(GetNumber("/path"), pContext.get(), [&](const Outcome<Number>&) { bCalled = true; });
+    EXPECT_TRUE(Await([] { return g_parsing.load() == 1; }));
+    pContext.reset();
+    EXPECT_FALSE(handle.IsRunning());
+    EXPECT_TRUE(Await([] { return g_parsing.load() == 0; }));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(bCalled);
+}
+
+TEST_F(TypedCall, AWaitThatIsStoppedWhileALargeReplyIsReadEndsAtOnceWithoutSuccess)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    g_parseMilliseconds = 2000;
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(0));
+    auto* const pWindow = new QWidget;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&poll, pWindow] {
+        if (g_parsing == 1) {
+            poll.stop();
+            delete pWindow;
+        }
+    });
+    poll.start(10);
+    logs.Take();
+    const auto outcome = APIModule::Run(GetNumber("/path"), pWindow);
+    EXPECT_EQ(g_parsing, 1) << "did not wait for the reading";
+    EXPECT_EQ(outcome.Code(), -101);
+    const LogLines lines = logs.Take();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[1].message.substr(0, 16), "Request time out");
+}
+
+TEST_F(TypedCall, CancelClosesTheConnectionAndCallsNothing)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    bool bCalled = false;
+    CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
+    EXPECT_TRUE(handle.IsRunning());
+    EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 1; }));
+    CallHandle copy = handle;
+    copy.Cancel();
+    EXPECT_FALSE(handle.IsRunning());
+    handle.Cancel();
+    EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
+    EXPECT_FALSE(bCalled);
+    CallHandle().Cancel();
+}
+
+TEST_F(TypedCall, CancelFromInsideTheFunctionAndFromAnObserverIsSafe)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    CallHandle own;
+    CallHandle other = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { own.Cancel(); });
+    int nCalled = 0;
+    own = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) {
+        ++nCalled;
+        own.Cancel();
+        other.Cancel();
+    });
+    EXPECT_TRUE(Await([&] { return !own.IsRunning() && !other.IsRunning(); }));
+    EXPECT_LE(nCalled, 1);
+
+    CallHandle observed;
+    bool bCalled = false;
+    observed = Start(GetNumber("/path").Observed([&](const ObservedExchange&) { observed.Cancel(); }), &m_parent,
+                     [&](const Outcome<Number>&) { bCalled = true; });
+    EXPECT_TRUE(Await([&] { return !observed.IsRunning(); }));
+    EXPECT_FALSE(bCalled);
+    EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
+}
+
+TEST_F(TypedCall, DestroyingTheHandleCancelsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    bool bCalled = false;
+    {
+        const CallHandle handle =
+            Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>& outcome) { bCalled = bool(outcome); });
+    }
+    EXPECT_TRUE(Await([&] { return bCalled; }));
+}
+
+TEST_F(TypedCall, ThePackRunsInsideStart)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    users.servers[1].token = "first";
+    bool bCalled = false;
+    Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
+    users.servers[1].token = "second";
+    EXPECT_TRUE(Await([&] { return bCalled; }));
+    EXPECT_EQ(m_pServer->TakeRequests().front().Value("X-Subject-Token"), "first");
+}
+
+TEST_F(TypedCall, NoneOfThirtyCallsTimesOutBecauseItStoodInLine)
+{
+    Serve([](const RawRequest&) {
+        RawAnswer answer = HttpAnswer(200, kWhole);
+        answer.delayMilliseconds = 300;
+        return answer;
+    });
+    int nSucceeded = 0;
+    int nEnded = 0;
+    for (int i = 0; i < 30; ++i) {
+        Start(GetNumber("/path").Within(std::chrono::milliseconds(1500)), &m_parent, [&](const Outcome<Number>& outcome) {
+            ++nEnded;
+            nSucceeded += outcome ? 1 : 0;
+        });
+    }
+    // A call that waits finds a connection free.
+    EXPECT_TRUE(APIModule::Run(GetNumber("/path").Within(std::chrono::milliseconds(1500))));
+    EXPECT_LT(nEnded, 30);
+    EXPECT_TRUE(Await([&] { return nEnded == 30; }));
+    EXPECT_EQ(nSucceeded, 30);
+    EXPECT_LE(m_pServer->ConnectionCount(), 6);
+}
+
+TEST_F(TypedCall, AThousandCallsAtOnceEndOnceEach)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    std::vector<int> ended(1000, 0);
+    for (int& nEnded : ended) {
+        Start(GetNumber("/path"), &m_parent, [&nEnded](const Outcome<Number>& outcome) { nEnded += outcome ? 1 : 1000; });
+    }
+    EXPECT_TRUE(Await([&] { return std::count(ended.begin(), ended.end(), 1) == 1000; }));
+    EXPECT_EQ(m_pServer->TakeRequests().size(), 1000U);
+}
+
+TEST_F(TypedCall, CallsStartInsideAWaitAndFromAFunction)
+{
+    Serve([](const RawRequest& request) {
+        RawAnswer answer = HttpAnswer(200, kWhole);
+        answer.delayMilliseconds = request.target == "/slow" ? 300 : 0;
+        return answer;
+    });
+    int nEnded = 0;
+    QTimer::singleShot(0, &m_parent, [&] {
+        Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) {
+            ++nEnded;
+            Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) {
+                ++nEnded;
+                EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
+            });
+        });
+    });
+    EXPECT_TRUE(APIModule::Run(GetNumber("/slow")));
+    EXPECT_EQ(nEnded, 2);
+}
+
+TEST_F(TypedCall, UnInitEndsStartedCallsAsCancelledAndDeliversThem)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    std::vector<CallEnd> ends;
+    for (int i = 0; i < 8; ++i) {
+        Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>& outcome) { ends.push_back(outcome.End()); });
+    }
+    CAPIModule::GetInstance().UnInit();
+    EXPECT_TRUE(ends.empty());
+    EXPECT_TRUE(Await([&] { return ends.size() == 8; }));
+    EXPECT_EQ(ends, std::vector<CallEnd>(8, CallEnd::Cancelled));
+    CAPIModule::GetInstance().Init(&users);
+}
+
+TEST_F(TypedCall, OnAnotherThreadRunIsNotPackedAndStartCallsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    logs.Take();
+    bool bCalled = false;
+    CallEnd end = CallEnd::Success;
+    std::thread([&] {
+        end = APIModule::Run(GetNumber("/path")).End();
+        Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
+    }).join();
+    EXPECT_EQ(end, CallEnd::NotPacked);
+    const LogLines lines = logs.Take();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].message, "Run failed! wrong thread or no application.");
+    EXPECT_EQ(lines[1].message, "Start failed! wrong thread, no application or no context.");
+    EXPECT_EQ(m_pServer->TakeRequests().size(), 0U);
+    EXPECT_FALSE(bCalled);
+}
+
+TEST_F(TypedCall, AFunctionThatThrowsEndsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    logs.Take();
+    const CallHandle handle =
+        Start(GetNumber("/path"), &m_parent, [](const Outcome<Number>&) { throw std::runtime_error("no"); });
+    EXPECT_TRUE(Await([&] { return !handle.IsRunning(); }));
+    EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
+    EXPECT_EQ(logs.Take().at(2).message, "Call finished failed! finished threw an exception: no");
+}
+
+}  // namespace
