@@ -1,5 +1,7 @@
 #include "FaultHost.h"
 
+#include <Call.h>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -9,6 +11,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace testing_support {
@@ -25,8 +28,9 @@ QString Notice(int code)
 }
 
 /// Whether the line is the one that the outcome has of the wait.
-bool Matches(const LogLine& line, const Outcome& outcome, Waiting waiting, const std::string& url)
+bool Matches(const LogLine& line, const Outcome& outcome, const Way& way, const std::string& url)
 {
+    const std::string function = way.runner == Runner::Start ? "APIModule::Start" : FunctionOf(way.waiting);
     std::string text = outcome.line;
     const std::size_t nPlace = text.find("%1");
     if (nPlace != std::string::npos) {
@@ -34,7 +38,7 @@ bool Matches(const LogLine& line, const Outcome& outcome, Waiting waiting, const
     }
     const bool bText =
         outcome.isWhole ? line.message == text : line.message.rfind(text, 0) == 0 && line.message.size() > text.size();
-    return bText && line.file == kFacadeFile && line.function == FunctionOf(waiting) && line.level == outcome.level;
+    return bText && line.file == kFacadeFile && line.function == function && line.level == outcome.level;
 }
 
 /// Whether the line tells what the host did during the call.
@@ -67,9 +71,21 @@ std::vector<Way> Ways(const std::vector<RawServer::Scheme>& schemes)
     return ways;
 }
 
+std::vector<Way> WaysOfAllCalls(const std::vector<RawServer::Scheme>& schemes)
+{
+    std::vector<Way> ways = Ways(schemes);
+    for (const RawServer::Scheme scheme : schemes) {
+        const Waiting waiting = scheme == RawServer::Http ? InLoop : BehindDialog;
+        ways.push_back({waiting, scheme, APIModule::Method_Get, Runner::Run});
+        ways.push_back({InLoop, scheme, APIModule::Method_Post, Runner::Start});
+    }
+    return ways;
+}
+
 std::string NameOf(const Way& way)
 {
-    return std::string(way.waiting == InLoop ? "loop" : "dialog") +
+    constexpr std::array<const char*, 3> kRunners{"", "run_", "start_"};
+    return kRunners.at(std::size_t(way.runner)) + std::string(way.waiting == InLoop ? "loop" : "dialog") +
            (way.scheme == RawServer::Http ? "_http" : "_https") +
            (way.method == APIModule::Method_Get ? "_get" : "_post");
 }
@@ -174,41 +190,91 @@ HostCall FaultHost::Call(const Way& way, const QString& url, int nTimeout)
     return call;
 }
 
-void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout,
-                              const QString& url)
+namespace {
+
+struct Parsed {
+    int times = 0;
+};
+
+int PackHostCall(void* pReqParamData, const HostCall& call, int nServerId)
 {
-    HostCall call = Call(way, url, nTimeout);
-    call.notifyOnFailure = bNotifyOnFailure;
+    return CAPIModule::GetInstance().GetRequestParam(pReqParamData, call.method, call.url, nServerId, call.body,
+                                                     call.sequence, call.timeout, call.compress);
+}
+
+int CountParse(const QJsonObject& /*data*/, Parsed& parsed)
+{
+    ++parsed.times;
+    return 0;
+}
+
+constexpr APIModule::Call<&PackHostCall, &CountParse> TypedHostCall;
+
+}  // namespace
+
+FaultHost::Seen FaultHost::RunCall(const Way& way, HostCall call)
+{
+    if (way.runner != Runner::ExecuteFuncs) {
+        return RunTyped(way, call);
+    }
     int nParsed = 0;
     call.parse = [&nParsed](const QJsonObject&) {
         ++nParsed;
         return 0;
     };
+    const int nResult = Execute(call);
+    return {nResult, nParsed, notifications.Take()};
+}
+
+FaultHost::Seen FaultHost::RunTyped(const Way& way, const HostCall& call)
+{
+    APIModule::Outcome<Parsed> ended;
+    if (way.runner == Runner::Run) {
+        ended = APIModule::Run(TypedHostCall(call), call.parent);
+    } else {
+        QEventLoop loop;
+        Start(TypedHostCall(call), &loop, [&](const APIModule::Outcome<Parsed>& outcome) {
+            ended = outcome;
+            loop.quit();
+        });
+        loop.exec();
+    }
+    EXPECT_EQ(notifications.Take(), QStringList());
+    CAPIModule::GetInstance().NotifyOutcome(ended, call.uiError, call.successTip);
+    EXPECT_EQ(bool(ended), ended.End() == APIModule::CallEnd::Success);
+    return {ended.Code(), ended->times, notifications.Take()};
+}
+
+void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout,
+                              const QString& url)
+{
+    HostCall call = Call(way, url, nTimeout);
+    call.notifyOnFailure = bNotifyOnFailure;
+    const bool bTyped = way.runner != Runner::ExecuteFuncs;
     const std::string fullUrl = (way.scheme == RawServer::Http ? "http://" : "https://") + users.servers[1].host + ':' +
                                 std::to_string(users.servers[1].port) + url.toStdString();
     logs.Take();
     notifications.Take();
 
     const Lateness lateness(nTimeout);
-    const int nResult = Execute(call);
+    const Seen seen = RunCall(way, call);
 
     EXPECT_LT(lateness.Milliseconds(), 100);
     LogLines lines = logs.Take();
     lines.erase(std::remove_if(lines.begin(), lines.end(), IsOfTheHost), lines.end());
-    const QStringList notices = notifications.Take();
 
     const bool bSuccess = outcome.code == kSuccess;
-    const bool bNotified = !bSuccess && (bNotifyOnFailure || !outcome.answered);
+    const bool bNotified = !bSuccess && (bTyped || bNotifyOnFailure || !outcome.answered);
     const QString notice = bSuccess ? QStringLiteral("Done") : Notice(outcome.code);
-    EXPECT_EQ(nResult, bSuccess ? 0 : bNotified ? -1 : outcome.code);
-    EXPECT_EQ(nParsed, bSuccess ? 1 : 0);
-    EXPECT_EQ(notices, outcome.shown && (bSuccess || bNotified) ? QStringList{notice} : QStringList());
+    EXPECT_EQ(seen.result, bSuccess ? 0 : bNotified && !bTyped ? -1 : outcome.code);
+    EXPECT_EQ(seen.parsed, bSuccess ? 1 : 0);
+    EXPECT_EQ(seen.notices, outcome.shown && (bSuccess || bNotified) ? QStringList{notice} : QStringList());
 
     const bool bUnknownCode = bNotified && notice == call.uiError;
     ASSERT_EQ(lines.size(), bUnknownCode ? 3U : 2U);
     EXPECT_EQ(lines[0],
               (LogLine{kFacadeFile, "APIModule::CAPIModule::ExecuteFuncs", 4, "ExecuteRequest url=" + fullUrl}));
-    EXPECT_TRUE(Matches(lines[1], outcome, way.waiting, fullUrl)) << lines[1] << "\nexpected: " << outcome.line;
+    EXPECT_TRUE(Matches(lines[1], outcome, way, fullUrl)) << lines[1] << "\nexpected: " << outcome.line;
     if (bUnknownCode) {
         EXPECT_EQ(lines[2], (LogLine{kFacadeFile, "APIModule::CAPIModule::GetErroCodeInfor", 6,
                                      "Error code is not exist, strUIError=No settings, errorCode=" +

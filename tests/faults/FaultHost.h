@@ -20,15 +20,25 @@ constexpr int kSuccess = 1000;
 /// The code of a time-out.
 constexpr int kTimedOut = -101;
 
+/// What runs a call.
+enum class Runner {
+    ExecuteFuncs,
+    Run,
+    Start
+};
+
 /// In which of the ways a call meets a fault.
 struct Way {
     Waiting waiting;
     RawServer::Scheme scheme;
     APIModule::Method method;
+    Runner runner = Runner::ExecuteFuncs;
 };
 
-/// Both ways of waiting, with GET and POST, over each of the schemes.
+/// ExecuteFuncs in both ways of waiting, with GET and POST, over each of the schemes.
 std::vector<Way> Ways(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
+/// The same, and typed calls: waited for in one way over each scheme, and started.
+std::vector<Way> WaysOfAllCalls(const std::vector<RawServer::Scheme>& schemes);
 std::string NameOf(const Way& way);
 
 /// What the host gets for a call, and what the line of the wait says.
@@ -96,6 +106,15 @@ protected:
     QPointer<QWidget> m_parent{new QWidget};
 
 private:
+    /// What came of a call, typed or not.
+    struct Seen {
+        int result;  ///< of ExecuteFuncs; of a typed call the code
+        int parsed;
+        QStringList notices;
+    };
+    Seen RunCall(const Way& way, HostCall call);
+    Seen RunTyped(const Way& way, const HostCall& call);
+
     Watchdog m_watchdog;
 };
 

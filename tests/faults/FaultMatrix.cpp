@@ -45,7 +45,7 @@ std::vector<FaultCase> Matrix(const std::vector<Fault>& faults)
 {
     std::vector<FaultCase> cases;
     for (const Fault& fault : faults) {
-        for (const Way& way : Ways(fault.schemes)) {
+        for (const Way& way : WaysOfAllCalls(fault.schemes)) {
             cases.push_back({fault.name + ('_' + NameOf(way)), fault, way});
         }
     }

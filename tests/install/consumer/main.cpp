@@ -1,5 +1,7 @@
-// A client's first record: the time settings of a platform emulator that runs in this process, read by the call that
-// the manual begins with.
+// A client's first records, from a platform emulator that runs in this process, read by the calls that the manual begins
+// with.
+#include "typed_calls.h"
+
 #include <APIModule.h>
 #include <BRMS/BRMSModule.h>
 #include <emulator/PlatformEmulator.h>
@@ -12,8 +14,8 @@
 #include <memory>
 #include <string>
 
-/// Stands in first_call.cpp, which is the first sample of the manual.
-int ReadTimeSettings(UserLogical::IUserManager& userManager, QWidget* parent, APIModule::TimeSyncConfig& config);
+/// Stands in first_call.cpp, which is the second sample of the manual; typed_calls.h is the first.
+int ReadTimeSettings(QWidget* parent, APIModule::TimeSyncConfig& config);
 
 namespace {
 
@@ -48,12 +50,18 @@ int Run()
     emulator::PlatformEmulator platform;
     platform.start();
     OneServer userManager(platform.httpsPort());
+    CAPIModule::GetInstance().Init(&userManager);
 
-    APIModule::TimeSyncConfig config;
-    const int result = ReadTimeSettings(userManager, nullptr, config);
-    APIModule::CAPIModule::GetInstance().UnInit();
+    TimeSyncConfig config;
+    const int result = ReadTimeSettings(nullptr, config);
+    const Outcome<TimeSyncConfig> settings = APIModule::Run(BRMS::GetTimeSyncConfig(), nullptr);
+    Overview overview;
+    overview.Load();
+    const bool bShown = overview.windowTitle() == QString::number(config.interval);
+    CAPIModule::GetInstance().UnInit();
     std::cout << "result " << result << ", time synchronisation every " << config.interval << '\n';
-    return result == 0 && config.interval > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    const bool bAlike = settings && settings->interval == config.interval && bShown;
+    return result == 0 && config.interval > 0 && bAlike ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 }  // namespace
