@@ -210,9 +210,8 @@ CallResult CAPIModulePrivate::Perform(const CallSteps& steps, const QPointer<QWi
         return result;
     }
     result.reply.pSteps = &steps;
-    const int nResult = q_ptr->ExecuteRequest(request, parent, result.reply);
+    q_ptr->ExecuteRequest(request, parent, result.reply);
     result.reply.pSteps = nullptr;
-    result.nCode = nResult;
     Conclude(steps.read, result);
     return result;
 }
@@ -399,7 +398,8 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
         return kInvalidRequest;
     }
 
-    Exchange exchange(request, pFunction);
+    auto pExchange = std::make_unique<Exchange>(request, pFunction);
+    Exchange& exchange = *pExchange;
     SetUp(exchange, reply.pSteps);
     if (pParent) {
         // What comes after the parent has gone is no result of the call.
@@ -428,6 +428,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
         exchange.LogTimeOut();
     }
     reply = std::move(exchange.Reply());
+    pExchange.reset();
     RetireManagers();
     return CodeOf(reply.eEnd);
 }

@@ -83,6 +83,9 @@ public:
 
     http::Reply* Send(const QNetworkRequest& request);
 
+    /// Deletes earlier network managers whose calls have ended.
+    void RetireManagers();
+
 private:
     friend class CAPIModule;
 
@@ -95,8 +98,6 @@ private:
     void ForgetConnections();
 
     int Execute(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply, Wait& wait, const char* pFunction);
-    /// Deletes earlier network managers whose calls have ended.
-    void RetireManagers();
 
     /// Begins those calls in line that have their turn.
     void BeginNext();

@@ -26,7 +26,11 @@ StartedCall::StartedCall(CAPIModulePrivate& module, CallSteps steps, QObject* pC
     connect(&m_timer, &QTimer::timeout, this, &StartedCall::OnTimeOut);
 }
 
-StartedCall::~StartedCall() = default;
+StartedCall::~StartedCall()
+{
+    m_pExchange.reset();
+    m_module.RetireManagers();
+}
 
 void StartedCall::Prepare()
 {

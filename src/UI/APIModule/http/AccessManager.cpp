@@ -22,8 +22,7 @@ AccessManager::~AccessManager()
 
 bool AccessManager::HasReplies() const
 {
-    const QList<Reply*> replies = findChildren<Reply*>(QString(), Qt::FindDirectChildrenOnly);
-    return std::any_of(replies.begin(), replies.end(), [](const Reply* pReply) { return !pReply->isFinished(); });
+    return findChild<Reply*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 QNetworkReply* AccessManager::createRequest(Operation operation, const QNetworkRequest& request, QIODevice* pBody)

@@ -35,7 +35,6 @@ public:
     const std::shared_ptr<const ServerTrust>& GetServerTrust() const { return m_pServerTrust; }
     void SetServerTrust(const std::shared_ptr<const ServerTrust>& pTrust) { m_pServerTrust = pTrust; }
 
-    /// Whether a reply has not finished yet.
     bool HasReplies() const;
 
     /// Closes the connections that carry no request.
