@@ -10,6 +10,9 @@
 #include <functional>
 #include <memory>
 
+class QNetworkAccessManager;
+class QNetworkReply;
+
 namespace bench {
 
 /// One exchange with the server.
@@ -54,6 +57,12 @@ std::unique_ptr<Client> MakeQtWithJson();
 /// The library as a host uses it, log lines to a file included. The façade waits behind a dialog over @p pParent.
 std::unique_ptr<Client> MakeLibrary(QWidget* pParent);
 std::unique_ptr<Client> MakeLibrary();
+/// The request of the library's client as a Pack, with the log line of the families' Packs.
+int PackExchange(void* pReqParamData, const Exchange& exchange, int nServerId);
+/// Makes the exchange's server that of the library's calls.
+void UseServerOf(const Exchange& exchange);
+/// The request of the other clients, for a manager of the caller's own.
+QNetworkReply* SendByQt(QNetworkAccessManager& manager, const Exchange& exchange);
 /// What others do blocking, without an event loop.
 std::unique_ptr<Client> MakeCurl();
 std::unique_ptr<Client> MakeHttplib();

@@ -24,50 +24,43 @@ namespace {
 constexpr const char* kToken = "token-of-the-session";
 constexpr int kTimeoutSeconds = 60;
 
+QNetworkRequest Request(const Exchange& exchange)
+{
+    QNetworkRequest request;
+    if (exchange.bHttps) {
+        QSslConfiguration configuration = request.sslConfiguration();
+        configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+        configuration.setProtocol(QSsl::TlsV1SslV3);
+        request.setSslConfiguration(configuration);
+    }
+    request.setUrl(
+        QUrl((exchange.bHttps ? QStringLiteral("https://127.0.0.1:") : QStringLiteral("http://127.0.0.1:")) +
+             QString::number(exchange.nPort) + QString::fromLatin1(exchange.path)));
+    static const QByteArray timeZone = QTimeZone::systemTimeZoneId();
+    request.setRawHeader("Content-Type", "application/json;charset=UTF-8");
+    request.setRawHeader("Accept-Language", "en");
+    request.setRawHeader("Time-Zone", timeZone);
+    request.setRawHeader("X-Subject-Token", kToken);
+    constexpr int kFirst = QNetworkRequest::User + 100;
+    request.setAttribute(QNetworkRequest::Attribute(kFirst), QVariant::fromValue(exchange.eMethod));
+    request.setAttribute(QNetworkRequest::Attribute(kFirst + 1), exchange.body);
+    request.setAttribute(QNetworkRequest::Attribute(kFirst + 2), kTimeoutSeconds);
+    request.setAttribute(QNetworkRequest::Attribute(kFirst + 3), true);
+    return request;
+}
+
 class Qt : public Client {
 public:
     Answer Run(const Exchange& exchange) override
     {
         QEventLoop loop;
-        const std::unique_ptr<QNetworkReply> pReply(Send(exchange));
+        const std::unique_ptr<QNetworkReply> pReply(SendByQt(m_manager, exchange));
         QObject::connect(pReply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
         loop.exec(QEventLoop::ExcludeUserInputEvents);
         return {pReply->readAll(), {}};
     }
 
 private:
-    static QNetworkRequest Request(const Exchange& exchange)
-    {
-        QNetworkRequest request;
-        if (exchange.bHttps) {
-            QSslConfiguration configuration = request.sslConfiguration();
-            configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
-            configuration.setProtocol(QSsl::TlsV1SslV3);
-            request.setSslConfiguration(configuration);
-        }
-        request.setUrl(
-            QUrl((exchange.bHttps ? QStringLiteral("https://127.0.0.1:") : QStringLiteral("http://127.0.0.1:")) +
-                 QString::number(exchange.nPort) + QString::fromLatin1(exchange.path)));
-        static const QByteArray timeZone = QTimeZone::systemTimeZoneId();
-        request.setRawHeader("Content-Type", "application/json;charset=UTF-8");
-        request.setRawHeader("Accept-Language", "en");
-        request.setRawHeader("Time-Zone", timeZone);
-        request.setRawHeader("X-Subject-Token", kToken);
-        constexpr int kFirst = QNetworkRequest::User + 100;
-        request.setAttribute(QNetworkRequest::Attribute(kFirst), QVariant::fromValue(exchange.eMethod));
-        request.setAttribute(QNetworkRequest::Attribute(kFirst + 1), exchange.body);
-        request.setAttribute(QNetworkRequest::Attribute(kFirst + 2), kTimeoutSeconds);
-        request.setAttribute(QNetworkRequest::Attribute(kFirst + 3), true);
-        return request;
-    }
-
-    QNetworkReply* Send(const Exchange& exchange)
-    {
-        const QNetworkRequest request = Request(exchange);
-        return exchange.eMethod == APIModule::Method_Post ? m_manager.post(request, exchange.body)
-                                                          : m_manager.get(request);
-    }
-
     QNetworkAccessManager m_manager;
 };
 
@@ -101,6 +94,37 @@ private:
     const int m_nKept = ::dup(STDERR_FILENO);
 };
 
+APIModule::CAPIModule& Facade()
+{
+    return APIModule::CAPIModule::GetInstance();
+}
+
+/// There is one façade, whoever uses it.
+struct Host {
+    Host()
+    {
+        users.servers[1].token = kToken;
+        ornl::TalPrintLog::instance().SetFile(folder.filePath(QStringLiteral("calls.log")).toStdString());
+        Facade().Init(&users);
+    }
+    ~Host()
+    {
+        Facade().UnInit();
+        ornl::TalPrintLog::instance().SetFile({});
+    }
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    const QTemporaryDir folder;
+    testing_support::UserManager users{};
+};
+
+Host& TheHost()
+{
+    static Host host;
+    return host;
+}
+
 class Library : public Client {
 public:
     explicit Library(QWidget* pParent) : m_pParent(pParent) {}
@@ -118,59 +142,40 @@ public:
 
     int Read(const Exchange& exchange, const Parse& parse) override
     {
-        Facade().SetHttpsMode(exchange.bHttps ? 1 : 0);
-        m_host.users.servers[1].port = exchange.nPort;
-        return Facade().ExecuteFuncs([&](void* pReqParamData) { return Pack(pReqParamData, exchange); }, parse,
+        UseServerOf(exchange);
+        return Facade().ExecuteFuncs([&](void* pReqParamData) { return PackExchange(pReqParamData, exchange, -1); }, parse,
                                      QString(), m_pParent, QString(), false, true);
     }
 
 private:
-    static APIModule::CAPIModule& Facade() { return APIModule::CAPIModule::GetInstance(); }
-
-    /// With the log line of the families' Packs.
-    static int Pack(void* pReqParamData, const Exchange& exchange)
-    {
-        const int nResult =
-            Facade().GetRequestParam(pReqParamData, exchange.eMethod, QString::fromLatin1(exchange.path), -1,
-                                     QString::fromUtf8(exchange.body), QString(), kTimeoutSeconds, false);
-        ornl::TalPrintLog::instance().Log("src/UI/APIModule/BRMS/BRMSModule", __LINE__,
-                                          "APIModule::CBRMSModule::PacketGetRemoteLogConfig", "", 4, "%s",
-                                          "PacketGetRemoteLogConfig success.");
-        return nResult;
-    }
-
-    /// There is one façade, whoever uses it.
-    struct Host {
-        Host()
-        {
-            users.servers[1].token = kToken;
-            ornl::TalPrintLog::instance().SetFile(folder.filePath(QStringLiteral("calls.log")).toStdString());
-            Facade().Init(&users);
-        }
-        ~Host()
-        {
-            Facade().UnInit();
-            ornl::TalPrintLog::instance().SetFile({});
-        }
-        Host(const Host&) = delete;
-        Host& operator=(const Host&) = delete;
-
-        const QTemporaryDir folder;
-        testing_support::UserManager users{};
-    };
-
-    static Host& TheHost()
-    {
-        static Host host;
-        return host;
-    }
-
     const NoStandardError m_noStandardError;
     const QPointer<QWidget> m_pParent;
-    Host& m_host = TheHost();
 };
 
 }  // namespace
+
+QNetworkReply* SendByQt(QNetworkAccessManager& manager, const Exchange& exchange)
+{
+    const QNetworkRequest request = Request(exchange);
+    return exchange.eMethod == APIModule::Method_Post ? manager.post(request, exchange.body) : manager.get(request);
+}
+
+int PackExchange(void* pReqParamData, const Exchange& exchange, int nServerId)
+{
+    const int nResult =
+        Facade().GetRequestParam(pReqParamData, exchange.eMethod, QString::fromLatin1(exchange.path), nServerId,
+                                 QString::fromUtf8(exchange.body), QString(), kTimeoutSeconds, false);
+    ornl::TalPrintLog::instance().Log("src/UI/APIModule/BRMS/BRMSModule", __LINE__,
+                                      "APIModule::CBRMSModule::PacketGetRemoteLogConfig", "", 4, "%s",
+                                      "PacketGetRemoteLogConfig success.");
+    return nResult;
+}
+
+void UseServerOf(const Exchange& exchange)
+{
+    Facade().SetHttpsMode(exchange.bHttps ? 1 : 0);
+    TheHost().users.servers[1].port = exchange.nPort;
+}
 
 int Client::Read(const Exchange& exchange, const Parse& parse)
 {

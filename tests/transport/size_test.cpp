@@ -4,7 +4,6 @@
 #include "support/Rows.h"
 #include "TransportHost.h"
 
-#include <QElapsedTimer>
 
 #include <fstream>
 
@@ -217,7 +216,8 @@ const std::vector<Head> kHeads = {
 
 class HeadTest : public SizeTest, public testing::WithParamInterface<Head> {};
 
-TEST_P(HeadTest, IsReadInGoodTime)
+/// A reader whose work grows with the square of the lines would meet the time-out.
+TEST_P(HeadTest, IsReadBeforeTheTimeOut)
 {
     const QByteArray lines = GetParam().lines();
     const QByteArray before = QByteArray("\r\n").repeated(GetParam().emptyLinesBefore);
@@ -225,13 +225,9 @@ TEST_P(HeadTest, IsReadInGoodTime)
         return RawAnswer{before + kOk + lines + "Content-Length: 28\r\n\r\n" + Envelope(28)};
     });
     Use(server);
-    QElapsedTimer elapsed;
-    elapsed.start();
     const Ended ended = Get(QStringLiteral("/path"));
     EXPECT_EQ(ended.code, 0);
     EXPECT_EQ(ended.tag, 1);
-    constexpr int kGenerousMs = 4000;
-    EXPECT_LT(elapsed.elapsed(), kGenerousMs);
 }
 
 INSTANTIATE_TEST_SUITE_P(Heads, HeadTest, testing::ValuesIn(kHeads), RowName());
