@@ -58,9 +58,9 @@ void RegisterSmall(const Server& server, const std::shared_ptr<Client>& pLibrary
     constexpr int kRounds = 400;
     for (const bool bHttps : {false, true}) {
         const Exchange exchange = Get(bHttps, server.Port(bHttps));
-        RegisterInTurns(std::string("typed call, ") + (bHttps ? "HTTPS" : "HTTP"), kRounds,
-                        {{"ExecuteFuncs", TimeOf([=] { pLibrary->Run(exchange); })},
-                         {"Run", TimeOf([=] { RunOnce(exchange); })}});
+        RegisterInTurns(
+            std::string("typed call, ") + (bHttps ? "HTTPS" : "HTTP"), kRounds,
+            {{"ExecuteFuncs", TimeOf([=] { pLibrary->Run(exchange); })}, {"Run", TimeOf([=] { RunOnce(exchange); })}});
     }
 }
 
@@ -110,9 +110,9 @@ void RegisterAtOnce(const Server& server)
                           }
                       })},
                      {"Start", TimeOf([=] { StartAll(exchange); })}});
-    RegisterInTurns("20 reads of 50 ms at once", kRounds,
-                    {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })},
-                     {"Start", TimeOf([=] { StartAll(exchange); })}});
+    RegisterInTurns(
+        "20 reads of 50 ms at once", kRounds,
+        {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })}, {"Start", TimeOf([=] { StartAll(exchange); })}});
 }
 
 /// The longest time for which the event loop stands still, in milliseconds.
@@ -146,8 +146,8 @@ void RegisterStall(const Server& server)
         QObject::connect(pReply, &QNetworkReply::finished, &loop, [&loop, pReply] {
             Lots lots;
             const QJsonObject envelope = QJsonDocument::fromJson(pReply->readAll()).object();
-            Require(APIModule::CIPMSModule::ParseGetDetailParkingLots(
-                        envelope.value(QLatin1String("data")).toObject(), lots) == 0,
+            Require(APIModule::CIPMSModule::ParseGetDetailParkingLots(envelope.value(QLatin1String("data")).toObject(),
+                                                                      lots) == 0,
                     "the lots are read");
             pReply->deleteLater();
             loop.quit();
@@ -161,8 +161,13 @@ void RegisterStall(const Server& server)
         });
     };
     RegisterInTurns("records of 10 MB, longest stall", kRounds,
-                    {{std::string(kQtWithJson) + "+Parse", [=] { return Values{{"stall_ms", Stall(byQt)}}; }},
-                     {"Start", [=] { return Values{{"stall_ms", Stall(byStart)}}; }}});
+                    {{std::string(kQtWithJson) + "+Parse",
+                      [=] {
+                          return Values{{"stall_ms", Stall(byQt)}};
+                      }},
+                     {"Start", [=] {
+                          return Values{{"stall_ms", Stall(byStart)}};
+                      }}});
 }
 
 }  // namespace

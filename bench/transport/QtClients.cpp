@@ -33,9 +33,8 @@ QNetworkRequest Request(const Exchange& exchange)
         configuration.setProtocol(QSsl::TlsV1SslV3);
         request.setSslConfiguration(configuration);
     }
-    request.setUrl(
-        QUrl((exchange.bHttps ? QStringLiteral("https://127.0.0.1:") : QStringLiteral("http://127.0.0.1:")) +
-             QString::number(exchange.nPort) + QString::fromLatin1(exchange.path)));
+    request.setUrl(QUrl((exchange.bHttps ? QStringLiteral("https://127.0.0.1:") : QStringLiteral("http://127.0.0.1:")) +
+                        QString::number(exchange.nPort) + QString::fromLatin1(exchange.path)));
     static const QByteArray timeZone = QTimeZone::systemTimeZoneId();
     request.setRawHeader("Content-Type", "application/json;charset=UTF-8");
     request.setRawHeader("Accept-Language", "en");
@@ -143,8 +142,8 @@ public:
     int Read(const Exchange& exchange, const Parse& parse) override
     {
         UseServerOf(exchange);
-        return Facade().ExecuteFuncs([&](void* pReqParamData) { return PackExchange(pReqParamData, exchange, -1); }, parse,
-                                     QString(), m_pParent, QString(), false, true);
+        return Facade().ExecuteFuncs([&](void* pReqParamData) { return PackExchange(pReqParamData, exchange, -1); },
+                                     parse, QString(), m_pParent, QString(), false, true);
     }
 
 private:

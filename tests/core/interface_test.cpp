@@ -37,9 +37,10 @@ QStringList ExportedNames()
 
 TEST(Interface, OnlyItsOwnNamesAreExported)
 {
-    const QRegularExpression own(QStringLiteral("^((typeinfo|typeinfo name|vtable) for )?(non-virtual thunk to )?"
-                                                "APIModule::(C[A-Za-z]+(Module|Func|WaitDialog|Handle)|OutcomeBase|ServerPin|"
-                                                "detail::(Run|Start)Call)(::|\\b)"));
+    const QRegularExpression own(
+        QStringLiteral("^((typeinfo|typeinfo name|vtable) for )?(non-virtual thunk to )?"
+                       "APIModule::(C[A-Za-z]+(Module|Func|WaitDialog|Handle)|OutcomeBase|ServerPin|"
+                       "detail::(Run|Start)Call)(::|\\b)"));
     const QStringList names = ExportedNames();
     EXPECT_GT(names.size(), 50);
     for (const QString& name : names) {
@@ -52,10 +53,10 @@ TEST(Interface, EveryClassIsExported)
 {
     const QString names = ExportedNames().join(QLatin1Char('\n'));
     for (const char* const name :
-         {"CAPIModule::GetInstance()", "CAPIModule::staticMetaObject", "CallHandle::Cancel()", "OutcomeBase::Text()", "CAPIWaitDialog::CAPIWaitDialog(QWidget*)",
-          "CCommonFunc::TransformToEscaped(", "CBRMSModule::operator=(", "CDMSModule::operator=(",
-          "CIAMSModule::operator=(", "CIPMSModule::operator=(", "COBMSModule::operator=(", "COMMSModule::operator=(",
-          "CECOSModule::operator=(", "CEMAPModule::operator=(", "CERMSModule::operator=("}) {
+         {"CAPIModule::GetInstance()", "CAPIModule::staticMetaObject", "CallHandle::Cancel()", "OutcomeBase::Text()",
+          "CAPIWaitDialog::CAPIWaitDialog(QWidget*)", "CCommonFunc::TransformToEscaped(", "CBRMSModule::operator=(",
+          "CDMSModule::operator=(", "CIAMSModule::operator=(", "CIPMSModule::operator=(", "COBMSModule::operator=(",
+          "COMMSModule::operator=(", "CECOSModule::operator=(", "CEMAPModule::operator=(", "CERMSModule::operator=("}) {
         EXPECT_TRUE(names.contains(QLatin1String("APIModule::") + QLatin1String(name))) << name;
     }
 }

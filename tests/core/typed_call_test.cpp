@@ -6,8 +6,8 @@
 
 #include <BRMS/BRMSCalls.h>
 #include <DMS/DMSCalls.h>
-#include <ObservedExchange.h>
 #include <OBMS/OBMSCalls.h>
+#include <ObservedExchange.h>
 #include <OrnGui/OrnWaitDialog.h>
 #include <public/CommonFunc.h>
 #include <ServerTrust.h>
@@ -165,7 +165,8 @@ TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
 {
     const auto& [row, way, scheme] = GetParam();
     Serve([answer = row.answer](const RawRequest&) { return answer; }, scheme);
-    const auto request = GetNumber("/path").Within(std::chrono::milliseconds(row.end == CallEnd::TimedOut ? 300 : 20000));
+    const auto request =
+        GetNumber("/path").Within(std::chrono::milliseconds(row.end == CallEnd::TimedOut ? 300 : 20000));
     logs.Take();
     const Outcome<Number> outcome = Ended(way, request);
     const LogLines lines = logs.Take();
@@ -196,11 +197,10 @@ TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
     Execute(call);
     EXPECT_EQ(notifications.Take(), ofOutcome);
     LogLines ofExecuteFuncs = logs.Take();
-    ofExecuteFuncs.erase(std::remove_if(ofExecuteFuncs.begin(), ofExecuteFuncs.end(),
-                                        [](const LogLine& line) {
-                                            return line.function == "APIModule::CAPIModule::GetErroCodeInfor";
-                                        }),
-                         ofExecuteFuncs.end());
+    ofExecuteFuncs.erase(
+        std::remove_if(ofExecuteFuncs.begin(), ofExecuteFuncs.end(),
+                       [](const LogLine& line) { return line.function == "APIModule::CAPIModule::GetErroCodeInfor"; }),
+        ofExecuteFuncs.end());
     if (way == Way::Started) {
         for (LogLine& line : ofExecuteFuncs) {
             if (line.function == "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg") {
@@ -212,7 +212,8 @@ TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
 }
 
 INSTANTIATE_TEST_SUITE_P(Ends, EndTest,
-                         testing::Combine(testing::ValuesIn(kEnds), testing::Values(Way::Loop, Way::Dialog, Way::Started),
+                         testing::Combine(testing::ValuesIn(kEnds),
+                                          testing::Values(Way::Loop, Way::Dialog, Way::Started),
                                           testing::Values(RawServer::Http, RawServer::Https)),
                          [](const auto& row) {
                              return std::get<0>(row.param).name + '_' + NameOf(std::get<1>(row.param)) +
@@ -300,7 +301,8 @@ TEST_P(WayTest, TakesTheDefaultTimeOutInMilliseconds)
 
 QByteArray LargeReply(int nCode = 1000)
 {
-    return R"({"code":)" + QByteArray::number(nCode) + R"(,"data":{"a":1,"b":")" + QByteArray(300 * 1024, 'x') + R"("}})";
+    return R"({"code":)" + QByteArray::number(nCode) + R"(,"data":{"a":1,"b":")" + QByteArray(300 * 1024, 'x') +
+           R"("}})";
 }
 
 TEST_P(WayTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopGoesOn)
@@ -535,7 +537,8 @@ TEST_F(TypedCall, AReceiverThatGoesWhileALargeReplyIsReadIsNotCalled)
     g_parseMilliseconds = 300;
     auto pContext = std::make_unique<QObject>();
     bool bCalled = false;
-    const CallHandle handle = Start(GetNumber("/path"), pContext.get(), [&](const Outcome<Number>&) { bCalled = true; });
+    const CallHandle handle =
+        Start(GetNumber("/path"), pContext.get(), [&](const Outcome<Number>&) { bCalled = true; });
     EXPECT_TRUE(Await([] { return g_parsing.load() == 1; }));
     pContext.reset();
     EXPECT_FALSE(handle.IsRunning());
@@ -638,10 +641,11 @@ TEST_F(TypedCall, NoneOfThirtyCallsTimesOutBecauseItStoodInLine)
     int nSucceeded = 0;
     int nEnded = 0;
     for (int i = 0; i < 30; ++i) {
-        Start(GetNumber("/path").Within(std::chrono::milliseconds(1500)), &m_parent, [&](const Outcome<Number>& outcome) {
-            ++nEnded;
-            nSucceeded += outcome ? 1 : 0;
-        });
+        Start(GetNumber("/path").Within(std::chrono::milliseconds(1500)), &m_parent,
+              [&](const Outcome<Number>& outcome) {
+                  ++nEnded;
+                  nSucceeded += outcome ? 1 : 0;
+              });
     }
     // A call that waits finds a connection free.
     EXPECT_TRUE(APIModule::Run(GetNumber("/path").Within(std::chrono::milliseconds(1500))));
@@ -656,7 +660,8 @@ TEST_F(TypedCall, AThousandCallsAtOnceEndOnceEach)
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     std::vector<int> ended(1000, 0);
     for (int& nEnded : ended) {
-        Start(GetNumber("/path"), &m_parent, [&nEnded](const Outcome<Number>& outcome) { nEnded += outcome ? 1 : 1000; });
+        Start(GetNumber("/path"), &m_parent,
+              [&nEnded](const Outcome<Number>& outcome) { nEnded += outcome ? 1 : 1000; });
     }
     EXPECT_TRUE(Await([&] { return std::count(ended.begin(), ended.end(), 1) == 1000; }));
     EXPECT_EQ(m_pServer->TakeRequests().size(), 1000U);

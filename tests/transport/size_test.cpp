@@ -4,7 +4,6 @@
 #include "support/Rows.h"
 #include "TransportHost.h"
 
-
 #include <fstream>
 
 using namespace testing_support;

@@ -4,10 +4,10 @@
 #include "http/AccessManager.h"
 #include "http/Reply.h"
 #include "http/Trust.h"
+#include "JsonAccess_p.h"
 #include "Log_p.h"
 #include "Mask_p.h"
 #include "RunHosted_p.h"
-#include "JsonAccess_p.h"
 #include "StartedCall_p.h"
 #include "TlsRange_p.h"
 #include "Wait_p.h"
@@ -245,8 +245,8 @@ void CAPIModulePrivate::Conclude(const ReadData& read, CallResult& result)
 void CAPIModulePrivate::Deliver(const ReadData& read, ReplyInfo& reply)
 {
     const UnreadableKey key(reply.strUnreadableKey);
-    reply.parsed = RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("parseFunc"),
-                             [&] { return read(reply.jsonData); });
+    reply.parsed =
+        RunHosted({kModuleFile, kExecuteFuncs}, QStringLiteral("parseFunc"), [&] { return read(reply.jsonData); });
     if (*reply.parsed == 0) {
         reply.strUnreadableKey.clear();
     }
@@ -287,8 +287,7 @@ void CAPIModulePrivate::BeginNext()
     }
     const QList<QPointer<StartedCall>> calls = m_started;
     for (const QPointer<StartedCall>& pCall : calls) {
-        if (pCall && pCall->GetState() == StartedCall::State::InLine &&
-            onTheirWay[pCall->Origin()] < kMostOnTheirWay) {
+        if (pCall && pCall->GetState() == StartedCall::State::InLine && onTheirWay[pCall->Origin()] < kMostOnTheirWay) {
             ++onTheirWay[pCall->Origin()];
             pCall->Begin();
         }

@@ -1,5 +1,5 @@
-// A client's first records, from a platform emulator that runs in this process, read by the calls that the manual begins
-// with.
+// A client's first records, from a platform emulator that runs in this process, read by the calls that the manual
+// begins with.
 #include "typed_calls.h"
 
 #include <APIModule.h>

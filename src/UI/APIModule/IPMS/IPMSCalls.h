@@ -8,7 +8,8 @@ namespace APIModule::IPMS {
 
 using Module = CIPMSModule;  ///< whose Packs and Parses the calls are made of
 
-// clang-format off: a call, a line
+// A call, a line.
+// clang-format off
 
 /// @name Parking
 /// @{

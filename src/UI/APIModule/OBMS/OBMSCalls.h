@@ -8,7 +8,8 @@ namespace APIModule::OBMS {
 
 using Module = COBMSModule;  ///< whose Packs and Parses the calls are made of
 
-// clang-format off: a call, a line
+// A call, a line.
+// clang-format off
 
 /// @name Access-control persons and rules
 /// @{
