@@ -264,7 +264,8 @@ TEST_P(Differential, ReadsAnswersAsQtButForTheListedDifferences)
     }
     EXPECT_EQ(library, difference->second.library) << difference->second.reason;
     if (difference->second.always) {
-        EXPECT_NE(library, ByQt(server, scheme, [&](const std::string& qt) { return qt != library; })) << "is no difference any more: " << difference->second.reason;
+        EXPECT_NE(library, ByQt(server, scheme, [&](const std::string& qt) { return qt != library; }))
+            << "is no difference any more: " << difference->second.reason;
     }
 }
 

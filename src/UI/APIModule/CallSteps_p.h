@@ -12,8 +12,8 @@ namespace APIModule {
 struct CallSteps {
     const char* pEntry;  ///< the function of the interface that runs the call, as log lines name it
     std::function<int(void*)> pack;
-    detail::ReadData read;  ///< null without a Parse
-    bool bTyped = false;    ///< a typed call reads large replies in the background
+    detail::ReadData read;                             ///< null without a Parse
+    bool bTyped = false;                               ///< a typed call reads large replies in the background
     std::optional<std::chrono::milliseconds> timeout;  ///< of a typed call
     ExchangeObserver observer;                         ///< of a typed call
 };

@@ -47,7 +47,7 @@ CallEnd TakeEnd(const http::Reply& finished, const QNetworkRequest& request, con
             QStringLiteral("Request failed, the server is not known, host: %1, port: %2, reason: %3, SHA-256 of its "
                            "certificate: %4")
                 .arg(request.url().host(), QString::number(request.url().port()), unknown->reason,
-                                  QString::fromLatin1(unknown->digest.toHex(':'))));
+                     QString::fromLatin1(unknown->digest.toHex(':'))));
         return CallEnd::ServerNotTrusted;
     }
     const bool bUnauthorized = finished.error() == QNetworkReply::AuthenticationRequiredError;
@@ -103,8 +103,7 @@ struct Exchange::Reading {
     }
 };
 
-Exchange::Exchange(const QNetworkRequest& request, const char* pFunction)
-    : m_request(request), m_pFunction(pFunction)
+Exchange::Exchange(const QNetworkRequest& request, const char* pFunction) : m_request(request), m_pFunction(pFunction)
 {}
 
 Exchange::~Exchange()

@@ -76,7 +76,7 @@ private:
     bool m_bBackground = false;
     detail::ReadData m_read;
     std::shared_ptr<Reading> m_pReading;  ///< shared with the thread that reads
-    detail::LogCapture::Lines m_lines;  ///< of the thread that read
+    detail::LogCapture::Lines m_lines;    ///< of the thread that read
     std::vector<ExchangeObserver> m_observers;
     std::unique_ptr<ObservedExchange> m_pObserved;  ///< until it is reported; null without observers
     std::chrono::steady_clock::time_point m_begun;

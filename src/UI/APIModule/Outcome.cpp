@@ -54,7 +54,8 @@ std::shared_ptr<const CallResult> Shared(CallResult&& result)
     if (!result.reply.bLarge) {
         return std::make_shared<const CallResult>(std::move(result));
     }
-    return {new CallResult(std::move(result)), [](const CallResult* pResult) { RunInPool([pResult] { delete pResult; }); }};
+    return {new CallResult(std::move(result)),
+            [](const CallResult* pResult) { RunInPool([pResult] { delete pResult; }); }};
 }
 
 }  // namespace detail

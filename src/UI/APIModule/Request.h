@@ -128,7 +128,8 @@ struct SplitParameters<ParameterList<Done...>, Last> {
 };
 
 template <typename... Done, typename Next, typename... Rest>
-struct SplitParameters<ParameterList<Done...>, Next, Rest...> : SplitParameters<ParameterList<Done..., Next>, Rest...> {};
+struct SplitParameters<ParameterList<Done...>, Next, Rest...> : SplitParameters<ParameterList<Done..., Next>, Rest...> {
+};
 
 template <typename Function>
 struct PackSignature;

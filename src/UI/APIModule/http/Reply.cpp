@@ -134,8 +134,7 @@ void Reply::Refuse(const UnknownServer& server)
 void Reply::FailTooLarge()
 {
     m_bTooLarge = true;
-    Fail(UnknownContentError,
-         QStringLiteral("The reply is larger than %1 bytes").arg(m_pManager->MaximumReplySize()));
+    Fail(UnknownContentError, QStringLiteral("The reply is larger than %1 bytes").arg(m_pManager->MaximumReplySize()));
 }
 
 void Reply::NoteFirstByte()
