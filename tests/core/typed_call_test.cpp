@@ -75,9 +75,9 @@ std::string NameOf(Way way)
 
 class TypedCall : public Host {
 protected:
-    void Serve(RawServer::Responder responder, RawServer::Scheme scheme = RawServer::Http)
+    void Serve(const RawServer::Responder& responder, RawServer::Scheme scheme = RawServer::Http)
     {
-        m_pServer = std::make_unique<RawServer>(std::move(responder), scheme);
+        m_pServer = std::make_unique<RawServer>(responder, scheme);
         Use(*m_pServer, scheme);
     }
 
@@ -314,7 +314,7 @@ TEST_P(WayTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopGoesOn)
     g_parseMilliseconds = 300;
     int nTicks = 0;
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&nTicks] { ++nTicks; });
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&nTicks] { ++nTicks; });
     timer.start(10);
     logs.Take();
     // The time-out is over while the record is read, and no longer counts.
@@ -465,7 +465,7 @@ TEST_F(TypedCall, WaitDialogAppearsAfterItsDelayAlone)
     m_parent.show();
     bool bSeen = false;
     QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&bSeen] { bSeen = bSeen || HasWaitDialog(); });
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&bSeen] { bSeen = bSeen || HasWaitDialog(); });
     poll.start(1);
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::seconds(30));
     EXPECT_TRUE(APIModule::Run(GetNumber("/slow"), &m_parent));
@@ -554,7 +554,7 @@ TEST_F(TypedCall, AWaitThatIsStoppedWhileALargeReplyIsReadEndsAtOnceWithoutSucce
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(0));
     auto* const pWindow = new QWidget;
     QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&poll, pWindow] {
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&poll, pWindow] {
         if (g_parsing == 1) {
             poll.stop();
             delete pWindow;

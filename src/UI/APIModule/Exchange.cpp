@@ -219,8 +219,8 @@ void Exchange::Close(CallEnd eEnd)
         pReply->disconnect(this);
         Report(eEnd == CallEnd::TimedOut ? QStringLiteral("Request time out") : QStringLiteral("Request cancelled"));
     }
-    if (pReply && !pReply->isFinished()) {
-        delete pReply;  // and with it its connection; a finished one may just be emitting its signal
+    if (pReply) {
+        pReply->abort();  // and closes its connection; not deleted, because it may just be emitting its signal
     }
 }
 

@@ -48,10 +48,10 @@ public:
     }
 
     /// The same request, whose exchanges are shown to @p observer besides the one of CAPIModule::SetExchangeObserver().
-    [[nodiscard]] FixedRequest Observed(ExchangeObserver observer) const
+    [[nodiscard]] FixedRequest Observed(const ExchangeObserver& observer) const
     {
         FixedRequest request(*this);
-        request.m_parts.observer = std::move(observer);
+        request.m_parts.observer = observer;
         return request;
     }
 
@@ -87,9 +87,9 @@ public:
     }
 
     /// As FixedRequest::Observed().
-    [[nodiscard]] Request Observed(ExchangeObserver observer) const
+    [[nodiscard]] Request Observed(const ExchangeObserver& observer) const
     {
-        return Request(FixedRequest<Record>::Observed(std::move(observer)));
+        return Request(FixedRequest<Record>::Observed(observer));
     }
 
 private:
