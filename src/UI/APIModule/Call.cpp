@@ -26,14 +26,6 @@ CallSteps StepsOf(const char* pEntry, const detail::RequestParts& parts, const d
 
 }  // namespace
 
-CallHandle::CallHandle() = default;
-CallHandle::CallHandle(QObject* pCall) : m_pCall(pCall) {}
-CallHandle::~CallHandle() = default;
-CallHandle::CallHandle(const CallHandle&) = default;
-CallHandle::CallHandle(CallHandle&&) noexcept = default;
-CallHandle& CallHandle::operator=(const CallHandle&) = default;
-CallHandle& CallHandle::operator=(CallHandle&&) noexcept = default;
-
 void CallHandle::Cancel()
 {
     if (auto* const pCall = qobject_cast<StartedCall*>(m_pCall.data())) {

@@ -17,6 +17,7 @@ class QWidget;
 
 namespace APIModule {
 
+/// @cond
 namespace detail {
 
 /// Reads the data of the reply into what it holds. It may run on another thread than the application object's.
@@ -24,6 +25,7 @@ using ReadData = std::function<int(const QJsonObject&)>;
 using Finished = std::function<void(const std::shared_ptr<const CallResult>&)>;
 
 }  // namespace detail
+/// @endcond
 
 /// A call that Start() began. Copies name the same call; destroying them does not end it.
 ///
@@ -31,13 +33,10 @@ using Finished = std::function<void(const std::shared_ptr<const CallResult>&)>;
 class APIMODULE_EXPORT CallHandle {
 public:
     /// Names no call.
-    CallHandle();
-    explicit CallHandle(QObject* pCall);
-    ~CallHandle();
-    CallHandle(const CallHandle&);
-    CallHandle(CallHandle&&) noexcept;
-    CallHandle& operator=(const CallHandle&);
-    CallHandle& operator=(CallHandle&&) noexcept;
+    CallHandle() = default;
+    /// Made by Start().
+    /// @param pCall what the handle names
+    explicit CallHandle(QObject* pCall) : m_pCall(pCall) {}
 
     /// Ends the call, whose function is not called any more, and closes its connection. Does nothing when the call has
     /// ended. It can be called at any time, from the function of this or another call, too.
@@ -45,13 +44,14 @@ public:
     /// The function is not called with an outcome: who cancels knows, and what the function uses may be going away.
     void Cancel();
 
-    /// Whether the function of the call is still to be called.
+    /// @return whether the function of the call is still to be called
     bool IsRunning() const;
 
 private:
     QPointer<QObject> m_pCall;
 };
 
+/// @cond
 namespace detail {
 
 APIMODULE_EXPORT std::shared_ptr<const CallResult> RunCall(const RequestParts& parts, const ReadData& read,
@@ -70,6 +70,7 @@ ReadData Into(const std::shared_ptr<Record>& pRecord, typename FixedRequest<Reco
 }
 
 }  // namespace detail
+/// @endcond
 
 /// Runs a request and waits for its outcome, with the steps, log lines and waits of CAPIModule::ExecuteFuncs(). It
 /// notifies nothing: CAPIModule::NotifyOutcome() does so when the host wants it.
@@ -82,6 +83,7 @@ ReadData Into(const std::shared_ptr<Record>& pRecord, typename FixedRequest<Reco
 ///
 /// @param request what a Call makes from its arguments
 /// @param pParent widget under the wait dialog, or null to wait in a local event loop
+/// @return the record, or why there is none
 template <typename Record>
 Outcome<Record> Run(const FixedRequest<Record>& request, QWidget* pParent = nullptr)
 {

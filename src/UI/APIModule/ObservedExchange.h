@@ -19,12 +19,13 @@ namespace APIModule {
 /// The session token is masked in URL and headers. Bodies stand as they are: BRMS::GetDeriveToken and
 /// BRMS::GetChannelWebAuthorization reply with tokens, which an observer that stores or shows bodies has to leave out.
 struct ObservedExchange {
+    /// Names and values.
     using Headers = QList<QPair<QByteArray, QByteArray>>;
 
     QByteArray method;       ///< "GET"
     QString url;             ///< as log lines show it
     Headers requestHeaders;  ///< as sent, in their order; empty when nothing was sent
-    QByteArray requestBody;
+    QByteArray requestBody;  ///< empty without one
 
     int nStatus = -1;         ///< HTTP status, -1 without a complete answer
     Headers responseHeaders;  ///< those of the same name joined

@@ -30,37 +30,44 @@ enum class CallEnd {
     ApplicationEnding,  ///< the application quits; code -101
 };
 
+/// @cond
 namespace detail {
 struct CallResult;
 }
+/// @endcond
 
 /// How a call ended, apart from its record. Copies share what they hold.
 class APIMODULE_EXPORT OutcomeBase {
 public:
     /// The outcome of no call: not packed.
     OutcomeBase();
+    /// Made by the library.
+    /// @param pResult what came of the call
     explicit OutcomeBase(std::shared_ptr<const detail::CallResult> pResult);
 
-    /// Whether the call succeeded.
+    /// @return whether the call succeeded
     explicit operator bool() const { return End() == CallEnd::Success; }
 
+    /// @return why the call ended
     CallEnd End() const;
 
-    /// The code that CAPIModule::ExecuteFuncs() would notify for this end; 0 for a success. An envelope code can be 0,
-    /// too: operator bool() says whether the call succeeded.
+    /// An envelope code can be 0, as the code of a success is: operator bool() says whether the call succeeded.
+    /// @return the code that CAPIModule::ExecuteFuncs() would notify for this end; 0 for a success
     int Code() const;
 
-    /// The failure in the user's words: the text of Code() in the language of the error texts, or "Operation failed"
-    /// with the number of a code that they do not know. Empty for a success. Writes no log line.
+    /// Says a failure in the user's words. Writes no log line.
+    /// @return the text of Code() in the language of the error texts, or "Operation failed" with the number of a code
+    /// that
+    ///         they do not know; empty for a success
     QString Text() const;
 
-    /// The "desc" of the server's envelope, in the server's words; empty where no envelope came.
+    /// @return the "desc" of the server's envelope, in the server's words; empty where no envelope came
     QString ServerText() const;
 
-    /// The key at which the reading of the record ended; empty unless it ended at one.
+    /// @return the key at which the reading of the record ended; empty unless it ended at one
     QString UnreadableKey() const;
 
-    /// The "data" of the reply, for what the record does not hold; empty where none came.
+    /// @return the "data" of the reply, for what the record does not hold; empty where none came
     const QJsonObject& Data() const;
 
 private:
@@ -78,16 +85,20 @@ class Outcome : public OutcomeBase {
 public:
     /// The outcome of no call: not packed.
     Outcome() = default;
+    /// Made by the library.
+    /// @param pResult what came of the call
+    /// @param pRecord what was read
     Outcome(std::shared_ptr<const detail::CallResult> pResult, std::shared_ptr<const Record> pRecord)
         : OutcomeBase(std::move(pResult)), m_pRecord(std::move(pRecord))
     {}
 
-    /// The record of a success: as made by default where the reply carried no data. After a failure a record as made by
-    /// default.
+    /// @return the record of a success, as made by default where the reply carried no data; after a failure a record as
+    ///         made by default
     const Record& operator*() const { return *this ? Incomplete() : None(); }
+    /// @return the same
     const Record* operator->() const { return &**this; }
 
-    /// The record as far as it was read before the call failed.
+    /// @return the record as far as it was read before the call failed
     const Record& Incomplete() const { return m_pRecord ? *m_pRecord : None(); }
 
 private:

@@ -16,6 +16,7 @@
 
 namespace APIModule {
 
+/// @cond
 namespace detail {
 
 /// What describes a request.
@@ -27,6 +28,7 @@ struct RequestParts {
 };
 
 }  // namespace detail
+/// @endcond
 
 /// A call with its arguments. A value: it can be kept, copied and run any number of times.
 ///
@@ -34,12 +36,18 @@ struct RequestParts {
 template <typename Record>
 class FixedRequest {
 public:
+    /// Reads the data of the reply into the record.
     using Parse = int (*)(const QJsonObject&, Record&);
 
+    /// Made by a Call.
+    /// @param parts the Pack with its arguments
+    /// @param parse null for a call without a Parse
     FixedRequest(detail::RequestParts parts, Parse parse) : m_parts(std::move(parts)), m_parse(parse) {}
 
     /// The same request with a time-out, in the place of CAPIModule::SetCallTimeout() and of the Pack's own. It counts
     /// from the moment at which the request has its turn to be sent.
+    /// @param timeout longest wait for the reply; 0 does not wait for it
+    /// @return the request
     [[nodiscard]] FixedRequest Within(std::chrono::milliseconds timeout) const
     {
         FixedRequest request(*this);
@@ -47,7 +55,9 @@ public:
         return request;
     }
 
-    /// The same request, whose exchanges are shown to @p observer besides the one of CAPIModule::SetExchangeObserver().
+    /// The same request, whose exchanges are shown to an observer besides that of CAPIModule::SetExchangeObserver().
+    /// @param observer called at the end of each exchange of the request
+    /// @return the request
     [[nodiscard]] FixedRequest Observed(const ExchangeObserver& observer) const
     {
         FixedRequest request(*this);
@@ -55,11 +65,13 @@ public:
         return request;
     }
 
+    /// @return what Run() and Start() need
     [[nodiscard]] const detail::RequestParts& Parts() const { return m_parts; }
-    /// Null for a call without a Parse.
+    /// @return null for a call without a Parse
     [[nodiscard]] Parse GetParse() const { return m_parse; }
 
 protected:
+    /// What Request changes.
     detail::RequestParts m_parts;  // NOLINT(cppcoreguidelines-non-private-member-variables-in-classes)
 
 private:
@@ -72,7 +84,9 @@ class Request : public FixedRequest<Record> {
 public:
     using FixedRequest<Record>::FixedRequest;
 
-    /// The same request for a server of the user manager; -1 for the current one.
+    /// The same request for another server.
+    /// @param nServerId a server of the user manager; -1 for the current one
+    /// @return the request
     [[nodiscard]] Request OnServer(int nServerId) const
     {
         Request request(*this);
@@ -81,12 +95,16 @@ public:
     }
 
     /// As FixedRequest::Within().
+    /// @param timeout longest wait for the reply
+    /// @return the request
     [[nodiscard]] Request Within(std::chrono::milliseconds timeout) const
     {
         return Request(FixedRequest<Record>::Within(timeout));
     }
 
     /// As FixedRequest::Observed().
+    /// @param observer called at the end of each exchange of the request
+    /// @return the request
     [[nodiscard]] Request Observed(const ExchangeObserver& observer) const
     {
         return Request(FixedRequest<Record>::Observed(observer));
@@ -96,6 +114,7 @@ private:
     explicit Request(const FixedRequest<Record>& request) : FixedRequest<Record>(request) {}
 };
 
+/// @cond
 namespace detail {
 
 /// A stored argument as a Pack takes it: one by reference to non-const gets a fresh copy.
@@ -206,6 +225,7 @@ public:
 };
 
 }  // namespace detail
+/// @endcond
 
 /// A call of the library: a Pack and, where its reply carries data for the caller, the Parse that belongs to it.
 ///

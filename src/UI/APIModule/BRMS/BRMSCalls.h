@@ -13,6 +13,7 @@ using Module = CBRMSModule;  ///< whose Packs and Parses the calls are made of
 
 /// @name System configuration
 /// @{
+
 /// @copybrief CBRMSModule::PacketGetTimeSyncConfig
 inline constexpr Call<&Module::PacketGetTimeSyncConfig, &Module::ParseGetTimeSyncConfig> GetTimeSyncConfig;
 /// @copybrief CBRMSModule::PacketSetTimeSyncConfig
@@ -45,6 +46,7 @@ inline constexpr Call<&Module::PacketUpdateAIPrivacyConfig> UpdateAIPrivacyConfi
 
 /// @name Device and channel configuration
 /// @{
+
 /// @copybrief CBRMSModule::PacketGetNetworkConfig
 inline constexpr Call<&Module::PacketGetNetworkConfig, &Module::ParseGetNetworkConfig> GetNetworkConfig;
 /// @copybrief CBRMSModule::PacketUpdateNetworkConfig
@@ -69,6 +71,7 @@ inline constexpr Call<&Module::PacketSetMultiCastStreamStatus> SetMultiCastStrea
 
 /// @name Device control
 /// @{
+
 /// @copybrief CBRMSModule::PacketBatchDiscoverDevices
 inline constexpr Call<&Module::PacketBatchDiscoverDevices, &Module::ParseBatchDiscoverDevices> BatchDiscoverDevices;
 /// @copybrief CBRMSModule::PacketAlarmOutputControl
@@ -81,6 +84,7 @@ inline constexpr Call<&Module::PacketIPSpeakerControl, &Module::ParseChannelCont
 
 /// @name Server status warnings
 /// @{
+
 /// @copybrief CBRMSModule::PacketCheckHotSpareWarning
 inline constexpr Call<&Module::PacketCheckHotSpareWarning, &Module::ParseCheckHotSpareWarning> CheckHotSpareWarning;
 /// @copybrief CBRMSModule::PacketGetBasicServiceWarm
@@ -95,6 +99,7 @@ inline constexpr Call<&Module::PacketGetNetWorks, &Module::ParseGetNetWorks> Get
 
 /// @name User groups
 /// @{
+
 /// @copybrief CBRMSModule::PacketGetUserGroupList
 inline constexpr Call<&Module::PacketGetUserGroupList, &Module::ParseGetUserGroupList> GetUserGroupList;
 /// @copybrief CBRMSModule::PacketGetUserGroup
@@ -113,6 +118,7 @@ inline constexpr Call<&Module::PacketDeleteUserGroup> DeleteUserGroup;
 
 /// @name Quick commands
 /// @{
+
 /// @copybrief CBRMSModule::PacketAddQuickCommand
 inline constexpr Call<&Module::PacketAddQuickCommand> AddQuickCommand;
 /// @copybrief CBRMSModule::PacketUpdateQuickCommand
@@ -129,6 +135,7 @@ inline constexpr Call<&Module::PacketGetAlarmPlanQuickCommands, &Module::ParseGe
 
 /// @name Alarm and event information
 /// @{
+
 /// @copybrief CBRMSModule::PacketGetPageSummaryAlarmPlans
 inline constexpr Call<&Module::PacketGetPageSummaryAlarmPlans, &Module::ParseGetPageSummaryAlarmPlans> GetPageSummaryAlarmPlans;
 /// @copybrief CBRMSModule::PacketGetAlarmLinkControlList
@@ -147,6 +154,7 @@ inline constexpr Call<&Module::PacketGetGeneralEvents, &Module::ParseGetGeneralE
 
 /// @name Account and web access
 /// @{
+
 /// @copybrief CBRMSModule::PacketGetChannelWebTunnel
 inline constexpr Call<&Module::PacketGetChannelWebTunnel, &Module::ParseGetChannelWebTunnel> GetChannelWebTunnel;
 /// @copybrief CBRMSModule::PacketGetChannelWebAuthorization

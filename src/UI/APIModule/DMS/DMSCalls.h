@@ -13,6 +13,7 @@ using Module = CDMSModule;  ///< whose Packs and Parses the calls are made of
 
 /// @name PTZ
 /// @{
+
 /// @copybrief CDMSModule::PackeWashOpen
 inline constexpr Call<&Module::PackeWashOpen, &Module::ParseWashOpen> WashOpen;
 /// @copybrief CDMSModule::PackeBatchWashOpen

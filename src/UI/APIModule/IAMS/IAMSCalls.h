@@ -13,6 +13,7 @@ using Module = CIAMSModule;  ///< whose Packs and Parses the calls are made of
 
 /// @name Analysis tasks
 /// @{
+
 /// @copybrief CIAMSModule::PacketSetAnalysisTaskUploadFailed
 inline constexpr Call<&Module::PacketSetAnalysisTaskUploadFailed> SetAnalysisTaskUploadFailed;
 /// @}

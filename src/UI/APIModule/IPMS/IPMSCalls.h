@@ -13,6 +13,7 @@ using Module = CIPMSModule;  ///< whose Packs and Parses the calls are made of
 
 /// @name Parking
 /// @{
+
 /// @copybrief CIPMSModule::PacketGetSimpleParkingLots
 inline constexpr Call<&Module::PacketGetSimpleParkingLots, &Module::ParseGetSimpleParkingLots> GetSimpleParkingLots;
 /// @copybrief CIPMSModule::PacketGetDetailParkingLots

@@ -13,6 +13,7 @@ using Module = COBMSModule;  ///< whose Packs and Parses the calls are made of
 
 /// @name Access-control persons and rules
 /// @{
+
 /// @copybrief COBMSModule::PacketGetPageAccessAuthorizePersons
 inline constexpr Call<&Module::PacketGetPageAccessAuthorizePersons, &Module::ParseGetPageAccessAuthorizePersons> GetPageAccessAuthorizePersons;
 /// @copybrief COBMSModule::PacketGetManagePersons
@@ -28,6 +29,7 @@ inline constexpr Call<&Module::PackPersonResetAntiPass> PersonResetAntiPass;
 
 /// @name Cards, intercom and alarm hosts
 /// @{
+
 /// @copybrief COBMSModule::PackGetConfigDesfireInfo
 inline constexpr Call<&Module::PackGetConfigDesfireInfo, &Module::ParseGetConfigDesfireInfo> GetConfigDesfireInfo;
 /// @copybrief COBMSModule::PackUpdateConfigDesfireInfo

@@ -13,6 +13,7 @@ using Module = COMMSModule;  ///< whose Packs and Parses the calls are made of
 
 /// @name Maintenance
 /// @{
+
 /// @copybrief COMMSModule::PacketGetAlertTypes
 inline constexpr Call<&Module::PacketGetAlertTypes, &Module::ParseGetAlertTypes> GetAlertTypes;
 /// @copybrief COMMSModule::PacketGetChannelInfo
