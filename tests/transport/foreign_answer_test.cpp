@@ -28,7 +28,7 @@ RawAnswer WithMore(const QByteArray& bytes, const QByteArray& more, int nMillise
     return answer;
 }
 
-/// A head of its own, with the answer behind it: at once, in a segment of its own, or some time later.
+/// A separate head before the answer, which follows at once, in another segment, or some time later.
 std::function<RawAnswer(const RawAnswer&)> HeadBefore(const QByteArray& head, int nMilliseconds = -1)
 {
     return [head, nMilliseconds](const RawAnswer& own) {

@@ -47,7 +47,7 @@ std::function<int(void*, int)> Bind(typename Signature<Parameters...>::PackOfNoS
                  std::move(arguments)...);
 }
 
-/// What few Packs have of their own, as in PackRow.
+/// What few Packs need, as in PackRow.
 struct Irregular {
     Server server = Server::OfCaller;
     std::string failed = {};
