@@ -405,6 +405,23 @@ TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
     EXPECT_EQ(seen[0].requestBody, "{\"x\":1}");
 }
 
+TEST_F(TypedCall, AnObserverThatDeletesTheParentEndsTheCallWithoutSuccess)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    for (const int nDelay : {0, 10000}) {
+        CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
+        auto* const pWindow = new QWidget;
+        logs.Take();
+        const auto outcome = APIModule::Run(
+            GetNumber("/path").Observed([pWindow](const ObservedExchange&) { delete pWindow; }), pWindow);
+        EXPECT_EQ(outcome.End(), CallEnd::Cancelled);
+        EXPECT_EQ(outcome.Code(), -101);
+        const LogLines lines = logs.Take();
+        ASSERT_EQ(lines.size(), 2U);
+        EXPECT_EQ(lines[1].message.substr(0, 16), "Request time out");
+    }
+}
+
 TEST_F(TypedCall, AnObserverThatThrowsEndsNothing)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });

@@ -1,5 +1,6 @@
 #include "Soak.h"
 
+#include <catalogue/Run.h>
 #include <catalogue/Value.h>
 #include <PlatformEmulator.h>
 
@@ -8,9 +9,12 @@
 #include <OrnGui/OrnMessageNotify.h>
 #include <OrnGui/OrnSingleton.h>
 
+#include <QEventLoop>
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -25,6 +29,10 @@ constexpr double kWithDialog = 0.05;
 constexpr double kWithTip = 0.02;
 constexpr double kNotified = 0.05;
 constexpr double kWithOthers = 0.1;
+constexpr double kTyped = 0.3;
+constexpr double kBursts = 0.01;
+constexpr int kMostInBurst = 30;
+constexpr double kGivenUp = 0.2;
 constexpr std::size_t kDeepest = 4;
 constexpr int kMostOthers = 6;
 constexpr int kParentLivesMs = 20;
@@ -56,6 +64,20 @@ int Pack(const catalogue::Call& call, const std::vector<catalogue::Value>& argum
         values.push_back(argument.Data());
     }
     return call.pack(pReqParamData, values.data(), -1);
+}
+
+/// What ExecuteFuncs would have returned, and notifies as it does.
+int ResultOf(const APIModule::OutcomeBase& outcome, const QString& tip, bool bNotified)
+{
+    using APIModule::CallEnd;
+    const CallEnd end = outcome.End();
+    const bool bJudged = end == CallEnd::HttpStatus || end == CallEnd::Refused ||
+                         (end == CallEnd::UnreadableReply && outcome.UnreadableKey().isEmpty());
+    if (bJudged && !bNotified) {
+        return outcome.Code();
+    }
+    Library().NotifyOutcome(outcome, QString::fromStdString(kCaption), tip);
+    return outcome ? 0 : -1;
 }
 
 std::string Listed(const std::vector<std::string>& texts)
@@ -96,7 +118,72 @@ Soak::~Soak()
 
 void Soak::Step()
 {
-    Make(*Choose());
+    if (Chance(m_random, kBursts)) {
+        Burst();
+    } else {
+        Make(*Choose());
+    }
+}
+
+/// Many reads at once. Some are given up, at once or on their way, by their handle or by the end of their receiver.
+void Soak::Burst()
+{
+    struct Started {
+        const Candidate* candidate;
+        APIModule::CallHandle handle;
+        std::unique_ptr<QObject> receiver = std::make_unique<QObject>();
+        bool givenUp = false;
+        int ended = 0;
+    };
+    m_users.servers[1].port = m_platform.HttpsPort();
+    Library().SetHttpsMode(1);
+    std::vector<std::unique_ptr<Started>> calls;
+    std::size_t nToGo = 0;
+    QEventLoop loop;
+    const int nCalls = std::uniform_int_distribution<int>(2, kMostInBurst)(m_random);
+    for (int i = 0; i < nCalls; ++i) {
+        Started& call = *calls.emplace_back(std::make_unique<Started>());
+        call.candidate = &OneOf(m_random, m_reading);
+        ++nToGo;
+        const auto leave = [&nToGo, &loop] {
+            if (--nToGo == 0) {
+                loop.quit();
+            }
+        };
+        call.handle = catalogue::Start(*call.candidate->call, ArgumentsOf(*call.candidate->row, *call.candidate->call), {},
+                                       call.receiver.get(), [this, &call, leave](const catalogue::Outcome& outcome) {
+                                           ++call.ended;
+                                           if (!outcome) {
+                                               m_tally.Fail(call.candidate->call->name + " in a burst gave " +
+                                                            std::to_string(outcome.Code()));
+                                           }
+                                           leave();
+                                       });
+        if (Chance(m_random, kGivenUp)) {
+            const bool bByHandle = Chance(m_random, 0.5);
+            const int nDelay = std::uniform_int_distribution<int>(0, 5)(m_random);
+            QTimer::singleShot(nDelay, &loop, [&call, leave, bByHandle] {
+                if (!call.handle.IsRunning()) {
+                    return;
+                }
+                call.givenUp = true;
+                if (bByHandle) {
+                    call.handle.Cancel();
+                } else {
+                    call.receiver.reset();
+                }
+                leave();
+            });
+        }
+    }
+    loop.exec();
+    for (const auto& pCall : calls) {
+        const catalogue::Call& call = *pCall->candidate->call;
+        m_tally.Count({call.family, call.name, FaultNames().front(), false, 1, 0, 0});
+        if (pCall->ended != (pCall->givenUp ? 0 : 1)) {
+            m_tally.Fail(call.name + " in a burst ended " + std::to_string(pCall->ended) + " times");
+        }
+    }
 }
 
 std::vector<Soak::Candidate> Soak::Candidates()
@@ -209,8 +296,15 @@ int Soak::Execute(const Making& making)
         pParent->show();
         QTimer::singleShot(kParentLivesMs, pParent, [pParent] { delete pParent; });
     }
-    return Library().ExecuteFuncs(pack, parse, QString::fromStdString(kCaption), pParent,
-                                  making.withTip ? QString::fromStdString(kTip) : QString(), true, making.notified);
+    const QString tip = making.withTip ? QString::fromStdString(kTip) : QString();
+    if (Chance(m_random, kTyped)) {
+        catalogue::RunSettings settings;
+        if (making.fault.timeoutSeconds) {
+            settings.timeout = std::chrono::seconds(*making.fault.timeoutSeconds);
+        }
+        return ResultOf(catalogue::Run(call, arguments, settings, pParent), tip, making.notified);
+    }
+    return Library().ExecuteFuncs(pack, parse, QString::fromStdString(kCaption), pParent, tip, true, making.notified);
 }
 
 void Soak::StartOthers()

@@ -53,6 +53,7 @@ private:
     const Candidate* Choose();
     Making Draw(const Candidate& candidate);
     void Make(const Candidate& candidate);
+    void Burst();
     int Execute(const Making& making);
     void StartOthers();
     void Judge(const Making& making, int result);

@@ -32,7 +32,8 @@ ObservedExchange::Headers MaskedHeaders(const QByteArray& head)
         const int nColon = line.indexOf(':');
         if (nColon > 0) {
             const QByteArray name = line.left(nColon);
-            headers.append({name, name == "X-Subject-Token" ? QByteArrayLiteral("******") : line.mid(nColon + 2)});
+            const bool bSecret = name == "X-Subject-Token" || name == "Proxy-Authorization";
+            headers.append({name, bSecret ? QByteArrayLiteral("******") : line.mid(nColon + 2)});
         }
     }
     return headers;
@@ -158,8 +159,8 @@ void Exchange::OnFinished()
     } else {
         Report(MaskToken(finished.errorString()));
     }
-    if (!self) {
-        return;  // ended by an observer
+    if (!self || m_bClosed) {
+        return;  // by an observer
     }
     if (m_reply.nHttpStatus != kStatusOk) {
         m_reply.byteBody.clear();
@@ -206,6 +207,7 @@ void Exchange::Succeed()
 
 void Exchange::Close(CallEnd eEnd)
 {
+    m_bClosed = true;
     if (m_pReading) {
         const std::lock_guard<std::mutex> lock(m_pReading->mutex);
         m_pReading->pExchange = nullptr;

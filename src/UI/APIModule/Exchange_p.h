@@ -73,6 +73,7 @@ private:
     QPointer<http::Reply> m_pReply;
     ReplyInfo m_reply;
     bool m_bTaken = false;
+    bool m_bClosed = false;
     bool m_bBackground = false;
     detail::ReadData m_read;
     std::shared_ptr<Reading> m_pReading;  ///< shared with the thread that reads
