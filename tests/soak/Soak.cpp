@@ -5,6 +5,7 @@
 #include <PlatformEmulator.h>
 
 #include <APIModule.h>
+#include <Call.h>
 #include <libornl/TalPrintLog.h>
 #include <OrnGui/OrnMessageNotify.h>
 #include <OrnGui/OrnSingleton.h>
@@ -150,15 +151,15 @@ void Soak::Burst()
                 loop.quit();
             }
         };
-        call.handle = catalogue::Start(*call.candidate->call, ArgumentsOf(*call.candidate->row, *call.candidate->call), {},
-                                       call.receiver.get(), [this, &call, leave](const catalogue::Outcome& outcome) {
-                                           ++call.ended;
-                                           if (!outcome) {
-                                               m_tally.Fail(call.candidate->call->name + " in a burst gave " +
-                                                            std::to_string(outcome.Code()));
-                                           }
-                                           leave();
-                                       });
+        call.handle = catalogue::Start(
+            *call.candidate->call, ArgumentsOf(*call.candidate->row, *call.candidate->call), {}, call.receiver.get(),
+            [this, &call, leave](const catalogue::Outcome& outcome) {
+                ++call.ended;
+                if (!outcome) {
+                    m_tally.Fail(call.candidate->call->name + " in a burst gave " + std::to_string(outcome.Code()));
+                }
+                leave();
+            });
         if (Chance(m_random, kGivenUp)) {
             const bool bByHandle = Chance(m_random, 0.5);
             const int nDelay = std::uniform_int_distribution<int>(0, 5)(m_random);
