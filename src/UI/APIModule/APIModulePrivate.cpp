@@ -36,7 +36,6 @@ constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 constexpr int kInvalidRequest = -4;
 constexpr int kParseFailed = 3101;
 
-constexpr int kStatusOk = 200;
 constexpr int kCodeSuccess = 1000;
 
 /// Of the six connections to a server, those that calls without a wait may take.

@@ -18,7 +18,6 @@ using namespace detail;
 
 namespace {
 
-constexpr int kStatusOk = 200;
 /// A smaller reply is read before a thread would have begun.
 constexpr int kLargeReply = 256 * 1024;
 

@@ -16,8 +16,9 @@ namespace APIModule {
 
 /// A request that was sent, or was to be sent, and what came back. Bodies are shared with the library, not copied.
 ///
-/// The session token and the credentials of a proxy are masked in URL and headers. Bodies stand as they are: BRMS::GetDeriveToken and
-/// BRMS::GetChannelWebAuthorization reply with tokens, which an observer that stores or shows bodies has to leave out.
+/// The session token and the credentials of a proxy are masked in URL and headers. Bodies stand as they are:
+/// BRMS::GetDeriveToken and BRMS::GetChannelWebAuthorization reply with tokens, which an observer that stores or shows
+/// bodies has to leave out.
 struct ObservedExchange {
     /// Names and values.
     using Headers = QList<QPair<QByteArray, QByteArray>>;

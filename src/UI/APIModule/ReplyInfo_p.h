@@ -14,6 +14,9 @@ namespace APIModule {
 
 struct CallSteps;
 
+/// The one HTTP status whose reply is read.
+inline constexpr int kStatusOk = 200;
+
 /// What came back for one request.
 struct ReplyInfo {
     int nHttpStatus = -1;                             ///< HTTP status, -1 without one
