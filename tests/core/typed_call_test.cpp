@@ -15,8 +15,10 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <qpa/qwindowsysteminterface.h>
 #include <QThread>
 #include <QTimer>
+#include <QWindow>
 
 #include <atomic>
 #include <functional>
@@ -511,9 +513,11 @@ TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
     });
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::seconds(30));
     Counting window;
+    window.show();
     const auto press = [&window] {
-        QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
-        QCoreApplication::sendEvent(&window, &event);
+        QWindow* const pWindow = window.windowHandle();
+        QWindowSystemInterface::handleKeyEvent(pWindow, QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        QWindowSystemInterface::flushWindowSystemEvents();
     };
     QTimer::singleShot(50, &window, press);
     EXPECT_TRUE(APIModule::Run(GetNumber("/path"), &m_parent));

@@ -125,7 +125,7 @@ class Passed {
         std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>;
 
 public:
-    explicit Passed(const Value& value) : m_value(value) {}
+    explicit Passed(const Value& value) : m_value(value) {}  // NOLINT(modernize-pass-by-value): most refer to it
     operator std::conditional_t<kMayChange, Value&, const Value&>() { return m_value; }
 
 private:
