@@ -2,6 +2,8 @@
 
 #include <OrnGui/OrnWaitDialog.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QTimer>
 #include <QWidget>
 
@@ -9,17 +11,43 @@ namespace APIModule {
 
 namespace {
 
-/// Discards user input to all windows of the application while it lives, as any modal window does. It has no place on
-/// the screen.
-class InputBarrier final : public QWidget {
+/// Discards user input to all windows of the application, as a modal dialog does, while it lives. Closing a window goes
+/// through: with Qt 6 a close by the user looks like one by the program.
+class InputBarrier final : public QObject {
 public:
-    InputBarrier()
+    InputBarrier() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*pWatched*/, QEvent* pEvent) override
     {
-        setAttribute(Qt::WA_DontShowOnScreen);
-        setAttribute(Qt::WA_ShowWithoutActivating);
-        setAttribute(Qt::WA_QuitOnClose, false);
-        setWindowModality(Qt::ApplicationModal);
-        show();
+        switch (pEvent->type()) {
+        case QEvent::ShortcutOverride:
+            pEvent->accept();  // or Qt looks for a shortcut
+            return true;
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::ContextMenu:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TouchCancel:
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease:
+        case QEvent::NativeGesture:
+        case QEvent::InputMethod:
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            return true;
+        default:
+            return false;
+        }
     }
 };
 
