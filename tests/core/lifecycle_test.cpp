@@ -433,6 +433,35 @@ TEST_F(Lifecycle, CallsStartedAtTheEndAreDeliveredBeforeTheApplicationObjectIsGo
     EXPECT_EQ(ends, std::vector<APIModule::CallEnd>(2, APIModule::CallEnd::ApplicationEnding));
 }
 
+/// A host that starts each call again when it ends.
+struct Retrying {
+    QObject* pContext;
+    int& nEnded;
+
+    void operator()(const APIModule::Outcome<APIModule::NoRecord>& outcome) const
+    {
+        EXPECT_EQ(outcome.End(), APIModule::CallEnd::ApplicationEnding);
+        ++nEnded;
+        Start(Silent(), pContext, *this);
+    }
+};
+
+TEST_F(Lifecycle, CallsStartedAgainWhileTheApplicationObjectGoesAreDropped)
+{
+    int nEnded = 0;
+    {
+        QCoreApplication application(g_argc, g_argv);
+        const Server server(*this);
+        for (int i = 0; i < 12; ++i) {
+            Start(Silent(), &application, Retrying{&application, nEnded});
+        }
+    }
+    EXPECT_EQ(nEnded, 12);
+    QCoreApplication next(g_argc, g_argv);
+    const Server server(*this);
+    EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
+}
+
 TEST_F(Lifecycle, StartedCallsGoOnInASecondExec)
 {
     QCoreApplication application(g_argc, g_argv);

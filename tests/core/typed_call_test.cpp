@@ -58,8 +58,21 @@ int ParseNumber(const QJsonObject& data, Number& number)
     return CCommonFunc::GetJsonValue(data, QStringLiteral("b"), number.b);
 }
 
+int PackAppended(void* pReqParamData, std::string& path, int nServerId)
+{
+    path += "/more";
+    return PackPath(pReqParamData, path, nServerId);
+}
+
+int ParseFlag(const QJsonObject& data, bool& bFlag)
+{
+    return CCommonFunc::GetJsonValue(data, QStringLiteral("flag"), bFlag);
+}
+
 constexpr Call<&PackPath, &ParseNumber> GetNumber;
+constexpr Call<&PackPath, &ParseFlag> GetFlag;
 constexpr Call<&PackPath> Touch;
+constexpr Call<&PackAppended> Append;
 
 constexpr const char* kWhole = R"({"code":1000,"desc":"fine","data":{"a":1,"b":"x","totalCount":7}})";
 
@@ -439,22 +452,22 @@ TEST_F(TypedCall, TextNamesTheNumberOfAnUnknownCode)
 
 TEST_F(TypedCall, AnOutcomeOfAFlagConvertsToSuccess)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"enable":"0"}})"); });
-    const auto outcome = APIModule::Run(BRMS::GetAIPrivacyConfig());
-    ASSERT_TRUE(outcome);
+    Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"flag":false}})"); });
+    const Outcome<bool> outcome = APIModule::Run(GetFlag("/path"));
+    EXPECT_TRUE(outcome);
+    EXPECT_FALSE(*outcome);
 }
 
 TEST_F(TypedCall, APackThatChangesItsArgumentGetsAFreshCopyEachRun)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
-    const auto request = DMS::BatchWashOpen({"1", "2"});
-    users.servers[1].host = "127.0.0.1";
-    APIModule::Run(request);
-    APIModule::Run(request);
+    const auto request = Append("/path");
+    EXPECT_TRUE(APIModule::Run(request));
+    EXPECT_TRUE(APIModule::Run(request));
     const std::vector<RawRequest> requests = m_pServer->TakeRequests();
     ASSERT_EQ(requests.size(), 2U);
-    EXPECT_EQ(requests[0].body, requests[1].body);
-    EXPECT_FALSE(requests[0].body.isEmpty());
+    EXPECT_EQ(requests[0].target, "/path/more");
+    EXPECT_EQ(requests[1].target, "/path/more");
 }
 
 TEST_F(TypedCall, ADefaultOutcomeIsNotPacked)
@@ -528,28 +541,49 @@ TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
     EXPECT_EQ(window.nKeys, 1);
 }
 
-TEST_P(WayTest, AParentOrContextThatGoesEndsTheCall)
+TEST_F(TypedCall, AContextThatGoesEndsAStartedCall)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
-    auto* const pParent = new QWidget;
-    QTimer::singleShot(50, pParent, [pParent] { delete pParent; });
-    if (GetParam() == Way::Started) {
-        bool bCalled = false;
-        const CallHandle handle = Start(GetNumber("/path"), pParent, [&](const Outcome<Number>&) { bCalled = true; });
-        EXPECT_TRUE(Await([&] { return !handle.IsRunning(); }));
-        EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
-        EXPECT_FALSE(bCalled);
-    } else if (GetParam() == Way::Dialog) {
-        for (const int nDelay : {0, 10000}) {
-            auto* const pWindow = new QWidget;
-            CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
-            QTimer::singleShot(50, pWindow, [pWindow] { delete pWindow; });
-            const auto outcome = APIModule::Run(GetNumber("/path"), pWindow);
-            EXPECT_EQ(outcome.End(), CallEnd::Cancelled);
-            EXPECT_EQ(outcome.Code(), -101);
-        }
-        EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
+    auto pContext = std::make_unique<QObject>();
+    bool bCalled = false;
+    const CallHandle handle =
+        Start(GetNumber("/path"), pContext.get(), [&](const Outcome<Number>&) { bCalled = true; });
+    EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 1; }));
+    pContext.reset();
+    EXPECT_FALSE(handle.IsRunning());
+    EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
+    EXPECT_FALSE(bCalled);
+}
+
+TEST_F(TypedCall, AParentThatGoesEndsTheCallBeforeAndBehindTheDialog)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    for (const auto delay : {std::chrono::milliseconds(0), std::chrono::milliseconds(10000)}) {
+        auto* const pWindow = new QWidget;
+        CAPIModule::GetInstance().SetWaitDialogDelay(delay);
+        QTimer::singleShot(50, pWindow, [pWindow] { delete pWindow; });
+        const auto outcome = APIModule::Run(GetNumber("/path"), pWindow);
+        EXPECT_EQ(outcome.End(), CallEnd::Cancelled);
+        EXPECT_EQ(outcome.Code(), -101);
     }
+    EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
+}
+
+TEST_F(TypedCall, AWaitDialogDelayBeyondWhatATimerTakesShowsNoDialog)
+{
+    Serve([](const RawRequest&) {
+        RawAnswer answer = HttpAnswer(200, kWhole);
+        answer.delayMilliseconds = 200;
+        return answer;
+    });
+    bool bSeen = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&bSeen] { bSeen = bSeen || HasWaitDialog(); });
+    poll.start(1);
+    // 2^32 ms and a little more: as an int, a delay of 10 ms.
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds((1LL << 32) + 10));
+    EXPECT_TRUE(APIModule::Run(GetNumber("/path"), &m_parent));
+    EXPECT_FALSE(bSeen);
 }
 
 TEST_F(TypedCall, AReceiverThatGoesWhileALargeReplyIsReadIsNotCalled)
@@ -610,16 +644,19 @@ TEST_F(TypedCall, CancelClosesTheConnectionAndCallsNothing)
 TEST_F(TypedCall, CancelFromInsideTheFunctionAndFromAnObserverIsSafe)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
-    CallHandle own;
-    CallHandle other = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { own.Cancel(); });
+    CallHandle first;
+    CallHandle second;
     int nCalled = 0;
-    own = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) {
+    const auto cancelBoth = [&](const Outcome<Number>&) {
         ++nCalled;
-        own.Cancel();
-        other.Cancel();
-    });
-    EXPECT_TRUE(Await([&] { return !own.IsRunning() && !other.IsRunning(); }));
-    EXPECT_LE(nCalled, 1);
+        first.Cancel();
+        second.Cancel();
+    };
+    first = Start(GetNumber("/path"), &m_parent, cancelBoth);
+    second = Start(GetNumber("/path"), &m_parent, cancelBoth);
+    EXPECT_TRUE(Await([&] { return !first.IsRunning() && !second.IsRunning(); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(nCalled, 1);
 
     CallHandle observed;
     bool bCalled = false;
@@ -720,6 +757,25 @@ TEST_F(TypedCall, UnInitEndsStartedCallsAsCancelledAndDeliversThem)
     EXPECT_TRUE(ends.empty());
     EXPECT_TRUE(Await([&] { return ends.size() == 8; }));
     EXPECT_EQ(ends, std::vector<CallEnd>(8, CallEnd::Cancelled));
+    CAPIModule::GetInstance().Init(&users);
+}
+
+TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirOwn)
+{
+    Serve([](const RawRequest&) { return RawAnswer{}; });
+    std::vector<CallEnd> ends;
+    QThread* pThread = nullptr;
+    for (int i = 0; i < 8; ++i) {
+        Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>& outcome) {
+            pThread = QThread::currentThread();
+            ends.push_back(outcome.End());
+        });
+    }
+    std::thread([] { CAPIModule::GetInstance().UnInit(); }).join();
+    EXPECT_TRUE(ends.empty());
+    EXPECT_TRUE(Await([&] { return ends.size() == 8; }));
+    EXPECT_EQ(ends, std::vector<CallEnd>(8, CallEnd::Cancelled));
+    EXPECT_EQ(pThread, QThread::currentThread());
     CAPIModule::GetInstance().Init(&users);
 }
 

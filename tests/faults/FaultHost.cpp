@@ -8,6 +8,7 @@
 #include <QHostInfo>
 #include <QNetworkProxyFactory>
 #include <QNetworkProxyQuery>
+#include <QThreadPool>
 #include <QUrl>
 
 #include <algorithm>
@@ -167,7 +168,8 @@ void FaultHost::WarmUp()
         Use(server, way.scheme);
         ExpectSuccess(way);
     }
-    // What Qt makes once, for the first server with a name.
+    // What Qt makes once: for the first large reply, and for the first server with a name.
+    QThreadPool::globalInstance();
     QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(QUrl(QStringLiteral("http://no-such-host.invalid"))));
     QHostInfo::lookupHost(QStringLiteral("localhost"), QCoreApplication::instance(), [](const QHostInfo&) {});
     QEventLoop loop;

@@ -116,7 +116,7 @@ void CAPIModule::UnInit()
     Q_D(CAPIModule);
     m_pUserManager = nullptr;
     m_bInitialised = false;
-    d->EndStarted(CallEnd::Cancelled, &StartedCall::End);
+    d->EndStarted(&StartedCall::EndAsCancelled);
     d->ForgetConnections();
     LogInfo({kModuleFile, "APIModule::CAPIModule::UnInit"}, "unInit Sucess");
 }

@@ -13,7 +13,6 @@
 #include "Wait_p.h"
 
 #include <QEventLoop>
-#include <QHash>
 #include <QSslConfiguration>
 #include <QThread>
 #include <QTimer>
@@ -24,6 +23,8 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
+#include <vector>
 
 namespace APIModule {
 
@@ -104,7 +105,7 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
     m_pApplication = &application;
     MakeNetworkManager();
     connect(&application, &QCoreApplication::aboutToQuit, this,
-            [this] { EndStarted(CallEnd::ApplicationEnding, &StartedCall::Deliver); });
+            [this] { EndStarted(&StartedCall::DeliverAsApplicationEnding); });
     // No socket may outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
 }
@@ -168,11 +169,16 @@ void CAPIModulePrivate::RetireManagers()
 
 void CAPIModulePrivate::DetachFromApplication()
 {
-    EndStarted(CallEnd::ApplicationEnding, &StartedCall::Deliver);
+    // A function may start its call again, but the managers go.
+    m_bEndingStarted = true;
+    EndStarted(&StartedCall::DeliverAsApplicationEnding);
+    EndStarted(&StartedCall::Drop);
+    m_lines.clear();
     for (const QPointer<http::AccessManager>& pManager : qAsConst(m_networkManagers)) {
         delete pManager;
     }
     m_networkManagers.clear();
+    m_bEndingStarted = false;
     MoveTo(nullptr);
 }
 
@@ -223,14 +229,15 @@ void CAPIModulePrivate::Conclude(const ReadData& read, CallResult& result)
         result.nCode = CodeOf(reply.eEnd);
         return;
     }
-    if (const std::optional<int> failure = Judge(reply)) {
+    const std::optional<int> failure = Judge(reply);
+    reply.byteBody.clear();  // a large one is not kept beside the host's records
+    if (failure) {
         result.nCode = *failure;
         result.eEnd = reply.nHttpStatus != kStatusOk ? CallEnd::HttpStatus
                       : reply.bJson                  ? CallEnd::Refused
                                                      : CallEnd::UnreadableReply;
         return;
     }
-    reply.byteBody.clear();  // a large one is not kept beside the host's records
     if (read && !reply.jsonData.isEmpty() && !reply.parsed) {
         Deliver(read, reply);
     }
@@ -258,52 +265,63 @@ CallHandle CAPIModulePrivate::Start(const CallSteps& steps, QObject* pContext, c
         return {};
     }
     auto* const pCall = new StartedCall(*this, steps, pContext, finished);
-    connect(pCall, &StartedCall::Left, this, &CAPIModulePrivate::BeginNext);
     CallHandle handle(pCall);
     pCall->Prepare();
-    if (handle.IsRunning()) {
-        m_started.append(pCall);
-        BeginNext();
+    if (handle.IsRunning() && pCall->GetState() == StartedCall::State::InLine) {
+        const QString origin = pCall->Origin();
+        m_lines[origin].waiting.enqueue(pCall);
+        BeginNext(origin);
     }
     return handle;
 }
 
-void CAPIModulePrivate::BeginNext()
+void CAPIModulePrivate::BeginNext(const QString& origin)
 {
-    m_started.erase(std::remove_if(m_started.begin(), m_started.end(),
-                                   [](const QPointer<StartedCall>& pCall) {
-                                       return !pCall || pCall->GetState() == StartedCall::State::Finished;
-                                   }),
-                    m_started.end());
-    if (m_bEndingStarted) {
-        return;
-    }
-    QHash<QString, int> onTheirWay;
-    for (const QPointer<StartedCall>& pCall : qAsConst(m_started)) {
-        if (pCall->GetState() == StartedCall::State::OnItsWay) {
-            ++onTheirWay[pCall->Origin()];
+    while (!m_bEndingStarted) {
+        Line& line = m_lines[origin];
+        if (line.nOnTheirWay >= kMostOnTheirWay || line.waiting.isEmpty()) {
+            if (line.nOnTheirWay == 0) {
+                m_lines.remove(origin);
+            }
+            return;
         }
-    }
-    const QList<QPointer<StartedCall>> calls = m_started;
-    for (const QPointer<StartedCall>& pCall : calls) {
-        if (pCall && pCall->GetState() == StartedCall::State::InLine && onTheirWay[pCall->Origin()] < kMostOnTheirWay) {
-            ++onTheirWay[pCall->Origin()];
+        const QPointer<StartedCall> pCall = line.waiting.dequeue();
+        if (pCall && pCall->GetState() == StartedCall::State::InLine) {
+            ++line.nOnTheirWay;
             pCall->Begin();
         }
     }
 }
 
-void CAPIModulePrivate::EndStarted(CallEnd eEnd, void (StartedCall::*pEnd)(CallEnd))
+void CAPIModulePrivate::OnLeft(const QString& origin)
 {
+    --m_lines[origin].nOnTheirWay;
+    BeginNext(origin);
+}
+
+void CAPIModulePrivate::EndStarted(void (StartedCall::*pEnd)())
+{
+    if (!m_pNetworkManager) {
+        return;
+    }
+    if (QThread::currentThread() != thread()) {
+        QMetaObject::invokeMethod(
+            this, [this, pEnd] { EndStarted(pEnd); }, Qt::QueuedConnection);
+        return;
+    }
     const bool bOuter = std::exchange(m_bEndingStarted, true);
-    const QList<QPointer<StartedCall>> calls = m_started;
+    const QList<StartedCall*> children = findChildren<StartedCall*>(QString(), Qt::FindDirectChildrenOnly);
+    const std::vector<QPointer<StartedCall>> calls(children.begin(), children.end());
     for (const QPointer<StartedCall>& pCall : calls) {
         if (pCall) {
-            (pCall->*pEnd)(eEnd);
+            (pCall->*pEnd)();
         }
     }
     m_bEndingStarted = bOuter;
-    BeginNext();
+    const QStringList origins = m_lines.keys();
+    for (const QString& origin : origins) {
+        BeginNext(origin);
+    }
 }
 
 void CAPIModulePrivate::SetUp(Exchange& exchange, const CallSteps* pSteps) const
@@ -376,7 +394,7 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
 int CAPIModulePrivate::ExecuteRequestWithWaitDlg(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply)
 {
     const bool bTyped = reply.pSteps && reply.pSteps->bTyped;
-    Wait wait(*pParent, bTyped ? m_waitDialogDelay : std::chrono::milliseconds(0));
+    Wait wait(*pParent, bTyped ? Limited(m_waitDialogDelay) : std::chrono::milliseconds(0));
     return Execute(request, pParent, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
 }
 

@@ -8,9 +8,11 @@
 #include "StartedCall_p.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QNetworkRequest>
 #include <QObject>
 #include <QPointer>
+#include <QQueue>
 
 #include <chrono>
 #include <memory>
@@ -86,8 +88,17 @@ public:
     /// Deletes earlier network managers whose calls have ended.
     void RetireManagers();
 
+    /// A call is no longer on its way to @p origin.
+    void OnLeft(const QString& origin);
+
 private:
     friend class CAPIModule;
+
+    /// Calls to one server.
+    struct Line {
+        int nOnTheirWay = 0;
+        QQueue<QPointer<StartedCall>> waiting;  ///< among them those that ended before their turn
+    };
 
     void MoveTo(QThread* pThread);
     void AttachTo(QCoreApplication& application);
@@ -99,10 +110,10 @@ private:
 
     int Execute(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply, Wait& wait, const char* pFunction);
 
-    /// Begins those calls in line that have their turn.
-    void BeginNext();
+    /// Begins the calls to a server that have their turn.
+    void BeginNext(const QString& origin);
     /// Ends the calls that Start() began, whose functions are called later, or before this returns.
-    void EndStarted(CallEnd eEnd, void (StartedCall::*pEnd)(CallEnd));
+    void EndStarted(void (StartedCall::*pEnd)());
 
     CAPIModule* const q_ptr;
     std::string m_strLanguage = "en";
@@ -111,8 +122,8 @@ private:
     std::chrono::milliseconds m_waitDialogDelay{300};
     std::optional<std::chrono::milliseconds> m_callTimeout;
     ExchangeObserver m_observer;
-    QList<QPointer<StartedCall>> m_started;  ///< in the order of their beginning
-    bool m_bEndingStarted = false;
+    QHash<QString, Line> m_lines;                       ///< the calls of Start(), for each server
+    bool m_bEndingStarted = false;                      ///< no call has its turn
     std::shared_ptr<const ServerTrust> m_pServerTrust;  ///< null when every server is trusted
     QPointer<http::AccessManager> m_pNetworkManager;
     QList<QPointer<http::AccessManager>> m_networkManagers;  ///< with earlier ones whose calls still wait

@@ -119,11 +119,13 @@ void StartedCall::Drop()
 void StartedCall::Leave(State state)
 {
     m_timer.stop();
-    m_state = state;
+    const State before = std::exchange(m_state, state);
     if (m_pExchange) {
         m_pExchange->Close(m_result.eEnd);
     }
-    emit Left();
+    if (before == State::OnItsWay) {
+        m_module.OnLeft(m_origin);
+    }
 }
 
 void StartedCall::CallFunction()

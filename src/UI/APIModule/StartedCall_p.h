@@ -31,10 +31,10 @@ public:
     void Begin();
 
     /// Ends the call unless it has ended. Its function is called from the event loop.
-    void End(CallEnd eEnd);
+    void EndAsCancelled() { End(CallEnd::Cancelled); }
 
-    /// Calls its function now, with @p eEnd unless the call has ended.
-    void Deliver(CallEnd eEnd);
+    /// Calls its function now.
+    void DeliverAsApplicationEnding() { Deliver(CallEnd::ApplicationEnding); }
 
     /// Ends the call; its function is not called any more.
     void Drop();
@@ -50,14 +50,11 @@ public:
     /// Server, as far as connections are concerned.
     const QString& Origin() const { return m_origin; }
 
-signals:
-    /// No longer in line or on its way.
-    void Left();
-
 private:
-    void OnAnswered();
     void OnEnded();
     void OnTimeOut();
+    void End(CallEnd eEnd);
+    void Deliver(CallEnd eEnd);
     void EndWith(CallEnd eEnd);
     void Leave(State state);
     void CallFunction();
