@@ -4,6 +4,7 @@
 #include "support/Waiting.h"
 
 #include <Call.h>
+#include <OrnGui/OrnWaitDialog.h>
 
 #include <QElapsedTimer>
 #include <QThread>
@@ -476,6 +477,44 @@ TEST_F(Lifecycle, StartedCallsGoOnInASecondExec)
           });
     QCoreApplication::exec();
     EXPECT_EQ(ends, std::vector<APIModule::CallEnd>{APIModule::CallEnd::TimedOut});
+}
+
+TEST_P(EndTest, QuitDuringRunEndsItAsApplicationEnding)
+{
+    TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    QWidget parent;
+    parent.show();
+    for (const int nDelay : {0, 10000}) {
+        CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
+        APIModule::Outcome<APIModule::NoRecord> outcome;
+        QTimer::singleShot(0, &application, [&] {
+            QTimer::singleShot(100, &application, &QCoreApplication::quit);
+            outcome = APIModule::Run(Silent(), GetParam() == BehindDialog ? &parent : nullptr);
+        });
+        QApplication::exec();
+        EXPECT_EQ(outcome.End(), APIModule::CallEnd::ApplicationEnding);
+        EXPECT_EQ(outcome.Code(), -101);
+    }
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(300));
+}
+
+TEST_F(Lifecycle, ADialogThatIsStoppedEndsRunAsCancelled)
+{
+    const TestApplication application(g_argc, g_argv);
+    const Server server(*this);
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(0));
+    QWidget parent;
+    QTimer::singleShot(100, &application, [] {
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        for (QWidget* pWidget : widgets) {
+            if (auto* const pDialog = qobject_cast<ORNGUI::OrnWaitDialog*>(pWidget)) {
+                pDialog->OnStopWaitImmediately();
+            }
+        }
+    });
+    EXPECT_EQ(APIModule::Run(Silent(), &parent).End(), APIModule::CallEnd::Cancelled);
+    CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(300));
 }
 
 TEST_F(Lifecycle, RunAfterQuitEndsAsApplicationEnding)

@@ -38,7 +38,7 @@ struct Way {
 /// ExecuteFuncs in both ways of waiting, with GET and POST, over each of the schemes.
 std::vector<Way> Ways(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
 /// The same, and typed calls: waited for in one way over each scheme, and started.
-std::vector<Way> WaysOfAllCalls(const std::vector<RawServer::Scheme>& schemes);
+std::vector<Way> WaysOfAllCalls(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
 std::string NameOf(const Way& way);
 
 /// What the host gets for a call, and what the line of the wait says.
@@ -46,7 +46,7 @@ struct Outcome {
     int code;           ///< result, or what is notified instead
     bool answered;      ///< whether an answer came, whose failure is notified only when the caller asked for it
     int level;          ///< of the line
-    std::string line;   ///< its text, "%1" for the URL
+    std::string line;   ///< its text, "%1" for the URL; empty when there is no line
     bool isWhole;       ///< whether that is all of the line, or how it starts
     bool shown = true;  ///< whether anything can be notified
 };
@@ -55,6 +55,8 @@ Outcome Succeeds();
 Outcome EnvelopeFails(int code);
 Outcome StatusFails(int status);
 Outcome TimesOut();
+/// A call of Start() that the host ends. It writes no line.
+Outcome IsCancelled();
 /// A failure of the network. Qt's code and text are left open where they depend on how the bytes fall into packets.
 Outcome NetworkFails(const std::string& qtCode = {}, const std::string& qtText = {});
 Outcome AsksForAuthentication();

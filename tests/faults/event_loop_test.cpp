@@ -45,8 +45,9 @@ private:
 struct Event {
     const char* name;
     std::function<void(EventHost&)> act;
-    bool endsUse = false;     ///< nothing is notified any more
-    bool endsDialog = false;  ///< ends a wait behind the dialog with the result of a time-out
+    bool endsUse = false;      ///< nothing is notified any more
+    bool endsDialog = false;   ///< ends a wait behind the dialog with the result of a time-out
+    bool endsStarted = false;  ///< ends calls of Start()
 };
 
 const std::vector<Event> kEvents = {
@@ -55,15 +56,15 @@ const std::vector<Event> kEvents = {
     {"parent_deleted_later", [](EventHost& host) { host.Parent()->deleteLater(); }, false, true},
     {"parent_closed", [](EventHost& host) { host.Parent()->close(); }},
     {"parent_hidden", [](EventHost& host) { host.Parent()->hide(); }},
-    {"un_init", [](EventHost& host) { host.EndUse(); }, true},
+    {"un_init", [](EventHost& host) { host.EndUse(); }, true, false, true},
     {"un_init_and_parent_deleted",
      [](EventHost& host) {
          host.EndUse();
          delete host.Parent();
      },
-     true, true},
-    {"init_again", [](EventHost& host) { host.BeginUse(); }},
-    {"another_user_manager", [](EventHost& host) { host.UseOtherUserManager(); }},
+     true, true, true},
+    {"init_again", [](EventHost& host) { host.BeginUse(); }, false, false, true},
+    {"another_user_manager", [](EventHost& host) { host.UseOtherUserManager(); }, false, false, true},
     {"language", [](EventHost&) { CAPIModule::GetInstance().SetLanguage("de"); }},
     {"https_mode_on", [](EventHost&) { CAPIModule::GetInstance().SetHttpsMode(1); }},
     {"https_mode_off", [](EventHost&) { CAPIModule::GetInstance().SetHttpsMode(0); }},
@@ -83,14 +84,15 @@ void PrintTo(const EventCase& row, std::ostream* pStream)
     *pStream << row.name;
 }
 
-/// Each event in each of the ways when an answer comes, and over HTTP when none does.
+/// Each event in each of the ways when an answer comes, and over HTTP when none does, once for each way of waiting.
 std::vector<EventCase> Cases()
 {
     std::vector<EventCase> cases;
     for (const Event& event : kEvents) {
-        for (const Way& way : Ways()) {
+        for (const Way& way : WaysOfAllCalls()) {
             cases.push_back({event.name + ("_answered_" + NameOf(way)), event, way, true});
-            if (way.scheme == RawServer::Http && way.method == APIModule::Method_Get) {
+            const bool bOnce = way.runner == Runner::Start || way.method == APIModule::Method_Get;
+            if (way.scheme == RawServer::Http && bOnce) {
                 cases.push_back({event.name + ("_silent_" + NameOf(way)), event, way, false});
             }
         }
@@ -128,7 +130,8 @@ TEST_P(EventTest, LeavesTheCallItsResult)
         Use(server, way.scheme);
 
         const bool bEnded = event.endsDialog && way.waiting == BehindDialog;
-        const Outcome outcome = answered && !bEnded ? Succeeds() : TimesOut();
+        const bool bCancelled = event.endsStarted && way.runner == Runner::Start;
+        const Outcome outcome = bCancelled ? IsCancelled() : answered && !bEnded ? Succeeds() : TimesOut();
         QElapsedTimer elapsed;
         elapsed.start();
         ExpectOutcome(way, event.endsUse ? Unseen(outcome) : outcome, false, bEnded || answered ? 20 : 1);

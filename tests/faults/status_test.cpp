@@ -51,7 +51,7 @@ TEST_P(StatusTest, IsTheResult)
     ExpectNothingLeft(before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Statuses, StatusTest, testing::ValuesIn(Ways()),
+INSTANTIATE_TEST_SUITE_P(Statuses, StatusTest, testing::ValuesIn(WaysOfAllCalls()),
                          [](const auto& row) { return NameOf(row.param); });
 
 }  // namespace

@@ -60,6 +60,14 @@ std::chrono::milliseconds Limited(std::chrono::milliseconds timeout)
     return std::clamp(timeout, std::chrono::milliseconds(0), kMost);
 }
 
+/// Between quit and aboutToQuit, Qt runs no event loop. Otherwise this runs one pass of it.
+bool IsApplicationQuitting()
+{
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, &QEventLoop::quit);
+    return loop.exec(QEventLoop::ExcludeUserInputEvents) == -1;
+}
+
 }  // namespace
 
 CAPIModulePrivate::CAPIModulePrivate(CAPIModule* q) : q_ptr(q)
@@ -395,7 +403,12 @@ int CAPIModulePrivate::ExecuteRequestWithWaitDlg(const QNetworkRequest& request,
 {
     const bool bTyped = reply.pSteps && reply.pSteps->bTyped;
     Wait wait(*pParent, bTyped ? Limited(m_waitDialogDelay) : std::chrono::milliseconds(0));
-    return Execute(request, pParent, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
+    const int nResult =
+        Execute(request, pParent, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
+    if (bTyped && reply.eEnd == CallEnd::Cancelled && IsApplicationQuitting()) {
+        reply.eEnd = CallEnd::ApplicationEnding;  // which ended the dialog
+    }
+    return nResult;
 }
 
 int CAPIModulePrivate::ExecuteRequestWithoutWaitDlg(const QNetworkRequest& request, ReplyInfo& reply)

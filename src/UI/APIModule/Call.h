@@ -76,8 +76,8 @@ ReadData Into(const std::shared_ptr<Record>& pRecord, typename FixedRequest<Reco
 /// notifies nothing: CAPIModule::NotifyOutcome() does so when the host wants it.
 ///
 /// Behind a parent, user input to all windows is discarded from the start, except that windows can be closed; the wait
-/// dialog appears when the call takes longer than CAPIModule::SetWaitDialogDelay(). JSON of more than 256 KiB, and the record, are read on a thread of
-/// Qt's global thread pool while the event loop goes on.
+/// dialog appears when the call takes longer than CAPIModule::SetWaitDialogDelay(). JSON of more than 256 KiB, and the
+/// record, are read on a thread of Qt's global thread pool while the event loop goes on.
 ///
 /// Only the thread of the application object may call it; on another one the outcome is CallEnd::NotPacked.
 ///
