@@ -59,7 +59,8 @@ private:
     static QString Entry(const QString& place, const catalogue::Call& call, const Row& row)
     {
         const QString function = QString::fromStdString(call.name.substr(call.family.size() + 1));
-        return QStringLiteral("extern \"C\" int %1(void* pRecord)\n{\n    return Call(&%2::%3, pRecord);\n}\n\n")
+        return QStringLiteral(
+                   "extern \"C\" int %1(void* pRecord)\n{\n    return Take(%2::%3(nullptr), pRecord);\n}\n\n")
             .arg(QString::fromStdString(row.Name()), place, function);
     }
 
@@ -69,14 +70,12 @@ private:
 namespace {
 
 template <typename Record>
-[[maybe_unused]] int Call(int (*function)(QWidget*, Record&), void* pRecord)
+[[maybe_unused]] int Take(const APIModule::Outcome<Record>& outcome, void* pRecord)
 {
-    return function(nullptr, *static_cast<Record*>(pRecord));
-}
-
-[[maybe_unused]] int Call(int (*function)(QWidget*), void* /*pRecord*/)
-{
-    return function(nullptr);
+    if (pRecord) {
+        *static_cast<Record*>(pRecord) = *outcome;
+    }
+    return outcome.Code();
 }
 
 }  // namespace

@@ -76,10 +76,9 @@ TEST(CppLines, AreWhatAClientEngineerWrites)
                                                       {"height", 1080},
                                                       {"width", 1920}}})}};
     EXPECT_EQ(CppLines(*catalogue::FindCall("BRMS.UpdateEncodeConfig"), arguments, -1).toStdString(),
-              R"(#include "APIModule.h"
-#include "BRMS/BRMSModule.h"
+              R"(#include <BRMS/BRMSCalls.h>
 
-int UpdateEncodeConfig(QWidget* pParent)
+APIModule::Outcome<APIModule::NoRecord> UpdateEncodeConfig(QWidget* pParent)
 {
     std::string channelId = "1000021$1$0$0";
     std::vector<APIModule::EncodeConfig> configs;
@@ -95,36 +94,21 @@ int UpdateEncodeConfig(QWidget* pParent)
     configs[0].height = 1080;
     configs[0].width = 1920;
 
-    return APIModule::CAPIModule::GetInstance().ExecuteFuncs(
-        [&channelId, &configs](void* pReqParamData) {
-            return APIModule::CBRMSModule::PacketUpdateEncodeConfig(pReqParamData, channelId, configs, -1);
-        },
-        {},
-        QStringLiteral("BRMS.UpdateEncodeConfig failed"), pParent, QString(),
-        /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);
+    return APIModule::Run(APIModule::BRMS::UpdateEncodeConfig(channelId, configs), pParent);
 }
 )");
 }
 
-TEST(CppLines, FillARecordThatTheCallerHands)
+TEST(CppLines, NameTheRecord)
 {
     const QString lines = CppLines(*catalogue::FindCall("DMS.BatchWashOpen"), {{"channelIds", {"a", "b"}}}, 7);
-    EXPECT_EQ(lines.toStdString(), R"(#include "APIModule.h"
-#include "DMS/DMSModule.h"
+    EXPECT_EQ(lines.toStdString(), R"(#include <DMS/DMSCalls.h>
 
-int BatchWashOpen(QWidget* pParent, APIModule::PtzBatchWashStatus& record)
+APIModule::Outcome<APIModule::PtzBatchWashStatus> BatchWashOpen(QWidget* pParent)
 {
     std::vector<std::string> channelIds = {"a", "b"};
 
-    return APIModule::CAPIModule::GetInstance().ExecuteFuncs(
-        [&channelIds](void* pReqParamData) {
-            return APIModule::CDMSModule::PackeBatchWashOpen(pReqParamData, channelIds);
-        },
-        [&record](const QJsonObject& data) {
-            return APIModule::CDMSModule::ParseBatchWashOpen(data, record);
-        },
-        QStringLiteral("DMS.BatchWashOpen failed"), pParent, QString(),
-        /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);
+    return APIModule::Run(APIModule::DMS::BatchWashOpen(channelIds), pParent);
 }
 )");
 }
@@ -132,7 +116,8 @@ int BatchWashOpen(QWidget* pParent, APIModule::PtzBatchWashStatus& record)
 TEST(CppLines, NameTheServer)
 {
     const QString lines = CppLines(*catalogue::FindCall("BRMS.GetTimeSyncConfig"), json::object(), 3);
-    EXPECT_TRUE(lines.contains(QStringLiteral("PacketGetTimeSyncConfig(pReqParamData, 3);"))) << lines.toStdString();
+    EXPECT_TRUE(lines.contains(QStringLiteral("BRMS::GetTimeSyncConfig().OnServer(3), pParent)")))
+        << lines.toStdString();
 }
 
 // curl

@@ -127,37 +127,29 @@ void AddVariable(QStringList& lines, const catalogue::Argument& argument, const 
     }
 }
 
-QString Pack(const catalogue::Call& call, int serverId)
+QString ConstantName(const catalogue::Call& call)
 {
-    QStringList captures;
-    QStringList arguments{QStringLiteral("pReqParamData")};
-    for (const catalogue::Argument& argument : call.arguments) {
-        captures.append(QLatin1Char('&') + FromView(argument.name));
-        arguments.append(FromView(argument.name));
-    }
-    if (call.takesServerId) {
-        arguments.append(QString::number(serverId));
-    }
-    return QLatin1Char('[') + captures.join(QLatin1String(", ")) +
-           QLatin1String("](void* pReqParamData) {\n"
-                         "            return ") +
-           FromView(call.packName) + QLatin1Char('(') + arguments.join(QLatin1String(", ")) +
-           QLatin1String(");\n        }");
+    return QString::fromStdString(call.name.substr(call.name.find('.') + 1));
 }
 
-QString Parse(const catalogue::Call& call)
+/// Namespace and name of the call, applied to the variables.
+QString Request(const catalogue::Call& call, int serverId)
 {
-    return call.result == nullptr ? QStringLiteral("{}")
-                                  : QLatin1String("[&record](const QJsonObject& data) {\n            return ") +
-                                        FromView(call.parseName) + QLatin1String("(data, record);\n        }");
+    QStringList arguments;
+    for (const catalogue::Argument& argument : call.arguments) {
+        arguments.append(FromView(argument.name));
+    }
+    const QString request =
+        QStringLiteral("APIModule::%1::%2(%3)")
+            .arg(QString::fromStdString(call.family), ConstantName(call), arguments.join(QLatin1String(", ")));
+    const bool isCurrentServer = serverId == -1 || !call.takesServerId;
+    return isCurrentServer ? request : QStringLiteral("%1.OnServer(%2)").arg(request).arg(serverId);
 }
 
 QString Signature(const catalogue::Call& call)
 {
-    const QString name = QString::fromStdString(call.name.substr(call.name.find('.') + 1));
-    const QString record =
-        call.result == nullptr ? QString() : QLatin1String(", ") + TypeName(*call.result) + QLatin1String("& record");
-    return QLatin1String("int ") + name + QLatin1String("(QWidget* pParent") + record + QLatin1Char(')');
+    const QString record = call.result == nullptr ? QStringLiteral("APIModule::NoRecord") : TypeName(*call.result);
+    return QStringLiteral("APIModule::Outcome<%1> %2(QWidget* pParent)").arg(record, ConstantName(call));
 }
 
 QString EscapedByte(char byte)
@@ -220,17 +212,12 @@ QString CppLines(const catalogue::Call& call, const json& arguments, int serverI
         lines.append(QString());
     }
 
-    const QString family = QString::fromStdString(call.family);
-    QString text = QLatin1String("#include \"APIModule.h\"\n#include \"") + family + QLatin1Char('/') + family +
-                   QLatin1String("Module.h\"\n\n") + Signature(call) + QLatin1String("\n{\n");
+    QString text =
+        QStringLiteral("#include <%1/%1Calls.h>\n\n%2\n{\n").arg(QString::fromStdString(call.family), Signature(call));
     for (const QString& line : qAsConst(lines)) {
         text += line.isEmpty() ? QStringLiteral("\n") : QLatin1String("    ") + line + QLatin1Char('\n');
     }
-    text += QLatin1String("    return APIModule::CAPIModule::GetInstance().ExecuteFuncs(\n        ") +
-            Pack(call, serverId) + QLatin1String(",\n        ") + Parse(call) +
-            QLatin1String(",\n        QStringLiteral(\"") + QString::fromStdString(call.name) +
-            QLatin1String(" failed\"), pParent, QString(),\n"
-                          "        /*bShowErrorCode*/ true, /*bNotifyOnFailure*/ true);\n}\n");
+    text += QStringLiteral("    return APIModule::Run(%1, pParent);\n}\n").arg(Request(call, serverId));
     return text;
 }
 
