@@ -16,6 +16,8 @@ void RegisterBenchmarks()
     };
     RegisterInTurns("reply of 20 MB read into records, peak memory", 1,
                     {probe(kPeakMemory, kQtWithJson, "MB"), probe(kPeakMemory, kLibrary, "MB")});
+    RegisterInTurns("reply of 20 MB read by a typed call, peak memory", 1,
+                    {probe(kPeakMemory, "ExecuteFuncs", "MB"), probe(kTypedPeakMemory, kLibrary, "MB")});
     RegisterInTurns("10000 calls, memory grown", 1, {probe(kGrowth, kQt, "kB"), probe(kGrowth, kLibrary, "kB")});
 }
 

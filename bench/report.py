@@ -116,9 +116,14 @@ def flat_row(target, works):
 
 
 def rows_of(target, works):
-    measured = {work: results for work, results in works.items()
-                if fnmatch.fnmatchcase(work, target["work"]) and LIBRARY in results
-                and ("reference" not in target or target["reference"] in results)}
+    measured = {}
+    for work, results in works.items():
+        if fnmatch.fnmatchcase(work, target["work"]):
+            missing = {LIBRARY, target.get("reference", LIBRARY)} - results.keys()
+            if missing:
+                print(f"not compared: {work}, where {' and '.join(sorted(missing))} was not measured")
+            else:
+                measured[work] = results
     if "flat_from" in target:
         return flat_row(target, measured)
     rows = [row(target, work, results) for work, results in measured.items()]

@@ -58,9 +58,9 @@ void RegisterSmall(const Server& server, const std::shared_ptr<Client>& pLibrary
     constexpr int kRounds = 400;
     for (const bool bHttps : {false, true}) {
         const Exchange exchange = Get(bHttps, server.Port(bHttps));
-        RegisterInTurns(
-            std::string("typed call, ") + (bHttps ? "HTTPS" : "HTTP"), kRounds,
-            {{"ExecuteFuncs", TimeOf([=] { pLibrary->Run(exchange); })}, {"Run", TimeOf([=] { RunOnce(exchange); })}});
+        RegisterInTurns(std::string("typed call, ") + (bHttps ? "HTTPS" : "HTTP"), kRounds,
+                        {{"ExecuteFuncs", TimeOf([=] { pLibrary->Run(exchange); })},
+                         {kLibrary, TimeOf([=] { RunOnce(exchange); })}});
     }
 }
 
@@ -109,10 +109,10 @@ void RegisterAtOnce(const Server& server)
                               RunOnce(exchange);
                           }
                       })},
-                     {"Start", TimeOf([=] { StartAll(exchange); })}});
+                     {kLibrary, TimeOf([=] { StartAll(exchange); })}});
     RegisterInTurns(
         "20 reads of 50 ms at once", kRounds,
-        {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })}, {"Start", TimeOf([=] { StartAll(exchange); })}});
+        {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })}, {kLibrary, TimeOf([=] { StartAll(exchange); })}});
 }
 
 /// The longest time for which the event loop stands still, in milliseconds.
@@ -165,7 +165,7 @@ void RegisterStall(const Server& server)
                       [=] {
                           return Values{{"stall_ms", Stall(byQt)}};
                       }},
-                     {"Start", [=] {
+                     {kLibrary, [=] {
                           return Values{{"stall_ms", Stall(byStart)}};
                       }}});
 }

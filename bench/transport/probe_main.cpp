@@ -5,6 +5,7 @@
 #include "Clients.h"
 #include "Probe.h"
 
+#include <Call.h>
 #include <IPMS/IPMSModule.h>
 
 #include <QApplication>
@@ -18,12 +19,14 @@
 namespace bench {
 namespace {
 
+constexpr APIModule::Call<&PackExchange, &APIModule::CIPMSModule::ParseGetDetailParkingLots> ReadLots;
+
 std::unique_ptr<Client> Make(const std::string& contender)
 {
     if (contender == kQt) {
         return MakeQt();
     }
-    return contender == kLibrary ? MakeLibrary() : MakeQtWithJson();
+    return contender == kQtWithJson ? MakeQtWithJson() : MakeLibrary();
 }
 
 /// A size in kilobytes that the kernel tells of this process.
@@ -50,6 +53,14 @@ double FirstCall(const std::string& contender, int nPort)
     return double(clock.nsecsElapsed()) / kPerSecond;
 }
 
+constexpr const char* kTwentyMegabytes = "/lots/5200";
+
+double PeakMegabytes()
+{
+    constexpr double kPerMegabyte = 1024;
+    return Kilobytes("VmHWM:") / kPerMegabyte;
+}
+
 double PeakMemory(const std::string& contender, int nPort)
 {
     const std::unique_ptr<Client> pClient = Make(contender);
@@ -57,10 +68,18 @@ double PeakMemory(const std::string& contender, int nPort)
     const auto read = [&](const QJsonObject& data) {
         return APIModule::CIPMSModule::ParseGetDetailParkingLots(data, lots);
     };
-    constexpr const char* kTwentyMegabytes = "/lots/5200";
     Require(pClient->Read(Get(false, nPort, kTwentyMegabytes), read) == 0, "a parse succeeds");
-    constexpr double kPerMegabyte = 1024;
-    return Kilobytes("VmHWM:") / kPerMegabyte;
+    return PeakMegabytes();
+}
+
+double TypedPeakMemory(int nPort)
+{
+    const std::unique_ptr<Client> pClient = MakeLibrary();
+    const Exchange exchange = Get(false, nPort, kTwentyMegabytes);
+    UseServerOf(exchange);
+    const auto lots = APIModule::Run(ReadLots(exchange));
+    Require(bool(lots), "a typed call succeeds");
+    return PeakMegabytes();
 }
 
 double Growth(const std::string& contender, int nPort)
@@ -82,6 +101,9 @@ double Measure(const std::string& what, const std::string& contender, int nPort)
 {
     if (what == kFirstCall) {
         return FirstCall(contender, nPort);
+    }
+    if (what == kTypedPeakMemory) {
+        return TypedPeakMemory(nPort);
     }
     return what == kGrowth ? Growth(contender, nPort) : PeakMemory(contender, nPort);
 }
