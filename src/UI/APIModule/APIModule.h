@@ -165,9 +165,13 @@ public:
     /// result of a time-out where the wait ended without a reply. From quit() until aboutToQuit() Qt runs no nested
     /// event loop, so calls return at once with the result of a time-out; before and after that they work.
     ///
+    /// @warning A refusal whose code is 0, missing, a fraction or a text is returned as 0, like a success, unless
+    /// @p bNotifyOnFailure is set: the record keeps what it held. Run() and Start() (Call.h) do not confuse the two.
+    ///
     /// @param packetFunc describes the request in the RequestParam that it is given; a result other than 0 ends the
     /// call
-    /// @param parseFunc reads the "data" object of the reply into the caller's record; may be empty
+    /// @param parseFunc reads the "data" object of the reply into the caller's record; empty (`{}`) where there is
+    ///        nothing to read. `nullptr` does not compile.
     /// @param strUIError the failure in the user's words, for notifications; may be empty
     /// @param pParent widget under the wait dialog, or null to wait without one
     /// @param strSuccessTip notified after success unless empty; not shown when data came and @p parseFunc is empty
@@ -179,7 +183,7 @@ public:
     ///  - -1: no Pack, a failing Pack (neither is notified), and every failure that was notified: -4 invalid URL or
     ///    request, -18 network error, -101 time-out, 7000 authentication required, 3101 a Parse that threw, and with
     ///    @p bNotifyOnFailure the HTTP status or envelope code
-    ///  - the HTTP status, or the envelope code (0 included), of a failure that is not to be notified
+    ///  - the HTTP status, or the envelope code (0 included, see the warning), of a failure that is not to be notified
     ///  - the result of the Parse when it is not 0 (notified as 3101)
     int ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::function<int(QJsonObject const&)> parseFunc,
                      const QString& strUIError, QWidget* pParent, const QString& strSuccessTip, bool bShowErrorCode,
