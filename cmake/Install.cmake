@@ -15,6 +15,9 @@ endforeach()
 install(TARGETS ${APIMODULE_LIBRARIES} EXPORT APIModuleTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
     FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
+if(TARGET APIModuleClient)
+    install(TARGETS APIModuleClient EXPORT APIModuleTargets)
+endif()
 install(EXPORT APIModuleTargets NAMESPACE APIModule:: DESTINATION "${package_folder}" COMPONENT development)
 
 if(APIMODULE_BUILD_TOOLS)
@@ -71,6 +74,11 @@ file(RELATIVE_PATH to_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" /prefix
 set(translations_variable "")
 if(APIMODULE_TRANSLATIONS_FOLDER)
     set(translations_variable "translations=\${prefix}/${APIMODULE_TRANSLATIONS_FOLDER}")
+endif()
+# With the client libraries that a host calls itself; UserLogical is headers alone.
+set(libraries -lAPIModule)
+if(APIMODULE_BUNDLED_PLATFORM)
+    string(APPEND libraries " -lErrorLexicon -lOrnGui -lornl")
 endif()
 configure_file("${PROJECT_SOURCE_DIR}/cmake/APIModule.pc.in" "${PROJECT_BINARY_DIR}/APIModule.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/APIModule.pc"

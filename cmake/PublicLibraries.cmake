@@ -7,3 +7,11 @@ set(APIMODULE_PUBLIC_LIBRARIES ${APIMODULE_LIBRARIES})
 if(APIMODULE_BUILD_TOOLS)
     list(APPEND APIMODULE_PUBLIC_LIBRARIES APIModuleTesting)
 endif()
+
+# The library with all of the bundled client libraries as one target, APIModule::Client.
+if(APIMODULE_BUNDLED_PLATFORM)
+    add_library(APIModuleClient INTERFACE)
+    add_library(APIModule::Client ALIAS APIModuleClient)
+    set_target_properties(APIModuleClient PROPERTIES EXPORT_NAME Client)
+    target_link_libraries(APIModuleClient INTERFACE ${APIMODULE_LIBRARIES})
+endif()
