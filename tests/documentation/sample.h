@@ -27,11 +27,14 @@ public:
     static int Read(int place, Record& record);
 };
 
-/// @pack{record, its parameter}
-int PacketRecord(void* pReqParamData, const Record& record, int nServerId);
-
-/// @parse{record}
-int ParseRecord(int data, Record& record);
+/// Calls that describe a request in @p pReqParamData for @p nServerId, and read @p data. They return 0 or -1.
+class Calls {
+public:
+    /// Sends @p record.
+    static int PacketRecord(void* pReqParamData, const Record& record, int nServerId);
+    /// @param record takes what was read
+    static int ParseRecord(int data, Record& record);
+};
 
 /// A name for a type.
 using Number = int;

@@ -17,11 +17,25 @@
 
 namespace APIModule {
 
-/// Calls of the basic resource management service: Packs and Parses as CAPIModule describes them.
+/// Calls of the basic resource management service.
+///
+/// A Pack describes its request in the RequestParam behind @p pReqParamData, for the server @p nServerId (-1: the user
+/// manager's current one). It returns 0, or -1 with the RequestParam untouched, and writes one log line either way.
+///
+/// A Parse reads the "data" object of the reply, @p data. It returns 0, or -1 at the first key that is missing: what it
+/// read before that key stays filled. It appends to lists without clearing them, each element once all of it was read,
+/// its inner lists included. It does not run for a reply without data.
+///
+/// "In the URL as given": the Pack escapes nothing there. The caller passes a text that may hold `%`, `&`, `#`, `?` or
+/// `/` through QUrl::toPercentEncoding(). The keyword `R&D` would end at its ampersand, and the server refuse the call
+/// with code 1003; `R%26D` finds it. QUrl itself encodes blanks and letters beyond ASCII.
+///
+/// Codes, units and text formats that the server defines pass through unchanged; the comments name the value in the
+/// contract's example. A list in "results" is complete and has no total.
 class APIMODULE_EXPORT CBRMSModule {
 public:
-    CBRMSModule& operator=(const CBRMSModule&);      ///< @assignsnothing
-    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< @assignsnothing
+    CBRMSModule& operator=(const CBRMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 
     /// @name System configuration
     /// Settings of the whole platform. Flags and numbers travel to the server as texts ("1"/"0", decimal), with the
@@ -29,171 +43,160 @@ public:
     /// @{
 
     /// Reads the time synchronisation settings: GET /brms/api/v1.1/config/time-sync
-    /// @pack
     static int PacketGetTimeSyncConfig(void* pReqParamData, int nServerId);
     /// Fills the fields of @p config in their order.
-    /// @parse{config}
     static int ParseGetTimeSyncConfig(const QJsonObject& data, TimeSyncConfig& config);
 
-    /// Writes the time synchronisation settings: PUT /brms/api/v1.1/config/time-sync
+    /// Writes the time synchronisation settings, all eight: PUT /brms/api/v1.1/config/time-sync
     ///
     /// Body: every field of @p config under its key, all of them texts.
-    /// @pack{config, what is to be written}
+    /// @param config the new settings
     static int PacketSetTimeSyncConfig(void* pReqParamData, const TimeSyncConfig& config, int nServerId);
 
     /// Synchronises the time of all devices now: POST /brms/api/v1.1/config/time-sync/immediate, no body
-    /// @pack
     static int PacketImmediatelySyncTime(void* pReqParamData, int nServerId);
 
     /// Reads the remote log settings: GET /brms/api/v1.1/config/remote-log
-    /// @pack
     static int PacketGetRemoteLogConfig(void* pReqParamData, int nServerId);
     /// Fills the fields of @p config in their order.
-    /// @parse{config}
     static int ParseGetRemoteLogConfig(const QJsonObject& data, RemoteLogConfigInfo& config);
 
-    /// Writes the remote log settings: PUT /brms/api/v1.1/config/remote-log
+    /// Writes the remote log settings, all four: PUT /brms/api/v1.1/config/remote-log
     ///
     /// Body: every field of @p config under its key, all of them texts.
-    /// @pack{config, what is to be written}
+    /// @param config the new settings
     static int PacketSetRemoteLogConfig(void* pReqParamData, const RemoteLogConfigInfo& config, int nServerId);
 
     /// Reads the login model of devices: GET /brms/api/v1.1/config/device-login-model
-    /// @pack
     static int PacketGetDeviceLoginModel(void* pReqParamData, int nServerId);
-    /// Reads "deviceLoginModel", a number defined by the server.
-    /// @parse{model}
+    /// Reads "deviceLoginModel", the server's code (1 in the contract's example), into @p model.
     static int ParseGetDeviceLoginModel(const QJsonObject& data, int& model);
 
     /// Writes the login model of devices: PUT /brms/api/v1.1/config/device-login-model
     ///
     /// Body: "deviceLoginModel", the decimal text of @p model.
-    /// @pack{model, the server's code}
+    /// @param model the server's code (2 in the contract's example)
     static int PacketSetDeviceLoginModel(void* pReqParamData, const int& model, int nServerId);
 
     /// Reads whether messages are pushed to the mobile app: GET /brms/api/v1.1/config/app/push-message
-    /// @pack
     static int PacketGetPushAppMsgConfig(void* pReqParamData, int nServerId);
-    /// Reads "enablePushMessage".
-    /// @parse{enable}
+    /// Reads "enablePushMessage" into @p enable.
     static int ParseGetPushAppMsgConfig(const QJsonObject& data, bool& enable);
 
     /// Switches the push of messages to the mobile app: PUT /brms/api/v1.1/config/app/push-message
     ///
     /// Body: "enablePushMessage", the text "1" or "0".
-    /// @pack{enable, whether messages are pushed}
+    /// @param enable whether messages are pushed
     static int PacketSetPushAppMsgConfig(void* pReqParamData, const bool& enable, int nServerId);
 
     /// Reads which outside databases are supported: GET /brms/api/v1.1/config/outside-database/support/list
-    /// @pack
     static int PacketGetSupportDataBaseType(void* pReqParamData, int nServerId);
-    /// Appends the codes of "databaseTypes", a list of decimal texts, to @p types; anything else in it counts as 0.
-    /// @parse{types}
+    /// Appends the server's codes of "databaseTypes", a list of decimal texts ("1", "3" and "4" in the contract's
+    /// example), to @p types; anything else in the list counts as 0, a number included.
     static int ParseGetSupportDataBaseType(const QJsonObject& data, std::vector<int>& types);
 
-    /// Reads one of the client's settings: GET /brms/api/v1.1/config/local/setting?settingType=@p settingType
-    /// @pack{settingType, the server's code of the setting}
+    /// Reads one of the client's settings: GET /brms/api/v1.1/config/local/setting?settingType={settingType}
+    /// @param settingType the server's code of the setting (1 in the contract's example)
     static int PacketGetLocalSetting(void* pReqParamData, const int& settingType, int nServerId);
     /// Fills the fields of @p setting in their order.
-    /// @parse{setting}
     static int ParseGetLocalSetting(const QJsonObject& data, LocalSettingQueryResult& setting);
 
     /// Writes the client's setting: PUT /brms/api/v1.1/config/local/setting
     ///
-    /// Body: "apply", the text "1" or "0", and "settingContent". The type of the setting is not sent.
-    /// @pack{apply, whether the setting holds; not changed, content, the new value}
+    /// Body: "apply", the text "1" or "0", and "settingContent". The type of the setting is not sent: by the contract
+    /// the server changes the setting that was read last with the same session token, that of type 1 before any read,
+    /// and adds one to its version.
+    /// @param apply whether the setting holds; not changed
+    /// @param content the new value, opaque to the server
     static int PacketUpdateLocalSetting(void* pReqParamData, bool& apply, const std::string& content, int nServerId);
 
     /// Reads the AI privacy switch: GET /brms/api/v1.1/config/ai/privacy
-    /// @pack
     static int PacketGetAIPrivacyConfig(void* pReqParamData, int nServerId);
-    /// Reads "enable" as a number.
-    /// @parse{enable}
+    /// Reads "enable", the number 1 for on and 0 for off, into @p enable.
     static int ParseGetAIPrivacyConfig(const QJsonObject& data, int& enable);
 
     /// Sets the AI privacy switch: PUT /brms/api/v1.1/config/ai/privacy
     ///
     /// Body: "enable", the number 1 or 0, where every other switch sends a text.
-    /// @pack{enable, whether privacy is on}
+    /// @param enable whether privacy is on
     static int PacketUpdateAIPrivacyConfig(void* pReqParamData, const bool& enable, int nServerId);
     /// @}
 
     /// @name Device and channel configuration
-    /// Settings of one device or channel, which is named in the URL as it stands, nothing escaped. Encoding and image
-    /// settings travel as numbers, network and multicast settings as texts ("1"/"0", decimal) that end at their first
-    /// zero byte.
+    /// Settings of one device or channel. Encoding and image settings travel as numbers, network and multicast settings
+    /// as texts ("1"/"0", decimal) that end at their first zero byte.
     /// @{
 
     /// Reads the network settings of a device: GET /brms/api/v1.1/device/{deviceCode}/config/network
-    /// @pack{deviceCode, the device}
+    /// @param deviceCode the device, in the URL as given
     static int PacketGetNetworkConfig(void* pReqParamData, const std::string& deviceCode, int nServerId);
-    /// Fills "ip", "mask", "gateway" and "dns" in this order; the device code stays as it is.
-    /// @parse{config}
+    /// Fills "ip", "mask", "gateway" and "dns" of @p config in this order; the device code stays as it is.
     static int ParseGetNetworkConfig(const QJsonObject& data, NetworkConfig& config);
 
-    /// Writes the network settings of a device: PUT /brms/api/v1.1/device/{config.deviceCode}/config/network
+    /// Writes the network settings of a device, all four: PUT /brms/api/v1.1/device/{config.deviceCode}/config/network
     ///
     /// Body: "ip", "mask", "gateway" and "dns", texts.
-    /// @pack{config, the device and its settings; not changed}
+    /// @param config the device, in the URL as given, and its new settings; not changed
     static int PacketUpdateNetworkConfig(void* pReqParamData, NetworkConfig& config, int nServerId);
 
     /// Reads the encoding of a channel's streams: GET /brms/api/v1.1/device/channel/{channelId}/config/encode
-    /// @pack{channelId, the channel}
+    /// @param channelId the channel, in the URL as given
     static int PacketGetEncodeConfig(void* pReqParamData, const std::string& channelId, int nServerId);
-    /// Appends the streams of "encodeConfigurations" up to the first that is not whole. Their channel stays empty.
-    /// @parse{configs}
+    /// Appends the streams of "encodeConfigurations" to @p configs. Their channel stays empty.
     static int ParseGetEncodeConfig(const QJsonObject& data, std::vector<EncodeConfig>& configs);
 
-    /// Writes the encoding of a channel's streams: PUT /brms/api/v1.1/device/channel/{channelId}/config/encode
+    /// Replaces the encoding of a channel's streams: PUT /brms/api/v1.1/device/channel/{channelId}/config/encode
     ///
-    /// Body: "encodeConfigurations", a list with the nine numbers of each stream; empty for no @p configs.
-    /// @pack{channelId, the channel, configs, the streams; not changed}
+    /// Body: "encodeConfigurations", a list with the nine numbers of each stream; empty for no @p configs. The next
+    /// read returns the streams that were sent, and no others.
+    /// @param channelId the channel, in the URL as given
+    /// @param configs the streams; not changed
     static int PacketUpdateEncodeConfig(void* pReqParamData, const std::string& channelId,
                                         std::vector<EncodeConfig>& configs, int nServerId);
 
     /// Reads what the encoder of a stream offers:
     /// GET /brms/api/v1.1/device/channel/{channelId}/capability/encode?streamType={streamType}
-    /// @pack{channelId, the channel, streamType, the server's code of the stream}
+    /// @param channelId the channel, in the URL as given. A `%` before a single digit, as in `%2F`, would be replaced
+    ///        by the stream type; codes of two digits such as `%26` are safe.
+    /// @param streamType the server's code of the stream (1 in the contract's example)
     static int PacketGetEncodeCapability(void* pReqParamData, const std::string& channelId, int streamType,
                                          int nServerId);
-    /// Appends the codes of "supportCompressions", a list of decimal texts in which anything else counts as 0, then
-    /// the capabilities of "encodeCapabilities" up to the first that is not whole, its formats included.
-    /// @parse{capability}
+    /// Appends the codes of "supportCompressions", a list of decimal texts in which anything else counts as 0, then the
+    /// capabilities of "encodeCapabilities" to @p capability.
     static int ParseGetEncodeCapability(const QJsonObject& data, EncodeCapability& capability);
 
     /// Reads the image adjustment of a channel: GET /brms/api/v1.1/device/channel/{channelId}/config/video
-    /// @pack{channelId, the channel}
+    /// @param channelId the channel, in the URL as given
     static int PacketGetImageConfig(void* pReqParamData, const std::string& channelId, int nServerId);
-    /// Fills the four adjustments in their order; the channel stays as it is.
-    /// @parse{config}
+    /// Fills the four adjustments of @p config in their order; the channel stays as it is.
     static int ParseGetImageConfig(const QJsonObject& data, ImageConfig& config);
 
-    /// Writes the image adjustment of a channel: PUT /brms/api/v1.1/device/channel/{config.channelId}/config/video
+    /// Writes the image adjustment of a channel, all four: PUT
+    /// /brms/api/v1.1/device/channel/{config.channelId}/config/video
     ///
     /// Body: "brightness", "saturation", "contrast" and "sharpness", numbers.
-    /// @pack{config, the channel and its settings; not changed}
+    /// @param config the channel, in the URL as given, and its new settings; not changed
     static int PacketUpdateImageConfig(void* pReqParamData, ImageConfig& config, int nServerId);
 
     /// Reads the multicast settings of a channel: GET /brms/api/v1.1/device/channel/{channelId}/config/multicast
-    /// @pack{channelId, the channel}
+    /// @param channelId the channel, in the URL as given
     static int PacketGetMultiCastConfig(void* pReqParamData, const std::string& channelId, int nServerId);
-    /// Fills "status", then appends the streams of "streams" up to the first that is not whole; the channel stays as
-    /// it is.
-    /// @parse{info}
+    /// Fills "status" of @p info, then appends the streams of "streams"; the channel stays as it is.
     static int ParseGetMultiCastConfig(const QJsonObject& data, MultiCastConfigInfo& info);
 
-    /// Writes the multicast settings of a channel: PUT /brms/api/v1.1/device/channel/{info.channelId}/config/multicast
+    /// Replaces the multicast settings of a channel: PUT
+    /// /brms/api/v1.1/device/channel/{info.channelId}/config/multicast
     ///
     /// Body: "status", the text "1" or "0", and "streams", a list with "status", "multicastIp", "multicastPort" and
     /// "streamType" of each stream, all of them texts.
-    /// @pack{info, the channel and its settings}
+    /// @param info the channel, in the URL as given, and its new settings
     static int PacketSetMultiCastConfig(void* pReqParamData, const MultiCastConfigInfo& info, int nServerId);
 
     /// Switches the multicast of one stream:
     /// PUT /brms/api/v1.1/device/channel/{status.channelId}/config/multicast/stream/status
     ///
     /// Body: "status", the text "1" or "0", and "streamType", a decimal text.
-    /// @pack{status, the stream of a channel and its switch}
+    /// @param status the channel, in the URL as given, its stream and the switch
     static int PacketSetMultiCastStreamStatus(void* pReqParamData, const MultiCastStreamStatus& status, int nServerId);
     /// @}
 
@@ -203,12 +206,12 @@ public:
 
     /// Starts the discovery of several devices: POST /brms/api/v1.1/device/discover/async/batch
     ///
-    /// Body: "deviceCodes", a list of texts, and "discoverMode", a number that the server defines.
-    /// @pack{deviceCodes, the devices, discoverMode, the server's code}
+    /// Body: "deviceCodes", a list of texts, and "discoverMode", a number.
+    /// @param deviceCodes the devices
+    /// @param discoverMode the server's code (1 in the contract's example)
     static int PacketBatchDiscoverDevices(void* pReqParamData, const std::vector<std::string>& deviceCodes,
                                           int discoverMode, int nServerId);
-    /// Reads "session", which names the discovery that the server started.
-    /// @parse{session}
+    /// Reads "session", which names the discovery that the server started, into @p session.
     static int ParseBatchDiscoverDevices(const QJsonObject& data, std::string& session);
 
     /// Switches alarm outputs: POST /brms/api/v1.1/device/channel/alarm-output/control; the reply is read by
@@ -216,7 +219,8 @@ public:
     ///
     /// Body: "channelIds", a list of texts, "action", always the number 0, and "command", the number 1 when @p on is
     /// true and 0 when it is false.
-    /// @pack{channelIds, the channels, on, whether they are switched on}
+    /// @param channelIds the channels
+    /// @param on whether they are switched on
     static int PacketAlarmOutputControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
                                         int nServerId);
 
@@ -225,7 +229,8 @@ public:
     ///
     /// Body: "channelIds", a list of texts, and "command", the number 1 when @p on is true and 0 when it is false; no
     /// "action" here.
-    /// @pack{channelIds, the channels, on, whether they are switched on}
+    /// @param channelIds the channels
+    /// @param on whether they are switched on
     static int PacketAudioLightControl(void* pReqParamData, const std::vector<std::string>& channelIds, bool on,
                                        int nServerId);
 
@@ -233,12 +238,11 @@ public:
     /// read by ParseChannelControl().
     ///
     /// Body: "channels", a list with the three texts of each speaker, and "command", a number.
-    /// @pack{control, the speakers and what they are to do}
+    /// @param control the speakers and what they are to do
     static int PacketIPSpeakerControl(void* pReqParamData, IPSpeakerControl control, int nServerId);
 
-    /// Appends the channels of "failedChannels", on which a command failed, up to the first that is not whole; none
-    /// when all channels succeeded.
-    /// @parse{failedChannels}
+    /// Appends the channels of "failedChannels", on which a command failed, to @p failedChannels; none when all
+    /// channels succeeded. The call itself succeeds either way.
     static int ParseChannelControl(const QJsonObject& data, std::vector<ChannelControlRsp>& failedChannels);
     /// @}
 
@@ -247,285 +251,259 @@ public:
     /// @{
 
     /// Asks for a switch-over to the hot-spare server: GET /brms/api/v1.1/system/hot-spare/switch/warning
-    /// @pack
     static int PacketCheckHotSpareWarning(void* pReqParamData, int nServerId);
     /// Fills the fields of @p warning in their order.
-    /// @parse{warning}
     static int ParseCheckHotSpareWarning(const QJsonObject& data, CheckHostSpareWarning& warning);
 
     /// Asks whether only the basic services were started:
     /// GET /brms/api/v1.1/system/only-startup-basic-service/warning
-    /// @pack
     static int PacketGetBasicServiceWarm(void* pReqParamData, int nServerId);
-    /// Reads "warningHappened".
-    /// @parse{warningHappened}
+    /// Reads "warningHappened" into @p warningHappened.
     static int ParseGetBasicServiceWarm(const QJsonObject& data, bool& warningHappened);
 
     /// Lists the servers with disks that raise warnings: GET /brms/api/v1.1/system/warn/disk/list
-    /// @pack
     static int PacketGetDiskWarm(void* pReqParamData, int nServerId);
-    /// Appends the servers of "results" up to the first that is not whole, its disks included.
-    /// @parse{servers}
+    /// Appends the servers of "results" with their disks to @p servers; none when no disk raises a warning.
     static int ParseGetDiskWarm(const QJsonObject& data, std::vector<DiskWarmParam>& servers);
 
     /// Lists the servers that ran out of memory: GET /brms/api/v1.1/system/out/memory/server/list
-    /// @pack
     static int PacketGetMemoryOutOfServerList(void* pReqParamData, int nServerId);
-    /// Appends the "serverIp" of each element of "results" up to the first that has none.
-    /// @parse{serverIps}
+    /// Appends the "serverIp" of each element of "results" to @p serverIps.
     static int ParseGetMemoryOutOfServerList(const QJsonObject& data, std::vector<std::string>& serverIps);
 
     /// Lists the networks that the system knows: GET /brms/api/v1.1/system/network/list
-    /// @pack
     static int PacketGetNetWorks(void* pReqParamData, int nServerId);
-    /// Appends the networks of "results" up to the first that is not whole.
-    /// @parse{netWorks}
+    /// Appends the networks of "results" to @p netWorks.
     static int ParseGetNetWorks(const QJsonObject& data, NetWorksParam& netWorks);
     /// @}
 
     /// @name User groups
-    /// Groups of the platform's users. Identifiers and keywords go into the URL as they stand, nothing escaped.
+    /// Groups of the platform's users.
     /// @{
 
-    /// Lists the user groups: GET /brms/api/v1.1/user/group/list?keyword={keyword}
-    /// @pack{keyword, text to look for}
+    /// Lists the user groups whose name holds a keyword: GET /brms/api/v1.1/user/group/list?keyword={keyword}
+    /// @param keyword part of the name, empty for all groups; in the URL as given, so `R&D` is passed as `R%26D`
     static int PacketGetUserGroupList(void* pReqParamData, const std::string& keyword, int nServerId);
-    /// Appends the groups of "results" up to the first that is not whole.
-    /// @parse{groups}
+    /// Appends the groups of "results" to @p groups.
     static int ParseGetUserGroupList(const QJsonObject& data, std::vector<UserConfigUserGroups>& groups);
 
     /// Reads one user group: GET /brms/api/v1.1/user/group/{groupId}
-    /// @pack{groupId, the group}
+    /// @param groupId the group, in the URL as given
     static int PacketGetUserGroup(void* pReqParamData, const std::string& groupId, int nServerId);
     /// Fills the fields of @p group in their order.
-    /// @parse{group}
     static int ParseGetUserGroup(const QJsonObject& data, UserConfigUserGroups& group);
 
     /// Creates a user group: POST /brms/api/v1.1/user/group
     ///
     /// Body: "groupName" and "memo", texts, sent when empty, too.
-    /// @pack{group, name and memo of the group}
+    /// @param group name and memo of the group
     static int PacketAddUserGroup(void* pReqParamData, const AddUserGroupsParam& group, int nServerId);
-    /// Reads "id", the identifier that the server gave to the new group.
-    /// @parse{groupId}
+    /// Reads "id", the identifier that the server gave to the new group, into @p groupId.
     static int ParseAddUserGroup(const QJsonObject& data, std::string& groupId);
 
-    /// Renames or describes a user group: PUT /brms/api/v1.1/user/group/{groupId}
+    /// Writes name and memo of a user group, both: PUT /brms/api/v1.1/user/group/{groupId}
     ///
     /// Body: "groupName" and "memo", texts, sent when empty, too.
-    /// @pack{groupId, the group, group, its new name and memo}
+    /// @param groupId the group, in the URL as given
+    /// @param group its new name and memo
     static int PacketUpdateUserGroup(void* pReqParamData, const std::string& groupId, const AddUserGroupsParam& group,
                                      int nServerId);
 
-    /// Moves users into one group: POST /brms/api/v1.1/user/group/move/batch
+    /// Moves users into one group, out of the groups that they were in: POST /brms/api/v1.1/user/group/move/batch
     ///
     /// Body: "userIds", a list of texts, empty for no users, and "groupId".
-    /// @pack{move, the users and the group}
+    /// @param move the users and the group
     static int PacketMoveUserGroup(void* pReqParamData, const MoveUserGroupsParam& move, int nServerId);
 
-    /// Empties a user group: POST /brms/api/v1.1/user/group/{groupId}/clear, no body
-    /// @pack{groupId, the group}
+    /// Takes all users out of a group; the group stays: POST /brms/api/v1.1/user/group/{groupId}/clear, no body
+    /// @param groupId the group, in the URL as given
     static int PacketClearUserGroup(void* pReqParamData, const std::string& groupId, int nServerId);
 
     /// Deletes user groups: DELETE /brms/api/v1.1/user/group?ids={groupIds, with a comma between two}, no body
     ///
     /// Its log texts are those of PacketClearUserGroup().
-    /// @pack{groupIds, the groups}
+    /// @param groupIds the groups, none when empty; in the URL as given
     static int PacketDeleteUserGroup(void* pReqParamData, const std::vector<std::string>& groupIds, int nServerId);
     /// @}
 
     /// @name Quick commands
     /// Named lists of HTTP requests that the server stores. A command is sent with texts alone ("1"/"0", decimal) and
-    /// read by the types of its fields. Identifiers and keywords go into the URL as they stand, nothing escaped.
+    /// read by the types of its fields.
     /// @{
 
     /// Creates a quick command: POST /brms/api/v1.1/config/quick/command
     ///
     /// Body: every field of @p command but "id", each a text; "httpUrls" is a list with the four texts of each request.
-    /// The reply does not tell the identifier of the new command: PacketGetQuickCommands() does.
-    /// @pack{command, the command; its "id" is not sent}
+    /// The reply does not contain the identifier of the new command; PacketGetQuickCommands() finds it.
+    /// @param command the command; its "id" is not sent
     static int PacketAddQuickCommand(void* pReqParamData, const QuickCommand& command, int nServerId);
 
-    /// Changes a quick command: PUT /brms/api/v1.1/config/quick/command/{command.id}
+    /// Replaces a quick command, its requests included: PUT /brms/api/v1.1/config/quick/command/{command.id}
     ///
     /// Body: as that of PacketAddQuickCommand().
-    /// @pack{command, the command that has this "id" and its new values}
+    /// @param command the new values of the command that has this "id", which stands in the URL as given
     static int PacketUpdateQuickCommand(void* pReqParamData, const QuickCommand& command, int nServerId);
 
     /// Deletes quick commands: DELETE /brms/api/v1.1/config/quick/command?ids={ids, with a comma between two}, no body
-    /// @pack{ids, the commands}
+    ///
+    /// They vanish from the lists of alarm plans, too.
+    /// @param ids the commands, none when empty; in the URL as given
     static int PacketDelQuickCommand(void* pReqParamData, std::vector<std::string> ids, int nServerId);
 
     /// Reads one quick command: GET /brms/api/v1.1/config/quick/command/{id}
-    /// @pack{id, the command}
+    /// @param id the command, in the URL as given
     static int PacketGetQuickCommand(void* pReqParamData, const std::string& id, int nServerId);
-    /// Fills "id", "quickCommandName", "shortcutKeys", "remark", "enableShortcutKeys" and "executeMode" in this order,
-    /// then appends the requests of "httpUrls" up to the first that is not whole.
-    /// @parse{command}
+    /// Fills "id", "quickCommandName", "shortcutKeys", "remark", "enableShortcutKeys" and "executeMode" of @p command
+    /// in this order, then appends the requests of "httpUrls".
     static int ParseGetQuickCommand(const QJsonObject& data, QuickCommand& command);
 
-    /// Lists the quick commands: GET /brms/api/v1.1/config/quick/command/list?keyword={keyword}
-    /// @pack{keyword, text to look for}
+    /// Lists the quick commands whose name holds a keyword: GET
+    /// /brms/api/v1.1/config/quick/command/list?keyword={keyword}
+    /// @param keyword part of the name, empty for all commands; in the URL as given, so `R&D` is passed as `R%26D`
     static int PacketGetQuickCommands(void* pReqParamData, const std::string& keyword, int nServerId);
-    /// Appends the commands of "results" up to the first that is not whole, each with its name, identifier, shortcut
-    /// keys, their switch and remark. The mode stays 0 and the requests empty.
-    /// @parse{commands}
+    /// Appends the commands of "results" to @p commands, each with its name, identifier, shortcut keys, their switch
+    /// and remark. The mode stays 0 and the requests empty.
     static int ParseGetQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands);
 
     /// Lists the quick commands of an alarm plan: GET /brms/api/v1.1/alarm/plan/{planId}/quick/command/list
-    /// @pack{planId, the alarm plan}
+    /// @param planId the alarm plan, in the URL as given
     static int PacketGetAlarmPlanQuickCommands(void* pReqParamData, const std::string& planId, int nServerId);
-    /// Appends the commands of "results" up to the first that is not whole, its requests included. A command has its
-    /// name and requests, a request its method, URL and place; all other fields stay empty.
-    /// @parse{commands}
+    /// Appends the commands of "results" to @p commands. A command has its name and requests, a request its method, URL
+    /// and place; all other fields stay empty.
     static int ParseGetAlarmPlanQuickCommands(const QJsonObject& data, std::vector<QuickCommand>& commands);
     /// @}
 
     /// @name Alarm and event information
-    /// What the client shows about alarms and events. Codes and texts go into the URL as they stand, nothing escaped.
+    /// What the client shows about alarms and events.
     /// @{
 
-    /// Reads one page of the alarm plans:
+    /// Reads one page of the alarm plans whose name holds a keyword:
     /// GET /brms/api/v1.1/alarm/plan/summary/page?page={page}&pageSize={pageSize}&keyword={keyword}
-    /// @pack{query, the page and the text to look for}
+    /// @param query the page, counted from 1 (0 is the first page, too), its size, and a part of the name, empty for
+    ///        all plans; the keyword stands in the URL as given, so `R&D` is passed as `R%26D`
     static int PacketGetPageSummaryAlarmPlans(void* pReqParamData, const GetPageSummaryAlarmPlansParam& query,
                                               int nServerId);
-    /// Appends the plans of "pageData" up to the first that is not whole; the counts of the page are not read.
-    /// @parse{plans}
+    /// Appends the plans of "pageData" to @p plans.
+    ///
+    /// It does not read "totalCount", the number of plans on all pages. With a typed call Outcome::Data() has it:
+    /// `outcome.Data().value("totalCount").toInt()`.
     static int ParseGetPageSummaryAlarmPlans(const QJsonObject& data, std::vector<SummaryAlarmPlan>& plans);
 
     /// Reads what an alarm sets off:
     /// GET /brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?sourceCode={sourceCode}&alarmType={alarmType}
-    /// @pack{sourceCode, where the alarm comes from, alarmType, the server's code of the kind of alarm}
+    /// @param sourceCode where the alarm comes from ("1000001$1$0$0" in the contract's example), in the URL as given. A
+    ///        `%` before a single digit, as in `%2F`, would be replaced by the type; codes of two digits such as `%26`
+    ///        are safe.
+    /// @param alarmType the server's code of the kind of alarm (5 in the contract's example)
     static int PacketGetAlarmLinkControlList(void* pReqParamData, const std::string& sourceCode, int alarmType,
                                              int nServerId);
     /// Appends the channels of "linkAudioLightChannels", then those of "linkAlarmOutputChannels" and of
-    /// "linkAudioChannels", up to the first that is not whole. All three lists must be there.
-    /// @parse{control}
+    /// "linkAudioChannels" to the lists of @p control. All three keys must be there; each list may be empty.
     static int ParseGetAlarmLinkControlList(const QJsonObject& data, AlarmLinkControl& control);
 
     /// Reads the map layer on which an alarm resource lies, from the parking management service:
     /// GET /ipms/api/v1.1/parking-lot/layer/detail?resourceType={resourceType}&resourceCode={resourceCode}
-    /// @pack{resourceCode, the resource, resourceType, the server's code of the kind of resource}
+    /// @param resourceCode the resource ("1000001$1$0$0" in the contract's example), in the URL as given
+    /// @param resourceType the server's code of the kind of resource (3 in the contract's example)
     static int PacketGetAlarmLayerDetail(void* pReqParamData, const std::string& resourceCode, int resourceType,
                                          int nServerId);
-    /// Fills "layerId", "layerName", "layerPicture", "height", "width", "locationX", "locationY" and "angle" in this
-    /// order.
-    /// @parse{layer}
+    /// Fills "layerId", "layerName", "layerPicture", "height", "width", "locationX", "locationY" and "angle" of @p
+    /// layer in this order.
     static int ParseGetAlarmLayerDetail(const QJsonObject& data, AlarmLayerInfo& layer);
 
     /// Reads the recorded files of an alarm: GET /brms/api/v1.1/alarm/record/{alarmRecordId}/file/detail
-    /// @pack{alarmRecordId, the record of the alarm}
+    /// @param alarmRecordId the record of the alarm, in the URL as given
     static int PacketGetAlarmHostFileInfo(void* pReqParamData, const std::string& alarmRecordId, int nServerId);
-    /// Fills "alarmCode", then appends the files of "files" up to the first that is not whole.
-    /// @parse{info}
+    /// Fills "alarmCode" of @p info, then appends the files of "files".
     static int ParseGetAlarmHostFileInfo(const QJsonObject& data, AlarmHostFileInfo& info);
 
     /// Asks for the state of an audio file task: GET {url}
-    ///
-    /// @param pReqParamData the RequestParam
-    /// @param url path and query of the request, up to its first zero byte
+    /// @param url path and query of the request as given, up to the first zero byte; the contract's example is
+    ///        "/brms/api/v1.1/audio/file/task/info"
     /// @param body body of the request, up to its first zero byte; a GET travels without it
-    /// @param nServerId the server, -1 for the current one
-    /// @return 0 or -1
     static int PacketGetAudioFileInfo(void* pReqParamData, const std::string& url, const std::string& body,
                                       int nServerId);
-    /// Fills "fileUrl", then "taskProgress".
-    /// @parse{info}
+    /// Fills "fileUrl", then "taskProgress" of @p info.
     static int ParseGetAudioFileInfo(const QJsonObject& data, AudioFileInfo& info);
 
     /// Lists the event types of plug-in logs: GET /brms/api/v1.1/log/plugin-log/event-type/list
-    /// @pack
     static int PacketGetPluginLogType(void* pReqParamData, int nServerId);
-    /// Appends the groups of "results" up to the first that is not whole, its event types included.
-    /// @parse{groups}
+    /// Appends the groups of "results" with their event types to @p groups.
     static int ParseGetPluginLogType(const QJsonObject& data, std::vector<PluginLogTypeGroupInfo>& groups);
 
-    /// Lists the general events: GET /brms/api/v1.1/alarm/general/event/list
+    /// Lists all general events: GET /brms/api/v1.1/alarm/general/event/list
     ///
     /// Body: "transportType", "matchType" and "keyword", texts. A GET travels without its body, so the server does not
     /// see this filter.
-    /// @pack{query, the filter; not changed}
+    /// @param query the filter; not changed
     static int PacketGetGeneralEvents(void* pReqParamData, GetGeneralEventsParam& query, int nServerId);
-    /// Appends the events of "results" up to the first that is not whole.
-    /// @parse{events}
+    /// Appends the events of "results" to @p events.
     static int ParseGetGeneralEvents(const QJsonObject& data, std::vector<GeneralEventRsp>& events);
     /// @}
 
     /// @name Account and web access
-    /// What the account may use, and how a device's own web page is opened. Identifiers and codes go into the URL as
-    /// they stand, nothing escaped.
+    /// What the account may use, and how a device's own web page is opened.
     /// @{
 
     /// Asks where the web page of a channel is reached: GET /brms/api/v1.1/device/channel/{channelId}/web/tunnel
-    /// @pack{channelId, the channel}
+    /// @param channelId the channel, in the URL as given
     static int PacketGetChannelWebTunnel(void* pReqParamData, const std::string& channelId, int nServerId);
-    /// Fills "https", "port" and "ip" in this order; user name and token stay as they are.
-    /// @parse{tunnel}
+    /// Fills "https", "port" and "ip" of @p tunnel in this order; user name and token stay as they are.
     static int ParseGetChannelWebTunnel(const QJsonObject& data, GetChannelWebTunnelRsp& tunnel);
 
     /// Asks how to log in to the web page of a channel:
     /// GET /brms/api/v1.1/device/channel/{channelId}/web/authorization
-    /// @pack{channelId, the channel}
+    /// @param channelId the channel, in the URL as given
     static int PacketGetChannelWebAuthorization(void* pReqParamData, const std::string& channelId, int nServerId);
-    /// Fills "username", then "token"; scheme, port and address stay as they are.
-    /// @parse{tunnel}
+    /// Fills "username", then "token" of @p tunnel; scheme, port and address stay as they are.
     static int ParseGetChannelWebAuthorization(const QJsonObject& data, GetChannelWebTunnelRsp& tunnel);
 
     /// Asks whether a channel's web page may be opened: GET /brms/api/v1.1/device/channel/{channelId}/web/enablement
-    /// @pack{channelId, the channel}
+    /// @param channelId the channel, in the URL as given
     static int PacketGetChannelWebEnablement(void* pReqParamData, const std::string& channelId, int nServerId);
-    /// Reads "enableWeb".
-    /// @parse{enabled}
+    /// Reads "enableWeb" into @p enabled.
     static int ParseGetChannelWebEnablement(const QJsonObject& data, bool& enabled);
 
     /// Asks whether a device's web page may be opened: GET /brms/api/v1.1/device/{deviceCode}/web/enablement
-    /// @pack{deviceCode, the device}
+    /// @param deviceCode the device, in the URL as given
     static int PacketGetWebEnablement(void* pReqParamData, const std::string& deviceCode, int nServerId);
-    /// Reads "enableWeb".
-    /// @parse{enabled}
+    /// Reads "enableWeb" into @p enabled.
     static int ParseGetWebEnablement(const QJsonObject& data, bool& enabled);
 
     /// Asks whether a menu is available: GET /brms/api/v1.1/menu/{menuCode}/available
-    /// @pack{menuCode, the menu}
+    /// @param menuCode the server's code of the menu ("parking" in the contract's example), in the URL as given
     static int PacketGetMenuAvailable(void* pReqParamData, const std::string& menuCode, int nServerId);
-    /// Reads "available".
-    /// @parse{available}
+    /// Reads "available" into @p available.
     static int ParseGetMenuAvailable(const QJsonObject& data, bool& available);
 
     /// Has a token derived from the account's session: POST /brms/api/v1.1/account/token/derive, no body
-    /// @pack
     static int PacketGetDeriveToken(void* pReqParamData, int nServerId);
-    /// Reads "token".
-    /// @parse{token}
+    /// Reads "token" into @p token.
     static int ParseGetDeriveToken(const QJsonObject& data, std::string& token);
 
     /// Reads what the account may use: GET /brms/api/v1.1/account/permission/resource/collection
-    /// @pack
     static int PacketGetPermissionResourceCollection(void* pReqParamData, int nServerId);
-    /// Appends the codes of "menuFunctionCodes" and of "localConfigItemCodes"; anything in them that is no text counts
-    /// as an empty one. Where either list is missing, @p collection is untouched.
-    /// @parse{collection}
+    /// Appends the codes of "menuFunctionCodes" and of "localConfigItemCodes" to the lists of @p collection; anything
+    /// in them that is no text counts as an empty one. Where either list is missing, @p collection is untouched.
     static int ParseGetPermissionResourceCollection(const QJsonObject& data,
                                                     PermissionResourceCollectionResp& collection);
 
     /// Asks whether the account may use a function on a channel: POST /brms/api/v1.1/account/function/channel/check
     ///
     /// Body: "channelId" and "functionCode", texts.
-    /// @pack{check, channel and function}
+    /// @param check channel and function; not changed
     static int PacketFunctionChannelCheck(void* pReqParamData, FunctionChannelCheck& check, int nServerId);
-    /// Reads the text "authorized" and keeps the whole number that it begins with, 0 where there is none.
-    /// @parse{result}
+    /// Reads the text "authorized" and stores the whole number that it begins with, 0 where there is none, in @p
+    /// result.
     static int ParseFunctionChannelCheck(const QJsonObject& data, FunctionChannelCheckResult& result);
 
-    /// Counts the devices of each category:
-    /// GET /brms/api/v1.1/device/statistics/count-by-device-category/list with the fields of @p query in their order as
-    /// its "keyword", "orgCode", "domain", "permitted", "sourceType" and "containChild". An empty field leaves its
-    /// place empty.
-    /// @pack{query, the filter}
+    /// Counts the devices of each category: GET /brms/api/v1.1/device/statistics/count-by-device-category/list with the
+    /// fields of @p query in their order as its "keyword", "orgCode", "domain", "permitted", "sourceType" and
+    /// "containChild". An empty field leaves its place empty.
+    /// @param query the filter, in the URL as given. In every field but the last, a `%` before a single digit, as in
+    ///        `%2F`, would be replaced by a later field; codes of two digits such as `%26` are safe.
     static int PacketGetDeviceCategoryCount(void* pReqParamData, const DeviceCategoryParamReq& query, int nServerId);
-    /// Appends the counts of "results" up to the first that is not whole.
-    /// @parse{categories}
+    /// Appends the counts of "results" to @p categories.
     static int ParseGetGetDeviceCategoryCount(const QJsonObject& data,
                                               std::vector<DeviceCategoryQueryResult>& categories);
     /// @}

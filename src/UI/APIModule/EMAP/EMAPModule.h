@@ -7,8 +7,8 @@ namespace APIModule {
 /// The EMAP family; it has no calls.
 class APIMODULE_EXPORT CEMAPModule {
 public:
-    CEMAPModule& operator=(const CEMAPModule&);      ///< @assignsnothing
-    CEMAPModule& operator=(CEMAPModule&&) noexcept;  ///< @assignsnothing
+    CEMAPModule& operator=(const CEMAPModule&);      ///< Does nothing, the class has no data. @return *this
+    CEMAPModule& operator=(CEMAPModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule

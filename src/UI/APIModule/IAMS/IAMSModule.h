@@ -7,11 +7,14 @@
 
 namespace APIModule {
 
-/// Calls of the intelligent analysis service: Packs and Parses as CAPIModule describes them.
+/// Calls of the intelligent analysis service.
+///
+/// A Pack describes its request in the RequestParam behind @p pReqParamData, for the server @p nServerId (-1: the user
+/// manager's current one). It returns 0, or -1 with the RequestParam untouched, and writes one log line either way.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule& operator=(const CIAMSModule&);      ///< @assignsnothing
-    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< @assignsnothing
+    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 
     /// @name Analysis tasks
     /// @{
@@ -20,8 +23,8 @@ public:
     /// POST /iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch
     ///
     /// Body: "ids", a list of texts in the given order, empty for no @p taskIds. There is no Parse: a caller that wants
-    /// the reply reads it with a function of its own.
-    /// @pack{taskIds, the tasks}
+    /// the reply reads it with its own function.
+    /// @param taskIds the tasks
     static int PacketSetAnalysisTaskUploadFailed(void* pReqParamData, const std::vector<std::string>& taskIds,
                                                  int nServerId);
     /// @}

@@ -10,58 +10,61 @@
 
 namespace APIModule {
 
-/// Calls of the parking management service: Packs and Parses as CAPIModule describes them.
+/// Calls of the parking management service.
+///
+/// A Pack describes its request in the RequestParam behind @p pReqParamData, for the server @p nServerId (-1: the user
+/// manager's current one). It returns 0, or -1 with the RequestParam untouched, and writes one log line either way.
+///
+/// A Parse reads the "data" object of the reply, @p data. It returns 0, or -1 at the first key that is missing: what it
+/// read before that key stays filled. It appends to lists without clearing them, each element once all of it was read,
+/// its inner lists included. It does not run for a reply without data.
+///
+/// "In the URL as given": the Pack escapes nothing there. The caller passes a text that may hold `%`, `&`, `#`, `?` or
+/// `/` through QUrl::toPercentEncoding(); QUrl itself encodes blanks and letters beyond ASCII.
+///
+/// Codes, units and text formats that the server defines pass through unchanged; the comments name the value in the
+/// contract's example. A list in "results" is complete and has no total.
 class APIMODULE_EXPORT CIPMSModule {
 public:
-    CIPMSModule& operator=(const CIPMSModule&);      ///< @assignsnothing
-    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< @assignsnothing
+    CIPMSModule& operator=(const CIPMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 
     /// @name Parking
-    /// Parking lots, their organisations and the vehicles captured there. Identifiers and codes go into the URL as they
-    /// stand, nothing escaped.
+    /// Parking lots, their organisations and the vehicles captured there.
     /// @{
 
-    /// Lists parking lots in short form: GET
-    /// /ipms/api/v1.1/parking-lot/summary/list?parkingLotIds={parkingLotIds}&mode={mode}
-    ///
-    /// @param pReqParamData the RequestParam
-    /// @param parkingLotIds the parking lots; the caller joins several identifiers into this one text itself
-    /// @param mode the server's code
-    /// @param nServerId the server, -1 for the current one
-    /// @return 0 or -1
+    /// Lists parking lots with their positions and points:
+    /// GET /ipms/api/v1.1/parking-lot/summary/list?parkingLotIds={parkingLotIds}&mode={mode}
+    /// @param parkingLotIds identifiers of the parking lots, joined by the caller ("1,2" in the contract's example),
+    ///        empty for all; in the URL as given. A `%` before a single digit, as in `%2C`, would be replaced by the
+    ///        mode, so the commas must not be encoded; codes of two digits such as `%26` are safe.
+    /// @param mode the server's code (-1 in the contract's example)
     static int PacketGetSimpleParkingLots(void* pReqParamData, const std::string& parkingLotIds, int mode,
                                           int nServerId);
-    /// Appends the parking lots of "results" up to the first that is not whole, its positions and points included.
-    /// @parse{lots}
+    /// Appends the parking lots of "results" with their positions and points to @p lots.
     static int ParseGetSimpleParkingLots(const QJsonObject& data, std::vector<SimpleParkingLotInfoRsp>& lots);
 
-    /// Lists parking lots in detail: GET
-    /// /ipms/api/v1.1/parking-lot/detail/list?parkingLotIds={parkingLotIds}&mode={mode}&orgCode={orgCode}
-    ///
-    /// @param pReqParamData the RequestParam
-    /// @param parkingLotIds the parking lots; the caller joins several identifiers into this one text itself
-    /// @param orgCode the organisation that they belong to
-    /// @param mode the server's code
-    /// @param nServerId the server, -1 for the current one
-    /// @return 0 or -1
+    /// Lists parking lots with their space counts, positions, points and channels:
+    /// GET /ipms/api/v1.1/parking-lot/detail/list?parkingLotIds={parkingLotIds}&mode={mode}&orgCode={orgCode}
+    /// @param parkingLotIds identifiers of the parking lots, joined by the caller ("1,2" in the contract's example),
+    ///        empty for all; in the URL as given. A `%` before a single digit, as in `%2C`, would be replaced by the
+    ///        mode or the organisation, so the commas must not be encoded; codes of two digits such as `%26` are safe.
+    /// @param orgCode the organisation that they belong to, empty for all; in the URL as given
+    /// @param mode the server's code (-1 in the contract's example)
     static int PacketGetDetailParkingLots(void* pReqParamData, const std::string& parkingLotIds,
                                           const std::string& orgCode, int mode, int nServerId);
-    /// Appends the parking lots of "results" up to the first that is not whole, its positions, points and channels
-    /// included.
-    /// @parse{lots}
+    /// Appends the parking lots of "results" with their positions, points and channels to @p lots.
     static int ParseGetDetailParkingLots(const QJsonObject& data, std::vector<DatailParkingLotInfoRsp>& lots);
 
     /// Lists the organisations that parking lots belong to: GET /ipms/api/v1.1/organization/list
-    /// @pack
     static int PacketGetParkingOrganization(void* pReqParamData, int nServerId);
-    /// Appends the organisations of "results" up to the first that is not whole.
-    /// @parse{organizations}
+    /// Appends the organisations of "results", a tree as a flat list, to @p organizations.
     static int ParseGetParkingOrganization(const QJsonObject& data, std::vector<OrganizationInfoRsp>& organizations);
 
     /// Corrects the plate number of a vehicle capture record: PUT /ipms/api/v1.1/fusion/vehicle-capture/record
     ///
     /// Body: "id" and "plateNo", texts. There is no Parse.
-    /// @pack{info, the record and its plate number}
+    /// @param info the record and its plate number
     static int PacketUpdateVehicleCaptureRecord(void* pReqParamData, const UpdateVehicleCaptureRecordInfo& info,
                                                 int nServerId);
     /// @}

@@ -12,32 +12,25 @@ namespace APIModule {
 
 /// Typed readers of JSON values, and a text helper for hosts.
 ///
-/// A read fails, with -1 and one log line that says why, when the object has no keys, when it lacks the key, or when
-/// the value is of undefined type; the output is then untouched. Every other value is accepted and converted as
-/// QVariant converts it: a text of digits gives its number, null gives 0, "" or false, a text of letters read as a
-/// number gives 0.
+/// GetJsonValue() reads the value under @p key of @p jsonObject into @p value, whose type selects the overload. It
+/// returns 0. When the object has no keys, lacks the key, or the value is of undefined type, it returns -1 with one log
+/// line that says why, and @p value is untouched. It accepts every other value and converts it as QVariant does: a text
+/// of digits gives its number, null gives 0, "" or false, a text of letters read as a number gives 0.
 class APIMODULE_EXPORT CCommonFunc {
 public:
     /// Reads an `int`.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, int& value);
     /// Reads a `double`.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, double& value);
     /// Reads an object; a value of another type gives an empty one.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, QJsonObject& value);
     /// Reads a text as UTF-8; a number gives its text.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, std::string& value);
     /// Reads an array; a value of another type gives an empty one.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, QJsonArray& value);
     /// Reads a 64-bit integer; beyond 2^53 a double in between limits its precision.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, int64& value);
     /// Reads a `bool`; the texts "", "0" and "false" and the number 0 give false.
-    /// @read
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, bool& value);
 
     /// Whether the object has no keys, which is logged.
