@@ -30,17 +30,17 @@ struct FunctionChannelCheck {
 
 /// Whether the account may use a function on a channel.
 struct FunctionChannelCheckResult {
-    int authorized = 0;  ///< "authorized": the number at the start of the server's text
+    int authorized = 0;  ///< "authorized": the number at the start of the server's text, such as 1 for allowed
 };
 
-/// Which devices are counted. All of it goes into the URL as it stands; an empty text leaves its place empty.
+/// Which devices are counted. All of it stands in the URL unencoded; an empty text leaves its place empty.
 struct DeviceCategoryParamReq {
-    std::string keyword;       ///< "keyword": filter on the devices
-    std::string orgCode;       ///< "orgCode": code of their organisation
-    std::string domain;        ///< "domain": their domain
-    std::string permitted;     ///< "permitted": only what the account may use, in the server's form
+    std::string keyword;       ///< "keyword": text to look for, empty for all devices
+    std::string orgCode;       ///< "orgCode": code of their organisation, empty for all
+    std::string domain;        ///< "domain": their domain, empty for all
+    std::string permitted;     ///< "permitted": only what the account may use, in the server's form, such as "1"
     std::string sourceType;    ///< "sourceType": the server's code of their source
-    std::string containChild;  ///< "containChild": organisations below count, too, in the server's form
+    std::string containChild;  ///< "containChild": organisations below count, too, in the server's form, such as "1"
 };
 
 /// How many devices there are of one category.

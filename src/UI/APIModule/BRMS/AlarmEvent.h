@@ -9,9 +9,9 @@ namespace APIModule {
 
 /// Which page of the alarm plans is asked for. All of it goes into the URL.
 struct GetPageSummaryAlarmPlansParam {
-    int page = 0;         ///< "page": number of the page
+    int page = 0;         ///< "page": number of the page, counted from 1; 0 is the first page, too
     int pageSize = 0;     ///< "pageSize": plans on a page
-    std::string keyword;  ///< "keyword": filter on the plan's name, empty for all plans
+    std::string keyword;  ///< "keyword": part of the plan's name, empty for all plans; stands in the URL unencoded
 };
 
 /// An alarm plan in a list.
@@ -30,7 +30,7 @@ struct AlarmLinkChannel {
 struct AlarmLinkAudioChannel {
     std::string channelId;    ///< "channelId": the channel
     std::string channelName;  ///< "channelName": its display name
-    std::string fileIds;      ///< "fileIds": the audio files to play, one text in the server's format
+    std::string fileIds;      ///< "fileIds": the audio files to play in the server's format, such as "12,13"
 };
 
 /// What an alarm sets off.
@@ -40,11 +40,13 @@ struct AlarmLinkControl {
     std::vector<AlarmLinkAudioChannel> linkAudioChannels;   ///< "linkAudioChannels": audio channels
 };
 
-/// A map layer with the place of an alarm resource on it, in the server's units.
+/// A map layer with the place of an alarm resource on it, in the server's units. In the contract's example the picture
+/// is 1920 wide and 1080 high, the resource lies at 412.5 and 233.25 and is rotated by 90.
 struct AlarmLayerInfo {
     std::string layerId;       ///< "layerId": the layer
     std::string layerName;     ///< "layerName": its display name
-    std::string layerPicture;  ///< "layerPicture": reference to its picture as the server gives it
+    std::string layerPicture;  ///< "layerPicture": reference to its picture as the server gives it, such as
+                               ///< "/layers/21/plan.png"
     double locationX = 0.0;    ///< "locationX": horizontal place of the resource on the layer
     double locationY = 0.0;    ///< "locationY": vertical place of the resource on the layer
     double width = 0.0;        ///< "width": width of the picture
@@ -54,13 +56,13 @@ struct AlarmLayerInfo {
 
 /// A recorded file of an alarm.
 struct AlarmRecordFile {
-    int fileType = 0;        ///< "fileType": kind of file, the server's code
-    std::string filePath;    ///< "filePath": path of the file
+    int fileType = 0;        ///< "fileType": kind of file, the server's code, such as 1
+    std::string filePath;    ///< "filePath": path of the file on its storage server
     std::string ssId;        ///< "ssId": the storage server that holds it
     std::string channelId;   ///< "channelId": the channel that was recorded
-    int64 recordTime = 0;    ///< "recordTime": time of the recording, in the server's unit
-    int fileTimeLength = 0;  ///< "fileTimeLength": duration, in the server's unit
-    int64 fileLength = 0;    ///< "fileLength": size of the file, in the server's unit
+    int64 recordTime = 0;    ///< "recordTime": time of the recording, in the server's unit, such as 1718094600
+    int fileTimeLength = 0;  ///< "fileTimeLength": duration, in the server's unit, such as 30
+    int64 fileLength = 0;    ///< "fileLength": size of the file, in the server's unit, such as 15728640
 };
 
 /// The recorded files of one alarm record.
@@ -71,8 +73,8 @@ struct AlarmHostFileInfo {
 
 /// The state of an audio file task.
 struct AudioFileInfo {
-    std::string taskProgress;  ///< "taskProgress": how far the task is, as the server's text
-    std::string fileUrl;       ///< "fileUrl": where the file is
+    std::string taskProgress;  ///< "taskProgress": how far the task is, as the server's text, such as "100"
+    std::string fileUrl;       ///< "fileUrl": where the file is, such as "/audio/files/12.wav"
 };
 
 /// A type of event that plug-in logs know.
@@ -90,7 +92,7 @@ struct PluginLogTypeGroupInfo {
     std::vector<PluginLogEventType> eventTypes;  ///< "eventTypes": the types in it
 };
 
-/// Which general events are asked for.
+/// Which general events are asked for. The server does not see it: a GET travels without its body.
 struct GetGeneralEventsParam {
     std::string transportType;  ///< "transportType": the server's code of the transport
     std::string matchType;      ///< "matchType": the server's code of how to match

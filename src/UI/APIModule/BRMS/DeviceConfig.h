@@ -16,23 +16,23 @@ struct NetworkConfig {
     std::string dns;         ///< "dns": address of the name server
 };
 
-/// Video encoding of one stream of a channel. The codes are the server's.
+/// Video encoding of one stream of a channel. Codes and units are the server's.
 struct EncodeConfig {
     std::string channelId;   ///< neither sent nor filled: the channel stands in the URL
-    int streamType = 0;      ///< "streamType": which stream
-    int bitRate = 0;         ///< "bitRate": bit rate
-    int bitRateControl = 0;  ///< "bitRateControl": code of the bit-rate control
-    int compression = 0;     ///< "compression": code of the compression
-    int enable = 0;          ///< "enable": whether the stream is on, as the server's number
-    int frameRate = 0;       ///< "frameRate": frame rate
-    int iFrameInterval = 0;  ///< "iFrameInterval": between two I frames
-    int height = 0;          ///< "height": of the picture
-    int width = 0;           ///< "width": of the picture
+    int streamType = 0;      ///< "streamType": which stream, such as 1
+    int bitRate = 0;         ///< "bitRate": bit rate, such as 4096
+    int bitRateControl = 0;  ///< "bitRateControl": code of the bit-rate control, such as 1
+    int compression = 0;     ///< "compression": code of the compression, such as 3
+    int enable = 0;          ///< "enable": whether the stream is on, as the server's number, such as 1
+    int frameRate = 0;       ///< "frameRate": frame rate, such as 25
+    int iFrameInterval = 0;  ///< "iFrameInterval": between two I frames, such as 50
+    int height = 0;          ///< "height": of the picture, such as 1080
+    int width = 0;           ///< "width": of the picture, such as 1920
 };
 
 /// A picture format that an encoder offers.
 struct EncodeFormat {
-    int frameRateMax = 0;  ///< "frameRateMax": highest frame rate
+    int frameRateMax = 0;  ///< "frameRateMax": highest frame rate, in the server's unit, such as 25
     int videoHeight = 0;   ///< "videoHeight": of the picture
     int videoWidth = 0;    ///< "videoWidth": of the picture
 };
@@ -49,7 +49,7 @@ struct EncodeCapability {
     std::vector<EncodeCompressionCapability> encodeCapabilities;  ///< "encodeCapabilities": by compression
 };
 
-/// Image adjustment of one channel. The ranges are the server's.
+/// Image adjustment of one channel. The ranges are the server's, values such as 50.
 struct ImageConfig {
     std::string channelId;  ///< the channel; stands in the URL, neither sent in a body nor filled by a Parse
     int brightness = 0;     ///< "brightness"

@@ -86,9 +86,9 @@ struct DatailParkingLotInfoRsp {
 
 /// One organisation that parking lots belong to.
 struct OrganizationInfoRsp {
-    std::string orgCode;        ///< "orgCode": code of the organisation
+    std::string orgCode;        ///< "orgCode": code of the organisation, such as "001"
     std::string orgName;        ///< "orgName": display name
-    std::string parentOrgCode;  ///< "parentOrgCode": the organisation above it
+    std::string parentOrgCode;  ///< "parentOrgCode": the organisation above it, empty at the root
     int hasChild = 0;           ///< "hasChild": whether organisations lie below it, a number as it stands
     int hasAuthority = 0;       ///< "hasAuthority": whether the user has rights in it, a number as it stands
 };

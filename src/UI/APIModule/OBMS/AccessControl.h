@@ -9,12 +9,12 @@ namespace APIModule {
 
 /// Which authorised persons to list, and which page of them.
 struct GetPageAccessAuthorizePersonsReq {
-    int page = 0;                       ///< "page": number of the page; sent as a decimal text
+    int page = 0;                       ///< "page": page counted from 1, 0 is the first, too; sent as a decimal text
     int pageSize = 0;                   ///< "pageSize": persons of a page; sent as a decimal text
     bool containChild = false;          ///< "containChild": with the organisations below; sent as "1" or "0"
-    std::string keyword;                ///< "keyword": what to search for
-    std::string deviceCode;             ///< "deviceCode": the access control device
-    std::string orgCode;                ///< "orgCode": the organisation
+    std::string keyword;                ///< "keyword": what to search for, empty for all persons
+    std::string deviceCode;             ///< "deviceCode": the access control device, empty for all
+    std::string orgCode;                ///< "orgCode": the organisation, empty for all
     std::vector<std::string> pointIds;  ///< "pointIds": the access points
 };
 
@@ -50,7 +50,7 @@ struct ManagePersonInfo {
     std::string personName;               ///< "personName": the person's name
     std::string orgCode;                  ///< "orgCode": the person's organisation
     std::string orgName;                  ///< "orgName": name of that organisation
-    std::string errorCode;                ///< "errorCode": the server's code, kept as text
+    std::string errorCode;                ///< "errorCode": the server's code, kept as text, such as "0"
     std::vector<PersonOrgInfo> orgInfos;  ///< "orgInfos": the organisations of the person
 };
 
@@ -63,8 +63,8 @@ struct SetManagePersonReq {
 /// Which access rules to list.
 struct GetPointAccessRules {
     std::string pointId;      ///< the access point
-    std::string ruleType;     ///< "ruleType": kind of rule, the server's code as text
-    int hasOfflinePoint = 0;  ///< "hasOfflinePoint": a number in the query, a flag in each rule that comes back
+    std::string ruleType;     ///< "ruleType": kind of rule, the server's code as text, such as "1"
+    int hasOfflinePoint = 0;  ///< "hasOfflinePoint": a number in the query, such as 0, and a flag in the reply
 };
 
 /// One access rule of a point.

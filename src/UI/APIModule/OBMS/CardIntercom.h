@@ -15,9 +15,9 @@ struct AcsCardConfigParam {
 
 /// Which page of the devices without the card configuration to list.
 struct ConfigDesFireFailureReq {
-    int page = 0;         ///< "page": number of the page
+    int page = 0;         ///< "page": number of the page, counted from 1; 0 is the first page, too
     int pageSize = 0;     ///< "pageSize": devices of a page
-    std::string keyword;  ///< "keyword": what to search for
+    std::string keyword;  ///< "keyword": what to search for, empty for all devices; stands in the URL unencoded
 };
 
 /// One device to which the card configuration could not be issued.
@@ -26,7 +26,7 @@ struct DesfireFailureInfo {
     std::string deviceCode;  ///< "deviceCode": the device
     std::string deviceName;  ///< "deviceName": its name
     std::string deviceIp;    ///< "deviceIp": its address
-    int reason = 0;          ///< "reason": the server's code
+    int reason = 0;          ///< "reason": the server's code, such as 2
 };
 
 /// One page of the devices to which the card configuration could not be issued.

@@ -30,13 +30,13 @@ struct ChannelInfoResp {
     std::string channelMac;                   ///< "channelMac": hardware address of the channel
     std::string deviceIp;                     ///< "deviceIp": address of the device
     std::string macAddress;                   ///< "macAddress": hardware address of the device
-    std::string deviceRecordDays;             ///< "deviceRecordDays": days of recordings that are there, as text
-    std::string configRecordDays;             ///< "configRecordDays": days of recordings as configured, as text
-    std::string deviceRecordWholenessStatus;  ///< "deviceRecordWholenessStatus": whether recordings are whole
+    std::string deviceRecordDays;             ///< "deviceRecordDays": days of recordings, as text, such as "28"
+    std::string configRecordDays;             ///< "configRecordDays": days that are configured, as text, such as "30"
+    std::string deviceRecordWholenessStatus;  ///< "deviceRecordWholenessStatus": whether recordings are complete
     std::string motionDetectPlan;             ///< "motionDetectPlan": plan of motion detection
     std::string patchPlan;                    ///< "patchPlan": plan of fetching missed recordings
     std::string recordPlan;                   ///< "recordPlan": plan of recording
-    int64 updateDate = 0;                     ///< "updateDate": when this view was updated, in the server's unit
+    int64 updateDate = 0;                     ///< "updateDate": last update in the server's unit, such as 1718094600000
 };
 
 /// The maintenance view of one device.
@@ -56,7 +56,7 @@ struct DeviceInfoResp {
     std::string manufacturerName;    ///< "manufacturerName": name of the manufacturer
     std::string faultStatus;         ///< "faultStatus": the server's code as text
     std::string faultStatusName;     ///< "faultStatusName": name of the fault status
-    std::string updateTime;          ///< "updateTime": when this view was updated, in the server's text format
+    std::string updateTime;          ///< "updateTime": last update as text, such as "2024-06-11 08:30:00"
     int addType = 0;                 ///< "addType": how the device was added, the server's code
     std::string orgCode;             ///< "orgCode": the organisation
     std::string orgName;             ///< "orgName": name of the organisation
