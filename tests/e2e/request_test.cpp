@@ -66,20 +66,31 @@ INSTANTIATE_TEST_SUITE_P(
                    kInvalidParameter}),
     testing_support::RowName());
 
-INSTANTIATE_TEST_SUITE_P(PercentSign, Keyword,
-                         testing::Values(KeywordRow{"OnlyPlaceOfTheUrl",
-                                                    "BRMS.GetUserGroupList",
-                                                    {{"keyword", "a%2b"}},
-                                                    "/brms/api/v1.1/user/group/list?keyword=a%2B",
-                                                    0},
-                                         KeywordRow{
-                                             "MarkerOfALaterPlace",
-                                             "BRMS.GetDeviceCategoryCount",
-                                             {{"query", {{"keyword", "a%2b"}, {"orgCode", "001"}}}},
-                                             "/brms/api/v1.1/device/statistics/count-by-device-category/list"
-                                             "?keyword=a001b&orgCode=001&domain=&permitted=&sourceType=&containChild=",
-                                             0}),
-                         testing_support::RowName());
+INSTANTIATE_TEST_SUITE_P(
+    PercentSign, Keyword,
+    testing::Values(KeywordRow{"OnlyPlaceOfTheUrl",
+                               "BRMS.GetUserGroupList",
+                               {{"keyword", "a%2b"}},
+                               "/brms/api/v1.1/user/group/list?keyword=a%2B",
+                               0},
+                    KeywordRow{"EncodedByTheHost",
+                               "BRMS.GetUserGroupList",
+                               {{"keyword", "R%26D"}},
+                               "/brms/api/v1.1/user/group/list?keyword=R%26D",
+                               0},
+                    KeywordRow{"EncodedBeforeALaterPlace",
+                               "BRMS.GetDeviceCategoryCount",
+                               {{"query", {{"keyword", "R%26D"}, {"orgCode", "001"}}}},
+                               "/brms/api/v1.1/device/statistics/count-by-device-category/list"
+                               "?keyword=R%26D&orgCode=001&domain=&permitted=&sourceType=&containChild=",
+                               0},
+                    KeywordRow{"MarkerOfALaterPlace",
+                               "BRMS.GetDeviceCategoryCount",
+                               {{"query", {{"keyword", "a%2b"}, {"orgCode", "001"}}}},
+                               "/brms/api/v1.1/device/statistics/count-by-device-category/list"
+                               "?keyword=a001b&orgCode=001&domain=&permitted=&sourceType=&containChild=",
+                               0}),
+    testing_support::RowName());
 
 TEST_F(EndToEnd, AKeywordInABodyArrivesWhole)
 {

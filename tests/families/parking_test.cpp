@@ -30,6 +30,8 @@ const PackRow kPacks[] = {
     kSimplePack("GetSimpleParkingLots_invalid_utf8", "x\xFF", 1, "x\xEF\xBF\xBD&mode=1"),
     kSimplePack("GetSimpleParkingLots_marker_2_in_the_ids_is_rewritten", "a%2b", 5, "a5b&mode=5"),
     kSimplePack("GetSimpleParkingLots_marker_1_in_the_ids_takes_the_mode", "a%1b", 5, "a5b&mode=%2"),
+    kSimplePack("GetSimpleParkingLots_encoded_comma_takes_the_mode", "1%2C2", -1, "1-1C2&mode=-1"),
+    kSimplePack("GetSimpleParkingLots_percent_codes_of_two_digits_stay", "a%26%23%25", 5, "a%26%23%25&mode=5"),
     kDetailPack("GetDetailParkingLots_mode_stands_before_orgCode", "11,12", "001", 2, "11,12&mode=2&orgCode=001"),
     kDetailPack("GetDetailParkingLots_mode_minus_1", "11", "001001", -1, "11&mode=-1&orgCode=001001"),
     kDetailPack("GetDetailParkingLots_all", "", "", 0, "&mode=0&orgCode="),
