@@ -51,6 +51,15 @@ if(APIMODULE_BUILD_TOOLS)
         install(FILES ${manuals} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools)
     endif()
 
+    set(completions "${PROJECT_SOURCE_DIR}/tools/apicall/completions")
+    set(zsh_folder site-functions)
+    if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+        set(zsh_folder vendor-completions)  # Debian's name; site-functions are those of the machine
+    endif()
+    install(FILES "${completions}/apicall.bash" RENAME apicall
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tools)
+    install(FILES "${completions}/_apicall" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/${zsh_folder}" COMPONENT tools)
+
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/contract" "${PROJECT_SOURCE_DIR}/tools/emulator/seed"
         DESTINATION "${share_folder}" COMPONENT tools FILES_MATCHING PATTERN *.yaml PATTERN *.json)
 

@@ -798,6 +798,41 @@ TEST_F(TypedCall, OnAnotherThreadRunIsNotPackedAndStartCallsNothing)
     EXPECT_FALSE(bCalled);
 }
 
+TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    const auto request = BRMS::SetTimeSyncConfig(TimeSyncConfig());
+    logs.Take();
+    const std::optional<ObservedExchange> shown = Preview(request);
+    EXPECT_EQ(logs.Take(), LogLines());
+    EXPECT_EQ(m_pServer->ConnectionCount(), 0);
+    ASSERT_TRUE(shown);
+
+    ObservedExchange sent;
+    APIModule::Run(request.Observed([&sent](const ObservedExchange& exchange) { sent = exchange; }));
+    EXPECT_EQ(shown->method, sent.method);
+    EXPECT_EQ(shown->url, sent.url);
+    EXPECT_EQ(shown->requestHeaders, sent.requestHeaders);
+    EXPECT_EQ(shown->requestBody, sent.requestBody);
+    EXPECT_FALSE(shown->requestBody.isEmpty());
+    EXPECT_EQ(shown->nStatus, -1);
+}
+
+TEST_F(TypedCall, PreviewOfWhatCannotBeSentLogsWhyAndReturnsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    users.servers[1].host = "user@127.0.0.1";
+    logs.Take();
+    EXPECT_FALSE(Preview(GetNumber("/path")));
+    EXPECT_EQ(logs.Take().size(), 1U);
+    users.servers.clear();
+    EXPECT_FALSE(Preview(GetNumber("/path")));
+    std::thread([] { EXPECT_FALSE(Preview(GetNumber("/path"))); }).join();
+    const LogLines lines = logs.Take();
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_EQ(lines[0].message, "Preview failed! wrong thread or no application.");
+}
+
 TEST_F(TypedCall, AFunctionThatThrowsEndsNothing)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });

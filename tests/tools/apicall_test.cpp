@@ -94,8 +94,14 @@ INSTANTIATE_TEST_SUITE_P(
         UsageRow{"Nothing", {}, "no call is named; apicall --help"},
         UsageRow{"UnknownOption", Words({"--serve", "http://127.0.0.1:1"}), "--serve"},
         UsageRow{"UnknownCall", Words({"BRMS.GetNothing"}), "there is no call \"BRMS.GetNothing\"; apicall --list"},
-        UsageRow{"UnknownCallToHelpWith", Words({"--help", "GetTimeSyncConfig"}),
-                 "there is no call \"GetTimeSyncConfig\""},
+        UsageRow{"MisspeltCall", Words({"brms.GetTimeSynkConfig"}),
+                 "there is no call \"brms.GetTimeSynkConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
+        UsageRow{"CallWithoutItsFamily", Words({"--help", "GetTimeSyncConfig"}),
+                 "there is no call \"GetTimeSyncConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
+        UsageRow{"MergeOfARead", Words({"--merge", "BRMS.GetTimeSyncConfig"}),
+                 "--merge: no call reads what BRMS.GetTimeSyncConfig writes"},
+        UsageRow{"MergeWithoutWhatTheReadNeeds", Words({"--merge", "BRMS.UpdateNetworkConfig"}),
+                 "BRMS.GetNetworkConfig, which is read first, needs \"config/deviceCode\" of BRMS.UpdateNetworkConfig"},
         UsageRow{"NoServer", Words({"BRMS.GetTimeSyncConfig"}), "--server is missing"},
         UsageRow{"ServerIdOutOfRange", Words({"--server-id", "2", "BRMS.GetTimeSyncConfig"}), "--server-id"},
         UsageRow{"TimeoutOutOfRange", Words({"--timeout", "0", "BRMS.GetTimeSyncConfig"}), "--timeout"},
@@ -143,6 +149,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         UsageRow{"Unknown", Words({"BRMS.GetTimeSyncConfig", "a=1"}),
                  "BRMS.GetTimeSyncConfig has no argument \"a\": it takes none"},
+        UsageRow{"Misspelt", Words({"BRMS.GetLocalSetting", "settingTyp=3"}),
+                 "BRMS.GetLocalSetting has no argument \"settingTyp\"; did you mean \"settingType\"?"},
+        UsageRow{"UnknownPlace", Words({"BRMS.SetTimeSyncConfig", "config/ntp=1"}),
+                 "/config/ntp: TimeSyncConfig has no such place"},
+        UsageRow{"NameAsIndex", Words({"BRMS.UpdateEncodeConfig", "configs/first/bitRate=1"}),
+                 "/configs/first: list of EncodeConfig has no such place"},
         UsageRow{"Missing", Words({"BRMS.UpdateLocalSetting", "apply=true"}),
                  "BRMS.UpdateLocalSetting needs the argument \"content\" (text)"},
         UsageRow{"NoName", Words({"BRMS.GetLocalSetting", "3"}), "\"3\" is neither name=value nor a JSON object"},
@@ -151,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
         UsageRow{"WrongType", Words({"BRMS.GetLocalSetting", "settingType=\"3\""}),
                  "/settingType: expected int, got text"},
         UsageRow{"NoJson", Words({"BRMS.GetLocalSetting", "settingType=three"}),
-                 "argument \"settingType\" (int) is not JSON"},
+                 "argument \"settingType\" (int) is not JSON: it cannot be read from byte 2 on"},
         UsageRow{"Empty", Words({"BRMS.GetLocalSetting", "settingType="}),
                  "argument \"settingType\" (int) is not JSON"},
         UsageRow{"UnknownField", Words({"BRMS.SetTimeSyncConfig", "config={\"ntp\": 1}"}),
@@ -227,6 +239,45 @@ TEST(Help, ThereIsHelpForEveryCall)
         EXPECT_EQ(ended.status, 0);
         EXPECT_EQ(ended.out.rfind(call.name, 0), 0U) << ended.out;
     }
+}
+
+TEST(Help, NamesAreThoseOfTheCallsOrOfTheArgumentsOfACall)
+{
+    const std::string calls = Apicall(Words({"--names"})).out;
+    EXPECT_EQ(calls.rfind(catalogue::Calls().front().name + "\n", 0), 0U) << calls;
+    EXPECT_EQ(std::size_t(std::count(calls.begin(), calls.end(), '\n')), catalogue::Calls().size());
+    EXPECT_EQ(Apicall(Words({"--names", "BRMS.UpdateEncodeConfig"})).out, "channelId\nconfigs\n");
+    EXPECT_EQ(Apicall(Words({"--names", "BRMS.GetTimeSyncConfig"})).out, "");
+}
+
+struct CompletionRow {
+    const char* name;
+    const char* words;  ///< behind the program's name, the last one to be completed
+    const char* completions;
+};
+
+class Completion : public testing::TestWithParam<CompletionRow> {};
+
+INSTANTIATE_TEST_SUITE_P(Bash, Completion,
+                         testing::Values(CompletionRow{"Call", "BRMS.GetTimeS", "BRMS.GetTimeSyncConfig"},
+                                         CompletionRow{"CallBehindAnOption", "--timeout 1.5 --quiet IAMS.",
+                                                       "IAMS.SetAnalysisTaskUploadFailed"},
+                                         CompletionRow{"Argument", "BRMS.UpdateEncodeConfig con", "configs="},
+                                         CompletionRow{"SecondArgument", "BRMS.UpdateEncodeConfig configs=[] chan",
+                                                       "channelId="},
+                                         CompletionRow{"Option", "--mer", "--merge"},
+                                         CompletionRow{"NothingOfAnUnknownCall", "BRMS.GetNothing a", ""}),
+                         RowName());
+
+TEST_P(Completion, OfBash)
+{
+    const QString script =
+        QStringLiteral("source '" COMPLETIONS_FOLDER "/apicall.bash'; words='%1'; COMP_WORDS=('" APICALL_FILE
+                       "' $words); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _apicall '" APICALL_FILE
+                       "'; echo -n \"${COMPREPLY[@]}\"")
+            .arg(QString::fromLatin1(GetParam().words));
+    const Ended ended = RunProgram(QStringLiteral("bash"), {QStringLiteral("-c"), script});
+    EXPECT_EQ(ended.out, GetParam().completions) << ended.err;
 }
 
 TEST(Help, TheProgramTellsItsUse)
@@ -435,6 +486,93 @@ TEST_P(Calls, DataThatCannotBeReadFails)
 {
     Spoil({{"kind", "text"}, {"body", R"({"code": 1000, "desc": "", "data": {"enable": true}})"}});
     ExpectFailure(GetTimeSync(), 3101, ErrorText(3101) + "\napicall: the reply holds no readable \"startTime\"");
+}
+
+TEST_P(Calls, QuietWritesLogLinesOnlyOfACallThatFails)
+{
+    const Ended succeeded = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
+    EXPECT_EQ(succeeded.status, 0);
+    EXPECT_EQ(succeeded.err, "");
+    EXPECT_NE(succeeded.out, "");
+    Spoil({{"kind", "status"}, {"status", 503}});
+    const Ended failed = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_TRUE(Contains(failed.err, "Request failed, http status Code: 503")) << failed.err;
+    EXPECT_TRUE(Contains(failed.err, "apicall: BRMS.GetTimeSyncConfig failed with 503")) << failed.err;
+}
+
+TEST_P(Calls, VerboseWritesTheExchange)
+{
+    const Ended ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
+    EXPECT_EQ(ended.status, 0);
+    const std::string scheme = GetParam().https ? "https" : "http";
+    EXPECT_EQ(ended.err.rfind("> GET " + scheme + "://127.0.0.1:", 0), 0U) << ended.err;
+    for (const char* part :
+         {"\n> X-Subject-Token: ******\n", "\n< 200\n", "\n<\n< {\"code\":1000", "\n* first byte after "}) {
+        EXPECT_TRUE(Contains(ended.err, part)) << part << " in " << ended.err;
+    }
+}
+
+TEST_P(Calls, VerboseWritesWhyNoAnswerCame)
+{
+    Spoil({{"kind", "closeBefore"}, {"times", 0}});
+    const Ended ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_TRUE(std::regex_search(ended.err, std::regex("\n\\* [A-Z]"))) << ended.err;
+    EXPECT_FALSE(Contains(ended.err, "\n< ")) << ended.err;
+}
+
+TEST_P(Calls, DryRunPrintsTheRequestAndSendsNothing)
+{
+    const Ended ended = Run(Words({"--dry-run", "--quiet", "BRMS.SetDeviceLoginModel", "model=2"}));
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.err, "");
+    EXPECT_EQ(ended.out.rfind("PUT http", 0), 0U) << ended.out;
+    EXPECT_TRUE(Contains(ended.out, "\nX-Subject-Token: ******\n")) << ended.out;
+    EXPECT_TRUE(Contains(ended.out, "\n\n{\"deviceLoginModel\":\"2\"}\n")) << ended.out;
+    EXPECT_TRUE(Platform().requests().empty());
+}
+
+TEST_P(Calls, PathsNameFieldsOfARecord)
+{
+    EXPECT_EQ(ResultOf(Words({"BRMS.SetTimeSyncConfig", "config/interval=30", "config/ntpIp=a=b"})), json());
+    const json config = ResultOf(GetTimeSync());
+    EXPECT_EQ(config.at("interval"), 30);
+    EXPECT_EQ(config.at("ntpIp"), "a=b");
+    EXPECT_EQ(config.at("startTime"), "");
+}
+
+TEST_P(Calls, MergeChangesWhatIsNamedAndLeavesTheRest)
+{
+    json expected = ResultOf(GetTimeSync());
+    ASSERT_NE(expected.at("interval"), 30);
+    expected["interval"] = 30;
+    EXPECT_EQ(ResultOf(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"})), json());
+    EXPECT_EQ(ResultOf(GetTimeSync()), expected);
+    expected["ntpPort"] = 99;
+    EXPECT_EQ(ResultOf(Words({"--merge", "BRMS.SetTimeSyncConfig", R"({"config": {"ntpPort": 99}})"})), json());
+    EXPECT_EQ(ResultOf(GetTimeSync()), expected);
+}
+
+TEST_P(Calls, MergeChangesOneElementOfAList)
+{
+    const QStringList read = Words({"BRMS.GetEncodeConfig", "channelId=1000021$1$0$0"});
+    json expected = ResultOf(read);
+    ASSERT_GE(expected.size(), 2U);
+    expected[1]["bitRate"] = 777;
+    EXPECT_EQ(
+        ResultOf(Words({"--merge", "BRMS.UpdateEncodeConfig", "channelId=1000021$1$0$0", "configs/1/bitRate=777"})),
+        json());
+    EXPECT_EQ(ResultOf(read), expected);
+}
+
+TEST_P(Calls, MergeWritesNothingWhenTheReadFails)
+{
+    Spoil({{"kind", "status"}, {"status", 404}});
+    const Ended ended = Run(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"}));
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 404")) << ended.err;
+    EXPECT_EQ(Platform().requests().size(), 1U);
 }
 
 TEST_P(Calls, AnAnswerThatDoesNotComeFailsInTime)

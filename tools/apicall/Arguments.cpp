@@ -3,11 +3,12 @@
 #include "Options.h"
 #include "Texts.h"
 
-#include <nlohmann/json.hpp>
+#include <catalogue/Merge.h>
 
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <set>
 
 namespace apicall {
 namespace {
@@ -37,8 +38,9 @@ json ParseJson(const std::string& text, const std::string& what)
     try {
         return json::parse(text);
     } catch (const json::parse_error& error) {
-        //: %1 is what was read, %2 the reason
-        throw WrongUsage(Filled(Texts::tr("%1 is not JSON: %2"), what, error.what()));
+        //: %1 is what was read, %2 a number
+        throw WrongUsage(
+            Filled(Texts::tr("%1 is not JSON: it cannot be read from byte %2 on"), what, std::to_string(error.byte)));
     }
 }
 
@@ -68,9 +70,15 @@ json OneObject(const std::vector<std::string>& arguments)
     return ParseJson(argument, Filled(Texts::tr("the argument")));
 }
 
-json ByName(const catalogue::Call& call, const std::vector<std::string>& arguments)
+}  // namespace
+
+GivenArguments::GivenArguments(const catalogue::Call& call, const std::vector<std::string>& arguments)
 {
-    json object = json::object();
+    if (IsOneObject(arguments)) {
+        m_assignments.push_back({json::json_pointer(), OneObject(arguments)});
+        return;
+    }
+    std::set<std::string> names;
     for (const std::string& argument : arguments) {
         const auto separator = argument.find('=');
         if (separator == std::string::npos) {
@@ -78,23 +86,31 @@ json ByName(const catalogue::Call& call, const std::vector<std::string>& argumen
         }
         const std::string name = argument.substr(0, separator);
         const std::string value = argument.substr(separator + 1);
-        if (object.contains(name)) {
+        if (!names.insert(name).second) {
             throw WrongUsage(Filled(Texts::tr("argument \"%1\" is given twice"), name));
         }
-        const catalogue::Argument* known = call.FindArgument(name);
-        const bool isJson = known != nullptr && known->type->kind != catalogue::Kind::Text;
+        const catalogue::Type& type = catalogue::TypeAt(call, name);
+        const bool isText = type.kind == catalogue::Kind::Text;
         //: %1 is the name, %2 the type
-        object[name] = isJson ? ParseJson(value, Filled(Texts::tr("argument \"%1\" (%2)"), name, NameOf(*known->type)))
-                              : json(value);
+        const std::string what = Filled(Texts::tr("argument \"%1\" (%2)"), name, NameOf(type));
+        m_assignments.push_back({json::json_pointer("/" + name), isText ? json(value) : ParseJson(value, what)});
+    }
+}
+
+json GivenArguments::Object() const
+{
+    json object = json::object();
+    for (const Assignment& assignment : m_assignments) {
+        object[assignment.place] = assignment.value;
     }
     return object;
 }
 
-}  // namespace
-
-std::vector<catalogue::Value> ReadArguments(const catalogue::Call& call, const std::vector<std::string>& arguments)
+void GivenArguments::MergeInto(json& object) const
 {
-    return catalogue::ReadArguments(call, IsOneObject(arguments) ? OneObject(arguments) : ByName(call, arguments));
+    for (const Assignment& assignment : m_assignments) {
+        object[assignment.place].merge_patch(assignment.value);
+    }
 }
 
 }  // namespace apicall

@@ -15,12 +15,14 @@ std::string Footer()
 {
     return Filled(Texts::tr(R"(Arguments of a call:
   name=value       a text as it stands, anything else as JSON
+  name/field=value a field of a record; name/0 is the first element of a list
   {"name": value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
 
 Examples:
   apicall --list
   apicall --help BRMS.GetLocalSetting
   apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
 Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
 Exit status: 0 success, 1 failed call, 2 wrong usage.)"));
@@ -41,6 +43,16 @@ Options ReadOptions(int argc, char** argv)
                  Filled(Texts::tr("Print this help, or the arguments and the result of CALL")));
     app.add_flag("-V,--version", options.version, Filled(Texts::tr("Print the version")));
     app.add_flag("-l,--list", options.list, Filled(Texts::tr("List the calls")));
+    app.add_flag("--names", options.names,
+                 Filled(Texts::tr("Print names alone: of the calls, or of the arguments of CALL")));
+    app.add_flag("-q,--quiet", options.quiet, Filled(Texts::tr("Write log lines only when the call fails")));
+    app.add_flag("-v,--verbose", options.verbose,
+                 Filled(Texts::tr("Write request and reply to standard error, without the token")));
+    app.add_flag("-n,--dry-run", options.dryRun,
+                 Filled(Texts::tr("Print the request, without the token, and send nothing")));
+    app.add_flag("-m,--merge", options.merge,
+                 Filled(Texts::tr("For a call that writes: read what it replaces, change what ARGUMENT names, and "
+                                  "write that")));
     app.add_option("-s,--server", options.server,
                    Filled(Texts::tr("Platform server: https://host[:port] or http://host[:port]")));
     app.add_option("-t,--token", options.token,

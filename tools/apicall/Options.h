@@ -30,6 +30,11 @@ struct Options {
     std::string call;                    ///< name of the call, empty for none
     std::vector<std::string> arguments;  ///< as they were given
     bool list = false;
+    bool names = false;
+    bool quiet = false;
+    bool verbose = false;
+    bool dryRun = false;
+    bool merge = false;
     bool help = false;
     bool version = false;
     std::string usage;  ///< how the program is called

@@ -1,9 +1,12 @@
 #include "Arguments.h"
+#include "ExchangeText.h"
+#include "HeldStandardError.h"
 #include "Help.h"
 #include "Options.h"
 #include "Texts.h"
 #include "Trust.h"
 
+#include <catalogue/Merge.h>
 #include <catalogue/OneServer.h>
 #include <catalogue/Run.h>
 #include <translations/Application.h>
@@ -13,6 +16,10 @@
 
 #include <chrono>
 #include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -20,6 +27,7 @@ using apicall::Filled;
 using apicall::Texts;
 using apicall::WrongUsage;
 using catalogue::Outcome;
+using nlohmann::json;
 
 constexpr int kSuccess = 0;
 constexpr int kFailedCall = 1;
@@ -28,10 +36,23 @@ constexpr int kWrongUsage = 2;
 const catalogue::Call& NamedCall(const std::string& name)
 {
     const catalogue::Call* call = catalogue::FindCall(name);
-    if (call == nullptr) {
-        throw WrongUsage(Filled(Texts::tr("there is no call \"%1\"; apicall --list names them"), name));
+    if (call != nullptr) {
+        return *call;
     }
-    return *call;
+    std::vector<std::string_view> names;
+    for (const catalogue::Call& known : catalogue::Calls()) {
+        const std::string_view full = known.name;
+        if (full.substr(known.family.size() + 1) == name) {
+            names = {full};
+            break;
+        }
+        names.push_back(full);
+    }
+    const std::string closest = names.size() == 1 ? std::string(names.front()) : catalogue::ClosestName(name, names);
+    if (!closest.empty()) {
+        throw WrongUsage(Filled(Texts::tr("there is no call \"%1\"; did you mean \"%2\"?"), name, closest));
+    }
+    throw WrongUsage(Filled(Texts::tr("there is no call \"%1\"; apicall --list names them"), name));
 }
 
 /// What the server or its reply adds to the failure. Characters that would steer a terminal are escaped, and the token
@@ -57,62 +78,172 @@ std::string DetailsOf(const Outcome& outcome, const std::string& token)
     return details;
 }
 
-catalogue::RunSettings SettingsOf(const apicall::Options& options)
-{
-    catalogue::RunSettings settings;
-    settings.serverId = options.serverId;
-    if (options.timeoutSeconds) {
-        settings.timeout = std::chrono::seconds(*options.timeoutSeconds);
+/// The library as a host of one server, from its Init to its UnInit.
+class Session {
+public:
+    explicit Session(const apicall::Options& options) : m_options(options)
+    {
+        if (options.server.empty()) {
+            throw WrongUsage(Filled(Texts::tr("--server is missing")));
+        }
+        const apicall::Server server = apicall::ServerOf(options.server);
+        const APIModule::ServerTrust trust = apicall::TrustOf(options);
+        const bool restricted = !trust.pins.isEmpty() || !trust.authorities.isEmpty();
+        if (restricted && !server.https) {
+            throw WrongUsage(Filled(Texts::tr("--pin and --ca need a server with https://")));
+        }
+        //: The code of this language, for the texts of error codes
+        ErrorLexicon::SetLanguage(options.language.empty() ? Filled(Texts::tr("en")) : options.language);
+        m_users.Use(server.host, server.port, options.token);
+        if (options.quiet) {
+            m_held.emplace();
+        }
+        m_library.SetHttpsMode(server.https ? 1 : 0);
+        m_library.SetLanguage(options.language.empty() ? "en" : options.language);
+        m_library.SetServerTrust(trust);
+        m_library.Init(&m_users);
     }
-    return settings;
-}
 
-Outcome Run(const catalogue::Call& call, const std::vector<catalogue::Value>& arguments,
-            const apicall::Options& options, const apicall::Server& server, const APIModule::ServerTrust& trust)
-{
-    //: The code of this language, for the texts of error codes
-    ErrorLexicon::SetLanguage(options.language.empty() ? Filled(Texts::tr("en")) : options.language);
-    catalogue::OneServer users;
-    users.Use(server.host, server.port, options.token);
-    auto& library = APIModule::CAPIModule::GetInstance();
-    library.SetHttpsMode(server.https ? 1 : 0);
-    library.SetLanguage(options.language.empty() ? "en" : options.language);
-    library.SetServerTrust(trust);
-    library.Init(&users);
-    Outcome outcome = catalogue::Run(call, arguments, SettingsOf(options));
-    library.UnInit();
-    return outcome;
-}
+    ~Session() { m_library.UnInit(); }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
-int RunCall(const apicall::Options& options)
+    /// Reports a failure.
+    Outcome Run(const catalogue::Call& call, const json& arguments)
+    {
+        Outcome outcome = catalogue::Run(call, catalogue::ReadArguments(call, arguments), Settings());
+        if (!outcome) {
+            WriteLogLines();
+            //: %1 is the call, %2 a code, %3 its text
+            std::cerr << "apicall: "
+                      << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.Code()),
+                                outcome.Text().toStdString())
+                      << '\n'
+                      << DetailsOf(outcome, m_options.token) << std::flush;
+        }
+        return outcome;
+    }
+
+    /// The request for people; empty when it cannot be made, which a log line explains.
+    std::string Preview(const catalogue::Call& call, const json& arguments)
+    {
+        const auto preview = catalogue::Preview(call, catalogue::ReadArguments(call, arguments), Settings());
+        if (!preview) {
+            WriteLogLines();
+        }
+        return preview ? apicall::RequestText(*preview, m_options.token) : std::string();
+    }
+
+private:
+    void WriteLogLines()
+    {
+        if (m_held) {
+            m_held->Release();
+        }
+    }
+
+    [[nodiscard]] catalogue::RunSettings Settings()
+    {
+        catalogue::RunSettings settings;
+        settings.serverId = m_options.serverId;
+        if (m_options.timeoutSeconds) {
+            settings.timeout = std::chrono::seconds(*m_options.timeoutSeconds);
+        }
+        if (m_options.verbose) {
+            settings.observer = [this](const APIModule::ObservedExchange& exchange) {
+                const std::string text = apicall::ExchangeText(exchange, m_options.token);
+                if (m_held) {
+                    m_held->WriteThrough(text);
+                } else {
+                    std::cerr << text << std::flush;
+                }
+            };
+        }
+        return settings;
+    }
+
+    const apicall::Options& m_options;
+    catalogue::OneServer m_users;
+    APIModule::CAPIModule& m_library = APIModule::CAPIModule::GetInstance();
+    std::optional<apicall::HeldStandardError> m_held;
+};
+
+/// A read whose record the write begins with.
+struct FirstRead {
+    catalogue::MatchingRead read;
+    json arguments;
+
+    FirstRead(const catalogue::Call& write, const json& given) : read(ReadFor(write))
+    {
+        arguments = catalogue::ArgumentsOfRead(read, write, given);
+        catalogue::ReadArguments(*read.call, arguments);
+    }
+
+private:
+    static catalogue::MatchingRead ReadFor(const catalogue::Call& write)
+    {
+        const auto found = catalogue::FindMatchingRead(write);
+        if (!found) {
+            //: %1 is a call
+            throw WrongUsage(Filled(Texts::tr("--merge: no call reads what %1 writes"), write.name));
+        }
+        return *found;
+    }
+};
+
+int Print(const std::string& text)
 {
-    const catalogue::Call& call = NamedCall(options.call);
-    const auto arguments = apicall::ReadArguments(call, options.arguments);
-    if (options.server.empty()) {
-        throw WrongUsage(Filled(Texts::tr("--server is missing")));
-    }
-    const apicall::Server server = apicall::ServerOf(options.server);
-    const APIModule::ServerTrust trust = apicall::TrustOf(options);
-    const bool restricted = !trust.pins.isEmpty() || !trust.authorities.isEmpty();
-    if (restricted && !server.https) {
-        throw WrongUsage(Filled(Texts::tr("--pin and --ca need a server with https://")));
-    }
-    const Outcome outcome = Run(call, arguments, options, server, trust);
-    if (!outcome) {
-        //: %1 is the call, %2 a code, %3 its text
-        std::cerr << "apicall: "
-                  << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.Code()),
-                            outcome.Text().toStdString())
-                  << '\n'
-                  << DetailsOf(outcome, options.token) << std::flush;
-        return kFailedCall;
-    }
-    std::cout << outcome.record.dump(4, ' ', false, nlohmann::json::error_handler_t::replace) << std::endl;
+    std::cout << text << std::flush;
     if (!std::cout) {
         std::cerr << "apicall: " << Filled(Texts::tr("the result cannot be written")) << std::endl;
         return kFailedCall;
     }
     return kSuccess;
+}
+
+int RunCall(const apicall::Options& options)
+{
+    const catalogue::Call& call = NamedCall(options.call);
+    const apicall::GivenArguments given(call, options.arguments);
+    json arguments = given.Object();
+    // What is wrong with them is said before the server is looked at.
+    std::optional<FirstRead> first;
+    if (options.merge) {
+        first.emplace(call, arguments);
+    } else {
+        catalogue::ReadArguments(call, arguments);
+    }
+    Session session(options);
+    if (first) {
+        const Outcome outcome = session.Run(*first->read.call, first->arguments);
+        if (!outcome) {
+            return kFailedCall;
+        }
+        arguments[std::string(first->read.argument->name)] = outcome.record;
+        given.MergeInto(arguments);
+    }
+    if (options.dryRun) {
+        const std::string request = session.Preview(call, arguments);
+        return request.empty() ? kFailedCall : Print(request);
+    }
+    const Outcome outcome = session.Run(call, arguments);
+    return outcome ? Print(outcome.record.dump(4, ' ', false, json::error_handler_t::replace) + '\n') : kFailedCall;
+}
+
+/// A name a line, for scripts and for the completion of a shell.
+std::string Names(const std::string& call)
+{
+    std::string names;
+    if (call.empty()) {
+        for (const catalogue::Call& known : catalogue::Calls()) {
+            names += known.name + '\n';
+        }
+    } else {
+        for (const catalogue::Argument& argument : NamedCall(call).arguments) {
+            names += std::string(argument.name) + '\n';
+        }
+    }
+    return names;
 }
 
 int Main(int argc, char** argv)
@@ -122,6 +253,8 @@ int Main(int argc, char** argv)
         std::cout << "apicall " << APICALL_VERSION << '\n';
     } else if (options.list) {
         std::cout << apicall::ListOfCalls();
+    } else if (options.names) {
+        std::cout << Names(options.call);
     } else if (options.help) {
         std::cout << (options.call.empty() ? options.usage : apicall::HelpFor(NamedCall(options.call)));
     } else if (options.call.empty()) {

@@ -6,6 +6,8 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cctype>
+#include <numeric>
 
 namespace catalogue {
 namespace {
@@ -20,16 +22,22 @@ std::string NamesOfArguments(const Call& call)
     return names;
 }
 
-/// Ends with what the call takes instead.
-[[noreturn]] void RefuseArgument(const Call& call, const std::string& name)
+/// How many letters must be inserted, removed or replaced; upper and lower case count as the same.
+std::size_t Distance(std::string_view left, std::string_view right)
 {
-    if (call.arguments.empty()) {
-        //: %1 is a call
-        throw Mismatch(Filled(Texts::tr("%1 has no argument \"%2\": it takes none"), call.name, name));
+    std::vector<std::size_t> row(right.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t(0));
+    for (const char letter : left) {
+        std::size_t diagonal = row[0]++;
+        for (std::size_t i = 0; i < right.size(); ++i) {
+            const bool isSame =
+                std::tolower(static_cast<unsigned char>(letter)) == std::tolower(static_cast<unsigned char>(right[i]));
+            const std::size_t replaced = diagonal + (isSame ? 0 : 1);
+            diagonal = row[i + 1];
+            row[i + 1] = std::min({replaced, diagonal + 1, row[i] + 1});
+        }
     }
-    //: %1 is a call, %3 the names of its arguments
-    throw Mismatch(
-        Filled(Texts::tr("%1 has no argument \"%2\": it takes %3"), call.name, name, NamesOfArguments(call)));
+    return row.back();
 }
 
 void RefuseUnknown(const Call& call, const nlohmann::json& arguments)
@@ -70,6 +78,40 @@ const Call* FindCall(std::string_view name)
     const auto& calls = Calls();
     const auto found = std::find_if(calls.begin(), calls.end(), [name](const Call& call) { return call.name == name; });
     return found == calls.end() ? nullptr : &*found;
+}
+
+std::string ClosestName(std::string_view misspelt, const std::vector<std::string_view>& names)
+{
+    constexpr std::size_t kLettersForAMistake = 4;
+    std::string_view closest;
+    std::size_t least = misspelt.size() / kLettersForAMistake + 1;
+    for (const std::string_view name : names) {
+        const std::size_t distance = Distance(misspelt, name);
+        if (distance < least) {
+            least = distance;
+            closest = name;
+        }
+    }
+    return std::string(closest);
+}
+
+void RefuseArgument(const Call& call, const std::string& name)
+{
+    if (call.arguments.empty()) {
+        //: %1 is a call
+        throw Mismatch(Filled(Texts::tr("%1 has no argument \"%2\": it takes none"), call.name, name));
+    }
+    std::vector<std::string_view> names;
+    for (const Argument& argument : call.arguments) {
+        names.push_back(argument.name);
+    }
+    if (const std::string closest = ClosestName(name, names); !closest.empty()) {
+        //: %1 is a call, %3 the name of one of its arguments
+        throw Mismatch(Filled(Texts::tr("%1 has no argument \"%2\"; did you mean \"%3\"?"), call.name, name, closest));
+    }
+    //: %1 is a call, %3 the names of its arguments
+    throw Mismatch(
+        Filled(Texts::tr("%1 has no argument \"%2\": it takes %3"), call.name, name, NamesOfArguments(call)));
 }
 
 std::string Translated(std::string_view text)

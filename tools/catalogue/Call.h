@@ -5,6 +5,7 @@
 #include <nlohmann/json_fwd.hpp>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +16,8 @@ class QWidget;
 
 namespace APIModule {
 class CallHandle;
-}
+struct ObservedExchange;
+}  // namespace APIModule
 
 namespace catalogue {
 
@@ -43,10 +45,12 @@ struct Call {
     int (*pack)(void* pReqParamData, void* const* arguments, int nServerId) = nullptr;
     int (*parse)(const QJsonObject& data, void* record) = nullptr;  ///< null without a Parse
 
-    /// See Run() and Start() of Run.h.
+    /// See Run(), Start() and Preview() of Run.h.
     Outcome (*run)(void* const* arguments, const RunSettings& settings, QWidget* parent) = nullptr;
     APIModule::CallHandle (*start)(void* const* arguments, const RunSettings& settings, QObject* context,
                                    const std::function<void(const Outcome&)>& finished) = nullptr;
+    std::optional<APIModule::ObservedExchange> (*preview)(void* const* arguments,
+                                                          const RunSettings& settings) = nullptr;
 
     [[nodiscard]] const Argument* FindArgument(std::string_view argumentName) const;
 };
@@ -57,8 +61,14 @@ const std::vector<Call>& Calls();
 /// Null for an unknown name.
 const Call* FindCall(std::string_view name);
 
+/// The one of @p names that @p misspelt probably stands for; empty when none is close.
+std::string ClosestName(std::string_view misspelt, const std::vector<std::string_view>& names);
+
 /// The subject or the summary of a call in the user's language, as UTF-8.
 std::string Translated(std::string_view text);
+
+/// Throws Mismatch, because a call has no argument of that name.
+[[noreturn]] void RefuseArgument(const Call& call, const std::string& name);
 
 /// The arguments of a call in their order, from an object that holds each of them under its name. Throws Mismatch.
 std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& arguments);

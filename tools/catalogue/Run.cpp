@@ -47,4 +47,10 @@ APIModule::CallHandle Start(const Call& call, const std::vector<Value>& argument
     return call.start(DataOf(arguments).data(), settings, context, finished);
 }
 
+std::optional<APIModule::ObservedExchange> Preview(const Call& call, const std::vector<Value>& arguments,
+                                                   const RunSettings& settings)
+{
+    return call.preview(DataOf(arguments).data(), settings);
+}
+
 }  // namespace catalogue

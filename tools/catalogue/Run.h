@@ -36,4 +36,8 @@ Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSett
 APIModule::CallHandle Start(const Call& call, const std::vector<Value>& arguments, const RunSettings& settings,
                             QObject* context, const std::function<void(const Outcome&)>& finished);
 
+/// The request of a call, which is not sent, as APIModule::Preview() makes it.
+std::optional<APIModule::ObservedExchange> Preview(const Call& call, const std::vector<Value>& arguments,
+                                                   const RunSettings& settings = {});
+
 }  // namespace catalogue

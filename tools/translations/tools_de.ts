@@ -65,11 +65,6 @@
         <translation>%1 kann nicht geöffnet werden</translation>
     </message>
     <message>
-        <source>%1 is not JSON: %2</source>
-        <extracomment>%1 is what was read, %2 the reason</extracomment>
-        <translation>%1 ist kein JSON: %2</translation>
-    </message>
-    <message>
         <source>nothing may follow the JSON object with the arguments</source>
         <translation>auf das JSON-Objekt mit den Argumenten darf nichts folgen</translation>
     </message>
@@ -130,30 +125,6 @@
     <message>
         <source>no call is named; apicall --help tells how it is used</source>
         <translation>es ist kein Aufruf angegeben; apicall --help sagt, wie es geht</translation>
-    </message>
-    <message>
-        <source>Arguments of a call:
-  name=value       a text as it stands, anything else as JSON
-  {&quot;name&quot;: value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
-
-Examples:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-
-Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
-Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
-        <translation>Argumente eines Aufrufs:
-  Name=Wert        ein Text, wie er da steht, alles andere als JSON
-  {&quot;Name&quot;: Wert}   alle in einem JSON-Objekt; @DATEI oder - liest es aus einer Datei oder von der Standardeingabe
-
-Beispiele:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-
-Die Standardausgabe trägt allein das Ergebnis, null bei einem Aufruf ohne Ergebnis; Protokollzeilen und Fehler gehen auf die Standardfehlerausgabe.
-Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</translation>
     </message>
     <message>
         <source>Runs one call of the library against a platform server and prints its record as JSON.</source>
@@ -269,6 +240,73 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
         <translation>die Antwort enthält kein lesbares %1</translation>
     </message>
+    <message>
+        <source>%1 is not JSON: it cannot be read from byte %2 on</source>
+        <extracomment>%1 is what was read, %2 a number</extracomment>
+        <translation>%1 ist kein JSON: ab Byte %2 ist es nicht lesbar</translation>
+    </message>
+    <message>
+        <source>first byte after %1 ms, end after %2 ms</source>
+        <extracomment>Times in milliseconds</extracomment>
+        <translation>erstes Byte nach %1 ms, Ende nach %2 ms</translation>
+    </message>
+    <message>
+        <source>there is no call &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>den Aufruf „%1“ gibt es nicht; ist „%2“ gemeint?</translation>
+    </message>
+    <message>
+        <source>--merge: no call reads what %1 writes</source>
+        <extracomment>%1 is a call</extracomment>
+        <translation>--merge: kein Aufruf liest, was %1 schreibt</translation>
+    </message>
+    <message>
+        <source>Arguments of a call:
+  name=value       a text as it stands, anything else as JSON
+  name/field=value a field of a record; name/0 is the first element of a list
+  {&quot;name&quot;: value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
+
+Examples:
+  apicall --list
+  apicall --help BRMS.GetLocalSetting
+  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+
+Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
+Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
+        <translation>Argumente eines Aufrufs:
+  Name=Wert        ein Text, wie er da steht, alles andere als JSON
+  Name/Feld=Wert   ein Feld eines Datensatzes; name/0 ist das erste Element einer Liste
+  {&quot;Name&quot;: Wert}   alle in einem JSON-Objekt; @DATEI oder - liest es aus einer Datei oder von der Standardeingabe
+
+Beispiele:
+  apicall --list
+  apicall --help BRMS.GetLocalSetting
+  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+
+Die Standardausgabe trägt allein das Ergebnis, null bei einem Aufruf ohne Ergebnis; Protokollzeilen und Fehler gehen auf die Standardfehlerausgabe.
+Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</translation>
+    </message>
+    <message>
+        <source>Print names alone: of the calls, or of the arguments of CALL</source>
+        <translation>Nur Namen ausgeben: die der Aufrufe oder die der Argumente von CALL</translation>
+    </message>
+    <message>
+        <source>Write log lines only when the call fails</source>
+        <translation>Protokollzeilen nur schreiben, wenn der Aufruf fehlschlägt</translation>
+    </message>
+    <message>
+        <source>Write request and reply to standard error, without the token</source>
+        <translation>Anfrage und Antwort ohne das Token auf die Standardfehlerausgabe schreiben</translation>
+    </message>
+    <message>
+        <source>Print the request, without the token, and send nothing</source>
+        <translation>Die Anfrage ohne das Token ausgeben und nichts senden</translation>
+    </message>
+    <message>
+        <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
+        <translation>Für einen Aufruf, der schreibt: lesen, was er ersetzt, ändern, was ARGUMENT nennt, und das schreiben</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>
@@ -331,6 +369,21 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <source>%1 has no such field</source>
         <extracomment>%1 is a type</extracomment>
         <translation>%1 hat kein solches Feld</translation>
+    </message>
+    <message>
+        <source>%1 has no argument &quot;%2&quot;; did you mean &quot;%3&quot;?</source>
+        <extracomment>%1 is a call, %3 the name of one of its arguments</extracomment>
+        <translation>%1 hat kein Argument „%2“; ist „%3“ gemeint?</translation>
+    </message>
+    <message>
+        <source>%1, which is read first, needs &quot;%2&quot; of %3</source>
+        <extracomment>%1 is a call, %2 the argument that it needs, %3 another call, which the user runs</extracomment>
+        <translation>%1, das zuerst gelesen wird, braucht „%2“ von %3</translation>
+    </message>
+    <message>
+        <source>/%1: %2 has no such place</source>
+        <extracomment>%1 is a path such as /config/interval, %2 a type</extracomment>
+        <translation>/%1: %2 hat keine solche Stelle</translation>
     </message>
 </context>
 <context>

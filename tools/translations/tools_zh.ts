@@ -65,11 +65,6 @@
         <translation>无法打开 %1</translation>
     </message>
     <message>
-        <source>%1 is not JSON: %2</source>
-        <extracomment>%1 is what was read, %2 the reason</extracomment>
-        <translation>%1 不是 JSON：%2</translation>
-    </message>
-    <message>
         <source>nothing may follow the JSON object with the arguments</source>
         <translation>包含参数的 JSON 对象之后不能再有内容</translation>
     </message>
@@ -130,30 +125,6 @@
     <message>
         <source>no call is named; apicall --help tells how it is used</source>
         <translation>未指定调用；用法请见 apicall --help</translation>
-    </message>
-    <message>
-        <source>Arguments of a call:
-  name=value       a text as it stands, anything else as JSON
-  {&quot;name&quot;: value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
-
-Examples:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-
-Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
-Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
-        <translation>调用的参数：
-  名称=值          文本按原样给出，其他值写成 JSON
-  {&quot;名称&quot;: 值}     全部参数写在一个 JSON 对象中；@文件 或 - 表示从文件或标准输入读取
-
-示例：
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-
-标准输出只包含结果，没有结果的调用输出 null；日志和错误写到标准错误输出。
-退出状态：0 成功，1 调用失败，2 用法错误。</translation>
     </message>
     <message>
         <source>Runs one call of the library against a platform server and prints its record as JSON.</source>
@@ -269,6 +240,73 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
         <translation>应答中没有可读的 %1</translation>
     </message>
+    <message>
+        <source>%1 is not JSON: it cannot be read from byte %2 on</source>
+        <extracomment>%1 is what was read, %2 a number</extracomment>
+        <translation>%1 不是 JSON：从第 %2 个字节起无法读取</translation>
+    </message>
+    <message>
+        <source>first byte after %1 ms, end after %2 ms</source>
+        <extracomment>Times in milliseconds</extracomment>
+        <translation>%1 毫秒后收到首字节，%2 毫秒后结束</translation>
+    </message>
+    <message>
+        <source>there is no call &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>没有名为“%1”的调用；您是指“%2”吗？</translation>
+    </message>
+    <message>
+        <source>--merge: no call reads what %1 writes</source>
+        <extracomment>%1 is a call</extracomment>
+        <translation>--merge：没有调用读取 %1 所写入的内容</translation>
+    </message>
+    <message>
+        <source>Arguments of a call:
+  name=value       a text as it stands, anything else as JSON
+  name/field=value a field of a record; name/0 is the first element of a list
+  {&quot;name&quot;: value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
+
+Examples:
+  apicall --list
+  apicall --help BRMS.GetLocalSetting
+  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+
+Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
+Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
+        <translation>调用的参数：
+  名称=值          文本按原样给出，其他值写成 JSON
+  名称/字段=值     记录的一个字段；名称/0 是列表的第一个元素
+  {&quot;名称&quot;: 值}     全部参数写在一个 JSON 对象中；@文件 或 - 表示从文件或标准输入读取
+
+示例：
+  apicall --list
+  apicall --help BRMS.GetLocalSetting
+  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+
+标准输出只包含结果，没有结果的调用输出 null；日志和错误写到标准错误输出。
+退出状态：0 成功，1 调用失败，2 用法错误。</translation>
+    </message>
+    <message>
+        <source>Print names alone: of the calls, or of the arguments of CALL</source>
+        <translation>只打印名称：所有调用的名称，或 CALL 的参数名称</translation>
+    </message>
+    <message>
+        <source>Write log lines only when the call fails</source>
+        <translation>仅在调用失败时输出日志行</translation>
+    </message>
+    <message>
+        <source>Write request and reply to standard error, without the token</source>
+        <translation>将请求和响应写到标准错误输出，不含令牌</translation>
+    </message>
+    <message>
+        <source>Print the request, without the token, and send nothing</source>
+        <translation>打印请求（不含令牌），不发送任何内容</translation>
+    </message>
+    <message>
+        <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
+        <translation>用于写入类调用：先读取将被替换的内容，修改 ARGUMENT 指定的部分，再写入</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>
@@ -331,6 +369,21 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <source>%1 has no such field</source>
         <extracomment>%1 is a type</extracomment>
         <translation>%1 没有此字段</translation>
+    </message>
+    <message>
+        <source>%1 has no argument &quot;%2&quot;; did you mean &quot;%3&quot;?</source>
+        <extracomment>%1 is a call, %3 the name of one of its arguments</extracomment>
+        <translation>%1 没有参数“%2”；您是指“%3”吗？</translation>
+    </message>
+    <message>
+        <source>%1, which is read first, needs &quot;%2&quot; of %3</source>
+        <extracomment>%1 is a call, %2 the argument that it needs, %3 another call, which the user runs</extracomment>
+        <translation>首先要读取的 %1 需要 %3 的“%2”</translation>
+    </message>
+    <message>
+        <source>/%1: %2 has no such place</source>
+        <extracomment>%1 is a path such as /config/interval, %2 a type</extracomment>
+        <translation>/%1：%2 没有这个位置</translation>
     </message>
 </context>
 <context>

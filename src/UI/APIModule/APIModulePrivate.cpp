@@ -266,6 +266,32 @@ void CAPIModulePrivate::Deliver(const ReadData& read, ReplyInfo& reply)
     }
 }
 
+std::optional<ObservedExchange> CAPIModulePrivate::Preview(const CallSteps& steps)
+{
+    if (!AttachToApplication()) {
+        LogFailure({kModuleFile, kExecuteFuncs}, "Preview failed! wrong thread or no application.");
+        return std::nullopt;
+    }
+    CallResult result;
+    QNetworkRequest request;
+    LogCapture::Lines lines;
+    std::optional<LogCapture> capture(std::in_place, lines);
+    const bool bPrepared = Prepare(steps, request, result);
+    capture.reset();
+    if (!bPrepared) {
+        LogCapture::Write(lines);
+        return std::nullopt;
+    }
+    http::AccessManager manager(0);
+    const http::Reply* const pReply = Send(manager, request);
+    ObservedExchange preview;
+    preview.method = pReply->Verb();
+    preview.url = MaskedUrl(request);
+    preview.requestHeaders = MaskedHeaders(pReply->Head());
+    preview.requestBody = pReply->SentBody();
+    return preview;
+}
+
 CallHandle CAPIModulePrivate::Start(const CallSteps& steps, QObject* pContext, const Finished& finished)
 {
     if (!AttachToApplication() || !pContext || pContext->thread() != thread()) {
@@ -462,20 +488,20 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
     return CodeOf(reply.eEnd);
 }
 
-http::Reply* CAPIModulePrivate::Send(const QNetworkRequest& request)
+http::Reply* CAPIModulePrivate::Send(http::AccessManager& manager, const QNetworkRequest& request)
 {
     const auto send = [&](const QByteArray& body) -> QNetworkReply* {
         switch (request.attribute(kMethodAttribute).value<Method>()) {
         case Method_Put:
-            return m_pNetworkManager->put(request, body);
+            return manager.put(request, body);
         case Method_Post:
-            return m_pNetworkManager->post(request, body);
+            return manager.post(request, body);
         case Method_Delete:
-            return m_pNetworkManager->sendCustomRequest(request, "DELETE", body);
+            return manager.sendCustomRequest(request, "DELETE", body);
         case Method_Get:
             break;
         }
-        return m_pNetworkManager->get(request);
+        return manager.get(request);
     };
     return qobject_cast<http::Reply*>(send(request.attribute(kBodyAttribute).toByteArray()));
 }

@@ -79,11 +79,14 @@ public:
     /// Lets an exchange have what its call and the host want of it.
     void SetUp(Exchange& exchange, const CallSteps* pSteps) const;
 
+    /// Packs and builds a request that is not sent. See APIModule::Preview().
+    std::optional<ObservedExchange> Preview(const CallSteps& steps);
+
     /// How long a request may be on its way.
     /// @param pSteps of a typed call, null for ExecuteFuncs()
     std::chrono::milliseconds TimeoutOf(const QNetworkRequest& request, const CallSteps* pSteps) const;
 
-    http::Reply* Send(const QNetworkRequest& request);
+    http::Reply* Send(const QNetworkRequest& request) { return Send(*m_pNetworkManager, request); }
 
     /// Deletes earlier network managers whose calls have ended.
     void RetireManagers();
@@ -100,6 +103,7 @@ private:
         QQueue<QPointer<StartedCall>> waiting;  ///< among them those that ended before their turn
     };
 
+    static http::Reply* Send(http::AccessManager& manager, const QNetworkRequest& request);
     void MoveTo(QThread* pThread);
     void AttachTo(QCoreApplication& application);
     void DetachFromApplication();

@@ -51,6 +51,11 @@ CallHandle StartCall(const RequestParts& parts, const ReadData& read, QObject* p
     return CAPIModulePrivate::Get().Start(StepsOf("Start", parts, read), pContext, finished);
 }
 
+std::optional<ObservedExchange> PreviewCall(const RequestParts& parts)
+{
+    return CAPIModulePrivate::Get().Preview(StepsOf("Preview", parts, {}));
+}
+
 }  // namespace detail
 
 }  // namespace APIModule

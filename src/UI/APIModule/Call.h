@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ObservedExchange.h"
 #include "Request.h"
 
 #include <QObject>
@@ -7,13 +8,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
 class QWidget;
 
 /// @file
-/// Runs typed calls: Run() waits for the outcome, Start() has it delivered.
+/// Runs typed calls: Run() waits for the outcome, Start() has it delivered, Preview() sends nothing.
 
 namespace APIModule {
 
@@ -58,6 +60,7 @@ APIMODULE_EXPORT std::shared_ptr<const CallResult> RunCall(const RequestParts& p
                                                            QWidget* pParent);
 APIMODULE_EXPORT CallHandle StartCall(const RequestParts& parts, const ReadData& read, QObject* pContext,
                                       const Finished& finished);
+APIMODULE_EXPORT std::optional<ObservedExchange> PreviewCall(const RequestParts& parts);
 
 /// Reads into a record that it shares.
 template <typename Record>
@@ -116,6 +119,21 @@ CallHandle Start(const FixedRequest<Record>& request, QObject* pContext, Functio
         [pRecord, finished = std::move(finished)](const std::shared_ptr<const detail::CallResult>& pResult) mutable {
             finished(Outcome<Record>(pResult, pRecord));
         });
+}
+
+/// Makes the request of a call without sending it.
+///
+/// The headers are those of a request without a proxy. The Pack runs; its log lines are dropped unless it fails.
+///
+/// Only the thread of the application object may call it; on another one it writes a log line and returns nothing.
+///
+/// @param request what a Call makes from its arguments
+/// @return method, masked URL, headers and body of the request, all else as by default; nothing when the call cannot
+///         be packed or its request cannot be sent
+template <typename Record>
+std::optional<ObservedExchange> Preview(const FixedRequest<Record>& request)
+{
+    return detail::PreviewCall(request.Parts());
 }
 
 }  // namespace APIModule

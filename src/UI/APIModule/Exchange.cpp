@@ -21,23 +21,6 @@ namespace {
 /// A smaller reply is read before a thread would have begun.
 constexpr int kLargeReply = 256 * 1024;
 
-/// The header lines of a request as it was sent.
-ObservedExchange::Headers MaskedHeaders(const QByteArray& head)
-{
-    ObservedExchange::Headers headers;
-    const QList<QByteArray> lines = head.split('\n');
-    for (int i = 1; i < lines.size(); ++i) {
-        const QByteArray line = lines.at(i).trimmed();
-        const int nColon = line.indexOf(':');
-        if (nColon > 0) {
-            const QByteArray name = line.left(nColon);
-            const bool bSecret = name == "X-Subject-Token" || name == "Proxy-Authorization";
-            headers.append({name, bSecret ? QByteArrayLiteral("******") : line.mid(nColon + 2)});
-        }
-    }
-    return headers;
-}
-
 /// Takes an end that is no answer of the server. @return Success for an answer
 CallEnd TakeEnd(const http::Reply& finished, const QNetworkRequest& request, const char* pFunction)
 {
@@ -68,6 +51,22 @@ CallEnd TakeEnd(const http::Reply& finished, const QNetworkRequest& request, con
 QString MaskedUrl(const QNetworkRequest& request)
 {
     return MaskToken(request.url().toString());
+}
+
+ObservedExchange::Headers MaskedHeaders(const QByteArray& head)
+{
+    ObservedExchange::Headers headers;
+    const QList<QByteArray> lines = head.split('\n');
+    for (int i = 1; i < lines.size(); ++i) {
+        const QByteArray line = lines.at(i).trimmed();
+        const int nColon = line.indexOf(':');
+        if (nColon > 0) {
+            const QByteArray name = line.left(nColon);
+            const bool bSecret = name == "X-Subject-Token" || name == "Proxy-Authorization";
+            headers.append({name, bSecret ? QByteArrayLiteral("******") : line.mid(nColon + 2)});
+        }
+    }
+    return headers;
 }
 
 void RunInPool(const std::function<void()>& work)

@@ -86,6 +86,9 @@ private:
 /// The URL of a request as log lines show it.
 QString MaskedUrl(const QNetworkRequest& request);
 
+/// The header lines in the head of a request.
+ObservedExchange::Headers MaskedHeaders(const QByteArray& head);
+
 /// Runs work on a thread of Qt's global pool, or here when there is no application any more.
 void RunInPool(const std::function<void()>& work);
 

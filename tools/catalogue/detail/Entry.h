@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -87,6 +88,11 @@ struct Erased<kCall, APIModule::detail::ParameterList<Parameters...>, std::index
                                 [finished](const auto& outcome) { finished(Untyped(outcome)); });
     }
 
+    static std::optional<APIModule::ObservedExchange> Preview(void* const* arguments, const RunSettings& settings)
+    {
+        return APIModule::Preview(RequestFor(arguments, settings));
+    }
+
     static Call Describe(const std::array<std::string_view, sizeof...(Parameters)>& argumentNames)
     {
         Call call = NamedCall(ConstantName<kCall>());
@@ -96,6 +102,7 @@ struct Erased<kCall, APIModule::detail::ParameterList<Parameters...>, std::index
         call.pack = Pack;
         call.run = Run;
         call.start = Start;
+        call.preview = Preview;
         if constexpr (Its::kHasParse) {
             call.parseName = FunctionName<Its::kParse>();
             call.result = &TypeOf<typename Constant::Record>();

@@ -6,13 +6,7 @@
 
 namespace APIModule::http {
 
-namespace {
-
-constexpr int kMostConnections = 6;  ///< to one server, as browsers and Qt have them
-
-}  // namespace
-
-AccessManager::AccessManager() = default;
+AccessManager::AccessManager(int nMostConnections) : m_nMostConnections(nMostConnections) {}
 
 AccessManager::~AccessManager()
 {
@@ -55,7 +49,7 @@ Connection* AccessManager::Choose(const Reply& reply)
             nOpen += pConnection->IsClosed() ? 0 : 1;
         }
     }
-    if (nOpen == kMostConnections) {
+    if (nOpen == m_nMostConnections) {
         return nullptr;
     }
     const auto& pConnection = m_connections.emplace_back(

@@ -22,7 +22,10 @@ class AccessManager final : public QNetworkAccessManager {
     Q_OBJECT
 
 public:
-    AccessManager();
+    static constexpr int kMostConnections = 6;  ///< to one server, as browsers and Qt have them
+
+    /// @param nMostConnections to one server at a time; with 0 nothing is sent
+    explicit AccessManager(int nMostConnections = kMostConnections);
     ~AccessManager() override;
 
     static constexpr qint64 kDefaultMaximumReplySize = 512LL * 1024 * 1024;
@@ -56,6 +59,7 @@ private:
     void Purge();
     void Later(void (AccessManager::*pWork)());
 
+    const int m_nMostConnections;
     qint64 m_nMaximumReplySize = kDefaultMaximumReplySize;
     std::shared_ptr<const ServerTrust> m_pServerTrust;
     std::vector<std::unique_ptr<Connection>> m_connections;

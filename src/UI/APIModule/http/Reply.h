@@ -55,6 +55,12 @@ public:
     void NoteFirstByte();
     /// Request line and header lines as they were sent; empty when nothing was sent.
     QByteArray SentHead() const { return m_sent.left(m_sent.size() - m_sentBody.size()); }
+    /// The same as it will be sent without a proxy.
+    QByteArray Head() const
+    {
+        const QByteArray bytes = Bytes(nullptr);
+        return bytes.left(bytes.size() - m_sentBody.size());
+    }
     const std::optional<std::chrono::steady_clock::time_point>& FirstByte() const { return m_firstByte; }
 
     /// Whether the server may do something twice when the request reaches it twice.

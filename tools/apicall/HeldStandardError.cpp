@@ -1,0 +1,60 @@
+#include "HeldStandardError.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <iostream>
+
+namespace apicall {
+
+HeldStandardError::HeldStandardError() : m_file(std::tmpfile(), std::fclose)
+{
+    std::cerr << std::flush;
+    if (m_file) {
+        m_standardError = dup(STDERR_FILENO);
+        dup2(fileno(m_file.get()), STDERR_FILENO);
+    }
+}
+
+HeldStandardError::~HeldStandardError()
+{
+    Restore();
+}
+
+void HeldStandardError::Restore()
+{
+    if (m_standardError != -1) {
+        dup2(m_standardError, STDERR_FILENO);
+        close(m_standardError);
+        m_standardError = -1;
+    }
+}
+
+void HeldStandardError::Release()
+{
+    if (m_standardError == -1) {
+        return;
+    }
+    Restore();
+    std::rewind(m_file.get());
+    constexpr std::size_t kPart = 4096;
+    std::array<char, kPart> part{};
+    while (const std::size_t size = std::fread(part.data(), 1, part.size(), m_file.get())) {
+        std::cerr.write(part.data(), std::streamsize(size));
+    }
+    std::cerr << std::flush;
+}
+
+void HeldStandardError::WriteThrough(const std::string& text)
+{
+    const int target = m_standardError == -1 ? STDERR_FILENO : m_standardError;
+    for (std::size_t written = 0; written < text.size();) {
+        const ssize_t size = write(target, text.data() + written, text.size() - written);
+        if (size <= 0) {
+            return;
+        }
+        written += std::size_t(size);
+    }
+}
+
+}  // namespace apicall

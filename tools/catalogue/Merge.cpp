@@ -1,0 +1,105 @@
+#include "Merge.h"
+
+#include "detail/Texts.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace catalogue {
+namespace {
+
+/// "EncodeConfig" of "BRMS.UpdateEncodeConfig"; empty for a call that neither sets nor updates.
+std::string SubjectOf(const Call& write)
+{
+    const std::string name = write.name.substr(write.family.size() + 1);
+    for (const std::string verb : {"Set", "Update"}) {
+        if (name.rfind(verb, 0) == 0) {
+            return name.substr(verb.size());
+        }
+    }
+    return {};
+}
+
+bool IsPlain(const Type& type)
+{
+    return type.kind != Kind::Record && type.kind != Kind::List;
+}
+
+bool IsIndex(const std::string& word)
+{
+    constexpr std::size_t kMostDigits = 6;
+    return !word.empty() && word.size() <= kMostDigits &&
+           std::all_of(word.begin(), word.end(), [](char letter) { return letter >= '0' && letter <= '9'; });
+}
+
+/// What a word names in a value of a type; null when there is no such place.
+const Type* Inside(const Type& type, const std::string& word)
+{
+    if (type.kind == Kind::List) {
+        return IsIndex(word) ? type.element : nullptr;
+    }
+    const Field* const field = type.FindField(word);
+    return field == nullptr ? nullptr : field->type;
+}
+
+}  // namespace
+
+std::optional<MatchingRead> FindMatchingRead(const Call& write)
+{
+    const std::string subject = SubjectOf(write);
+    const Call* const read = subject.empty() ? nullptr : FindCall(write.family + ".Get" + subject);
+    if (read == nullptr || read->result == nullptr) {
+        return std::nullopt;
+    }
+    for (const Argument& argument : write.arguments) {
+        if (argument.type == read->result && !IsPlain(*argument.type)) {
+            return MatchingRead{read, &argument};
+        }
+    }
+    return std::nullopt;
+}
+
+nlohmann::json ArgumentsOfRead(const MatchingRead& read, const Call& write, const nlohmann::json& given)
+{
+    const std::string record(read.argument->name);
+    nlohmann::json arguments = nlohmann::json::object();
+    for (const Argument& argument : read.call->arguments) {
+        const std::string name(argument.name);
+        if (given.contains(name)) {
+            arguments[name] = given[name];
+        } else if (given.contains(record) && given[record].is_object() && given[record].contains(name)) {
+            arguments[name] = given[record][name];
+        } else {
+            const std::string place = write.FindArgument(name) != nullptr ? name : record + "/" + name;
+            //: %1 is a call, %2 the argument that it needs, %3 another call, which the user runs
+            throw Mismatch(
+                Filled(Texts::tr("%1, which is read first, needs \"%2\" of %3"), read.call->name, place, write.name));
+        }
+    }
+    return arguments;
+}
+
+const Type& TypeAt(const Call& call, const std::string& path)
+{
+    std::size_t end = path.find('/');
+    const std::string name = path.substr(0, end);
+    const Argument* const argument = call.FindArgument(name);
+    if (argument == nullptr) {
+        RefuseArgument(call, name);
+    }
+    const Type* type = argument->type;
+    while (end != std::string::npos) {
+        const std::size_t begin = end + 1;
+        end = path.find('/', begin);
+        const Type* const inside = Inside(*type, path.substr(begin, end == std::string::npos ? end : end - begin));
+        if (inside == nullptr) {
+            //: %1 is a path such as /config/interval, %2 a type
+            throw Mismatch(Filled(Texts::tr("/%1: %2 has no such place"), path.substr(0, end), NameOf(*type)));
+        }
+        type = inside;
+    }
+    return *type;
+}
+
+}  // namespace catalogue
