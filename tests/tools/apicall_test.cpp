@@ -211,17 +211,40 @@ TEST(Help, ACallIsToldWithItsTypes)
     const std::string help = R"(BRMS.GetLocalSetting (System configuration)
 Reads one of the client's settings
 
+Returns what the server keeps for the client under one setting type.
+
 Arguments:
-  settingType: int
+  settingType: int. Kind of setting, a code of the server.
 
 Result: LocalSettingQueryResult
-  apply: bool
-  settingType: int
-  settingVersion: int64
-  settingContent: text
+  apply: bool. The setting's apply flag.
+  settingType: int. Kind of setting, the number that the query passed.
+  settingVersion: int64. Version of the stored content; grows by one with each update.
+  settingContent: text. The setting itself, an opaque text that the server keeps for the client.
 )";
     EXPECT_EQ(Apicall(Words({"--help", "BRMS.GetLocalSetting"})).out, help);
     EXPECT_EQ(Apicall(Words({"BRMS.GetLocalSetting", "--help"})).out, help);
+}
+
+TEST(Help, AKeyOfSeveralMeaningsHasTheDescriptionOfItsObject)
+{
+    const Ended ended = Apicall(Words({"--help", "IPMS.GetSimpleParkingLots"}));
+    for (const char* line :
+         {"\n  id: text. Identifier of the parking lot.\n", "\n    id: text. Identifier of the position.\n",
+          "\n      id: text. Identifier of the point.\n"}) {
+        EXPECT_TRUE(Contains(ended.out, line)) << ended.out;
+    }
+}
+
+TEST(Help, TheFieldsOfAnArgumentAreDescribed)
+{
+    const Ended ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
+    EXPECT_TRUE(Contains(ended.out,
+                         "\n    page: int. Number of the page, counted from 1; 0 gives the first page, too.\n"
+                         "    pageSize: int. Plans a page.\n"
+                         "    keyword: text. Part of the name, empty for all plans. The host encodes it, "
+                         "R&D as R%26D.\n"))
+        << ended.out;
 }
 
 TEST(Help, ACallWithoutArgumentsOrResultSaysSo)

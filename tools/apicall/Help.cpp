@@ -2,6 +2,8 @@
 
 #include "Texts.h"
 
+#include <Contract.h>
+
 #include <algorithm>
 #include <sstream>
 
@@ -13,14 +15,39 @@ using catalogue::Kind;
 using catalogue::Translated;
 using catalogue::Type;
 
-void WriteFields(std::ostream& out, const Type& type, const std::string& indent)
+/// What the contract says about a call.
+struct Said {
+    std::string description;
+    emulator::Descriptions sent;
+    emulator::Descriptions received;
+};
+
+Said Read(const std::filesystem::path& contract, const std::string& call)
 {
-    if (type.kind == Kind::List) {
-        WriteFields(out, *type.element, indent);
+    try {
+        const emulator::Contract read = emulator::Contract::Load(contract);
+        const emulator::Operation& operation = read.operation(call);
+        return {operation.description, operation.sent, operation.received};
+    } catch (const emulator::ContractError&) {
+        return {};
     }
-    for (const catalogue::Field& field : type.fields) {
-        out << indent << field.name << ": " << NameOf(*field.type) << '\n';
-        WriteFields(out, *field.type, indent + "  ");
+}
+
+/// The fields of a record, or of the records of a list.
+const std::vector<catalogue::Field>& FieldsOf(const Type& type)
+{
+    return type.kind == Kind::List ? FieldsOf(*type.element) : type.fields;
+}
+
+/// A value and the fields in it, each on a line with its type and its description.
+void WriteValue(std::ostream& out, const std::string& indent, std::string_view name, const Type& type,
+                const emulator::Descriptions& descriptions, const std::string& around = {})
+{
+    const std::string key(name);
+    const std::string description = emulator::DescriptionOf(descriptions, around, key);
+    out << indent << key << ": " << NameOf(type) << (description.empty() ? "" : ". ") << description << '\n';
+    for (const catalogue::Field& field : FieldsOf(type)) {
+        WriteValue(out, indent + "  ", field.name, *field.type, descriptions, key);
     }
 }
 
@@ -39,15 +66,18 @@ std::string ListOfCalls()
     return out.str();
 }
 
-std::string HelpFor(const Call& call)
+std::string HelpFor(const Call& call, const std::filesystem::path& contract)
 {
+    const Said said = Read(contract, call.name);
     std::ostringstream out;
     out << call.name << " (" << Translated(call.subject) << ")\n" << Translated(call.summary) << "\n\n";
+    if (!said.description.empty()) {
+        out << said.description << "\n\n";
+    }
 
     out << Filled(call.arguments.empty() ? Texts::tr("Arguments: none") : Texts::tr("Arguments:")) << '\n';
     for (const catalogue::Argument& argument : call.arguments) {
-        out << "  " << argument.name << ": " << NameOf(*argument.type) << '\n';
-        WriteFields(out, *argument.type, "    ");
+        WriteValue(out, "  ", argument.name, *argument.type, said.sent);
     }
 
     out << '\n';
@@ -55,7 +85,9 @@ std::string HelpFor(const Call& call)
         out << Filled(Texts::tr("Result: none")) << '\n';
     } else {
         out << Filled(Texts::tr("Result: %1"), NameOf(*call.result)) << '\n';
-        WriteFields(out, *call.result, "  ");
+        for (const catalogue::Field& field : FieldsOf(*call.result)) {
+            WriteValue(out, "  ", field.name, *field.type, said.received);
+        }
     }
     return out.str();
 }

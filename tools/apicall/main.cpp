@@ -13,6 +13,7 @@
 
 #include <APIModule.h>
 #include <ErrorLexicon/ErrorLexicon.h>
+#include <PlatformEmulator.h>
 
 #include <chrono>
 #include <iostream>
@@ -76,6 +77,11 @@ std::string DetailsOf(const Outcome& outcome, const std::string& token)
             "apicall: " + Filled(Texts::tr("the reply holds no readable %1"), quoted(outcome.UnreadableKey())) + "\n";
     }
     return details;
+}
+
+std::string HelpFor(const std::string& call)
+{
+    return apicall::HelpFor(NamedCall(call), emulator::DefaultShareFolder() / "contract");
 }
 
 /// The library as a host of one server, from its Init to its UnInit.
@@ -256,7 +262,7 @@ int Main(int argc, char** argv)
     } else if (options.names) {
         std::cout << Names(options.call);
     } else if (options.help) {
-        std::cout << (options.call.empty() ? options.usage : apicall::HelpFor(NamedCall(options.call)));
+        std::cout << (options.call.empty() ? options.usage : HelpFor(options.call));
     } else if (options.call.empty()) {
         throw WrongUsage(Filled(Texts::tr("no call is named; apicall --help tells how it is used")));
     } else {

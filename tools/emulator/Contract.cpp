@@ -218,31 +218,68 @@ const Json& SuccessOf(const Json& reply, const std::string& where)
     throw ContractError(Filled(Texts::tr("%1: no reply has the code 1000"), where));
 }
 
-std::vector<QueryParameter> DescribedQuery(const Json& path, const Json& operation, const std::string& where)
+/// The values of path and query.
+std::vector<Json> ParametersOf(const Json& path, const Json& operation)
+{
+    std::vector<Json> parameters;
+    for (const Json* holder : {&path, &operation}) {
+        const Json all = holder->value("parameters", Json::array());
+        std::copy_if(all.begin(), all.end(), std::back_inserter(parameters),
+                     [](const Json& parameter) { return parameter.at("in") != "header"; });
+    }
+    return parameters;
+}
+
+std::vector<QueryParameter> DescribedQuery(const std::vector<Json>& parameters, const std::string& where)
 {
     std::vector<QueryParameter> query;
-    for (const Json* holder : {&path, &operation}) {
-        for (const Json& parameter : holder->value("parameters", Json::array())) {
-            if (parameter.at("in") == "query") {
-                query.push_back(QueryParameter{parameter.at("name"), parameter.value("required", false),
-                                               SchemaOf(parameter.at("schema"), where + "/parameters")});
-            }
+    for (const Json& parameter : parameters) {
+        if (parameter.at("in") == "query") {
+            query.push_back(QueryParameter{parameter.at("name"), parameter.value("required", false),
+                                           SchemaOf(parameter.at("schema"), where + "/parameters")});
         }
     }
     return query;
 }
 
-Json ParameterExamples(const Json& path, const Json& operation)
+Json ParameterExamples(const std::vector<Json>& parameters)
 {
     Json examples = Json::object();
-    for (const Json* holder : {&path, &operation}) {
-        for (const Json& parameter : holder->value("parameters", Json::array())) {
-            if (parameter.at("in") != "header" && parameter.contains("example")) {
-                examples[parameter.at("name").get<std::string>()] = parameter.at("example");
-            }
+    for (const Json& parameter : parameters) {
+        if (parameter.contains("example")) {
+            examples[parameter.at("name").get<std::string>()] = parameter.at("example");
         }
     }
     return examples;
+}
+
+Descriptions ParameterDescriptions(const std::vector<Json>& parameters)
+{
+    Descriptions descriptions;
+    for (const Json& parameter : parameters) {
+        descriptions[parameter.at("name")] = parameter.value("description", "");
+    }
+    return descriptions;
+}
+
+/// The keys of a schema before those of the objects in it: of two keys alike the outer one keeps the bare name.
+void AddDescriptions(const Json& schema, const std::string& around, Descriptions& descriptions)
+{
+    const Json properties = schema.value("properties", Json::object());
+    for (const auto& [key, property] : properties.items()) {
+        const std::string text = property.value("description", "");
+        descriptions.emplace(key, text);
+        if (!around.empty()) {
+            descriptions.emplace(std::string(around).append("/").append(key), text);
+        }
+    }
+    for (const auto& [key, property] : properties.items()) {
+        AddDescriptions(property.value("items", property), key, descriptions);
+    }
+    const Json choices = schema.value("oneOf", Json::array());
+    for (const Json& choice : choices) {
+        AddDescriptions(choice, around, descriptions);
+    }
 }
 
 Operation OperationOf(const std::string& template_, const std::string& method, const Json& path,
@@ -252,27 +289,38 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     const Json& described = path.at(method);
     std::optional<Schema> body;
     std::vector<Json> bodyExamples;
+    const std::vector<Json> parameters = ParametersOf(path, described);
+    Descriptions sent = ParameterDescriptions(parameters);
     if (described.contains("requestBody")) {
         const Json& content = described.at("requestBody").at(jsonContent);
         body = SchemaOf(content.at("schema"), where + "/requestBody");
         bodyExamples = ExamplesOf(content);
+        AddDescriptions(content.at("schema"), {}, sent);
     }
     const Json& content = described.at("responses").at("200").at(jsonContent);
     const Json& reply = content.at("schema");
     const Json& success = SuccessOf(reply, where);
+    Schema replySchema = SchemaOf(reply, where + "/responses/200");
+    Schema successSchema = SchemaOf(success, where + "/responses/200");
+    Json data = success.at("properties").value("data", Json::object());
+    Descriptions received;
+    AddDescriptions(data, {}, received);
     std::string upper = method;
     std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
     return Operation{described.at("operationId"),
                      upper,
                      template_,
-                     DescribedQuery(path, described, where),
+                     DescribedQuery(parameters, where),
                      std::move(body),
-                     SchemaOf(reply, where + "/responses/200"),
-                     SchemaOf(success, where + "/responses/200"),
-                     success.at("properties").value("data", Json::object()),
-                     ParameterExamples(path, described),
+                     std::move(replySchema),
+                     std::move(successSchema),
+                     std::move(data),
+                     ParameterExamples(parameters),
                      std::move(bodyExamples),
-                     ExamplesOf(content)};
+                     ExamplesOf(content),
+                     described.value("description", ""),
+                     std::move(sent),
+                     std::move(received)};
 }
 
 bool IsPlaceholder(const std::string& segment)
@@ -299,6 +347,17 @@ std::optional<PathValues> ValuesOf(const std::string& template_, const std::vect
 }
 
 }  // namespace
+
+std::string DescriptionOf(const Descriptions& descriptions, const std::string& around, const std::string& key)
+{
+    for (const std::string& place : {std::string(around).append("/").append(key), key}) {
+        const auto found = descriptions.find(place);
+        if (found != descriptions.end()) {
+            return found->second;
+        }
+    }
+    return {};
+}
 
 Json Operation::dataExample() const
 {

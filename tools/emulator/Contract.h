@@ -23,6 +23,13 @@ struct QueryParameter {
     Schema schema;
 };
 
+/// What the contract says about values, by their keys. A key of an object inside another one is there as
+/// "<key of the object>/<key>" as well, as "id" may mean several things.
+using Descriptions = std::map<std::string, std::string>;
+
+/// The description of a key, with the key of the object or list around it; empty where there is none.
+std::string DescriptionOf(const Descriptions& descriptions, const std::string& around, const std::string& key);
+
 /// One endpoint, its references resolved.
 struct Operation {
     std::string id;      ///< such as "BRMS.GetTimeSyncConfig"
@@ -36,6 +43,9 @@ struct Operation {
     Json parameterExamples;      ///< of path and query, by name
     std::vector<Json> bodyExamples;
     std::vector<Json> replyExamples;
+    std::string description;
+    Descriptions sent;      ///< of path and query values, and of the keys of the body
+    Descriptions received;  ///< of the keys of the successful reply's "data"
 
     /// The "data" of the first successful reply among the examples; an empty object where it has none.
     [[nodiscard]] Json dataExample() const;

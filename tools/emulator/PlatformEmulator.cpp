@@ -8,8 +8,6 @@
 #include "State.h"
 #include "Text.h"
 
-#include <dlfcn.h>
-
 #include <atomic>
 #include <iostream>
 #include <mutex>
@@ -19,7 +17,6 @@ namespace emulator {
 namespace {
 
 constexpr const char* kControlPath = "/emulator/";
-constexpr const char* kShareFolder = "share/apimodule";
 
 HttpResponse Plain(int status, const Json& body)
 {
@@ -124,23 +121,6 @@ std::string Masked(std::string line, const std::string& secret)
 }
 
 }  // namespace
-
-std::filesystem::path DefaultShareFolder()
-{
-    namespace fs = std::filesystem;
-    std::error_code fault;
-    Dl_info self{};
-    dladdr(reinterpret_cast<const void*>(&DefaultShareFolder), &self);
-    const fs::path program = fs::read_symlink("/proc/self/exe", fault);
-    for (const fs::path& file : {self.dli_fname ? fs::canonical(self.dli_fname, fault) : fs::path(), program}) {
-        for (fs::path folder = file.parent_path(); folder != folder.parent_path(); folder = folder.parent_path()) {
-            if (fs::exists(folder / kShareFolder / "contract", fault)) {
-                return folder / kShareFolder;
-            }
-        }
-    }
-    return program.parent_path().parent_path() / kShareFolder;
-}
 
 class PlatformEmulator::Private {
 public:
