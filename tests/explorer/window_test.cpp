@@ -82,6 +82,22 @@ TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
     EXPECT_TRUE(shown.contains(QStringLiteral("settingContent"))) << shown.toStdString();
 }
 
+TEST_F(WindowTest, TheContractDescribesTheCallAndItsArguments)
+{
+    ASSERT_TRUE(Activate());
+    Press(Qt::Key_F, Qt::ControlModifier);
+    TypeInFocus(QStringLiteral("localsetting get"));
+    Press(Qt::Key_Return);
+    const auto& summary = Find<QLabel>("callSummary");
+    EXPECT_TRUE(Await([&] { return !summary.accessibleDescription().isEmpty(); }));
+    const QString description = QStringLiteral("Returns what the server keeps for the client under one setting type.");
+    EXPECT_EQ(summary.accessibleDescription(), description);
+    EXPECT_TRUE(summary.toolTip().contains(description)) << summary.toolTip().toStdString();
+    const auto labels = Window().findChild<explorer::ArgumentForm*>()->findChildren<QLabel*>();
+    ASSERT_EQ(labels.first()->accessibleName(), QStringLiteral("settingType"));
+    EXPECT_EQ(labels.first()->toolTip(), QStringLiteral("<p>int. Kind of setting, a code of the server.</p>"));
+}
+
 struct Failure {
     std::string name;
     int status;

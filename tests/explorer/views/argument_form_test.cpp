@@ -78,6 +78,7 @@ private slots:
     void ElementsAreAddedRemovedAndMoved();
     void TheTabKeyFollowsTheScreen();
     void LabelsLeadToTheirFields();
+    void DescriptionsStandInTheToolTipsOfTheLabels();
     void ANarrowPaneShowsWholeForms();
     void ACopyIsPastedBack();
     void AWrongPasteSaysWhyAndChangesNothing_data();
@@ -334,6 +335,27 @@ void ArgumentFormTest::LabelsLeadToTheirFields()
         }
     }
     QCOMPARE(labels, 2);
+}
+
+void ArgumentFormTest::DescriptionsStandInTheToolTipsOfTheLabels()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.SetMultiCastConfig"));
+    form.Describe({{QStringLiteral("status"), QStringLiteral("Of the channel, <b> & all.")},
+                   {QStringLiteral("streams/status"), QStringLiteral("Of the stream.")}});
+    Child<QPushButton>(form, "streams.add").click();
+    QStringList shown;
+    const QList<QLabel*> all = form.findChildren<QLabel*>();
+    for (const QLabel* pLabel : all) {
+        if (pLabel->buddy() != nullptr) {
+            shown << pLabel->accessibleName() << pLabel->toolTip() << pLabel->buddy()->accessibleDescription();
+        }
+    }
+    QCOMPARE(shown.join(QLatin1Char('|')).toUtf8(),
+             QByteArray("channelId|text||"
+                        "status|<p>bool. Of the channel, &lt;b&gt; &amp; all.</p>|Of the channel, <b> & all.|"
+                        "multicastIp|text||multicastPort|text||streamType|int||"
+                        "status|<p>bool. Of the stream.</p>|Of the stream."));
 }
 
 void ArgumentFormTest::ANarrowPaneShowsWholeForms()

@@ -28,7 +28,14 @@ void AddKeys(const emulator::Json& schema, QStringList& keys)
 
 Endpoint Describe(const emulator::Operation& operation)
 {
-    Endpoint endpoint{QString::fromStdString(operation.method), QString::fromStdString(operation.path), {}};
+    Endpoint endpoint{QString::fromStdString(operation.method),
+                      QString::fromStdString(operation.path),
+                      {},
+                      QString::fromStdString(operation.description),
+                      {}};
+    for (const auto& [key, description] : operation.sent) {
+        endpoint.sent.insert(QString::fromStdString(key), QString::fromStdString(description));
+    }
     for (const emulator::QueryParameter& parameter : operation.query) {
         endpoint.keys.append(QString::fromStdString(parameter.name));
     }

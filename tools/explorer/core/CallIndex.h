@@ -10,11 +10,13 @@
 
 namespace explorer {
 
-/// Where a call goes and which keys travel, as the contract tells it.
+/// Where a call goes, which keys travel and what they mean, as the contract describes it.
 struct Endpoint {
     QString method;
     QString path;  ///< with its placeholders, "/brms/api/v1.1/user/group/{groupId}"
     QStringList keys;
+    QString description;
+    QHash<QString, QString> sent;  ///< descriptions of what is sent, by argument or key
 };
 
 /// By the name of the call.

@@ -1,6 +1,7 @@
 #include "ArgumentForm.h"
 
 #include "Json.h"
+#include "NameLabel.h"
 #include "RecordEditor.h"
 #include "Theme.h"
 #include "TintedLabel.h"
@@ -84,11 +85,32 @@ void ArgumentForm::SetCall(const catalogue::Call& call)
         pEditor->SetValue(catalogue::Value(*argument.type).ToJson());
         connect(pEditor, &ValueEditor::Changed, this, &ArgumentForm::OnChanged);
         connect(pEditor, &ValueEditor::Rearranged, this, &ArgumentForm::OrderTabs);
+        connect(pEditor, &ValueEditor::Rearranged, this, &ArgumentForm::ShowDescriptions);
         m_editors.emplace_back(std::move(name), pEditor);
     }
     FillArea(pContent);
     OrderTabs();
     OnChanged();
+}
+
+void ArgumentForm::Describe(const QHash<QString, QString>& descriptions)
+{
+    m_descriptions = descriptions;
+    ShowDescriptions();
+}
+
+void ArgumentForm::ShowDescriptions()
+{
+    const QList<NameLabel*> labels = m_pArea->findChildren<NameLabel*>();
+    for (NameLabel* pLabel : labels) {
+        const QString name = pLabel->accessibleName();
+        auto found = m_descriptions.constFind(name);
+        for (const QWidget* pAround = pLabel->parentWidget(); pAround != m_pArea; pAround = pAround->parentWidget()) {
+            const auto inside = m_descriptions.constFind(pAround->accessibleName() + QLatin1Char('/') + name);
+            found = inside != m_descriptions.cend() ? inside : found;
+        }
+        pLabel->Describe(found != m_descriptions.cend() ? *found : QString());
+    }
 }
 
 QJsonObject ArgumentForm::Arguments() const

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <QHash>
 #include <QJsonObject>
 #include <QWidget>
 
@@ -31,6 +32,10 @@ public:
     /// Shows the arguments of a call with the values of fresh ones.
     void SetCall(const catalogue::Call& call);
 
+    /// Shows what arguments and fields mean, those of list elements that are still to be added included.
+    /// @param descriptions by name; that of a field inside of another one by "<the other one>/<name>", where it exists
+    void Describe(const QHash<QString, QString>& descriptions);
+
     /// Each argument under its name. Fields that are not valid count as 0.
     [[nodiscard]] QJsonObject Arguments() const;
     /// Takes over what fits the call; everything else stays as it is.
@@ -52,9 +57,11 @@ private:
     void FillArea(QWidget* pContent);
     void OnChanged();
     void OrderTabs();
+    void ShowDescriptions();
 
     const catalogue::Call* m_pCall = nullptr;
     std::vector<std::pair<std::string, ValueEditor*>> m_editors;
+    QHash<QString, QString> m_descriptions;
     QScrollArea* m_pArea;
     QPushButton* m_pCopy;
     QPushButton* m_pPaste;

@@ -1,14 +1,26 @@
 #include "NameLabel.h"
 
 #include <QRegularExpression>
+#include <QTextDocument>
 
 namespace explorer {
 
-NameLabel::NameLabel(const QString& name, QWidget* pParent) : QLabel(Breakable(name), pParent)
+NameLabel::NameLabel(const QString& name, const QString& typeName) : QLabel(Breakable(name)), m_typeName(typeName)
 {
+    setToolTip(typeName);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAccessibleName(name);
+}
+
+void NameLabel::Describe(const QString& description)
+{
+    // Rich text breaks its lines.
+    const QString text = m_typeName + QLatin1String(". ") + description;
+    setToolTip(description.isEmpty() ? m_typeName : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+    if (buddy() != nullptr) {
+        buddy()->setAccessibleDescription(description);
+    }
 }
 
 QSize NameLabel::sizeHint() const

@@ -9,10 +9,17 @@ class NameLabel : public QLabel {
     Q_OBJECT
 
 public:
-    explicit NameLabel(const QString& name, QWidget* pParent = nullptr);
+    /// @param typeName of the value, shown in the tool tip
+    explicit NameLabel(const QString& name, const QString& typeName = QString());
+
+    /// Adds the meaning of the value to the tool tip, and gives it to screen readers at the field.
+    void Describe(const QString& description);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+
+private:
+    const QString m_typeName;
 };
 
 /// The same name with places at which a line may end.

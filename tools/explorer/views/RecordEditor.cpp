@@ -61,9 +61,8 @@ ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QS
     const QString typeName = QString::fromStdString(NameOf(type));
     if (IsPlain(type)) {
         ValueEditor* pEditor = MakeEditor(type, name, nullptr);
-        auto* pLabel = new NameLabel(name);
+        auto* pLabel = new NameLabel(name, typeName);
         pLabel->setBuddy(pEditor->TabStops().constFirst());
-        pLabel->setToolTip(typeName);
         pForm->addRow(pLabel, pEditor);
         return pEditor;
     }

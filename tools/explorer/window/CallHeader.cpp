@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
+#include <QTextDocument>
 #include <QToolButton>
 
 namespace explorer {
@@ -25,6 +26,7 @@ CallHeader::CallHeader(QWidget* pParent)
     m_pEndpoint->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_pEndpoint->setForegroundRole(QPalette::Link);
     m_pEndpoint->setWordWrap(true);
+    m_pSummary->setObjectName(QStringLiteral("callSummary"));
     m_pSummary->setText(tr("Choose a call on the left to fill it in and run it."));
     m_pSummary->setWordWrap(true);
 
@@ -58,6 +60,11 @@ void CallHeader::Show(const catalogue::Call& call, const Endpoint& endpoint, boo
     m_pEndpoint->setText(endpoint.method + QLatin1Char(' ') + path);
     m_pEndpoint->setVisible(!endpoint.path.isEmpty());
     m_pSummary->setText(QString::fromStdString(catalogue::Translated(call.summary)));
+    // Rich text breaks its lines.
+    m_pSummary->setToolTip(endpoint.description.isEmpty()
+                               ? QString()
+                               : Qt::convertFromPlainText(endpoint.description, Qt::WhiteSpaceNormal));
+    m_pSummary->setAccessibleDescription(endpoint.description);
     m_pFavourite->setEnabled(true);
     m_pFavourite->setChecked(favourite);
 }

@@ -455,8 +455,9 @@ void MainWindow::Choose(const catalogue::Call& call)
 void MainWindow::ShowHeader()
 {
     if (m_pCall != nullptr) {
-        m_pHeader->Show(*m_pCall, m_endpoints.value(QString::fromStdString(m_pCall->name)),
-                        m_pCalls->IsFavourite(*m_pCall));
+        const Endpoint endpoint = m_endpoints.value(QString::fromStdString(m_pCall->name));
+        m_pHeader->Show(*m_pCall, endpoint, m_pCalls->IsFavourite(*m_pCall));
+        m_pForm->Describe(endpoint.sent);
     }
 }
 
