@@ -78,6 +78,8 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/APIModuleConfigVersion.c
 install(FILES "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" "${PROJECT_BINARY_DIR}/APIModuleConfigVersion.cmake"
     DESTINATION "${package_folder}" COMPONENT development)
 
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/apimodule" COMPONENT development)
+
 # From the folder of APIModule.pc to the prefix.
 file(RELATIVE_PATH to_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" /prefix)
 set(translations_variable "")

@@ -14,6 +14,7 @@ else()
     message(FATAL_ERROR "APIMODULE_QT_MAJOR is ${APIMODULE_QT_MAJOR}: APIModule builds with Qt 5 or Qt 6")
 endif()
 set(QT Qt${APIMODULE_QT_MAJOR})
+set(APIModule_QT_MAJOR ${APIMODULE_QT_MAJOR} CACHE INTERNAL "Major version of Qt, for a parent as with find_package(APIModule)")
 foreach(major IN ITEMS 5 6)
     if(NOT major EQUAL APIMODULE_QT_MAJOR AND TARGET Qt${major}::Core)
         message(FATAL_ERROR "The project uses Qt ${major}, and APIModule would be built with Qt ${APIMODULE_QT_MAJOR}: "

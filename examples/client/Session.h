@@ -1,0 +1,20 @@
+#pragma once
+
+#include <UserLogical/IUserManager.h>
+
+/// The server that the user is signed in to.
+struct Server : UserLogical::IServer {
+    UserLogical::ServerConnection address;
+    std::string token;
+
+    void GetConnection(UserLogical::ServerConnection& connection) override { connection = address; }
+    std::string GetToken() override { return token; }
+};
+
+/// The user manager, which the library asks in every call. Before the user has signed in, calls end as NotPacked.
+struct Session : UserLogical::IUserManager {
+    std::shared_ptr<Server> server;
+
+    int GetCurrentServerId() override { return 1; }
+    std::shared_ptr<UserLogical::IServer> GetServer(int /*nServerId*/) override { return server; }
+};
