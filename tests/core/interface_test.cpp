@@ -40,7 +40,7 @@ TEST(Interface, OnlyItsOwnNamesAreExported)
     const QRegularExpression own(
         QStringLiteral("^((typeinfo|typeinfo name|vtable) for )?(non-virtual thunk to )?"
                        "APIModule::(C[A-Za-z]+(Module|Func|WaitDialog|Handle)|OutcomeBase|ServerPin|"
-                       "detail::(Run|Start)Call)(::|\\b)"));
+                       "detail::(Run|Start|Preview)Call)(::|\\b)"));
     const QStringList names = ExportedNames();
     EXPECT_GT(names.size(), 50);
     for (const QString& name : names) {
