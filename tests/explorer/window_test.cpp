@@ -95,7 +95,8 @@ TEST_F(WindowTest, TheContractDescribesTheCallAndItsArguments)
     EXPECT_TRUE(summary.toolTip().contains(description)) << summary.toolTip().toStdString();
     const auto labels = Window().findChild<explorer::ArgumentForm*>()->findChildren<QLabel*>();
     ASSERT_EQ(labels.first()->accessibleName(), QStringLiteral("settingType"));
-    EXPECT_EQ(labels.first()->toolTip(), QStringLiteral("<p>int. Kind of setting, a code of the server.</p>"));
+    EXPECT_EQ(labels.first()->toolTip(),
+              QStringLiteral("<p>int. Kind of setting, a code of the server, such as 1.</p>"));
 }
 
 struct Failure {

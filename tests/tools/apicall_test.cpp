@@ -214,7 +214,7 @@ Reads one of the client's settings
 Returns what the server keeps for the client under one setting type.
 
 Arguments:
-  settingType: int. Kind of setting, a code of the server.
+  settingType: int. Kind of setting, a code of the server, such as 1.
 
 Result: LocalSettingQueryResult
   apply: bool. The setting's apply flag.
