@@ -3,7 +3,7 @@
 #include "../Call.h"
 #include "BRMSModule.h"
 
-/// The calls of CBRMSModule as values: each one is a Pack with the Parse that belongs to it.
+/// The calls of CBRMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
 namespace APIModule::BRMS {
 
 using Module = CBRMSModule;  ///< whose Packs and Parses the calls are made of

@@ -3,7 +3,7 @@
 #include "../Call.h"
 #include "DMSModule.h"
 
-/// The calls of CDMSModule as values: each one is a Pack with the Parse that belongs to it.
+/// The calls of CDMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
 namespace APIModule::DMS {
 
 using Module = CDMSModule;  ///< whose Packs and Parses the calls are made of

@@ -3,7 +3,7 @@
 #include "../Call.h"
 #include "IAMSModule.h"
 
-/// The calls of CIAMSModule as values: each one is a Pack with the Parse that belongs to it.
+/// The calls of CIAMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
 namespace APIModule::IAMS {
 
 using Module = CIAMSModule;  ///< whose Packs and Parses the calls are made of

@@ -3,7 +3,7 @@
 #include "../Call.h"
 #include "IPMSModule.h"
 
-/// The calls of CIPMSModule as values: each one is a Pack with the Parse that belongs to it.
+/// The calls of CIPMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
 namespace APIModule::IPMS {
 
 using Module = CIPMSModule;  ///< whose Packs and Parses the calls are made of

@@ -3,7 +3,7 @@
 #include "../Call.h"
 #include "OBMSModule.h"
 
-/// The calls of COBMSModule as values: each one is a Pack with the Parse that belongs to it.
+/// The calls of COBMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
 namespace APIModule::OBMS {
 
 using Module = COBMSModule;  ///< whose Packs and Parses the calls are made of

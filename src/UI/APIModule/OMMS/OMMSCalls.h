@@ -3,7 +3,7 @@
 #include "../Call.h"
 #include "OMMSModule.h"
 
-/// The calls of COMMSModule as values: each one is a Pack with the Parse that belongs to it.
+/// The calls of COMMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
 namespace APIModule::OMMS {
 
 using Module = COMMSModule;  ///< whose Packs and Parses the calls are made of
