@@ -20,10 +20,9 @@ void Speak(const QString& language)
     APIModule::CAPIModule::GetInstance().SetLanguage(language.toStdString());  // what the server answers in
 }
 
-using APIModule::CallEnd;
-
 QString FailureText(const APIModule::OutcomeBase& outcome, Access access)
 {
+    using APIModule::CallEnd;
     QString text = outcome.Text();
     switch (outcome.End()) {
     case CallEnd::Success:
