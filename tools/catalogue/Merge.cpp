@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <string_view>
 
 namespace catalogue {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 std::string SubjectOf(const Call& write)
 {
     const std::string name = write.name.substr(write.family.size() + 1);
-    for (const std::string verb : {"Set", "Update"}) {
+    for (const std::string_view verb : {std::string_view("Set"), std::string_view("Update")}) {
         if (name.rfind(verb, 0) == 0) {
             return name.substr(verb.size());
         }
@@ -71,7 +72,10 @@ nlohmann::json ArgumentsOfRead(const MatchingRead& read, const Call& write, cons
         } else if (given.contains(record) && given[record].is_object() && given[record].contains(name)) {
             arguments[name] = given[record][name];
         } else {
-            const std::string place = write.FindArgument(name) != nullptr ? name : record + "/" + name;
+            std::string place = name;
+            if (write.FindArgument(name) == nullptr) {
+                place.insert(0, record + '/');
+            }
             //: %1 is a call, %2 the argument that it needs, %3 another call, which the user runs
             throw Mismatch(
                 Filled(Texts::tr("%1, which is read first, needs \"%2\" of %3"), read.call->name, place, write.name));
