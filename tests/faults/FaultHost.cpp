@@ -173,8 +173,9 @@ void FaultHost::WarmUp()
         Use(server, way.scheme);
         ExpectSuccess(way);
     }
-    // What Qt makes once: for the first large reply, and for the first server with a name.
+    // What Qt makes once: for the first large reply, the first change of focus, and the first server with a name.
     QThreadPool::globalInstance();
+    QGuiApplication::inputMethod();
     QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(QUrl(QStringLiteral("http://no-such-host.invalid"))));
     QHostInfo::lookupHost(QStringLiteral("localhost"), QCoreApplication::instance(), [](const QHostInfo&) {});
     QEventLoop loop;
