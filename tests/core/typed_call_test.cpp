@@ -576,6 +576,7 @@ TEST_F(TypedCall, AWaitDialogDelayBeyondWhatATimerTakesShowsNoDialog)
         answer.delayMilliseconds = 200;
         return answer;
     });
+    m_parent.show();
     bool bSeen = false;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&bSeen] { bSeen = bSeen || HasWaitDialog(); });

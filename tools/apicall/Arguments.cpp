@@ -5,10 +5,10 @@
 
 #include <catalogue/Merge.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <set>
 
 namespace apicall {
 namespace {
@@ -78,7 +78,7 @@ GivenArguments::GivenArguments(const catalogue::Call& call, const std::vector<st
         m_assignments.push_back({json::json_pointer(), OneObject(arguments)});
         return;
     }
-    std::set<std::string> names;
+    std::vector<std::string> names;
     for (const std::string& argument : arguments) {
         const auto separator = argument.find('=');
         if (separator == std::string::npos) {
@@ -86,9 +86,16 @@ GivenArguments::GivenArguments(const catalogue::Call& call, const std::vector<st
         }
         const std::string name = argument.substr(0, separator);
         const std::string value = argument.substr(separator + 1);
-        if (!names.insert(name).second) {
+        const auto contains = [](const std::string& outer, const std::string& inner) {
+            return inner == outer || inner.rfind(outer + '/', 0) == 0;
+        };
+        const bool isTwice = std::any_of(names.begin(), names.end(), [&](const std::string& other) {
+            return contains(other, name) || contains(name, other);
+        });
+        if (isTwice) {
             throw WrongUsage(Filled(Texts::tr("argument \"%1\" is given twice"), name));
         }
+        names.push_back(name);
         const catalogue::Type& type = catalogue::TypeAt(call, name);
         const bool isText = type.kind == catalogue::Kind::Text;
         //: %1 is the name, %2 the type

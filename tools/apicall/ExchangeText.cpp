@@ -2,6 +2,8 @@
 
 #include "Texts.h"
 
+#include <algorithm>
+
 namespace apicall {
 namespace {
 

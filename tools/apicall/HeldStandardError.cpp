@@ -12,6 +12,8 @@ HeldStandardError::HeldStandardError() : m_file(std::tmpfile(), std::fclose)
     std::cerr << std::flush;
     if (m_file) {
         m_standardError = dup(STDERR_FILENO);
+    }
+    if (m_standardError != -1) {
         dup2(fileno(m_file.get()), STDERR_FILENO);
     }
 }

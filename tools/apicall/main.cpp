@@ -212,6 +212,9 @@ int RunCall(const apicall::Options& options)
     const catalogue::Call& call = NamedCall(options.call);
     const apicall::GivenArguments given(call, options.arguments);
     json arguments = given.Object();
+    if (!arguments.is_object()) {
+        catalogue::ReadArguments(call, arguments);  // says what it must be
+    }
     // What is wrong with them is said before the server is looked at.
     std::optional<FirstRead> first;
     if (options.merge) {

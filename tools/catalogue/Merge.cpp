@@ -30,7 +30,8 @@ bool IsPlain(const Type& type)
 bool IsIndex(const std::string& word)
 {
     constexpr std::size_t kMostDigits = 6;
-    return !word.empty() && word.size() <= kMostDigits &&
+    const bool isPadded = word.size() > 1 && word.front() == '0';
+    return !word.empty() && word.size() <= kMostDigits && !isPadded &&
            std::all_of(word.begin(), word.end(), [](char letter) { return letter >= '0' && letter <= '9'; });
 }
 
