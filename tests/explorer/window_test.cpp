@@ -1,6 +1,7 @@
 #include "support/ExplorerTest.h"
 
 #include <explorer/views/ArgumentForm.h>
+#include <explorer/views/CodeView.h>
 #include <explorer/views/NumberBox.h>
 #include <explorer/views/ResultView.h>
 #include <explorer/window/Appearance.h>
@@ -11,6 +12,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
@@ -97,6 +99,47 @@ TEST_F(WindowTest, TheContractDescribesTheCallAndItsArguments)
     ASSERT_EQ(labels.first()->accessibleName(), QStringLiteral("settingType"));
     EXPECT_EQ(labels.first()->toolTip(),
               QStringLiteral("<p>int. Kind of setting, a code of the server, such as 1.</p>"));
+}
+
+TEST_F(WindowTest, TheRequestFollowsTheForm)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    Choose("BRMS.GetLocalSetting");
+    auto& results = Find<QTabWidget>("results");
+    results.setCurrentIndex(1);
+    const auto target = [this] { return Find<QPlainTextEdit>("target").toPlainText(); };
+    const auto text = [this](const char* page) { return Find<explorer::CodeView>(page).Text(); };
+    EXPECT_TRUE(Await([&] { return target().endsWith(QStringLiteral("settingType=0")); })) << target().toStdString();
+    EXPECT_TRUE(text("curl").contains(QStringLiteral("\"$TOKEN\"")));
+
+    const int lines = session->log.rowCount();
+    auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
+    auto* const pNumber = pForm->findChild<explorer::NumberBox*>();
+    pNumber->selectAll();
+    QTest::keyClicks(pNumber, QStringLiteral("7"));
+    EXPECT_TRUE(Await([&] { return target().endsWith(QStringLiteral("settingType=7")); })) << target().toStdString();
+    EXPECT_TRUE(text("curl").contains(QStringLiteral("settingType=7")));
+    EXPECT_TRUE(text("cpp").contains(QStringLiteral("settingType = 7")));
+    EXPECT_TRUE(text("apicall").contains(QStringLiteral("settingType=7")));
+
+    Choose("BRMS.SetRemoteLogConfig");
+    Find<QLineEdit>("ip").setText(QStringLiteral("10.0.0.9"));
+    EXPECT_TRUE(Await([&] { return text("body").contains(QStringLiteral("10.0.0.9")); })) << text("body").toStdString();
+    const QString shown = target();
+    EXPECT_TRUE(server.TakeRequests().empty()) << "nothing is sent";
+    EXPECT_EQ(session->log.rowCount(), lines);
+
+    ClickRun();
+    ASSERT_TRUE(AwaitRuns(1));
+    const CallOutcome& outcome = outcomes.front();
+    EXPECT_EQ(shown, outcome.request.method + QLatin1Char(' ') + outcome.request.url);
+
+    RawServer other([](const RawRequest&) { return Success("{}"); });
+    Use(other.Port());
+    const QString port = QString::number(other.Port());
+    EXPECT_TRUE(Await([&] { return target().contains(port); })) << target().toStdString();
+    EXPECT_TRUE(text("apicall").contains(port));
 }
 
 struct Failure {

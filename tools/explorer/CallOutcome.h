@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <nlohmann/json.hpp>
@@ -30,6 +31,14 @@ struct SentRequest {
     QString url;      ///< scheme, host, port, path and query
     Headers headers;  ///< in the order in which they went; empty when nothing was sent
     QByteArray body;  ///< UTF-8, empty for none
+};
+
+/// A call that could be made, and the request that it would send.
+struct RequestDraft {
+    const catalogue::Call* call = nullptr;
+    QJsonObject arguments;
+    SentRequest request;         ///< without a method when the call cannot be packed
+    QStringList apicallOptions;  ///< that lead apicall to the same server
 };
 
 /// The answer of a server.

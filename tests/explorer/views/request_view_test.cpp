@@ -1,13 +1,13 @@
-// The request of a call as it went, and as commands to repeat it.
+// The request of a call, and commands that make it.
 #include "support/Samples.h"
 #include "support/Screenshots.h"
 #include "support/ViewTest.h"
 
 #include <explorer/views/CodeView.h>
 #include <explorer/views/CppLines.h>
-#include <explorer/views/CurlLine.h>
 #include <explorer/views/Json.h>
 #include <explorer/views/RequestView.h>
+#include <explorer/views/ShellLines.h>
 
 #include <QClipboard>
 #include <QLabel>
@@ -16,8 +16,10 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 
-using explorer::CallOutcome;
+#include <algorithm>
+
 using explorer::CodeView;
+using explorer::RequestDraft;
 using explorer::RequestView;
 
 class RequestViewTest : public QObject {
@@ -27,8 +29,8 @@ private slots:
     void MethodUrlHeadersAndBodyAreShown();
     void ABodyThatIsNoJsonIsShownAsItIs();
     void TheCommandsAreReadyToCopy();
-    void ARequestThatWasNotSentIsMarked();
-    void ARequestThatWasNotMadeIsNotShown();
+    void ACallThatCannotBePackedHasNoRequest();
+    void AHintTakesThePlaceOfTheRequest();
     void Screenshots();
 };
 
@@ -54,10 +56,11 @@ QStringList HeadersOf(const RequestView& view)
     return headers;
 }
 
-bool HasMark(const RequestView& view)
+RequestDraft EncodeUpdate()
 {
-    const auto* pHeaderPage = view.findChild<QTreeWidget*>(QStringLiteral("headers"))->parentWidget();
-    return pHeaderPage->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly)->isVisibleTo(pHeaderPage);
+    const explorer::CallOutcome outcome = view_test::EncodeUpdate();
+    return {
+        outcome.call, outcome.arguments, outcome.request, {QStringLiteral("--server"), QStringLiteral("http://h:1")}};
 }
 
 }  // namespace
@@ -65,65 +68,68 @@ bool HasMark(const RequestView& view)
 void RequestViewTest::MethodUrlHeadersAndBodyAreShown()
 {
     RequestView view;
-    const CallOutcome outcome = view_test::EncodeUpdate();
-    view.Show(outcome);
-    QCOMPARE(Target(view), QStringLiteral("PUT ") + outcome.request.url);
+    const RequestDraft draft = EncodeUpdate();
+    view.Show(draft);
+    QCOMPARE(Target(view), QStringLiteral("PUT ") + draft.request.url);
     const QStringList headers = HeadersOf(view);
-    QCOMPARE(headers.size(), outcome.request.headers.size());
+    QCOMPARE(headers.size(), draft.request.headers.size());
     QCOMPARE(headers[0], QStringLiteral("Host=127.0.0.1:8443"));
     QCOMPARE(headers[4], QStringLiteral("X-Subject-Token=**********"));
-    QCOMPARE(Page(view, "body").Text(), explorer::JsonText(nlohmann::json::parse(outcome.request.body.toStdString())));
+    QCOMPARE(Page(view, "body").Text(), explorer::JsonText(nlohmann::json::parse(draft.request.body.toStdString())));
 }
 
 void RequestViewTest::ABodyThatIsNoJsonIsShownAsItIs()
 {
     RequestView view;
-    CallOutcome outcome = view_test::EncodeUpdate();
-    outcome.request.body = "{\"a\": T\xC3\xBCr";
-    view.Show(outcome);
+    RequestDraft draft = EncodeUpdate();
+    draft.request.body = "{\"a\": T\xC3\xBCr";
+    view.Show(draft);
     QCOMPARE(Page(view, "body").Text(), QString::fromUtf8("{\"a\": T\xC3\xBCr"));
 }
 
 void RequestViewTest::TheCommandsAreReadyToCopy()
 {
     RequestView view;
-    const CallOutcome outcome = view_test::EncodeUpdate();
-    view.Show(outcome);
+    const RequestDraft draft = EncodeUpdate();
+    view.Show(draft);
     const auto copied = [&view](const char* page) {
         QGuiApplication::clipboard()->clear();
         Page(view, page).findChild<QPushButton*>()->click();
         return QGuiApplication::clipboard()->text();
     };
-    QCOMPARE(copied("curl"), explorer::CurlLine(outcome.request));
+    QCOMPARE(copied("curl"), explorer::CurlLine(draft.request));
     QVERIFY(copied("curl").contains(QStringLiteral("\"$TOKEN\"")));
-    QCOMPARE(copied("cpp"), explorer::CppLines(*outcome.call, explorer::FromQt(outcome.arguments), -1));
+    QCOMPARE(copied("cpp"), explorer::CppLines(*draft.call, explorer::FromQt(draft.arguments), -1));
+    QCOMPARE(copied("apicall"), explorer::ApicallLine(draft));
 }
 
-void RequestViewTest::ARequestThatWasNotSentIsMarked()
+void RequestViewTest::ACallThatCannotBePackedHasNoRequest()
 {
     RequestView view;
-    CallOutcome outcome = view_test::EncodeUpdate();
-    view.Show(outcome);
-    QVERIFY(!HasMark(view));
-    outcome.request.headers.clear();
-    view.Show(outcome);
-    QVERIFY(HasMark(view));
-}
-
-void RequestViewTest::ARequestThatWasNotMadeIsNotShown()
-{
-    RequestView view;
-    CallOutcome outcome = view_test::EncodeUpdate();
-    view.Show(outcome);
-    outcome.request = {};
-    outcome.arguments = {};  // the lines are then those of a fresh call
-    view.Show(outcome);
+    RequestDraft draft = EncodeUpdate();
+    view.Show(draft);
+    draft.request = {};
+    draft.arguments = {};  // the lines are then those of a fresh call
+    view.Show(draft);
     QCOMPARE(Target(view), QString());
     QVERIFY(HeadersOf(view).isEmpty());
-    QVERIFY(!HasMark(view));
     QCOMPARE(Page(view, "body").Text(), QString());
     QCOMPARE(Page(view, "curl").Text(), QString());
     QVERIFY(Page(view, "cpp").Text().contains(QStringLiteral("std::string channelId = \"\";")));
+}
+
+void RequestViewTest::AHintTakesThePlaceOfTheRequest()
+{
+    RequestView view;
+    const QString hint = QStringLiteral("Nothing is chosen");
+    view.ShowHint(hint);
+    const auto& labels = view.findChildren<QLabel*>();
+    const auto shown = std::count_if(labels.begin(), labels.end(), [&](const QLabel* pLabel) {
+        return pLabel->text() == hint && pLabel->isVisibleTo(&view);
+    });
+    QCOMPARE(int(shown), 1);
+    view.Show(EncodeUpdate());
+    QVERIFY(Page(view, "body").parentWidget()->isVisibleTo(&view));
 }
 
 void RequestViewTest::Screenshots()
@@ -131,18 +137,12 @@ void RequestViewTest::Screenshots()
     using view_test::TakeScreenshots;
     const QSize size(700, 420);
     RequestView view;
-    TakeScreenshots(view, QStringLiteral("request-empty"), size);
-    CallOutcome outcome = view_test::EncodeUpdate();
-    view.Show(outcome);
+    view.Show(EncodeUpdate());
     auto& tabs = *view.findChild<QTabWidget*>();
     for (int tab = 0; tab < tabs.count(); ++tab) {
         tabs.setCurrentIndex(tab);
         TakeScreenshots(view, QStringLiteral("request-%1").arg(tab), size);
     }
-    outcome.request.headers.clear();
-    view.Show(outcome);
-    tabs.setCurrentIndex(0);
-    TakeScreenshots(view, QStringLiteral("request-not-sent"), size);
 }
 
 int main(int argc, char** argv)

@@ -1,4 +1,4 @@
-// The result of a call as tree, JSON, table and raw reply.
+// The result of a call as tree, JSON, table and raw exchange.
 #include "support/Samples.h"
 #include "support/Screenshots.h"
 #include "support/ViewTest.h"
@@ -57,7 +57,7 @@ private slots:
     void WhatIsShownIsExported();
     void TheButtonAsksForTheFile();
     void AFileThatCannotBeWrittenIsTold();
-    void TheReplyIsShownAsItCame();
+    void TheExchangeIsShownAsItWent();
     void WithoutARecordThereIsAHint();
     void Screenshots();
 };
@@ -135,7 +135,7 @@ enum Tab {
     RecordTab,
     JsonTab,
     TableTab,
-    ReplyTab
+    ExchangeTab
 };
 
 }  // namespace
@@ -466,18 +466,26 @@ void ResultViewTest::AFileThatCannotBeWrittenIsTold()
     QVERIFY(!table.ExportTo(QStringLiteral("/no/such/folder/table.csv")));
 }
 
-void ResultViewTest::TheReplyIsShownAsItCame()
+void ResultViewTest::TheExchangeIsShownAsItWent()
 {
     ResultView view;
-    CallOutcome outcome = view_test::AlarmLinkage();
+    CallOutcome outcome = view_test::EncodeUpdate();
+    outcome.request.headers = {{QStringLiteral("X-B"), QStringLiteral("2")}};
+    outcome.request.body = "{}";
     outcome.reply->body = "{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}";
     outcome.reply->headers = {{QStringLiteral("X-A"), QStringLiteral("1")}};
     view.Show(outcome);
-    const auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(ReplyTab));
-    QCOMPARE(page.Text(), QString::fromUtf8("HTTP 200\nX-A: 1\n\n{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
+    const auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(ExchangeTab));
+    const QString sent = QStringLiteral("PUT ") + outcome.request.url + QStringLiteral("\nX-B: 2\n\n{}");
+    QCOMPARE(page.Text(), sent + QString::fromUtf8("\n\nHTTP 200\nX-A: 1\n\n"
+                                                   "{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
     outcome.reply.reset();
     view.Show(outcome);
-    QCOMPARE(page.Text(), QString());
+    QCOMPARE(page.Text(), sent);
+    outcome.request.headers.clear();
+    outcome.request.body.clear();
+    view.Show(outcome);
+    QVERIFY(page.Text().endsWith(QStringLiteral("\n\nNothing was sent.")));
 }
 
 void ResultViewTest::WithoutARecordThereIsAHint()
@@ -514,7 +522,7 @@ void ResultViewTest::Screenshots()
     TakeScreenshots(view, QStringLiteral("result-table-totals"), size);
     view.Show(view_test::DeviceCategories());
     TakeScreenshots(view, QStringLiteral("result-table-counts"), size);
-    tabs.setCurrentIndex(ReplyTab);
+    tabs.setCurrentIndex(ExchangeTab);
     view.Show(view_test::CutShort());
     TakeScreenshots(view, QStringLiteral("result-cut-short"), size);
 }

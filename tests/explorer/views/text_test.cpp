@@ -3,8 +3,8 @@
 
 #include <explorer/views/CppLines.h>
 #include <explorer/views/Csv.h>
-#include <explorer/views/CurlLine.h>
 #include <explorer/views/Json.h>
+#include <explorer/views/ShellLines.h>
 #include <explorer/views/Statistics.h>
 
 #include <catalogue/Call.h>

@@ -42,10 +42,15 @@ double Milliseconds(std::chrono::nanoseconds time)
     return std::chrono::duration<double, std::milli>(time).count();
 }
 
+SentRequest RequestOf(const ObservedExchange& exchange, const QString& token)
+{
+    return {QString::fromLatin1(exchange.method), Masked(exchange.url, token), Masked(exchange.requestHeaders, token),
+            exchange.requestBody};
+}
+
 void Take(CallOutcome& outcome, const ObservedExchange& exchange, const QString& token)
 {
-    outcome.request = {QString::fromLatin1(exchange.method), Masked(exchange.url, token),
-                       Masked(exchange.requestHeaders, token), exchange.requestBody};
+    outcome.request = RequestOf(exchange, token);
     if (exchange.nStatus >= 0) {
         outcome.reply = RawReply{exchange.nStatus, Masked(exchange.responseHeaders, token), exchange.responseBody};
     }
@@ -172,6 +177,24 @@ void Runner::Begin(const RunOrder& order)
     } catch (const catalogue::Mismatch& mismatch) {
         End(number, [&mismatch](Course& course) { return course.Refused(mismatch); });
     }
+}
+
+RequestDraft Runner::Draft(const RunOrder& order)
+{
+    const Server& server = order.server;
+    RequestDraft draft{order.call, order.arguments, {}, {QStringLiteral("--server"), server.Address()}};
+    if (server.language != Server().language) {
+        draft.apicallOptions << QStringLiteral("--language") << server.language;
+    }
+    if (!server.pin.isEmpty()) {
+        draft.apicallOptions << QStringLiteral("--pin") << QString::fromLatin1(server.pin.toHex());
+    }
+    const auto pCourse = std::make_shared<Course>(order);
+    const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
+    if (const auto preview = catalogue::Preview(*order.call, arguments, Course::Settings(pCourse, order))) {
+        draft.request = RequestOf(*preview, pCourse->token);
+    }
+    return draft;
 }
 
 void Runner::Cancel(int number)

@@ -45,6 +45,9 @@ public:
     /// No further repetition begins.
     void CancelRepeat();
 
+    /// What an order would send. Nothing is sent.
+    [[nodiscard]] static RequestDraft Draft(const RunOrder& order);
+
     /// Ends a call that runs without waiting, which has its outcome at once. Nothing happens when it has ended.
     void Cancel(int number);
 

@@ -27,6 +27,26 @@
         <source>The clipboard does not fit: %1</source>
         <translation>Die Zwischenablage passt nicht: %1</translation>
     </message>
+    <message>
+        <source>Edit as JSON</source>
+        <translation>Als JSON bearbeiten</translation>
+    </message>
+    <message>
+        <source>Arguments as JSON</source>
+        <translation>Argumente als JSON</translation>
+    </message>
+    <message>
+        <source>The text does not fit: %1</source>
+        <translation>Der Text passt nicht: %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
 </context>
 <context>
     <name>explorer::CallHeader</name>
@@ -429,6 +449,10 @@
         <source>The call runs as soon as the emulator has started.</source>
         <translation>Der Aufruf beginnt, sobald der Emulator gestartet ist.</translation>
     </message>
+    <message>
+        <source>Choose a call to see its request here.</source>
+        <translation>Wählen Sie einen Aufruf, um hier seine Anfrage zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NumberBox</name>
@@ -525,10 +549,6 @@
         <translation>Die Anfrage hat keinen Rumpf.</translation>
     </message>
     <message>
-        <source>No request was made.</source>
-        <translation>Es ging keine Anfrage hinaus.</translation>
-    </message>
-    <message>
         <source>Header</source>
         <translation>Kopfzeile</translation>
     </message>
@@ -553,16 +573,16 @@
         <translation>An&amp;frage:</translation>
     </message>
     <message>
-        <source>Run a call to see its request here.</source>
-        <translation>Führen Sie einen Aufruf aus, um hier seine Anfrage zu sehen.</translation>
-    </message>
-    <message>
         <source>Hea&amp;ders</source>
         <translation>Ko&amp;pfzeilen</translation>
     </message>
     <message>
-        <source>Nothing was sent.</source>
-        <translation>Nichts wurde gesendet.</translation>
+        <source>No request can be made.</source>
+        <translation>Es lässt sich keine Anfrage bilden.</translation>
+    </message>
+    <message>
+        <source>a&amp;picall</source>
+        <translation>ap&amp;icall</translation>
     </message>
 </context>
 <context>
@@ -647,12 +667,16 @@
         <translation>Datensatz</translation>
     </message>
     <message>
-        <source>Raw repl&amp;y</source>
-        <translation>R&amp;ohe Antwort</translation>
+        <source>Nothing was sent.</source>
+        <translation>Nichts wurde gesendet.</translation>
     </message>
     <message>
-        <source>No complete reply came.</source>
-        <translation>Es kam keine vollständige Antwort.</translation>
+        <source>No request was made.</source>
+        <translation>Es ging keine Anfrage hinaus.</translation>
+    </message>
+    <message>
+        <source>Raw e&amp;xchange</source>
+        <translation>R&amp;oher Austausch</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,26 @@
         <source>The clipboard does not fit: %1</source>
         <translation>剪贴板内容不符：%1</translation>
     </message>
+    <message>
+        <source>Edit as JSON</source>
+        <translation>以 JSON 编辑</translation>
+    </message>
+    <message>
+        <source>Arguments as JSON</source>
+        <translation>JSON 形式的参数</translation>
+    </message>
+    <message>
+        <source>The text does not fit: %1</source>
+        <translation>文本不符：%1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
 </context>
 <context>
     <name>explorer::CallHeader</name>
@@ -428,6 +448,10 @@
         <source>The call runs as soon as the emulator has started.</source>
         <translation>模拟器启动后将立即运行该调用。</translation>
     </message>
+    <message>
+        <source>Choose a call to see its request here.</source>
+        <translation>选择调用后，此处显示其请求。</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NumberBox</name>
@@ -524,10 +548,6 @@
         <translation>请求没有正文。</translation>
     </message>
     <message>
-        <source>No request was made.</source>
-        <translation>没有发出请求。</translation>
-    </message>
-    <message>
         <source>Header</source>
         <translation>标头</translation>
     </message>
@@ -552,16 +572,16 @@
         <translation>请求(&amp;Q)：</translation>
     </message>
     <message>
-        <source>Run a call to see its request here.</source>
-        <translation>运行调用后，此处显示其请求。</translation>
-    </message>
-    <message>
         <source>Hea&amp;ders</source>
         <translation>标头(&amp;D)</translation>
     </message>
     <message>
-        <source>Nothing was sent.</source>
-        <translation>未发送任何内容。</translation>
+        <source>No request can be made.</source>
+        <translation>无法生成请求。</translation>
+    </message>
+    <message>
+        <source>a&amp;picall</source>
+        <translation>apicall(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -646,12 +666,16 @@
         <translation>记录</translation>
     </message>
     <message>
-        <source>Raw repl&amp;y</source>
-        <translation>原始应答(&amp;Y)</translation>
+        <source>Nothing was sent.</source>
+        <translation>未发送任何内容。</translation>
     </message>
     <message>
-        <source>No complete reply came.</source>
-        <translation>没有收到完整的应答。</translation>
+        <source>No request was made.</source>
+        <translation>没有发出请求。</translation>
+    </message>
+    <message>
+        <source>Raw e&amp;xchange</source>
+        <translation>原始交互(&amp;X)</translation>
     </message>
 </context>
 <context>

@@ -2,9 +2,9 @@
 
 #include "CodeView.h"
 #include "CppLines.h"
-#include "CurlLine.h"
 #include "Json.h"
 #include "RoomyDelegate.h"
+#include "ShellLines.h"
 #include "Theme.h"
 #include "TintedLabel.h"
 
@@ -33,11 +33,10 @@ QString Pretty(const QByteArray& body)
 }  // namespace
 
 RequestView::RequestView(QWidget* pParent)
-    : QWidget(pParent), m_pPages(new QStackedWidget), m_pTarget(new QPlainTextEdit), m_pHeaders(new QTreeWidget),
-      m_pNothingSent(new TintedLabel(theme::Hint)),
-      m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
-      m_pCurl(new CodeView(CodeView::Kind::Text, tr("No request was made."))),
-      m_pCpp(new CodeView(CodeView::Kind::Code, QString()))
+    : QWidget(pParent), m_pPages(new QStackedWidget), m_pHint(MakeHint()), m_pTarget(new QPlainTextEdit),
+      m_pHeaders(new QTreeWidget), m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
+      m_pCurl(new CodeView(CodeView::Kind::Text, tr("No request can be made."))),
+      m_pCpp(new CodeView(CodeView::Kind::Code, QString())), m_pApicall(new CodeView(CodeView::Kind::Text, QString()))
 {
     m_pTarget->setObjectName(QStringLiteral("target"));
     m_pTarget->setReadOnly(true);
@@ -48,7 +47,7 @@ RequestView::RequestView(QWidget* pParent)
     constexpr int kLines = 2;  // longer ones scroll
     const double around = 2 * (m_pTarget->document()->documentMargin() + m_pTarget->frameWidth() + 1);
     m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + int(around));
-    m_pTarget->setPlaceholderText(tr("No request was made."));
+    m_pTarget->setPlaceholderText(tr("No request can be made."));
     m_pHeaders->setObjectName(QStringLiteral("headers"));
     m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
     m_pHeaders->setRootIsDecorated(false);
@@ -56,24 +55,18 @@ RequestView::RequestView(QWidget* pParent)
     m_pHeaders->setAllColumnsShowFocus(true);
     m_pHeaders->setFrameShape(QFrame::NoFrame);
     m_pHeaders->setItemDelegate(new RoomyDelegate(m_pHeaders));
-    m_pNothingSent->setContentsMargins(kMargin, 0, kMargin, kMargin);
-    m_pNothingSent->setText(tr("Nothing was sent."));
     m_pBody->setObjectName(QStringLiteral("body"));
     m_pCurl->setObjectName(QStringLiteral("curl"));
     m_pCpp->setObjectName(QStringLiteral("cpp"));
-
-    auto* pHeaderPage = new QWidget;
-    auto* pHeaderLayout = new QVBoxLayout(pHeaderPage);
-    pHeaderLayout->setContentsMargins(0, 0, 0, 0);
-    pHeaderLayout->addWidget(m_pHeaders, 1);
-    pHeaderLayout->addWidget(m_pNothingSent);
+    m_pApicall->setObjectName(QStringLiteral("apicall"));
 
     auto* pTabs = new QTabWidget;
     pTabs->setDocumentMode(true);
-    pTabs->addTab(pHeaderPage, tr("Hea&ders"));
+    pTabs->addTab(m_pHeaders, tr("Hea&ders"));
     pTabs->addTab(m_pBody, tr("&Body"));
     pTabs->addTab(m_pCurl, tr("c&url"));
     pTabs->addTab(m_pCpp, tr("C&++"));
+    pTabs->addTab(m_pApicall, tr("a&picall"));
 
     auto* pTargetLabel = new QLabel(tr("Re&quest:"));
     pTargetLabel->setBuddy(m_pTarget);
@@ -89,32 +82,33 @@ RequestView::RequestView(QWidget* pParent)
     pPageLayout->addLayout(pTargetRow);
     pPageLayout->addWidget(pTabs, 1);
 
-    m_pPages->addWidget(MakeHint(tr("Run a call to see its request here.")));
+    m_pPages->addWidget(m_pHint);
     m_pPages->addWidget(pPage);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pPages);
 }
 
-void RequestView::Clear()
+void RequestView::ShowHint(const QString& text)
 {
+    m_pHint->setText(text);
     m_pPages->setCurrentIndex(0);
 }
 
-void RequestView::Show(const CallOutcome& outcome)
+void RequestView::Show(const RequestDraft& draft)
 {
-    ShowRequest(outcome.request);
+    ShowRequest(draft.request);
     // The current server, whatever the number under which the client knows it.
     constexpr int kCurrentServer = -1;
-    m_pCpp->SetText(outcome.call == nullptr ? QString()
-                                            : CppLines(*outcome.call, FromQt(outcome.arguments), kCurrentServer));
+    m_pCpp->SetText(CppLines(*draft.call, FromQt(draft.arguments), kCurrentServer));
+    m_pApicall->SetText(ApicallLine(draft));
     m_pPages->setCurrentIndex(1);
 }
 
 void RequestView::ShowRequest(const SentRequest& request)
 {
-    const bool wasMade = !request.method.isEmpty();
-    m_pTarget->setPlainText(wasMade ? request.method + QLatin1Char(' ') + request.url : QString());
+    const bool canBeMade = !request.method.isEmpty();
+    m_pTarget->setPlainText(canBeMade ? request.method + QLatin1Char(' ') + request.url : QString());
     m_pTarget->setToolTip(m_pTarget->toPlainText());
     m_pHeaders->clear();
     for (const Header& header : request.headers) {
@@ -124,9 +118,8 @@ void RequestView::ShowRequest(const SentRequest& request)
     constexpr int kRoom = 24;
     m_pHeaders->resizeColumnToContents(0);
     m_pHeaders->setColumnWidth(0, m_pHeaders->columnWidth(0) + kRoom);
-    m_pNothingSent->setVisible(wasMade && request.headers.isEmpty());
     m_pBody->SetText(Pretty(request.body));
-    m_pCurl->SetText(wasMade ? CurlLine(request) : QString());
+    m_pCurl->SetText(canBeMade ? CurlLine(request) : QString());
 }
 
 }  // namespace explorer

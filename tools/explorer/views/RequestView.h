@@ -9,30 +9,32 @@ class QTreeWidget;
 
 namespace explorer {
 
-struct CallOutcome;
+struct RequestDraft;
 struct SentRequest;
 class CodeView;
 
-/// What went out for a call, and the same as a curl command and as C++ lines.
+/// The request of a call, and the same as a curl command, as C++ lines and as an apicall command.
 class RequestView : public QWidget {
     Q_OBJECT
 
 public:
     explicit RequestView(QWidget* pParent = nullptr);
 
-    void Show(const CallOutcome& outcome);
-    void Clear();
+    void Show(const RequestDraft& draft);
+    /// Says why there is no request.
+    void ShowHint(const QString& text);
 
 private:
     void ShowRequest(const SentRequest& request);
 
     QStackedWidget* m_pPages;
+    QLabel* m_pHint;
     QPlainTextEdit* m_pTarget;
     QTreeWidget* m_pHeaders;
-    QLabel* m_pNothingSent;
     CodeView* m_pBody;
     CodeView* m_pCurl;
     CodeView* m_pCpp;
+    CodeView* m_pApicall;
 };
 
 }  // namespace explorer

@@ -17,14 +17,30 @@
 namespace explorer {
 namespace {
 
-/// Status, headers and body with the line ends of this machine.
-QString TextOf(const RawReply& reply)
+QString TextOf(const QString& begin, const Headers& headers, const QByteArray& body)
 {
-    QString text = QStringLiteral("HTTP %1\n").arg(reply.status);
-    for (const Header& header : reply.headers) {
+    QString text = begin + QLatin1Char('\n');
+    for (const Header& header : headers) {
         text += header.name + QLatin1String(": ") + header.value + QLatin1Char('\n');
     }
-    return text + QLatin1Char('\n') + QString::fromUtf8(reply.body);
+    return text + QLatin1Char('\n') + QString::fromUtf8(body);
+}
+
+/// Request and reply with the line ends of this machine.
+QString ExchangeText(const CallOutcome& outcome)
+{
+    const SentRequest& sent = outcome.request;
+    QString text;
+    if (!sent.method.isEmpty()) {
+        text = TextOf(sent.method + QLatin1Char(' ') + sent.url, sent.headers, sent.body);
+        text += sent.headers.isEmpty() ? ResultView::tr("Nothing was sent.") : QString();
+    }
+    if (outcome.reply) {
+        text +=
+            QLatin1String(sent.body.isEmpty() ? "" : "\n\n") +
+            TextOf(QStringLiteral("HTTP %1").arg(outcome.reply->status), outcome.reply->headers, outcome.reply->body);
+    }
+    return text;
 }
 
 /// Opens all that fits on a screen or two; of a record with a longer text, its first level.
@@ -48,7 +64,7 @@ void Open(QTreeView& tree, int textLength)
 
 ResultView::ResultView(QWidget* pParent)
     : QWidget(pParent), m_pTree(new QTreeView), m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))),
-      m_pTable(new RecordTable), m_pReply(new CodeView(CodeView::Kind::Text, tr("No complete reply came."))),
+      m_pTable(new RecordTable), m_pExchange(new CodeView(CodeView::Kind::Text, tr("No request was made."))),
       m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pTabs(new QTabWidget)
 {
     m_pTree->setModel(&m_model);
@@ -69,7 +85,7 @@ ResultView::ResultView(QWidget* pParent)
     m_pTreePages = AddTab(m_pTree, m_pTreeHint, tr("&Record"));
     m_pTabs->addTab(m_pJson, tr("&JSON"));
     m_pTablePages = AddTab(m_pTable, m_pTableHint, tr("&Table"));
-    m_pTabs->addTab(m_pReply, tr("Raw repl&y"));
+    m_pTabs->addTab(m_pExchange, tr("Raw e&xchange"));
     m_pTabs->setDocumentMode(true);
 
     auto* pLayout = new QVBoxLayout(this);
@@ -87,13 +103,13 @@ void ResultView::Show(const CallOutcome& outcome)
     } else {
         ShowRecord(outcome);
     }
-    m_pReply->SetText(outcome.reply ? TextOf(*outcome.reply) : QString());
+    m_pExchange->SetText(ExchangeText(outcome));
 }
 
 void ResultView::Clear()
 {
     ShowNoRecord(tr("Run a call to see its result here."));
-    m_pReply->SetText(QString());
+    m_pExchange->SetText(QString());
 }
 
 void ResultView::ShowRecord(const CallOutcome& outcome)

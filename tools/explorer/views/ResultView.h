@@ -15,7 +15,7 @@ struct CallOutcome;
 class CodeView;
 class RecordTable;
 
-/// What came back from a call: the record as a tree, as JSON and as a table, and the reply as it came.
+/// What came back from a call: the record as a tree, as JSON and as a table, and the exchange as it went.
 class ResultView : public QWidget {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private:
     QTreeView* m_pTree;
     CodeView* m_pJson;
     RecordTable* m_pTable;
-    CodeView* m_pReply;
+    CodeView* m_pExchange;
     QLabel* m_pTreeHint;
     QLabel* m_pTableHint;
     QTabWidget* m_pTabs;

@@ -32,6 +32,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QtConcurrent>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -105,17 +106,25 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
       m_pCalls(new CallPanel(session.settings)), m_pHeader(new CallHeader), m_pForm(new ArgumentForm),
       m_pRunBar(new RunBar(session.settings)), m_pRunning(new RunningCalls(session.runner)),
       m_pResultHeader(new ResultHeader), m_pResult(new ResultView), m_pRequest(new RequestView),
-      m_pTiming(new TimingView), m_pPanes(NewSplitter(Qt::Horizontal)), m_pRows(NewSplitter(Qt::Vertical))
+      m_pTiming(new TimingView), m_pRequestTimer(new QTimer(this)), m_pPanes(NewSplitter(Qt::Horizontal)),
+      m_pRows(NewSplitter(Qt::Vertical))
 {
     setWindowTitle(tr("APIModule Explorer"));
     MakeLayout();
     MakeMenus();
+    m_pRequestTimer->setSingleShot(true);
+    m_pRequestTimer->setInterval(0);
+    connect(m_pRequestTimer, &QTimer::timeout, this, &MainWindow::ShowRequest);
+    const auto showRequest = qOverload<>(&QTimer::start);
+    connect(m_pResults, &QTabWidget::currentChanged, m_pRequestTimer, showRequest);
+    connect(&session.servers, &Servers::Changed, m_pRequestTimer, showRequest);
+    connect(&session.tokens, &Tokens::Changed, m_pRequestTimer, showRequest);
 
     connect(m_pServerBar, &ServerBar::EditRequested, this, &MainWindow::EditServers);
     connect(m_pCalls, &CallPanel::Chosen, this, &MainWindow::Choose);
     connect(m_pCalls, &CallPanel::Activated, this, &MainWindow::FocusArguments);
     connect(m_pHeader, &CallHeader::FavouriteToggled, this, &MainWindow::ToggleFavourite);
-    connect(m_pForm, &ArgumentForm::Changed, this, &MainWindow::UpdateRunBar);
+    connect(m_pForm, &ArgumentForm::Changed, this, &MainWindow::FormChanged);
     connect(m_pRunBar, &RunBar::RunRequested, this, &MainWindow::Run);
     connect(m_pTiming, &TimingView::RepeatRequested, this, &MainWindow::RepeatRun);
     connect(m_pTiming, &TimingView::CancelRequested, &session.runner, &Runner::CancelRepeat);
@@ -156,7 +165,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
         ShowHeader();
     });
 
-    UpdateRunBar();
+    FormChanged();
     ReadState();
     ReadContract();
 }
@@ -440,7 +449,6 @@ void MainWindow::Choose(const catalogue::Call& call)
         const QByteArray lastUse = m_session.settings.value(ArgumentsKey(call)).toByteArray();
         m_pForm->SetArguments(m_drafts.value(name, QJsonDocument::fromJson(lastUse).object()));
         ShowHeader();
-        UpdateRunBar();
     }
     const auto outcome = m_outcomes.constFind(name);
     if (outcome != m_outcomes.cend()) {
@@ -448,7 +456,6 @@ void MainWindow::Choose(const catalogue::Call& call)
     } else {
         m_pResultHeader->Clear();
         m_pResult->Clear();
-        m_pRequest->Clear();
     }
 }
 
@@ -467,8 +474,9 @@ void MainWindow::ToggleFavourite(bool favourite)
     ShowHeader();
 }
 
-void MainWindow::UpdateRunBar()
+void MainWindow::FormChanged()
 {
+    m_pRequestTimer->start();
     m_pTiming->SetRepeatEnabled(m_pForm->IsValid());
     m_pRunBar->SetReady(m_pForm->IsValid(),
                         m_pCall == nullptr ? tr("Choose a call first") : tr("An argument holds no value of its type"));
@@ -498,6 +506,24 @@ void MainWindow::AskForToken()
     pDialog->open();
 }
 
+void MainWindow::ShowRequest()
+{
+    if (m_pResults->currentWidget() != m_pRequest) {
+        return;
+    }
+    if (m_pForm->IsValid()) {
+        m_pRequest->Show(Runner::Draft(FilledIn()));
+    } else {
+        m_pRequest->ShowHint(m_pCall == nullptr ? tr("Choose a call to see its request here.")
+                                                : tr("An argument holds no value of its type"));
+    }
+}
+
+RunOrder MainWindow::FilledIn() const
+{
+    return {m_pCall, m_pForm->Arguments(), m_session.servers.Current(), m_pRunBar->TimeoutSeconds()};
+}
+
 std::optional<RunOrder> MainWindow::Order()
 {
     m_runsAt.clear();
@@ -515,9 +541,9 @@ std::optional<RunOrder> MainWindow::Order()
         AskForToken();
         return std::nullopt;
     }
-    const QJsonObject arguments = m_pForm->Arguments();
-    m_session.settings.setValue(ArgumentsKey(*m_pCall), QJsonDocument(arguments).toJson(QJsonDocument::Compact));
-    return RunOrder{m_pCall, arguments, m_session.servers.Current(), m_pRunBar->TimeoutSeconds()};
+    const RunOrder order = FilledIn();
+    m_session.settings.setValue(ArgumentsKey(*m_pCall), QJsonDocument(order.arguments).toJson(QJsonDocument::Compact));
+    return order;
 }
 
 void MainWindow::Run()
@@ -563,7 +589,6 @@ void MainWindow::ShowOutcome(const CallOutcome& outcome)
 {
     m_pResultHeader->Show(outcome);
     m_pResult->Show(outcome);
-    m_pRequest->Show(outcome);
 }
 
 }  // namespace explorer

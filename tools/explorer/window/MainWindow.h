@@ -13,6 +13,7 @@
 class QLabel;
 class QSplitter;
 class QTabWidget;
+class QTimer;
 
 namespace explorer {
 
@@ -70,11 +71,14 @@ private:
 
     void Choose(const catalogue::Call& call);
     void ShowHeader();
-    void UpdateRunBar();
+    void FormChanged();
     void EditServers();
     void AskForToken();
+    /// The call that is filled in, for the current server.
+    [[nodiscard]] RunOrder FilledIn() const;
     /// Nothing while something is missing that was asked for, or that is about to come.
     [[nodiscard]] std::optional<RunOrder> Order();
+    void ShowRequest();
     void RepeatRun(int count);
     /// The run that was asked for, as soon as its server can be asked.
     void RunWhenReady();
@@ -100,6 +104,7 @@ private:
     RequestView* m_pRequest;
     TimingView* m_pTiming;
     QTabWidget* m_pResults = nullptr;
+    QTimer* m_pRequestTimer;  // one request for all that changes at once
     QTabWidget* m_pFeeds = nullptr;
     QAction* m_pShowFeeds = nullptr;
     QSplitter* m_pPanes;

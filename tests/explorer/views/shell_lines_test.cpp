@@ -1,9 +1,10 @@
-// The curl command of a call sends the request that the library sends.
+// The commands of a call, of curl and of apicall, send the request that the library sends.
 #include "e2e/rows/Rows.h"
 #include "e2e/support/EndToEnd.h"
 #include "support/Program.h"
 
-#include <explorer/views/CurlLine.h>
+#include <explorer/views/Json.h>
+#include <explorer/views/ShellLines.h>
 
 #include <gtest/gtest.h>
 
@@ -44,7 +45,7 @@ std::multimap<std::string, std::string> HeadersOf(const RecordedRequest& request
     return headers;
 }
 
-class CurlLines : public EndToEnd, public testing::WithParamInterface<Row> {
+class ShellLines : public EndToEnd, public testing::WithParamInterface<Row> {
 protected:
     /// What the library sends for a call.
     static RecordedRequest Sent(const std::string& call, const Json& arguments)
@@ -73,29 +74,47 @@ protected:
         return masked;
     }
 
-    static void ExpectTheSame(const RecordedRequest& sent)
+    /// @return what the command printed
+    static std::string ExpectTheSame(const QString& command, const RecordedRequest& sent)
     {
-        const QString command = explorer::CurlLine(WithoutToken(sent));
         EXPECT_FALSE(command.contains(QLatin1String(emulator::kDefaultToken))) << command.toStdString();
 
         Platform().reset();
         Platform().clearRequests();
         const Ended ended = RunInShell(command);
         EXPECT_EQ(ended.status, 0) << ended.err << "\n" << command.toStdString();
-        EXPECT_TRUE(Json::parse(ended.out, nullptr, false).contains("code")) << ended.out;
-
         const std::vector<RecordedRequest> requests = Platform().requests();
-        ASSERT_EQ(requests.size(), 1U) << command.toStdString();
+        if (requests.size() != 1U) {
+            ADD_FAILURE() << requests.size() << " requests of " << command.toStdString();
+            return {};
+        }
         EXPECT_EQ(requests.front().method, sent.method);
         EXPECT_EQ(requests.front().target, sent.target);
         EXPECT_EQ(requests.front().body, sent.body);
         EXPECT_EQ(HeadersOf(requests.front()), HeadersOf(sent));
+        return ended.out;
     }
 };
 
-TEST_P(CurlLines, SendTheSameRequest)
+TEST_P(ShellLines, OfCurlSendTheSameRequest)
 {
-    ExpectTheSame(Sent(GetParam().call, GetParam().arguments));
+    const RecordedRequest sent = Sent(GetParam().call, GetParam().arguments);
+    const std::string printed = ExpectTheSame(explorer::CurlLine(WithoutToken(sent)), sent);
+    EXPECT_TRUE(Json::parse(printed, nullptr, false).contains("code")) << printed;
+}
+
+TEST_P(ShellLines, OfApicallSendTheSameRequest)
+{
+    const RecordedRequest sent = Sent(GetParam().call, GetParam().arguments);
+    const QString server = QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort());
+    QString command = explorer::ApicallLine({catalogue::FindCall(GetParam().call),
+                                             explorer::ToQt(GetParam().arguments),
+                                             {},
+                                             {QStringLiteral("--server"), server}});
+    const QString program = QStringLiteral(" apicall ");
+    ASSERT_TRUE(command.contains(program)) << command.toStdString();
+    command.replace(command.indexOf(program), program.size(), QStringLiteral(" '" APICALL_FILE "' "));
+    ExpectTheSame(command, sent);
 }
 
 std::string NameOf(const testing::TestParamInfo<Row>& info)
@@ -103,10 +122,10 @@ std::string NameOf(const testing::TestParamInfo<Row>& info)
     return info.param.Name();
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryCall, CurlLines, testing::ValuesIn(Rows()), NameOf);
+INSTANTIATE_TEST_SUITE_P(EveryCall, ShellLines, testing::ValuesIn(Rows()), NameOf);
 
 INSTANTIATE_TEST_SUITE_P(
-    WhatAShellWouldTouch, CurlLines,
+    WhatAShellWouldTouch, ShellLines,
     testing::Values(
         Row{"BRMS.UpdateLocalSetting",
             "Quotes",

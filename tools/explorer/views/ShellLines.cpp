@@ -1,6 +1,13 @@
-#include "CurlLine.h"
+#include "ShellLines.h"
+
+#include "Json.h"
+#include "Plain.h"
+
+#include <catalogue/Call.h>
 
 #include <QStringList>
+
+#include <algorithm>
 
 namespace explorer {
 namespace {
@@ -39,6 +46,30 @@ QString HeaderOption(const Header& header)
     return QLatin1String("-H ") + QuotedWithToken(text);
 }
 
+/// A command of which each part has a line.
+QString OnLines(const QStringList& parts)
+{
+    return parts.join(QLatin1String(" \\\n    "));
+}
+
+/// name=value for each where all are plain, otherwise one JSON object.
+QStringList ApicallArguments(const RequestDraft& draft)
+{
+    const auto& arguments = draft.call->arguments;
+    if (!std::all_of(arguments.begin(), arguments.end(),
+                     [](const auto& argument) { return IsPlain(*argument.type); })) {
+        return {Quoted(CompactJsonText(FromQt(draft.arguments)))};
+    }
+    QStringList words;
+    for (const catalogue::Argument& argument : arguments) {
+        const QString name = QString::fromUtf8(argument.name.data(), int(argument.name.size()));
+        const QJsonValue value = draft.arguments.value(name);
+        words.append(
+            Quoted(name + QLatin1Char('=') + (value.isString() ? value.toString() : CompactJsonText(FromQt(value)))));
+    }
+    return words;
+}
+
 }  // namespace
 
 QString CurlLine(const SentRequest& request)
@@ -54,7 +85,17 @@ QString CurlLine(const SentRequest& request)
     if (request.method != QLatin1String("GET")) {
         parts.append(QLatin1String("--data-raw ") + Quoted(QString::fromUtf8(request.body)));
     }
-    return parts.join(QLatin1String(" \\\n    "));
+    return OnLines(parts);
+}
+
+QString ApicallLine(const RequestDraft& draft)
+{
+    QStringList options{QStringLiteral("APICALL_TOKEN=\"$TOKEN\" apicall")};
+    for (const QString& option : draft.apicallOptions) {
+        options.append(Quoted(option));
+    }
+    options.append(QString::fromStdString(draft.call->name));
+    return OnLines(QStringList{options.join(QLatin1Char(' '))} + ApicallArguments(draft));
 }
 
 }  // namespace explorer
