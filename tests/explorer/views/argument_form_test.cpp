@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSignalSpy>
@@ -84,6 +85,8 @@ private slots:
     void AWrongPasteSaysWhyAndChangesNothing_data();
     void AWrongPasteSaysWhyAndChangesNothing();
     void ArgumentsThatDoNotFitStayAsTheyWere();
+    void TheJsonViewShowsAndChangesTheSameArguments();
+    void JsonThatDoesNotFitStaysAsItIsTyped();
     void ChangesAreTold();
     void Screenshots();
 };
@@ -457,6 +460,67 @@ void ArgumentFormTest::ArgumentsThatDoNotFitStayAsTheyWere()
     form.SetArguments(explorer::ToQt(json::parse(kGroup)));
     form.SetArguments(explorer::ToQt({{"groupId", 1}, {"group", {{"memo", "new"}}}, {"other", 2}}));
     QCOMPARE(ArgumentsOf(form), (json{{"groupId", "7"}, {"group", {{"groupName", ""}, {"memo", "new"}}}}));
+}
+
+void ArgumentFormTest::TheJsonViewShowsAndChangesTheSameArguments()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.UpdateUserGroup"));
+    form.SetArguments(explorer::ToQt(json::parse(kGroup)));
+    auto& button = Child<QPushButton>(form, "argumentsAsJson");
+    auto& edit = Child<QPlainTextEdit>(form, "argumentsJson");
+    QVERIFY(!edit.isVisibleTo(&form));
+    button.click();
+    QVERIFY(edit.isVisibleTo(&form));
+    QVERIFY(!Child<QLineEdit>(form, "groupId").isVisibleTo(&form));
+    QCOMPARE(json::parse(edit.toPlainText().toStdString()), ArgumentsOf(form));
+
+    const QSignalSpy changes(&form, &ArgumentForm::Changed);
+    const QString typed = QStringLiteral("{\"groupId\":\"8\",  \"group\": {\"groupName\": \"Day\"}}");
+    edit.setPlainText(typed);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(edit.toPlainText(), typed);
+    QCOMPARE(ArgumentsOf(form).at("group").at("groupName"), json("Day"));
+    QCOMPARE(ArgumentsOf(form).at("group").at("memo"), json(""));
+
+    form.SetArguments(explorer::ToQt(json::parse(kGroup)));
+    QCOMPARE(json::parse(edit.toPlainText().toStdString()), ArgumentsOf(form));
+    button.click();
+    QVERIFY(!edit.isVisibleTo(&form));
+    QCOMPARE(Child<QLineEdit>(form, "groupName").text(), QStringLiteral("Night"));
+
+    button.click();
+    form.SetCall(Call("BRMS.GetTimeSyncConfig"));
+    QVERIFY(!edit.isVisibleTo(&form));
+    QVERIFY(!button.isEnabled());
+    form.SetCall(Call("BRMS.GetLocalSetting"));
+    QCOMPARE(json::parse(edit.toPlainText().toStdString()), json({{"settingType", 0}}));
+}
+
+void ArgumentFormTest::JsonThatDoesNotFitStaysAsItIsTyped()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.GetLocalSetting"));
+    auto& button = Child<QPushButton>(form, "argumentsAsJson");
+    auto& edit = Child<QPlainTextEdit>(form, "argumentsJson");
+    button.click();
+    for (const char* typed : {"{\"settingType\": 3", "{\"settingType\": \"3\"}", "[]"}) {
+        edit.setPlainText(QString::fromUtf8(typed));
+        QVERIFY2(!form.IsValid(), typed);
+        QVERIFY(Problem(form).startsWith(QStringLiteral("The text does not fit: ")));
+        QCOMPARE(edit.toPlainText(), QString::fromUtf8(typed));
+        QVERIFY(!button.isEnabled());
+    }
+    edit.setPlainText(QStringLiteral("{\"settingType\": 3}"));
+    QVERIFY(form.IsValid());
+    QCOMPARE(Problem(form), QString());
+    QVERIFY(button.isEnabled());
+    QCOMPARE(ArgumentsOf(form), json({{"settingType", 3}}));
+
+    edit.setPlainText(QStringLiteral("{"));
+    form.SetCall(Call("BRMS.UpdateUserGroup"));  // begins anew
+    QVERIFY(form.IsValid());
+    QCOMPARE(Problem(form), QString());
 }
 
 void ArgumentFormTest::ChangesAreTold()

@@ -1,6 +1,7 @@
 #include "ArgumentForm.h"
 
 #include "Json.h"
+#include "JsonHighlighter.h"
 #include "NameLabel.h"
 #include "RecordEditor.h"
 #include "Theme.h"
@@ -13,8 +14,10 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QJsonDocument>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,13 +28,14 @@ namespace {
 using catalogue::Argument;
 using nlohmann::json;
 
-QPushButton* MakeButton(const QString& text, const QString& objectName, Qt::Key key)
+QPushButton* MakeButton(const QString& text, const QString& tip, const QString& objectName, Qt::Key key)
 {
     auto* pButton = new QPushButton(text);
     const QKeySequence shortcut(int(Qt::CTRL) + int(Qt::SHIFT) + int(key));
     pButton->setObjectName(objectName);
     pButton->setShortcut(shortcut);
-    pButton->setToolTip(shortcut.toString(QKeySequence::NativeText));
+    pButton->setToolTip(QStringLiteral("%1 (%2)").arg(tip, shortcut.toString(QKeySequence::NativeText)));
+    pButton->setAccessibleName(tip);
     pButton->setAutoDefault(false);
     return pButton;
 }
@@ -39,28 +43,41 @@ QPushButton* MakeButton(const QString& text, const QString& objectName, Qt::Key 
 }  // namespace
 
 ArgumentForm::ArgumentForm(QWidget* pParent)
-    : QWidget(pParent), m_pArea(new QScrollArea),
-      m_pCopy(MakeButton(tr("Copy as JSON"), QStringLiteral("copyArguments"), Qt::Key_C)),
-      m_pPaste(MakeButton(tr("Paste JSON"), QStringLiteral("pasteArguments"), Qt::Key_V)),
+    : QWidget(pParent), m_pArea(new QScrollArea), m_pJson(new QPlainTextEdit),
+      m_pCopy(MakeButton(tr("Copy"), tr("Copy as JSON"), QStringLiteral("copyArguments"), Qt::Key_C)),
+      m_pPaste(MakeButton(tr("Paste"), tr("Paste JSON"), QStringLiteral("pasteArguments"), Qt::Key_V)),
+      m_pAsJson(MakeButton(QStringLiteral("JSON"), tr("Edit as JSON"), QStringLiteral("argumentsAsJson"), Qt::Key_J)),
       m_pProblem(new TintedLabel(theme::Error))
 {
     m_pArea->setWidgetResizable(true);
     m_pArea->setFrameShape(QFrame::NoFrame);
+    m_pJson->setObjectName(QStringLiteral("argumentsJson"));
+    m_pJson->setAccessibleName(tr("Arguments as JSON"));
+    m_pJson->setFont(theme::FixedFont());
+    m_pJson->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_pJson->setTabChangesFocus(true);
+    m_pJson->hide();
+    new JsonHighlighter(*m_pJson);
+    m_pAsJson->setCheckable(true);
     m_pProblem->setObjectName(QStringLiteral("pasteProblem"));
     m_pProblem->hide();
 
     auto* pButtons = new QHBoxLayout;
     pButtons->addWidget(m_pCopy);
     pButtons->addWidget(m_pPaste);
+    pButtons->addWidget(m_pAsJson);
     pButtons->addStretch();
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(m_pArea, 1);
+    pLayout->addWidget(m_pJson, 1);
     pLayout->addWidget(m_pProblem);
     pLayout->addLayout(pButtons);
 
     connect(m_pCopy, &QPushButton::clicked, this, &ArgumentForm::Copy);
     connect(m_pPaste, &QPushButton::clicked, this, &ArgumentForm::Paste);
+    connect(m_pAsJson, &QPushButton::toggled, this, &ArgumentForm::ShowJson);
+    connect(m_pJson, &QPlainTextEdit::textChanged, this, &ArgumentForm::TakeJson);
     ShowHint(tr("Choose a call to see its arguments here."));
 }
 
@@ -141,7 +158,7 @@ void ArgumentForm::SetArguments(const QJsonObject& arguments)
 
 bool ArgumentForm::IsValid() const
 {
-    return m_pCall != nullptr &&
+    return m_pCall != nullptr && m_bJsonFits &&
            std::all_of(m_editors.begin(), m_editors.end(), [](const auto& editor) { return editor.second->IsValid(); });
 }
 
@@ -152,9 +169,14 @@ void ArgumentForm::Copy()
 
 void ArgumentForm::Paste()
 {
+    Take(QGuiApplication::clipboard()->text(), tr("The clipboard does not fit: %1"));
+}
+
+bool ArgumentForm::Take(const QString& text, const QString& problem)
+{
     m_pProblem->hide();
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(QGuiApplication::clipboard()->text().toUtf8(), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
     try {
         if (error.error != QJsonParseError::NoError) {
             throw catalogue::Mismatch(
@@ -165,17 +187,47 @@ void ArgumentForm::Paste()
         for (std::size_t index = 0; index < values.size(); ++index) {
             m_editors[index].second->SetValue(values[index].ToJson());
         }
+        return true;
     } catch (const catalogue::Mismatch& mismatch) {
-        m_pProblem->setText(tr("The clipboard does not fit: %1").arg(QString::fromUtf8(mismatch.what())));
+        m_pProblem->setText(problem.arg(QString::fromUtf8(mismatch.what())));
         m_pProblem->show();
+        return false;
     }
+}
+
+void ArgumentForm::TakeJson()
+{
+    m_bTakesJson = true;  // the text stays as it is typed
+    m_bJsonFits = Take(m_pJson->toPlainText(), tr("The text does not fit: %1"));
+    m_bTakesJson = false;
+    ShowButtons();
+    emit Changed();
+}
+
+void ArgumentForm::ShowJson()
+{
+    const bool isShown = m_pAsJson->isChecked() && !m_editors.empty();
+    m_bJsonFits = true;
+    if (isShown) {
+        const QSignalBlocker blocker(m_pJson);
+        m_pJson->setPlainText(JsonText(FromQt(Arguments())));
+    }
+    m_pJson->setVisible(isShown);
+    m_pArea->setVisible(!isShown);
+    ShowButtons();
+}
+
+void ArgumentForm::ShowButtons()
+{
+    m_pCopy->setEnabled(!m_editors.empty() && IsValid());
+    m_pPaste->setEnabled(!m_editors.empty());
+    m_pAsJson->setEnabled(!m_editors.empty() && IsValid());
 }
 
 void ArgumentForm::ShowHint(const QString& text)
 {
     FillArea(MakeHint(text));
-    m_pCopy->setEnabled(false);
-    m_pPaste->setEnabled(false);
+    ShowJson();
 }
 
 void ArgumentForm::FillArea(QWidget* pContent)
@@ -185,13 +237,15 @@ void ArgumentForm::FillArea(QWidget* pContent)
         pOld->deleteLater();
     }
     m_pArea->setWidget(pContent);
-    m_pPaste->setEnabled(true);
 }
 
 void ArgumentForm::OnChanged()
 {
     m_pProblem->hide();
-    m_pCopy->setEnabled(IsValid());
+    if (m_bTakesJson) {
+        return;  // and says it once
+    }
+    ShowJson();
     emit Changed();
 }
 
@@ -201,7 +255,7 @@ void ArgumentForm::OrderTabs()
     for (const auto& [name, pEditor] : m_editors) {
         stops += pEditor->TabStops();
     }
-    stops << m_pCopy << m_pPaste;
+    stops << m_pJson << m_pCopy << m_pPaste << m_pAsJson;
     for (int index = 1; index < stops.size(); ++index) {
         setTabOrder(stops[index - 1], stops[index]);
     }

@@ -11,6 +11,7 @@
 #include <vector>
 
 class QLabel;
+class QPlainTextEdit;
 class QPushButton;
 class QScrollArea;
 
@@ -22,7 +23,7 @@ namespace explorer {
 
 class ValueEditor;
 
-/// The arguments of a call as a form made of the call's description; checked as they are typed.
+/// The arguments of a call as a form made of the call's description, or as JSON; checked as they are typed.
 class ArgumentForm : public QWidget {
     Q_OBJECT
 
@@ -53,6 +54,11 @@ signals:
     void Changed();
 
 private:
+    /// Puts what does not fit into words of %1.
+    bool Take(const QString& text, const QString& problem);
+    void TakeJson();
+    void ShowJson();
+    void ShowButtons();
     void ShowHint(const QString& text);
     void FillArea(QWidget* pContent);
     void OnChanged();
@@ -63,8 +69,12 @@ private:
     std::vector<std::pair<std::string, ValueEditor*>> m_editors;
     QHash<QString, QString> m_descriptions;
     QScrollArea* m_pArea;
+    QPlainTextEdit* m_pJson;
+    bool m_bJsonFits = true;
+    bool m_bTakesJson = false;
     QPushButton* m_pCopy;
     QPushButton* m_pPaste;
+    QPushButton* m_pAsJson;
     QLabel* m_pProblem;
 };
 
