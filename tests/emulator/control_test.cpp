@@ -18,9 +18,10 @@ protected:
 
 TEST_F(ControlTest, FaultsAreAddedListedAndCleared)
 {
-    const Json fault = {
-        {"path", "/brms"}, {"kind", "status"}, {"times", 0}, {"status", 503}, {"headers", {{"Retry-After", "9"}}},
-        {"body", "later"}, {"delayMs", 1},     {"code", 0},  {"desc", ""},    {"size", 0}};
+    const Json fault = {{"path", "/brms"}, {"method", "GET"}, {"kind", "status"},
+                        {"times", 0},      {"status", 503},   {"headers", {{"Retry-After", "9"}}},
+                        {"body", "later"}, {"delayMs", 1},    {"code", 0},
+                        {"desc", ""},      {"size", 0},       {"bytesPerSecond", 7}};
     const Answer added = m_control->post(kFaults, fault);
     EXPECT_EQ(added.status, 201);
     EXPECT_EQ(added.json(), fault);
@@ -52,7 +53,8 @@ TEST_P(RefusedFaultTest, IsNamed)
 INSTANTIATE_TEST_SUITE_P(
     Faults, RefusedFaultTest,
     testing::Values(RefusedFault{"NotJson", "{", "not JSON"}, RefusedFault{"NoObject", "[]", "kind"},
-                    RefusedFault{"NoKind", "{}", "kind"}, RefusedFault{"UnknownKind", R"({"kind":"slow"})", "'slow'"},
+                    RefusedFault{"NoKind", "{}", "kind"},
+                    RefusedFault{"UnknownKind", R"({"kind":"slower"})", "'slower'"},
                     RefusedFault{"KindNoText", R"({"kind":1})", "kind: expected a text"},
                     RefusedFault{"UnknownKey", R"({"kind":"empty","tims":1})", "tims: not expected"},
                     RefusedFault{"TimesNegative", R"({"kind":"empty","times":-1})", "times"},
@@ -61,6 +63,9 @@ INSTANTIATE_TEST_SUITE_P(
                     RefusedFault{"StatusTooHigh", R"({"kind":"status","status":600})", "status"},
                     RefusedFault{"DelayNegative", R"({"kind":"delay","delayMs":-5})", "delayMs"},
                     RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
+                    RefusedFault{"MethodUnknown", R"({"kind":"empty","method":"put"})", "method: unknown 'put'"},
+                    RefusedFault{"MethodNoText", R"({"kind":"empty","method":["PUT"]})", "method: expected a text"},
+                    RefusedFault{"SpeedZero", R"({"kind":"slow","bytesPerSecond":0})", "bytesPerSecond"},
                     RefusedFault{"HeadersNoObject", R"({"kind":"status","headers":[]})", "headers"},
                     RefusedFault{"HeaderNoText", R"({"kind":"status","headers":{"A":1}})", "headers"}),
     RowName());

@@ -227,6 +227,70 @@ TEST_P(FaultTest, DelayedWriteOfAClientThatWentIsNotCarriedOut)
     EXPECT_EQ(m_platform.state()["brms"]["aiPrivacy"]["enable"], 0);
 }
 
+TEST_P(FaultTest, SlowAnswerIsTrueAndTakesItsTime)
+{
+    Fault fault = FaultOf(Fault::Kind::Slow);
+    fault.bytesPerSecond = m_trueBody.size() * 5;
+    m_platform.addFault(fault);
+    const auto begin = steady_clock::now();
+    EXPECT_EQ(get().body, m_trueBody);
+    EXPECT_GE(steady_clock::now() - begin, milliseconds(200));
+    EXPECT_EQ(m_platform.connections(), 1U) << "the connection is kept";
+    EXPECT_TRUE(writeChangesState(fault));
+    expectRecovered();
+}
+
+TEST_P(FaultTest, SlowAnswersCanBeVerySlowAndFast)
+{
+    Fault fault = FaultOf(Fault::Kind::Slow, "/brms/api/v1.1/user/group?ids=");
+    fault.bytesPerSecond = 1;
+    m_platform.addFault(fault);
+    std::future<Answer> hanging =
+        std::async(std::launch::async, [this] { return m_client->remove("/brms/api/v1.1/user/group?ids=nobody"); });
+    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
+    EXPECT_EQ(hanging.wait_for(std::chrono::seconds(2)), std::future_status::timeout);
+    m_client->abort();
+    EXPECT_FALSE(hanging.get().arrived);
+
+    fault = FaultOf(Fault::Kind::Slow);
+    fault.bytesPerSecond = 1024UL * 1024 * 1024;
+    m_platform.addFault(fault);
+    m_client = ClientOf(m_platform, GetParam());
+    EXPECT_EQ(get().body, m_trueBody);
+}
+
+TEST_P(FaultTest, SlowAnswerEndsWhenTheEmulatorStops)
+{
+    Fault fault = FaultOf(Fault::Kind::Slow);
+    fault.bytesPerSecond = 1;
+    m_platform.addFault(fault);
+    std::future<Answer> hanging = std::async(std::launch::async, [this] { return get(); });
+    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
+    m_platform.stop();
+    EXPECT_FALSE(hanging.get().arrived);
+}
+
+TEST(SlowFaultTest, HeadComesFirstAndTheBodyPieceByPiece)
+{
+    emulator::PlatformEmulator platform;
+    platform.start();
+    Fault fault = FaultOf(Fault::Kind::Slow, "");
+    fault.bytesPerSecond = 20;
+    platform.addFault(fault);
+    RawConnection connection(platform.httpPort());
+    connection.send("GET /brms/ HTTP/1.1\r\nHost: a\r\nConnection: close\r\n\r\n");
+    const std::string head = connection.receive();
+    EXPECT_EQ(head.substr(head.size() - 4), "\r\n\r\n") << head;
+    std::size_t pieces = 0;
+    std::string body;
+    for (std::string piece = connection.receive(); !piece.empty(); piece = connection.receive()) {
+        ++pieces;
+        body += piece;
+    }
+    EXPECT_EQ(Json::parse(body).at("code"), 401);
+    EXPECT_GT(pieces, 1U);
+}
+
 class FaultListTest : public EmulatorTest {
 protected:
     int codeOf(const std::string& target) { return m_client->get(target).code(); }
@@ -276,6 +340,18 @@ TEST_F(FaultListTest, PrefixMayHoldTheQuery)
     addEnvelope("/brms/api/v1.1/config/local/setting?settingType=2", 5, 0);
     EXPECT_EQ(codeOf("/brms/api/v1.1/config/local/setting?settingType=1"), 1000);
     EXPECT_EQ(codeOf("/brms/api/v1.1/config/local/setting?settingType=2"), 5);
+}
+
+TEST_F(FaultListTest, HitsRequestsOfItsMethod)
+{
+    addEnvelope(kPrivacy, 5, 1);
+    Fault fault = m_platform.faults().front();
+    m_platform.clearFaults();
+    fault.method = "PUT";
+    m_platform.addFault(fault);
+    EXPECT_EQ(codeOf(kPrivacy), 1000);
+    EXPECT_EQ(m_client->put(kPrivacy, {{"enable", 1}}).code(), 5);
+    EXPECT_EQ(m_client->put(kPrivacy, {{"enable", 1}}).code(), 1000);
 }
 
 TEST_F(FaultListTest, NeitherTokenNorPathIsLookedAt)

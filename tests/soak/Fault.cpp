@@ -71,6 +71,10 @@ constexpr std::array kKinds = {
          [](Random&) {
              return Fault{"large", {{"kind", "large"}, {"size", 200'000}}};
          }},
+    Kind{"slow", 0.5, false,
+         [](Random&) {
+             return Fault{"slow", {{"kind", "slow"}, {"bytesPerSecond", 50'000}}};
+         }},
     // Qt repeats a request whose connection closed, so these stand until they are cleared.
     Kind{"closeBefore", 1.5, false,
          [](Random&) {

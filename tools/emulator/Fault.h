@@ -12,8 +12,8 @@ namespace emulator {
 
 /// Something that goes wrong with the next requests whose target begins with a prefix.
 struct Fault {
-    /// Delay, Cut, CloseMiddle and Large carry the call out and spoil its answer. All others stand in its place: the
-    /// state does not change, and neither token nor path is looked at.
+    /// Delay, Cut, CloseMiddle, Large and Slow carry the call out and spoil its answer. All others stand in its place:
+    /// the state does not change, and neither token nor path is looked at.
     enum class Kind {
         Delay,        ///< the true answer, late
         Status,       ///< an HTTP status, with the headers and the body given
@@ -26,11 +26,13 @@ struct Fault {
         CloseBefore,  ///< the connection is closed without an answer
         CloseMiddle,  ///< the connection is closed after half of the true body
         Silent,       ///< no answer and no end, until the client goes away or the emulator stops
-        Reset         ///< the connection is reset without an answer
+        Reset,        ///< the connection is reset without an answer
+        Slow          ///< the true answer, its body sent at the speed given
     };
 
     std::string path;                    ///< start of the target, query included; empty fits all
     Kind kind = Kind::Delay;             ///< what goes wrong
+    std::string method;                  ///< of the request, such as "PUT"; empty fits all
     int times = 1;                       ///< how many requests it hits; 0: all until it is cleared
     std::chrono::milliseconds delay{0};  ///< before anything else; goes with every kind
     int status = 200;                    ///< of Kind::Status
@@ -39,6 +41,7 @@ struct Fault {
     std::string desc;                                          ///< of Kind::Envelope
     std::string body;                                          ///< of Kind::Status and Kind::Text
     std::size_t size = 0;                                      ///< of Kind::Large, in bytes
+    std::size_t bytesPerSecond = 1024;                         ///< of Kind::Slow
 
     /// Reads a fault as the control path takes it.
     /// @param json an object with "kind" and what goes with it

@@ -1,5 +1,6 @@
 #include "Faults.h"
 
+#include "RequestReader.h"
 #include "Text.h"
 
 #include <algorithm>
@@ -24,7 +25,8 @@ constexpr std::array kKinds = {KindName{Fault::Kind::Delay, "delay"},
                                KindName{Fault::Kind::CloseBefore, "closeBefore"},
                                KindName{Fault::Kind::CloseMiddle, "closeMiddle"},
                                KindName{Fault::Kind::Silent, "silent"},
-                               KindName{Fault::Kind::Reset, "reset"}};
+                               KindName{Fault::Kind::Reset, "reset"},
+                               KindName{Fault::Kind::Slow, "slow"}};
 constexpr int kDayMilliseconds = 24 * 60 * 60 * 1000;
 constexpr int kLargestAnswer = 1024 * 1024 * 1024;
 
@@ -55,10 +57,21 @@ std::string TextIn(const Json& value, const std::string& name)
     return value;
 }
 
+std::string MethodIn(const Json& value, const std::string& name)
+{
+    std::string method = TextIn(value, name);
+    if (!method.empty() && !IsServed(method)) {
+        throw std::invalid_argument(name + ": unknown '" + method + "'");
+    }
+    return method;
+}
+
 void SetMember(Fault& fault, const std::string& name, const Json& value)
 {
     if (name == "path") {
         fault.path = TextIn(value, name);
+    } else if (name == "method") {
+        fault.method = MethodIn(value, name);
     } else if (name == "kind") {
         fault.kind = KindOf(TextIn(value, name));
     } else if (name == "times") {
@@ -79,6 +92,8 @@ void SetMember(Fault& fault, const std::string& name, const Json& value)
         fault.body = TextIn(value, name);
     } else if (name == "size") {
         fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestAnswer));
+    } else if (name == "bytesPerSecond") {
+        fault.bytesPerSecond = static_cast<std::size_t>(NumberIn(value, name, 1, kLargestAnswer));
     } else {
         throw std::invalid_argument(name + ": not expected");
     }
@@ -102,9 +117,17 @@ Json Fault::toJson() const
 {
     const auto* found =
         std::find_if(kKinds.begin(), kKinds.end(), [this](const KindName& entry) { return entry.kind == kind; });
-    Json json{{"path", path},     {"kind", found->name}, {"times", times}, {"delayMs", delay.count()},
-              {"status", status}, {"code", code},        {"desc", desc},   {"body", body},
-              {"size", size}};
+    Json json{{"path", path},
+              {"method", method},
+              {"kind", found->name},
+              {"times", times},
+              {"delayMs", delay.count()},
+              {"status", status},
+              {"code", code},
+              {"desc", desc},
+              {"body", body},
+              {"size", size},
+              {"bytesPerSecond", bytesPerSecond}};
     json["headers"] = Json::object();
     for (const auto& [name, value] : headers) {
         json["headers"][name] = value;
@@ -130,11 +153,12 @@ void Faults::clear()
     m_faults.clear();
 }
 
-std::optional<Fault> Faults::take(const std::string& target)
+std::optional<Fault> Faults::take(const std::string& method, std::string_view target)
 {
     const std::lock_guard lock(m_mutex);
-    const auto found = std::find_if(m_faults.begin(), m_faults.end(),
-                                    [&](const Fault& fault) { return StartsWith(target, fault.path); });
+    const auto found = std::find_if(m_faults.begin(), m_faults.end(), [&](const Fault& fault) {
+        return (fault.method.empty() || fault.method == method) && StartsWith(target, fault.path);
+    });
     if (found == m_faults.end()) {
         return std::nullopt;
     }

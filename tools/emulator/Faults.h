@@ -5,6 +5,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace emulator {
@@ -16,8 +17,8 @@ public:
     [[nodiscard]] std::vector<Fault> list() const;
     void clear();
 
-    /// The first fault that fits the target, counted down.
-    std::optional<Fault> take(const std::string& target);
+    /// The first fault that fits a request, counted down.
+    std::optional<Fault> take(const std::string& method, std::string_view target);
 
 private:
     mutable std::mutex m_mutex;

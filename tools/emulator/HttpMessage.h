@@ -28,6 +28,7 @@ struct HttpResponse {
     std::vector<std::pair<std::string, std::string>> headers;
     std::string body;
     Ending ending = Ending::Complete;
+    std::size_t bytesPerSecond = 0;  ///< of the body; 0: as fast as the client takes it
 };
 
 }  // namespace emulator

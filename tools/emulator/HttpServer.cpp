@@ -45,6 +45,8 @@ constexpr unsigned kLeastThreads = 2;
 constexpr unsigned kMostThreads = 4;
 constexpr std::size_t kReadSize = 16UL * 1024;
 constexpr std::size_t kWriteSize = 1024UL * 1024;
+/// Into how many pieces a slow answer is cut for each second, as far as there are bytes for them.
+constexpr std::size_t kPiecesPerSecond = 10;
 /// How long a client may take nothing of an answer.
 constexpr std::chrono::seconds kWriteTimeout(120);
 /// How long a client may still send after the last answer. To close at once would reset the connection, and the client
@@ -283,11 +285,7 @@ private:
             receive();
             break;
         case RequestReader::Progress::NeedsGoAhead:
-            write(kGoAhead, {}, [](ConnectionOn& self) {
-                self.m_state = State::Reading;
-                self.allow(self.m_shared.readTimeout);
-                self.serve();
-            });
+            write(kGoAhead, {}, &ConnectionOn::awaitBody);
             break;
         case RequestReader::Progress::Whole:
             handle();
@@ -296,6 +294,13 @@ private:
             refuse();
             break;
         }
+    }
+
+    void awaitBody()
+    {
+        m_state = State::Reading;
+        allow(m_shared.readTimeout);
+        serve();
     }
 
     /// Starts to read unless that is under way.
@@ -423,18 +428,46 @@ private:
         } else if (response.ending == HttpResponse::Ending::CloseMiddle) {
             response.body.resize(response.body.size() / 2);
         }
-        write(std::move(head), std::move(response.body), [](ConnectionOn& self) {
-            if (self.m_isLast) {
-                self.end();
-            } else {
-                self.m_reader.next();
-                self.awaitRequest();
+        if (response.bytesPerSecond > 0) {
+            m_bytesPerSecond = response.bytesPerSecond;
+            m_unsent = std::move(response.body);
+            write(std::move(head), {}, &ConnectionOn::sendSlowly);
+        } else {
+            write(std::move(head), std::move(response.body), &ConnectionOn::goOn);
+        }
+    }
+
+    /// Sends what is left of a slow body, each piece after the time that it takes.
+    void sendSlowly()
+    {
+        if (m_unsent.empty()) {
+            goOn();
+            return;
+        }
+        const std::size_t size =
+            std::min(std::max<std::size_t>(m_bytesPerSecond / kPiecesPerSecond, 1), m_unsent.size());
+        m_waitTimer.expires_after(std::chrono::nanoseconds(std::chrono::seconds(size)) / m_bytesPerSecond);
+        m_waitTimer.async_wait([self = this->shared_from_this(), size](const error_code& error) {
+            if (!error && self->m_state != State::Closed) {
+                std::string piece = self->m_unsent.substr(0, size);
+                self->m_unsent.erase(0, size);
+                self->write(std::move(piece), {}, &ConnectionOn::sendSlowly);
             }
         });
     }
 
-    template <typename Then>
-    void write(std::string head, std::string body, Then then)
+    /// After an answer: the end or the next request.
+    void goOn()
+    {
+        if (m_isLast) {
+            end();
+        } else {
+            m_reader.next();
+            awaitRequest();
+        }
+    }
+
+    void write(std::string head, std::string body, void (ConnectionOn::*then)())
     {
         m_state = State::Writing;
         m_head = std::move(head);
@@ -453,7 +486,7 @@ private:
                                   return;
                               }
                               std::string().swap(self->m_body);
-                              error ? self->close() : then(*self);
+                              error ? self->close() : (*self.*then)();
                           });
     }
 
@@ -522,6 +555,8 @@ private:
     std::size_t m_turn = 0;
     std::string m_head;
     std::string m_body;
+    std::string m_unsent;
+    std::size_t m_bytesPerSecond = 0;
 };
 
 std::string ReasonOf(const error_code& error)

@@ -84,7 +84,7 @@ HttpResponse Replacement(const Fault& fault)
 bool SpoilsTrueAnswer(Fault::Kind kind)
 {
     return kind == Fault::Kind::Delay || kind == Fault::Kind::Cut || kind == Fault::Kind::CloseMiddle ||
-           kind == Fault::Kind::Large;
+           kind == Fault::Kind::Large || kind == Fault::Kind::Slow;
 }
 
 void Spoil(HttpResponse& response, const Fault& fault)
@@ -98,6 +98,9 @@ void Spoil(HttpResponse& response, const Fault& fault)
         break;
     case Fault::Kind::Large:
         response.body = Enlarged(response.body, fault.size);
+        break;
+    case Fault::Kind::Slow:
+        response.bytesPerSecond = fault.bytesPerSecond;
         break;
     default:
         break;
@@ -156,7 +159,7 @@ private:
     HttpReply serve(const HttpRequest& request)
     {
         // In this order a request that is recorded has met its fault: who waits for it may add the next one.
-        std::optional<Fault> fault = m_faults.take(std::string(OriginForm(request.target)));
+        std::optional<Fault> fault = m_faults.take(request.method, OriginForm(request.target));
         const std::size_t number = m_log.add(request);
         if (!fault) {
             return noted(m_platform.answer(request), request, number);
@@ -244,10 +247,7 @@ private:
             return PlainError(400, "body: not JSON");
         }
         try {
-            Fault fault = Fault::FromJson(json);
-            const Json added = fault.toJson();
-            m_faults.add(std::move(fault));
-            return Plain(201, added);
+            return action(json);
         } catch (const std::invalid_argument& error) {
             return PlainError(400, error.what());
         }

@@ -207,12 +207,6 @@ bool NamesVersion(std::string_view line)
                       [](char wanted, char c) { return wanted == 'd' ? c >= '0' && c <= '9' : c == wanted; });
 }
 
-bool IsServed(const std::string& method)
-{
-    static const std::vector<std::string> served = {"GET", "HEAD", "POST", "PUT", "DELETE", "OPTIONS", "PATCH"};
-    return std::find(served.begin(), served.end(), method) != served.end();
-}
-
 std::optional<RequestFault> FaultOfRequestLine(const error_code& error, const HttpRequest& request,
                                                std::string_view line)
 {
@@ -303,6 +297,12 @@ std::optional<RequestFault> FaultOfHead(const error_code& error, const HttpReque
 }
 
 }  // namespace
+
+bool IsServed(const std::string& method)
+{
+    static const std::vector<std::string> served = {"GET", "HEAD", "POST", "PUT", "DELETE", "OPTIONS", "PATCH"};
+    return std::find(served.begin(), served.end(), method) != served.end();
+}
 
 class RequestReader::Private {
 public:

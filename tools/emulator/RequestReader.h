@@ -18,6 +18,9 @@ constexpr std::size_t kLargestEndOfBody = 16UL * 1024;
 /// The largest body; status 413 beyond.
 constexpr std::size_t kLargestBody = 256UL * 1024 * 1024;
 
+/// Whether requests of this method are served; status 501 for any other.
+bool IsServed(const std::string& method);
+
 /// Why a request is not served.
 struct RequestFault {
     int status = 0;
