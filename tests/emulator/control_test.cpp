@@ -7,6 +7,7 @@ namespace {
 
 constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 constexpr const char* kFaults = "/emulator/v1/faults";
+constexpr const char* kState = "/emulator/v1/state";
 
 }  // namespace
 
@@ -62,10 +63,10 @@ INSTANTIATE_TEST_SUITE_P(
                     RefusedFault{"StatusTooLow", R"({"kind":"status","status":199})", "status"},
                     RefusedFault{"StatusTooHigh", R"({"kind":"status","status":600})", "status"},
                     RefusedFault{"DelayNegative", R"({"kind":"delay","delayMs":-5})", "delayMs"},
-                    RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
                     RefusedFault{"MethodUnknown", R"({"kind":"empty","method":"put"})", "method: unknown 'put'"},
                     RefusedFault{"MethodNoText", R"({"kind":"empty","method":["PUT"]})", "method: expected a text"},
                     RefusedFault{"SpeedZero", R"({"kind":"slow","bytesPerSecond":0})", "bytesPerSecond"},
+                    RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
                     RefusedFault{"HeadersNoObject", R"({"kind":"status","headers":[]})", "headers"},
                     RefusedFault{"HeaderNoText", R"({"kind":"status","headers":{"A":1}})", "headers"}),
     RowName());
@@ -144,6 +145,72 @@ TEST_F(ControlTest, StateShowsWritesAndResetTakesThemBack)
     EXPECT_EQ(m_control->post("/emulator/v1/reset").status, 204);
     EXPECT_EQ(m_control->get("/emulator/v1/state").json(), seeds);
     EXPECT_EQ(m_platform.requests().size(), 1U) << "requests stay";
+}
+
+struct Patch {
+    const char* name;
+    const char* patch;
+    const char* place;
+    const char* value;  ///< afterwards; null for none
+};
+class PatchTest : public EmulatorTableTest, public testing::WithParamInterface<Patch> {
+protected:
+    void expectPatched(const Json& before)
+    {
+        const Json::json_pointer place(GetParam().place);
+        Json expected = before;
+        if (GetParam().value == nullptr) {
+            expected.at(place.parent_pointer()).erase(place.back());
+        } else {
+            expected[place] = Json::parse(GetParam().value);
+        }
+        EXPECT_NE(expected, before);
+        EXPECT_EQ(m_platform.state(), expected);
+    }
+
+    const Json m_seeds = m_platform.state();
+};
+
+TEST_P(PatchTest, ChangesTheStateOverTheControlPath)
+{
+    EXPECT_EQ(ClientOf(m_platform)->request("PUT", kState, GetParam().patch).status, 204);
+    expectPatched(m_seeds);
+}
+
+TEST_P(PatchTest, ChangesTheStateFromTheClass)
+{
+    m_platform.mergeState(Json::parse(GetParam().patch));
+    expectPatched(m_seeds);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Patches, PatchTest,
+    testing::Values(
+        Patch{"Value", R"({"brms":{"timeSync":{"interval":"77"}}})", "/brms/timeSync/interval", "\"77\""},
+        Patch{"NewMember", R"({"brms":{"timeSync":{"more":{"a":null,"b":1}}}})", "/brms/timeSync/more", R"({"b":1})"},
+        Patch{"NullRemoves", R"({"brms":{"timeSync":null}})", "/brms/timeSync", nullptr},
+        Patch{"ListWhole", R"({"brms":{"userGroups":[{"id":"1"}]}})", "/brms/userGroups", R"([{"id":"1"}])"},
+        Patch{"NewFamily", R"({"tests":[1]})", "/tests", "[1]"}),
+    RowName());
+
+TEST_F(ControlTest, CallsReadWhatAPatchWrote)
+{
+    EXPECT_EQ(m_control->put(kState, Json::parse(R"({"brms":{"timeSync":{"ntpIp":"192.0.2.7"}}})")).status, 204);
+    EXPECT_EQ(m_client->get(kTimeSync).data().at("ntpIp"), "192.0.2.7");
+    m_platform.reset();
+    EXPECT_NE(m_client->get(kTimeSync).data().at("ntpIp"), "192.0.2.7");
+}
+
+TEST_F(ControlTest, PatchThatIsNoObjectChangesNothing)
+{
+    const Json before = m_platform.state();
+    for (const char* patch : {"", "{", "[]", "null", "7"}) {
+        const Answer answer = m_control->request("PUT", kState, patch);
+        EXPECT_EQ(answer.status, 400) << patch;
+        EXPECT_FALSE(answer.json().value("error", "").empty()) << patch;
+    }
+    EXPECT_THROW(m_platform.mergeState(Json::array()), std::invalid_argument);
+    EXPECT_EQ(m_platform.state(), before);
 }
 
 TEST_F(ControlTest, ConnectionsAreCounted)

@@ -4,6 +4,7 @@
 #include "RequestLog.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <strings.h>
 #include <utility>
 
@@ -143,6 +144,15 @@ void Platform::setState(Json state)
 {
     const std::lock_guard lock(m_mutex);
     m_state = std::move(state);
+}
+
+void Platform::mergeState(const Json& patch)
+{
+    if (!patch.is_object()) {
+        throw std::invalid_argument("expected an object");
+    }
+    const std::lock_guard lock(m_mutex);
+    m_state.merge_patch(patch);
 }
 
 void Platform::reset()

@@ -23,6 +23,8 @@ public:
 private:
     Json envelopeFor(const HttpRequest& request);
     Json carryOut(const Operation& operation, const PathValues& path, const Json& query, const Json& body);
+    /// @throws std::invalid_argument when the patch is no object.
+    void mergeState(const Json& patch);
 
     const Contract m_contract;
     const Json m_seeds;

@@ -227,7 +227,9 @@ private:
             {"v1/requests",
              {{"GET", [this] { return Plain(200, ListOf(m_log.list())); }},
               {"DELETE", [this] { return done([this] { m_log.clear(); }); }}}},
-            {"v1/state", {{"GET", [this] { return Plain(200, m_platform.state()); }}}},
+            {"v1/state",
+             {{"GET", [this] { return Plain(200, m_platform.state()); }},
+              {"PUT", [this, &request] { return mergeState(request.body); }}}},
             {"v1/reset", {{"POST", [this] { return done([this] { m_platform.reset(); }); }}}},
             {"v1/connections", {{"GET", [this] {
                                      return Plain(200, Json{{"connections", m_server.connections()}});
@@ -244,6 +246,22 @@ private:
     {
         const Json json = Json::parse(text, nullptr, false);
         if (json.is_discarded()) {
+    {
+        return withJson(text, [this](const Json& json) {
+            Fault fault = Fault::FromJson(json);
+            const Json added = fault.toJson();
+            m_faults.add(std::move(fault));
+            return Plain(201, added);
+        });
+    }
+
+    HttpResponse mergeState(const std::string& text)
+    {
+        return withJson(text, [this](const Json& json) { return done([&] { m_platform.mergeState(json); }); });
+    }
+
+    /// @param action throws std::invalid_argument for JSON that it does not take
+    static HttpResponse withJson(const std::string& text, const std::function<HttpResponse(const Json&)>& action)
             return PlainError(400, "body: not JSON");
         }
         try {
@@ -332,6 +350,11 @@ void PlatformEmulator::setState(Json state)
 void PlatformEmulator::reset()
 {
     m_private->m_platform.reset();
+void PlatformEmulator::mergeState(const Json& patch)
+{
+    m_private->m_platform.mergeState(patch);
+}
+
 }
 
 std::size_t PlatformEmulator::connections() const

@@ -94,6 +94,10 @@ public:
     /// @param state a member for each family
     void setState(Json state);
     /// Back to the seeds; faults and recorded requests stay.
+    /// Changes parts of the state.
+    /// @param patch what changes, as a JSON merge patch (RFC 7396): a list is replaced whole, null removes a member
+    /// @throws std::invalid_argument when the patch is no object.
+    void mergeState(const Json& patch);
     void reset();
 
     /// @return how many TCP connections were accepted so far, on both ports
