@@ -245,6 +245,27 @@ TEST(ControlOffTest, ControlPathIsForbidden)
     EXPECT_EQ(client->get(kTimeSync).code(), 1000);
 }
 
+TEST(ControlTokenTest, ControlPathAsksForItsToken)
+{
+    emulator::Options options;
+    options.controlToken = "the-tester";
+    emulator::PlatformEmulator platform(options);
+    platform.start();
+    for (const char* token : {"", "wrong", emulator::kDefaultToken}) {
+        const auto client = ClientOf(platform, TestClient::Scheme::Http, token);
+        for (const char* path : {kFaults, kState, "/emulator/v1/requests", "/emulator/v1/nothing"}) {
+            const Answer answer = client->get(path);
+            EXPECT_EQ(answer.status, 401) << token << path;
+            EXPECT_FALSE(answer.json().value("error", "").empty()) << answer.body;
+        }
+        EXPECT_EQ(client->post(kFaults, Json{{"kind", "empty"}}).status, 401) << token;
+    }
+    EXPECT_TRUE(platform.faults().empty());
+    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, options.controlToken)->get(kState).json(),
+              platform.state());
+    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
+}
+
 TEST(OptionsTest, OtherTokenIsAsked)
 {
     emulator::Options options;

@@ -35,8 +35,8 @@ QStringList Words(const std::vector<std::string>& words)
 /// platform-emulator.
 class Program : public testing_support::RunningProgram {
 public:
-    explicit Program(const std::vector<std::string>& arguments)
-        : RunningProgram(QStringLiteral(EMULATOR_PROGRAM), Words(arguments))
+    explicit Program(const std::vector<std::string>& arguments, const testing_support::Variables& variables = {})
+        : RunningProgram(QStringLiteral(EMULATOR_PROGRAM), Words(arguments), variables)
     {}
 
     [[nodiscard]] std::size_t Threads() const
@@ -71,6 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"PortNegative", {"--http-port", "-1"}, "--http-port"},
                     BadOption{"ValueMissing", {"--token"}, "--token"},
                     BadOption{"TokenEmpty", {"--token", ""}, "--token"},
+                    BadOption{"ControlTokenEmpty", {"--control-token", ""}, "--control-token"},
                     BadOption{"ReadTimeoutZero", {"--read-timeout", "0"}, "--read-timeout"},
                     BadOption{"ScaleZero", {"--scale", "0"}, "--scale"},
                     BadOption{"ContractMissing", {"--contract", "/nowhere"}, "/nowhere"},
@@ -85,7 +86,8 @@ TEST(ProgramTest, HelpAndVersion)
     Program help({"--help"});
     EXPECT_EQ(help.ExitStatus(), 0);
     for (const char* text : {"platform-emulator", "--http-port", "--https-port", "--token", "--seed", "--contract",
-                             "--scale", "--address", "--no-control", "--read-timeout", "--verbose"}) {
+                             "--scale", "--address", "--control-token", "--no-control", "--read-timeout", "--verbose",
+                             "PLATFORM_EMULATOR_TOKEN", "PLATFORM_EMULATOR_CONTROL_TOKEN"}) {
         EXPECT_NE(help.Output().find(text), std::string::npos) << text;
     }
     Program version({"--version"});
@@ -136,6 +138,19 @@ TEST(ProgramTest, ClosesIdleConnectionsAfterTheReadTimeout)
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(SendRaw(program.Port("http"), "GET / HTTP/1.1\r\n"), "");
     EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+}
+
+TEST(ProgramTest, TakesItsTokensFromTheEnvironment)
+{
+    constexpr const char* kControlToken = "another-token";
+    Program program({}, {{QStringLiteral("PLATFORM_EMULATOR_TOKEN"), QString::fromLatin1(kToken)},
+                         {QStringLiteral("PLATFORM_EMULATOR_CONTROL_TOKEN"), QString::fromLatin1(kControlToken)}});
+    TestClient calls(TestClient::Scheme::Http, program.Port("http"), kToken);
+    EXPECT_EQ(calls.get(kTimeSync).code(), 1000);
+    EXPECT_EQ(calls.get("/emulator/v1/state").status, 401);
+    TestClient control(TestClient::Scheme::Http, program.Port("http"), kControlToken);
+    EXPECT_EQ(control.get("/emulator/v1/state").status, 200);
+    EXPECT_EQ(control.get(kTimeSync).status, 401);
 }
 
 TEST(ProgramTest, TakesAThousandConnectionsWithoutAThreadForEach)

@@ -6,7 +6,9 @@
 #include <QCryptographicHash>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -386,6 +388,20 @@ TEST_F(ServersTest, ARunThatWaitsForTheEmulatorIsNotMadeOfAnotherCall)
     QTest::qWait(0);
     EXPECT_EQ(session->runner.Pending(), 0);
     EXPECT_TRUE(outcomes.empty());
+}
+
+TEST_F(ServersTest, TokenOfTheEmulatorIsInNoProcessList)
+{
+    UseEmulator();
+    bool isListed = false;
+    const QStringList processes = QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[1-9]*")}, QDir::Dirs);
+    for (const QString& process : processes) {
+        QFile line(QStringLiteral("/proc/%1/cmdline").arg(process));
+        const QByteArray words = line.open(QIODevice::ReadOnly) ? line.readAll() : QByteArray();
+        isListed = isListed || words.contains("platform-emulator");
+        EXPECT_FALSE(words.contains(session->emulator.Token().toLatin1())) << words.toStdString();
+    }
+    EXPECT_TRUE(isListed);
 }
 
 TEST_F(ServersTest, AnEmulatorThatIsNotThereIsSaid)

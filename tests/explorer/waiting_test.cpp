@@ -225,6 +225,7 @@ TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
     QNetworkRequest request(
         QUrl(QStringLiteral("http://127.0.0.1:%1/emulator/v1/faults").arg(session->emulator.HttpPort())));
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    request.setRawHeader("X-Subject-Token", session->emulator.Token().toLatin1());
     const std::unique_ptr<QNetworkReply> reply(
         network.post(request, R"({"path": "/brms/api/v1.1/config/remote-log", "kind": "delay", "delayMs": 60000})"));
     ASSERT_TRUE(Await([&reply] { return reply->isFinished(); }));

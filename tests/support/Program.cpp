@@ -10,10 +10,7 @@ namespace {
 
 constexpr int kLongMilliseconds = 240'000;
 
-}  // namespace
-
-Ended RunProgram(const QString& program, const QStringList& arguments, const Variables& variables,
-                 const QByteArray& input)
+QProcessEnvironment EnvironmentWith(const Variables& variables)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (auto variable = variables.begin(); variable != variables.end(); ++variable) {
@@ -23,8 +20,16 @@ Ended RunProgram(const QString& program, const QStringList& arguments, const Var
             environment.insert(variable.key(), variable.value());
         }
     }
+    return environment;
+}
+
+}  // namespace
+
+Ended RunProgram(const QString& program, const QStringList& arguments, const Variables& variables,
+                 const QByteArray& input)
+{
     QProcess process;
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(EnvironmentWith(variables));
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
@@ -33,8 +38,9 @@ Ended RunProgram(const QString& program, const QStringList& arguments, const Var
             process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
 }
 
-RunningProgram::RunningProgram(const QString& program, const QStringList& arguments)
+RunningProgram::RunningProgram(const QString& program, const QStringList& arguments, const Variables& variables)
 {
+    m_process.setProcessEnvironment(EnvironmentWith(variables));
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.start(program, arguments);
     EXPECT_TRUE(m_process.waitForStarted()) << m_process.errorString().toStdString();

@@ -28,7 +28,7 @@ Ended RunProgram(const QString& program, const QStringList& arguments, const Var
 /// A server that runs beside the test and prints its ports. Its error output is part of its output.
 class RunningProgram {
 public:
-    RunningProgram(const QString& program, const QStringList& arguments);
+    RunningProgram(const QString& program, const QStringList& arguments, const Variables& variables = {});
     /// Ends it where it still runs.
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;

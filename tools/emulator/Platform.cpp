@@ -24,13 +24,6 @@ HttpResponse ResponseWith(int status, const Json& envelope)
     return response;
 }
 
-bool HasToken(const HttpRequest& request, const std::string& token)
-{
-    return std::any_of(request.headers.begin(), request.headers.end(), [&](const auto& header) {
-        return ::strcasecmp(header.first.c_str(), "X-Subject-Token") == 0 && header.second == token;
-    });
-}
-
 /// The value in the type of its schema: "12" is a number where an integer is asked.
 Json TypedValue(const QueryParameter& parameter, const std::string& text)
 {
@@ -86,6 +79,13 @@ Json CheckedBody(const Operation& operation, const std::string& text)
 
 }  // namespace
 
+bool HasToken(const HttpRequest& request, const std::string& token)
+{
+    return std::any_of(request.headers.begin(), request.headers.end(), [&](const auto& header) {
+        return ::strcasecmp(header.first.c_str(), "X-Subject-Token") == 0 && header.second == token;
+    });
+}
+
 Platform::Platform(Contract contract, Json seeds, std::string token)
     : m_contract(std::move(contract)), m_seeds(std::move(seeds)), m_token(std::move(token)), m_state(m_seeds)
 {}
@@ -93,7 +93,7 @@ Platform::Platform(Contract contract, Json seeds, std::string token)
 HttpResponse Platform::answer(const HttpRequest& request)
 {
     if (!HasToken(request, m_token)) {
-        return ResponseWith(401, Envelope(401, "X-Subject-Token is missing or wrong"));
+        return ResponseWith(401, Envelope(401, kWrongToken));
     }
     try {
         return ResponseWith(200, envelopeFor(request));

@@ -8,6 +8,11 @@
 
 namespace emulator {
 
+constexpr const char* kWrongToken = "X-Subject-Token is missing or wrong";
+
+/// Whether the request carries the token.
+bool HasToken(const HttpRequest& request, const std::string& token);
+
 /// Judges calls by the contract, carries them out on the state and answers with envelopes.
 class Platform {
 public:
@@ -18,13 +23,13 @@ public:
 
     [[nodiscard]] Json state() const;
     void setState(Json state);
+    /// @throws std::invalid_argument when the patch is no object.
+    void mergeState(const Json& patch);
     void reset();
 
 private:
     Json envelopeFor(const HttpRequest& request);
     Json carryOut(const Operation& operation, const PathValues& path, const Json& query, const Json& body);
-    /// @throws std::invalid_argument when the patch is no object.
-    void mergeState(const Json& patch);
 
     const Contract m_contract;
     const Json m_seeds;

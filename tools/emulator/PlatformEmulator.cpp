@@ -218,6 +218,9 @@ private:
         if (!m_options.controlPath) {
             return PlainError(403, "the control path is switched off");
         }
+        if (!m_options.controlToken.empty() && !HasToken(request, m_options.controlToken)) {
+            return PlainError(401, kWrongToken);
+        }
         const std::string path = PathOf(request.target).substr(std::string_view(kControlPath).size());
         const std::map<std::string, std::map<std::string, std::function<HttpResponse()>>> routes = {
             {"v1/faults",
@@ -244,9 +247,6 @@ private:
 
     HttpResponse addFault(const std::string& text)
     {
-        const Json json = Json::parse(text, nullptr, false);
-        if (json.is_discarded()) {
-    {
         return withJson(text, [this](const Json& json) {
             Fault fault = Fault::FromJson(json);
             const Json added = fault.toJson();
@@ -262,6 +262,9 @@ private:
 
     /// @param action throws std::invalid_argument for JSON that it does not take
     static HttpResponse withJson(const std::string& text, const std::function<HttpResponse(const Json&)>& action)
+    {
+        const Json json = Json::parse(text, nullptr, false);
+        if (json.is_discarded()) {
             return PlainError(400, "body: not JSON");
         }
         try {
@@ -347,14 +350,14 @@ void PlatformEmulator::setState(Json state)
     m_private->m_platform.setState(std::move(state));
 }
 
-void PlatformEmulator::reset()
-{
-    m_private->m_platform.reset();
 void PlatformEmulator::mergeState(const Json& patch)
 {
     m_private->m_platform.mergeState(patch);
 }
 
+void PlatformEmulator::reset()
+{
+    m_private->m_platform.reset();
 }
 
 std::size_t PlatformEmulator::connections() const

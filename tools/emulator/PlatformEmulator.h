@@ -31,6 +31,7 @@ struct Options {
     std::filesystem::path seed = DefaultShareFolder() / "seed";          ///< folder of the seed data
     int scale = 1;                                                       ///< multiplies the seeded lists
     bool controlPath = true;                                             ///< answer /emulator/v1/...
+    std::string controlToken;                                            ///< asked for there; empty: none is
     bool verbose = false;  ///< a line for each request on standard output, without the token
     /// How long a connection may be idle; a request that has begun has as long to be there whole.
     std::chrono::milliseconds readTimeout = std::chrono::seconds(30);
@@ -93,11 +94,11 @@ public:
     /// Replaces the state, to give a test the data it needs.
     /// @param state a member for each family
     void setState(Json state);
-    /// Back to the seeds; faults and recorded requests stay.
     /// Changes parts of the state.
     /// @param patch what changes, as a JSON merge patch (RFC 7396): a list is replaced whole, null removes a member
     /// @throws std::invalid_argument when the patch is no object.
     void mergeState(const Json& patch);
+    /// Back to the seeds; faults and recorded requests stay.
     void reset();
 
     /// @return how many TCP connections were accepted so far, on both ports

@@ -84,9 +84,18 @@ std::optional<int> Read(int argc, char** argv, emulator::Options& options)
     app.add_option("--https-port", options.httpsPort, Filled(Texts::tr("Port for HTTPS, 0 for any free one")))
         ->check(translation::InRange(0, kHighestPort))
         ->capture_default_str();
+    const auto isNotEmpty = [](const std::string& token) {
+        return token.empty() ? Filled(Texts::tr("is empty")) : std::string();
+    };
     app.add_option("--token", options.token,
-                   Filled(Texts::tr("Token that callers must send as X-Subject-Token (default: see docs/emulator.md)")))
-        ->check([](const std::string& token) { return token.empty() ? Filled(Texts::tr("is empty")) : std::string(); });
+                   Filled(Texts::tr("Token that callers must send as X-Subject-Token (default: see docs/emulator.md); "
+                                    "the environment keeps it out of the process list")))
+        ->check(isNotEmpty)
+        ->envname("PLATFORM_EMULATOR_TOKEN");
+    app.add_option("--control-token", options.controlToken,
+                   Filled(Texts::tr("Token that the control path asks for as X-Subject-Token (default: none)")))
+        ->check(isNotEmpty)
+        ->envname("PLATFORM_EMULATOR_CONTROL_TOKEN");
     //: Stands for the value of --contract and of --seed
     const std::string folder = Filled(Texts::tr("DIR"));
     app.add_option("--contract", options.contract,

@@ -852,10 +852,6 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Port für HTTPS, 0 für einen beliebigen freien</translation>
     </message>
     <message>
-        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md)</source>
-        <translation>Token, das Aufrufer als X-Subject-Token senden müssen (Vorgabe: siehe docs/emulator.md)</translation>
-    </message>
-    <message>
         <source>is empty</source>
         <translation>ist leer</translation>
     </message>
@@ -915,6 +911,14 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     <message>
         <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
         <translation>Sekunden, nach denen eine Verbindung geschlossen wird, auf der nichts kommt oder deren Anfrage nicht endet</translation>
+    </message>
+    <message>
+        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md); the environment keeps it out of the process list</source>
+        <translation>Token, das Aufrufer als X-Subject-Token senden müssen (Vorgabe: siehe docs/emulator.md); aus der Umgebung genommen, erscheint es nicht in der Prozessliste</translation>
+    </message>
+    <message>
+        <source>Token that the control path asks for as X-Subject-Token (default: none)</source>
+        <translation>Token, das der Steuerpfad als X-Subject-Token verlangt (Vorgabe: keines)</translation>
     </message>
 </context>
 </TS>

@@ -852,10 +852,6 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <translation>HTTPS 端口，0 表示任意空闲端口</translation>
     </message>
     <message>
-        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md)</source>
-        <translation>调用方必须以 X-Subject-Token 发送的令牌（默认值见 docs/emulator.md）</translation>
-    </message>
-    <message>
         <source>is empty</source>
         <translation>为空</translation>
     </message>
@@ -915,6 +911,14 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
     <message>
         <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
         <translation>空闲连接或请求未结束的连接在多少秒后关闭</translation>
+    </message>
+    <message>
+        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md); the environment keeps it out of the process list</source>
+        <translation>调用方必须以 X-Subject-Token 发送的令牌（默认值见 docs/emulator.md）；通过环境变量给出时不会出现在进程列表中</translation>
+    </message>
+    <message>
+        <source>Token that the control path asks for as X-Subject-Token (default: none)</source>
+        <translation>控制路径以 X-Subject-Token 要求的令牌（默认无）</translation>
     </message>
 </context>
 </TS>

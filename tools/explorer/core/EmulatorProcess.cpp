@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRandomGenerator>
 
 #include <csignal>
@@ -81,7 +82,12 @@ void EmulatorProcess::Start()
     m_token = FreshToken();
     m_stopping = false;
     SetState(Starting);
-    m_process->start(m_program, {QStringLiteral("--token"), m_token}, QIODevice::ReadOnly);
+    // Other users of the machine can read the command line, and the recorded requests on an open control path.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PLATFORM_EMULATOR_TOKEN"), m_token);
+    environment.insert(QStringLiteral("PLATFORM_EMULATOR_CONTROL_TOKEN"), m_token);
+    m_process->setProcessEnvironment(environment);
+    m_process->start(m_program, {}, QIODevice::ReadOnly);
 }
 
 void EmulatorProcess::Stop()

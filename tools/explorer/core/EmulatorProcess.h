@@ -34,7 +34,7 @@ public:
     [[nodiscard]] State GetState() const { return m_state; }
     [[nodiscard]] int HttpPort() const { return m_httpPort; }
     [[nodiscard]] int HttpsPort() const { return m_httpsPort; }
-    /// Fresh for each start.
+    /// For calls and for the control path; fresh for each start.
     [[nodiscard]] const QString& Token() const { return m_token; }
 
 Q_SIGNALS:
