@@ -1,6 +1,7 @@
 #include "Contract.h"
 #include "EmulatorTest.h"
 #include "Handlers.h"
+#include "SeedCheck.h"
 #include "State.h"
 
 #include <algorithm>
@@ -341,6 +342,56 @@ INSTANTIATE_TEST_SUITE_P(Seeds, RefusedSeedTest,
                                                      R"({"scale": {"lists": ["missing"], "identifiers": []}})",
                                                      "missing"}),
                          RowName());
+
+/// The places of a value and of all in it; of each list and of each object of objects the first element alone.
+void AddPlaces(const Json& value, const Json::json_pointer& place, std::vector<Json::json_pointer>& places)
+{
+    places.push_back(place);
+    if (value.is_array() && !value.empty()) {
+        AddPlaces(value.front(), place / 0, places);
+    } else if (value.is_object()) {
+        for (const auto& member : value.items()) {
+            AddPlaces(member.value(), place / member.key(), places);
+        }
+    }
+}
+
+TEST(SeedTest, WrongTypeIsReportedWithItsFileAndPlace)
+{
+    // Shown in the state alone, no call reads it.
+    const std::set<std::string> unread = {"/brms/users/0/userName", "/iams/tasks/0/fileName",
+                                          "/iams/tasks/0/uploadFailed", "/ipms/captureRecords/0/plateNo",
+                                          "/obms/zones/0/zoneName"};
+    const Json seeds = emulator::LoadSeeds(emulator::Options().seed, 1);
+    std::vector<Json::json_pointer> places;
+    for (const auto& family : seeds.items()) {
+        for (const auto& member : family.value().items()) {
+            AddPlaces(member.value(), Json::json_pointer() / family.key() / member.key(), places);
+        }
+    }
+    for (const Json::json_pointer& place : places) {
+        Json wrong = seeds;
+        wrong[place] = seeds.at(place).is_structured() ? Json("a text") : Json::array();
+        std::string message;
+        try {
+            emulator::CheckSeeds(wrong, RealContract());
+        } catch (const emulator::SeedError& error) {
+            message = error.what();
+        }
+        std::string expected = place.to_string().substr(1);
+        expected.replace(expected.find('/'), 1, ".json: /").append(": expected ");
+        const bool isUnread = unread.count(place.to_string()) > 0;
+        EXPECT_EQ(message.substr(0, expected.size()), isUnread ? "" : expected) << place;
+    }
+}
+
+TEST(SeedTest, SeedsOfSomeFamiliesDo)
+{
+    Json seeds = emulator::LoadSeeds(emulator::Options().seed, 1);
+    seeds.erase("brms");
+    seeds["inventory"].erase("devices");
+    EXPECT_NO_THROW(emulator::CheckSeeds(seeds, RealContract()));
+}
 
 TEST(SeedTest, FolderWithoutSeedsIsRefused)
 {

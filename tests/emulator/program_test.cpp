@@ -209,17 +209,44 @@ INSTANTIATE_TEST_SUITE_P(Signals, SignalTest, testing::Values(SIGTERM, SIGINT),
                              return row.param == SIGTERM ? "Terminate" : "Interrupt";
                          });
 
+/// A copy of the seeds with another file for one family, gone after the test.
+class EditedSeeds {
+public:
+    EditedSeeds(const std::string& file, const std::string& text)
+    {
+        std::string name = std::filesystem::temp_directory_path() / "emulator-seed-XXXXXX";
+        m_folder = ::mkdtemp(name.data());
+        std::filesystem::copy(emulator::Options().seed, m_folder, std::filesystem::copy_options::overwrite_existing);
+        std::ofstream(m_folder / file) << text;
+    }
+    EditedSeeds(const EditedSeeds&) = delete;
+    EditedSeeds& operator=(const EditedSeeds&) = delete;
+    EditedSeeds(EditedSeeds&&) = delete;
+    EditedSeeds& operator=(EditedSeeds&&) = delete;
+    ~EditedSeeds() { std::filesystem::remove_all(m_folder); }
+
+    [[nodiscard]] const std::filesystem::path& folder() const { return m_folder; }
+
+private:
+    std::filesystem::path m_folder;
+};
+
 TEST(ProgramTest, EditedSeedsAreServed)
 {
-    std::string name = std::filesystem::temp_directory_path() / "emulator-seed-XXXXXX";
-    const std::filesystem::path folder = ::mkdtemp(name.data());
-    std::filesystem::copy(emulator::Options().seed, folder, std::filesystem::copy_options::overwrite_existing);
-    std::ofstream(folder / "omms.json") << R"({"alertTypes": [{"alertTypeId": "a", "alertTypeName": "b"}]})";
-    Program program({"--seed", folder});
+    const EditedSeeds seeds("omms.json", R"({"alertTypes": [{"alertTypeId": "a", "alertTypeName": "b"}]})");
+    Program program({"--seed", seeds.folder()});
     TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
     EXPECT_EQ(client.get("/omms/api/v1.1/alert/rule/alert-type/list").data(),
               Json::parse(R"({"results": [{"alertTypeId": "a", "alertTypeName": "b"}]})"));
     program.Signal(SIGTERM);
     EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
-    std::filesystem::remove_all(folder);
+}
+
+TEST(ProgramTest, WrongTypeInASeedEndsItAtOnce)
+{
+    const EditedSeeds seeds("omms.json", R"({"alertTypes": [{"alertTypeId": 7, "alertTypeName": "b"}]})");
+    Program program({"--seed", seeds.folder()});
+    EXPECT_EQ(program.ExitStatus(), 2);
+    EXPECT_EQ(program.Output(),
+              "platform-emulator: omms.json: /alertTypes/0/alertTypeId: expected string, got number\n");
 }

@@ -186,7 +186,7 @@ void Remember(const Call& call)
 
 Handler ReadDocument(const Place& place)
 {
-    return [place](const Call& call) { return call.state.at(place); };
+    return {[place](const Call& call) { return call.state.at(place); }, place.to_string()};
 }
 
 Handler WriteDocument(const Place& place)
@@ -199,12 +199,13 @@ Handler WriteDocument(const Place& place)
 
 Handler ReadEntry(const Place& place, const Collection& owners)
 {
-    return [place, owners](const Call& call) {
-        const std::string& id = PathValue(call);
-        owners.find(call.state, id);
-        const Json& entries = call.state.at(place);
-        return entries.contains(id) ? entries.at(id) : entries.at("*");
-    };
+    return {[place, owners](const Call& call) {
+                const std::string& id = PathValue(call);
+                owners.find(call.state, id);
+                const Json& entries = call.state.at(place);
+                return entries.contains(id) ? entries.at(id) : entries.at("*");
+            },
+            place.to_string() + "/{}"};
 }
 
 Handler WriteEntry(const Place& place, const Collection& owners)
@@ -218,19 +219,21 @@ Handler WriteEntry(const Place& place, const Collection& owners)
 
 Handler ReadElement(const Collection& collection)
 {
-    return [collection](const Call& call) { return collection.find(call.state, PathValue(call)); };
+    return {[collection](const Call& call) { return collection.find(call.state, PathValue(call)); },
+            collection.list.to_string() + "/[]"};
 }
 
 Handler List(const Place& place, std::vector<Filter> filters)
 {
-    return [place, filters = std::move(filters)](const Call& call) {
-        return Json{{"results", Filtered(call.state.at(place), filters, call)}};
-    };
+    return {[place, filters = std::move(filters)](const Call& call) {
+                return Json{{"results", Filtered(call.state.at(place), filters, call)}};
+            },
+            place.to_string() + "/[]", "/properties/results/items"};
 }
 
 Handler Page(const Place& place, std::vector<Filter> filters)
 {
-    return [place, filters = std::move(filters)](const Call& call) {
+    const auto pageOf = [place, filters = std::move(filters)](const Call& call) {
         const Json all = Filtered(call.state.at(place), filters, call);
         const std::size_t page = std::max<std::size_t>(CountOf(call, "page"), 1);
         const std::size_t size = CountOf(call, "pageSize");
@@ -241,6 +244,7 @@ Handler Page(const Place& place, std::vector<Filter> filters)
                   std::back_inserter(data));
         return Json{{"totalCount", all.size()}, {"pageData", data}};
     };
+    return {pageOf, place.to_string() + "/[]", "/properties/pageData/items"};
 }
 
 Handler Create(const Collection& collection, const std::string& reader)

@@ -6,6 +6,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace emulator {
@@ -43,7 +44,26 @@ struct Call {
 
 /// Carries a call out: changes the state and returns the reply's "data". Keys that the contract has no room for are
 /// dropped from it afterwards, so a handler may return a record as the state holds it.
-using Handler = std::function<Json(const Call&)>;
+class Handler {
+public:
+    /// @param action carries the call out
+    /// @param source where the state holds what the call returns, such as "/brms/userGroups/[]", for the check of the
+    /// seeds: "[]" is each element of a list, "{}" each member of an object. Empty: the handler puts it together.
+    /// @param part the place in the schema of "data" of what the source holds; empty for all of it
+    template <typename Action>
+    Handler(Action action, std::string source = {}, std::string part = {})
+        : m_action(std::move(action)), m_source(std::move(source)), m_part(std::move(part))
+    {}
+
+    Json operator()(const Call& call) const { return m_action(call); }
+    [[nodiscard]] const std::string& source() const { return m_source; }
+    [[nodiscard]] const std::string& part() const { return m_part; }
+
+private:
+    std::function<Json(const Call&)> m_action;
+    std::string m_source;
+    std::string m_part;
+};
 
 /// Operation identifier -> handler. A family is one such table.
 using HandlerTable = std::map<std::string, Handler>;

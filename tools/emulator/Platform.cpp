@@ -2,6 +2,7 @@
 
 #include "Handlers.h"
 #include "RequestLog.h"
+#include "SeedCheck.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -88,7 +89,9 @@ bool HasToken(const HttpRequest& request, const std::string& token)
 
 Platform::Platform(Contract contract, Json seeds, std::string token)
     : m_contract(std::move(contract)), m_seeds(std::move(seeds)), m_token(std::move(token)), m_state(m_seeds)
-{}
+{
+    CheckSeeds(m_seeds, m_contract);
+}
 
 HttpResponse Platform::answer(const HttpRequest& request)
 {

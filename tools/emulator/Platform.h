@@ -16,6 +16,7 @@ bool HasToken(const HttpRequest& request, const std::string& token);
 /// Judges calls by the contract, carries them out on the state and answers with envelopes.
 class Platform {
 public:
+    /// @throws SeedError when the seeds do not fit the contract.
     Platform(Contract contract, Json seeds, std::string token);
 
     /// Safe from several threads; calls take turns.

@@ -38,6 +38,8 @@ const Json* SchemaAt(const Json& schema, Json::json_pointer place)
             node = &node->at("properties").at(*step);
         } else if (node->contains("items")) {
             node = &node->at("items");
+        } else if (node->contains("additionalProperties")) {
+            node = &node->at("additionalProperties");
         } else {
             return nullptr;
         }

@@ -51,7 +51,7 @@ HandlerTable Dms()
         {"DMS.WashOpen", Wash},
         {"DMS.BatchWashOpen", WashBatch},
         {"DMS.SetHomePosition", CommandNamed},
-        {"DMS.GotoHomePosition", CommandNamed},
+        {"DMS.GotoHomePosition", {CommandNamed, "/dms/lockUsers/{}", "/properties/lockUser/oneOf/1"}},
     };
 }
 

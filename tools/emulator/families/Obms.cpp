@@ -107,7 +107,7 @@ HandlerTable Obms()
          Page(kPersons.list, {HasKeyword({"personName", "personId"}), InOrganisation(), AtDevice, AtOneOfThePoints})},
         {"OBMS.GetManagePersons", ReadManagedPersons},
         {"OBMS.SetManagePersons", WriteManagedPersons},
-        {"OBMS.GetPointRules", ReadPointRules},
+        {"OBMS.GetPointRules", {ReadPointRules, "/obms/points/[]/rules/[]", "/properties/results/items"}},
         {"OBMS.PersonResetAntiPass", AcceptFor(kPersons)},
         {"OBMS.GetConfigDesfireInfo", ReadDocument("/obms/desfire")},
         {"OBMS.UpdateConfigDesfireInfo", WriteDocument("/obms/desfire")},
