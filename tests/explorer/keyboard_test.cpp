@@ -5,6 +5,8 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -68,6 +70,20 @@ TEST_F(KeyboardTest, TheTabKeyReachesAllInTheOrderOfTheScreen)
         EXPECT_GT(place, last) << name;
         last = place;
     }
+}
+
+TEST_F(KeyboardTest, AFieldOfTextLeavesTheKeyOfTheServersDialogToTheWindow)
+{
+    Choose("BRMS.SetRemoteLogConfig");
+    ASSERT_TRUE(Activate());
+    auto& field = Find<QLineEdit>("ip");
+    field.setFocus();
+    QKeyEvent asks(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
+    asks.ignore();
+    QApplication::sendEvent(&field, &asks);
+    EXPECT_FALSE(asks.isAccepted());
+    Press(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_NE(Window().findChild<QDialog*>(QStringLiteral("serversDialog")), nullptr);
 }
 
 struct Place {

@@ -80,7 +80,8 @@ TEST_P(MainStateTest, ResultRequestAndTiming)
     results.setCurrentIndex(1);
     Shoot(Window(), ("request" + suffix).c_str());
     explorer::RunOrder order;
-    order.call = catalogue::FindCall("BRMS.GetTimeSyncConfig");
+    order.call = catalogue::FindCall("BRMS.GetQuickCommands");
+    order.arguments = {{QStringLiteral("keyword"), QString()}};
     order.server = session->servers.Current();
     session->runner.Repeat(order, 30);
     ASSERT_TRUE(AwaitRuns(34));

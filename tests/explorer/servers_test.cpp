@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QCryptographicHash>
 #include <QDialog>
@@ -131,6 +132,76 @@ TEST_F(ServersTest, WithoutASecretServiceTheTokenIsAskedForInEachRunOfTheProgram
     ASSERT_EQ(requests.size(), 2U);
     EXPECT_EQ(requests.front().Value("X-Subject-Token"), "second");
     EXPECT_EQ(requests.back().Value("X-Subject-Token"), "second");
+}
+
+TEST_F(ServersTest, ATokenThatIsRefusedIsNotSentAgain)
+{
+    RawServer server([](const RawRequest& request) {
+        return request.Value("X-Subject-Token") == "right" ? Success("{}") : testing_support::HttpAnswer(401, "");
+    });
+    Use(server.Port());
+    EXPECT_EQ(Run("BRMS.GetRemoteLogConfig").result, 7000);
+    ClickRun();
+    ASSERT_TRUE(Await([this] { return Window().findChild<QDialog*>(QStringLiteral("tokenDialog")) != nullptr; }));
+    TypeInto("token", QStringLiteral("right"));
+    Press("tokenDialog", QDialogButtonBox::Ok);
+    ASSERT_TRUE(AwaitRuns(2));
+    EXPECT_TRUE(outcomes.back().succeeded);
+    EXPECT_EQ(server.TakeRequests().size(), 2U);
+
+    // One that was given meanwhile stays.
+    const QString id = session->servers.Current().id;
+    session->tokens.Refuse(id, QLatin1String(kToken));
+    EXPECT_EQ(session->tokens.Find(id), QStringLiteral("right"));
+}
+
+TEST_F(ServersTest, ARefusedTokenOfTheVaultIsNotFetchedAgain)
+{
+    vault.tokens.insert(QStringLiteral("id"), QStringLiteral("old"));
+    session->tokens.Fetch(QStringLiteral("id"));
+    ASSERT_EQ(session->tokens.Find(QStringLiteral("id")), QStringLiteral("old"));
+    session->tokens.Refuse(QStringLiteral("id"), QStringLiteral("old"));
+    session->tokens.Fetch(QStringLiteral("id"));
+    EXPECT_EQ(session->tokens.Find(QStringLiteral("id")), std::nullopt);
+}
+
+struct Url {
+    const char* text;
+    const char* host;
+    bool https;
+    int port;
+};
+
+TEST_F(ServersTest, AUrlInTheHostsFieldFillsSchemeHostAndPort)
+{
+    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+    auto& host = Find<QLineEdit>("serverHost");
+    const Url urls[] = {{"http://vms.example:8080/login?x=1", "vms.example", false, 8080},
+                        {" https://vms.example/ ", "vms.example", true, 443},
+                        {"http://[fe80::1]", "[fe80::1]", false, 80},
+                        {"https://10.0.0.7:8443", "10.0.0.7", true, 8443}};
+    for (const Url& url : urls) {
+        QApplication::clipboard()->setText(QString::fromUtf8(url.text));
+        host.selectAll();
+        host.setFocus();
+        host.paste();
+        EXPECT_EQ(host.text().toStdString(), url.host);
+        EXPECT_EQ(Find<QComboBox>("serverScheme").currentData().toBool(), url.https) << url.text;
+        EXPECT_EQ(Find<QSpinBox>("serverPort").value(), url.port) << url.text;
+    }
+    Press("serversDialog", QDialogButtonBox::Ok);
+    EXPECT_EQ(session->servers.Current().Address(), QStringLiteral("https://10.0.0.7:8443"));
+}
+
+TEST_F(ServersTest, ANewServerIsTheCurrentOne)
+{
+    AddServer(QStringLiteral("First"), QStringLiteral("first.example"), 80, QStringLiteral("t"));
+    EXPECT_EQ(session->servers.Current().name, QStringLiteral("First"));
+    session->servers.SetCurrent(0);
+    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    Press("serversDialog", QDialogButtonBox::Ok);
+    EXPECT_TRUE(session->servers.IsEmulator()) << "nothing is new";
 }
 
 TEST_F(ServersTest, WithoutAnAnswerAboutTheTokenNothingRuns)
@@ -343,7 +414,7 @@ INSTANTIATE_TEST_SUITE_P(Hosts, HostTest,
                          testing::Values(std::pair("server.example", true), std::pair("10.0.0.7", true),
                                          std::pair("[::1]", true), std::pair("::1", false), std::pair("a b", false),
                                          std::pair("host:80", false), std::pair("user@host", false),
-                                         std::pair("host/path", false), std::pair("http://host", false)));
+                                         std::pair("host/path", false), std::pair("ftp://host", false)));
 
 TEST_F(ServersTest, TheEmulatorIsStartedAndStopped)
 {

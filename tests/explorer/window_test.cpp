@@ -6,6 +6,7 @@
 #include <explorer/views/ResultView.h>
 #include <explorer/window/Appearance.h>
 #include <explorer/window/CallPanel.h>
+#include <explorer/window/ResultHeader.h>
 
 #include <QAction>
 #include <QClipboard>
@@ -14,7 +15,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTabWidget>
 #include <QToolButton>
@@ -410,6 +414,106 @@ TEST_F(WindowTest, SpeaksTheLanguagesOfTheErrorTexts)
     Start();
     EXPECT_EQ(Find<QPushButton>("run").text(), QStringLiteral("Ausführen"));
     emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+TEST_F(WindowTest, AnotherLanguageKeepsResultsArgumentsAndTheWayToWait)
+{
+    RawServer server([](const RawRequest&) { return Success("{\"enable\": \"1\"}"); });
+    Use(server.Port());
+    Run(kCall);
+    const QString details = TextOf("resultDetails");
+    Use(explorer::Way::WithoutWaiting);
+    Find<QSpinBox>("timeout").setValue(7);
+    Choose("BRMS.GetLocalSetting");
+    Window().findChild<explorer::ArgumentForm*>()->SetArguments({{QStringLiteral("settingType"), 7}});
+
+    emit Window().LanguageChosen(QStringLiteral("de"));
+    emit Window().LanguageChosen(QStringLiteral("en"));
+    EXPECT_EQ(Window().findChild<explorer::ArgumentForm*>()->Arguments().value(QLatin1String("settingType")).toInt(),
+              7);
+    EXPECT_EQ(Find<QComboBox>("wait").currentData().toInt(), int(explorer::Way::WithoutWaiting));
+    EXPECT_EQ(Find<QSpinBox>("timeout").value(), 7);
+    Choose(kCall);
+    EXPECT_EQ(TextOf("resultDetails"), details);
+    EXPECT_EQ(TextOf("calls"), QStringLiteral("1"));
+}
+
+TEST_F(WindowTest, TheTimesAreThoseOfTheChosenCall)
+{
+    RawServer server([](const RawRequest&) { return Success("{}"); });
+    Use(server.Port());
+    Run("BRMS.GetTimeSyncConfig");
+    Run("BRMS.GetTimeSyncConfig");
+    Run(kCall);
+    EXPECT_EQ(TextOf("calls"), QStringLiteral("1"));
+    EXPECT_EQ(TextOf("median"), TextOf("percentile"));
+    Choose("BRMS.GetTimeSyncConfig");
+    EXPECT_EQ(TextOf("calls"), QStringLiteral("2"));
+    EXPECT_TRUE(TextOf("parts").startsWith(QStringLiteral("This run: "))) << TextOf("parts").toStdString();
+    Choose("BRMS.GetDiskWarm");
+    EXPECT_EQ(TextOf("calls"), QStringLiteral("0"));
+    EXPECT_EQ(TextOf("parts"), QString());
+}
+
+TEST_F(WindowTest, NothingMovesAndNothingOldIsShownWhileACallRuns)
+{
+    int count = 0;
+    RawServer server([&count](const RawRequest&) {
+        return ++count == 1 ? Success("{\"enable\": \"1\"}") : testing_support::RawAnswer{};
+    });
+    Use(server.Port());
+    Use(explorer::Way::WithoutWaiting);
+    Run(kCall);
+    auto& results = *Window().findChild<explorer::ResultView*>();
+    const auto texts = [&results] {
+        QString all;
+        const auto pages = results.findChildren<explorer::CodeView*>();
+        for (const auto* pPage : pages) {
+            all += pPage->Text();
+        }
+        return all + RowsOf(*results.findChild<QTreeView*>()->model()).join(QLatin1Char('\n'));
+    };
+    ASSERT_TRUE(texts().contains(QStringLiteral("enable")));
+    auto& run = Find<QPushButton>("run");
+    const QPoint place = run.mapTo(&Window(), QPoint());
+    ClickRun();
+    ASSERT_TRUE(Await([this] { return TextOf("resultWords") == QStringLiteral("GetRemoteLogConfig is running"); }));
+    EXPECT_EQ(texts(), QString());
+    EXPECT_FALSE(TextOf("runState").isEmpty());
+    Find<QWidget>("runningCalls").hide();  // its row is another matter
+    QTest::qWait(0);
+    EXPECT_EQ(run.mapTo(&Window(), QPoint()), place);
+}
+
+TEST_F(WindowTest, ALongTextOfTheServerScrolls)
+{
+    const QByteArray words = QByteArray(4000, 'w').replace('w', "so ");
+    RawServer server(
+        [&words](const RawRequest&) { return HttpAnswer(200, "{\"code\": 1002, \"desc\": \"" + words + "\"}"); });
+    Use(server.Port());
+    Run(kCall);
+    const auto& header = *Window().findChild<explorer::ResultHeader*>();
+    EXPECT_LT(header.height(), Window().height() / 3);
+    EXPECT_TRUE(Await([&header] { return header.verticalScrollBar()->maximum() > header.height(); }));
+    EXPECT_GT(Find<QTabWidget>("results").height(), header.height());
+}
+
+TEST_F(WindowTest, ASmallWindowShowsEveryPane)
+{
+    Choose("BRMS.AddQuickCommand");
+    Window().resize(800, 600);
+    QTest::qWait(0);
+    EXPECT_GE(Find<QTreeView>("callTree").width(), 200);
+    EXPECT_GE(Find<QTabWidget>("results").width(), 200);
+    EXPECT_GE(Find<QSpinBox>("timeout").width(), Find<QSpinBox>("timeout").sizeHint().width());
+}
+
+TEST_F(WindowTest, LeavesRoomForTheFrameOnTheScreen)
+{
+    constexpr int kFrame = 40;
+    const int shortest = Window().minimumSizeHint().height();
+    EXPECT_LT(shortest, 800 - kFrame);
+    EXPECT_LE(Window().height(), qMax(shortest, Window().screen()->availableSize().height() - kFrame));
 }
 
 TEST_F(WindowTest, SpeaksEnglishWhereThereIsNoTranslation)

@@ -388,6 +388,14 @@ void ArgumentFormTest::ANarrowPaneShowsWholeForms()
                 QVERIFY2(pLabel->width() >= needed.width() && pLabel->height() >= needed.height(),
                          qPrintable(pLabel->text()));
             }
+            if (pLabel->buddy() != nullptr) {
+                QVERIFY2(pLabel->sizeHint().height() < 2 * pLabel->fontMetrics().height(), "the name breaks");
+            }
+        }
+        const QList<NumberBox*> numbers = area.widget()->findChildren<NumberBox*>();
+        for (const NumberBox* pNumber : numbers) {
+            const auto& line = *pNumber->findChild<QLineEdit*>();
+            QVERIFY2(line.width() > line.fontMetrics().horizontalAdvance(line.text()), qPrintable(line.text()));
         }
         const QList<QLineEdit*> fields = area.widget()->findChildren<QLineEdit*>();
         for (const QLineEdit* pField : fields) {

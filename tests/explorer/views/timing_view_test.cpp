@@ -1,4 +1,4 @@
-// The times of the last calls, and repeated runs.
+// The times of the runs of a call, and repeated runs.
 #include "support/Samples.h"
 #include "support/Screenshots.h"
 #include "support/ViewTest.h"
@@ -16,6 +16,9 @@
 #include <QtCharts/QValueAxis>
 #include <QtCharts/QXYSeries>
 
+#include <vector>
+
+using explorer::CallOutcome;
 using explorer::TimingChart;
 using explorer::TimingView;
 using namespace QtCharts;
@@ -24,11 +27,9 @@ class TimingViewTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void FiguresAreThoseOfTheCalls();
-    void TheLastCallIsShownInItsParts();
+    void FiguresAreThoseOfTheRuns();
+    void ARunIsShownInItsParts();
     void TheChartShowsEachCall();
-    void TheLastHundredAreKept();
-    void ClearingBeginsAnew();
     void ColoursFollowThePalette();
     void ARepeatIsRequested();
     void ProgressIsShownUntilAllIsDone();
@@ -39,13 +40,21 @@ private slots:
 
 namespace {
 
-void Add(TimingView& view, double milliseconds, bool succeeded = true)
+CallOutcome Timed(double milliseconds, bool succeeded = true)
 {
-    static const explorer::CallOutcome sample = view_test::DeviceCategories();
-    explorer::CallOutcome outcome = sample;
+    CallOutcome outcome = view_test::DeviceCategories();
     outcome.elapsedMilliseconds = milliseconds;
     outcome.succeeded = succeeded;
-    view.Add(outcome);
+    return outcome;
+}
+
+void Show(TimingView& view, const std::vector<CallOutcome>& outcomes)
+{
+    std::vector<const CallOutcome*> runs;
+    for (const CallOutcome& outcome : outcomes) {
+        runs.push_back(&outcome);
+    }
+    view.Show(runs, runs.empty() ? nullptr : runs.back());
 }
 
 QString Figure(const TimingView& view, const char* name)
@@ -75,43 +84,40 @@ enum Series {
 
 }  // namespace
 
-void TimingViewTest::FiguresAreThoseOfTheCalls()
+void TimingViewTest::FiguresAreThoseOfTheRuns()
 {
     TimingView view;
     QCOMPARE(Figure(view, "calls"), QStringLiteral("0"));
     QCOMPARE(Figure(view, "median"), QStringLiteral("\u2013"));
-    Add(view, 10);
-    Add(view, 30.26, false);
-    Add(view, 20);
+    Show(view, {Timed(10), Timed(30.26, false), Timed(20)});
     QCOMPARE(Figure(view, "calls"), QStringLiteral("3"));
     QCOMPARE(Figure(view, "median"), QStringLiteral("20.0 ms"));
     QCOMPARE(Figure(view, "percentile"), QStringLiteral("30.3 ms"));
     QCOMPARE(Figure(view, "failed"), QStringLiteral("1"));
 }
 
-void TimingViewTest::TheLastCallIsShownInItsParts()
+void TimingViewTest::ARunIsShownInItsParts()
 {
     TimingView view;
-    QCOMPARE(Figure(view, "lastCall"), QString());
-    explorer::CallOutcome outcome = view_test::DeviceCategories();
+    QCOMPARE(Figure(view, "parts"), QString());
+    CallOutcome outcome = view_test::DeviceCategories();
     outcome.times = explorer::ExchangeTimes{0.5, 11.5, 12.5};
-    view.Add(outcome);
-    QCOMPARE(Figure(view, "lastCall"),
-             QStringLiteral("Last call: sent after 0.5 ms, first byte after 11.5 ms, all after 12.5 ms"));
+    Show(view, {outcome});
+    QCOMPARE(Figure(view, "parts"),
+             QStringLiteral("This run: sent after 0.5 ms, first byte after 11.5 ms, all after 12.5 ms"));
     outcome.times->firstByte.reset();
-    view.Add(outcome);
-    QCOMPARE(Figure(view, "lastCall"), QStringLiteral("Last call: sent after 0.5 ms, no byte until 12.5 ms"));
+    Show(view, {outcome});
+    QCOMPARE(Figure(view, "parts"), QStringLiteral("This run: sent after 0.5 ms, no byte until 12.5 ms"));
     outcome.times.reset();
-    view.Add(outcome);
-    QCOMPARE(Figure(view, "lastCall"), QString());
+    Show(view, {outcome});
+    QCOMPARE(Figure(view, "parts"), QString());
 }
 
 void TimingViewTest::TheChartShowsEachCall()
 {
     TimingView view;
-    Add(view, 10);
-    Add(view, 30, false);
-    Add(view, 20);
+    Show(view, {Timed(5)});
+    Show(view, {Timed(10), Timed(30, false), Timed(20)});
     QCOMPARE(Points(view, Succeeded), (QVector<QPointF>{{1, 10}, {3, 20}}));
     QCOMPARE(Points(view, Failed), (QVector<QPointF>{{2, 30}}));
     QCOMPARE(Points(view, Median), (QVector<QPointF>{{0.5, 20}, {3.5, 20}}));
@@ -122,37 +128,10 @@ void TimingViewTest::TheChartShowsEachCall()
     QVERIFY(pTimes->max() > 30);
 }
 
-void TimingViewTest::TheLastHundredAreKept()
-{
-    TimingView view;
-    for (int call = 1; call <= 130; ++call) {
-        Add(view, call);
-    }
-    QCOMPARE(Figure(view, "calls"), QStringLiteral("100"));
-    QCOMPARE(Points(view, Succeeded).size(), 100);
-    QCOMPARE(Points(view, Succeeded).constFirst(), QPointF(31, 31));
-    QCOMPARE(Points(view, Succeeded).constLast(), QPointF(130, 130));
-    QCOMPARE(Figure(view, "median"), QStringLiteral("80.5 ms"));
-    QCOMPARE(Figure(view, "percentile"), QStringLiteral("125.0 ms"));
-}
-
-void TimingViewTest::ClearingBeginsAnew()
-{
-    TimingView view;
-    auto& clear = Child<QPushButton>(view, "clear");
-    QVERIFY(!clear.isEnabled());
-    Add(view, 10);
-    clear.click();
-    QCOMPARE(Figure(view, "calls"), QStringLiteral("0"));
-    QVERIFY(Points(view, Succeeded).isEmpty());
-    Add(view, 5);
-    QCOMPARE(Points(view, Succeeded), (QVector<QPointF>{{1, 5}}));
-}
-
 void TimingViewTest::ColoursFollowThePalette()
 {
     TimingView view;
-    Add(view, 10);
+    Show(view, {Timed(10)});
     const auto& chart = *view.findChild<TimingChart*>()->chart();
     for (const QPalette& palette : {view_test::LightPalette(), view_test::DarkPalette()}) {
         view.setPalette(palette);
@@ -234,11 +213,13 @@ void TimingViewTest::Screenshots()
     const QSize size(700, 360);
     TimingView view;
     TakeScreenshots(view, QStringLiteral("timing-empty"), size);
-    Add(view, 12.4);
+    Show(view, {Timed(12.4)});
     TakeScreenshots(view, QStringLiteral("timing-one"), size);
-    for (int call = 0; call < 60; ++call) {
-        Add(view, 8 + (call * 37) % 23 + (call % 17 == 0 ? 60 : 0), call % 19 != 5);
+    std::vector<CallOutcome> runs;
+    for (int run = 0; run < 60; ++run) {
+        runs.push_back(Timed(8 + (run * 37) % 23 + (run % 17 == 0 ? 60 : 0), run % 19 != 5));
     }
+    Show(view, runs);
     view.SetProgress(60, 200);
     TakeScreenshots(view, QStringLiteral("timing-repeat"), size);
 }

@@ -208,11 +208,13 @@ void Runner::Cancel(int number)
 
 void Runner::End(int number, const std::function<CallOutcome(Course&)>& conclude)
 {
-    const std::shared_ptr<Course> pCourse = m_running.at(number).pCourse;
+    const Running running = m_running.at(number);
     m_running.erase(number);
     --m_pending;
     emit WithoutWaitingChanged();
-    emit Finished(conclude(*pCourse));
+    const CallOutcome outcome = conclude(*running.pCourse);
+    Check(running.order, *running.pCourse);
+    emit Finished(outcome);
 }
 
 std::map<int, RunOrder> Runner::WithoutWaiting() const
@@ -222,6 +224,14 @@ std::map<int, RunOrder> Runner::WithoutWaiting() const
         orders.emplace(number, running.order);
     }
     return orders;
+}
+
+void Runner::Check(const RunOrder& order, const Course& course)
+{
+    constexpr int kNotAuthenticated = 7000;
+    if (course.outcome.result == kNotAuthenticated) {
+        emit TokenRefused(order.server.id, course.token);
+    }
 }
 
 void Runner::Repeat(const RunOrder& order, int count)
@@ -268,8 +278,10 @@ CallOutcome Runner::Run(const RunOrder& order)
     const auto pCourse = std::make_shared<Course>(order);
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-        return pCourse->Concluded(
-            catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent));
+        const CallOutcome outcome =
+            pCourse->Concluded(catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent));
+        Check(order, *pCourse);
+        return outcome;
     } catch (const catalogue::Mismatch& mismatch) {
         return pCourse->Refused(mismatch);
     }

@@ -61,6 +61,8 @@ public:
 Q_SIGNALS:
     void Started(const catalogue::Call* call);
     void Finished(const explorer::CallOutcome& outcome);
+    /// The server knows no session of the token that a call was made with.
+    void TokenRefused(const QString& serverId, const QString& token);
     /// WithoutWaiting() has changed.
     void WithoutWaitingChanged();
     void RepeatProgress(int done, int total);
@@ -79,6 +81,7 @@ private:
     void Begin(const RunOrder& order);
     void End(int number, const std::function<CallOutcome(Course&)>& conclude);
     CallOutcome Run(const RunOrder& order);
+    void Check(const RunOrder& order, const Course& course);
     void RepeatFrom(const RunOrder& order, int done);
     void Post(std::function<void()> step);
 

@@ -8,12 +8,15 @@
 namespace explorer {
 
 Session::Session(QSettings& allSettings, Tokens::Vault* vault, const QString& emulatorProgram, QObject* parent)
-    : QObject(parent), settings(allSettings), servers(allSettings), tokens(vault), emulator(emulatorProgram)
+    : QObject(parent), settings(allSettings), servers(allSettings), tokens(vault), emulator(emulatorProgram),
+      history(allSettings)
 {
     connect(&servers, &Servers::Changed, this, &Session::UseCurrentServer);
     connect(&tokens, &Tokens::Changed, this, &Session::UseCurrentServer);
     connect(&emulator, &EmulatorProcess::StateChanged, this,
             [this] { servers.SetEmulatorPorts(emulator.HttpPort(), emulator.HttpsPort()); });
+    connect(&runner, &Runner::Finished, &history, &History::Add);
+    connect(&runner, &Runner::TokenRefused, &tokens, &Tokens::Refuse);
     UseCurrentServer();
     APIModule::CAPIModule::GetInstance().Init(&m_users);
 }

@@ -2,6 +2,7 @@
 
 #include "EmulatorProcess.h"
 #include "Feed.h"
+#include "History.h"
 #include "Runner.h"
 #include "Servers.h"
 #include "Tokens.h"
@@ -32,8 +33,10 @@ public:
     Tokens tokens;
     EmulatorProcess emulator;
     Runner runner;
+    History history;
     LogFeed log;
     NotificationFeed notifications;
+    QHash<QString, QJsonObject> drafts;  ///< arguments of calls that were left without a run, by name
 
     /// The current server's token, nothing while it is not known.
     [[nodiscard]] std::optional<QString> CurrentToken() const;

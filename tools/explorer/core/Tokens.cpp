@@ -68,6 +68,15 @@ void Tokens::Forget(const QString& serverId)
     }
 }
 
+void Tokens::Refuse(const QString& serverId, const QString& token)
+{
+    m_fetched.insert(serverId);  // the vault may hold the same one
+    if (Find(serverId) == token) {
+        m_tokens.remove(serverId);
+        emit Changed();
+    }
+}
+
 void SecretService::Read(const QString& serverId, std::function<void(std::optional<QString>)> done)
 {
     auto* const job = NewJob<QKeychain::ReadPasswordJob>(serverId);

@@ -38,6 +38,8 @@ public:
     /// @param keep between the runs of the program, too; Kept() tells whether that worked
     void Set(const QString& serverId, const QString& token, bool keep);
     void Forget(const QString& serverId);
+    /// The server does not accept the token: it is not known any more, unless another one has taken its place.
+    void Refuse(const QString& serverId, const QString& token);
 
 Q_SIGNALS:
     void Changed();

@@ -233,6 +233,42 @@
     </message>
 </context>
 <context>
+    <name>explorer::History</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>How a run ended: %1 is its text, %2 the number of its result</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+</context>
+<context>
     <name>explorer::ListEditor</name>
     <message>
         <source>Add element</source>
@@ -959,10 +995,6 @@
 <context>
     <name>explorer::TimingView</name>
     <message>
-        <source>C&amp;lear</source>
-        <translation>&amp;Leeren</translation>
-    </message>
-    <message>
         <source>Re&amp;peat</source>
         <translation>Wie&amp;derholen</translation>
     </message>
@@ -977,10 +1009,6 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
-    </message>
-    <message>
-        <source>Calls</source>
-        <translation>Aufrufe</translation>
     </message>
     <message>
         <source>Median</source>
@@ -1007,12 +1035,16 @@
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>Last call: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
-        <translation>Letzter Aufruf: gesendet nach %1 ms, erstes Byte nach %2 ms, alles nach %3 ms</translation>
+        <source>Runs</source>
+        <translation>Läufe</translation>
     </message>
     <message>
-        <source>Last call: sent after %1 ms, no byte until %2 ms</source>
-        <translation>Letzter Aufruf: gesendet nach %1 ms, kein Byte bis %2 ms</translation>
+        <source>This run: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
+        <translation>Dieser Lauf: gesendet nach %1 ms, erstes Byte nach %2 ms, alles nach %3 ms</translation>
+    </message>
+    <message>
+        <source>This run: sent after %1 ms, no byte until %2 ms</source>
+        <translation>Dieser Lauf: gesendet nach %1 ms, kein Byte bis %2 ms</translation>
     </message>
 </context>
 <context>

@@ -232,6 +232,42 @@
     </message>
 </context>
 <context>
+    <name>explorer::History</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>How a run ended: %1 is its text, %2 the number of its result</extracomment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>服务器</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
+    </message>
+</context>
+<context>
     <name>explorer::ListEditor</name>
     <message>
         <source>Add element</source>
@@ -957,10 +993,6 @@
 <context>
     <name>explorer::TimingView</name>
     <message>
-        <source>C&amp;lear</source>
-        <translation>清空(&amp;L)</translation>
-    </message>
-    <message>
         <source>Re&amp;peat</source>
         <translation>重复(&amp;P)</translation>
     </message>
@@ -975,10 +1007,6 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>Calls</source>
-        <translation>调用</translation>
     </message>
     <message>
         <source>Median</source>
@@ -1005,12 +1033,16 @@
         <translation>%1 毫秒</translation>
     </message>
     <message>
-        <source>Last call: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
-        <translation>上次调用：%1 毫秒后发送，%2 毫秒后收到首字节，%3 毫秒后完成</translation>
+        <source>Runs</source>
+        <translation>运行次数</translation>
     </message>
     <message>
-        <source>Last call: sent after %1 ms, no byte until %2 ms</source>
-        <translation>上次调用：%1 毫秒后发送，到 %2 毫秒仍未收到数据</translation>
+        <source>This run: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
+        <translation>本次运行：%1 毫秒后发送，%2 毫秒后收到首字节，%3 毫秒后全部收到</translation>
+    </message>
+    <message>
+        <source>This run: sent after %1 ms, no byte until %2 ms</source>
+        <translation>本次运行：%1 毫秒后发送，至 %2 毫秒未收到任何字节</translation>
     </message>
 </context>
 <context>

@@ -16,12 +16,21 @@ namespace explorer {
 using catalogue::Kind;
 using nlohmann::json;
 
+namespace {
+
+constexpr int kMostSeen = 24;  // characters; more scroll
+
+}  // namespace
+
 NumberBox::NumberBox(Kind kind, QWidget* pParent) : QAbstractSpinBox(pParent), m_kind(kind)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // narrow panes have room for it, too
     setFocusPolicy(Qt::StrongFocus);
     lineEdit()->setText(QStringLiteral("0"));
-    connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::Changed);
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
+        updateGeometry();
+        emit Changed();
+    });
 }
 
 QString NumberBox::Problem() const
@@ -78,9 +87,19 @@ void NumberBox::stepBy(int steps)
 QSize NumberBox::sizeHint() const
 {
     // One width for all kinds, so that fields under each other are aligned.
+    return SizeFor(QString::number(std::numeric_limits<qint64>::min()));
+}
+
+QSize NumberBox::minimumSizeHint() const
+{
+    const QString shortest = QStringLiteral("00000000");
+    return SizeFor(text().size() > shortest.size() ? text().left(kMostSeen) : shortest);
+}
+
+QSize NumberBox::SizeFor(const QString& longest) const
+{
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    const QString longest = QString::number(std::numeric_limits<qint64>::min());
     const QSize text(fontMetrics().horizontalAdvance(longest + QLatin1String("00")), lineEdit()->sizeHint().height());
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
 }

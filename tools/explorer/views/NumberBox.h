@@ -24,6 +24,7 @@ public:
 
     void stepBy(int steps) override;
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void Changed();
@@ -33,6 +34,7 @@ protected:
     void wheelEvent(QWheelEvent* pEvent) override;
 
 private:
+    [[nodiscard]] QSize SizeFor(const QString& longest) const;
     [[nodiscard]] qint64 Smallest() const;
     [[nodiscard]] qint64 Largest() const;
 

@@ -69,7 +69,7 @@ ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QS
     auto* pFrame = new QFrame;
     pFrame->setAccessibleName(name);
     QVBoxLayout* pBox = MakeBox(pFrame);
-    auto* pTitle = new QLabel(Breakable(QStringLiteral("%1 \u2013 %2").arg(name, typeName)));
+    auto* pTitle = new QLabel(QStringLiteral("%1 \u2013 %2").arg(name, typeName));
     pTitle->setTextFormat(Qt::PlainText);
     pTitle->setWordWrap(true);
     ValueEditor* pEditor = MakeEditor(type, name, pFrame);
@@ -84,6 +84,7 @@ QFormLayout* MakeForm(QWidget* pWidget)
     auto* pForm = new QFormLayout(pWidget);
     pForm->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     pForm->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    pForm->setRowWrapPolicy(QFormLayout::WrapLongRows);  // names stay whole
     return pForm;
 }
 

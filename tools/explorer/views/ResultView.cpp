@@ -112,6 +112,16 @@ void ResultView::Clear()
     m_pExchange->SetText(QString());
 }
 
+void ResultView::ShowWaiting(const catalogue::Call& call)
+{
+    m_model.Clear();
+    m_pJson->SetText(QString());
+    m_pExchange->SetText(QString());
+    if (call.result != nullptr) {
+        m_pTable->SetRecord(*call.result, catalogue::Value(*call.result).ToJson());
+    }
+}
+
 void ResultView::ShowRecord(const CallOutcome& outcome)
 {
     const catalogue::Type& type = *outcome.call->result;

@@ -9,6 +9,10 @@ class QStackedWidget;
 class QTabWidget;
 class QTreeView;
 
+namespace catalogue {
+struct Call;
+}
+
 namespace explorer {
 
 struct CallOutcome;
@@ -24,6 +28,8 @@ public:
 
     void Show(const CallOutcome& outcome);
     void Clear();
+    /// Takes away what an earlier run has left while the call runs again.
+    void ShowWaiting(const catalogue::Call& call);
 
 private:
     void ShowRecord(const CallOutcome& outcome);

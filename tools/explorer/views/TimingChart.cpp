@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace explorer {
 
@@ -66,20 +67,9 @@ TimingChart::TimingChart(QWidget* pParent)
     Colour();
 }
 
-void TimingChart::Add(const Call& call)
+void TimingChart::Show(std::vector<Call> calls)
 {
-    ++m_added;
-    m_calls.push_back(call);
-    if (m_calls.size() > kKept) {
-        m_calls.pop_front();
-    }
-    Draw();
-}
-
-void TimingChart::Clear()
-{
-    m_added = 0;
-    m_calls.clear();
+    m_calls = std::move(calls);
     Draw();
 }
 
@@ -109,15 +99,15 @@ void TimingChart::Draw()
     double longest = 0;
     for (std::size_t index = 0; index < m_calls.size(); ++index) {
         const Call& call = m_calls[index];
-        (call.succeeded ? succeeded : failed).append({First() + double(index), call.milliseconds});
+        (call.succeeded ? succeeded : failed).append({1 + double(index), call.milliseconds});
         longest = std::max(longest, call.milliseconds);
     }
     m_pSucceeded->replace(succeeded);
     m_pFailed->replace(failed);
 
     constexpr double kHalf = 0.5;
-    const double left = First() - kHalf;
-    const double right = std::max(m_added, First()) + kHalf;
+    const double left = 1 - kHalf;
+    const double right = std::max(double(m_calls.size()), 1.0) + kHalf;
     m_pMedian->replace(QVector<QPointF>{{left, Median()}, {right, Median()}});
     m_pPercentile->replace(QVector<QPointF>{{left, Percentile95()}, {right, Percentile95()}});
 
@@ -168,7 +158,7 @@ void TimingChart::AddSeries(QAbstractSeries* pSeries, const QString& name)
 
 void TimingChart::Tell(const QPointF& point, bool entered)
 {
-    const int index = int(std::lround(point.x())) - First();
+    const int index = int(std::lround(point.x())) - 1;
     if (!entered || index < 0 || index >= int(m_calls.size())) {
         QToolTip::hideText();
         return;

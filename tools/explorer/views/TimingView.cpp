@@ -47,21 +47,20 @@ TimingView::TimingView(QWidget* pParent)
     : QWidget(pParent), m_pChart(new TimingChart), m_pPages(new QStackedWidget),
       m_pCalls(MakeFigure(QStringLiteral("calls"))), m_pMedian(MakeFigure(QStringLiteral("median"))),
       m_pPercentile(MakeFigure(QStringLiteral("percentile"))), m_pFailed(MakeFigure(QStringLiteral("failed"))),
-      m_pLast(new TintedLabel(theme::Hint)), m_pClear(MakeButton(tr("C&lear"), QStringLiteral("clear"))),
-      m_pTimes(new QSpinBox), m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))),
-      m_pProgress(new QProgressBar), m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
+      m_pParts(new TintedLabel(theme::Hint)), m_pTimes(new QSpinBox),
+      m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))), m_pProgress(new QProgressBar),
+      m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
 {
     m_pPages->addWidget(MakeHint(tr("Run a call to see how long it takes.")));
     m_pPages->addWidget(m_pChart);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addLayout(MakeFigures());
-    m_pLast->setObjectName(QStringLiteral("lastCall"));
-    pLayout->addWidget(m_pLast);
+    m_pParts->setObjectName(QStringLiteral("parts"));
+    pLayout->addWidget(m_pParts);
     pLayout->addWidget(m_pPages, 1);
     pLayout->addLayout(MakeRepeat());
 
-    connect(m_pClear, &QPushButton::clicked, this, &TimingView::Clear);
     connect(m_pRepeat, &QPushButton::clicked, this, [this] { emit RepeatRequested(m_pTimes->value()); });
     connect(m_pCancel, &QPushButton::clicked, this, [this] {
         m_pCancel->setEnabled(false);  // until the run has ended
@@ -71,19 +70,17 @@ TimingView::TimingView(QWidget* pParent)
     SetProgress(0, 0);
 }
 
-void TimingView::Add(const CallOutcome& outcome)
+void TimingView::Show(const std::vector<const CallOutcome*>& runs, const CallOutcome* pShown)
 {
-    const QString name = outcome.call == nullptr ? QString() : QString::fromStdString(outcome.call->name);
-    m_pChart->Add({name, outcome.elapsedMilliseconds, outcome.succeeded});
+    std::vector<TimingChart::Call> calls;
+    calls.reserve(runs.size());
+    for (const CallOutcome* pRun : runs) {
+        calls.push_back(
+            {pRun->started.toString(QStringLiteral("HH:mm:ss.zzz")), pRun->elapsedMilliseconds, pRun->succeeded});
+    }
+    m_pChart->Show(std::move(calls));
     ShowFigures();
-    ShowLast(outcome);
-}
-
-void TimingView::Clear()
-{
-    m_pChart->Clear();
-    m_pLast->clear();
-    ShowFigures();
+    ShowParts(pShown);
 }
 
 void TimingView::SetProgress(int done, int total)
@@ -121,12 +118,11 @@ QLayout* TimingView::MakeFigures()
         pFigures->addWidget(pFigure, 1, column);
         ++column;
     };
-    add(tr("Calls"), m_pCalls);
+    add(tr("Runs"), m_pCalls);
     add(tr("Median"), m_pMedian);
     add(tr("95th percentile"), m_pPercentile);
     add(tr("Failed"), m_pFailed);
     pFigures->setColumnStretch(pFigures->columnCount(), 1);
-    pFigures->addWidget(m_pClear, 0, pFigures->columnCount(), 2, 1, Qt::AlignVCenter);
     return pFigures;
 }
 
@@ -138,6 +134,7 @@ QLayout* TimingView::MakeRepeat()
     m_pTimes->setRange(2, kMost);
     m_pTimes->setValue(kUsual);
     m_pTimes->setSuffix(tr(" times"));
+    m_pTimes->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     m_pProgress->setObjectName(QStringLiteral("progress"));
 
     auto* pLabel = new QLabel(tr("Ru&n the call"));
@@ -164,25 +161,24 @@ void TimingView::ShowFigures()
     m_pPercentile->setText(time(m_pChart->Percentile95()));
     m_pFailed->setText(
         QString::number(std::count_if(calls.begin(), calls.end(), [](const auto& call) { return !call.succeeded; })));
-    m_pClear->setEnabled(!isEmpty);
     m_pPages->setCurrentIndex(isEmpty ? 0 : 1);
 }
 
-void TimingView::ShowLast(const CallOutcome& outcome)
+void TimingView::ShowParts(const CallOutcome* pShown)
 {
-    if (!outcome.times) {
-        m_pLast->clear();
+    if (pShown == nullptr || !pShown->times) {
+        m_pParts->clear();
         return;
     }
     const auto time = [](double milliseconds) { return QLocale().toString(milliseconds, 'f', 1); };
-    const ExchangeTimes& times = *outcome.times;
-    m_pLast->setText(
+    const ExchangeTimes& times = *pShown->times;
+    m_pParts->setText(
         times.firstByte
             //: Times in milliseconds
-            ? tr("Last call: sent after %1 ms, first byte after %2 ms, all after %3 ms")
+            ? tr("This run: sent after %1 ms, first byte after %2 ms, all after %3 ms")
                   .arg(time(times.sent), time(*times.firstByte), time(times.finished))
             //: Times in milliseconds
-            : tr("Last call: sent after %1 ms, no byte until %2 ms").arg(time(times.sent), time(times.finished)));
+            : tr("This run: sent after %1 ms, no byte until %2 ms").arg(time(times.sent), time(times.finished)));
 }
 
 void TimingView::UpdateRepeat()

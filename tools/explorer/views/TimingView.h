@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <vector>
+
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -15,15 +17,15 @@ namespace explorer {
 struct CallOutcome;
 class TimingChart;
 
-/// How long the last calls took, and a run that repeats the current call.
+/// How long the runs of a call took, and what repeats the current call.
 class TimingView : public QWidget {
     Q_OBJECT
 
 public:
     explicit TimingView(QWidget* pParent = nullptr);
 
-    void Add(const CallOutcome& outcome);
-    void Clear();
+    /// The figures of these runs, and the parts of one of them, which may be null.
+    void Show(const std::vector<const CallOutcome*>& runs, const CallOutcome* pShown);
 
     /// Shows how far a repeated run is; it is over when all is done.
     void SetProgress(int done, int total);
@@ -38,7 +40,7 @@ private:
     QLayout* MakeFigures();
     QLayout* MakeRepeat();
     void ShowFigures();
-    void ShowLast(const CallOutcome& outcome);
+    void ShowParts(const CallOutcome* pShown);
     void UpdateRepeat();
 
     TimingChart* m_pChart;
@@ -47,8 +49,7 @@ private:
     QLabel* m_pMedian;
     QLabel* m_pPercentile;
     QLabel* m_pFailed;
-    QLabel* m_pLast;
-    QPushButton* m_pClear;
+    QLabel* m_pParts;
     QSpinBox* m_pTimes;
     QPushButton* m_pRepeat;
     QProgressBar* m_pProgress;

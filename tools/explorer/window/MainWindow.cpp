@@ -49,12 +49,18 @@ constexpr const char* kFeedsKey = "window/feeds";
 constexpr const char* kCallKey = "window/call";
 
 constexpr int kPaneWidths[] = {320, 360, 600};  // at first; any width is shared like this
+constexpr int kNarrowestList = 240;
 
 constexpr int kStatusTime = 6000;  // milliseconds
 
 QString ArgumentsKey(const catalogue::Call& call)
 {
     return QStringLiteral("arguments/") + QString::fromStdString(call.name);
+}
+
+QKeySequence EditServersKey()
+{
+    return {int(Qt::CTRL) + Qt::Key_E};
 }
 
 /// A pane of a splitter with the margins that all panes have.
@@ -132,6 +138,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
         m_pRunBar->ShowPending(m_session.runner.Pending());
         if (pCall == m_pCall && !m_session.runner.IsRepeating()) {
             m_pResultHeader->ShowRunning(ShortName(*pCall));
+            m_pResult->ShowWaiting(*pCall);
         }
     });
     connect(&session.runner, &Runner::Finished, this, &MainWindow::RunFinished);
@@ -185,6 +192,7 @@ void MainWindow::MakeLayout()
     pBar->addWidget(m_pServerBar);
 
     m_pCalls->layout()->setContentsMargins(12, 12, 12, 8);
+    m_pCalls->setMinimumWidth(kNarrowestList);
     m_pPanes->addWidget(m_pCalls);
     m_pPanes->addWidget(MakeCallPane());
     m_pPanes->addWidget(MakeResultPane());
@@ -261,8 +269,8 @@ void MainWindow::MakeServerMenu()
     QMenu* const pMenu = menuBar()->addMenu(tr("&Server"));
     pMenu->addAction(tr("&Choose"), m_pServerBar, &ServerBar::FocusServers)
         ->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_L));
-    pMenu->addAction(tr("&Edit…"), this, &MainWindow::EditServers)
-        ->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_E));
+    pMenu->addAction(tr("&Edit…"), this, &MainWindow::EditServers)->setShortcut(EditServersKey());
+    qApp->installEventFilter(this);
     pMenu->addAction(tr("Give the &token…"), this, &MainWindow::AskForToken);
     pMenu->addSeparator();
     pMenu->addAction(tr("&Start the emulator"), &m_session.emulator, &EmulatorProcess::Start);
@@ -393,7 +401,8 @@ void MainWindow::MakeHelpMenu()
 void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
-    resize(kSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    constexpr QSize kFrame(16, 48);  // which the window manager puts around it
+    resize(kSize.boundedTo(QGuiApplication::primaryScreen()->availableSize() - kFrame));
     m_pPanes->setSizes({kPaneWidths[0], kPaneWidths[1], kPaneWidths[2]});
     m_pRows->setSizes({560, 180});
     QSettings& settings = m_session.settings;
@@ -420,6 +429,17 @@ void MainWindow::SaveState()
     settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
     settings.setValue(QLatin1String(kPanesKey), m_pPanes->saveState());
     settings.setValue(QLatin1String(kRowsKey), m_pRows->saveState());
+    KeepDraft();
+}
+
+/// A field of text would take Ctrl+E to its own end.
+bool MainWindow::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::ShortcutOverride) {
+        return QMainWindow::eventFilter(pWatched, pEvent);
+    }
+    const auto* const pKey = static_cast<QKeyEvent*>(pEvent);
+    return QKeySequence(int(pKey->modifiers()) + pKey->key()) == EditServersKey();
 }
 
 void MainWindow::closeEvent(QCloseEvent* pEvent)
@@ -437,8 +457,8 @@ void MainWindow::SelectCall(const catalogue::Call& call)
 void MainWindow::Choose(const catalogue::Call& call)
 {
     const bool isOther = m_pCall != &call;
-    if (isOther && m_pCall != nullptr) {
-        m_drafts.insert(QString::fromStdString(m_pCall->name), m_pForm->Arguments());
+    if (isOther) {
+        KeepDraft();
     }
     m_pCall = &call;
     const QString name = QString::fromStdString(call.name);
@@ -447,15 +467,16 @@ void MainWindow::Choose(const catalogue::Call& call)
         m_session.settings.setValue(QLatin1String(kCallKey), name);
         m_pForm->SetCall(call);
         const QByteArray lastUse = m_session.settings.value(ArgumentsKey(call)).toByteArray();
-        m_pForm->SetArguments(m_drafts.value(name, QJsonDocument::fromJson(lastUse).object()));
+        m_pForm->SetArguments(m_session.drafts.value(name, QJsonDocument::fromJson(lastUse).object()));
         ShowHeader();
     }
-    const auto outcome = m_outcomes.constFind(name);
-    if (outcome != m_outcomes.cend()) {
-        ShowOutcome(*outcome);
-    } else {
-        m_pResultHeader->Clear();
-        m_pResult->Clear();
+    ShowRun(m_session.history.LastOf(call));
+}
+
+void MainWindow::KeepDraft()
+{
+    if (m_pCall != nullptr) {
+        m_session.drafts.insert(QString::fromStdString(m_pCall->name), m_pForm->Arguments());
     }
 }
 
@@ -573,22 +594,41 @@ void MainWindow::RepeatRun(int count)
 
 void MainWindow::RunFinished(const CallOutcome& outcome)
 {
-    m_outcomes.insert(QString::fromStdString(outcome.call->name), outcome);
     m_pRunBar->ShowPending(m_session.runner.Pending());
     m_pCalls->Used(*outcome.call);
-    m_pTiming->Add(outcome);
     if (outcome.call != m_pCall) {
         statusBar()->showMessage(QStringLiteral("%1: %2").arg(ShortName(*outcome.call), outcome.resultText),
                                  kStatusTime);
     } else if (!m_session.runner.IsRepeating()) {
-        ShowOutcome(outcome);
+        ShowRun(m_session.history.LastOf(*m_pCall));
+    } else {
+        ShowTimes();
     }
 }
 
-void MainWindow::ShowOutcome(const CallOutcome& outcome)
+void MainWindow::ShowRun(const PastRunPtr& pRun)
 {
-    m_pResultHeader->Show(outcome);
-    m_pResult->Show(outcome);
+    m_pShown = pRun;
+    if (pRun) {
+        const CallOutcome outcome = pRun->Outcome();
+        m_pResultHeader->Show(outcome);
+        m_pResult->Show(outcome);
+    } else {
+        m_pResultHeader->Clear();
+        m_pResult->Clear();
+    }
+    ShowTimes();
+}
+
+void MainWindow::ShowTimes()
+{
+    constexpr std::size_t kMost = 100;
+    std::vector<const CallOutcome*> summaries;
+    const PastRuns runs = m_session.history.RunsOf(*m_pCall, kMost);
+    for (const PastRunPtr& pRun : runs) {
+        summaries.push_back(&pRun->Summary());
+    }
+    m_pTiming->Show(summaries, m_pShown ? &m_pShown->Summary() : nullptr);
 }
 
 }  // namespace explorer

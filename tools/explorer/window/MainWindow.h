@@ -2,6 +2,7 @@
 
 #include "../CallOutcome.h"
 #include "../core/CallIndex.h"
+#include "../core/History.h"
 #include "../core/Runner.h"
 
 #include <QFutureWatcher>
@@ -49,6 +50,7 @@ signals:
     void LanguageChosen(const QString& language);
 
 private:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void closeEvent(QCloseEvent* pEvent) override;
 
     void MakeLayout();
@@ -83,16 +85,18 @@ private:
     /// The run that was asked for, as soon as its server can be asked.
     void RunWhenReady();
     void RunFinished(const CallOutcome& outcome);
-    void ShowOutcome(const CallOutcome& outcome);
+    /// Null for none.
+    void ShowRun(const PastRunPtr& pRun);
+    void ShowTimes();
+    void KeepDraft();
     void ToggleFavourite(bool favourite);
 
     Session& m_session;
     Endpoints m_endpoints;
     QFutureWatcher<Endpoints> m_contract;
-    QHash<QString, CallOutcome> m_outcomes;  // the last of each call
     const catalogue::Call* m_pCall = nullptr;
-    QHash<QString, QJsonObject> m_drafts;  // arguments of calls that were left without a run
-    QString m_runsAt;                      // the server of a run that waits for the emulator or a token
+    PastRunPtr m_pShown;
+    QString m_runsAt;  // the server of a run that waits for the emulator or a token
     ServerBar* m_pServerBar;
     CallPanel* m_pCalls;
     CallHeader* m_pHeader;

@@ -25,7 +25,7 @@ QString ServersWords(const CallOutcome& outcome)
 }  // namespace
 
 ResultHeader::ResultHeader(QWidget* pParent)
-    : QWidget(pParent), m_pLight(new QLabel), m_pWords(new QLabel), m_pDetails(new QLabel)
+    : QScrollArea(pParent), m_pLight(new QLabel), m_pWords(new QLabel), m_pDetails(new QLabel)
 {
     m_pWords->setObjectName(QStringLiteral("resultWords"));
     QFont font = m_pWords->font();
@@ -43,22 +43,49 @@ ResultHeader::ResultHeader(QWidget* pParent)
     pTexts->setSpacing(4);
     pTexts->addWidget(m_pWords);
     pTexts->addWidget(m_pDetails);
-    auto* const pLayout = new QHBoxLayout(this);
+    auto* const pContent = new QWidget;
+    auto* const pLayout = new QHBoxLayout(pContent);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(8);
     constexpr int kToTheMiddleOfTheLine = 4;
     m_pLight->setContentsMargins(0, kToTheMiddleOfTheLine, 0, 0);
     pLayout->addWidget(m_pLight, 0, Qt::AlignTop);
     pLayout->addLayout(pTexts, 1);
+    setWidget(pContent);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     Clear();
 }
 
 void ResultHeader::changeEvent(QEvent* pEvent)
 {
-    QWidget::changeEvent(pEvent);
+    QScrollArea::changeEvent(pEvent);
     if (pEvent->type() == QEvent::PaletteChange) {
         ShowLight(m_light);
     }
+}
+
+void ResultHeader::resizeEvent(QResizeEvent* pEvent)
+{
+    QScrollArea::resizeEvent(pEvent);
+    Fit();
+}
+
+void ResultHeader::Show(const QString& words, const QString& details)
+{
+    m_pWords->setText(words);
+    m_pDetails->setText(details);
+    Fit();
+}
+
+/// As high as its texts, up to a few lines.
+void ResultHeader::Fit()
+{
+    constexpr int kLines = 8;
+    const int needed = widget()->layout()->heightForWidth(viewport()->width());
+    setFixedHeight(qMin(needed, kLines * m_pDetails->fontMetrics().lineSpacing()));
 }
 
 void ResultHeader::ShowLight(Tint tint)
@@ -81,8 +108,6 @@ void ResultHeader::ShowLight(Tint tint)
 void ResultHeader::Show(const CallOutcome& outcome)
 {
     ShowLight(outcome.succeeded ? theme::Succeeded : theme::Error);
-    m_pWords->setText(outcome.resultText);
-
     QStringList details{tr("Result %1").arg(outcome.result)};
     if (outcome.reply && outcome.reply->status >= 0) {
         details.append(tr("HTTP %1").arg(outcome.reply->status));
@@ -102,21 +127,19 @@ void ResultHeader::Show(const CallOutcome& outcome)
     if (!outcome.connectionError.isEmpty()) {
         text += QLatin1Char('\n') + tr("The connection: %1").arg(outcome.connectionError);
     }
-    m_pDetails->setText(text);
+    Show(outcome.resultText, text);
 }
 
 void ResultHeader::ShowRunning(const QString& name)
 {
     ShowLight([](const QPalette& palette) { return palette.color(QPalette::Highlight); });
-    m_pWords->setText(tr("%1 is running").arg(name));
-    m_pDetails->setText(tr("Waiting for the server"));
+    Show(tr("%1 is running").arg(name), tr("Waiting for the server"));
 }
 
 void ResultHeader::Clear()
 {
     ShowLight([](const QPalette& palette) { return palette.color(QPalette::Mid); });
-    m_pWords->setText(tr("Not run yet"));
-    m_pDetails->setText(tr("Result and time of the run appear here."));
+    Show(tr("Not run yet"), tr("Result and time of the run appear here."));
 }
 
 }  // namespace explorer

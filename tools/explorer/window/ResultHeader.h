@@ -2,14 +2,14 @@
 
 #include "../CallOutcome.h"
 
-#include <QWidget>
+#include <QScrollArea>
 
 class QLabel;
 
 namespace explorer {
 
-/// How a run ended: in words, with its number and the time it took.
-class ResultHeader : public QWidget {
+/// How a run ended: in words, with its number and the time it took. Longer texts scroll.
+class ResultHeader : public QScrollArea {
     Q_OBJECT
 
 public:
@@ -23,6 +23,9 @@ private:
     using Tint = QColor (*)(const QPalette& palette);
 
     void changeEvent(QEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void Show(const QString& words, const QString& details);
+    void Fit();
     void ShowLight(Tint tint);
 
     Tint m_light = nullptr;

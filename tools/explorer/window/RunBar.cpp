@@ -19,8 +19,8 @@ constexpr int kLongestTimeout = 3600;
 }  // namespace
 
 RunBar::RunBar(QSettings& settings, QWidget* pParent)
-    : QWidget(pParent), m_settings(settings), m_pRun(new QPushButton(tr("Run"))), m_pWay(new QComboBox),
-      m_pTimeout(new QSpinBox), m_pState(new QLabel)
+    : QWidget(pParent), m_pRun(new QPushButton(tr("Run"))), m_pWay(new QComboBox), m_pTimeout(new QSpinBox),
+      m_pState(new QLabel)
 {
     m_pRun->setObjectName(QStringLiteral("run"));
     m_pRun->setToolTip(tr("Run the call (F5)"));
@@ -40,6 +40,7 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pTimeout->setRange(0, kLongestTimeout);
     m_pTimeout->setSpecialValueText(tr("The call's own"));
     m_pTimeout->setSuffix(tr(" s"));
+    m_pTimeout->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);  // never narrower than its text
     m_pTimeout->setValue(settings.value(QLatin1String(kTimeoutKey), 0).toInt());
     auto* const pTimeoutLabel = new QLabel(tr("T&ime-out"));
     pTimeoutLabel->setBuddy(m_pTimeout);
@@ -47,6 +48,12 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pState->setObjectName(QStringLiteral("runState"));
     m_pState->setForegroundRole(QPalette::PlaceholderText);
     m_pState->setWordWrap(true);
+
+    // At once, for a window in another language.
+    connect(m_pWay, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [&settings, this] { settings.setValue(QLatin1String(kWayKey), int(ChosenWay())); });
+    connect(m_pTimeout, qOverload<int>(&QSpinBox::valueChanged), this,
+            [&settings](int seconds) { settings.setValue(QLatin1String(kTimeoutKey), seconds); });
 
     auto* const pLayout = new QGridLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -58,15 +65,12 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->addWidget(m_pTimeout, 1, 1);
     pLayout->addWidget(m_pRun, 1, 2);
     pLayout->addWidget(m_pState, 2, 0, 1, 3);
-    m_pState->hide();
+    QSizePolicy kept = m_pState->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);  // nothing moves under the mouse
+    m_pState->setSizePolicy(kept);
+    ShowPending(0);
     setTabOrder(m_pWay, m_pTimeout);
     setTabOrder(m_pTimeout, m_pRun);
-}
-
-RunBar::~RunBar()
-{
-    m_settings.setValue(QLatin1String(kWayKey), int(ChosenWay()));
-    m_settings.setValue(QLatin1String(kTimeoutKey), m_pTimeout->value());
 }
 
 Way RunBar::ChosenWay() const

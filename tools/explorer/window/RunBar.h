@@ -21,7 +21,6 @@ class RunBar : public QWidget {
 public:
     /// @param settings keeps the choices; must outlive the bar
     explicit RunBar(QSettings& settings, QWidget* pParent = nullptr);
-    ~RunBar() override;
 
     [[nodiscard]] Way ChosenWay() const;
     /// Nothing for the call's own.
@@ -34,7 +33,6 @@ signals:
     void RunRequested();
 
 private:
-    QSettings& m_settings;
     QPushButton* m_pRun;
     QComboBox* m_pWay;
     QSpinBox* m_pTimeout;

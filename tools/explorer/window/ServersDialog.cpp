@@ -137,7 +137,10 @@ QWidget* ServersDialog::MakeForm()
         m_pList->currentItem()->setText(name);
         TakeOver();
     });
-    connect(m_pHost, &QLineEdit::textEdited, this, &ServersDialog::TakeOver);
+    connect(m_pHost, &QLineEdit::textEdited, this, [this](const QString& text) {
+        TakeUrl(text.trimmed());
+        TakeOver();
+    });
     connect(m_pToken, &QLineEdit::textEdited, this,
             [this](const QString& token) { m_newTokens.insert(m_edited.at(m_shown).id, token); });
     connect(m_pPort, qOverload<int>(&QSpinBox::valueChanged), this, &ServersDialog::TakeOver);
@@ -309,6 +312,20 @@ void ServersDialog::ShowServer(int index)
     Check();
 }
 
+/// Shares out an address as it is copied from a browser.
+void ServersDialog::TakeUrl(const QString& text)
+{
+    const QUrl url(text);
+    const bool https = url.scheme() == QLatin1String("https");
+    if (url.host().isEmpty() || (!https && url.scheme() != QLatin1String("http"))) {
+        return;
+    }
+    const QString host = url.host();
+    m_pScheme->setCurrentIndex(m_pScheme->findData(https));
+    m_pHost->setText(host.contains(QLatin1Char(':')) ? QLatin1Char('[') + host + QLatin1Char(']') : host);
+    m_pPort->setValue(url.port(https ? kHttpsPort : kHttpPort));
+}
+
 void ServersDialog::TakeOver()
 {
     if (m_shown < 0) {
@@ -353,7 +370,12 @@ void ServersDialog::accept()
             m_tokens.Forget(server.id);
         }
     }
+    const bool isNew = std::none_of(before.cbegin(), before.cend(),
+                                    [this](const Server& server) { return server.id == m_edited.constLast().id; });
     m_servers.Replace(m_edited);
+    if (isNew) {
+        m_servers.SetCurrent(m_edited.size() - 1);
+    }
     for (auto token = m_newTokens.cbegin(); token != m_newTokens.cend(); ++token) {
         constexpr bool kKeep = true;
         m_tokens.Set(token.key(), token.value(), kKeep);

@@ -35,6 +35,7 @@ private:
     void Add();
     void Remove();
     void ShowServer(int index);
+    void TakeUrl(const QString& text);
     void TakeOver();
     void LookAtCertificate();
     void ForgetPresented();
