@@ -12,6 +12,10 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
 namespace {
 
 /// The texts of the command line.
@@ -41,6 +45,21 @@ private:
     const QElapsedTimer m_sinceStart;
 };
 
+/// Help and version need no display.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    QCommandLineParser options;
+    const QCommandLineOption help = options.addHelpOption();
+    const QCommandLineOption version = options.addVersionOption();
+    QStringList arguments;
+    std::transform(argv, argv + argc, std::back_inserter(arguments),
+                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+    if (options.parse(arguments) && (options.isSet(help) || options.isSet(version))) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    return std::make_unique<QApplication>(argc, argv);
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -48,8 +67,8 @@ int main(int argc, char** argv)
     QElapsedTimer sinceStart;
     sinceStart.start();
     explorer::PrepareApplication();
-    const QApplication application(argc, argv);
-    QApplication::setApplicationVersion(QStringLiteral(EXPLORER_VERSION));
+    const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(EXPLORER_VERSION));
 
     QSettings settings;
     explorer::ApplyLanguage(explorer::StoredLanguage(settings));
@@ -64,7 +83,7 @@ int main(int argc, char** argv)
     const QCommandLineOption measure(QStringLiteral("measure-start"),
                                      CommandLine::tr("Tell when the window is painted first, and end."));
     options.addOptions({emulator, call, measure});
-    options.process(application);
+    options.process(*application);
 
     explorer::SecretService secrets;
     explorer::Session session(settings, &secrets, explorer::EmulatorProcess::DefaultProgram());
