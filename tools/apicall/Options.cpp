@@ -14,15 +14,15 @@ namespace {
 std::string Footer()
 {
     return Filled(Texts::tr(R"(Arguments of a call:
-  name=value       a text as it stands, anything else as JSON
-  name/field=value a field of a record; name/0 is the first element of a list
-  {"name": value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
+  name=value        a text as it stands, anything else as JSON
+  name/field=value  a field of a record; name/0 is the first element of a list
+  {"name": value}   all of them in one JSON object; @FILE or - reads it from a file or from standard input
 
 Examples:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
 Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
 Exit status: 0 success, 1 failed call, 2 wrong usage.)"));

@@ -261,28 +261,28 @@
     </message>
     <message>
         <source>Arguments of a call:
-  name=value       a text as it stands, anything else as JSON
-  name/field=value a field of a record; name/0 is the first element of a list
-  {&quot;name&quot;: value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
+  name=value        a text as it stands, anything else as JSON
+  name/field=value  a field of a record; name/0 is the first element of a list
+  {&quot;name&quot;: value}   all of them in one JSON object; @FILE or - reads it from a file or from standard input
 
 Examples:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
 Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
 Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <translation>Argumente eines Aufrufs:
-  Name=Wert        ein Text, wie er da steht, alles andere als JSON
-  Name/Feld=Wert   ein Feld eines Datensatzes; name/0 ist das erste Element einer Liste
-  {&quot;Name&quot;: Wert}   alle in einem JSON-Objekt; @DATEI oder - liest es aus einer Datei oder von der Standardeingabe
+  Name=Wert         ein Text, wie er da steht, alles andere als JSON
+  Name/Feld=Wert    ein Feld eines Datensatzes; name/0 ist das erste Element einer Liste
+  {&quot;Name&quot;: Wert}    alle in einem JSON-Objekt; @DATEI oder - liest es aus einer Datei oder von der Standardeingabe
 
 Beispiele:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
 Die Standardausgabe trägt allein das Ergebnis, null bei einem Aufruf ohne Ergebnis; Protokollzeilen und Fehler gehen auf die Standardfehlerausgabe.
 Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</translation>

@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>Arguments of a call:
-  name=value       a text as it stands, anything else as JSON
-  name/field=value a field of a record; name/0 is the first element of a list
-  {&quot;name&quot;: value}  all of them in one JSON object; @FILE or - reads it from a file or from standard input
+  name=value        a text as it stands, anything else as JSON
+  name/field=value  a field of a record; name/0 is the first element of a list
+  {&quot;name&quot;: value}   all of them in one JSON object; @FILE or - reads it from a file or from standard input
 
 Examples:
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
 Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
 Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
@@ -279,10 +279,10 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
   {&quot;名称&quot;: 值}     全部参数写在一个 JSON 对象中；@文件 或 - 表示从文件或标准输入读取
 
 示例：
-  apicall --list
-  apicall --help BRMS.GetLocalSetting
-  apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
 标准输出只包含结果，没有结果的调用输出 null；日志和错误写到标准错误输出。
 退出状态：0 成功，1 调用失败，2 用法错误。</translation>
