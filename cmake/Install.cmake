@@ -1,4 +1,5 @@
-# What `cmake --install` and cpack put where. Components: runtime, development, tools.
+# What `cmake --install` and cpack put where. Components: runtime, data, development, tools, testing, testing_development,
+# and documentation, which docs/CMakeLists.txt fills. Packages.cmake makes a Debian package of each.
 include(CMakePackageConfigHelpers)
 
 set(headers_folder "${CMAKE_INSTALL_INCLUDEDIR}/apimodule")
@@ -38,13 +39,14 @@ if(APIMODULE_BUILD_TOOLS)
     if(HELP2MAN)
         foreach(program IN LISTS programs)
             set(manual "${PROJECT_BINARY_DIR}/man/${program}.1")
+            string(REGEX REPLACE ".*-" "" guide ${program})
+            set(see_also "${PROJECT_BINARY_DIR}/man/${program}.h2m")
+            configure_file("${PROJECT_SOURCE_DIR}/cmake/manual.h2m.in" "${see_also}" @ONLY)
             add_custom_command(OUTPUT "${manual}.gz"
-                COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/man"
-                COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen
-                    "${HELP2MAN}" --no-info --no-discard-stderr --output "${manual}"
-                    --name "${title_of_${program}}" $<TARGET_FILE:${program}>
+                COMMAND "${HELP2MAN}" --no-info --output "${manual}" --include "${see_also}"
+                    --name "${title_of_${program}}" --version-string "${program} ${PROJECT_VERSION}" $<TARGET_FILE:${program}>
                 COMMAND gzip --best --no-name --force "${manual}"
-                DEPENDS ${program} VERBATIM)
+                DEPENDS ${program} "${see_also}" VERBATIM)
             list(APPEND manuals "${manual}.gz")
         endforeach()
         add_custom_target(manuals ALL DEPENDS ${manuals})
@@ -61,14 +63,15 @@ if(APIMODULE_BUILD_TOOLS)
     install(FILES "${completions}/_apicall" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/${zsh_folder}" COMPONENT tools)
 
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/contract" "${PROJECT_SOURCE_DIR}/tools/emulator/seed"
-        DESTINATION "${share_folder}" COMPONENT tools FILES_MATCHING PATTERN *.yaml PATTERN *.json)
+        DESTINATION "${share_folder}" COMPONENT data FILES_MATCHING PATTERN *.yaml PATTERN *.json)
 
     # The emulator for the tests of clients: find_package(APIModule CONFIG COMPONENTS Testing).
     set_target_properties(APIModuleTesting PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS APIModuleTesting EXPORT APIModuleTestingTargets
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT tools NAMELINK_COMPONENT development
-        FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT development)
-    install(EXPORT APIModuleTestingTargets NAMESPACE APIModule:: DESTINATION "${package_folder}" COMPONENT development)
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT testing NAMELINK_COMPONENT testing_development
+        FILE_SET HEADERS DESTINATION "${headers_folder}" COMPONENT testing_development)
+    install(EXPORT APIModuleTestingTargets NAMESPACE APIModule:: DESTINATION "${package_folder}"
+        COMPONENT testing_development)
 endif()
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/APIModuleConfig.cmake.in"
