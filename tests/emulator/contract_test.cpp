@@ -239,6 +239,17 @@ TEST(RealContractTest, EveryParameterHasAnExample)
     }
 }
 
+TEST(RealContractTest, SaysWhichValuesAreAllowed)
+{
+    const auto allowed = [](const char* operation, const char* key) {
+        return emulator::DescriptionOf(RealContract().operation(operation).allowed, {}, key);
+    };
+    EXPECT_EQ(allowed("BRMS.GetPageSummaryAlarmPlans", "page"), ">= 0");
+    EXPECT_EQ(allowed("BRMS.GetPageSummaryAlarmPlans", "keyword"), "");
+    EXPECT_EQ(allowed("BRMS.UpdateAIPrivacyConfig", "enable"), "0, 1");
+    EXPECT_EQ(allowed("OBMS.DeleteAddressBooks", "mode"), R"("1", "2")");
+}
+
 TEST(RealContractTest, EveryReplyWithDataHasAnExampleOfThem)
 {
     for (const Operation& operation : RealContract().operations()) {

@@ -69,6 +69,12 @@ INSTANTIATE_TEST_SUITE_P(
                 "query 'SettingType': not expected"},
         Refused{"PageSizeNegative", "GET", "/brms/api/v1.1/alarm/plan/summary/page?page=1&pageSize=-1&keyword=", "",
                 1003, "pageSize"},
+        Refused{"PageNegative", "GET", "/brms/api/v1.1/alarm/plan/summary/page?page=-1&pageSize=1&keyword=", "", 1003,
+                "query 'page': expected at least 0, got -1"},
+        Refused{
+            "PageNegativeText", "POST", "/obms/api/v1.1/acs/person/access/authorize/fetch/page",
+            R"({"page":"-1","pageSize":"20","containChild":"1","keyword":"","deviceCode":"","orgCode":"","pointIds":[]})",
+            1003, "/page: "},
 
         Refused{"BodyNotJson", "PUT", kTimeSync, "{enable:1}", 1004, "body: not JSON"},
         Refused{"BodyCut", "PUT", kTimeSync, R"({"enable":)", 1004, "body: not JSON"},

@@ -221,6 +221,8 @@ Reads one of the client's settings
 
 Returns what the server keeps for the client under one setting type.
 
+GET /brms/api/v1.1/config/local/setting
+
 Arguments:
   settingType: int. Kind of setting, a code of the server, such as 1.
 
@@ -248,11 +250,19 @@ TEST(Help, TheFieldsOfAnArgumentAreDescribed)
 {
     const Ended ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
     EXPECT_TRUE(Contains(ended.out,
-                         "\n    page: int. Number of the page, counted from 1; 0 gives the first page, too.\n"
+                         "\n    page: int. Number of the page, counted from 1; 0 gives the first page, too. [>= 0]\n"
                          "    pageSize: int. Plans a page.\n"
                          "    keyword: text. Part of the name, empty for all plans. The host encodes it, "
                          "R&D as R%26D.\n"))
         << ended.out;
+}
+
+TEST(Help, ASwitchTakesBothOfItsValuesWhateverItTravelsAs)
+{
+    const Ended ended = Apicall(Words({"--help", "BRMS.UpdateAIPrivacyConfig"}));
+    EXPECT_TRUE(Contains(ended.out, "\nPUT /brms/api/v1.1/config/ai/privacy\n")) << ended.out;
+    EXPECT_TRUE(Contains(ended.out, ": bool")) << ended.out;
+    EXPECT_FALSE(Contains(ended.out, "[")) << ended.out;
 }
 
 TEST(Help, ACallWithoutArgumentsOrResultSaysSo)

@@ -17,7 +17,9 @@ using catalogue::Type;
 
 /// What the contract says about a call.
 struct Said {
+    std::string endpoint;
     std::string description;
+    emulator::Descriptions allowed;
     emulator::Descriptions sent;
     emulator::Descriptions received;
 };
@@ -27,7 +29,8 @@ Said Read(const std::filesystem::path& contract, const std::string& call)
     try {
         const emulator::Contract read = emulator::Contract::Load(contract);
         const emulator::Operation& operation = read.operation(call);
-        return {operation.description, operation.sent, operation.received};
+        return {operation.method + ' ' + operation.path, operation.description, operation.allowed, operation.sent,
+                operation.received};
     } catch (const emulator::ContractError&) {
         return {};
     }
@@ -39,15 +42,19 @@ const std::vector<catalogue::Field>& FieldsOf(const Type& type)
     return type.kind == Kind::List ? FieldsOf(*type.element) : type.fields;
 }
 
-/// A value and the fields in it, each on a line with its type and its description.
+/// A value and the fields in it, each on a line with its type, its description and the values that the server takes. A
+/// switch takes both of its own, whatever it travels as.
 void WriteValue(std::ostream& out, const std::string& indent, std::string_view name, const Type& type,
-                const emulator::Descriptions& descriptions, const std::string& around = {})
+                const emulator::Descriptions& descriptions, const emulator::Descriptions& allowed,
+                const std::string& around = {})
 {
     const std::string key(name);
     const std::string description = emulator::DescriptionOf(descriptions, around, key);
-    out << indent << key << ": " << NameOf(type) << (description.empty() ? "" : ". ") << description << '\n';
+    const std::string values = type.kind == Kind::Bool ? std::string() : emulator::DescriptionOf(allowed, around, key);
+    out << indent << key << ": " << NameOf(type) << (description.empty() ? "" : ". ") << description
+        << (values.empty() ? "" : " [" + values + "]") << '\n';
     for (const catalogue::Field& field : FieldsOf(type)) {
-        WriteValue(out, indent + "  ", field.name, *field.type, descriptions, key);
+        WriteValue(out, indent + "  ", field.name, *field.type, descriptions, allowed, key);
     }
 }
 
@@ -72,12 +79,12 @@ std::string HelpFor(const Call& call, const std::filesystem::path& contract)
     std::ostringstream out;
     out << call.name << " (" << Translated(call.subject) << ")\n" << Translated(call.summary) << "\n\n";
     if (!said.description.empty()) {
-        out << said.description << "\n\n";
+        out << said.description << "\n\n" << said.endpoint << "\n\n";
     }
 
     out << Filled(call.arguments.empty() ? Texts::tr("Arguments: none") : Texts::tr("Arguments:")) << '\n';
     for (const catalogue::Argument& argument : call.arguments) {
-        WriteValue(out, "  ", argument.name, *argument.type, said.sent);
+        WriteValue(out, "  ", argument.name, *argument.type, said.sent, said.allowed);
     }
 
     out << '\n';
@@ -86,7 +93,7 @@ std::string HelpFor(const Call& call, const std::filesystem::path& contract)
     } else {
         out << Filled(Texts::tr("Result: %1"), NameOf(*call.result)) << '\n';
         for (const catalogue::Field& field : FieldsOf(*call.result)) {
-            WriteValue(out, "  ", field.name, *field.type, said.received);
+            WriteValue(out, "  ", field.name, *field.type, said.received, {});
         }
     }
     return out.str();

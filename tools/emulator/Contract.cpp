@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <functional>
 #include <set>
 #include <utility>
 
@@ -253,32 +254,60 @@ Json ParameterExamples(const std::vector<Json>& parameters)
     return examples;
 }
 
-Descriptions ParameterDescriptions(const std::vector<Json>& parameters)
+/// What the node of a value in the contract says about it.
+using Saying = std::function<std::string(const Json&)>;
+
+std::string DescriptionIn(const Json& node)
+{
+    return node.value("description", "");
+}
+
+/// A list of values or a range.
+std::string AllowedIn(const Json& node)
+{
+    const Json& schema = node.contains("schema") ? node.at("schema") : node;
+    std::string allowed;
+    const auto add = [&allowed](const std::string& sign, const Json& value) {
+        allowed.append(allowed.empty() ? "" : ", ").append(sign).append(value.dump());
+    };
+    const Json values = schema.value("enum", Json::array());
+    for (const Json& value : values) {
+        add("", value);
+    }
+    for (const auto& [keyword, sign] : {std::pair("minimum", ">= "), std::pair("maximum", "<= ")}) {
+        if (schema.contains(keyword)) {
+            add(sign, schema.at(keyword));
+        }
+    }
+    return allowed;
+}
+
+Descriptions SaidOfParameters(const std::vector<Json>& parameters, const Saying& saying)
 {
     Descriptions descriptions;
     for (const Json& parameter : parameters) {
-        descriptions[parameter.at("name")] = parameter.value("description", "");
+        descriptions[parameter.at("name")] = saying(parameter);
     }
     return descriptions;
 }
 
 /// The keys of a schema before those of the objects in it: of two keys alike the outer one keeps the bare name.
-void AddDescriptions(const Json& schema, const std::string& around, Descriptions& descriptions)
+void AddSaid(const Json& schema, const Saying& saying, const std::string& around, Descriptions& descriptions)
 {
     const Json properties = schema.value("properties", Json::object());
     for (const auto& [key, property] : properties.items()) {
-        const std::string text = property.value("description", "");
+        const std::string text = saying(property);
         descriptions.emplace(key, text);
         if (!around.empty()) {
             descriptions.emplace(std::string(around).append("/").append(key), text);
         }
     }
     for (const auto& [key, property] : properties.items()) {
-        AddDescriptions(property.value("items", property), key, descriptions);
+        AddSaid(property.value("items", property), saying, key, descriptions);
     }
     const Json choices = schema.value("oneOf", Json::array());
     for (const Json& choice : choices) {
-        AddDescriptions(choice, around, descriptions);
+        AddSaid(choice, saying, around, descriptions);
     }
 }
 
@@ -290,12 +319,14 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     std::optional<Schema> body;
     std::vector<Json> bodyExamples;
     const std::vector<Json> parameters = ParametersOf(path, described);
-    Descriptions sent = ParameterDescriptions(parameters);
+    Descriptions allowed = SaidOfParameters(parameters, AllowedIn);
+    Descriptions sent = SaidOfParameters(parameters, DescriptionIn);
     if (described.contains("requestBody")) {
         const Json& content = described.at("requestBody").at(jsonContent);
         body = SchemaOf(content.at("schema"), where + "/requestBody");
         bodyExamples = ExamplesOf(content);
-        AddDescriptions(content.at("schema"), {}, sent);
+        AddSaid(content.at("schema"), AllowedIn, {}, allowed);
+        AddSaid(content.at("schema"), DescriptionIn, {}, sent);
     }
     const Json& content = described.at("responses").at("200").at(jsonContent);
     const Json& reply = content.at("schema");
@@ -304,7 +335,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     Schema successSchema = SchemaOf(success, where + "/responses/200");
     Json data = success.at("properties").value("data", Json::object());
     Descriptions received;
-    AddDescriptions(data, {}, received);
+    AddSaid(data, DescriptionIn, {}, received);
     std::string upper = method;
     std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
     return Operation{described.at("operationId"),
@@ -319,6 +350,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
                      std::move(bodyExamples),
                      ExamplesOf(content),
                      described.value("description", ""),
+                     std::move(allowed),
                      std::move(sent),
                      std::move(received)};
 }

@@ -27,7 +27,7 @@ struct QueryParameter {
 /// "<key of the object>/<key>" as well, as "id" may mean several things.
 using Descriptions = std::map<std::string, std::string>;
 
-/// The description of a key, with the key of the object or list around it; empty where there is none.
+/// What is said about a key, with the key of the object or list around it; empty where nothing is.
 std::string DescriptionOf(const Descriptions& descriptions, const std::string& around, const std::string& key);
 
 /// One endpoint, its references resolved.
@@ -44,6 +44,7 @@ struct Operation {
     std::vector<Json> bodyExamples;
     std::vector<Json> replyExamples;
     std::string description;
+    Descriptions allowed;   ///< the values that may be sent, such as "0, 1" or ">= 0", by the keys of "sent"
     Descriptions sent;      ///< of path and query values, and of the keys of the body
     Descriptions received;  ///< of the keys of the successful reply's "data"
 

@@ -70,6 +70,9 @@ std::string Describe(const Json& schema, const Json& root, const Error& error)
     if (wanted != nullptr && wanted->contains("enum") && value.is_primitive()) {
         return place.to_string() + ": expected one of " + wanted->at("enum").dump() + ", got " + value.dump();
     }
+    if (wanted != nullptr && wanted->contains("minimum") && value.is_number() && value < wanted->at("minimum")) {
+        return place.to_string() + ": expected at least " + wanted->at("minimum").dump() + ", got " + value.dump();
+    }
     if (wanted != nullptr && value.is_object()) {
         for (const Json& key : wanted->value("required", Json::array())) {
             if (!value.contains(key.get<std::string>())) {
