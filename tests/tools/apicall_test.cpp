@@ -492,6 +492,18 @@ TEST_P(Calls, AWrongTokenFails)
         << ended.err;
 }
 
+TEST_P(Calls, HttpsToAPortOfPlainHttpIsNamed)
+{
+    const int port = GetParam().https ? Platform().httpsPort() : Platform().httpPort();
+    const QString server = QStringLiteral("https://127.0.0.1:%1").arg(port);
+    const Ended ended = Apicall(QStringList{QStringLiteral("--server"), server} +
+                                Words({"--token", kToken, "--quiet"}) + GetTimeSync());
+    EXPECT_EQ(ended.status, GetParam().https ? 0 : 1);
+    const std::string lines = "apicall: BRMS.GetTimeSyncConfig failed with -18: " + ErrorText(-18) +
+                              "\napicall: the server speaks no TLS on this port, which may be the one for http://\n";
+    EXPECT_EQ(Contains(ended.err, lines), !GetParam().https) << ended.err;
+}
+
 TEST_P(Calls, AnEnvelopeCodeFailsWithItsText)
 {
     Spoil({{"kind", "envelope"}, {"code", 1003}});

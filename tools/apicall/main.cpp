@@ -79,6 +79,16 @@ std::string DetailsOf(const Outcome& outcome, const std::string& token)
     return details;
 }
 
+/// Why a handshake failed, where the reason is what the user can mend. OpenSSL takes plain HTTP for TLS of a version
+/// that it does not know.
+std::string HandshakeDetails(const QString& networkError)
+{
+    return networkError.contains(QLatin1String("wrong version number"))
+               ? "apicall: " +
+                     Filled(Texts::tr("the server speaks no TLS on this port, which may be the one for http://")) + "\n"
+               : std::string();
+}
+
 std::string HelpFor(const std::string& call)
 {
     return apicall::HelpFor(NamedCall(call), emulator::DefaultShareFolder() / "contract");
@@ -125,7 +135,7 @@ public:
                       << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.Code()),
                                 outcome.Text().toStdString())
                       << '\n'
-                      << DetailsOf(outcome, m_options.token) << std::flush;
+                      << DetailsOf(outcome, m_options.token) << HandshakeDetails(m_networkError) << std::flush;
         }
         return outcome;
     }
@@ -155,23 +165,30 @@ private:
         if (m_options.timeoutSeconds) {
             settings.timeout = std::chrono::seconds(*m_options.timeoutSeconds);
         }
-        if (m_options.verbose) {
-            settings.observer = [this](const APIModule::ObservedExchange& exchange) {
-                const std::string text = apicall::ExchangeText(exchange, m_options.token);
-                if (m_held) {
-                    m_held->WriteThrough(text);
-                } else {
-                    std::cerr << text << std::flush;
-                }
-            };
-        }
+        settings.observer = [this](const APIModule::ObservedExchange& exchange) {
+            m_networkError = exchange.error;
+            if (m_options.verbose) {
+                Show(exchange);
+            }
+        };
         return settings;
+    }
+
+    void Show(const APIModule::ObservedExchange& exchange)
+    {
+        const std::string text = apicall::ExchangeText(exchange, m_options.token);
+        if (m_held) {
+            m_held->WriteThrough(text);
+        } else {
+            std::cerr << text << std::flush;
+        }
     }
 
     const apicall::Options& m_options;
     catalogue::OneServer m_users;
     APIModule::CAPIModule& m_library = APIModule::CAPIModule::GetInstance();
     std::optional<apicall::HeldStandardError> m_held;
+    QString m_networkError;
 };
 
 /// A read whose record the write begins with.

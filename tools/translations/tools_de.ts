@@ -307,6 +307,10 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
         <translation>Für einen Aufruf, der schreibt: lesen, was er ersetzt, ändern, was ARGUMENT nennt, und das schreiben</translation>
     </message>
+    <message>
+        <source>the server speaks no TLS on this port, which may be the one for http://</source>
+        <translation>der Server spricht auf diesem Port kein TLS; vielleicht ist es der für http://</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>

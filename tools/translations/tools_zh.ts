@@ -307,6 +307,10 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
         <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
         <translation>用于写入类调用：先读取将被替换的内容，修改 ARGUMENT 指定的部分，再写入</translation>
     </message>
+    <message>
+        <source>the server speaks no TLS on this port, which may be the one for http://</source>
+        <translation>服务器在此端口不使用 TLS，该端口可能用于 http://</translation>
+    </message>
 </context>
 <context>
     <name>catalogue</name>
