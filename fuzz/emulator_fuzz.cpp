@@ -31,7 +31,8 @@ using emulator::RequestReader;
 struct Server {
     emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
     emulator::Platform platform{emulator::Contract::Load(emulator::Options().contract),
-                                emulator::LoadSeeds(emulator::Options().seed, 1), emulator::kDefaultToken};
+                                emulator::State(emulator::LoadSeeds(emulator::Options().seed), 1),
+                                emulator::kDefaultToken};
     emulator::Faults faults;
     emulator::RequestLog log;
 };

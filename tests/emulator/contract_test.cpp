@@ -286,10 +286,15 @@ TEST_P(ExampleTest, EveryExampleRequestSucceeds)
 INSTANTIATE_TEST_SUITE_P(Schemes, ExampleTest, testing::Values(TestClient::Scheme::Http, TestClient::Scheme::Https),
                          SchemeName);
 
+Json ScaledSeeds(int scale)
+{
+    return emulator::State(emulator::LoadSeeds(emulator::Options().seed), scale).families();
+}
+
 TEST(SeedTest, ScaleMultipliesListsAndKeepsIdentifiersUnique)
 {
-    const Json seeds = emulator::LoadSeeds(emulator::Options().seed, 1);
-    const Json scaled = emulator::LoadSeeds(emulator::Options().seed, 3);
+    const Json seeds = ScaledSeeds(1);
+    const Json scaled = ScaledSeeds(3);
     for (const auto& [list, identifier] : std::map<std::string, std::string>{{"/inventory/devices", "deviceCode"},
                                                                              {"/inventory/channels", "channelId"},
                                                                              {"/brms/userGroups", "id"},
@@ -316,7 +321,7 @@ TEST(SeedTest, ScaleMultipliesListsAndKeepsIdentifiersUnique)
 
 TEST(SeedTest, CopiesFitEachOther)
 {
-    const Json scaled = emulator::LoadSeeds(emulator::Options().seed, 2);
+    const Json scaled = ScaledSeeds(2);
     std::set<std::string> devices;
     for (const Json& device : scaled.at("inventory").at("devices")) {
         devices.insert(device.at("deviceCode").get<std::string>());
@@ -325,6 +330,21 @@ TEST(SeedTest, CopiesFitEachOther)
         EXPECT_EQ(devices.count(channel.at("deviceCode").get<std::string>()), 1U) << channel.at("channelId");
     }
     EXPECT_EQ(scaled.at("brms").at("alarmPlans").at(7).at("quickCommandIds"), (Json{"5-2", "6-2"}));
+}
+
+TEST(SeedTest, ListsAreTheSameInWhateverOrderTheyAreAskedFor)
+{
+    const emulator::Place device("/inventory/devices/20/deviceCode");
+    emulator::State state(emulator::LoadSeeds(emulator::Options().seed), 3);
+    EXPECT_EQ(state.at("/brms/users").size(), 24U);
+    EXPECT_EQ(state.at(device), "1000003-2");
+    state.at("/inventory/devices").erase(0);
+    EXPECT_EQ(state[device], "1000004-2") << "multiplied once";
+    state["/brms/warnDisks"] = Json::array();
+    EXPECT_EQ(state.families().at("brms").at("warnDisks"), Json::array());
+    EXPECT_EQ(state.families().at("inventory").at("channels").size(), 78U);
+    state.reset();
+    EXPECT_EQ(state.families(), ScaledSeeds(3));
 }
 
 struct RefusedSeed {
@@ -339,7 +359,7 @@ TEST_P(RefusedSeedTest, IsNamed)
     const Folder folder;
     folder.write("family.json", GetParam().file);
     try {
-        emulator::LoadSeeds(folder.path(), 2);
+        emulator::State(emulator::LoadSeeds(folder.path()), 2);
         FAIL() << "was taken";
     } catch (const emulator::SeedError& error) {
         EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
@@ -373,7 +393,7 @@ TEST(SeedTest, WrongTypeIsReportedWithItsFileAndPlace)
     const std::set<std::string> unread = {"/brms/users/0/userName", "/iams/tasks/0/fileName",
                                           "/iams/tasks/0/uploadFailed", "/ipms/captureRecords/0/plateNo",
                                           "/obms/zones/0/zoneName"};
-    const Json seeds = emulator::LoadSeeds(emulator::Options().seed, 1);
+    const Json seeds = ScaledSeeds(1);
     std::vector<Json::json_pointer> places;
     for (const auto& family : seeds.items()) {
         for (const auto& member : family.value().items()) {
@@ -398,7 +418,7 @@ TEST(SeedTest, WrongTypeIsReportedWithItsFileAndPlace)
 
 TEST(SeedTest, SeedsOfSomeFamiliesDo)
 {
-    Json seeds = emulator::LoadSeeds(emulator::Options().seed, 1);
+    Json seeds = ScaledSeeds(1);
     seeds.erase("brms");
     seeds["inventory"].erase("devices");
     EXPECT_NO_THROW(emulator::CheckSeeds(seeds, RealContract()));
@@ -407,5 +427,5 @@ TEST(SeedTest, SeedsOfSomeFamiliesDo)
 TEST(SeedTest, FolderWithoutSeedsIsRefused)
 {
     const Folder folder;
-    EXPECT_THROW(emulator::LoadSeeds(folder.path(), 1), emulator::SeedError);
+    EXPECT_THROW(emulator::LoadSeeds(folder.path()), emulator::SeedError);
 }

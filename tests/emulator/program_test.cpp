@@ -39,6 +39,19 @@ public:
         : RunningProgram(QStringLiteral(EMULATOR_PROGRAM), Words(arguments), variables)
     {}
 
+    /// The highest resident set so far.
+    [[nodiscard]] std::size_t MostKilobytes() const
+    {
+        std::ifstream status("/proc/" + std::to_string(ProcessId()) + "/status");
+        std::string word;
+        while (status >> word && word != "VmHWM:") {
+        }
+        std::size_t kilobytes = 0;
+        status >> kilobytes;
+        EXPECT_GT(kilobytes, 0U);
+        return kilobytes;
+    }
+
     [[nodiscard]] std::size_t Threads() const
     {
         const std::filesystem::directory_iterator all("/proc/" + std::to_string(ProcessId()) + "/task");
@@ -230,6 +243,16 @@ public:
 private:
     std::filesystem::path m_folder;
 };
+
+TEST(ProgramTest, ListsOfALargeScaleTakeNoMemoryUntilTheyAreAskedFor)
+{
+    constexpr std::size_t kMostKilobytes = 500UL * 1000;
+    Program program({"--scale", "10000"});
+    TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
+    EXPECT_EQ(client.get(kTimeSync).code(), 1000);
+    EXPECT_LT(program.MostKilobytes(), kMostKilobytes);
+    EXPECT_EQ(client.get("/brms/api/v1.1/user/group/12-10000").code(), 1000);
+}
 
 TEST(ProgramTest, EditedSeedsAreServed)
 {

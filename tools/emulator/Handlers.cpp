@@ -112,17 +112,21 @@ Filter InOrganisation()
     };
 }
 
-Json& Collection::find(Json& state, const std::string& id) const
+Json& ElementOf(Json& list, const std::string& field, const std::string& id)
 {
-    Json& elements = state.at(list);
-    const auto found = PositionOf(elements, identifier, id);
-    if (found == elements.end()) {
+    const auto found = PositionOf(list, field, id);
+    if (found == list.end()) {
         RefuseUnknown(id);
     }
     return *found;
 }
 
-bool Collection::has(const Json& state, const std::string& id) const
+Json& Collection::find(State& state, const std::string& id) const
+{
+    return ElementOf(state.at(list), identifier, id);
+}
+
+bool Collection::has(State& state, const std::string& id) const
 {
     const Json& elements = state.at(list);
     return PositionOf(elements, identifier, id) != elements.end();

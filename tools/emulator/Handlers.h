@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Contract.h"
+#include "State.h"
 
 #include <functional>
 #include <map>
@@ -39,7 +40,7 @@ struct Call {
     const PathValues& path;
     const Json& query;
     const Json& body;  ///< null where the call has none
-    Json& state;       ///< of all families, each under its name
+    State& state;
 };
 
 /// Carries a call out: changes the state and returns the reply's "data". Keys that the contract has no room for are
@@ -68,11 +69,6 @@ private:
 /// Operation identifier -> handler. A family is one such table.
 using HandlerTable = std::map<std::string, Handler>;
 
-/// Where something is in the state, such as "/brms/timeSync".
-struct Place : Json::json_pointer {
-    Place(const char* text = "") : json_pointer(text) {}
-};
-
 /// Decides whether an element of a list belongs to the answer of a call.
 using Filter = std::function<bool(const Json& element, const Call& call)>;
 
@@ -94,9 +90,13 @@ struct Collection {
     std::string identifier;  ///< the field that holds it
 
     /// @throws Refusal when there is no such element.
-    Json& find(Json& state, const std::string& id) const;
-    [[nodiscard]] bool has(const Json& state, const std::string& id) const;
+    Json& find(State& state, const std::string& id) const;
+    [[nodiscard]] bool has(State& state, const std::string& id) const;
 };
+
+/// The element of a list whose field holds the identifier.
+/// @throws Refusal when there is no such element.
+Json& ElementOf(Json& list, const std::string& field, const std::string& id);
 
 /// @throws Refusal that says that there is no such object. It claims to return for use in an expression.
 Json RefuseUnknown(const std::string& id);

@@ -87,10 +87,10 @@ bool HasToken(const HttpRequest& request, const std::string& token)
     });
 }
 
-Platform::Platform(Contract contract, Json seeds, std::string token)
-    : m_contract(std::move(contract)), m_seeds(std::move(seeds)), m_token(std::move(token)), m_state(m_seeds)
+Platform::Platform(Contract contract, State state, std::string token)
+    : m_contract(std::move(contract)), m_token(std::move(token)), m_state(std::move(state))
 {
-    CheckSeeds(m_seeds, m_contract);
+    CheckSeeds(m_state.seeds(), m_contract);
 }
 
 HttpResponse Platform::answer(const HttpRequest& request)
@@ -137,16 +137,16 @@ Json Platform::carryOut(const Operation& operation, const PathValues& path, cons
     return handler(Call{m_contract, operation, path, query, body, m_state});
 }
 
-Json Platform::state() const
+Json Platform::state()
 {
     const std::lock_guard lock(m_mutex);
-    return m_state;
+    return m_state.families();
 }
 
 void Platform::setState(Json state)
 {
     const std::lock_guard lock(m_mutex);
-    m_state = std::move(state);
+    m_state.set(std::move(state));
 }
 
 void Platform::mergeState(const Json& patch)
@@ -155,12 +155,13 @@ void Platform::mergeState(const Json& patch)
         throw std::invalid_argument("expected an object");
     }
     const std::lock_guard lock(m_mutex);
-    m_state.merge_patch(patch);
+    m_state[{}].merge_patch(patch);
 }
 
 void Platform::reset()
 {
-    setState(m_seeds);
+    const std::lock_guard lock(m_mutex);
+    m_state.reset();
 }
 
 }  // namespace emulator

@@ -2,6 +2,7 @@
 
 #include "Contract.h"
 #include "HttpMessage.h"
+#include "State.h"
 
 #include <mutex>
 #include <string>
@@ -17,12 +18,12 @@ bool HasToken(const HttpRequest& request, const std::string& token);
 class Platform {
 public:
     /// @throws SeedError when the seeds do not fit the contract.
-    Platform(Contract contract, Json seeds, std::string token);
+    Platform(Contract contract, State state, std::string token);
 
     /// Safe from several threads; calls take turns.
     HttpResponse answer(const HttpRequest& request);
 
-    [[nodiscard]] Json state() const;
+    [[nodiscard]] Json state();
     void setState(Json state);
     /// @throws std::invalid_argument when the patch is no object.
     void mergeState(const Json& patch);
@@ -33,10 +34,9 @@ private:
     Json carryOut(const Operation& operation, const PathValues& path, const Json& query, const Json& body);
 
     const Contract m_contract;
-    const Json m_seeds;
     const std::string m_token;
-    mutable std::mutex m_mutex;
-    Json m_state;
+    std::mutex m_mutex;
+    State m_state;
 };
 
 }  // namespace emulator

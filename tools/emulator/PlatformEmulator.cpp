@@ -128,8 +128,8 @@ std::string Masked(std::string line, const std::string& secret)
 class PlatformEmulator::Private {
 public:
     explicit Private(Options options)
-        : m_options(std::move(options)),
-          m_platform(Contract::Load(m_options.contract), LoadSeeds(m_options.seed, m_options.scale), m_options.token),
+        : m_options(std::move(options)), m_platform(Contract::Load(m_options.contract),
+                                                    State(LoadSeeds(m_options.seed), m_options.scale), m_options.token),
           m_server(handler(), m_options.readTimeout)
     {}
 

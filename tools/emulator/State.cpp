@@ -1,5 +1,6 @@
 #include "State.h"
 
+#include "Text.h"
 #include "Texts.h"
 
 #include <algorithm>
@@ -42,44 +43,100 @@ void MarkCopy(Json& node, const Json& identifiers, const std::string& mark)
     }
 }
 
-void Multiply(Json& family, int scale)
+}  // namespace
+
+Json LoadSeeds(const std::filesystem::path& folder)
 {
-    const Json rule = family.value("scale", Json::object());
-    family.erase("scale");
-    for (const Json& name : rule.value("lists", Json::array())) {
-        Json& list = family.at(name.get<std::string>());
-        const Json original = list;
-        for (int copy = 2; copy <= scale; ++copy) {
-            for (Json element : original) {
-                MarkCopy(element, rule.at("identifiers"), "-" + std::to_string(copy));
-                list.push_back(std::move(element));
+    Json seeds = Json::object();
+    std::error_code fault;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, fault)) {
+        if (entry.path().extension() == ".json") {
+            seeds[entry.path().stem().string()] = ReadFile(entry.path());
+        }
+    }
+    if (seeds.empty()) {
+        throw SeedError(Filled(Texts::tr("no seed file in the folder %1"), folder.string()));
+    }
+    return seeds;
+}
+
+State::State(Json seeds, int scale) : m_seeds(std::move(seeds)), m_identifiers(Json::object()), m_scale(scale)
+{
+    for (const auto& family : m_seeds.items()) {
+        try {
+            const Json rule = family.value().value("scale", Json::object());
+            family.value().erase("scale");
+            for (const Json& name : rule.value("lists", Json::array())) {
+                const Place list = Place() / family.key() / name.get<std::string>();
+                m_seeds.at(list).get_ref<const Json::array_t&>();
+                m_identifiers[list.to_string()] = rule.at("identifiers");
             }
+        } catch (const Json::exception& error) {
+            throw SeedError(family.key() + ".json: " + error.what());
+        }
+    }
+    reset();
+}
+
+Json& State::at(const Place& place)
+{
+    multiplyWhatMeets(place);
+    return m_families.at(place);
+}
+
+Json& State::operator[](const Place& place)
+{
+    multiplyWhatMeets(place);
+    return m_families[place];
+}
+
+const Json& State::families()
+{
+    multiplyWhatMeets({});
+    return m_families;
+}
+
+void State::set(Json families)
+{
+    m_single.clear();
+    m_families = std::move(families);
+}
+
+void State::reset()
+{
+    set(m_seeds);
+    for (const auto& list : m_identifiers.items()) {
+        m_single.insert(list.key());
+    }
+}
+
+/// The lists at the place, around it and in it.
+void State::multiplyWhatMeets(const Place& place)
+{
+    const std::string asked = place.to_string() + "/";
+    for (auto list = m_single.begin(); list != m_single.end();) {
+        const std::string known = *list + "/";
+        if (StartsWith(known, asked) || StartsWith(asked, known)) {
+            multiply(*list);
+            list = m_single.erase(list);
+        } else {
+            ++list;
         }
     }
 }
 
-}  // namespace
-
-Json LoadSeeds(const std::filesystem::path& folder, int scale)
+void State::multiply(const std::string& list)
 {
-    Json state = Json::object();
-    std::error_code fault;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, fault)) {
-        if (entry.path().extension() != ".json") {
-            continue;
+    auto& elements = m_families.at(Json::json_pointer(list)).get_ref<Json::array_t&>();
+    const Json& identifiers = m_identifiers.at(list);
+    const std::size_t count = elements.size();
+    elements.reserve(count * static_cast<std::size_t>(m_scale));
+    for (int copy = 2; copy <= m_scale; ++copy) {
+        const std::string mark = "-" + std::to_string(copy);
+        for (std::size_t i = 0; i < count; ++i) {
+            MarkCopy(elements.emplace_back(elements[i]), identifiers, mark);
         }
-        Json family = ReadFile(entry.path());
-        try {
-            Multiply(family, scale);
-        } catch (const Json::exception& error) {
-            throw SeedError(entry.path().filename().string() + ": " + error.what());
-        }
-        state[entry.path().stem().string()] = std::move(family);
     }
-    if (state.empty()) {
-        throw SeedError(Filled(Texts::tr("no seed file in the folder %1"), folder.string()));
-    }
-    return state;
 }
 
 }  // namespace emulator

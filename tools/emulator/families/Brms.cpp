@@ -14,7 +14,7 @@ const Collection kAlarmRecords{"/brms/alarmRecords", "id"};
 constexpr const char* kSettings = "/brms/localSettings";
 constexpr const char* kLastSetting = "/brms/lastSettingType";
 
-Json& SettingEntry(Json& state, int type)
+Json& SettingEntry(State& state, int type)
 {
     Json& entry = state.at(Place(kSettings))[std::to_string(type)];
     if (entry.is_null()) {
@@ -50,7 +50,7 @@ Json ReadEncodeCapability(const Call& call)
 Json SetMultiCastStreamStatus(const Call& call)
 {
     Json config = ReadEntry("/brms/multicast", kChannels)(call);
-    Json& stream = Collection{"/streams", "streamType"}.find(config, ValueOf(call, "streamType"));
+    Json& stream = ElementOf(config.at("streams"), "streamType", ValueOf(call, "streamType"));
     stream["status"] = call.body.at("status") == "1";
     call.state.at(Place("/brms/multicast"))[PathValue(call)] = config;
     return Json::object();
@@ -96,7 +96,7 @@ Json ControlSpeakers(const Call& call)
 }
 
 /// Takes the users out of the groups; they stay as users without a group.
-void LeaveGroups(Json& state, const std::vector<std::string>& groupIds)
+void LeaveGroups(State& state, const std::vector<std::string>& groupIds)
 {
     for (Json& user : state.at(kUsers.list)) {
         if (std::count(groupIds.begin(), groupIds.end(), user.at("groupId")) > 0) {
