@@ -129,6 +129,8 @@ void ExpectAnswer(const HttpRequest& request)
     fuzz::Require(envelope.at("code") != emulator::code::ContractBroken, shown);
 }
 
+constexpr const char* kMethod = "PUT";
+
 /// A fault that is understood is told again just as it was taken, and hits what it is for.
 void ExpectFault(const std::string& text, const std::string& target)
 {
@@ -140,10 +142,11 @@ void ExpectFault(const std::string& text, const std::string& target)
         emulator::Fault fault = emulator::Fault::FromJson(json);
         const Json told = fault.toJson();
         fuzz::Require(emulator::Fault::FromJson(told).toJson() == told, told.dump());
-        const bool bHits = target.compare(0, fault.path.size(), fault.path) == 0;
+        const bool bHits =
+            (fault.method.empty() || fault.method == kMethod) && target.compare(0, fault.path.size(), fault.path) == 0;
         TheServer().faults.clear();
         TheServer().faults.add(std::move(fault));
-        fuzz::Require(TheServer().faults.take(target).has_value() == bHits, told.dump() + " for " + target);
+        fuzz::Require(TheServer().faults.take(kMethod, target).has_value() == bHits, told.dump() + " for " + target);
     } catch (const std::invalid_argument&) {
         return;
     }
