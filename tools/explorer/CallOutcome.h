@@ -83,4 +83,10 @@ struct CallOutcome {
     nlohmann::json record;          ///< as far as the Parse filled it; null when it did not run
 };
 
+/// Whether the reply brings a token, which goes into no file.
+inline bool BringsToken(const catalogue::Call& call)
+{
+    return call.name == "BRMS.GetDeriveToken" || call.name == "BRMS.GetChannelWebAuthorization";
+}
+
 }  // namespace explorer

@@ -51,6 +51,7 @@ CallOutcome Timed(double milliseconds, bool succeeded = true)
 void Show(TimingView& view, const std::vector<CallOutcome>& outcomes)
 {
     std::vector<const CallOutcome*> runs;
+    runs.reserve(outcomes.size());
     for (const CallOutcome& outcome : outcomes) {
         runs.push_back(&outcome);
     }
@@ -215,8 +216,10 @@ void TimingViewTest::Screenshots()
     TakeScreenshots(view, QStringLiteral("timing-empty"), size);
     Show(view, {Timed(12.4)});
     TakeScreenshots(view, QStringLiteral("timing-one"), size);
+    constexpr int kRuns = 60;
     std::vector<CallOutcome> runs;
-    for (int run = 0; run < 60; ++run) {
+    runs.reserve(kRuns);
+    for (int run = 0; run < kRuns; ++run) {
         runs.push_back(Timed(8 + (run * 37) % 23 + (run % 17 == 0 ? 60 : 0), run % 19 != 5));
     }
     Show(view, runs);

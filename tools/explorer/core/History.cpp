@@ -1,5 +1,9 @@
 #include "History.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocale>
 #include <QSettings>
@@ -11,6 +15,7 @@ namespace explorer {
 namespace {
 
 constexpr const char* kLimitKey = "history/megabytes";
+constexpr const char* kKeptKey = "history/kept";
 constexpr int kUsualLimit = 64;
 constexpr qint64 kMegabyte = 1 << 20;
 
@@ -38,6 +43,106 @@ qint64 BytesOf(const CallOutcome& run)
     return bytes;
 }
 
+// A run as a line of the file
+
+QJsonArray ToJson(const Headers& headers)
+{
+    QJsonArray list;
+    for (const Header& header : headers) {
+        list.append(QJsonArray{header.name, header.value});
+    }
+    return list;
+}
+
+Headers HeadersOf(const QJsonValue& list)
+{
+    Headers headers;
+    const QJsonArray array = list.toArray();
+    for (const QJsonValue& header : array) {
+        headers.append({header[0].toString(), header[1].toString()});
+    }
+    return headers;
+}
+
+QString Packed(const QByteArray& bytes)
+{
+    return QString::fromLatin1(qCompress(bytes).toBase64());
+}
+
+QByteArray Unpacked(const QJsonValue& text)
+{
+    return qUncompress(QByteArray::fromBase64(text.toString().toLatin1()));
+}
+
+QByteArray Line(const CallOutcome& run)
+{
+    const bool isWhole = !BringsToken(*run.call);
+    QJsonObject line{{QStringLiteral("call"), QString::fromStdString(run.call->name)},
+                     {QStringLiteral("arguments"), run.arguments},
+                     {QStringLiteral("server"), run.server},
+                     {QStringLiteral("started"), run.started.toString(Qt::ISODateWithMs)},
+                     {QStringLiteral("elapsed"), run.elapsedMilliseconds},
+                     {QStringLiteral("result"), run.result},
+                     {QStringLiteral("succeeded"), run.succeeded},
+                     {QStringLiteral("text"), run.resultText},
+                     {QStringLiteral("way"), int(run.way)},
+                     {QStringLiteral("timeout"), run.timeoutSeconds},
+                     {QStringLiteral("method"), run.request.method},
+                     {QStringLiteral("url"), run.request.url},
+                     {QStringLiteral("headers"), ToJson(run.request.headers)},
+                     {QStringLiteral("body"), Packed(run.request.body)},
+                     {QStringLiteral("error"), run.connectionError}};
+    if (run.times) {
+        const QJsonValue firstByte = run.times->firstByte ? QJsonValue(*run.times->firstByte) : QJsonValue();
+        line.insert(QStringLiteral("times"), QJsonArray{run.times->sent, firstByte, run.times->finished});
+    }
+    if (run.reply && isWhole) {
+        line.insert(QStringLiteral("reply"),
+                    QJsonArray{run.reply->status, ToJson(run.reply->headers), Packed(run.reply->body)});
+    }
+    if (!run.record.is_null() && isWhole) {
+        const std::vector<std::uint8_t> record = nlohmann::json::to_cbor(run.record);
+        line.insert(QStringLiteral("record"),
+                    Packed(QByteArray(reinterpret_cast<const char*>(record.data()), int(record.size()))));
+    }
+    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+/// Without a call when the line is of another version of the program.
+CallOutcome FromLine(const QByteArray& text)
+{
+    const QJsonObject line = QJsonDocument::fromJson(text).object();
+    const auto value = [&line](const char* key) { return line.value(QLatin1String(key)); };
+    CallOutcome run;
+    run.call = catalogue::FindCall(value("call").toString().toStdString());
+    run.arguments = value("arguments").toObject();
+    run.server = value("server").toString();
+    run.started = QDateTime::fromString(value("started").toString(), Qt::ISODateWithMs);
+    run.elapsedMilliseconds = value("elapsed").toDouble();
+    run.result = value("result").toInt();
+    run.succeeded = value("succeeded").toBool();
+    run.resultText = value("text").toString();
+    run.way = Way(value("way").toInt());
+    run.timeoutSeconds = value("timeout").toInt();
+    run.request = {value("method").toString(), value("url").toString(), HeadersOf(value("headers")),
+                   Unpacked(value("body"))};
+    run.connectionError = value("error").toString();
+    if (const QJsonArray times = value("times").toArray(); !times.isEmpty()) {
+        run.times = ExchangeTimes{times.at(0).toDouble(), std::nullopt, times.at(2).toDouble()};
+        if (times.at(1).isDouble()) {
+            run.times->firstByte = times.at(1).toDouble();
+        }
+    }
+    if (const QJsonArray reply = value("reply").toArray(); !reply.isEmpty()) {
+        run.reply = RawReply{reply.at(0).toInt(), HeadersOf(reply.at(1)), Unpacked(reply.at(2))};
+    }
+    if (value("record").isString()) {
+        const QByteArray record = Unpacked(value("record"));
+        run.record = nlohmann::json::from_cbor(record.begin(), record.end(), true, false);
+    }
+    return run;
+}
+
 }  // namespace
 
 PastRun::PastRun(CallOutcome outcome) : m_summary(std::move(outcome))
@@ -61,12 +166,25 @@ CallOutcome PastRun::Outcome() const
 
 History::History(QSettings& settings, QObject* parent)
     : QAbstractTableModel(parent), m_settings(settings),
-      m_limit(std::max(1, settings.value(QLatin1String(kLimitKey), kUsualLimit).toInt()))
-{}
+      m_limit(std::max(1, settings.value(QLatin1String(kLimitKey), kUsualLimit).toInt())),
+      m_bKept(settings.value(QLatin1String(kKeptKey)).toBool())
+{
+    if (m_bKept) {
+        Load();
+    }
+}
 
 void History::Add(const CallOutcome& outcome)
 {
     const auto run = std::make_shared<const PastRun>(outcome);
+    Append(run);
+    if (m_bKept) {
+        Write(false, {run});
+    }
+}
+
+void History::Append(const PastRunPtr& run)
+{
     beginInsertRows({}, rowCount(), rowCount());
     m_runs.push_back(run);
     m_bytes += run->Bytes();
@@ -96,6 +214,53 @@ void History::Clear()
     m_runs.clear();
     m_bytes = 0;
     endResetModel();
+    if (m_bKept) {
+        Write(true, {});
+    }
+}
+
+void History::SetKept(bool kept)
+{
+    m_bKept = kept;
+    m_settings.setValue(QLatin1String(kKeptKey), kept);
+    if (kept) {
+        Write(true, PastRuns(m_runs.begin(), m_runs.end()));
+    } else {
+        QFile::remove(FileName());
+    }
+}
+
+QString History::FileName() const
+{
+    return QFileInfo(m_settings.fileName()).dir().filePath(QStringLiteral("explorer-history.jsonl"));
+}
+
+void History::Load()
+{
+    QFile file(FileName());
+    if (!file.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    while (!file.atEnd()) {
+        const CallOutcome run = FromLine(file.readLine());
+        if (run.call != nullptr) {
+            Append(std::make_shared<const PastRun>(run));
+        }
+    }
+    file.close();
+    Write(true, PastRuns(m_runs.begin(), m_runs.end()));  // without those that are over the limit
+}
+
+void History::Write(bool anew, const PastRuns& runs) const
+{
+    QFile file(FileName());
+    if (!file.open(QIODevice::WriteOnly | (anew ? QIODevice::Truncate : QIODevice::Append))) {
+        return;  // the runs of the session are there all the same
+    }
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    for (const PastRunPtr& run : runs) {
+        file.write(Line(run->Outcome()));
+    }
 }
 
 void History::SetLimitInMegabytes(int limit)

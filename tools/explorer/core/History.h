@@ -65,18 +65,28 @@ public:
     [[nodiscard]] int LimitInMegabytes() const { return m_limit; }
     void SetLimitInMegabytes(int limit);
 
+    /// Whether the runs are kept in a file beside the settings, which only the user may read: without session tokens,
+    /// and without the replies that bring any.
+    [[nodiscard]] bool IsKept() const { return m_bKept; }
+    void SetKept(bool kept);
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    void Append(const PastRunPtr& run);
     void DropOldest();
+    [[nodiscard]] QString FileName() const;
+    void Load();
+    void Write(bool anew, const PastRuns& runs) const;
 
     QSettings& m_settings;
     std::deque<PastRunPtr> m_runs;
     qint64 m_bytes = 0;
     int m_limit;
+    bool m_bKept;
 };
 
 }  // namespace explorer

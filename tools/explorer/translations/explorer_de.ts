@@ -159,6 +159,37 @@
     </message>
 </context>
 <context>
+    <name>explorer::CompareDialog</name>
+    <message>
+        <source>Compare two runs</source>
+        <translation>Zwei Läufe vergleichen</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>No difference</source>
+        <translation>Kein Unterschied</translation>
+    </message>
+</context>
+<context>
     <name>explorer::Feed</name>
     <message>
         <source>Time</source>
@@ -266,6 +297,78 @@
     <message>
         <source>Duration</source>
         <translation>Dauer</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::HistoryPanel</name>
+    <message>
+        <source>No runs</source>
+        <translation>Keine Läufe</translation>
+    </message>
+    <message>
+        <source>Run again</source>
+        <translation>Erneut</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Load the arguments into the form</source>
+        <translation>Lädt die Argumente ins Formular</translation>
+    </message>
+    <message>
+        <source>The chosen runs as an HTTP archive (HAR) or as a C++ test</source>
+        <translation>Die gewählten Läufe als HTTP-Archiv (HAR) oder als C++-Test</translation>
+    </message>
+    <message>
+        <source>Limit of the history</source>
+        <translation>Grenze des Verlaufs</translation>
+    </message>
+    <message>
+        <source>When the runs take more, the oldest go</source>
+        <translation>Brauchen die Läufe mehr, gehen die ältesten</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>In a file</source>
+        <translation>In einer Datei</translation>
+    </message>
+    <message>
+        <source>Keeps the runs for the next start, without tokens</source>
+        <translation>Behält die Läufe für den nächsten Start, ohne Tokens</translation>
+    </message>
+    <message>
+        <source>%1 of</source>
+        <extracomment>%1 megabytes are taken; a field with the limit follows</extracomment>
+        <translation>%1 von</translation>
+    </message>
+    <message>
+        <source>Export the chosen runs</source>
+        <translation>Die gewählten Läufe exportieren</translation>
+    </message>
+    <message>
+        <source>HTTP archive</source>
+        <translation>HTTP-Archiv</translation>
+    </message>
+    <message>
+        <source>C++ test</source>
+        <translation>C++-Test</translation>
     </message>
 </context>
 <context>
@@ -488,6 +591,14 @@
     <message>
         <source>Choose a call to see its request here.</source>
         <translation>Wählen Sie einen Aufruf, um hier seine Anfrage zu sehen.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
     </message>
 </context>
 <context>

@@ -158,6 +158,37 @@
     </message>
 </context>
 <context>
+    <name>explorer::CompareDialog</name>
+    <message>
+        <source>Compare two runs</source>
+        <translation>比较两次运行</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>应答</translation>
+    </message>
+    <message>
+        <source>No difference</source>
+        <translation>无差异</translation>
+    </message>
+</context>
+<context>
     <name>explorer::Feed</name>
     <message>
         <source>Time</source>
@@ -265,6 +296,78 @@
     <message>
         <source>Duration</source>
         <translation>用时</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::HistoryPanel</name>
+    <message>
+        <source>No runs</source>
+        <translation>没有运行记录</translation>
+    </message>
+    <message>
+        <source>Run again</source>
+        <translation>再次运行</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>载入</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Load the arguments into the form</source>
+        <translation>将参数载入表单</translation>
+    </message>
+    <message>
+        <source>The chosen runs as an HTTP archive (HAR) or as a C++ test</source>
+        <translation>将所选运行导出为 HTTP 存档 (HAR) 或 C++ 测试</translation>
+    </message>
+    <message>
+        <source>Limit of the history</source>
+        <translation>历史记录上限</translation>
+    </message>
+    <message>
+        <source>When the runs take more, the oldest go</source>
+        <translation>超出上限时删除最早的运行</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>In a file</source>
+        <translation>存入文件</translation>
+    </message>
+    <message>
+        <source>Keeps the runs for the next start, without tokens</source>
+        <translation>为下次启动保留运行记录，不含令牌</translation>
+    </message>
+    <message>
+        <source>%1 of</source>
+        <extracomment>%1 megabytes are taken; a field with the limit follows</extracomment>
+        <translation>%1 /</translation>
+    </message>
+    <message>
+        <source>Export the chosen runs</source>
+        <translation>导出所选运行</translation>
+    </message>
+    <message>
+        <source>HTTP archive</source>
+        <translation>HTTP 存档</translation>
+    </message>
+    <message>
+        <source>C++ test</source>
+        <translation>C++ 测试</translation>
     </message>
 </context>
 <context>
@@ -487,6 +590,14 @@
     <message>
         <source>Choose a call to see its request here.</source>
         <translation>选择调用后，此处显示其请求。</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>历史(&amp;H)</translation>
     </message>
 </context>
 <context>

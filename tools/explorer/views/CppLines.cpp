@@ -1,6 +1,9 @@
 #include "CppLines.h"
 
+#include "Json.h"
 #include "Plain.h"
+
+#include <explorer/CallOutcome.h>
 
 #include <catalogue/Call.h>
 
@@ -152,6 +155,128 @@ QString Signature(const catalogue::Call& call)
     return QStringLiteral("APIModule::Outcome<%1> %2(QWidget* pParent)").arg(record, ConstantName(call));
 }
 
+QString Function(const catalogue::Call& call, const json& arguments, int serverId)
+{
+    QStringList lines;
+    for (const catalogue::Argument& argument : call.arguments) {
+        const auto given = arguments.find(std::string(argument.name));
+        AddVariable(lines, argument, given == arguments.end() ? catalogue::Value(*argument.type).ToJson() : *given);
+    }
+    if (!lines.isEmpty()) {
+        lines.append(QString());
+    }
+
+    QString text = Signature(call) + QLatin1String("\n{\n");
+    for (const QString& line : qAsConst(lines)) {
+        text += line.isEmpty() ? QStringLiteral("\n") : QLatin1String("    ") + line + QLatin1Char('\n');
+    }
+    return text + QStringLiteral("    return APIModule::Run(%1, pParent);\n}\n").arg(Request(call, serverId));
+}
+
+constexpr const char* kTestBegin = R"(#include <emulator/PlatformEmulator.h>
+
+#include <QApplication>
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+/// The user manager of the test: one server, which is the emulator.
+class EmulatedServer : public UserLogical::IServer, public UserLogical::IUserManager {
+public:
+    explicit EmulatedServer(int port) : m_port(port) {}
+
+    void GetConnection(UserLogical::ServerConnection& connection) override
+    {
+        connection.strHost = "127.0.0.1";
+        connection.nPort = m_port;
+    }
+    std::string GetToken() override { return emulator::kDefaultToken; }
+    int GetCurrentServerId() override { return 1; }
+    std::shared_ptr<UserLogical::IServer> GetServer(int /*id*/) override
+    {
+        return std::shared_ptr<UserLogical::IServer>(std::shared_ptr<void>(), this);  // does not own it
+    }
+
+private:
+    int m_port;
+};
+
+void Check(bool holds, const char* what)
+{
+    if (!holds) {
+        throw std::runtime_error(what);
+    }
+}
+
+void AnswerNext(emulator::PlatformEmulator& platform, int status, const std::string& body)
+{
+    emulator::Fault answer;
+    answer.kind = emulator::Fault::Kind::Status;
+    answer.status = status;
+    answer.body = body;
+    platform.addFault(answer);
+}
+
+void CheckRequest(const emulator::PlatformEmulator& platform, const std::string& method, const std::string& target,
+                  const std::string& body)
+{
+    const auto request = platform.requests().back();
+    Check(request.method == method && request.target == target && request.body == body, target.c_str());
+}
+)";
+
+constexpr const char* kTestMain = R"(
+void Test(emulator::PlatformEmulator& platform)
+{
+)";
+
+constexpr const char* kTestEnd = R"(}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        qputenv("QT_QPA_PLATFORM", "offscreen");  // no display; before the application object
+        const QApplication application(argc, argv);
+        emulator::PlatformEmulator platform;
+        platform.start();
+        EmulatedServer server(platform.httpsPort());
+        APIModule::CAPIModule::GetInstance().Init(&server);
+        Test(platform);
+        APIModule::CAPIModule::GetInstance().UnInit();
+    } catch (const std::exception& failure) {
+        std::cerr << "failed: " << failure.what() << '\n';
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
+)";
+
+QString TargetOf(const QString& url)
+{
+    const QString afterScheme = url.section(QLatin1String("://"), 1);
+    return afterScheme.mid(afterScheme.indexOf(QLatin1Char('/')));
+}
+
+/// The statements that play a run once more.
+QString Checks(const CallOutcome& run, int number)
+{
+    const auto line = [](const QString& text) { return QLatin1String("    ") + text + QLatin1Char('\n'); };
+    const QString call = QStringLiteral("run%1::%2").arg(number).arg(ConstantName(*run.call));
+    return line(QStringLiteral("AnswerNext(platform, %1, ").arg(run.reply->status) +
+                CppText(run.reply->body.toStdString()) + QLatin1String(");")) +
+           line(QStringLiteral("Check(%1(nullptr).Code() == %2, \"%1\");").arg(call).arg(run.result)) +
+           line(QLatin1String("CheckRequest(platform, ") + CppText(run.request.method.toStdString()) +
+                QLatin1String(", ") + CppText(TargetOf(run.request.url).toStdString()) + QLatin1String(", ") +
+                CppText(run.request.body.toStdString()) + QLatin1String(");"));
+}
+
 QString EscapedByte(char byte)
 {
     // Three octal digits, so that a digit that follows is not taken for a part of it.
@@ -203,22 +328,33 @@ QString CppText(const std::string& text)
 
 QString CppLines(const catalogue::Call& call, const json& arguments, int serverId)
 {
-    QStringList lines;
-    for (const catalogue::Argument& argument : call.arguments) {
-        const auto given = arguments.find(std::string(argument.name));
-        AddVariable(lines, argument, given == arguments.end() ? catalogue::Value(*argument.type).ToJson() : *given);
-    }
-    if (!lines.isEmpty()) {
-        lines.append(QString());
-    }
+    return QStringLiteral("#include <%1/%1Calls.h>\n\n").arg(QString::fromStdString(call.family)) +
+           Function(call, arguments, serverId);
+}
 
-    QString text =
-        QStringLiteral("#include <%1/%1Calls.h>\n\n%2\n{\n").arg(QString::fromStdString(call.family), Signature(call));
-    for (const QString& line : qAsConst(lines)) {
-        text += line.isEmpty() ? QStringLiteral("\n") : QLatin1String("    ") + line + QLatin1Char('\n');
+QString CppTest(const std::vector<const CallOutcome*>& runs)
+{
+    QStringList includes;
+    QString functions;
+    QString checks;
+    int number = 0;
+    for (const CallOutcome* run : runs) {
+        if (!run->reply || BringsToken(*run->call)) {
+            continue;
+        }
+        ++number;
+        includes.append(QStringLiteral("#include <%1/%1Calls.h>\n").arg(QString::fromStdString(run->call->family)));
+        constexpr int kCurrentServer = -1;
+        functions += QStringLiteral("\nnamespace run%1 {\n\n%2\n}  // namespace run%1\n")
+                         .arg(number)
+                         .arg(Function(*run->call, FromQt(run->arguments), kCurrentServer));
+        checks += Checks(*run, number);
     }
-    text += QStringLiteral("    return APIModule::Run(%1, pParent);\n}\n").arg(Request(call, serverId));
-    return text;
+    includes.sort();
+    includes.removeDuplicates();
+    // Not by arg(): the texts hold what comes from servers.
+    return QLatin1String("#include <APIModule.h>\n") + includes.join(QString()) + QLatin1String(kTestBegin) +
+           functions + QLatin1String(kTestMain) + checks + QLatin1String(kTestEnd);
 }
 
 }  // namespace explorer

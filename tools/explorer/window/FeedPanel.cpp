@@ -1,24 +1,19 @@
 #include "FeedPanel.h"
 
 #include "Icons.h"
+#include "LineTable.h"
 
 #include "../core/Feed.h"
 #include "../views/Theme.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
-#include <QPainter>
-#include <QScrollBar>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QToolButton>
-
-#include <memory>
 
 namespace explorer {
 namespace {
@@ -65,61 +60,6 @@ private:
     int m_lowestLevel = 0;
 };
 
-/// Copies the chosen lines; says what it is for while it is empty.
-class LineTable : public QTableView {
-public:
-    explicit LineTable(QString hint) : m_hint(std::move(hint)) {}
-
-protected:
-    void keyPressEvent(QKeyEvent* pEvent) override
-    {
-        if (!pEvent->matches(QKeySequence::Copy)) {
-            QTableView::keyPressEvent(pEvent);
-            return;
-        }
-        QStringList lines;
-        const QModelIndexList rows = selectionModel()->selectedRows();
-        for (const QModelIndex& row : rows) {
-            QStringList cells;
-            for (int column = 0; column < model()->columnCount(); ++column) {
-                if (!isColumnHidden(column)) {
-                    cells.append(row.sibling(row.row(), column).data().toString());
-                }
-            }
-            lines.append(cells.join(QLatin1Char('\t')));
-        }
-        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-    }
-
-    void paintEvent(QPaintEvent* pEvent) override
-    {
-        QTableView::paintEvent(pEvent);
-        if (model()->rowCount() == 0) {
-            QPainter painter(viewport());
-            painter.setPen(palette().color(QPalette::PlaceholderText));
-            painter.drawText(viewport()->rect(), Qt::AlignCenter, m_hint);
-        }
-    }
-
-private:
-    const QString m_hint;
-};
-
-/// Keeps the end in sight until the user scrolls back to read undisturbed.
-void FollowEnd(QTableView* pTable)
-{
-    pTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    auto* const pBar = pTable->verticalScrollBar();
-    const auto follows = std::make_shared<bool>(true);
-    QObject::connect(pBar, &QScrollBar::valueChanged, pBar,
-                     [pBar, follows](int value) { *follows = value == pBar->maximum(); });
-    QObject::connect(pBar, &QScrollBar::rangeChanged, pBar, [pBar, follows](int /*first*/, int last) {
-        if (*follows) {
-            pBar->setValue(last);
-        }
-    });
-}
-
 }  // namespace
 
 FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
@@ -127,35 +67,18 @@ FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
     auto* const pLines = new LineFilter(this);
     pLines->setSourceModel(&feed);
 
-    auto* const pTable = new LineTable(kind == Log ? tr("No log lines") : tr("No notifications"));
-    pTable->setObjectName(kind == Log ? QStringLiteral("logTable") : QStringLiteral("notificationTable"));
-    pTable->setModel(pLines);
-    pTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    pTable->setShowGrid(false);
-    pTable->setAlternatingRowColors(true);
-    pTable->setWordWrap(false);
-    pTable->setTabKeyNavigation(false);
-    pTable->setFrameShape(QFrame::NoFrame);
-    pTable->verticalHeader()->hide();
-    constexpr int kAir = 6;
-    pTable->verticalHeader()->setDefaultSectionSize(pTable->fontMetrics().height() + kAir);
-    auto* const pHeader = pTable->horizontalHeader();
-    pHeader->setHighlightSections(false);
-    pHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    pHeader->setSectionResizeMode(Feed::TextColumn, QHeaderView::Stretch);
+    QTableView* const pTable =
+        NewLineTable(kind == Log ? QStringLiteral("logTable") : QStringLiteral("notificationTable"), *pLines,
+                     kind == Log ? tr("No log lines") : tr("No notifications"));
+    pTable->horizontalHeader()->setSectionResizeMode(Feed::TextColumn, QHeaderView::Stretch);
     const auto widthOf = [pTable](const QString& text) { return pTable->fontMetrics().horizontalAdvance(text) + 24; };
     pTable->setColumnWidth(Feed::TimeColumn, widthOf(QStringLiteral("00:00:00.000")));
     pTable->setColumnWidth(Feed::LevelColumn, widthOf(Feed::LevelName(4)));
     pTable->setColumnWidth(Feed::SourceColumn, widthOf(QString(44, QLatin1Char('n'))));
     pTable->setColumnHidden(Feed::LevelColumn, kind != Log);
     pTable->setColumnHidden(Feed::SourceColumn, kind != Log);
-    FollowEnd(pTable);
 
-    auto* const pSearch = new QLineEdit;
-    pSearch->setObjectName(QStringLiteral("search"));
-    pSearch->setPlaceholderText(tr("Search"));
-    pSearch->setClearButtonEnabled(true);
-    pSearch->addAction(Icon("search"), QLineEdit::LeadingPosition);
+    QLineEdit* const pSearch = NewSearch();
     connect(pSearch, &QLineEdit::textChanged, pLines, &LineFilter::SetText);
 
     auto* const pLevel = new QComboBox;

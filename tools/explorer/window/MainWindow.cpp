@@ -4,6 +4,7 @@
 #include "CallHeader.h"
 #include "CallPanel.h"
 #include "FeedPanel.h"
+#include "HistoryPanel.h"
 #include "ResultHeader.h"
 #include "RunBar.h"
 #include "RunningCalls.h"
@@ -237,6 +238,14 @@ QWidget* MainWindow::MakeFeeds()
     m_pFeeds = NewTabs("feeds");
     m_pFeeds->addTab(new FeedPanel(m_session.log, FeedPanel::Log), tr("Log"));
     m_pFeeds->addTab(new FeedPanel(m_session.notifications, FeedPanel::Notifications), tr("Notifications"));
+    m_pHistory = new HistoryPanel(m_session.history);
+    m_pFeeds->addTab(m_pHistory, tr("History"));
+    connect(m_pHistory, &HistoryPanel::ChosenChanged, this, &MainWindow::ShowChosenRuns);
+    connect(m_pHistory, &HistoryPanel::LoadRequested, this, &MainWindow::Load);
+    connect(m_pHistory, &HistoryPanel::RunRequested, this, [this](const PastRunPtr& pRun) {
+        Load(pRun);
+        Run();
+    });
     return m_pFeeds;
 }
 
@@ -311,7 +320,8 @@ void MainWindow::MakeGoToMenu(QMenu* pMenu)
                                                             {tr("Re&quest"), toTab(m_pResults, 1)},
                                                             {tr("&Timing"), toTab(m_pResults, 2)},
                                                             {tr("&Log"), toTab(m_pFeeds, 0)},
-                                                            {tr("&Notifications"), toTab(m_pFeeds, 1)}};
+                                                            {tr("&Notifications"), toTab(m_pFeeds, 1)},
+                                                            {tr("&History"), toTab(m_pFeeds, 2)}};
     int key = Qt::Key_1;
     for (const auto& place : places) {
         pMenu->addAction(place.first, this, place.second)->setShortcut(QKeySequence(int(Qt::CTRL) + key));
@@ -470,6 +480,7 @@ void MainWindow::Choose(const catalogue::Call& call)
         m_pForm->SetArguments(m_session.drafts.value(name, QJsonDocument::fromJson(lastUse).object()));
         ShowHeader();
     }
+    m_timed.clear();
     ShowRun(m_session.history.LastOf(call));
 }
 
@@ -600,6 +611,7 @@ void MainWindow::RunFinished(const CallOutcome& outcome)
         statusBar()->showMessage(QStringLiteral("%1: %2").arg(ShortName(*outcome.call), outcome.resultText),
                                  kStatusTime);
     } else if (!m_session.runner.IsRepeating()) {
+        m_timed.clear();
         ShowRun(m_session.history.LastOf(*m_pCall));
     } else {
         ShowTimes();
@@ -620,11 +632,33 @@ void MainWindow::ShowRun(const PastRunPtr& pRun)
     ShowTimes();
 }
 
+void MainWindow::ShowChosenRuns()
+{
+    m_timed = m_pHistory->Chosen();
+    if (m_timed.size() == 1) {
+        ShowRun(m_timed.front());
+    } else if (m_pCall != nullptr) {
+        ShowTimes();
+    }
+}
+
+void MainWindow::Load(const PastRunPtr& pRun)
+{
+    const CallOutcome& run = pRun->Summary();
+    if (run.call != m_pCall) {
+        SelectCall(*run.call);
+    }
+    m_pForm->SetArguments(run.arguments);
+    ShowRun(pRun);
+}
+
 void MainWindow::ShowTimes()
 {
     constexpr std::size_t kMost = 100;
+    const catalogue::Call& call = m_pShown ? *m_pShown->Summary().call : *m_pCall;
+    const PastRuns runs = m_timed.size() > 1 ? m_timed : m_session.history.RunsOf(call, kMost);
     std::vector<const CallOutcome*> summaries;
-    const PastRuns runs = m_session.history.RunsOf(*m_pCall, kMost);
+    summaries.reserve(runs.size());
     for (const PastRunPtr& pRun : runs) {
         summaries.push_back(&pRun->Summary());
     }

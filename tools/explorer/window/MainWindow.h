@@ -21,6 +21,7 @@ namespace explorer {
 class ArgumentForm;
 class CallHeader;
 class CallPanel;
+class HistoryPanel;
 class RequestView;
 class ResultHeader;
 class ResultView;
@@ -88,6 +89,9 @@ private:
     /// Null for none.
     void ShowRun(const PastRunPtr& pRun);
     void ShowTimes();
+    void ShowChosenRuns();
+    /// Its call and its arguments.
+    void Load(const PastRunPtr& pRun);
     void KeepDraft();
     void ToggleFavourite(bool favourite);
 
@@ -96,6 +100,7 @@ private:
     QFutureWatcher<Endpoints> m_contract;
     const catalogue::Call* m_pCall = nullptr;
     PastRunPtr m_pShown;
+    PastRuns m_timed;  // those that were chosen to be timed; empty for the last ones of the call
     QString m_runsAt;  // the server of a run that waits for the emulator or a token
     ServerBar* m_pServerBar;
     CallPanel* m_pCalls;
@@ -110,6 +115,7 @@ private:
     QTabWidget* m_pResults = nullptr;
     QTimer* m_pRequestTimer;  // one request for all that changes at once
     QTabWidget* m_pFeeds = nullptr;
+    HistoryPanel* m_pHistory = nullptr;
     QAction* m_pShowFeeds = nullptr;
     QSplitter* m_pPanes;
     QSplitter* m_pRows;

@@ -84,7 +84,7 @@ void ResultHeader::Show(const QString& words, const QString& details)
 void ResultHeader::Fit()
 {
     constexpr int kLines = 8;
-    const int needed = widget()->layout()->heightForWidth(viewport()->width());
+    const int needed = qMax(widget()->layout()->heightForWidth(viewport()->width()), 0);
     setFixedHeight(qMin(needed, kLines * m_pDetails->fontMetrics().lineSpacing()));
 }
 
@@ -116,7 +116,7 @@ void ResultHeader::Show(const CallOutcome& outcome)
     if (outcome.timeoutSeconds > 0) {
         details.append(tr("time-out %1 s").arg(outcome.timeoutSeconds));
     }
-    const QStringList circumstances{outcome.server,
+    const QStringList circumstances{QString::fromStdString(outcome.call->name), outcome.server,
                                     QLocale().toString(outcome.started.time(), QStringLiteral("HH:mm:ss"))};
     const QString between = QStringLiteral("  ·  ");
     QString text = details.join(between) + QLatin1Char('\n') + circumstances.join(between);
