@@ -22,7 +22,7 @@ struct ListRow {
 /// The number of elements that the seed files hold at a place.
 std::size_t SeededCount(const std::string& place)
 {
-    static const Json seeds = emulator::LoadSeeds(emulator::DefaultShareFolder() / "seed", 1);
+    static const Json seeds = emulator::LoadSeeds(emulator::DefaultShareFolder() / "seed");
     return seeds.at(Json::json_pointer(place)).size();
 }
 
