@@ -34,9 +34,6 @@ namespace APIModule {
 /// contract's example. A list in "results" is complete and has no total.
 class APIMODULE_EXPORT CBRMSModule {
 public:
-    CBRMSModule& operator=(const CBRMSModule&);      ///< Does nothing, the class has no data. @return *this
-    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
-
     /// @name System configuration
     /// Settings of the whole platform. Flags and numbers travel to the server as texts ("1"/"0", decimal), with the
     /// exception of the AI privacy switch; a text ends at its first zero byte.
@@ -507,6 +504,9 @@ public:
     static int ParseGetGetDeviceCategoryCount(const QJsonObject& data,
                                               std::vector<DeviceCategoryQueryResult>& categories);
     /// @}
+
+    CBRMSModule& operator=(const CBRMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CBRMSModule& operator=(CBRMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule

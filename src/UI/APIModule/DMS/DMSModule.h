@@ -27,9 +27,6 @@ namespace APIModule {
 /// contract's example.
 class APIMODULE_EXPORT CDMSModule {
 public:
-    CDMSModule& operator=(const CDMSModule&);      ///< Does nothing, the class has no data. @return *this
-    CDMSModule& operator=(CDMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
-
     /// @name PTZ
     /// Wash function and home position of pan-tilt-zoom cameras. The wash calls use the administration interface and
     /// always address server 1. The home position calls use the REST interface and name the channel in the URL.
@@ -72,6 +69,9 @@ public:
     /// Reads @p status as ParseWashOpen() does.
     static int ParseGotoHomePosition(const QJsonObject& data, PtzPositionResetReq& status);
     /// @}
+
+    CDMSModule& operator=(const CDMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CDMSModule& operator=(CDMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule

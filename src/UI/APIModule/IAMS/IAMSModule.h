@@ -13,9 +13,6 @@ namespace APIModule {
 /// manager's current one). It returns 0, or -1 with the RequestParam untouched, and writes one log line either way.
 class APIMODULE_EXPORT CIAMSModule {
 public:
-    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing, the class has no data. @return *this
-    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
-
     /// @name Analysis tasks
     /// @{
 
@@ -28,6 +25,9 @@ public:
     static int PacketSetAnalysisTaskUploadFailed(void* pReqParamData, const std::vector<std::string>& taskIds,
                                                  int nServerId);
     /// @}
+
+    CIAMSModule& operator=(const CIAMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CIAMSModule& operator=(CIAMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule

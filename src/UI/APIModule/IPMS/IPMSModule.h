@@ -26,9 +26,6 @@ namespace APIModule {
 /// contract's example. A list in "results" is complete and has no total.
 class APIMODULE_EXPORT CIPMSModule {
 public:
-    CIPMSModule& operator=(const CIPMSModule&);      ///< Does nothing, the class has no data. @return *this
-    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
-
     /// @name Parking
     /// Parking lots, their organisations and the vehicles captured there.
     /// @{
@@ -68,6 +65,9 @@ public:
     static int PacketUpdateVehicleCaptureRecord(void* pReqParamData, const UpdateVehicleCaptureRecordInfo& info,
                                                 int nServerId);
     /// @}
+
+    CIPMSModule& operator=(const CIPMSModule&);      ///< Does nothing, the class has no data. @return *this
+    CIPMSModule& operator=(CIPMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule

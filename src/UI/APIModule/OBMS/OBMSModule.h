@@ -28,9 +28,6 @@ namespace APIModule {
 /// contract's example. A list in "results" is complete and has no total; a page has one.
 class APIMODULE_EXPORT COBMSModule {
 public:
-    COBMSModule& operator=(const COBMSModule&);      ///< Does nothing, the class has no data. @return *this
-    COBMSModule& operator=(COBMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
-
     /// @name Access control
     /// Persons and rules of access points and devices.
     /// @{
@@ -124,6 +121,9 @@ public:
     /// Reads "session", which names the snapshot that the server started, into @p session.
     static int ParseAlarmHostZoneSnapShot(const QJsonObject& data, std::string& session);
     /// @}
+
+    COBMSModule& operator=(const COBMSModule&);      ///< Does nothing, the class has no data. @return *this
+    COBMSModule& operator=(COBMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule

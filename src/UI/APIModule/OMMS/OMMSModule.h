@@ -26,9 +26,6 @@ namespace APIModule {
 /// contract's example. A list in "results" is complete and has no total.
 class APIMODULE_EXPORT COMMSModule {
 public:
-    COMMSModule& operator=(const COMMSModule&);      ///< Does nothing, the class has no data. @return *this
-    COMMSModule& operator=(COMMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
-
     /// @name Maintenance
     /// Alert types, and what maintenance shows of one channel or device: status, fault, health of recordings and
     /// network identity.
@@ -51,6 +48,9 @@ public:
     /// Fills the fields of @p device in their order, with the exception of "deviceSn", which is read last.
     static int ParseGetDeviceInfo(const QJsonObject& data, DeviceInfoResp& device);
     /// @}
+
+    COMMSModule& operator=(const COMMSModule&);      ///< Does nothing, the class has no data. @return *this
+    COMMSModule& operator=(COMMSModule&&) noexcept;  ///< Does nothing, the class has no data. @return *this
 };
 
 }  // namespace APIModule
