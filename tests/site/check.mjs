@@ -101,7 +101,7 @@ for (const page = await open(1280, place); place && !read.has(place);) {
 assert.equal(read.size, guides.length, 'not every guide is on the way');
 
 // The tree of the desktop, the menu of the phone.
-const desktop = await open(1280, 'md_docs_host.html');
+const desktop = await open(1280, guides.at(-1));
 await desktop.waitForSelector('#nav-tree a[href*="calls"]');
 const phone = await open(390, 'index.html');
 const menuShown = () => phone.$eval('#main-menu', menu => getComputedStyle(menu).display !== 'none');
