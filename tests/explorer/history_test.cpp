@@ -57,9 +57,9 @@ protected:
         }
     }
 
-    [[nodiscard]] std::vector<const CallOutcome*> Summaries() const
+    [[nodiscard]] std::vector<const explorer::RunSummary*> Summaries() const
     {
-        std::vector<const CallOutcome*> summaries;
+        std::vector<const explorer::RunSummary*> summaries;
         for (int row = 0; row < session->history.rowCount(); ++row) {
             summaries.push_back(&session->history.At(row)->Summary());
         }

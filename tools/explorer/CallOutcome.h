@@ -62,8 +62,8 @@ enum class Way {
     WithoutWaiting,  ///< begins it; others may be under way at the same time
 };
 
-/// What one run of a call left behind.
-struct CallOutcome {
+/// What one run of a call left behind, all but the record.
+struct RunSummary {
     const catalogue::Call* call = nullptr;
     QJsonObject arguments;
     QString server;  ///< the name of the server that was asked
@@ -80,7 +80,11 @@ struct CallOutcome {
     SentRequest request;
     std::optional<RawReply> reply;  ///< when a complete answer came
     QString connectionError;        ///< why none came
-    nlohmann::json record;          ///< as far as the Parse filled it; null when it did not run
+};
+
+/// What one run of a call left behind.
+struct CallOutcome : RunSummary {
+    nlohmann::json record;  ///< as far as the Parse filled it; null when it did not run
 };
 
 /// Whether the reply brings a token, which goes into no file.

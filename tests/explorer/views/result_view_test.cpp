@@ -64,6 +64,11 @@ private slots:
 
 namespace {
 
+explorer::SharedRecord Shared(const json& record)
+{
+    return std::make_shared<const json>(record);
+}
+
 QTableView& TableOf(const QWidget& view)
 {
     return *view.findChild<QTableView*>(QStringLiteral("table"));
@@ -111,7 +116,7 @@ int ColumnNamed(const QTableView& table, const char* title)
 
 void Set(RecordTable& table, const CallOutcome& outcome)
 {
-    QVERIFY(table.SetRecord(*outcome.call->result, outcome.record));
+    QVERIFY(table.SetRecord(*outcome.call->result, Shared(outcome.record)));
 }
 
 QString TextOf(const QAbstractItemModel& model, const QModelIndex& parent, int row)
@@ -145,7 +150,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
     RecordModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     const CallOutcome outcome = view_test::AlarmLinkage();
-    model.SetRecord(*outcome.call->result, outcome.record);
+    model.SetRecord(*outcome.call->result, Shared(outcome.record));
 
     const QModelIndex root = model.index(0, 0);
     QCOMPARE(model.rowCount(), 1);
@@ -159,7 +164,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
     QCOMPARE(TextOf(model, horn, 1), QStringLiteral("channelName|Horn|text"));
 
     const CallOutcome plain = view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1]");
-    model.SetRecord(*plain.call->result, plain.record);
+    model.SetRecord(*plain.call->result, Shared(plain.record));
     QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|Elements: 2|int[]"));
     QCOMPARE(TextOf(model, model.index(0, 0), 1), QStringLiteral("[1]|1|int"));
 
@@ -171,7 +176,7 @@ void ResultViewTest::TheTreeStandsInTheOrderOfTheFields()
 {
     RecordModel model;
     const CallOutcome outcome = view_test::ParkingLots();
-    model.SetRecord(*outcome.call->result, outcome.record);
+    model.SetRecord(*outcome.call->result, Shared(outcome.record));
     const QModelIndex lot = model.index(0, 0, model.index(0, 0));
     const auto& fields = outcome.call->result->element->fields;
     QCOMPARE(model.rowCount(lot), int(fields.size()));
@@ -186,7 +191,7 @@ void ResultViewTest::EveryCallsFreshRecordHasATree()
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     for (const catalogue::Call& call : catalogue::Calls()) {
         if (call.result != nullptr) {
-            model.SetRecord(*call.result, catalogue::Value(*call.result).ToJson());
+            model.SetRecord(*call.result, Shared(catalogue::Value(*call.result).ToJson()));
             QCOMPARE(model.rowCount(model.index(0, 0)), int(call.result->fields.size()));
         }
     }

@@ -50,7 +50,7 @@ CallOutcome Timed(double milliseconds, bool succeeded = true)
 
 void Show(TimingView& view, const std::vector<CallOutcome>& outcomes)
 {
-    std::vector<const CallOutcome*> runs;
+    std::vector<const explorer::RunSummary*> runs;
     runs.reserve(outcomes.size());
     for (const CallOutcome& outcome : outcomes) {
         runs.push_back(&outcome);

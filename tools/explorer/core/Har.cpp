@@ -60,7 +60,7 @@ json RequestOf(const SentRequest& sent)
 }
 
 /// Status 0 stands for no answer.
-json ResponseOf(const CallOutcome& run)
+json ResponseOf(const RunSummary& run)
 {
     const RawReply reply = run.reply.value_or(RawReply{0, {}, {}});
     json content{{"size", reply.body.size()}, {"mimeType", TypeOf(reply.headers)}};
@@ -80,7 +80,7 @@ json ResponseOf(const CallOutcome& run)
             {"bodySize", -1}};
 }
 
-json EntryOf(const CallOutcome& run)
+json EntryOf(const RunSummary& run)
 {
     const ExchangeTimes times = run.times.value_or(ExchangeTimes{0, std::nullopt, run.elapsedMilliseconds});
     const double firstByte = times.firstByte.value_or(times.finished);
@@ -99,10 +99,10 @@ json EntryOf(const CallOutcome& run)
 
 }  // namespace
 
-json Har(const std::vector<const CallOutcome*>& runs)
+json Har(const std::vector<const RunSummary*>& runs)
 {
     json entries = json::array();
-    for (const CallOutcome* run : runs) {
+    for (const RunSummary* run : runs) {
         if (!run->request.method.isEmpty()) {
             entries.push_back(EntryOf(*run));
         }

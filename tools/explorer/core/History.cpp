@@ -19,7 +19,7 @@ constexpr const char* kKeptKey = "history/kept";
 constexpr int kUsualLimit = 64;
 constexpr qint64 kMegabyte = 1 << 20;
 
-QString ArgumentsText(const CallOutcome& run)
+QString ArgumentsText(const RunSummary& run)
 {
     return QString::fromUtf8(QJsonDocument(run.arguments).toJson(QJsonDocument::Compact));
 }
@@ -33,7 +33,7 @@ qint64 BytesOf(const Headers& headers)
     return characters * qint64(sizeof(QChar));
 }
 
-qint64 BytesOf(const CallOutcome& run)
+qint64 BytesOf(const RunSummary& run)
 {
     constexpr qint64 kEachRun = 1024;
     qint64 bytes = kEachRun + ArgumentsText(run).size() + run.request.body.size() + BytesOf(run.request.headers);
@@ -145,19 +145,18 @@ CallOutcome FromLine(const QByteArray& text)
 
 }  // namespace
 
-PastRun::PastRun(CallOutcome outcome) : m_summary(std::move(outcome))
+PastRun::PastRun(const CallOutcome& outcome) : m_summary(outcome)
 {
-    if (!m_summary.record.is_null()) {
-        nlohmann::json::to_cbor(m_summary.record, m_record);
+    if (!outcome.record.is_null()) {
+        nlohmann::json::to_cbor(outcome.record, m_record);
         m_record.shrink_to_fit();
-        m_summary.record = nullptr;
     }
     m_bytes = BytesOf(m_summary) + qint64(m_record.size());
 }
 
 CallOutcome PastRun::Outcome() const
 {
-    CallOutcome outcome = m_summary;
+    CallOutcome outcome{m_summary, nullptr};
     if (!m_record.empty()) {
         outcome.record = nlohmann::json::from_cbor(m_record);
     }
@@ -300,7 +299,7 @@ int History::columnCount(const QModelIndex& parent) const
 
 QVariant History::data(const QModelIndex& index, int role) const
 {
-    const CallOutcome& run = At(index.row())->Summary();
+    const RunSummary& run = At(index.row())->Summary();
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
         return {};
     }

@@ -16,16 +16,15 @@ namespace explorer {
 /// A run that is over, with its record packed: unpacked, a large one takes many times the bytes of its reply.
 class PastRun {
 public:
-    explicit PastRun(CallOutcome outcome);
+    explicit PastRun(const CallOutcome& outcome);
 
-    /// All but the record.
-    [[nodiscard]] const CallOutcome& Summary() const { return m_summary; }
+    [[nodiscard]] const RunSummary& Summary() const { return m_summary; }
     [[nodiscard]] CallOutcome Outcome() const;
     /// What it takes in memory, about.
     [[nodiscard]] qint64 Bytes() const { return m_bytes; }
 
 private:
-    CallOutcome m_summary;
+    RunSummary m_summary;
     std::vector<std::uint8_t> m_record;  // CBOR; empty for none
     qint64 m_bytes;
 };

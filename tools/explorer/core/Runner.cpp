@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 
 #include <chrono>
+#include <utility>
 
 namespace explorer {
 namespace {
@@ -101,13 +102,13 @@ struct Runner::Course {
         return settings;
     }
 
-    CallOutcome Concluded(const catalogue::Outcome& ended)
+    CallOutcome Concluded(catalogue::Outcome ended)
     {
         const QString name = QString::fromStdString(outcome.call->name);
         const QString caption = Runner::tr("%1 failed").arg(name);
         outcome.result = ended.Code();
         outcome.succeeded = bool(ended);
-        outcome.record = ended.Data().isEmpty() ? nlohmann::json() : ended.record;
+        outcome.record = ended.Data().isEmpty() ? nlohmann::json() : std::move(ended.record);
         outcome.resultText =
             outcome.succeeded ? Runner::tr("Success") : CAPIModule::GetErroCodeInfor(caption, outcome.result, true);
         CAPIModule::GetInstance().NotifyOutcome(ended, caption, Runner::tr("%1 succeeded").arg(name));
@@ -131,7 +132,7 @@ private:
     CallOutcome Concluded()
     {
         outcome.elapsedMilliseconds = outcome.times ? outcome.times->finished : Milliseconds(Elapsed());
-        return outcome;
+        return std::move(outcome);
     }
 
     [[nodiscard]] std::chrono::nanoseconds Elapsed() const { return std::chrono::nanoseconds(clock.nsecsElapsed()); }
@@ -213,7 +214,7 @@ void Runner::End(int number, const std::function<CallOutcome(Course&)>& conclude
     --m_pending;
     emit WithoutWaitingChanged();
     const CallOutcome outcome = conclude(*running.pCourse);
-    Check(running.order, *running.pCourse);
+    Check(running.order, outcome, running.pCourse->token);
     emit Finished(outcome);
 }
 
@@ -226,11 +227,11 @@ std::map<int, RunOrder> Runner::WithoutWaiting() const
     return orders;
 }
 
-void Runner::Check(const RunOrder& order, const Course& course)
+void Runner::Check(const RunOrder& order, const RunSummary& run, const QString& token)
 {
     constexpr int kNotAuthenticated = 7000;
-    if (course.outcome.result == kNotAuthenticated) {
-        emit TokenRefused(order.server.id, course.token);
+    if (run.result == kNotAuthenticated) {
+        emit TokenRefused(order.server.id, token);
     }
 }
 
@@ -278,9 +279,9 @@ CallOutcome Runner::Run(const RunOrder& order)
     const auto pCourse = std::make_shared<Course>(order);
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-        const CallOutcome outcome =
+        CallOutcome outcome =
             pCourse->Concluded(catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent));
-        Check(order, *pCourse);
+        Check(order, outcome, pCourse->token);
         return outcome;
     } catch (const catalogue::Mismatch& mismatch) {
         return pCourse->Refused(mismatch);

@@ -81,7 +81,7 @@ private:
     void Begin(const RunOrder& order);
     void End(int number, const std::function<CallOutcome(Course&)>& conclude);
     CallOutcome Run(const RunOrder& order);
-    void Check(const RunOrder& order, const Course& course);
+    void Check(const RunOrder& order, const RunSummary& run, const QString& token);
     void RepeatFrom(const RunOrder& order, int done);
     void Post(std::function<void()> step);
 

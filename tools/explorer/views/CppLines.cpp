@@ -265,7 +265,7 @@ QString TargetOf(const QString& url)
 }
 
 /// The statements that play a run once more.
-QString Checks(const CallOutcome& run, int number)
+QString Checks(const RunSummary& run, int number)
 {
     const auto line = [](const QString& text) { return QLatin1String("    ") + text + QLatin1Char('\n'); };
     const QString call = QStringLiteral("run%1::%2").arg(number).arg(ConstantName(*run.call));
@@ -332,13 +332,13 @@ QString CppLines(const catalogue::Call& call, const json& arguments, int serverI
            Function(call, arguments, serverId);
 }
 
-QString CppTest(const std::vector<const CallOutcome*>& runs)
+QString CppTest(const std::vector<const RunSummary*>& runs)
 {
     QStringList includes;
     QString functions;
     QString checks;
     int number = 0;
-    for (const CallOutcome* run : runs) {
+    for (const RunSummary* run : runs) {
         if (!run->reply || BringsToken(*run->call)) {
             continue;
         }

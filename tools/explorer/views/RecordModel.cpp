@@ -92,12 +92,12 @@ RecordModel::RecordModel(QObject* pParent) : QAbstractItemModel(pParent) {}
 
 RecordModel::~RecordModel() = default;
 
-void RecordModel::SetRecord(const Type& type, json record)
+void RecordModel::SetRecord(const Type& type, const SharedRecord& pRecord)
 {
     beginResetModel();
-    m_record = std::move(record);
+    m_pRecord = pRecord;
     m_pRoot = std::make_unique<Node>(nullptr, 0, QString(), nullptr, nullptr);
-    m_pRoot->Add(tr("Result"), type, m_record);
+    m_pRoot->Add(tr("Result"), type, *m_pRecord);
     endResetModel();
 }
 
@@ -105,7 +105,7 @@ void RecordModel::Clear()
 {
     beginResetModel();
     m_pRoot.reset();
-    m_record = nullptr;
+    m_pRecord.reset();
     endResetModel();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <catalogue/Type.h>
+#include "Json.h"
 
-#include <nlohmann/json.hpp>
+#include <catalogue/Type.h>
 
 #include <QAbstractItemModel>
 
@@ -26,7 +26,7 @@ public:
     ~RecordModel() override;
 
     /// @p record fits the type.
-    void SetRecord(const catalogue::Type& type, nlohmann::json record);
+    void SetRecord(const catalogue::Type& type, const SharedRecord& pRecord);
     void Clear();
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -42,7 +42,7 @@ private:
 
     [[nodiscard]] const Node& NodeOf(const QModelIndex& index) const;
 
-    nlohmann::json m_record;
+    SharedRecord m_pRecord;
     std::unique_ptr<Node> m_pRoot;  // above the record itself
 };
 

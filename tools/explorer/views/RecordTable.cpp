@@ -86,10 +86,11 @@ RecordTable::RecordTable(QWidget* pParent)
     connect(m_pExport, &QPushButton::clicked, this, &RecordTable::Export);
 }
 
-bool RecordTable::SetRecord(const catalogue::Type& type, const nlohmann::json& record)
+bool RecordTable::SetRecord(const catalogue::Type& type, const SharedRecord& pRecord)
 {
-    m_record = record;
-    m_lists = ListsIn(type, m_record);
+    m_model.Clear();  // it looks into the record
+    m_pRecord = pRecord;
+    m_lists = ListsIn(type, *m_pRecord);
     {
         const QSignalBlocker quiet(m_pList);
         m_pList->clear();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Json.h"
 #include "NaturalOrder.h"
 #include "RecordTableModel.h"
 
@@ -23,7 +24,7 @@ public:
     explicit RecordTable(QWidget* pParent = nullptr);
 
     /// False, and then it is empty, when there is no list in the record.
-    bool SetRecord(const catalogue::Type& type, const nlohmann::json& record);
+    bool SetRecord(const catalogue::Type& type, const SharedRecord& pRecord);
 
     /// What the table shows, in its order, with a row of titles above.
     [[nodiscard]] QByteArray ToCsv() const;
@@ -35,7 +36,7 @@ private:
     void Update();
     void Export();
 
-    nlohmann::json m_record;
+    SharedRecord m_pRecord;
     std::vector<ListInRecord> m_lists;
     RecordTableModel m_model;
     NaturalOrder m_shown;

@@ -44,7 +44,7 @@ std::vector<ListInRecord> ListsIn(const Type& type, const json& record)
 void RecordTableModel::SetList(const Type& type, const json& list)
 {
     beginResetModel();
-    m_list = list;
+    m_pList = &list;
     m_columns.clear();
     AddColumns(*type.element, QString(), json::json_pointer());
     endResetModel();
@@ -53,7 +53,7 @@ void RecordTableModel::SetList(const Type& type, const json& list)
 void RecordTableModel::Clear()
 {
     beginResetModel();
-    m_list = json::array();
+    m_pList = nullptr;
     m_columns.clear();
     endResetModel();
 }
@@ -79,7 +79,7 @@ QString RecordTableModel::Exported(int row, int column) const
 
 int RecordTableModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(m_list.size());
+    return parent.isValid() || m_pList == nullptr ? 0 : int(m_pList->size());
 }
 
 int RecordTableModel::columnCount(const QModelIndex& parent) const
@@ -156,7 +156,7 @@ QVariant RecordTableModel::SortValue(int row, int column) const
 
 const json& RecordTableModel::Cell(int row, int column) const
 {
-    return m_list[std::size_t(row)].at(m_columns[std::size_t(column)].place);
+    return m_pList->at(std::size_t(row)).at(m_columns[std::size_t(column)].place);
 }
 
 }  // namespace explorer

@@ -32,6 +32,7 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// @param list must outlive its use here
     void SetList(const catalogue::Type& type, const nlohmann::json& list);
     void Clear();
 
@@ -59,7 +60,7 @@ private:
     [[nodiscard]] QVariant SortValue(int row, int column) const;
     [[nodiscard]] const nlohmann::json& Cell(int row, int column) const;
 
-    nlohmann::json m_list = nlohmann::json::array();
+    const nlohmann::json* m_pList = nullptr;
     std::vector<Column> m_columns;
 };
 

@@ -14,6 +14,9 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <memory>
+#include <utility>
+
 namespace explorer {
 namespace {
 
@@ -27,7 +30,7 @@ QString TextOf(const QString& begin, const Headers& headers, const QByteArray& b
 }
 
 /// Request and reply with the line ends of this machine.
-QString ExchangeText(const CallOutcome& outcome)
+QString ExchangeText(const RunSummary& outcome)
 {
     const SentRequest& sent = outcome.request;
     QString text;
@@ -94,14 +97,14 @@ ResultView::ResultView(QWidget* pParent)
     Clear();
 }
 
-void ResultView::Show(const CallOutcome& outcome)
+void ResultView::Show(CallOutcome outcome)
 {
     if (outcome.call == nullptr || outcome.call->result == nullptr) {
         ShowNoRecord(tr("This call returns no record."));
     } else if (outcome.record.is_null()) {
         ShowNoRecord(tr("No data came for a record."));
     } else {
-        ShowRecord(outcome);
+        ShowRecord(*outcome.call->result, std::make_shared<const nlohmann::json>(std::move(outcome.record)));
     }
     m_pExchange->SetText(ExchangeText(outcome));
 }
@@ -118,19 +121,19 @@ void ResultView::ShowWaiting(const catalogue::Call& call)
     m_pJson->SetText(QString());
     m_pExchange->SetText(QString());
     if (call.result != nullptr) {
-        m_pTable->SetRecord(*call.result, catalogue::Value(*call.result).ToJson());
+        m_pTable->SetRecord(*call.result,
+                            std::make_shared<const nlohmann::json>(catalogue::Value(*call.result).ToJson()));
     }
 }
 
-void ResultView::ShowRecord(const CallOutcome& outcome)
+void ResultView::ShowRecord(const catalogue::Type& type, const SharedRecord& pRecord)
 {
-    const catalogue::Type& type = *outcome.call->result;
-    m_model.SetRecord(type, outcome.record);
-    const QString text = JsonText(outcome.record);
+    m_model.SetRecord(type, pRecord);
+    const QString text = JsonText(*pRecord);
     m_pJson->SetText(text);
     Open(*m_pTree, text.size());
     m_pTreePages->setCurrentIndex(0);
-    const bool hasList = m_pTable->SetRecord(type, outcome.record);
+    const bool hasList = m_pTable->SetRecord(type, pRecord);
     m_pTableHint->setText(tr("There is no list in this record."));
     m_pTablePages->setCurrentIndex(hasList ? 0 : 1);
 }

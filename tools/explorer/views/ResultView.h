@@ -26,13 +26,13 @@ class ResultView : public QWidget {
 public:
     explicit ResultView(QWidget* pParent = nullptr);
 
-    void Show(const CallOutcome& outcome);
+    void Show(CallOutcome outcome);
     void Clear();
     /// Takes away what an earlier run has left while the call runs again.
     void ShowWaiting(const catalogue::Call& call);
 
 private:
-    void ShowRecord(const CallOutcome& outcome);
+    void ShowRecord(const catalogue::Type& type, const SharedRecord& pRecord);
     void ShowNoRecord(const QString& hint);
     QStackedWidget* AddTab(QWidget* pContent, QLabel* pHint, const QString& title);
 

@@ -70,11 +70,11 @@ TimingView::TimingView(QWidget* pParent)
     SetProgress(0, 0);
 }
 
-void TimingView::Show(const std::vector<const CallOutcome*>& runs, const CallOutcome* pShown)
+void TimingView::Show(const std::vector<const RunSummary*>& runs, const RunSummary* pShown)
 {
     std::vector<TimingChart::Call> calls;
     calls.reserve(runs.size());
-    for (const CallOutcome* pRun : runs) {
+    for (const RunSummary* pRun : runs) {
         calls.push_back(
             {pRun->started.toString(QStringLiteral("HH:mm:ss.zzz")), pRun->elapsedMilliseconds, pRun->succeeded});
     }
@@ -164,7 +164,7 @@ void TimingView::ShowFigures()
     m_pPages->setCurrentIndex(isEmpty ? 0 : 1);
 }
 
-void TimingView::ShowParts(const CallOutcome* pShown)
+void TimingView::ShowParts(const RunSummary* pShown)
 {
     if (pShown == nullptr || !pShown->times) {
         m_pParts->clear();

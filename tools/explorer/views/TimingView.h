@@ -14,7 +14,7 @@ class QStackedWidget;
 
 namespace explorer {
 
-struct CallOutcome;
+struct RunSummary;
 class TimingChart;
 
 /// How long the runs of a call took, and what repeats the current call.
@@ -25,7 +25,7 @@ public:
     explicit TimingView(QWidget* pParent = nullptr);
 
     /// The figures of these runs, and the parts of one of them, which may be null.
-    void Show(const std::vector<const CallOutcome*>& runs, const CallOutcome* pShown);
+    void Show(const std::vector<const RunSummary*>& runs, const RunSummary* pShown);
 
     /// Shows how far a repeated run is; it is over when all is done.
     void SetProgress(int done, int total);
@@ -40,7 +40,7 @@ private:
     QLayout* MakeFigures();
     QLayout* MakeRepeat();
     void ShowFigures();
-    void ShowParts(const CallOutcome* pShown);
+    void ShowParts(const RunSummary* pShown);
     void UpdateRepeat();
 
     TimingChart* m_pChart;

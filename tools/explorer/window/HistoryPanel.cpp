@@ -151,7 +151,7 @@ void HistoryPanel::Compare()
 void HistoryPanel::Export()
 {
     const PastRuns runs = Chosen();
-    std::vector<const CallOutcome*> summaries;
+    std::vector<const RunSummary*> summaries;
     summaries.reserve(runs.size());
     for (const PastRunPtr& pRun : runs) {
         summaries.push_back(&pRun->Summary());

@@ -622,9 +622,8 @@ void MainWindow::ShowRun(const PastRunPtr& pRun)
 {
     m_pShown = pRun;
     if (pRun) {
-        const CallOutcome outcome = pRun->Outcome();
-        m_pResultHeader->Show(outcome);
-        m_pResult->Show(outcome);
+        m_pResultHeader->Show(pRun->Summary());
+        m_pResult->Show(pRun->Outcome());
     } else {
         m_pResultHeader->Clear();
         m_pResult->Clear();
@@ -644,7 +643,7 @@ void MainWindow::ShowChosenRuns()
 
 void MainWindow::Load(const PastRunPtr& pRun)
 {
-    const CallOutcome& run = pRun->Summary();
+    const RunSummary& run = pRun->Summary();
     if (run.call != m_pCall) {
         SelectCall(*run.call);
     }
@@ -657,7 +656,7 @@ void MainWindow::ShowTimes()
     constexpr std::size_t kMost = 100;
     const catalogue::Call& call = m_pShown ? *m_pShown->Summary().call : *m_pCall;
     const PastRuns runs = m_timed.size() > 1 ? m_timed : m_session.history.RunsOf(call, kMost);
-    std::vector<const CallOutcome*> summaries;
+    std::vector<const RunSummary*> summaries;
     summaries.reserve(runs.size());
     for (const PastRunPtr& pRun : runs) {
         summaries.push_back(&pRun->Summary());

@@ -14,7 +14,7 @@ namespace explorer {
 namespace {
 
 /// What the server said of the failure, in its own words.
-QString ServersWords(const CallOutcome& outcome)
+QString ServersWords(const RunSummary& outcome)
 {
     if (!outcome.reply || outcome.succeeded) {
         return {};
@@ -105,7 +105,7 @@ void ResultHeader::ShowLight(Tint tint)
     m_pLight->setPixmap(light);
 }
 
-void ResultHeader::Show(const CallOutcome& outcome)
+void ResultHeader::Show(const RunSummary& outcome)
 {
     ShowLight(outcome.succeeded ? theme::Succeeded : theme::Error);
     QStringList details{tr("Result %1").arg(outcome.result)};

@@ -15,7 +15,7 @@ class ResultHeader : public QScrollArea {
 public:
     explicit ResultHeader(QWidget* pParent = nullptr);
 
-    void Show(const CallOutcome& outcome);
+    void Show(const RunSummary& outcome);
     void ShowRunning(const QString& name);
     void Clear();
 
