@@ -9,6 +9,6 @@ endif()
 foreach(library IN ITEMS ErrorLexicon OrnGui ornl UserLogical)
     if(NOT TARGET APIModule::${library})
         message(FATAL_ERROR "APIMODULE_BUNDLED_PLATFORM is off, and there is no target APIModule::${library}: name the package "
-                            "that brings it with -DAPIMODULE_PLATFORM_PACKAGE=<name>, or define it before the project")
+                            "that defines it with -DAPIMODULE_PLATFORM_PACKAGE=<name>, or define it before the project")
     endif()
 endforeach()

@@ -20,6 +20,8 @@ foreach(file IN LISTS FILES)
     execute_process(
         COMMAND "${LUPDATE}" ${SOURCES} -silent -no-obsolete -locations none -source-language en ${forms} -ts "${updated}"
         ERROR_VARIABLE complaints COMMAND_ERROR_IS_FATAL ANY)
+    # lupdate of Debian 13 reports each namespace whose declaration is in a header that it does not read.
+    string(REGEX REPLACE "[^\n]*: Qualifying with unknown namespace/class [^\n]*\n" "" complaints "${complaints}")
     if(complaints)
         message(SEND_ERROR "${complaints}")
     endif()
