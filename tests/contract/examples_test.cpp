@@ -101,7 +101,7 @@ protected:
     static const std::vector<Json>& Examples() { return Document().operation(GetParam()->name).replyExamples; }
 };
 
-TEST_P(Example, IsReadWhole)
+TEST_P(Example, IsReadCompletely)
 {
     const catalogue::Call& call = *GetParam();
     Places filled;

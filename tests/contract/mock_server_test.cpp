@@ -99,7 +99,7 @@ void FillEmptyQueryValues(APIModule::RequestParam& request)
 
 class EveryCall : public Mock, public testing::WithParamInterface<e2e::Row> {};
 
-TEST_P(EveryCall, IsTakenAndItsReplyRead)
+TEST_P(EveryCall, IsAcceptedAndItsReplyRead)
 {
     const e2e::Row& row = GetParam();
     const catalogue::Call& call = *catalogue::FindCall(row.call);
@@ -129,7 +129,7 @@ std::string Refusal(const Answer& answer)
     return answer.status < 400 ? std::string() : std::to_string(answer.status) + " " + answer.body;
 }
 
-TEST_F(Mock, RefusesABodyThatIsNotOfTheDocument)
+TEST_F(Mock, RefusesABodyThatViolatesTheDocument)
 {
     for (const emulator::Operation& operation : Document().operations()) {
         if (operation.path.find('{') != std::string::npos || !operation.query.empty()) {

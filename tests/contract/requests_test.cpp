@@ -63,7 +63,7 @@ protected:
     }
 };
 
-TEST_F(Requests, AreThoseOfTheirOperation)
+TEST_F(Requests, MatchTheirOperation)
 {
     for (const e2e::Row& row : e2e::Rows()) {
         const emulator::RecordedRequest request = RequestOf(row);

@@ -78,13 +78,13 @@ protected:
     QObject m_context;
 };
 
-TEST_F(ClientDialogTest, AnsweredCallsSucceed)
+TEST_F(ClientDialogTest, SucceedsWhenTheReplyArrives)
 {
     EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_F(ClientDialogTest, DialogThatReturnsAtOnceEndsTheWait)
+TEST_F(ClientDialogTest, DialogThatReturnsImmediatelyEndsTheWait)
 {
     g_bReturnsAtOnce = true;
     ExpectTimeOutAtOnce();

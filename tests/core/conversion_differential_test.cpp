@@ -38,7 +38,7 @@ QJsonObject RandomObject(const QStringList& keys, RandomJson& random)
     });
 }
 
-TEST(ConversionDifferential, AMillionRandomValuesOfEveryType)
+TEST(ConversionDifferential, ConvertsAMillionRandomValuesLikeTheReference)
 {
     constexpr int kValues = 1'000'000;
     const QStringList keys = Keys();

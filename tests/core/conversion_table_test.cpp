@@ -2,7 +2,7 @@
 //   conversions.txt                  a row for each value, with fields between tabs: the value and what each overload
 //   reads <program> --write conversions.txt    writes the same rows anew, with the variants of the Qt 5 that it was
 //   built with
-// A value is the text of a JSON value, or after "=" one that no text gives as it is: an integer, or a double as %a
+// A value is the text of a JSON value, or, after "=", one that JSON text cannot express: an integer, or a double as %a
 // shows it.
 #include "families/support/SlowReading.h"
 
@@ -138,7 +138,7 @@ QByteArray ReadSlowly(const QJsonObject& object)
     return Shown(family_testing::Converted<T>(object.value(kKey)));
 }
 
-/// A number that stands alone, in an array and in an object takes another way in each.
+/// A single number, one in an array and one in an object are converted by different code.
 template <template <typename> class Reading>
 QByteArray Row(const QByteArray& value)
 {
@@ -184,7 +184,7 @@ protected:
     const QList<QByteArray> rows = RowsOf(QStringLiteral(CONVERSIONS_FILE));
 };
 
-TEST_F(ConversionTable, EveryOverloadReadsWhatQt5Converts)
+TEST_F(ConversionTable, EveryOverloadConvertsLikeQt5)
 {
     ASSERT_GT(rows.size(), 1000);
     for (const QByteArray& row : rows) {
@@ -192,7 +192,7 @@ TEST_F(ConversionTable, EveryOverloadReadsWhatQt5Converts)
     }
 }
 
-TEST_F(ConversionTable, RulesOfTheTestsAreThoseOfQt5)
+TEST_F(ConversionTable, ReferenceRulesMatchQt5)
 {
     for (const QByteArray& row : rows) {
         EXPECT_EQ(Row<Variants>(row.left(row.indexOf('\t'))).toStdString(), row.toStdString());

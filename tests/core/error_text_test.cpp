@@ -55,7 +55,7 @@ TEST_F(ErrorText, UnknownCodeWithoutUiText)
     EXPECT_EQ(logs.Take(), (LogLines{{kFacadeFile, kFunction, 6, line}, {kFacadeFile, kFunction, 4, line}}));
 }
 
-TEST_F(ErrorText, OwnTextsAreTranslatedInTheContextOfTheClass)
+TEST_F(ErrorText, TextsAreTranslatedInTheContextOfTheClass)
 {
     class Translator : public QTranslator {
     public:

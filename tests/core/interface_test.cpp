@@ -35,7 +35,7 @@ QStringList ExportedNames()
     return QString::fromUtf8(nm.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
-TEST(Interface, OnlyItsOwnNamesAreExported)
+TEST(Interface, OnlyPublicNamesAreExported)
 {
     const QRegularExpression own(
         QStringLiteral("^((typeinfo|typeinfo name|vtable) for )?(non-virtual thunk to )?"

@@ -117,7 +117,7 @@ void ExpectFailure(const QJsonObject& object, const QString& key, const testing_
     expect(QJsonArray{1});
 }
 
-TEST(JsonAccess, EmptyObjectFailsWithItsOwnLineNeverTheKeys)
+TEST(JsonAccess, EmptyObjectLogsThatItIsEmptyNotTheMissingKey)
 {
     ExpectFailure(QJsonObject(), QStringLiteral("k"),
                   {kFile, "APIModule::CCommonFunc::IsEmpty", 6, "Invalid parameter, jsonObject is empty."});
@@ -130,21 +130,21 @@ TEST(JsonAccess, MissingKeyFails)
         {kFile, "APIModule::CCommonFunc::IsKeyValid", 6, "Invalid key: [k], jsonObject does not contain the key."});
 }
 
-TEST(JsonAccess, KeyIsNoFormat)
+TEST(JsonAccess, KeyIsNotUsedAsAFormatString)
 {
     ExpectFailure(Json(R"({"other": 1})"), QStringLiteral("%s%n%1"),
                   {kFile, "APIModule::CCommonFunc::IsKeyValid", 6,
                    "Invalid key: [%s%n%1], jsonObject does not contain the key."});
 }
 
-TEST(JsonAccess, TextWithZeroByteComesWhole)
+TEST(JsonAccess, TextWithZeroByteIsReadCompletely)
 {
     std::string text;
     EXPECT_EQ(CCommonFunc::GetJsonValue(Json(R"({"k": "a\u0000b"})"), QStringLiteral("k"), text), 0);
     EXPECT_EQ(text, std::string("a\0b", 3));
 }
 
-TEST(JsonAccess, IntegersBeyond53BitsLoseDigitsInsideOfContainersAlone)
+TEST(JsonAccess, IntegersBeyond53BitsLoseDigitsOnlyInsideContainers)
 {
     const QJsonObject object =
         Json(R"({"k": 9007199254740993, "inner": {"k": 9007199254740993, "s": 9007199254740991}})");
@@ -179,7 +179,7 @@ TEST(JsonAccess, IsKeyValid)
                                       "Invalid key: [k], jsonObject does not contain the key."}}));
 }
 
-TEST(TransformToEscaped, PutsABackslashBeforeEachQuoteAlone)
+TEST(TransformToEscaped, EscapesOnlyQuotes)
 {
     EXPECT_EQ(CCommonFunc::TransformToEscaped("say \"yes\""), "say \\\"yes\\\"");
     EXPECT_EQ(CCommonFunc::TransformToEscaped("C:\\path"), "C:\\path");

@@ -1,4 +1,4 @@
-// The library and the life of the application object. Each test is a process of its own.
+// The library and the lifetime of the application object. Each test runs in a separate process.
 #include "support/Host.h"
 #include "support/TestApplication.h"
 #include "support/Waiting.h"
@@ -71,7 +71,7 @@ TEST_F(Lifecycle, WithoutApplicationObject)
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_F(Lifecycle, ApplicationMadeAfterTheInstance)
+TEST_F(Lifecycle, WorksWhenTheApplicationIsCreatedAfterTheInstance)
 {
     const QCoreApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -79,7 +79,7 @@ TEST_F(Lifecycle, ApplicationMadeAfterTheInstance)
     EXPECT_EQ(CAPIModule::GetInstance().thread(), QThread::currentThread());
 }
 
-TEST_F(Lifecycle, ApplicationsOneAfterTheOther)
+TEST_F(Lifecycle, WorksUnderConsecutiveApplications)
 {
     for (int i = 0; i < 3; ++i) {
         {
@@ -99,7 +99,7 @@ TEST_F(Lifecycle, ApplicationsOneAfterTheOther)
     }
 }
 
-TEST_F(Lifecycle, AnotherThreadIsRefused)
+TEST_F(Lifecycle, CallOnAnotherThreadIsRefused)
 {
     const QCoreApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -119,7 +119,7 @@ TEST_F(Lifecycle, AnotherThreadIsRefused)
 }
 
 // Without the fixture, which would make the instance first.
-TEST(Instance, IsOneForManyThreads)
+TEST(Instance, IsTheSameForManyThreads)
 {
     const QCoreApplication application(g_argc, g_argv);
     std::atomic<int> waiting{8};
@@ -151,7 +151,7 @@ TEST(Instance, IsOneForManyThreads)
     CAPIModule::GetInstance().UnInit();
 }
 
-TEST(Instance, BelongsToAnApplicationMadeLater)
+TEST(Instance, MovesToTheThreadOfALaterApplication)
 {
     CAPIModule& facade = CAPIModule::GetInstance();
     const QCoreApplication application(g_argc, g_argv);
@@ -159,7 +159,7 @@ TEST(Instance, BelongsToAnApplicationMadeLater)
     EXPECT_EQ(facade.thread(), QThread::currentThread());
 }
 
-TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
+TEST(Instance, CanBeCreatedOnAThreadThatEndedBeforeTheApplication)
 {
     std::thread([] { CAPIModule::GetInstance().SetLanguage("de"); }).join();
     const QCoreApplication application(g_argc, g_argv);
@@ -174,7 +174,7 @@ TEST(Instance, MadeOnAThreadThatEndedBeforeTheApplication)
     CAPIModule::GetInstance().UnInit();
 }
 
-/// The end of the application, for each of the ways of waiting.
+/// The end of the application, in both ways of waiting.
 class EndTest : public Lifecycle, public testing::WithParamInterface<Waiting> {
 protected:
     int Run(const QString& url, int nTimeout = 20)
@@ -224,7 +224,7 @@ TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilAboutToQuit)
     EXPECT_EQ(Run(QStringLiteral("/ok")), 0) << "after exec";
 }
 
-TEST_P(EndTest, CallsWorkInEverySlotOfAboutToQuitAndAfterExec)
+TEST_P(EndTest, CallsWorkInEveryAboutToQuitSlotAndAfterExec)
 {
     TestApplication application(g_argc, g_argv);
     std::vector<int> results;
@@ -243,7 +243,7 @@ TEST_P(EndTest, CallsWorkInEverySlotOfAboutToQuitAndAfterExec)
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_P(EndTest, CallsWorkInEachExecOfAHostThatStartsAgain)
+TEST_P(EndTest, CallsWorkInEveryExecOfARestartingHost)
 {
     TestApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -262,7 +262,7 @@ TEST_P(EndTest, CallsWorkInEachExecOfAHostThatStartsAgain)
     EXPECT_EQ(results, std::vector<int>(9, 0));
 }
 
-TEST_P(EndTest, CallsWorkUnderAnApplicationAfterOneThatQuit)
+TEST_P(EndTest, CallsWorkUnderALaterApplication)
 {
     for (int i = 0; i < 2; ++i) {
         TestApplication application(g_argc, g_argv);
@@ -273,7 +273,7 @@ TEST_P(EndTest, CallsWorkUnderAnApplicationAfterOneThatQuit)
     }
 }
 
-TEST_P(EndTest, TimeOutHoldsInASlotOfAboutToQuit)
+TEST_P(EndTest, TimeOutAppliesInAnAboutToQuitSlot)
 {
     TestApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -292,7 +292,7 @@ TEST_P(EndTest, TimeOutHoldsInASlotOfAboutToQuit)
     EXPECT_EQ(notifications.Take(), TimeOutNotice());
 }
 
-TEST_P(EndTest, QuitAgainEndsACallInASlotOfAboutToQuit)
+TEST_P(EndTest, SecondQuitEndsACallInAnAboutToQuitSlot)
 {
     TestApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -378,7 +378,7 @@ TEST_P(EndTest, ApplicationDestroyedAfterCalls)
 }
 
 /// A host's own clean-up, which runs after the library's, makes a last call.
-TEST_F(Lifecycle, CallWhileTheApplicationIsDestroyed)
+TEST_F(Lifecycle, CallDuringDestructionOfTheApplicationIsRefused)
 {
     static int s_nResult = 99;
     qAddPostRoutine([] { s_nResult = Execute(Call(QStringLiteral("/ok"))); });
@@ -418,7 +418,7 @@ TEST_F(Lifecycle, QuitDeliversStartedCallsAsApplicationEnding)
     EXPECT_EQ(ends, std::vector<APIModule::CallEnd>(7, APIModule::CallEnd::ApplicationEnding));
 }
 
-TEST_F(Lifecycle, CallsStartedAtTheEndAreDeliveredBeforeTheApplicationObjectIsGone)
+TEST_F(Lifecycle, StartedCallsAreDeliveredBeforeTheApplicationIsDestroyed)
 {
     std::vector<APIModule::CallEnd> ends;
     {
@@ -447,7 +447,7 @@ struct Retrying {
     }
 };
 
-TEST_F(Lifecycle, CallsStartedAgainWhileTheApplicationObjectGoesAreDropped)
+TEST_F(Lifecycle, CallsStartedDuringDestructionOfTheApplicationAreDropped)
 {
     int nEnded = 0;
     {
@@ -463,7 +463,7 @@ TEST_F(Lifecycle, CallsStartedAgainWhileTheApplicationObjectGoesAreDropped)
     EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
 }
 
-TEST_F(Lifecycle, StartedCallsGoOnInASecondExec)
+TEST_F(Lifecycle, StartedCallsContinueInASecondExec)
 {
     QCoreApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -499,7 +499,7 @@ TEST_P(EndTest, QuitDuringRunEndsItAsApplicationEnding)
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(300));
 }
 
-TEST_F(Lifecycle, ADialogThatIsStoppedEndsRunAsCancelled)
+TEST_F(Lifecycle, StoppedDialogEndsRunAsCancelled)
 {
     const TestApplication application(g_argc, g_argv);
     const Server server(*this);

@@ -1,4 +1,4 @@
-// What GetRequestParam fills in, and what of it goes over the wire.
+// The fields that GetRequestParam fills, and which of them are sent.
 #include "support/Host.h"
 #include "support/Rows.h"
 
@@ -28,7 +28,7 @@ protected:
     }
 };
 
-TEST_F(Request, DefaultsOfADescription)
+TEST_F(Request, DescriptionHasDefaults)
 {
     const RequestParam param;
     EXPECT_EQ(param.nPort, 443);
@@ -40,7 +40,7 @@ TEST_F(Request, DefaultsOfADescription)
     EXPECT_TRUE(param.bExcludeUserInput);
 }
 
-TEST_F(Request, FillsADescription)
+TEST_F(Request, DescriptionIsFilled)
 {
     users.servers[1] = {"first.example", 8443, "token-1"};
     users.servers[7] = {"seventh.example", 80, ""};
@@ -94,7 +94,7 @@ TEST_F(Request, RefusesNullAndEmptyUrlBeforeAMissingUserManager)
     EXPECT_EQ(param.nTimeout, 10) << "untouched";
 }
 
-TEST_F(Request, UnknownServerFailsWithoutALineAndLeavesTheRecord)
+TEST_F(Request, UnknownServerFailsWithoutLoggingAndLeavesTheRecord)
 {
     RequestParam param;
     EXPECT_EQ(Fill(&param, 5), -1);
@@ -105,7 +105,7 @@ TEST_F(Request, UnknownServerFailsWithoutALineAndLeavesTheRecord)
     EXPECT_EQ(logs.Take(), LogLines());
 }
 
-TEST_F(Request, UserManagerThatEndsUse)
+TEST_F(Request, UserManagerMayCallUnInit)
 {
     class Leaver : public UserLogical::IUserManager {
     public:
@@ -125,7 +125,7 @@ TEST_F(Request, UserManagerThatEndsUse)
                                      {kFacadeFile, kGetRequestParam, 6, "GetRequestParam failed! no user manager."}}));
 }
 
-TEST_F(Request, ThrowingUserManagerIsARefusal)
+TEST_F(Request, ThrowingUserManagerFailsThePack)
 {
     class Thrower : public UserLogical::IUserManager {
     public:
@@ -145,7 +145,7 @@ TEST_F(Request, ThrowingUserManagerIsARefusal)
     EXPECT_EQ(param.strUrl, "") << "untouched";
 }
 
-TEST_F(Request, InitOnceUntilUnInit)
+TEST_F(Request, SecondInitIsIgnoredUntilUnInit)
 {
     CAPIModule& facade = CAPIModule::GetInstance();
     facade.UnInit();
@@ -307,7 +307,7 @@ const InvalidUrl kInvalidUrls[] = {
 
 INSTANTIATE_TEST_SUITE_P(Urls, InvalidUrlTest, testing::ValuesIn(kInvalidUrls), RowName());
 
-TEST_F(Request, Ipv6HostInBrackets)
+TEST_F(Request, Ipv6HostIsAcceptedInBrackets)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
     Use(server);

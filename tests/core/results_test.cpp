@@ -27,7 +27,7 @@ QString Notice(int code)
 
 class Results : public Host {
 protected:
-    /// The line that comes before anything is sent.
+    /// The log line before anything is sent.
     LogLine SendingLine(const QString& scheme = QStringLiteral("http")) const
     {
         return {kFacadeFile, kExecuteFuncs, 4, "ExecuteRequest url=" + Url(scheme)};
@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
                          });
 
 /// Qt's text of an error may hold the URL, which depends on when it sees the end of the connection.
-TEST_F(Results, LineOfANetworkErrorShowsNoUrl)
+TEST_F(Results, NetworkErrorLineHasNoUrl)
 {
     RawServer server([](const RawRequest&) {
         return RawAnswer{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawAnswer::Close};
@@ -155,7 +155,7 @@ TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)
     }
 }
 
-TEST_F(Results, WithoutParseDataGivesNoTip)
+TEST_F(Results, WithoutAParseDataShowsNoTip)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})"); });
     Use(server);
@@ -175,7 +175,7 @@ TEST_F(Results, EmptyTipIsNotShown)
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_F(Results, EmptyPack)
+TEST_F(Results, EmptyPackFails)
 {
     EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs({}, {}, QStringLiteral("No settings"), nullptr, {}, true, true),
               -1);
@@ -222,7 +222,7 @@ TEST_F(Results, ThrowingPackIsNotNotified)
     }
 }
 
-TEST_F(Results, ThrowingParseIsAFailedParse)
+TEST_F(Results, ThrowingParseFails)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})"); });
     Use(server);
@@ -243,8 +243,8 @@ TEST_F(Results, ThrowingParseIsAFailedParse)
     }
 }
 
-/// A way through a call, with what the Pack and the Parse do on it.
-struct Way {
+/// A path through a call, with what its Pack and Parse do.
+struct CallPath {
     const char* name;
     const char* url;
     int timeout;
@@ -253,12 +253,12 @@ struct Way {
     int result;
 };
 
-/// The callables are released when the call returns, whichever way it goes.
-class ReleaseTest : public Results, public testing::WithParamInterface<Way> {};
+/// The callables are released when the call returns, on every path.
+class ReleaseTest : public Results, public testing::WithParamInterface<CallPath> {};
 
-TEST_P(ReleaseTest, WhenTheCallReturns)
+TEST_P(ReleaseTest, HappensWhenTheCallReturns)
 {
-    const Way& way = GetParam();
+    const CallPath& path = GetParam();
     RawServer server([](const RawRequest& request) {
         if (request.target == "/silent") {
             return RawAnswer{};
@@ -267,16 +267,16 @@ TEST_P(ReleaseTest, WhenTheCallReturns)
     });
     Use(server);
     const auto token = std::make_shared<int>();
-    boost::function<int(void*)> pack = [token, way](void* pReqParamData) {
-        const int nResult = way.pack();
-        return nResult
-                   ? nResult
-                   : CAPIModule::GetInstance().GetRequestParam(pReqParamData, APIModule::Method_Get,
-                                                               QLatin1String(way.url), -1, {}, {}, way.timeout, false);
+    boost::function<int(void*)> pack = [token, path](void* pReqParamData) {
+        const int nResult = path.pack();
+        return nResult ? nResult
+                       : CAPIModule::GetInstance().GetRequestParam(pReqParamData, APIModule::Method_Get,
+                                                                   QLatin1String(path.url), -1, {}, {}, path.timeout,
+                                                                   false);
     };
-    boost::function<int(QJsonObject const&)> parse = [token, way](const QJsonObject&) { return way.parse(); };
+    boost::function<int(QJsonObject const&)> parse = [token, path](const QJsonObject&) { return path.parse(); };
     EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs(std::move(pack), std::move(parse), {}, nullptr, {}, false, false),
-              way.result);
+              path.result);
     EXPECT_EQ(token.use_count(), 1);
 }
 
@@ -295,7 +295,7 @@ int Throw()
     throw std::runtime_error("broken");
 }
 
-const Way kWays[] = {
+const CallPath kCallPaths[] = {
     {"success", "/path", 5, Succeed, Succeed, 0},      {"failing_pack", "/path", 5, Fail, Succeed, -1},
     {"throwing_pack", "/path", 5, Throw, Succeed, -1}, {"empty_url", "", 5, Succeed, Succeed, -1},
     {"failing_parse", "/path", 5, Succeed, Fail, 3},   {"throwing_parse", "/path", 5, Succeed, Throw, -1},
@@ -303,7 +303,7 @@ const Way kWays[] = {
     {"time_out", "/silent", 0, Succeed, Succeed, -1},
 };
 
-INSTANTIATE_TEST_SUITE_P(Ways, ReleaseTest, testing::ValuesIn(kWays), RowName());
+INSTANTIATE_TEST_SUITE_P(CallPaths, ReleaseTest, testing::ValuesIn(kCallPaths), RowName());
 
 TEST_F(Results, ParseIsReleasedWithoutAPack)
 {
@@ -313,7 +313,7 @@ TEST_F(Results, ParseIsReleasedWithoutAPack)
     EXPECT_EQ(token.use_count(), 1);
 }
 
-TEST_F(Results, TextsOfServerAndCallerAreNoFormats)
+TEST_F(Results, TextsOfServerAndCallerAreNotUsedAsFormats)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":2001,"desc":"%s%n %1"})"); });
     Use(server);
@@ -328,7 +328,7 @@ TEST_F(Results, TextsOfServerAndCallerAreNoFormats)
     EXPECT_EQ(lines.at(2).message, "Error code is not exist, strUIError=%s%n %1, errorCode=2001");
 }
 
-TEST_F(Results, ReplyOf20MegabytesComesWhole)
+TEST_F(Results, ReplyOf20MegabytesIsReadCompletely)
 {
     const QByteArray text(20 * 1024 * 1024, 'x');
     RawServer server(
@@ -340,7 +340,7 @@ TEST_F(Results, ReplyOf20MegabytesComesWhole)
     EXPECT_EQ(m_parsed.at(0).toObject().value(QStringLiteral("text")).toString().size(), text.size());
 }
 
-TEST_F(Results, NothingIsNotifiedAfterUnInitDuringTheCall)
+TEST_F(Results, UnInitDuringACallSuppressesNotifications)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":2001})"); });
     Use(server);

@@ -107,13 +107,13 @@ protected:
     }
 };
 
-TEST_F(Trust, EveryServerIsKnownUnlessTheHostSaysOtherwise)
+TEST_F(Trust, EveryServerIsTrustedByDefault)
 {
     TlsServer server({"other.example", -20, -10});
     ExpectKnown(server, {});
 }
 
-TEST_F(Trust, PinOfCertificateOrPublicKeyMakesAServerKnown)
+TEST_F(Trust, PinOfCertificateOrPublicKeyMakesAServerTrusted)
 {
     TlsServer server({"other.example", -20, -10});
     const QString host = QString::fromLatin1(kAddress);
@@ -123,7 +123,7 @@ TEST_F(Trust, PinOfCertificateOrPublicKeyMakesAServerKnown)
     ExpectKnown(server, Pinned(server.CertificateDigest(), host, server.server.Port()));
 }
 
-TEST_F(Trust, OtherPinRefusesAServer)
+TEST_F(Trust, WrongPinRefusesAServer)
 {
     TlsServer server;
     const QByteArray other = DigestOf("other");
@@ -135,7 +135,7 @@ TEST_F(Trust, OtherPinRefusesAServer)
     ExpectUnknown(server, both, "another certificate is pinned");
 }
 
-TEST_F(Trust, PinOfAnotherServerDoesNotConcernThisOne)
+TEST_F(Trust, PinOfAnotherServerIsIgnored)
 {
     TlsServer server;
     const QString reason = QSslError(QSslError::SelfSignedCertificate).errorString();
@@ -144,7 +144,7 @@ TEST_F(Trust, PinOfAnotherServerDoesNotConcernThisOne)
                   reason.toStdString());
 }
 
-TEST_F(Trust, AuthorityOfTheHostMakesAServerKnown)
+TEST_F(Trust, HostAuthorityMakesAServerTrusted)
 {
     TlsServer server;
     ExpectKnown(server, SignedBy(server.certificate.certificate));
@@ -163,7 +163,7 @@ TEST_F(Trust, VerificationRefusesNameAndAuthority)
     ExpectUnknown(server, system, selfSigned);
 }
 
-TEST_F(Trust, VerificationReportsEverythingThatItObjectsTo)
+TEST_F(Trust, VerificationReportsEveryError)
 {
     TlsServer server({"other.example", -20, -10});
     ServerTrust trust;
@@ -176,7 +176,7 @@ TEST_F(Trust, VerificationReportsEverythingThatItObjectsTo)
     }
 }
 
-TEST_F(Trust, HostDecidesAboutAServerThatIsNotKnownOtherwise)
+TEST_F(Trust, HostDecidesAboutAServerThatIsNotTrustedOtherwise)
 {
     TlsServer server;
     PresentedServer seen;
@@ -218,7 +218,7 @@ TEST_F(Trust, DecisionThatThrowsRefuses)
                   "the host refused it");
 }
 
-TEST_F(Trust, DecisionMayRunAnEventLoopCallAndChangeTheTrust)
+TEST_F(Trust, DecisionMayRunAnEventLoopMakeCallsAndChangeTheTrust)
 {
     TlsServer server;
     RawServer plain([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
@@ -253,7 +253,7 @@ TEST_F(Trust, ParentDeletedDuringTheDecisionEndsTheCall)
     EXPECT_EQ(logs.Take().back().message.rfind("Request time out", 0), 0U);
 }
 
-TEST_F(Trust, ChangeOfTrustEndsTheConnectionsMadeBefore)
+TEST_F(Trust, ChangeOfTrustClosesEarlierConnections)
 {
     TlsServer server;
     ExpectKnown(server, {});
@@ -262,7 +262,7 @@ TEST_F(Trust, ChangeOfTrustEndsTheConnectionsMadeBefore)
     EXPECT_EQ(server.server.ConnectionCount(), 3);
 }
 
-TEST_F(Trust, ConnectionMadeAgainIsLookedAtAgain)
+TEST_F(Trust, ReconnectionIsVerifiedAgain)
 {
     TlsServer server;
     int nAsked = 0;
@@ -280,7 +280,7 @@ TEST_F(Trust, ConnectionMadeAgainIsLookedAtAgain)
     EXPECT_TRUE(server.server.TakeRequests().empty());
 }
 
-TEST_F(Trust, HttpIsNotConcerned)
+TEST_F(Trust, HttpIsNotAffected)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
     CAPIModule::GetInstance().SetServerTrust(Pinned(DigestOf("other")));

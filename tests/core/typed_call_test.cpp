@@ -37,8 +37,8 @@ struct Number {
     QThread* thread = nullptr;  ///< that read it
 };
 
-std::atomic<int> g_parseMilliseconds{0};  ///< that a Parse takes
-std::atomic<int> g_parsing{0};            ///< Parses under way
+std::atomic<int> g_parseMilliseconds{0};  ///< duration of a Parse
+std::atomic<int> g_parsing{0};            ///< Parses in progress
 
 int PackPath(void* pReqParamData, const std::string& path, int nServerId)
 {
@@ -76,16 +76,16 @@ constexpr Call<&PackAppended> Append;
 
 constexpr const char* kWhole = R"({"code":1000,"desc":"fine","data":{"a":1,"b":"x","totalCount":7}})";
 
-/// The ways in which a request can be run to its end.
-enum class Way {
+/// How the test waits for the end of a request.
+enum class WaitMode {
     Loop,
     Dialog,
     Started
 };
 
-std::string NameOf(Way way)
+std::string NameOf(WaitMode mode)
 {
-    return way == Way::Loop ? "loop" : way == Way::Dialog ? "dialog" : "started";
+    return mode == WaitMode::Loop ? "loop" : mode == WaitMode::Dialog ? "dialog" : "started";
 }
 
 class TypedCall : public Host {
@@ -108,11 +108,11 @@ protected:
     }
 
     template <typename Request>
-    auto Ended(Way way, const Request& request)
+    auto Ended(WaitMode mode, const Request& request)
     {
         using Result = decltype(APIModule::Run(request));
-        if (way != Way::Started) {
-            return APIModule::Run(request, way == Way::Dialog ? &m_parent : nullptr);
+        if (mode != WaitMode::Started) {
+            return APIModule::Run(request, mode == WaitMode::Dialog ? &m_parent : nullptr);
         }
         Result result;
         bool bCalled = false;
@@ -174,16 +174,17 @@ const std::vector<EndRow> kEnds = {
     {"silent", {}, CallEnd::TimedOut, -101},
 };
 
-class EndTest : public TypedCall, public testing::WithParamInterface<std::tuple<EndRow, Way, RawServer::Scheme>> {};
+class EndTest : public TypedCall,
+                public testing::WithParamInterface<std::tuple<EndRow, WaitMode, RawServer::Scheme>> {};
 
-TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
+TEST_P(EndTest, ReportsTheReasonAndNotifiesLikeExecuteFuncs)
 {
-    const auto& [row, way, scheme] = GetParam();
+    const auto& [row, mode, scheme] = GetParam();
     Serve([answer = row.answer](const RawRequest&) { return answer; }, scheme);
     const auto request =
         GetNumber("/path").Within(std::chrono::milliseconds(row.end == CallEnd::TimedOut ? 300 : 20000));
     logs.Take();
-    const Outcome<Number> outcome = Ended(way, request);
+    const Outcome<Number> outcome = Ended(mode, request);
     const LogLines lines = logs.Take();
     EXPECT_EQ(bool(outcome), row.end == CallEnd::Success);
     EXPECT_EQ(outcome.End(), row.end);
@@ -203,7 +204,7 @@ TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
     const QStringList ofOutcome = notifications.Take();
     logs.Take();
     HostCall call;
-    call.parent = way == Way::Dialog ? &m_parent : nullptr;
+    call.parent = mode == WaitMode::Dialog ? &m_parent : nullptr;
     call.timeout = row.end == CallEnd::TimedOut ? 1 : 20;
     call.uiError = QStringLiteral("No settings");
     call.successTip = QStringLiteral("Done");
@@ -216,7 +217,7 @@ TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
         std::remove_if(ofExecuteFuncs.begin(), ofExecuteFuncs.end(),
                        [](const LogLine& line) { return line.function == "APIModule::CAPIModule::GetErroCodeInfor"; }),
         ofExecuteFuncs.end());
-    if (way == Way::Started) {
+    if (mode == WaitMode::Started) {
         for (LogLine& line : ofExecuteFuncs) {
             if (line.function == "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg") {
                 line.function = "APIModule::Start";
@@ -228,19 +229,19 @@ TEST_P(EndTest, SaysWhyAndNotifiesAsExecuteFuncsDoes)
 
 INSTANTIATE_TEST_SUITE_P(Ends, EndTest,
                          testing::Combine(testing::ValuesIn(kEnds),
-                                          testing::Values(Way::Loop, Way::Dialog, Way::Started),
+                                          testing::Values(WaitMode::Loop, WaitMode::Dialog, WaitMode::Started),
                                           testing::Values(RawServer::Http, RawServer::Https)),
                          [](const auto& row) {
                              return std::get<0>(row.param).name + '_' + NameOf(std::get<1>(row.param)) +
                                     (std::get<2>(row.param) == RawServer::Http ? "_http" : "_https");
                          });
 
-class WayTest : public TypedCall, public testing::WithParamInterface<Way> {};
+class WaitModeTest : public TypedCall, public testing::WithParamInterface<WaitMode> {};
 
-INSTANTIATE_TEST_SUITE_P(Ways, WayTest, testing::Values(Way::Loop, Way::Dialog, Way::Started),
+INSTANTIATE_TEST_SUITE_P(WaitModes, WaitModeTest, testing::Values(WaitMode::Loop, WaitMode::Dialog, WaitMode::Started),
                          [](const auto& row) { return NameOf(row.param); });
 
-TEST_P(WayTest, EndsAsNotPackedWhenThePackRefuses)
+TEST_P(WaitModeTest, EndsAsNotPackedWhenThePackFails)
 {
     users.servers.clear();
     const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
@@ -250,7 +251,7 @@ TEST_P(WayTest, EndsAsNotPackedWhenThePackRefuses)
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_P(WayTest, EndsAsInvalidRequestWhenItCannotBeSent)
+TEST_P(WaitModeTest, EndsAsInvalidRequestWhenItCannotBeSent)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     users.servers[1].host = "user@127.0.0.1";
@@ -259,7 +260,7 @@ TEST_P(WayTest, EndsAsInvalidRequestWhenItCannotBeSent)
     EXPECT_EQ(outcome.Code(), -4);
 }
 
-TEST_P(WayTest, EndsAsReplyTooLarge)
+TEST_P(WaitModeTest, EndsAsReplyTooLarge)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, QByteArray(5000, ' ')); });
     CAPIModule::GetInstance().SetMaximumReplySize(4000);
@@ -268,7 +269,7 @@ TEST_P(WayTest, EndsAsReplyTooLarge)
     EXPECT_EQ(outcome.Code(), -18);
 }
 
-TEST_P(WayTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
+TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); }, RawServer::Https);
     ServerTrust trust;
@@ -280,7 +281,7 @@ TEST_P(WayTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
     EXPECT_EQ(m_pServer->TakeRequests().size(), 0U);
 }
 
-TEST_P(WayTest, RunsARequestThatIsKeptAgainAndOnOtherServers)
+TEST_P(WaitModeTest, RunsAStoredRequestAgainAndOnOtherServers)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     RawServer other([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":2,"b":""}})"); });
@@ -296,7 +297,7 @@ TEST_P(WayTest, RunsARequestThatIsKeptAgainAndOnOtherServers)
     EXPECT_EQ(other.TakeRequests().size(), 2U);
 }
 
-TEST_P(WayTest, GivesNoRecordForACallWithoutOne)
+TEST_P(WaitModeTest, HasNoRecordForACallWithoutOne)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     const Outcome<NoRecord> outcome = Ended(GetParam(), Touch("/path"));
@@ -304,7 +305,7 @@ TEST_P(WayTest, GivesNoRecordForACallWithoutOne)
     EXPECT_EQ(outcome.Data().value(QStringLiteral("a")).toInt(), 1);
 }
 
-TEST_P(WayTest, TakesTheDefaultTimeOutInMilliseconds)
+TEST_P(WaitModeTest, UsesTheDefaultTimeOutInMilliseconds)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     CAPIModule::GetInstance().SetCallTimeout(std::chrono::milliseconds(50));
@@ -320,7 +321,7 @@ QByteArray LargeReply(int nCode = 1000)
            R"("}})";
 }
 
-TEST_P(WayTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopGoesOn)
+TEST_P(WaitModeTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopRuns)
 {
     Serve([](const RawRequest& request) {
         return HttpAnswer(200, request.target == "/large" ? LargeReply() : QByteArray(kWhole));
@@ -341,7 +342,7 @@ TEST_P(WayTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopGoesOn)
     ASSERT_EQ(logs.Take().size(), 2U);
 }
 
-TEST_P(WayTest, WritesTheLogLinesOfALargeReplyFromItsOwnThread)
+TEST_P(WaitModeTest, LogsTheReadingOfALargeReply)
 {
     Serve([](const RawRequest&) {
         return HttpAnswer(200, R"({"code":1000,"data":{"a":1,"c":")" + QByteArray(300 * 1024, 'x') + R"("}})");
@@ -358,7 +359,7 @@ TEST_P(WayTest, WritesTheLogLinesOfALargeReplyFromItsOwnThread)
     EXPECT_EQ(lines[2].message, "Invalid key: [b], jsonObject does not contain the key.");
 }
 
-TEST_P(WayTest, ShowsTheExchangeToTheObservers)
+TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole, "X-More: one\r\n"); });
     std::vector<ObservedExchange> seen;
@@ -393,7 +394,7 @@ TEST_P(WayTest, ShowsTheExchangeToTheObservers)
     EXPECT_EQ(exchange.requestHeaders, sent);
 }
 
-TEST_P(WayTest, ShowsAnExchangeThatTimedOut)
+TEST_P(WaitModeTest, ObserverReceivesAnExchangeThatTimedOut)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     std::vector<ObservedExchange> seen;
@@ -420,7 +421,7 @@ TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
     EXPECT_EQ(seen[0].requestBody, "{\"x\":1}");
 }
 
-TEST_F(TypedCall, AnObserverThatDeletesTheParentEndsTheCallWithoutSuccess)
+TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     for (const int nDelay : {0, 10000}) {
@@ -437,20 +438,20 @@ TEST_F(TypedCall, AnObserverThatDeletesTheParentEndsTheCallWithoutSuccess)
     }
 }
 
-TEST_F(TypedCall, AnObserverThatThrowsEndsNothing)
+TEST_F(TypedCall, ThrowingObserverIsHarmless)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     CAPIModule::GetInstance().SetExchangeObserver([](const ObservedExchange&) { throw std::runtime_error("no"); });
     EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
 }
 
-TEST_F(TypedCall, TextNamesTheNumberOfAnUnknownCode)
+TEST_F(TypedCall, TextContainsTheNumberOfAnUnknownCode)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":987654321})"); });
     EXPECT_EQ(APIModule::Run(GetNumber("/path")).Text(), QStringLiteral("Operation failed (987654321)"));
 }
 
-TEST_F(TypedCall, AnOutcomeOfAFlagConvertsToSuccess)
+TEST_F(TypedCall, OutcomeOfABoolConvertsToSuccessNotToItsValue)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"flag":false}})"); });
     const Outcome<bool> outcome = APIModule::Run(GetFlag("/path"));
@@ -458,7 +459,7 @@ TEST_F(TypedCall, AnOutcomeOfAFlagConvertsToSuccess)
     EXPECT_FALSE(*outcome);
 }
 
-TEST_F(TypedCall, APackThatChangesItsArgumentGetsAFreshCopyEachRun)
+TEST_F(TypedCall, PackReceivesAFreshCopyOfItsArgumentsInEveryRun)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     const auto request = Append("/path");
@@ -470,7 +471,7 @@ TEST_F(TypedCall, APackThatChangesItsArgumentGetsAFreshCopyEachRun)
     EXPECT_EQ(requests[1].target, "/path/more");
 }
 
-TEST_F(TypedCall, ADefaultOutcomeIsNotPacked)
+TEST_F(TypedCall, DefaultOutcomeIsNotPacked)
 {
     const Outcome<Number> none;
     EXPECT_FALSE(none);
@@ -487,7 +488,7 @@ bool HasWaitDialog()
     });
 }
 
-TEST_F(TypedCall, WaitDialogAppearsAfterItsDelayAlone)
+TEST_F(TypedCall, WaitDialogAppearsOnlyAfterItsDelay)
 {
     Serve([](const RawRequest& request) {
         RawAnswer answer = HttpAnswer(200, kWhole);
@@ -541,7 +542,7 @@ TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
     EXPECT_EQ(window.nKeys, 1);
 }
 
-TEST_F(TypedCall, AContextThatGoesEndsAStartedCall)
+TEST_F(TypedCall, DestroyedContextEndsAStartedCall)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     auto pContext = std::make_unique<QObject>();
@@ -555,7 +556,7 @@ TEST_F(TypedCall, AContextThatGoesEndsAStartedCall)
     EXPECT_FALSE(bCalled);
 }
 
-TEST_F(TypedCall, AParentThatGoesEndsTheCallBeforeAndBehindTheDialog)
+TEST_F(TypedCall, DestroyedParentEndsTheCallBeforeAndAfterTheDialogIsShown)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     for (const auto delay : {std::chrono::milliseconds(0), std::chrono::milliseconds(10000)}) {
@@ -569,7 +570,7 @@ TEST_F(TypedCall, AParentThatGoesEndsTheCallBeforeAndBehindTheDialog)
     EXPECT_TRUE(Await([&] { return m_pServer->OpenConnectionCount() == 0; }));
 }
 
-TEST_F(TypedCall, AWaitDialogDelayBeyondWhatATimerTakesShowsNoDialog)
+TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
 {
     Serve([](const RawRequest&) {
         RawAnswer answer = HttpAnswer(200, kWhole);
@@ -587,7 +588,7 @@ TEST_F(TypedCall, AWaitDialogDelayBeyondWhatATimerTakesShowsNoDialog)
     EXPECT_FALSE(bSeen);
 }
 
-TEST_F(TypedCall, AReceiverThatGoesWhileALargeReplyIsReadIsNotCalled)
+TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
     g_parseMilliseconds = 300;
@@ -603,7 +604,7 @@ TEST_F(TypedCall, AReceiverThatGoesWhileALargeReplyIsReadIsNotCalled)
     EXPECT_FALSE(bCalled);
 }
 
-TEST_F(TypedCall, AWaitThatIsStoppedWhileALargeReplyIsReadEndsAtOnceWithoutSuccess)
+TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
     g_parseMilliseconds = 2000;
@@ -642,7 +643,7 @@ TEST_F(TypedCall, CancelClosesTheConnectionAndCallsNothing)
     CallHandle().Cancel();
 }
 
-TEST_F(TypedCall, CancelFromInsideTheFunctionAndFromAnObserverIsSafe)
+TEST_F(TypedCall, CancelInsideTheFunctionAndInAnObserverIsSafe)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     CallHandle first;
@@ -668,7 +669,7 @@ TEST_F(TypedCall, CancelFromInsideTheFunctionAndFromAnObserverIsSafe)
     EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
 }
 
-TEST_F(TypedCall, DestroyingTheHandleCancelsNothing)
+TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     bool bCalled = false;
@@ -679,7 +680,7 @@ TEST_F(TypedCall, DestroyingTheHandleCancelsNothing)
     EXPECT_TRUE(Await([&] { return bCalled; }));
 }
 
-TEST_F(TypedCall, ThePackRunsInsideStart)
+TEST_F(TypedCall, PackRunsInsideStart)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     users.servers[1].token = "first";
@@ -690,7 +691,7 @@ TEST_F(TypedCall, ThePackRunsInsideStart)
     EXPECT_EQ(m_pServer->TakeRequests().front().Value("X-Subject-Token"), "first");
 }
 
-TEST_F(TypedCall, NoneOfThirtyCallsTimesOutBecauseItStoodInLine)
+TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 {
     Serve([](const RawRequest&) {
         RawAnswer answer = HttpAnswer(200, kWhole);
@@ -714,7 +715,7 @@ TEST_F(TypedCall, NoneOfThirtyCallsTimesOutBecauseItStoodInLine)
     EXPECT_LE(m_pServer->ConnectionCount(), 6);
 }
 
-TEST_F(TypedCall, AThousandCallsAtOnceEndOnceEach)
+TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     std::vector<int> ended(1000, 0);
@@ -726,7 +727,7 @@ TEST_F(TypedCall, AThousandCallsAtOnceEndOnceEach)
     EXPECT_EQ(m_pServer->TakeRequests().size(), 1000U);
 }
 
-TEST_F(TypedCall, CallsStartInsideAWaitAndFromAFunction)
+TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromAFunction)
 {
     Serve([](const RawRequest& request) {
         RawAnswer answer = HttpAnswer(200, kWhole);
@@ -747,7 +748,7 @@ TEST_F(TypedCall, CallsStartInsideAWaitAndFromAFunction)
     EXPECT_EQ(nEnded, 2);
 }
 
-TEST_F(TypedCall, UnInitEndsStartedCallsAsCancelledAndDeliversThem)
+TEST_F(TypedCall, UnInitCancelsAndDeliversStartedCalls)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     std::vector<CallEnd> ends;
@@ -761,7 +762,7 @@ TEST_F(TypedCall, UnInitEndsStartedCallsAsCancelledAndDeliversThem)
     CAPIModule::GetInstance().Init(&users);
 }
 
-TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirOwn)
+TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirThread)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     std::vector<CallEnd> ends;
@@ -780,7 +781,7 @@ TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirOwn)
     CAPIModule::GetInstance().Init(&users);
 }
 
-TEST_F(TypedCall, OnAnotherThreadRunIsNotPackedAndStartCallsNothing)
+TEST_F(TypedCall, OnAnotherThreadRunReturnsNotPackedAndStartCallsNothing)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     logs.Take();
@@ -819,7 +820,7 @@ TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
     EXPECT_EQ(shown->nStatus, -1);
 }
 
-TEST_F(TypedCall, PreviewOfWhatCannotBeSentLogsWhyAndReturnsNothing)
+TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     users.servers[1].host = "user@127.0.0.1";
@@ -834,7 +835,7 @@ TEST_F(TypedCall, PreviewOfWhatCannotBeSentLogsWhyAndReturnsNothing)
     EXPECT_EQ(lines[0].message, "Preview failed! wrong thread or no application.");
 }
 
-TEST_F(TypedCall, AFunctionThatThrowsEndsNothing)
+TEST_F(TypedCall, ThrowingFunctionIsHarmless)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
     logs.Take();

@@ -25,7 +25,7 @@ QList<ORNGUI::OrnWaitDialog*> Dialogs()
     return dialogs;
 }
 
-/// Records what happens to a dialog while it is still whole.
+/// Records what happens to a dialog before its destructor runs.
 class EndWatch : public QObject {
 public:
     explicit EndWatch(QWidget* pWidget) { pWidget->installEventFilter(this); }
@@ -45,7 +45,7 @@ public:
     const QWidget* parentWhenHidden = nullptr;
 };
 
-TEST(WaitDialog, IsShownForAsLongAsTheObjectLives)
+TEST(WaitDialog, IsShownAsLongAsTheObjectExists)
 {
     for (const bool bWithParent : {true, false}) {
         QWidget parent;
@@ -65,7 +65,7 @@ TEST(WaitDialog, IsShownForAsLongAsTheObjectLives)
     }
 }
 
-TEST(WaitDialog, ParentGoesFirst)
+TEST(WaitDialog, SurvivesDestructionOfItsParent)
 {
     auto parent = std::make_unique<QWidget>();
     parent->show();
@@ -78,7 +78,7 @@ TEST(WaitDialog, ParentGoesFirst)
     }
 }
 
-TEST(WaitDialog, IsAnObjectAndNoWidget)
+TEST(WaitDialog, IsAnObjectButNotAWidget)
 {
     EXPECT_STREQ(CAPIWaitDialog::staticMetaObject.className(), "APIModule::CAPIWaitDialog");
     EXPECT_EQ(CAPIWaitDialog::staticMetaObject.superClass(), &QObject::staticMetaObject);

@@ -94,7 +94,7 @@ class WaitTest : public WaitBase, public testing::WithParamInterface<Waiting> {}
 INSTANTIATE_TEST_SUITE_P(Waits, WaitTest, testing::Values(InLoop, BehindDialog),
                          [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
 
-TEST_P(WaitTest, TimeOutIsPreciseAndClientGoesOn)
+TEST_P(WaitTest, TimeOutIsPreciseAndTheEventLoopContinues)
 {
     int nTicks = 0;
     QTimer ticker;
@@ -119,7 +119,7 @@ TEST_P(WaitTest, TimeOutLineMasksTheToken)
     EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/silent?token=**********abc"));
 }
 
-TEST_P(WaitTest, TimeOutOfAnUpload)
+TEST_P(WaitTest, TimeOutEndsAnUpload)
 {
     for (const APIModule::Method method : {APIModule::Method_Put, APIModule::Method_Post, APIModule::Method_Delete}) {
         HostCall call = Call(GetParam(), QStringLiteral("/silent"), 0);
@@ -136,7 +136,7 @@ TEST_P(WaitTest, TimeOutOfAnUpload)
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/ok"))), 0);
 }
 
-TEST_P(WaitTest, CaptionOfADeletedOwner)
+TEST_P(WaitTest, CaptionMayBelongToADeletedObject)
 {
     class Page : public QWidget {
     public:
@@ -161,7 +161,7 @@ TEST_P(WaitTest, CaptionOfADeletedOwner)
 }
 
 /// What the host does while a line is logged.
-TEST_P(WaitTest, ObserverThatRunsAnEventLoop)
+TEST_P(WaitTest, ObserverMayRunAnEventLoop)
 {
     LogLines seen;
     int nDepth = 0;
@@ -183,7 +183,7 @@ TEST_P(WaitTest, ObserverThatRunsAnEventLoop)
     ornl::TalPrintLog::instance().SetObserver({});
 }
 
-TEST_P(WaitTest, ObserverThatCalls)
+TEST_P(WaitTest, ObserverMayMakeCalls)
 {
     std::vector<int> results;
     bool bCalling = false;
@@ -199,7 +199,7 @@ TEST_P(WaitTest, ObserverThatCalls)
     ornl::TalPrintLog::instance().SetObserver({});
 }
 
-TEST_P(WaitTest, CallablesAndNotificationsThatCall)
+TEST_P(WaitTest, CallablesAndNotificationSlotsMayMakeCalls)
 {
     std::vector<int> results;
     const auto nested = [&](Waiting waiting) { results.push_back(Execute(Call(waiting, QStringLiteral("/404")))); };
@@ -217,7 +217,7 @@ TEST_P(WaitTest, CallablesAndNotificationsThatCall)
     EXPECT_EQ(results, std::vector<int>(3, 404));
 }
 
-TEST_P(WaitTest, LeavesNothingBehind)
+TEST_P(WaitTest, LeaksNothing)
 {
     for (const char* const target : {"/ok", "/404", "/silent", "/silent", "/silent"}) {
         Execute(Call(GetParam(), QLatin1String(target), target == std::string("/silent") ? 1 : 20));
@@ -241,7 +241,7 @@ TEST_P(WaitTest, LeavesNothingBehind)
     }
 }
 
-TEST_P(WaitTest, LateAnswerIsNoMoreThanALateAnswer)
+TEST_P(WaitTest, LateReplyIsIgnored)
 {
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/1300"), 1)), -1);
     EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/after/1300"));
@@ -253,7 +253,7 @@ TEST_P(WaitTest, LateAnswerIsNoMoreThanALateAnswer)
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_P(WaitTest, NoTimeLeft)
+TEST_P(WaitTest, ZeroTimeOutReturnsTimeout)
 {
     for (const int nTimeout : {0, -1, INT_MIN}) {
         EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), nTimeout)), -1);
@@ -262,7 +262,7 @@ TEST_P(WaitTest, NoTimeLeft)
     }
 }
 
-TEST_P(WaitTest, TimeBeyondATimer)
+TEST_P(WaitTest, TimeOutBeyondTheTimerLimitIsAccepted)
 {
     constexpr int kWrapsTo704Milliseconds = 4294968;
     for (const int nTimeout : {INT_MAX / 1000, INT_MAX / 1000 + 1, INT_MAX, kWrapsTo704Milliseconds}) {
@@ -283,7 +283,7 @@ TEST_P(WaitTest, TenTimeOutsStarveNoCall)
     EXPECT_EQ(notifications.Take(), QStringList{QStringLiteral("Done")});
 }
 
-TEST_F(WaitBase, TenWholeTimeOutsStarveNoCall)
+TEST_F(WaitBase, TenFullTimeOutsStarveNoCall)
 {
     for (int i = 0; i < 10; ++i) {
         EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/silent"), 1)), -1);
@@ -291,7 +291,7 @@ TEST_F(WaitBase, TenWholeTimeOutsStarveNoCall)
     EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/ok"), 5)), 0);
 }
 
-/// A call inside another one's wait, each in either way of waiting.
+/// A call inside the wait of another one, each in both ways of waiting.
 class NestedTest : public WaitBase, public testing::WithParamInterface<std::tuple<Waiting, Waiting>> {};
 
 INSTANTIATE_TEST_SUITE_P(Waits, NestedTest,
@@ -340,7 +340,7 @@ TEST_P(NestedTest, BothTimeOut)
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/ok"))), 0);
 }
 
-TEST_P(NestedTest, ParentOfBothGoes)
+TEST_P(NestedTest, ParentOfBothIsDestroyed)
 {
     const auto [outer, inner] = GetParam();
     int nInner = 99;
@@ -350,8 +350,8 @@ TEST_P(NestedTest, ParentOfBothGoes)
     EXPECT_EQ(nInner, inner == InLoop ? 0 : -1);
 }
 
-/// The reply that comes while the inner call still waits is none of an outer one whose parent is gone.
-TEST_F(WaitBase, ReplyAfterTheParentIsNoResult)
+/// An outer call whose parent was destroyed ignores a reply that arrives while the inner call still waits.
+TEST_F(WaitBase, ReplyAfterDestructionOfTheParentIsIgnored)
 {
     int nInner = 99;
     During(50, [&] { nInner = Execute(Call(InLoop, QStringLiteral("/after/800"))); });
@@ -361,7 +361,7 @@ TEST_F(WaitBase, ReplyAfterTheParentIsNoResult)
     EXPECT_EQ(notifications.Take(), (QStringList{QStringLiteral("Done"), TimeOutNotice()}));
 }
 
-TEST_F(WaitBase, GrandparentsDestructionEndsTheWait)
+TEST_F(WaitBase, DestroyedGrandparentEndsTheWait)
 {
     auto* pWindow = new QWidget;
     auto* pPage = new QWidget(pWindow);
@@ -373,7 +373,7 @@ TEST_F(WaitBase, GrandparentsDestructionEndsTheWait)
     EXPECT_EQ(logs.Take(), TimedOut(BehindDialog, "/silent"));
 }
 
-TEST_F(WaitBase, ParentGoneBeforeTheWait)
+TEST_F(WaitBase, ReturnsTimeoutWhenTheParentIsDestroyedBeforeTheWait)
 {
     HostCall call = Call(BehindDialog, QStringLiteral("/ok"));
     const auto pack = [&](void* pReqParamData) {
@@ -392,7 +392,7 @@ struct Disturbance {
 
 class DisturbanceTest : public WaitBase, public testing::WithParamInterface<Disturbance> {
 protected:
-    /// Disturbs the dialog of the call that begins next.
+    /// Disturbs the dialog of the next call.
     void Disturb()
     {
         During(100, [this] {
@@ -507,7 +507,7 @@ TEST_P(EndedDialogTest, NoReplyBeforeExecReturnsIsATimeOut)
     EXPECT_EQ(notifications.Take(), (QStringList{QStringLiteral("Done"), TimeOutNotice()}));
 }
 
-TEST_F(WaitBase, DialogIsModalOverItsParentAndGoesAway)
+TEST_F(WaitBase, DialogIsModalOverItsParentAndIsClosed)
 {
     QPointer<QWidget> dialog;
     During(100, [&] { dialog = QApplication::activeModalWidget(); });
@@ -524,8 +524,8 @@ TEST_F(WaitBase, DialogIsModalOverItsParentAndGoesAway)
     EXPECT_TRUE(dialog.isNull());
 }
 
-/// A host that runs an event loop of its own while the dialog comes up lets the reply finish before the wait begins.
-TEST_F(WaitBase, ReplyBeforeTheWait)
+/// A host that runs an event loop while the dialog is shown lets the reply finish before the wait begins.
+TEST_F(WaitBase, ReplyBeforeTheWaitIsTheResult)
 {
     class Filter : public QObject {
     public:
@@ -555,7 +555,7 @@ class UserInputTest : public WaitBase, public testing::WithParamInterface<bool> 
 INSTANTIATE_TEST_SUITE_P(Waits, UserInputTest, testing::Bool(),
                          [](const auto& row) { return row.param ? "held_back" : "goes_on"; });
 
-/// Takes the toasts of earlier tests off the screen: a window that comes or goes fetches what the user did.
+/// Closes the toasts of earlier tests: showing or closing a window delivers pending user input.
 void CloseToasts()
 {
     for (bool bFound = true; bFound;) {
@@ -572,7 +572,7 @@ void CloseToasts()
     }
 }
 
-TEST_P(UserInputTest, DuringAWaitWithoutDialog)
+TEST_P(UserInputTest, IsHeldBackDuringAWaitWithoutDialog)
 {
     class Keys : public QWidget {
     public:

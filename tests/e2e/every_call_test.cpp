@@ -18,13 +18,13 @@ protected:
     {
         Use(std::get<Scheme>(GetParam()));
         Json state = Platform().state();
-        for (const auto& [place, value] : TheRow().state.items()) {
+        for (const auto& [place, value] : ParamRow().state.items()) {
             state[Json::json_pointer(place)] = value;
         }
         Platform().setState(state);
     }
 
-    static const Row& TheRow() { return std::get<Row>(GetParam()); }
+    static const Row& ParamRow() { return std::get<Row>(GetParam()); }
 
     /// What is there to see now.
     static Json Seen(const Trace& trace)
@@ -44,9 +44,9 @@ protected:
     }
 };
 
-TEST_P(EveryCall, GivesWhatThePlatformHoldsAndChangesIt)
+TEST_P(EveryCall, ReadsAndChangesTheStateOfThePlatform)
 {
-    const Row& row = TheRow();
+    const Row& row = ParamRow();
     for (const Trace& trace : row.traces) {
         EXPECT_NE(Seen(trace), trace.expected) << Described(trace) << ": nothing is left to change";
     }
@@ -102,7 +102,7 @@ TEST(Completeness, EveryCallOfTheCatalogueHasARowInBothSchemes)
     for (const char* suite : {"Http/EveryCall", "Https/EveryCall"}) {
         const std::set<std::string> tests = RegisteredTests(suite);
         for (const catalogue::Call& call : catalogue::Calls()) {
-            const std::string test = "GivesWhatThePlatformHoldsAndChangesIt/" + Row{call.name, {}}.Name();
+            const std::string test = "ReadsAndChangesTheStateOfThePlatform/" + Row{call.name, {}}.Name();
             EXPECT_EQ(tests.count(test), 1U) << call.name << " has no row in " << suite;
         }
     }

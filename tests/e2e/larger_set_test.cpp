@@ -1,4 +1,4 @@
-// Lists of a platform with a larger set of data are read whole.
+// Lists of a platform with a larger set of data are read completely.
 #include "rows/Rows.h"
 #include "support/EndToEnd.h"
 #include "support/Rows.h"
@@ -38,7 +38,7 @@ protected:
 
 class LargerList : public LargerSet, public testing::WithParamInterface<ListRow> {};
 
-TEST_P(LargerList, IsReadWhole)
+TEST_P(LargerList, IsReadCompletely)
 {
     const Row& row = RowOf(GetParam().call);
     const catalogue::Outcome outcome = Run(row.call, row.arguments);
@@ -78,13 +78,13 @@ struct PagedRow {
     std::string argument;
     std::string seed;
     std::string inside;  ///< where the page's elements are in the record
-    bool counted;        ///< the record tells the number of all elements
+    bool counted;        ///< the record has the number of all elements
     Keys keys;           ///< of an element
 };
 
 class LargerPages : public LargerSet, public testing::WithParamInterface<PagedRow> {};
 
-TEST_P(LargerPages, AddUpToTheWhole)
+TEST_P(LargerPages, AddUpToTheCompleteList)
 {
     constexpr std::size_t kPageSize = 9;
     const PagedRow& row = GetParam();

@@ -33,7 +33,7 @@ Json Query(const std::string& keyword)
     return {{"page", 1}, {"pageSize", 20}, {"keyword", keyword}};
 }
 
-// An ampersand begins a further value, which the platform refuses; a hash sign ends the request's target.
+// An ampersand starts another value, which the platform refuses; a hash sign ends the request's target.
 INSTANTIATE_TEST_SUITE_P(
     AmpersandAndHash, Keyword,
     testing::Values(
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                                0}),
     testing_support::RowName());
 
-TEST_F(EndToEnd, AKeywordInABodyArrivesWhole)
+TEST_F(EndToEnd, KeywordInABodyArrivesUnchanged)
 {
     const catalogue::Outcome outcome = Run("OBMS.GetPageAccessAuthorizePersons", {{"req", Query("a&b#c%2")}});
     EXPECT_TRUE(outcome) << outcome.Text().toStdString();
@@ -100,7 +100,7 @@ TEST_F(EndToEnd, AKeywordInABodyArrivesWhole)
     EXPECT_EQ(Json::parse(Platform().requests().front().body).at("keyword"), "a&b#c%2");
 }
 
-/// Two servers, told apart by the token that the host sends them; the emulator refuses that of the second one.
+/// Two servers, distinguished by the token that the host sends; the emulator refuses that of the second one.
 class TwoServers : public EndToEnd {
 protected:
     TwoServers()
@@ -123,7 +123,7 @@ protected:
     }
 };
 
-TEST_F(TwoServers, TheWashFunctionAlwaysAsksServer1)
+TEST_F(TwoServers, WashFunctionAlwaysUsesServer1)
 {
     const Json channel = {{"channelId", "1000001$1$0$0"}};
     users.currentServerId = 2;
@@ -132,7 +132,7 @@ TEST_F(TwoServers, TheWashFunctionAlwaysAsksServer1)
     EXPECT_EQ(ServerOf("DMS.SetHomePosition", channel), 2) << "others ask the current server";
 }
 
-TEST_F(TwoServers, TheManagingPersonsAreAlwaysReadFromTheCurrentServer)
+TEST_F(TwoServers, ManagingPersonsAreAlwaysReadFromTheCurrentServer)
 {
     const Json device = {{"req", {{"deviceCode", "1000041"}}}};
     EXPECT_EQ(ServerOf("OBMS.GetManagePersons", device, 2), 1);
@@ -149,7 +149,7 @@ struct UnknownRow {
 
 class UnknownObject : public EndToEnd, public testing::WithParamInterface<UnknownRow> {};
 
-TEST_P(UnknownObject, GivesTheCodeOfTheEnvelopeAndChangesNothing)
+TEST_P(UnknownObject, ReturnsTheEnvelopeCodeAndChangesNothing)
 {
     const Json before = Platform().state();
     const catalogue::Outcome outcome = Run(GetParam().call, GetParam().arguments);

@@ -1,4 +1,4 @@
-// What a session holds in confidence stays out of everything that a client writes, shows or prints.
+// The secrets of a session do not appear in anything that a client writes, shows or prints.
 #include "rows/Rows.h"
 #include "support/EmulatorProcess.h"
 
@@ -91,7 +91,7 @@ void ReplaceTexts(Json& arguments, const std::function<std::string(const Json::j
     }
 }
 
-/// What a call meets, so that each way out of it writes its lines.
+/// How the server replies, so that every path of a call writes its log lines.
 struct Course {
     std::string name;
     Json fault;                                        ///< null for none
@@ -223,7 +223,7 @@ private:
     }
 };
 
-TEST_F(Secrets, StayOutOfLogsNotificationsFilesAndTheEmulatorsOutput)
+TEST_F(Secrets, AreAbsentFromLogsNotificationsFilesAndEmulatorOutput)
 {
     std::set<std::string> called;
     {

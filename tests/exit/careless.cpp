@@ -1,4 +1,4 @@
-// Returns from main while a thread that it takes for ended still has state of libcrypto's.
+// Returns from main while a thread that has apparently ended still owns state of libcrypto.
 #include <openssl/rand.h>
 
 #include <atomic>

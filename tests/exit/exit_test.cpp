@@ -25,7 +25,7 @@ Ended RunToEnd(const char* program, const QStringList& arguments)
 
 class ExitTest : public testing::TestWithParam<const char*> {};
 
-TEST_P(ExitTest, HostEndsCleanly)
+TEST_P(ExitTest, HostExitsCleanly)
 {
     const RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); }, RawServer::Https);
     for (int i = 0; i < 3; ++i) {
@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Ends, ExitTest,
                          [](const auto& row) { return std::string(row.param); });
 
 /// What the test above would see.
-TEST(LateThreadStateTest, FindsAThreadThatIsCleanedUpAfterTheProgram)
+TEST(LateThreadStateTest, DetectsAThreadThatIsCleanedUpAfterTheProgram)
 {
     const Ended end = RunToEnd(CARELESS, {});
     EXPECT_TRUE(end.crashed || end.status == kLateExit) << end.status << end.err;

@@ -118,7 +118,7 @@ private:
     testing_support::UserManager m_users;
 };
 
-TEST_F(AudioFileInfoTest, BodyIsNotLookedInto)
+TEST_F(AudioFileInfoTest, BodyIsPassedThroughUnparsed)
 {
     for (const char* const body : {"{ \"a\" : 1 }\n", "[1,", "no JSON \"%1\"", " "}) {
         RequestParam param;
@@ -127,7 +127,7 @@ TEST_F(AudioFileInfoTest, BodyIsNotLookedInto)
     }
 }
 
-TEST_F(AudioFileInfoTest, UrlThatBeginsWithAZeroByteIsRefusedAsEmpty)
+TEST_F(AudioFileInfoTest, UrlStartingWithAZeroByteIsRefusedAsEmpty)
 {
     RequestParam param;
     testing_support::LogRecorder logs;

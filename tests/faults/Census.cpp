@@ -19,7 +19,7 @@ struct LiveObjects {
     std::unordered_set<QObject*> objects;
 };
 
-/// Never deleted: objects come and go until the very end of the process.
+/// Never deleted, because objects are created and destroyed until the process ends.
 LiveObjects& Live()
 {
     static auto* const pLive = new LiveObjects;
@@ -38,13 +38,13 @@ void OnRemoved(QObject* pObject)
     Live().objects.erase(pObject);
 }
 
-/// Qt looks up host names on threads of a pool, which stay for some seconds.
+/// Qt looks up host names on pool threads, which live on for some seconds.
 bool IsThreadOfPool(const QObject& object)
 {
     return qstrcmp(object.metaObject()->className(), "QThreadPoolThread") == 0;
 }
 
-/// Toasts stay on the screen for a while, with what is in them; a single shot is how they end.
+/// Toasts stay on the screen for a while, with their children; single-shot timers end them.
 bool IsOfToasts(const QObject& object)
 {
     if (qstrcmp(object.metaObject()->className(), "QSingleShotTimer") == 0) {
@@ -70,7 +70,7 @@ Census Census::Now()
 {
     Census census;
     {
-        // An object of another thread may be in its destructor, but not beyond the hook.
+        // An object of another thread may be in its destructor, but not past the hook.
         const std::lock_guard<std::mutex> lock(Live().mutex);
         for (const QObject* pObject : Live().objects) {
             if (pObject->thread() == QThread::currentThread() && !IsOfToasts(*pObject) && !IsThreadOfPool(*pObject)) {
@@ -79,7 +79,7 @@ Census Census::Now()
         }
     }
     for (const auto& descriptor : std::filesystem::directory_iterator("/proc/self/fd")) {
-        std::error_code error;  // the iterator's own is gone when it is looked at afterwards
+        std::error_code error;  // the iterator's descriptor is closed by the time its link is read
         if (std::filesystem::read_symlink(descriptor, error).string().rfind("socket:", 0) == 0) {
             ++census.sockets;
         }

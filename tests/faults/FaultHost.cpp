@@ -28,22 +28,22 @@ QString Notice(int code)
     return CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), code, true);
 }
 
-/// Whether the line is the one that the outcome has of the wait.
-bool Matches(const LogLine& line, const Outcome& outcome, const Way& way, const std::string& url)
+/// Whether this is the log line that the outcome expects.
+bool Matches(const LogLine& line, const Outcome& outcome, const CallMode& mode, const std::string& url)
 {
-    const std::string function = way.runner == Runner::Start ? "APIModule::Start" : FunctionOf(way.waiting);
+    const std::string function = mode.runner == Runner::Start ? "APIModule::Start" : FunctionOf(mode.waiting);
     std::string text = outcome.line;
     const std::size_t nPlace = text.find("%1");
     if (nPlace != std::string::npos) {
         text.replace(nPlace, 2, url);
     }
-    const bool bText =
-        outcome.isWhole ? line.message == text : line.message.rfind(text, 0) == 0 && line.message.size() > text.size();
+    const bool bText = outcome.isComplete ? line.message == text
+                                          : line.message.rfind(text, 0) == 0 && line.message.size() > text.size();
     return bText && line.file == kFacadeFile && line.function == function && line.level == outcome.level;
 }
 
-/// Whether the line tells what the host did during the call.
-bool IsOfTheHost(const LogLine& line)
+/// Whether the line is about something that the host did during the call.
+bool IsHostLine(const LogLine& line)
 {
     return line.function == "APIModule::CAPIModule::Init" || line.function == "APIModule::CAPIModule::UnInit";
 }
@@ -59,36 +59,36 @@ Outcome Unreadable(int code, const std::string& qtCode, const std::string& qtTex
 
 }  // namespace
 
-std::vector<Way> Ways(const std::vector<RawServer::Scheme>& schemes)
+std::vector<CallMode> CallModes(const std::vector<RawServer::Scheme>& schemes)
 {
-    std::vector<Way> ways;
+    std::vector<CallMode> modes;
     for (const Waiting waiting : {InLoop, BehindDialog}) {
         for (const RawServer::Scheme scheme : schemes) {
             for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
-                ways.push_back({waiting, scheme, method});
+                modes.push_back({waiting, scheme, method});
             }
         }
     }
-    return ways;
+    return modes;
 }
 
-std::vector<Way> WaysOfAllCalls(const std::vector<RawServer::Scheme>& schemes)
+std::vector<CallMode> AllCallModes(const std::vector<RawServer::Scheme>& schemes)
 {
-    std::vector<Way> ways = Ways(schemes);
+    std::vector<CallMode> modes = CallModes(schemes);
     for (const RawServer::Scheme scheme : schemes) {
         const Waiting waiting = scheme == RawServer::Http ? InLoop : BehindDialog;
-        ways.push_back({waiting, scheme, APIModule::Method_Get, Runner::Run});
-        ways.push_back({InLoop, scheme, APIModule::Method_Post, Runner::Start});
+        modes.push_back({waiting, scheme, APIModule::Method_Get, Runner::Run});
+        modes.push_back({InLoop, scheme, APIModule::Method_Post, Runner::Start});
     }
-    return ways;
+    return modes;
 }
 
-std::string NameOf(const Way& way)
+std::string NameOf(const CallMode& mode)
 {
     constexpr std::array<const char*, 3> kRunners{"", "run_", "start_"};
-    return kRunners.at(std::size_t(way.runner)) + std::string(way.waiting == InLoop ? "loop" : "dialog") +
-           (way.scheme == RawServer::Http ? "_http" : "_https") +
-           (way.method == APIModule::Method_Get ? "_get" : "_post");
+    return kRunners.at(std::size_t(mode.runner)) + std::string(mode.waiting == InLoop ? "loop" : "dialog") +
+           (mode.scheme == RawServer::Http ? "_http" : "_https") +
+           (mode.method == APIModule::Method_Get ? "_get" : "_post");
 }
 
 Outcome Succeeds()
@@ -126,7 +126,7 @@ Outcome AsksForAuthentication()
     return Unreadable(7000, "204", "");
 }
 
-Outcome Unseen(Outcome outcome)
+Outcome WithoutNotification(Outcome outcome)
 {
     outcome.shown = false;
     return outcome;
@@ -157,7 +157,7 @@ FaultHost::~FaultHost()
 {
     const QWidgetList widgets = QApplication::topLevelWidgets();
     for (QWidget* pWidget : widgets) {
-        pWidget->close();  // the toasts, which make room for those that wait
+        pWidget->close();  // the toasts, so that queued ones are shown and closed
     }
     delete m_parent;
 }
@@ -168,12 +168,12 @@ void FaultHost::WarmUp()
     if (std::exchange(s_bDone, true)) {
         return;
     }
-    for (const Way& way : Ways()) {
-        const RawServer server([](const RawRequest&) { return SuccessAnswer(); }, way.scheme);
-        Use(server, way.scheme);
-        ExpectSuccess(way);
+    for (const CallMode& mode : CallModes()) {
+        const RawServer server([](const RawRequest&) { return SuccessAnswer(); }, mode.scheme);
+        Use(server, mode.scheme);
+        ExpectSuccess(mode);
     }
-    // What Qt makes once: for the first large reply, the first change of focus, and the first server with a name.
+    // Created once by Qt: for the first large reply, the first change of focus, and the first named server.
     QThreadPool::globalInstance();
     QGuiApplication::inputMethod();
     QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(QUrl(QStringLiteral("http://no-such-host.invalid"))));
@@ -183,16 +183,16 @@ void FaultHost::WarmUp()
     loop.exec();
 }
 
-HostCall FaultHost::Call(const Way& way, const QString& url, int nTimeout)
+HostCall FaultHost::Call(const CallMode& mode, const QString& url, int nTimeout)
 {
     HostCall call;
-    call.method = way.method;
+    call.method = mode.method;
     call.url = url;
     call.body = QStringLiteral("{\"k\":1}");
     call.timeout = nTimeout;
     call.parse = [](const QJsonObject&) { return 0; };
     call.uiError = QStringLiteral("No settings");
-    call.parent = way.waiting == BehindDialog ? m_parent.data() : nullptr;
+    call.parent = mode.waiting == BehindDialog ? m_parent.data() : nullptr;
     call.successTip = QStringLiteral("Done");
     call.notifyOnFailure = false;
     return call;
@@ -220,10 +220,10 @@ constexpr APIModule::Call<&PackHostCall, &CountParse> TypedHostCall;
 
 }  // namespace
 
-FaultHost::Seen FaultHost::RunCall(const Way& way, HostCall call)
+FaultHost::Seen FaultHost::RunCall(const CallMode& mode, HostCall call)
 {
-    if (way.runner != Runner::ExecuteFuncs) {
-        return RunTyped(way, call);
+    if (mode.runner != Runner::ExecuteFuncs) {
+        return RunTyped(mode, call);
     }
     int nParsed = 0;
     call.parse = [&nParsed](const QJsonObject&) {
@@ -234,10 +234,10 @@ FaultHost::Seen FaultHost::RunCall(const Way& way, HostCall call)
     return {nResult, nParsed, notifications.Take()};
 }
 
-FaultHost::Seen FaultHost::RunTyped(const Way& way, const HostCall& call)
+FaultHost::Seen FaultHost::RunTyped(const CallMode& mode, const HostCall& call)
 {
     APIModule::Outcome<Parsed> ended;
-    if (way.runner == Runner::Run) {
+    if (mode.runner == Runner::Run) {
         ended = APIModule::Run(TypedHostCall(call), call.parent);
     } else {
         QEventLoop loop;
@@ -253,23 +253,23 @@ FaultHost::Seen FaultHost::RunTyped(const Way& way, const HostCall& call)
     return {ended.Code(), ended->times, notifications.Take()};
 }
 
-void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout,
+void FaultHost::ExpectOutcome(const CallMode& mode, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout,
                               const QString& url)
 {
-    HostCall call = Call(way, url, nTimeout);
+    HostCall call = Call(mode, url, nTimeout);
     call.notifyOnFailure = bNotifyOnFailure;
-    const bool bTyped = way.runner != Runner::ExecuteFuncs;
-    const std::string fullUrl = (way.scheme == RawServer::Http ? "http://" : "https://") + users.servers[1].host + ':' +
-                                std::to_string(users.servers[1].port) + url.toStdString();
+    const bool bTyped = mode.runner != Runner::ExecuteFuncs;
+    const std::string fullUrl = (mode.scheme == RawServer::Http ? "http://" : "https://") + users.servers[1].host +
+                                ':' + std::to_string(users.servers[1].port) + url.toStdString();
     logs.Take();
     notifications.Take();
 
     const Lateness lateness(nTimeout);
-    const Seen seen = RunCall(way, call);
+    const Seen seen = RunCall(mode, call);
 
     EXPECT_LT(lateness.Milliseconds(), 100);
     LogLines lines = logs.Take();
-    lines.erase(std::remove_if(lines.begin(), lines.end(), IsOfTheHost), lines.end());
+    lines.erase(std::remove_if(lines.begin(), lines.end(), IsHostLine), lines.end());
 
     const bool bSuccess = outcome.code == kSuccess;
     const bool bNotified = !bSuccess && (bTyped || bNotifyOnFailure || !outcome.answered);
@@ -286,7 +286,7 @@ void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNoti
     if (!bLine) {
         return;
     }
-    EXPECT_TRUE(Matches(lines[1], outcome, way, fullUrl)) << lines[1] << "\nexpected: " << outcome.line;
+    EXPECT_TRUE(Matches(lines[1], outcome, mode, fullUrl)) << lines[1] << "\nexpected: " << outcome.line;
     if (bUnknownCode) {
         EXPECT_EQ(lines[2], (LogLine{kFacadeFile, "APIModule::CAPIModule::GetErroCodeInfor", 6,
                                      "Error code is not exist, strUIError=No settings, errorCode=" +
@@ -294,9 +294,9 @@ void FaultHost::ExpectOutcome(const Way& way, const Outcome& outcome, bool bNoti
     }
 }
 
-void FaultHost::ExpectSuccess(const Way& way)
+void FaultHost::ExpectSuccess(const CallMode& mode)
 {
-    ExpectOutcome(way, Succeeds(), true, 20, QStringLiteral("/ok"));
+    ExpectOutcome(mode, Succeeds(), true, 20, QStringLiteral("/ok"));
 }
 
 bool FaultHost::Await(const std::function<bool()>& condition)
@@ -311,7 +311,7 @@ bool FaultHost::Await(const std::function<bool()>& condition)
     return condition();
 }
 
-void FaultHost::ExpectNothingLeft(const Census& before)
+void FaultHost::ExpectNoLeaks(const Census& before)
 {
     EXPECT_TRUE(Await([&before] { return Census::Now().IsWithin(before); }))
         << "before: " << before << "\nnow: " << Census::Now();

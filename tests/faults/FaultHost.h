@@ -15,60 +15,60 @@
 
 namespace testing_support {
 
-/// The code of an envelope that tells of success.
+/// The envelope code of a success.
 constexpr int kSuccess = 1000;
 /// The code of a time-out.
 constexpr int kTimedOut = -101;
 
-/// What runs a call.
+/// The function that runs a call.
 enum class Runner {
     ExecuteFuncs,
     Run,
     Start
 };
 
-/// In which of the ways a call meets a fault.
-struct Way {
+/// How the call is made when the fault occurs.
+struct CallMode {
     Waiting waiting;
     RawServer::Scheme scheme;
     APIModule::Method method;
     Runner runner = Runner::ExecuteFuncs;
 };
 
-/// ExecuteFuncs in both ways of waiting, with GET and POST, over each of the schemes.
-std::vector<Way> Ways(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
-/// The same, and typed calls: waited for in one way over each scheme, and started.
-std::vector<Way> WaysOfAllCalls(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
-std::string NameOf(const Way& way);
+/// ExecuteFuncs in both ways of waiting, with GET and POST, over each scheme.
+std::vector<CallMode> CallModes(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
+/// The same, and typed calls over each scheme: one that waits and one that is started.
+std::vector<CallMode> AllCallModes(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
+std::string NameOf(const CallMode& mode);
 
-/// What the host gets for a call, and what the line of the wait says.
+/// What a call returns to the host, and the log line about it.
 struct Outcome {
-    int code;           ///< result, or what is notified instead
-    bool answered;      ///< whether an answer came, whose failure is notified only when the caller asked for it
-    int level;          ///< of the line
-    std::string line;   ///< its text, "%1" for the URL; empty when there is no line
-    bool isWhole;       ///< whether that is all of the line, or how it starts
-    bool shown = true;  ///< whether anything can be notified
+    int code;           ///< the result, or the code that is notified instead
+    bool answered;      ///< whether a reply arrived: its failure is notified only on request
+    int level;          ///< level of the log line
+    std::string line;   ///< text of the log line, "%1" for the URL; empty when there is none
+    bool isComplete;    ///< whether the text is the complete line or its beginning
+    bool shown = true;  ///< whether notifications are possible
 };
 
 Outcome Succeeds();
 Outcome EnvelopeFails(int code);
 Outcome StatusFails(int status);
 Outcome TimesOut();
-/// A call of Start() that the host ends. It writes no line.
+/// A started call that the host cancels. It writes no line.
 Outcome IsCancelled();
-/// A failure of the network. Qt's code and text are left open where they depend on how the bytes fall into packets.
+/// A failure of the network. Qt's code and text are not compared where they depend on packet boundaries.
 Outcome NetworkFails(const std::string& qtCode = {}, const std::string& qtText = {});
 Outcome AsksForAuthentication();
 
-/// The same for a host that ended use during the call.
-Outcome Unseen(Outcome outcome);
+/// The same for a host that called UnInit during the call.
+Outcome WithoutNotification(Outcome outcome);
 
-/// An answer that is a success, with data.
+/// A successful reply with data.
 RawAnswer SuccessAnswer();
 
-/// By how much a wait outlasts its time-out, in the time of its own event loop: a machine that stands still for a
-/// moment makes no wait late.
+/// By how much a wait exceeds its time-out, in ticks of its own event loop: a machine that stalls does not make a wait
+/// late.
 class Lateness {
 public:
     explicit Lateness(int nSeconds);
@@ -80,42 +80,42 @@ private:
     int m_nTicks = -1;
 };
 
-/// A host whose calls meet faults.
+/// A host that makes calls to faulty servers.
 class FaultHost : public Host {
 protected:
     FaultHost();
     ~FaultHost() override;
 
-    /// A call that does all that a call can.
-    HostCall Call(const Way& way, const QString& url, int nTimeout);
+    /// A call that uses every option of a call.
+    HostCall Call(const CallMode& mode, const QString& url, int nTimeout);
 
-    /// Runs a call in time, and looks at what came of it.
-    void ExpectOutcome(const Way& way, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout = 20,
+    /// Runs a call and checks that it ends in time, with this outcome.
+    void ExpectOutcome(const CallMode& mode, const Outcome& outcome, bool bNotifyOnFailure, int nTimeout = 20,
                        const QString& url = QStringLiteral("/path"));
 
-    /// The next call over the same library, to whichever server is in use.
-    void ExpectSuccess(const Way& way);
+    /// Makes a further call to the current server and checks that it succeeds.
+    void ExpectSuccess(const CallMode& mode);
 
-    /// Makes what Qt makes once in a process, at the first calls of each kind.
+    /// Makes calls of each kind, so that Qt creates the objects that it creates once in a process.
     void WarmUp();
 
-    /// Waits until the condition holds. @return whether it does
+    /// Waits until the condition holds, for a limited time. @return whether it does
     static bool Await(const std::function<bool()>& condition);
 
-    /// Looks that nothing stays behind beyond what was there, toasts aside.
-    static void ExpectNothingLeft(const Census& before);
+    /// Checks that no objects or sockets leak, ignoring toasts.
+    static void ExpectNoLeaks(const Census& before);
 
     QPointer<QWidget> m_parent{new QWidget};
 
 private:
-    /// What came of a call, typed or not.
+    /// What the host observed of a call, typed or not.
     struct Seen {
-        int result;  ///< of ExecuteFuncs; of a typed call the code
+        int result;  ///< of ExecuteFuncs, or the code of a typed call
         int parsed;
         QStringList notices;
     };
-    Seen RunCall(const Way& way, HostCall call);
-    Seen RunTyped(const Way& way, const HostCall& call);
+    Seen RunCall(const CallMode& mode, HostCall call);
+    Seen RunTyped(const CallMode& mode, const HostCall& call);
 
     Watchdog m_watchdog;
 };

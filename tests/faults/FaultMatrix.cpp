@@ -17,18 +17,18 @@ UserManager::Server AddressOf(const RawServer& server)
 
 }  // namespace
 
-std::function<Place(RawServer::Scheme)> Answers(const RawAnswer& answer)
+std::function<FaultSetup(RawServer::Scheme)> Answers(const RawAnswer& answer)
 {
     return [answer](RawServer::Scheme scheme) {
         const auto respond = [answer](const RawRequest& request) {
             return request.target == "/path" ? answer : SuccessAnswer();
         };
         auto server = std::make_shared<RawServer>(respond, scheme);
-        return Place{AddressOf(*server), AddressOf(*server), {server}, nullptr};
+        return FaultSetup{AddressOf(*server), AddressOf(*server), {server}, nullptr};
     };
 }
 
-Place BesideHealthy(RawServer::Scheme scheme, int nFaultyPort)
+FaultSetup BesideHealthy(RawServer::Scheme scheme, int nFaultyPort)
 {
     auto healthy = std::make_shared<RawServer>([](const RawRequest&) { return SuccessAnswer(); }, scheme);
     UserManager::Server faulty;
@@ -45,8 +45,8 @@ std::vector<FaultCase> Matrix(const std::vector<Fault>& faults)
 {
     std::vector<FaultCase> cases;
     for (const Fault& fault : faults) {
-        for (const Way& way : WaysOfAllCalls(fault.schemes)) {
-            cases.push_back({fault.name + ('_' + NameOf(way)), fault, way});
+        for (const CallMode& mode : AllCallModes(fault.schemes)) {
+            cases.push_back({fault.name + ('_' + NameOf(mode)), fault, mode});
         }
     }
     return cases;
@@ -58,39 +58,39 @@ void FaultMatrix::Use(const UserManager::Server& server, RawServer::Scheme schem
     CAPIModule::GetInstance().SetHttpsMode(scheme == RawServer::Https ? 1 : 0);
 }
 
-TEST_P(FaultMatrix, EndsAsToldAndLeavesNothing)
+TEST_P(FaultMatrix, ReturnsExpectedOutcomeAndLeaksNothing)
 {
-    const auto& [name, fault, way] = GetParam();
+    const auto& [name, fault, mode] = GetParam();
     WarmUp();
     const Census atFirst = Census::Now();
     {
-        const Place place = fault.open(way.scheme);
-        if (place.missing) {
-            GTEST_SKIP() << place.missing;
+        const FaultSetup setup = fault.open(mode.scheme);
+        if (setup.missing) {
+            GTEST_SKIP() << setup.missing;
         }
-        if (place.keepsConnection) {
-            Use(place.faulty, way.scheme);
-            ExpectSuccess(way);
+        if (setup.keepsConnection) {
+            Use(setup.faulty, mode.scheme);
+            ExpectSuccess(mode);
         }
-        Use(place.healthy, way.scheme);
-        ExpectSuccess(way);
+        Use(setup.healthy, mode.scheme);
+        ExpectSuccess(mode);
         const Census before = Census::Now();
 
-        // A success and a time-out do not ask whether to notify.
+        // bNotifyOnFailure makes no difference to a success or a time-out.
         std::vector<bool> notifyOnFailure{false};
         if (fault.outcome.code != kSuccess && fault.outcome.code != kTimedOut) {
             notifyOnFailure.push_back(true);
         }
         for (const bool bNotifyOnFailure : notifyOnFailure) {
-            Use(place.faulty, way.scheme);
-            ExpectOutcome(way, fault.outcome, bNotifyOnFailure, fault.timeout);
-            Use(place.healthy, way.scheme);
-            ExpectSuccess(way);
+            Use(setup.faulty, mode.scheme);
+            ExpectOutcome(mode, fault.outcome, bNotifyOnFailure, fault.timeout);
+            Use(setup.healthy, mode.scheme);
+            ExpectSuccess(mode);
         }
-        ExpectNothingLeft(before);
+        ExpectNoLeaks(before);
     }
-    // Without the servers the connections kept for reuse are gone as well.
-    ExpectNothingLeft(atFirst);
+    // Once the servers are gone, so are the connections kept for reuse.
+    ExpectNoLeaks(atFirst);
 }
 
 }  // namespace testing_support

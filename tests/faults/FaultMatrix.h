@@ -7,40 +7,40 @@
 
 namespace testing_support {
 
-/// Where a call meets its fault, and where the call after it finds a server that is well.
-struct Place {
+/// The server with the fault, and a healthy one for the next call.
+struct FaultSetup {
     UserManager::Server faulty;
     UserManager::Server healthy;
     std::vector<std::shared_ptr<RawServer>> servers;
-    std::shared_ptr<void> other;  ///< what else is there as long as the fault
-    /// Whether a connection to the faulty server stays for reuse, beside the healthy one's.
+    std::shared_ptr<void> other;  ///< resource that the fault needs as long as it lasts
+    /// Whether the connection to the faulty server is kept for reuse, like that to the healthy one.
     bool keepsConnection = false;
-    const char* missing = nullptr;  ///< why the fault cannot be made on this machine
+    const char* missing = nullptr;  ///< why this machine cannot produce the fault
 };
 
 struct Fault {
     const char* name;
-    std::function<Place(RawServer::Scheme)> open;
+    std::function<FaultSetup(RawServer::Scheme)> open;
     Outcome outcome;
     int timeout = 20;
     std::vector<RawServer::Scheme> schemes = {RawServer::Http, RawServer::Https};
 };
 
-/// A server that gives this answer to the call and succeeds with the next one.
-std::function<Place(RawServer::Scheme)> Answers(const RawAnswer& answer);
+/// A server that sends this reply to the call and a success to the next one.
+std::function<FaultSetup(RawServer::Scheme)> Answers(const RawAnswer& answer);
 
-/// A place beside a server that is well.
-Place BesideHealthy(RawServer::Scheme scheme, int nFaultyPort);
+/// A fault on this port, and a healthy server.
+FaultSetup BesideHealthy(RawServer::Scheme scheme, int nFaultyPort);
 
-/// A fault in one of the ways.
+/// A fault and how the call is made.
 struct FaultCase {
     std::string name;
     Fault fault;
-    Way way;
+    CallMode mode;
 };
 void PrintTo(const FaultCase& row, std::ostream* pStream);
 
-/// Each fault in each of the ways.
+/// Each fault with each way of making the call.
 std::vector<FaultCase> Matrix(const std::vector<Fault>& faults);
 
 class FaultMatrix : public FaultHost, public testing::WithParamInterface<FaultCase> {

@@ -1,11 +1,11 @@
-// Bodies of a successful answer that are no envelope, or one that is hard to read.
+// Bodies with status 200 that are not an envelope, or one that is hard to parse.
 #include "FaultMatrix.h"
 
 using namespace testing_support;
 
 namespace {
 
-std::function<Place(RawServer::Scheme)> HasBody(const QByteArray& body)
+std::function<FaultSetup(RawServer::Scheme)> HasBody(const QByteArray& body)
 {
     return Answers(HttpAnswer(200, body));
 }
@@ -15,8 +15,8 @@ QByteArray Nested(int nDepth)
     return "{\"code\":1000,\"data\":{\"a\":" + QByteArray(nDepth, '[') + QByteArray(nDepth, ']') + "}}";
 }
 
-/// Made where it is sent, so that a hundred megabytes are not held by the table.
-Place HasTextOf100Megabytes(RawServer::Scheme scheme)
+/// Created when it is sent, so that the table does not hold a hundred megabytes.
+FaultSetup HasTextOf100Megabytes(RawServer::Scheme scheme)
 {
     return HasBody("{\"code\":1000,\"data\":{\"a\":\"" + QByteArray(100 * 1024 * 1024, 'x') + "\"}}")(scheme);
 }

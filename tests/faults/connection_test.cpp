@@ -1,4 +1,4 @@
-// Connections that do not come about, and servers whose certificate or TLS is none of the best.
+// Connections that fail, and servers with invalid certificates or old versions of TLS.
 #include "Descriptor.h"
 #include "FaultMatrix.h"
 
@@ -8,27 +8,27 @@ using namespace testing_support;
 
 namespace {
 
-Place Refuses(RawServer::Scheme scheme)
+FaultSetup Refuses(RawServer::Scheme scheme)
 {
     const auto bound = std::make_shared<Descriptor>(BoundToLoopback());
-    Place place = BesideHealthy(scheme, PortOf(*bound));
-    place.other = bound;
-    return place;
+    FaultSetup setup = BesideHealthy(scheme, PortOf(*bound));
+    setup.other = bound;
+    return setup;
 }
 
-Place NameIsUnknown(RawServer::Scheme scheme)
+FaultSetup NameIsUnknown(RawServer::Scheme scheme)
 {
-    Place place = BesideHealthy(scheme, 443);
-    place.faulty.host = "no-such-host.invalid";
-    return place;
+    FaultSetup setup = BesideHealthy(scheme, 443);
+    setup.faulty.host = "no-such-host.invalid";
+    return setup;
 }
 
-/// The faulty server beside one that is well.
-Place Beside(const std::shared_ptr<RawServer>& faulty, RawServer::Scheme scheme)
+/// The faulty server and a healthy one.
+FaultSetup Beside(const std::shared_ptr<RawServer>& faulty, RawServer::Scheme scheme)
 {
-    Place place = BesideHealthy(scheme, faulty->Port());
-    place.servers.push_back(faulty);
-    return place;
+    FaultSetup setup = BesideHealthy(scheme, faulty->Port());
+    setup.servers.push_back(faulty);
+    return setup;
 }
 
 RawAnswer Succeed(const RawRequest&)
@@ -36,28 +36,28 @@ RawAnswer Succeed(const RawRequest&)
     return SuccessAnswer();
 }
 
-Place HasTlsOnThePort(RawServer::Scheme scheme)
+FaultSetup HasTlsOnThePort(RawServer::Scheme scheme)
 {
     return Beside(std::make_shared<RawServer>(Succeed, RawServer::Https), scheme);
 }
 
-Place HasNoTlsOnThePort(RawServer::Scheme scheme)
+FaultSetup HasNoTlsOnThePort(RawServer::Scheme scheme)
 {
     const auto server = std::make_shared<RawServer>([](const RawRequest&) { return HttpAnswer(400, "no TLS here"); });
     server->AnswerAnything();
     return Beside(server, scheme);
 }
 
-std::function<Place(RawServer::Scheme)> ShowsCertificate(const CertificateSubject& subject)
+std::function<FaultSetup(RawServer::Scheme)> ShowsCertificate(const CertificateSubject& subject)
 {
     return [configuration = ServerConfiguration(MakeCertificate(subject))](RawServer::Scheme scheme) {
-        Place place = Beside(std::make_shared<RawServer>(Succeed, configuration), scheme);
-        place.keepsConnection = true;
-        return place;
+        FaultSetup setup = Beside(std::make_shared<RawServer>(Succeed, configuration), scheme);
+        setup.keepsConnection = true;
+        return setup;
     };
 }
 
-/// Takes what the system's own settings refuse, so that it is the client that refuses an old version.
+/// Accepts what OpenSSL's default settings refuse, so that only the client can refuse an old version.
 void LowerLevel(QSslConfiguration& configuration)
 {
     configuration.setBackendConfigurationOption("CipherString", QByteArrayLiteral("ALL:@SECLEVEL=0"));
@@ -71,12 +71,12 @@ QSslConfiguration Speaking(QSsl::SslProtocol protocol)
     return configuration;
 }
 
-std::function<Place(RawServer::Scheme)> Speaks(QSsl::SslProtocol protocol, bool bUnderstood)
+std::function<FaultSetup(RawServer::Scheme)> Speaks(QSsl::SslProtocol protocol, bool bUnderstood)
 {
     return [configuration = Speaking(protocol), bUnderstood](RawServer::Scheme scheme) {
-        Place place = Beside(std::make_shared<RawServer>(Succeed, configuration), scheme);
-        place.keepsConnection = bUnderstood;
-        return place;
+        FaultSetup setup = Beside(std::make_shared<RawServer>(Succeed, configuration), scheme);
+        setup.keepsConnection = bUnderstood;
+        return setup;
     };
 }
 
@@ -108,10 +108,10 @@ const std::vector<Fault> kFaults = {
 
 INSTANTIATE_TEST_SUITE_P(Connections, FaultMatrix, testing::ValuesIn(Matrix(kFaults)), RowName());
 
-/// That the servers of the rows speak the one version, and it is not they who refuse.
+/// The servers of the rows accept their TLS version, so that a refusal is the client's.
 class Version : public testing::TestWithParam<QSsl::SslProtocol> {};
 
-TEST_P(Version, IsSpokenByTheServer)
+TEST_P(Version, IsAcceptedByServer)
 {
     const RawServer server(Succeed, Speaking(GetParam()));
     QSslSocket client;

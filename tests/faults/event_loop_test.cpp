@@ -75,7 +75,7 @@ const std::vector<Event> kEvents = {
 struct EventCase {
     std::string name;
     Event event;
-    Way way;
+    CallMode mode;
     bool answered;
 };
 
@@ -89,11 +89,11 @@ std::vector<EventCase> Cases()
 {
     std::vector<EventCase> cases;
     for (const Event& event : kEvents) {
-        for (const Way& way : WaysOfAllCalls()) {
-            cases.push_back({event.name + ("_answered_" + NameOf(way)), event, way, true});
-            const bool bOnce = way.runner == Runner::Start || way.method == APIModule::Method_Get;
-            if (way.scheme == RawServer::Http && bOnce) {
-                cases.push_back({event.name + ("_silent_" + NameOf(way)), event, way, false});
+        for (const CallMode& mode : AllCallModes()) {
+            cases.push_back({event.name + ("_answered_" + NameOf(mode)), event, mode, true});
+            const bool bOnce = mode.runner == Runner::Start || mode.method == APIModule::Method_Get;
+            if (mode.scheme == RawServer::Http && bOnce) {
+                cases.push_back({event.name + ("_silent_" + NameOf(mode)), event, mode, false});
             }
         }
     }
@@ -105,9 +105,9 @@ protected:
     ~EventTest() override { BeginUse(); }
 };
 
-TEST_P(EventTest, LeavesTheCallItsResult)
+TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
 {
-    const auto& [name, event, way, answered] = GetParam();
+    const auto& [name, event, mode, answered] = GetParam();
     WarmUp();
     const Census atFirst = Census::Now();
     {
@@ -126,15 +126,15 @@ TEST_P(EventTest, LeavesTheCallItsResult)
             happened.acquire();
             return bAnswered ? SuccessAnswer() : RawAnswer{};
         };
-        RawServer server(respond, way.scheme);
-        Use(server, way.scheme);
+        RawServer server(respond, mode.scheme);
+        Use(server, mode.scheme);
 
-        const bool bEnded = event.endsDialog && way.waiting == BehindDialog;
-        const bool bCancelled = event.endsStarted && way.runner == Runner::Start;
+        const bool bEnded = event.endsDialog && mode.waiting == BehindDialog;
+        const bool bCancelled = event.endsStarted && mode.runner == Runner::Start;
         const Outcome outcome = bCancelled ? IsCancelled() : answered && !bEnded ? Succeeds() : TimesOut();
         QElapsedTimer elapsed;
         elapsed.start();
-        ExpectOutcome(way, event.endsUse ? Unseen(outcome) : outcome, false, bEnded || answered ? 20 : 1);
+        ExpectOutcome(mode, event.endsUse ? WithoutNotification(outcome) : outcome, false, bEnded || answered ? 20 : 1);
         if (bEnded) {
             EXPECT_LT(elapsed.elapsed(), 10000) << "ends at once, not at its time-out";
         }
@@ -142,14 +142,14 @@ TEST_P(EventTest, LeavesTheCallItsResult)
 
         BeginUse();
         users.currentServerId = 1;
-        Use(server, way.scheme);
+        Use(server, mode.scheme);
         if (!m_parent) {
             m_parent = new QWidget;
             m_parent->show();
         }
-        ExpectSuccess(way);
+        ExpectSuccess(mode);
     }
-    ExpectNothingLeft(atFirst);
+    ExpectNoLeaks(atFirst);
 }
 
 INSTANTIATE_TEST_SUITE_P(Events, EventTest, testing::ValuesIn(Cases()), RowName());
@@ -199,18 +199,18 @@ int NestedTest::RunOne(std::size_t nDepth)
 {
     static constexpr End kEnds[] = {
         {"ok", 0, 0}, {"404", 404, 0}, {"closed", -1, -18}, {"silent", -1, kTimedOut}, {"orphaned", -1, kTimedOut}};
-    const auto ways = Ways();
-    Way way = ways[m_random() % ways.size()];
+    const auto modes = CallModes();
+    CallMode mode = modes[m_random() % modes.size()];
     const End& end = kEnds[m_random() % std::size(kEnds)];
     const bool bOrphaned = qstrcmp(end.path, "orphaned") == 0;
     if (bOrphaned) {
-        way.waiting = BehindDialog;
+        mode.waiting = BehindDialog;
     }
-    Use(*m_servers[way.scheme], way.scheme);
-    HostCall call = Call(way, QStringLiteral("/%1/%2").arg(QLatin1String(end.path)).arg(m_delays[nDepth]),
+    Use(*m_servers[mode.scheme], mode.scheme);
+    HostCall call = Call(mode, QStringLiteral("/%1/%2").arg(QLatin1String(end.path)).arg(m_delays[nDepth]),
                          qstrcmp(end.path, "silent") == 0 ? 1 : 20);
     std::unique_ptr<QWidget> parent;
-    if (way.waiting == BehindDialog) {
+    if (mode.waiting == BehindDialog) {
         parent = std::make_unique<QWidget>();
         parent->show();
         call.parent = parent.get();
@@ -258,14 +258,14 @@ TEST_P(NestedTest, EachCallHasItsOwnResult)
     notices.sort();
     m_notices.sort();
     EXPECT_EQ(notices, m_notices);
-    for (const Way& way : Ways()) {
-        Use(*m_servers[way.scheme], way.scheme);
-        ExpectSuccess(way);
+    for (const CallMode& mode : CallModes()) {
+        Use(*m_servers[mode.scheme], mode.scheme);
+        ExpectSuccess(mode);
     }
     for (auto& server : m_servers) {
         server.reset();
     }
-    ExpectNothingLeft(atFirst);
+    ExpectNoLeaks(atFirst);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, NestedTest, testing::Range(1U, 13U));

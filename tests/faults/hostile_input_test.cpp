@@ -176,7 +176,7 @@ class TextTest : public HostileInput, public testing::WithParamInterface<Hostile
 INSTANTIATE_TEST_SUITE_P(Texts, TextTest, testing::ValuesIn(kTexts), RowName());
 
 /// The one kind of path whose text ends at a zero byte, its bytes taken as characters.
-TEST_P(TextTest, StaysInAPathOfBytes)
+TEST_P(TextTest, IsSentBytewiseInAPath)
 {
     const std::string& text = GetParam().text;
     const RawRequest request = Send([&](void* p) { return CDMSModule::PackeSetHomePosition(p, text, -1); });
@@ -186,7 +186,7 @@ TEST_P(TextTest, StaysInAPathOfBytes)
     ExpectUsualHead(request, "POST", target);
 }
 
-TEST_P(TextTest, StaysInItsTextOfABody)
+TEST_P(TextTest, StaysInItsStringOfABody)
 {
     APIModule::QuickCommand command;
     command.quickCommandName = GetParam().text;
@@ -199,7 +199,7 @@ TEST_P(TextTest, StaysInItsTextOfABody)
     EXPECT_FALSE(request.body.contains('\n'));
 }
 
-TEST_P(TextTest, StaysInABodyOfItsOwn)
+TEST_P(TextTest, IsSentUnchangedAsABody)
 {
     const QString text = QString::fromStdString(GetParam().text);
     const RawRequest request = Send([&](void* p) {
@@ -211,7 +211,7 @@ TEST_P(TextTest, StaysInABodyOfItsOwn)
 }
 
 /// The client takes the steps up itself, so that the request goes elsewhere on the same server.
-TEST_F(HostileInput, StepsUpInAUrl)
+TEST_F(HostileInput, DotSegmentsInAUrlAreResolved)
 {
     const std::string text = "../../../admin";
     EXPECT_EQ(Send([&](void* p) { return CBRMSModule::PacketGetUserGroup(p, text, -1); }).target, "/brms/api/admin");
@@ -245,7 +245,7 @@ void PrintTo(const HeaderPlace& place, std::ostream* pStream)
 
 class HeaderTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, HeaderPlace>> {};
 
-TEST_P(HeaderTest, StaysInItsPlaceOrIsRefused)
+TEST_P(HeaderTest, StaysInItsHeaderOrIsRefused)
 {
     const auto& [text, place] = GetParam();
     HostCall call;

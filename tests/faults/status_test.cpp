@@ -1,11 +1,11 @@
-// Every status that a server can answer with. None is followed, none is asked again.
+// Every HTTP status. No redirect is followed and no request repeated.
 #include "FaultHost.h"
 
 using namespace testing_support;
 
 namespace {
 
-/// Answers "/<status>" with that status, and tells the client to go elsewhere.
+/// Replies to "/<status>" with that status and a redirect.
 RawAnswer Respond(const RawRequest& request)
 {
     const int nStatus = request.target.mid(1).toInt();
@@ -26,32 +26,32 @@ Outcome OutcomeOf(int nStatus)
     }
 }
 
-class StatusTest : public FaultHost, public testing::WithParamInterface<Way> {};
+class StatusTest : public FaultHost, public testing::WithParamInterface<CallMode> {};
 
-TEST_P(StatusTest, IsTheResult)
+TEST_P(StatusTest, ReturnsHttpStatus)
 {
-    const Way way = GetParam();
+    const CallMode mode = GetParam();
     WarmUp();
-    RawServer server(Respond, way.scheme);
-    Use(server, way.scheme);
-    ExpectSuccess(way);
+    RawServer server(Respond, mode.scheme);
+    Use(server, mode.scheme);
+    ExpectSuccess(mode);
     server.TakeRequests();
     const Census before = Census::Now();
     for (int nStatus = 200; nStatus < 600; ++nStatus) {
         SCOPED_TRACE(nStatus);
         const QString url = QStringLiteral("/%1").arg(nStatus);
         for (const bool bNotifyOnFailure : {false, true}) {
-            ExpectOutcome(way, OutcomeOf(nStatus), bNotifyOnFailure, 20, url);
+            ExpectOutcome(mode, OutcomeOf(nStatus), bNotifyOnFailure, 20, url);
             const std::vector<RawRequest> requests = server.TakeRequests();
             ASSERT_EQ(requests.size(), 1U);
             EXPECT_EQ(requests.front().target, url.toLatin1());
         }
     }
-    ExpectSuccess(way);
-    ExpectNothingLeft(before);
+    ExpectSuccess(mode);
+    ExpectNoLeaks(before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Statuses, StatusTest, testing::ValuesIn(WaysOfAllCalls()),
+INSTANTIATE_TEST_SUITE_P(Statuses, StatusTest, testing::ValuesIn(AllCallModes()),
                          [](const auto& row) { return NameOf(row.param); });
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Servers that keep a call waiting until its time-out ends it.
+// Servers that keep a call waiting until its time-out.
 #include "Descriptor.h"
 #include "FaultMatrix.h"
 
@@ -12,13 +12,13 @@ namespace {
 
 const QByteArray kHead = "HTTP/1.1 200 OK\r\n";
 
-/// Gives these bytes and no more.
-std::function<Place(RawServer::Scheme)> StopsAfter(const QByteArray& bytes)
+/// Sends these bytes and nothing more.
+std::function<FaultSetup(RawServer::Scheme)> StopsAfter(const QByteArray& bytes)
 {
     return Answers({bytes});
 }
 
-/// The whole answer, a byte a second.
+/// The complete reply, one byte a second.
 RawAnswer ByteASecond()
 {
     RawAnswer answer = SuccessAnswer();
@@ -26,16 +26,16 @@ RawAnswer ByteASecond()
     return answer;
 }
 
-/// Takes the connection and everything that comes over it, and says nothing, not even of TLS.
-Place TakesAnythingAndSaysNothing(RawServer::Scheme scheme)
+/// Accepts the connection and all data, and sends nothing, not even for TLS.
+FaultSetup TakesAnythingAndSaysNothing(RawServer::Scheme scheme)
 {
     auto silent = std::make_shared<RawServer>([](const RawRequest&) { return RawAnswer{}; });
-    Place place = BesideHealthy(scheme, silent->Port());
-    place.servers.push_back(silent);
-    return place;
+    FaultSetup setup = BesideHealthy(scheme, silent->Port());
+    setup.servers.push_back(silent);
+    return setup;
 }
 
-/// A listener that accepts nobody, with so many in its queue that there is no room for another.
+/// A listener that never accepts and whose queue is full.
 class FullListener {
 public:
     FullListener() : m_listener(BoundToLoopback())
@@ -54,12 +54,12 @@ private:
     Descriptor m_queue[4];
 };
 
-Place NeverAccepts(RawServer::Scheme scheme)
+FaultSetup NeverAccepts(RawServer::Scheme scheme)
 {
     const auto listener = std::make_shared<FullListener>();
-    Place place = BesideHealthy(scheme, listener->Port());
-    place.other = listener;
-    return place;
+    FaultSetup setup = BesideHealthy(scheme, listener->Port());
+    setup.other = listener;
+    return setup;
 }
 
 const std::vector<Fault> kFaults = {

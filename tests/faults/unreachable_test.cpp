@@ -1,4 +1,4 @@
-// Addresses from which nothing comes back. They lie in a network of the program's own, where there is one.
+// Addresses that never reply, in a network namespace of the test, where one can be created.
 #include "FaultMatrix.h"
 #include "support/TestApplication.h"
 
@@ -17,7 +17,7 @@ constexpr const char* kWithoutRoute = "198.51.100.1";
 
 bool g_bOwnNetwork = false;
 
-/// Leaves the machine's network for an empty one, as root there. Before the process has threads.
+/// Enters an empty network namespace, as its root. Must run before the process starts threads.
 bool EnterNetwork()
 {
     const auto user = std::to_string(getuid());
@@ -34,14 +34,14 @@ bool EnterNetwork()
     return true;
 }
 
-/// Runs a command of the shell, before there are threads.
+/// Runs a shell command. Must run before the process starts threads.
 bool RunsInShell(const std::string& command)
 {
     const std::string text = "PATH=$PATH:/usr/sbin:/sbin; " + command;
     return std::system(text.c_str()) == 0;  // NOLINT(cert-env33-c,concurrency-mt-unsafe): see above
 }
 
-/// A line whose other end takes what is sent to the address and drops it, since the address is none of its own.
+/// A link whose other end drops everything sent to the address, because no interface has it.
 bool MakeBlackHole()
 {
     return RunsInShell(
@@ -50,13 +50,13 @@ bool MakeBlackHole()
         std::string(kBlackHole) + " lladdr 02:00:00:00:00:02 dev near");
 }
 
-std::function<Place(RawServer::Scheme)> LiesAt(const char* host)
+std::function<FaultSetup(RawServer::Scheme)> LiesAt(const char* host)
 {
     return [host](RawServer::Scheme scheme) {
-        Place place = BesideHealthy(scheme, 443);
-        place.faulty.host = host;
-        place.missing = g_bOwnNetwork ? nullptr : "no network namespace can be made here, or iproute2 is not installed";
-        return place;
+        FaultSetup setup = BesideHealthy(scheme, 443);
+        setup.faulty.host = host;
+        setup.missing = g_bOwnNetwork ? nullptr : "no network namespace can be made here, or iproute2 is not installed";
+        return setup;
     };
 }
 
@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Unreachable, FaultMatrix, testing::ValuesIn(Matrix(kFau
 
 int main(int argc, char** argv)
 {
-    // An empty network without the means to set it up has no loopback address either.
+    // Without iproute2 the empty network could not be set up and would lack even the loopback address.
     g_bOwnNetwork = RunsInShell("command -v ip >/dev/null") && EnterNetwork() && MakeBlackHole();
     CountObjects();
     const TestApplication application(argc, argv);

@@ -49,18 +49,18 @@ QStringList Emitted()
     return texts;
 }
 
-TEST(ApplicationLifetimeTest, WithoutAnApplicationTheSignalIsAllThatHappens)
+TEST(ApplicationLifetimeTest, WithoutApplicationOnlyEmitsTheSignal)
 {
     EXPECT_EQ(Emitted(), QStringList(QStringLiteral("hello")));
 }
 
-TEST(ApplicationLifetimeTest, WithoutWindowsTheSignalIsAllThatHappens)
+TEST(ApplicationLifetimeTest, WithoutWindowsOnlyEmitsTheSignal)
 {
     const QCoreApplication application(g_nArguments, g_arguments);
     EXPECT_EQ(Emitted(), QStringList(QStringLiteral("hello")));
 }
 
-TEST(ApplicationLifetimeTest, ApplicationsComeAndGoWithToastsOpen)
+TEST(ApplicationLifetimeTest, SurvivesSeveralApplicationsWithOpenToasts)
 {
     for (int i = 0; i < 3; ++i) {
         const TestApplication application(g_nArguments, g_arguments);
@@ -71,7 +71,7 @@ TEST(ApplicationLifetimeTest, ApplicationsComeAndGoWithToastsOpen)
     EXPECT_EQ(Emitted(), QStringList(QStringLiteral("hello")));
 }
 
-TEST(ApplicationLifetimeTest, ToastClosedButNotYetDeletedGoesWithTheApplication)
+TEST(ApplicationLifetimeTest, ClosedToastIsDeletedWithTheApplication)
 {
     const TestApplication application(g_nArguments, g_arguments);
     Notify("one");
@@ -82,7 +82,7 @@ TEST(ApplicationLifetimeTest, ToastClosedButNotYetDeletedGoesWithTheApplication)
     EXPECT_EQ(VisibleWindows(), 0);
 }
 
-TEST(ApplicationLifetimeTest, OpenToastsGoWhenTheApplicationQuits)
+TEST(ApplicationLifetimeTest, QuitClosesOpenToasts)
 {
     const TestApplication application(g_nArguments, g_arguments);
     for (int i = 0; i < 20; ++i) {
@@ -95,7 +95,7 @@ TEST(ApplicationLifetimeTest, OpenToastsGoWhenTheApplicationQuits)
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 
-TEST(ApplicationLifetimeTest, NeitherToastNorWaitDialogHoldsTheApplicationWhenItsLastWindowCloses)
+TEST(ApplicationLifetimeTest, ToastsAndWaitDialogsDoNotKeepTheApplicationRunning)
 {
     const TestApplication application(g_nArguments, g_arguments);
     QWidget window;
@@ -115,7 +115,7 @@ TEST(ApplicationLifetimeTest, NeitherToastNorWaitDialogHoldsTheApplicationWhenIt
     EXPECT_TRUE(bEndedByItself);
 }
 
-TEST(ApplicationLifetimeTest, LastWindowClosedDuringAWaitEndsTheApplication)
+TEST(ApplicationLifetimeTest, LastWindowClosedDuringAWaitQuitsTheApplication)
 {
     const TestApplication application(g_nArguments, g_arguments);
     for (const bool bOverTheWindow : {true, false}) {
@@ -138,7 +138,7 @@ TEST(ApplicationLifetimeTest, LastWindowClosedDuringAWaitEndsTheApplication)
     }
 }
 
-TEST(ApplicationLifetimeTest, ClosedToastOrStoppedWaitDialogDoesNotEndTheApplication)
+TEST(ApplicationLifetimeTest, ClosedToastOrStoppedWaitDialogDoesNotQuitTheApplication)
 {
     const TestApplication application(g_nArguments, g_arguments);
     QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
@@ -153,7 +153,7 @@ TEST(ApplicationLifetimeTest, ClosedToastOrStoppedWaitDialogDoesNotEndTheApplica
     EXPECT_EQ(lastWindowClosed.count(), 0);
 }
 
-TEST(ApplicationLifetimeTest, QuitEndsAWaitAndTakesTheDialogAway)
+TEST(ApplicationLifetimeTest, QuitEndsAWaitAndClosesTheDialog)
 {
     const TestApplication application(g_nArguments, g_arguments);
     QWidget window;

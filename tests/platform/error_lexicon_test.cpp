@@ -47,12 +47,12 @@ protected:
     void SetUp() override { SetLanguage("en"); }
 };
 
-TEST_F(ErrorLexiconTest, AnswersBeforeMain)
+TEST_F(ErrorLexiconTest, WorksBeforeMain)
 {
     EXPECT_EQ(g_beforeMain, "The server cannot be reached because of a network error");
 }
 
-TEST_F(ErrorLexiconTest, UnknownCodeLeavesTheTextAlone)
+TEST_F(ErrorLexiconTest, UnknownCodeLeavesTheTextUnchanged)
 {
     for (const int nErrorCode : {0, 1, 399, 600, 1000, 1007, 424242, -2, INT_MIN, INT_MAX}) {
         std::string strText = "untouched";
@@ -61,7 +61,7 @@ TEST_F(ErrorLexiconTest, UnknownCodeLeavesTheTextAlone)
     }
 }
 
-TEST_F(ErrorLexiconTest, KnowsEveryPromisedCodeInEveryLanguage)
+TEST_F(ErrorLexiconTest, HasEveryDocumentedCodeInEveryLanguage)
 {
     std::vector<int> codes{-1, -4, -18, -101, 3101, 7000, 1001, 1002, 1003, 1004, 1005, 1006};
     for (int nStatus = 400; nStatus <= 599; ++nStatus) {
@@ -77,7 +77,7 @@ TEST_F(ErrorLexiconTest, KnowsEveryPromisedCodeInEveryLanguage)
     }
 }
 
-TEST_F(ErrorLexiconTest, StatusWithoutATextOfItsOwnIsReadAsTheFirstOfItsClass)
+TEST_F(ErrorLexiconTest, StatusWithoutATextUsesTheTextOfItsClass)
 {
     EXPECT_EQ(Text(477), Text(400));
     EXPECT_EQ(Text(577), Text(500));
@@ -103,7 +103,7 @@ TEST_F(ErrorLexiconTest, LanguagesHaveTheSameCodesAndNoEmptyText)
     }
 }
 
-TEST_F(ErrorLexiconTest, EveryStatusRegisteredForHttpHasATextOfItsOwn)
+TEST_F(ErrorLexiconTest, EveryRegisteredHttpStatusHasItsOwnText)
 {
     const QJsonObject texts = TextsOf(QStringLiteral(ERROR_TEXTS "/en.json"));
     for (const int nStatus : {400, 401, 402, 403, 404, 405, 406, 407, 408, 409, 410, 411, 412, 413, 414, 415,
@@ -113,7 +113,7 @@ TEST_F(ErrorLexiconTest, EveryStatusRegisteredForHttpHasATextOfItsOwn)
     }
 }
 
-TEST_F(ErrorLexiconTest, LanguageIsKnownByItsFirstPartWhateverItsCase)
+TEST_F(ErrorLexiconTest, LanguageIsMatchedByItsFirstPartIgnoringCase)
 {
     struct Row {
         const char* language;
@@ -133,7 +133,7 @@ TEST_F(ErrorLexiconTest, LanguageIsKnownByItsFirstPartWhateverItsCase)
     }
 }
 
-TEST_F(ErrorLexiconTest, AnswersFromManyThreadsWhileTheLanguageChanges)
+TEST_F(ErrorLexiconTest, WorksOnManyThreadsWhileTheLanguageChanges)
 {
     const std::string english = Text(-1);
     SetLanguage("de");

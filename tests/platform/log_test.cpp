@@ -78,7 +78,7 @@ protected:
     bool capturing = true;
 };
 
-TEST_F(LogTest, ObserverGetsTheRecordOnceAndStandardErrorTheLine)
+TEST_F(LogTest, ObserverReceivesTheRecordOnceAndStandardErrorTheLine)
 {
     Log().Log("src/File", 42, "Space::Function", "tag", 6, "%s is %d %%", "answer", 42);
 
@@ -127,14 +127,14 @@ TEST_F(LogTest, NullTextsAreEmpty)
     EXPECT_EQ(records[0].strMessage, "");
 }
 
-TEST_F(LogTest, TextsThatLookLikeFormatsAreTakenAsTheyAre)
+TEST_F(LogTest, TextsThatLookLikeFormatsAreLoggedUnchanged)
 {
     Log().Log("{}", 1, "{0}%s", "%n{}", 4, "%s", "%s%n {} {:>99999}");
     EXPECT_EQ(records.at(0).strMessage, "%s%n {} {:>99999}");
     EXPECT_NE(Stderr().find("{}:1 {0}%s: [%n{}] %s%n {} {:>99999}\n"), std::string::npos);
 }
 
-TEST_F(LogTest, MessagesOfAnyLengthComeThroughWhole)
+TEST_F(LogTest, MessagesOfAnyLengthAreLoggedCompletely)
 {
     for (const std::size_t length : {0U, 1U, 255U, 256U, 1023U, 4096U, 65536U, 20U * 1024U * 1024U}) {
         const std::string message(length, 'm');
@@ -146,20 +146,20 @@ TEST_F(LogTest, MessagesOfAnyLengthComeThroughWhole)
     EXPECT_NE(Stderr().find(std::string(std::size_t{20} * 1024 * 1024, 'm')), std::string::npos);
 }
 
-TEST_F(LogTest, ZeroByteInAMessageDoesNotEndIt)
+TEST_F(LogTest, ZeroByteDoesNotTruncateAMessage)
 {
     Log().Log("f", 1, "g", "", 4, "a%cb", '\0');
     EXPECT_EQ(records.at(0).strMessage, std::string("a\0b", 3));
 }
 
-TEST_F(LogTest, FormatThatCannotBeCarriedOutGivesItsOwnText)
+TEST_F(LogTest, InvalidFormatIsLoggedAsItsText)
 {
     const wchar_t invalid[] = {static_cast<wchar_t>(0x7fffffff), 0};
     Log().Log("f", 1, "g", "", 4, "wide %ls", invalid);
     EXPECT_EQ(records.at(0).strMessage, "wide %ls");
 }
 
-TEST_F(LogTest, FileGetsTheRecordsUntilAnEmptyNameEndsIt)
+TEST_F(LogTest, FileReceivesRecordsUntilTheNameIsEmpty)
 {
     const fs::path file = folder / fs::u8path("Protokoll-üß-日志.log");
     Say("before");
@@ -174,7 +174,7 @@ TEST_F(LogTest, FileGetsTheRecordsUntilAnEmptyNameEndsIt)
     EXPECT_EQ(Count(text, "before") + Count(text, "during") + Count(text, "after"), 3) << text;
 }
 
-TEST_F(LogTest, AnotherFileReplacesTheFirstAndTheSameOneIsContinued)
+TEST_F(LogTest, SetFileReplacesTheFileAndAppendsToTheSameOne)
 {
     const fs::path first = folder / "first.log";
     const fs::path second = folder / "made" / "for it" / "second.log";
@@ -208,7 +208,7 @@ TEST_F(LogTest, FileRotatesAndStaysBounded)
     EXPECT_LE(nBytes, 21U * 1024U * 1024U);
 }
 
-TEST_F(LogTest, FileThatCannotBeOpenedIsReportedAndStandardErrorGoesOnAlone)
+TEST_F(LogTest, UnopenableFileIsReportedAndStandardErrorContinues)
 {
     const fs::path good = folder / "good.log";
     Log().SetFile(good.string());
@@ -257,7 +257,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Loss{"deleted_with_its_folder", [](const fs::path& file) { fs::remove_all(file.parent_path()); }}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(LogTest, LostFileThatCannotBeOpenedIsTriedAgain)
+TEST_F(LogTest, LostFileIsRetriedUntilItCanBeOpened)
 {
     const fs::path file = folder / "logs" / "one.log";
     Log().SetFile(file.string());
@@ -303,7 +303,7 @@ TEST_F(LogTest, ObserverMayReplaceItself)
     EXPECT_EQ(alive.use_count(), 1);
 }
 
-TEST_F(LogTest, ObserverThatIsReleasedMayLog)
+TEST_F(LogTest, ObserverMayLogInItsDestructor)
 {
     const std::shared_ptr<int> farewell(new int, [](const int* p) {
         delete p;
@@ -317,7 +317,7 @@ TEST_F(LogTest, ObserverThatIsReleasedMayLog)
     EXPECT_NE(Stderr().find("farewell"), std::string::npos);
 }
 
-TEST_F(LogTest, EmptyObserverEndsTheWatch)
+TEST_F(LogTest, EmptyObserverStopsObserving)
 {
     Say("seen");
     Log().SetObserver({});
@@ -326,7 +326,7 @@ TEST_F(LogTest, EmptyObserverEndsTheWatch)
     EXPECT_EQ(records[0].strMessage, "seen");
 }
 
-TEST_F(LogTest, WhatAnObserverThrowsIsDropped)
+TEST_F(LogTest, ExceptionsOfAnObserverAreDropped)
 {
     Log().SetObserver([](const LogRecord&) { throw std::runtime_error("from the observer"); });
     EXPECT_NO_THROW(Say("first"));
@@ -411,7 +411,7 @@ TEST_F(ClosedPipeTest, DoesNotEndTheProcess)
     EXPECT_EXIT(log(), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(ClosedPipeTest, SignalsOthersThanTheLogAsBefore)
+TEST_F(ClosedPipeTest, StillSignalsWritesOutsideTheLog)
 {
     const auto write = [] {
         CloseStandardError();
@@ -422,7 +422,7 @@ TEST_F(ClosedPipeTest, SignalsOthersThanTheLogAsBefore)
     EXPECT_EXIT(write(), testing::KilledBySignal(SIGPIPE), "");
 }
 
-TEST_F(ClosedPipeTest, LeavesASignalThatTheHostHoldsBack)
+TEST_F(ClosedPipeTest, KeepsASignalBlockedByTheHost)
 {
     const auto log = [] {
         CloseStandardError();

@@ -110,7 +110,7 @@ protected:
     QWidget window;
 };
 
-TEST_F(NotificationTest, SignalComesOnceAndInsideTheCall)
+TEST_F(NotificationTest, SignalIsEmittedOnceInsideTheCall)
 {
     QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
     Passing(QStringLiteral("<i>text</i>"));
@@ -118,7 +118,7 @@ TEST_F(NotificationTest, SignalComesOnceAndInsideTheCall)
     EXPECT_EQ(added.first().first().toString(), QStringLiteral("<i>text</i>"));
 }
 
-TEST_F(NotificationTest, ToastIsShownAtOnceAndTakesNoFocus)
+TEST_F(NotificationTest, ToastIsShownAtOnceWithoutTakingFocus)
 {
     Passing(QStringLiteral("Saved"));
     ASSERT_EQ(Texts(), QStringList(QStringLiteral("Saved")));
@@ -164,7 +164,7 @@ TEST_F(NotificationTest, ToastsStackInTheCornerOfTheActiveWindowAndFollowIt)
     expectStacked("resized");
 }
 
-TEST_F(NotificationTest, WithoutAnActiveWindowTheyStackInTheCornerOfTheScreen)
+TEST_F(NotificationTest, WithoutAnActiveWindowToastsStackInTheCornerOfTheScreen)
 {
     window.hide();
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() == nullptr; }));
@@ -173,7 +173,7 @@ TEST_F(NotificationTest, WithoutAnActiveWindowTheyStackInTheCornerOfTheScreen)
     EXPECT_EQ(area.bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
-TEST_F(NotificationTest, TheyGoToAnotherWindowThatBecomesActive)
+TEST_F(NotificationTest, ToastsMoveToTheWindowThatBecomesActive)
 {
     Staying(QStringLiteral("one"));
     QWidget other;
@@ -184,7 +184,7 @@ TEST_F(NotificationTest, TheyGoToAnotherWindowThatBecomesActive)
     EXPECT_TRUE(QTest::qWaitFor([&] { return other.geometry().contains(Toasts().at(0)->geometry()); }));
 }
 
-TEST_F(NotificationTest, WaitDialogIsNoPlaceForThem)
+TEST_F(NotificationTest, ToastsIgnoreTheWaitDialog)
 {
     OrnWaitDialog dialog(&window, true);
     dialog.show();
@@ -194,7 +194,7 @@ TEST_F(NotificationTest, WaitDialogIsNoPlaceForThem)
     EXPECT_EQ(window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
-TEST_F(NotificationTest, TheyStayOnTheScreenWhateverTheWindow)
+TEST_F(NotificationTest, ToastsStayOnTheScreenWhateverTheWindow)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     for (const QRect& geometry : {QRect(screen.right() - 50, screen.bottom() - 50, 300, 300),
@@ -209,7 +209,7 @@ TEST_F(NotificationTest, TheyStayOnTheScreenWhateverTheWindow)
     }
 }
 
-TEST_F(NotificationTest, StayingToastGoesWithAClickAndTheOthersCloseUp)
+TEST_F(NotificationTest, ClickClosesAPersistentToastAndTheOthersMoveUp)
 {
     Staying(QStringLiteral("one"));
     Staying(QStringLiteral("two"));
@@ -227,7 +227,7 @@ TEST_F(NotificationTest, ClickOnTheTextCountsToo)
     EXPECT_TRUE(Toasts().isEmpty());
 }
 
-TEST_F(NotificationTest, ManyThatStayAreAllShownInTurn)
+TEST_F(NotificationTest, ManyPersistentToastsAreShownInTurn)
 {
     constexpr int kMany = 40;
     for (int i = 0; i < kMany; ++i) {
@@ -246,7 +246,7 @@ TEST_F(NotificationTest, ManyThatStayAreAllShownInTurn)
     EXPECT_EQ(seen.size(), kMany);
 }
 
-TEST_F(NotificationTest, ThoseThatStayLeaveRoomForThosePassing)
+TEST_F(NotificationTest, PersistentToastsLeaveRoomForTransientOnes)
 {
     for (int i = 0; i < 40; ++i) {
         Staying(QString::number(i));
@@ -288,7 +288,7 @@ TEST_F(NotificationTest, ButtonMayLackTextAndLink)
     EXPECT_TRUE(Toasts().isEmpty());
 }
 
-TEST_F(NotificationTest, NothingToSayShowsNoToast)
+TEST_F(NotificationTest, EmptyTextShowsNoToast)
 {
     QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
     Staying(QString());
@@ -299,7 +299,7 @@ TEST_F(NotificationTest, NothingToSayShowsNoToast)
     EXPECT_EQ(Toasts().size(), 1);
 }
 
-TEST_F(NotificationTest, ToastsAreBoundedHoweverLongTheText)
+TEST_F(NotificationTest, ToastSizeIsLimitedForLongTexts)
 {
     const QString word = QStringLiteral("word ");
     for (const QString& strText :
@@ -322,7 +322,7 @@ TEST_F(NotificationTest, ToastsAreBoundedHoweverLongTheText)
     }
 }
 
-TEST_F(NotificationTest, TextOfAFewLinesIsShownWhole)
+TEST_F(NotificationTest, TextOfAFewLinesIsShownCompletely)
 {
     const QString strText = QStringLiteral("A message that needs some lines of the toast before all of it is told,\n"
                                            "with a break of its own.");
@@ -331,7 +331,7 @@ TEST_F(NotificationTest, TextOfAFewLinesIsShownWhole)
     EXPECT_GT(Toasts().at(0)->height(), 60);
 }
 
-TEST_F(NotificationTest, PassingToastGoesAfterAboutFiveSecondsAndOneThatStaysDoesNot)
+TEST_F(NotificationTest, TransientToastClosesAfterAboutFiveSecondsAndPersistentOneStays)
 {
     QElapsedTimer clock;
     clock.start();
@@ -342,7 +342,7 @@ TEST_F(NotificationTest, PassingToastGoesAfterAboutFiveSecondsAndOneThatStaysDoe
     EXPECT_LE(clock.elapsed(), 6500);
 }
 
-TEST_F(NotificationTest, ThousandsAreGoneWithinTenSeconds)
+TEST_F(NotificationTest, ThousandsOfToastsCloseWithinTenSeconds)
 {
     constexpr int kMany = 3000;
     QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);

@@ -44,7 +44,7 @@ TEST(SingletonTest, WorksForAnyDefaultConstructibleType)
     EXPECT_EQ(&OrnSingleton<KeepsItsDestructor>::Instance(), &OrnSingleton<KeepsItsDestructor>::Instance());
 }
 
-TEST(SingletonTest, IsMadeOnceWhenManyThreadsAsk)
+TEST(SingletonTest, IsCreatedOnceWhenManyThreadsAsk)
 {
     constexpr std::size_t kThreads = 16;
     std::vector<const Counted*> seen(kThreads);
@@ -66,7 +66,7 @@ TEST(SingletonTest, IsMadeOnceWhenManyThreadsAsk)
     EXPECT_EQ(reinterpret_cast<std::uintptr_t>(seen[0]) % alignof(Counted), 0U);
 }
 
-TEST(SingletonTest, NotificationsAreOneForAllLibraries)
+TEST(SingletonTest, NotificationsAreSharedByAllLibraries)
 {
     for (const char* path : {PROBE_A, PROBE_B}) {
         QLibrary library(QString::fromUtf8(path));

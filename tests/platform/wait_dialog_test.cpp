@@ -81,7 +81,7 @@ TEST(WaitDialogTest, IsCentredOnTheScreenWithoutAParent)
     EXPECT_EQ(dialog.geometry().center(), QGuiApplication::primaryScreen()->availableGeometry().center());
 }
 
-TEST(WaitDialogTest, IsCentredOverItsParentWhereverThatGoes)
+TEST(WaitDialogTest, IsCentredOverItsParentWhereverItMoves)
 {
     for (const bool bCoverParent : {false, true}) {
         const Window host;
@@ -125,7 +125,7 @@ TEST(WaitDialogTest, FollowsAParentIntoAnotherWindow)
     EXPECT_EQ(dialog.geometry().center(), OnScreen(*host.panel).center());
 }
 
-TEST(WaitDialogTest, CoverDimsTheParentAndNothingElse)
+TEST(WaitDialogTest, CoverDimsOnlyTheParent)
 {
     const Window host;
     QPalette white;
@@ -157,7 +157,7 @@ TEST(WaitDialogTest, WithoutCoverOnlyTheIndicatorShows)
     EXPECT_EQ(host.window->grab().toImage(), before);
 }
 
-TEST(WaitDialogTest, CoverTakesTheParentsResizesAndStaysWithinWhatIsSeen)
+TEST(WaitDialogTest, CoverFollowsResizesOfTheParentWithinTheVisibleArea)
 {
     const Window host;
     OrnWaitDialog dialog(host.panel, true);
@@ -171,7 +171,7 @@ TEST(WaitDialogTest, CoverTakesTheParentsResizesAndStaysWithinWhatIsSeen)
     EXPECT_TRUE(Veils(*host.window).isEmpty());
 }
 
-TEST(WaitDialogTest, CoverIsNoPaneOfASplitter)
+TEST(WaitDialogTest, CoverDoesNotBecomeAPaneOfASplitter)
 {
     QSplitter splitter;
     splitter.addWidget(new QWidget);
@@ -292,7 +292,7 @@ TEST(WaitDialogTest, StopEndsShow)
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(WaitDialogTest, StopIsHarmlessWhenNotShownAndDoesNotCancelALaterExec)
+TEST(WaitDialogTest, StopBeforeShowingDoesNotAffectALaterExec)
 {
     OrnWaitDialog dialog(nullptr, true);
     QSignalSpy finished(&dialog, &QDialog::finished);
@@ -423,7 +423,7 @@ INSTANTIATE_TEST_SUITE_P(
         return std::string(std::get<0>(row.param).name) + (std::get<1>(row.param) ? "Covered" : "Uncovered");
     });
 
-TEST(WaitDialogTest, DestroyedParentThatIsAWindowItself)
+TEST(WaitDialogTest, DestroyedParentWindowEndsTheWait)
 {
     for (const bool bCoverParent : {false, true}) {
         auto window = std::make_unique<QWidget>();
@@ -436,7 +436,7 @@ TEST(WaitDialogTest, DestroyedParentThatIsAWindowItself)
     }
 }
 
-TEST(WaitDialogTest, TakenFromItsParentItNoLongerMindsThatParent)
+TEST(WaitDialogTest, AfterReparentingIgnoresTheFormerParent)
 {
     auto window = std::make_unique<QWidget>();
     window->show();
@@ -449,7 +449,7 @@ TEST(WaitDialogTest, TakenFromItsParentItNoLongerMindsThatParent)
     EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST(WaitDialogTest, DeletedWhileShownLeavesNothingOnItsParent)
+TEST(WaitDialogTest, DeletionWhileShownLeavesNothingOnTheParent)
 {
     const Window host;
     {
@@ -464,7 +464,7 @@ TEST(WaitDialogTest, DeletedWhileShownLeavesNothingOnItsParent)
     Settle();
 }
 
-TEST(WaitDialogTest, DeletedWhileExecutingItReturns)
+TEST(WaitDialogTest, ExecReturnsWhenTheDialogIsDeleted)
 {
     QPointer<OrnWaitDialog> dialog = new OrnWaitDialog(nullptr, true);
     QTimer::singleShot(0, qApp, [&] { delete dialog; });

@@ -32,7 +32,7 @@ struct HostCall {
     bool notifyOnFailure = true;
 };
 
-/// Runs a call with a Pack of its own.
+/// Runs a call with a Pack of the test.
 int Execute(const HostCall& call);
 
 /// A host that has initialised the library and knows one server.

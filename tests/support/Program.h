@@ -36,7 +36,7 @@ public:
 
     /// Waits until the text is printed. @return false when the program ends before
     bool WaitFor(const std::string& text);
-    /// The port in the line that begins with the scheme, once it is printed.
+    /// Waits for the line that starts with the scheme. @return the port in that line
     int Port(const std::string& scheme);
     void Signal(int number) const;
     /// Waits for the end. @return the status, -1 when the program crashed or does not end

@@ -41,18 +41,18 @@ struct RawAnswer {
         Close,
         CloseLater,
         Reset,
-        HalfClose,  ///< sends no more, goes on reading; over TLS without its notice
+        HalfClose,  ///< stops sending but keeps reading; over TLS without a close notification
         Vanish      ///< the other side learns of it when it sends; as root only
     };
 
-    QByteArray bytes;             ///< goes over the wire as it is; nothing when empty
+    QByteArray bytes;             ///< sent unchanged; nothing when empty
     int delayMilliseconds = 0;    ///< before the bytes
     Then then = KeepOpen;         ///< after the bytes
     int trickleMilliseconds = 0;  ///< between one byte and the next; 0 sends all at once
     QByteArray moreBytes = {};    ///< sent as a separate segment and TLS record
     int moreMilliseconds = 0;     ///< between the bytes and more bytes
     int endlessPerSecond = 0;     ///< sends more bytes again and again, so many a second, until the server is destroyed
-    int thenMilliseconds = 0;     ///< between the last byte and what comes after it
+    int thenMilliseconds = 0;     ///< delay between the last byte and the end
     std::shared_ptr<void> done = {};  ///< let go when everything above has happened or the connection is gone
 };
 
@@ -65,7 +65,7 @@ RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreH
 /// What an HTTPS server with this certificate needs.
 QSslConfiguration ServerConfiguration(const Certificate& certificate);
 
-/// A server on loopback in a thread of its own, with full control of the bytes that it sends.
+/// A server on loopback, on a separate thread, with full control of the bytes that it sends.
 class RawServer {
 public:
     using Responder = std::function<RawAnswer(const RawRequest&)>;
@@ -76,7 +76,7 @@ public:
     };
 
     explicit RawServer(const Responder& responder, Scheme scheme = Http);
-    /// An HTTPS server of its own kind.
+    /// An HTTPS server with this TLS configuration.
     RawServer(const Responder& responder, const QSslConfiguration& configuration);
     ~RawServer();
     RawServer(const RawServer&) = delete;

@@ -25,7 +25,7 @@ std::ostream& operator<<(std::ostream& stream, const LogLine& line);
 
 using LogLines = std::vector<LogLine>;
 
-/// Collects what goes through the logger while it lives.
+/// Collects everything that is logged during its lifetime.
 class LogRecorder {
 public:
     LogRecorder();

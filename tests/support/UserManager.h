@@ -8,7 +8,7 @@
 
 namespace testing_support {
 
-/// A host's user manager that knows the servers it is told of.
+/// A host's user manager with a configurable list of servers.
 class UserManager : public UserLogical::IUserManager {
 public:
     struct Server {

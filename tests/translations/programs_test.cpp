@@ -137,7 +137,7 @@ TEST_P(Programs, ErrorsAreTranslated)
                   texts.noSeed);
 }
 
-TEST_P(Programs, AFailedCallIsToldInOneLanguage)
+TEST_P(Programs, FailedCallIsReportedInOneLanguage)
 {
     const Ended ended = Apicall(
         {QStringLiteral("--server"), QStringLiteral("http://127.0.0.1:0"), QStringLiteral("BRMS.GetTimeSyncConfig")});
@@ -146,7 +146,7 @@ TEST_P(Programs, AFailedCallIsToldInOneLanguage)
     ExpectLineWith(ended.err, std::string("apicall: ") + GetParam().texts.unreachable + "\n");
 }
 
-TEST_P(Programs, TheListHasTheSameNamesInEveryLanguageAndTheTranslationsOfTheSummaries)
+TEST_P(Programs, ListHasSameNamesAndTranslatedSummariesInEveryLanguage)
 {
     QTranslator translations;
     ASSERT_TRUE(translations.load(QStringLiteral("tools_") + QLatin1String(GetParam().texts.language),

@@ -26,7 +26,7 @@ namespace {
 
 using Pairs = QList<QNetworkReply::RawHeaderPair>;
 
-/// A whole answer of whatever status, but for 401, or what is wrong instead.
+/// A complete reply with any status but 401, or the error instead.
 struct Read {
     bool answered = false;
     int status = 0;
@@ -237,8 +237,8 @@ int ThreadCount()
 
 class Differential : public testing::TestWithParam<Row> {
 protected:
-    /// The thread of Qt's network manager goes on for a moment after its manager. At the end of the process it would
-    /// release what OpenSSL releases then.
+    /// The thread of Qt's network manager keeps running for a moment after its manager. At the end of the process it
+    /// would release what OpenSSL releases then.
     ~Differential() override
     {
         QElapsedTimer elapsed;
@@ -252,7 +252,7 @@ private:
     const int m_nThreads = ThreadCount();
 };
 
-TEST_P(Differential, ReadsAnswersAsQtButForTheListedDifferences)
+TEST_P(Differential, ReadsRepliesLikeQtExceptForTheListedDifferences)
 {
     const auto& [answer, scheme] = GetParam();
     const RawServer server([bytes = answer.answer](const RawRequest&) { return bytes; }, scheme);

@@ -1,4 +1,4 @@
-// Servers that send and send. The time-out ends the call, whatever comes, and leaves nothing of it.
+// Servers that send endlessly. The time-out ends the call and releases all its resources.
 #include "support/Rows.h"
 #include "TransportHost.h"
 
@@ -11,7 +11,7 @@ using namespace testing_support;
 
 namespace {
 
-/// What a server begins with, and what it then repeats.
+/// What a server sends first, and what it then repeats.
 struct Endless {
     const char* name;
     QByteArray first;
@@ -67,7 +67,7 @@ int Threads()
 
 class EndlessAnswer : public TransportHost, public testing::WithParamInterface<Row> {};
 
-TEST_P(EndlessAnswer, EndsWithTheTimeOutOrBefore)
+TEST_P(EndlessAnswer, EndsAtTheTimeOutOrBefore)
 {
     const Row& row = GetParam();
     WarmUp();
@@ -109,7 +109,7 @@ TEST_P(EndlessAnswer, EndsWithTheTimeOutOrBefore)
     ExpectNothingLeft(before);
 }
 
-// As much as goes through, and slowly enough that the client has read all that came.
+// As fast as possible, and slowly enough that the client has read everything.
 INSTANTIATE_TEST_SUITE_P(Fast, EndlessAnswer, testing::ValuesIn(Rows(500'000'000, 1)), RowName());
 INSTANTIATE_TEST_SUITE_P(Slow, EndlessAnswer, testing::ValuesIn(Rows(2'000'000, 1)), RowName());
 INSTANTIATE_TEST_SUITE_P(TenTimes, EndlessAnswer,

@@ -13,7 +13,7 @@ namespace {
 
 const QByteArray kForeign = TaggedAnswer(999999).bytes;
 
-/// What comes instead of the plain answer to a request, whose own data are @p own.
+/// What the server sends instead of the plain reply to a request, whose data are @p own.
 struct Foreign {
     const char* name;
     std::function<RawAnswer(const RawAnswer& own)> make;
@@ -111,7 +111,7 @@ std::vector<ForeignCase> Cases()
 
 class ForeignAnswer : public TransportHost, public testing::WithParamInterface<ForeignCase> {};
 
-TEST_P(ForeignAnswer, GoesToNoCall)
+TEST_P(ForeignAnswer, ReachesNoCall)
 {
     const auto& [name, foreign, scheme, between] = GetParam();
     const int nCalls = 8 * Times();

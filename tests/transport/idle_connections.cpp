@@ -1,4 +1,4 @@
-// Counts what becomes of calls whose kept connection ends about when they begin, beside bare QNetworkAccessManager:
+// Counts how calls end whose kept connection closes at about the time they begin, compared with QNetworkAccessManager:
 // prints the table of docs/testing.md.
 #include "support/TestApplication.h"
 #include "TransportHost.h"

@@ -35,7 +35,7 @@ const std::vector<Request> kWrites = {
     {"delete_300000", APIModule::Method_Delete, 300000},
 };
 
-/// What a server does with a request that it has read whole.
+/// What a server does with a request after reading it completely.
 struct End {
     const char* name;
     RawAnswer answer;
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Writes, WriteTest, testing::ValuesIn(Rows(kWrites)), Ro
 class ReadTest : public RepetitionTest {};
 
 /// The end of a connection that was kept may have come before the request.
-TEST_P(ReadTest, IsRepeatedOnceWhenNoByteCameOnAKeptConnection)
+TEST_P(ReadTest, IsRepeatedOnceWhenAKeptConnectionClosesBeforeAReply)
 {
     EXPECT_EQ(Arrivals(), GetParam().kept && GetParam().end.answer.bytes.isEmpty() ? 2 : 1);
 }
@@ -164,7 +164,7 @@ std::vector<Ending> Endings()
 
 class EndingTest : public TransportHost, public testing::WithParamInterface<Ending> {};
 
-TEST_P(EndingTest, CostsNoCallAndRepeatsNone)
+TEST_P(EndingTest, LosesNoCallAndRepeatsNone)
 {
     const Ending& row = GetParam();
     std::mutex mutex;
@@ -243,7 +243,7 @@ void PrintTo(const Pausing& row, std::ostream* pStream)
 
 class PauseTest : public TransportHost, public testing::WithParamInterface<Pausing> {};
 
-TEST_P(PauseTest, CostsNoWriteAndRepeatsNone)
+TEST_P(PauseTest, LosesNoWriteAndRepeatsNone)
 {
     const Pausing& row = GetParam();
     const int nWritesPerServer = row.writesPerServer * Times();

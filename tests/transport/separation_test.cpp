@@ -47,7 +47,7 @@ TEST_P(Separation, CredentialsAreNotSent)
     }
 }
 
-TEST_P(Separation, ConnectionsAreKeptWithinOneUseAndNotBeyond)
+TEST_P(Separation, ConnectionsAreKeptUntilUnInit)
 {
     RawServer server([](const RawRequest&) { return SuccessAnswer(); }, GetParam());
     Use(server, GetParam());
@@ -65,8 +65,8 @@ TEST_P(Separation, ConnectionsAreKeptWithinOneUseAndNotBeyond)
     EXPECT_EQ(server.ConnectionCount(), 3);
 }
 
-/// One that waits while use ends goes on to its result, on a connection that nobody uses after it.
-TEST_P(Separation, CallThatWaitsKeepsItsConnectionToItself)
+/// A call that waits during UnInit returns its result, on a connection that no later call uses.
+TEST_P(Separation, WaitingCallDoesNotShareItsConnection)
 {
     RawServer server(
         [](const RawRequest& request) {

@@ -57,7 +57,7 @@ protected:
     }
 };
 
-/// In which way a body comes.
+/// How a body is transferred.
 struct Transfer {
     const char* name;
     std::function<RawAnswer(const QByteArray& body)> make;
@@ -99,7 +99,7 @@ const std::vector<Transfer> kTransfers = {
 
 class TransferTest : public SizeTest, public testing::WithParamInterface<std::tuple<Transfer, RawServer::Scheme>> {};
 
-TEST_P(TransferTest, IsRefusedAboveTheLargestSizeAlone)
+TEST_P(TransferTest, IsRefusedOnlyAboveTheLimit)
 {
     const auto& [transfer, scheme] = GetParam();
     constexpr int kBody = 300000;
@@ -126,8 +126,8 @@ INSTANTIATE_TEST_SUITE_P(Transfers, TransferTest,
                                     (std::get<1>(row.param) == RawServer::Http ? "_http" : "_https");
                          });
 
-/// Nothing but the head comes, and the call does not wait for more.
-TEST_F(SizeTest, IsRefusedByItsLengthAtOnce)
+/// The server sends only the head, and the call does not wait for more.
+TEST_F(SizeTest, IsRefusedAtOnceByItsContentLength)
 {
     RawServer server([](const RawRequest&) {
         return RawAnswer{kOk + "Content-Length: " + QByteArray::number(kDefaultSize + 1) + "\r\n\r\n"};
@@ -151,7 +151,7 @@ void PrintTo(const Inflated& row, std::ostream* pStream)
 
 class InflatedTest : public SizeTest, public testing::WithParamInterface<Inflated> {};
 
-TEST_P(InflatedTest, OfAGigabyteEndsWithinItsMemory)
+TEST_P(InflatedTest, GigabyteOfGzipIsRefusedWithinTheMemoryLimit)
 {
     const QByteArray gzip = GzipOfMegabytes(1024);
     ASSERT_LT(gzip.size(), 2 * kMegabyte);

@@ -104,7 +104,7 @@ std::string Difference(const KnownParse& known, const QJsonObject& reply, const 
     return text.str();
 }
 
-TEST(RandomReplies, AreReadAsTheReferenceReadsThem)
+TEST(RandomReplies, AreReadLikeTheReference)
 {
     if (KnownParses().empty()) {
         GTEST_SKIP() << "the calls of this subject have no Parse";
