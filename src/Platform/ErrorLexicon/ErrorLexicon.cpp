@@ -70,7 +70,7 @@ private:
     std::atomic<const Texts*> m_pChosen = &m_languages.at(kDefaultLanguage);
 };
 
-/// A status that has no text of its own is read as the first one of its class, as HTTP has it.
+/// A status without its own text is treated as the first one of its class, as HTTP demands.
 int StatusClass(int nErrorCode)
 {
     return nErrorCode >= 400 && nErrorCode <= 599 ? nErrorCode / 100 * 100 : nErrorCode;

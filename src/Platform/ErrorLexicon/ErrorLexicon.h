@@ -11,17 +11,17 @@ namespace ErrorLexicon {
 /// Looks up the text of an error code in the language that is set.
 ///
 /// Known are the results of the request library (-1, -4, -18, -101, 3101, 7000), the HTTP statuses 400 to 599 (one
-/// without a text of its own has that of its class, 400 or 500) and the codes of the platform emulator (1001 to 1006).
+/// without its own text has that of its class, 400 or 500) and the codes of the platform emulator (1001 to 1006).
 ///
 /// @param nErrorCode the code
 /// @param strText receives the text as UTF-8; untouched when the code is unknown
 /// @return 0 when the code is known, else -1
 ERRORLEXICON_EXPORT int ErrorLexiconQuery(int nErrorCode, std::string& strText);
 
-/// Chooses the language of the texts for the whole process, "en" at first.
+/// Sets the language of the texts for the process, initially "en".
 ///
-/// @param strLanguage known by its first part, before "-" or "_", in upper or lower case ("de", "DE", "de_AT"); with
-///        one that has no texts the lexicon speaks English
+/// @param strLanguage identified by its first part, before "-" or "_", in upper or lower case ("de", "DE", "de_AT");
+///        the texts of an unknown language are English
 ERRORLEXICON_EXPORT void SetLanguage(const std::string& strLanguage);
 
 }  // namespace ErrorLexicon

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Marks what the library exports; one form serves the library and its users.
+/// Marks the exported symbols, for the library and its users alike.
 #if defined(__GNUC__)
 #define ERRORLEXICON_EXPORT __attribute__((visibility("default")))
 #else

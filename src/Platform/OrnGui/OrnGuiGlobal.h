@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the library exports; a user needs no definition of its own to import it.
+/// Marks the exported symbols; a user needs no definition to import them.
 #if defined(ORNGUI_LIBRARY)
 #define ORNGUI_EXPORT Q_DECL_EXPORT
 #else

@@ -10,17 +10,17 @@ namespace ORNGUI {
 
 /// Short messages to the user, as toasts that stack in a corner of the active window, or of the screen without one.
 ///
-/// Toasts take no focus and do not keep the application from ending with its last window; open ones go when it quits.
-/// Hosts use the one instance of the process, OrnSingleton<OrnMessageNotify>::Instance(). GUI thread only.
+/// Toasts take no focus and do not keep the application running after its last window; quitting closes them. Hosts use
+/// the instance of the process, OrnSingleton<OrnMessageNotify>::Instance(). GUI thread only.
 class ORNGUI_EXPORT OrnMessageNotify : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows a toast. A click on it closes it; otherwise it goes by itself after about five seconds.
+    /// Shows a toast. A click closes it; otherwise it closes after about five seconds.
     ///
-    /// Where more toasts are wanted than have room, the others wait; one that would not be gone within ten seconds of
-    /// its call is left out, unless it is to stay open. A text too long for a toast is cut short. Without a
-    /// QApplication nothing is shown; nor is a toast with neither a text nor a button.
+    /// Toasts for which there is no room wait. One that could not close within ten seconds of its call is dropped,
+    /// unless it stays open. A text too long for a toast is truncated. Without a QApplication nothing is shown; nor is
+    /// a toast with neither a text nor a button.
     ///
     /// @param strText the message, shown as plain text
     /// @param bWithButton add a button that opens @p strLink and closes the toast

@@ -18,7 +18,7 @@ constexpr int kTurnMs = 1200;
 constexpr int kArcDegrees = 100;
 constexpr int kVeilAlpha = 110;
 
-/// Dims what it lies on and keeps the mouse from it. A child of the window, so that no compositor is needed.
+/// Dims the widget below it and blocks the mouse. A child of the window, so that no compositor is needed.
 class Veil : public QWidget {
 public:
     explicit Veil(QWidget* pWindow) : QWidget(pWindow)
@@ -32,7 +32,7 @@ protected:
     void paintEvent(QPaintEvent* /*pEvent*/) override { QPainter(this).fillRect(rect(), QColor(0, 0, 0, kVeilAlpha)); }
 };
 
-/// The part of a widget that its window shows, or the whole window when that is nothing, in coordinates of the window.
+/// The visible part of a widget, or its complete window if nothing of it is visible, in coordinates of the window.
 /// Empty when the window is not on the screen either.
 QRect SeenInWindow(const QWidget& widget)
 {
@@ -86,7 +86,7 @@ void OrnWaitDialog::OnStopWaitImmediately()
     }
 }
 
-// The loop is the dialog's own: the one of QDialog does not end when the dialog is stopped while it comes up.
+// Uses its own loop, because that of QDialog does not end when the dialog is stopped while it is being shown.
 int OrnWaitDialog::exec()
 {
     if (m_pLoop) {
@@ -193,7 +193,7 @@ void OrnWaitDialog::WatchParent()
 {
     disconnect(m_parentDestroyed);
     if (parentWidget() != nullptr) {
-        // Emitted before a widget deletes its children, of which this dialog is one.
+        // Emitted before a widget deletes its children, which include this dialog.
         m_parentDestroyed = connect(parentWidget(), &QObject::destroyed, this, &OrnWaitDialog::ParentDestroyed);
     }
     WatchAncestors();

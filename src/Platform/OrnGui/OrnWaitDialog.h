@@ -13,23 +13,23 @@ namespace ORNGUI {
 
 /// A moving busy indicator over a widget, without a title bar.
 ///
-/// Shown with show() it leaves the client usable, with exec() it is modal. Escape, the close button, accept(), reject()
+/// With show() the client stays usable, with exec() the dialog is modal. Escape, the close button, accept(), reject()
 /// and done() do not end it, nor does hiding or closing its parent's window; OnStopWaitImmediately() does. It takes no
-/// focus from the window under it, and does not keep the application from ending with its last window.
+/// focus from the window under it, and does not keep the application running after its last window.
 ///
-/// The dialog belongs to whoever made it. @p pParent is its Qt parent while both live; when the parent is destroyed,
-/// the dialog ends as by OnStopWaitImmediately() and stays behind hidden, without a parent, to be deleted by its maker.
-/// GUI thread only.
+/// The creator owns the dialog. @p pParent is its Qt parent while both exist; when the parent is destroyed, the dialog
+/// ends as by OnStopWaitImmediately() and remains hidden, without a parent, until its owner deletes it. GUI thread
+/// only.
 class ORNGUI_EXPORT OrnWaitDialog : public OrnDialog {
     Q_OBJECT
 
 public:
     /// @param pParent widget that the indicator is centred over, wherever it moves; null centres it on the screen
-    /// @param bCoverParent dim the parent and keep the mouse from it while the indicator shows
+    /// @param bCoverParent dim the parent and block the mouse over it while the indicator is shown
     OrnWaitDialog(QWidget* pParent, bool bCoverParent);
     ~OrnWaitDialog() override;
 
-public Q_SLOTS:  // NOLINT(readability-redundant-access-specifiers): tells moc that these are slots
+public Q_SLOTS:  // NOLINT(readability-redundant-access-specifiers): required by moc
     /// Ends exec() or show() at once. Harmless when the dialog is not shown: a later exec() or show() is not affected.
     void OnStopWaitImmediately();
 

@@ -47,7 +47,7 @@ spdlog::level::level_enum SpdlogLevel(int level)
     }
 }
 
-/// What a line tells before its message.
+/// The part of a line before its message.
 std::string Head(const char* file, int line, const char* function, std::string_view tag)
 {
     constexpr std::size_t kUsualSize = 384;
@@ -184,7 +184,7 @@ try {
 void TalPrintLog::SetObserver(std::function<void(const LogRecord&)> observer)
 {
     auto next = observer ? std::make_shared<const Observer>(std::move(observer)) : nullptr;
-    // The old observer is released after the lock: what it owns may log when it goes.
+    // The old observer is destroyed after the lock is released, because its destructor may log.
     const std::lock_guard<std::mutex> lock(d->observerMutex);
     d->observer.swap(next);
 }

@@ -30,8 +30,8 @@ public:
     TalPrintLog(const TalPrintLog&) = delete;
     TalPrintLog& operator=(const TalPrintLog&) = delete;
 
-    /// Writes one record; messages of any length come through whole. A standard error that is a closed pipe does not
-    /// end the process; one that is a full pipe holds the caller back.
+    /// Writes one record with a message of any length. If standard error is a closed pipe, the process continues; if it
+    /// is a full pipe, the call blocks.
     ///
     /// @param file source file; may be null
     /// @param line line in the source file
@@ -45,16 +45,16 @@ public:
     /// Replaces the observer.
     ///
     /// It is called once for each record, on the thread that logs and without a lock held, so it may log and replace
-    /// itself. A record that another thread is logging meanwhile may still reach the observer that was replaced. What
-    /// an observer throws is dropped.
+    /// itself. A record that another thread is logging meanwhile may still reach the observer that was replaced.
+    /// Exceptions of an observer are dropped.
     ///
-    /// @param observer takes each record; an empty function removes the one that is there
+    /// @param observer receives each record; an empty function removes the current one
     void SetObserver(std::function<void(const LogRecord&)> observer);
 
-    /// Names the rotating file that records go to beside standard error; an empty name ends it.
+    /// Sets the rotating file to which records are written in addition to standard error; an empty name stops that.
     ///
-    /// Missing folders are made. A file that cannot be opened is reported on standard error, which goes on alone. A
-    /// file that is deleted, moved away or replaced later is opened again by the next record.
+    /// Missing folders are created. If the file cannot be opened, that is reported on standard error, which continues
+    /// to receive all records. A file that is deleted, moved or replaced later is opened again by the next record.
     ///
     /// @param strFileName path in UTF-8
     void SetFile(const std::string& strFileName);

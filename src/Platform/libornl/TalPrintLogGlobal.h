@@ -1,6 +1,6 @@
 #pragma once
 
-/// ORNL_EXPORT marks what the library exports; one form serves the library and its users.
+/// ORNL_EXPORT marks the exported symbols, for the library and its users alike.
 /// ORNL_PRINTF has the compiler check a printf format and its arguments, counted from 1.
 #if defined(__GNUC__)
 #define ORNL_EXPORT __attribute__((visibility("default")))

@@ -27,13 +27,13 @@ constexpr int kCurrentServer = -1;
 constexpr const char* kGetRequestParam = "APIModule::CAPIModule::GetRequestParam";
 constexpr const char* kNoUserManager = "GetRequestParam failed! no user manager.";
 
-/// What the user manager knows of the server of a call.
+/// Address and token of the server of a call, from the user manager.
 struct ServerOfCall {
     UserLogical::ServerConnection connection;
     std::string strToken;
 };
 
-/// Asks the user manager, whose code may end the use of the library: @p pUserManager is then null. @return 0 or -1
+/// Asks the user manager, whose code may call UnInit(), which sets @p pUserManager to null. @return 0 or -1
 int AskUserManager(UserLogical::IUserManager* const& pUserManager, int nServerId, ServerOfCall& server)
 {
     if (nServerId == kCurrentServer) {
@@ -58,7 +58,7 @@ void Notify(const QString& text)
                                                                                    false);
 }
 
-/// Releases what the callables hold when a call returns, not when its caller's expression ends.
+/// Destroys the callables when a call returns, not at the end of the caller's full expression.
 class ReleaseOnReturn {
 public:
     ReleaseOnReturn(boost::function<int(void*)>& packetFunc, boost::function<int(QJsonObject const&)>& parseFunc)
@@ -201,7 +201,7 @@ int CAPIModule::GetRequestParam(void* pReqParamData, const Method& method, const
     return 0;
 }
 
-// The callables come by value: they are released before the call returns.
+// Passed by value because the public signature requires it; the callables are destroyed before the call returns.
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
 int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::function<int(QJsonObject const&)> parseFunc,
                              const QString& strUIError, QWidget* pParent, const QString& strSuccessTip,
@@ -209,7 +209,7 @@ int CAPIModule::ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::func
 {
     Q_D(CAPIModule);
     const ReleaseOnReturn release(packetFunc, parseFunc);
-    // The host may delete what it owns while the call waits.
+    // The host may delete its objects while the call waits.
     const QPointer<QWidget> parent(pParent);
     const QString uiError(strUIError);        // NOLINT(performance-unnecessary-copy-initialization)
     const QString successTip(strSuccessTip);  // NOLINT(performance-unnecessary-copy-initialization)
@@ -300,5 +300,5 @@ void CAPIModule::NotifyErrorMessage(const QString& strUIError, int errorCode, bo
 
 }  // namespace APIModule
 
-// Here, so that one unit holds the whole class: abidw loses functions of a class whose definitions are spread.
+// Defined in this file because abidw loses functions of a class that is defined in several units.
 #include "moc_APIModule.cpp"  // NOLINT(bugprone-suspicious-include)

@@ -34,10 +34,10 @@ enum Method {
 /// The name under which the meta-type system knows Method.
 using Method_e = Method;
 
-/// Description of one request. A Pack receives it as `void*` and fills it through CAPIModule::GetRequestParam.
+/// A request. A Pack receives it as `void*` and fills it through CAPIModule::GetRequestParam().
 struct RequestParam {
     int nPort = 443;                ///< TCP port of the server
-    int nTimeout = 10;              ///< longest wait for the reply, in seconds; 0 or less does not wait for it
+    int nTimeout = 10;              ///< longest wait for the reply, in seconds; 0 or less does not wait
     bool bHttps = true;             ///< HTTPS instead of HTTP
     bool bCompress = false;         ///< send the header "Compress-Type" with the value "1"
     Method eMethod = Method_Get;    ///< HTTP verb
@@ -46,7 +46,7 @@ struct RequestParam {
     std::string strBody;            ///< JSON body as UTF-8 text, empty for none
     std::string strToken;           ///< session token, sent as "X-Subject-Token"
     std::string strSequence;        ///< sent as "X-Subject-Sequence" unless it is empty
-    bool bExcludeUserInput = true;  ///< hold back user input while a call without wait dialog waits
+    bool bExcludeUserInput = true;  ///< hold back user input while a call waits without a wait dialog
 };
 
 struct ObservedExchange;
@@ -55,17 +55,20 @@ struct ServerTrust;
 class CAPIModulePrivate;
 class OutcomeBase;
 
-/// The one object through which every call runs.
+/// The façade through which every call runs.
 ///
-/// A call family supplies a Pack, which describes the request, and a Parse, which reads the data of the reply;
-/// ExecuteFuncs() runs the pair. The object belongs to the thread of the application object, and only that thread
-/// may call GetRequestParam() and ExecuteFuncs(). No exception crosses this interface.
+/// A host calls Init() once with its user manager and then makes calls: typed ones with Run() and Start() (Call.h), or
+/// pairs of a Pack and a Parse with ExecuteFuncs(). A Pack describes the request, a Parse reads the data of the reply.
 ///
-/// A Pack describes its request in the RequestParam behind `pReqParamData`, for the server `nServerId` (-1 for the user
-/// manager's current one) where it takes one; it returns 0, or the -1 of GetRequestParam() with the record untouched,
-/// and writes one log line either way. A Parse reads the "data" object of the reply; it returns 0, or -1 at the first
-/// key that cannot be read: what was read before that key stays filled, the rest is untouched. Lists are appended to
-/// what the caller's vector holds, each element when all of it was read, its inner lists included.
+/// The object belongs to the thread of the application object, and only that thread may make calls. No exception
+/// crosses this interface. There is no call without an event loop, and none on another thread; a host posts the work to
+/// the application's thread instead.
+///
+/// A Pack describes its request in the RequestParam behind `pReqParamData`. Where it takes a server `nServerId`, -1
+/// selects the user manager's current one. It returns 0, or the -1 of GetRequestParam() with the record untouched, and
+/// writes one log line either way. A Parse reads the "data" object of the reply. It returns 0, or stops with -1 at the
+/// first key that cannot be read: fields read before keep their new values, the others are untouched. Lists are
+/// appended to the caller's vector, each element once it was read completely, including its inner lists.
 class APIMODULE_EXPORT CAPIModule : public QObject {
     Q_OBJECT
 
@@ -75,71 +78,71 @@ public:
 
     ~CAPIModule() override;
 
-    /// Starts use: from now on calls reach their server through @p pUserManager and notifications are shown.
+    /// Attaches the user manager, which supplies servers and tokens for all calls, and enables notifications.
     ///
     /// A null argument, and every call after the first until UnInit(), is ignored without a message.
     ///
-    /// @param pUserManager stays the host's and must live until UnInit()
+    /// @param pUserManager owned by the host; must exist until UnInit()
     void Init(UserLogical::IUserManager* pUserManager);
 
-    /// Ends use: the user manager is forgotten and nothing is notified any more. A call that is waiting goes on to
-    /// its own result. Calls begun by Start() end as cancelled.
+    /// Detaches the user manager and stops showing notifications. A call that waits still returns its result. Calls of
+    /// Start() end as cancelled.
     void UnInit();
 
-    /// Chooses https or http for the calls that are packed from now on.
+    /// Selects https or http for all calls packed from now on.
     ///
     /// @param nHttpsMode 0 for http, any other value for https, which is the default
     void SetHttpsMode(int nHttpsMode);
 
-    /// Sets the language that the server answers in. The language of error texts is the error-text library's own
-    /// setting.
+    /// Sets the language of the server's replies. The error-text library has a separate setting for its texts.
     ///
     /// @param strLanguage value of "Accept-Language", "en" by default
     void SetLanguage(const std::string& strLanguage);
 
-    /// Limits the replies of the calls that begin from now on. A larger reply ends its call at once as a network error,
-    /// -18.
+    /// Limits the size of replies for all calls that begin from now on. A larger reply ends its call at once as a
+    /// network error, -18.
     ///
-    /// @param nBytes largest size in bytes, counted as received and again after decompression; 512 MiB by default. 1 is
-    ///        the least and 2,000,000,000 the most that has an effect.
+    /// @param nBytes largest size in bytes, counted as received and again after decompression; 512 MiB by default. It
+    ///        is limited to the range from 1 to 2,000,000,000.
     void SetMaximumReplySize(qint64 nBytes);
 
-    /// Names the servers that calls over HTTPS may talk to from now on; without this call they talk to every server.
+    /// Names the trusted servers for calls over HTTPS from now on. By default every server is trusted.
     ///
-    /// Nothing is sent to a server before it is known. A call to one that is not known ends as a network error, -18,
-    /// with a log line that names host, port, reason and the digest of its certificate. Calls that wait go on;
-    /// connections made before are not used again. Calls over HTTP are not concerned.
+    /// Nothing is sent to a server before it is trusted. A call to an untrusted server ends as a network error, -18,
+    /// with a log line that names host, port, reason and the digest of its certificate. Calls that wait continue;
+    /// existing connections are not reused. Calls over HTTP are not affected.
     ///
-    /// @param trust pins, authorities and the host's decision (ServerTrust.h); a default-made one trusts every server
+    /// @param trust pins, authorities and the host's decision (ServerTrust.h); a default-constructed one trusts every
+    ///        server
     void SetServerTrust(const ServerTrust& trust);
 
-    /// Sets the time-out of the typed calls (Call.h) that begin from now on and do not name one themselves.
+    /// Sets the time-out of all typed calls (Call.h) that begin from now on without Request::Within().
     ///
-    /// @param timeout in the place of the time-out of the Pack; nothing leaves it to the Pack, as by default
+    /// @param timeout replaces the time-out of the Pack; `std::nullopt`, the default, keeps that of the Pack
     void SetCallTimeout(std::optional<std::chrono::milliseconds> timeout);
 
-    /// Sets how long a typed call that waits over a parent lasts before the wait dialog appears. ExecuteFuncs() shows
-    /// the dialog at once.
+    /// Sets the delay after which a typed call with a parent shows the wait dialog. ExecuteFuncs() shows the dialog at
+    /// once.
     ///
     /// @param delay 300 ms by default; 0 shows the dialog at once
     void SetWaitDialogDelay(std::chrono::milliseconds delay);
 
-    /// Shows every exchange with a server, of typed calls and of ExecuteFuncs(), to the host.
+    /// Reports every exchange with a server, of typed calls and of ExecuteFuncs(), to the host.
     ///
     /// @param observer called at the end of each exchange that begins from now on (ObservedExchange.h); null for none
     void SetExchangeObserver(const std::function<void(const ObservedExchange&)>& observer);
 
-    /// Notifies the end of a typed call as ExecuteFuncs() notifies its own: a failure, unless the call was not packed,
-    /// in the host's words and those of its code, a success by its tip.
+    /// Notifies the outcome of a typed call as ExecuteFuncs() does for its calls: a failure with @p strUIError and the
+    /// text of its code, unless the call was not packed, and a success with its tip.
     ///
-    /// @param outcome what Run() returned or the function of Start() was given
-    /// @param strUIError the failure in the user's words; may be empty
+    /// @param outcome the outcome that Run() returned or that Start() delivered
+    /// @param strUIError description of the failure for the user; may be empty
     /// @param strSuccessTip notified after success unless empty
     /// @param bShowErrorCode add the text of the failure's code to the notification
     void NotifyOutcome(const OutcomeBase& outcome, const QString& strUIError, const QString& strSuccessTip = QString(),
                        bool bShowErrorCode = true);
 
-    /// Fills the RequestParam that a Pack was given; every Pack ends in this call.
+    /// Fills the RequestParam of a Pack; every Pack ends with this call.
     ///
     /// Host, port and session token come from the user manager, the scheme from SetHttpsMode().
     ///
@@ -159,22 +162,22 @@ public:
 
     /// Runs one call: packs the request, sends it, waits, judges the reply, parses its data and notifies the user.
     ///
-    /// Waiting runs the event loop, behind a modal wait dialog over @p pParent or, without a parent, in a local event
-    /// loop, so timers and paint events go on. Whatever happens meanwhile (the parent or the dialog is deleted,
-    /// somebody else stops the dialog, UnInit(), another call, the end of the application) the call returns, with the
-    /// result of a time-out where the wait ended without a reply. From quit() until aboutToQuit() Qt runs no nested
-    /// event loop, so calls return at once with the result of a time-out; before and after that they work.
+    /// The event loop keeps running meanwhile, so timers and paint events are delivered: the call waits behind a modal
+    /// wait dialog over @p pParent, or in a local event loop without a parent. Whatever happens during the wait (the
+    /// parent or the dialog is deleted, somebody else stops the dialog, UnInit(), another call, the end of the
+    /// application), the call returns; if the wait ended without a reply, with the result of a time-out. From quit()
+    /// until aboutToQuit() Qt runs no nested event loop, so calls return at once with the result of a time-out; before
+    /// and after that they work.
     ///
     /// @warning A refusal whose code is 0, missing, a fraction or a text is returned as 0, like a success, unless
-    /// @p bNotifyOnFailure is set: the record keeps what it held. Run() and Start() (Call.h) do not confuse the two.
+    /// @p bNotifyOnFailure is set; the record keeps its values. Run() and Start() (Call.h) distinguish the two.
     ///
-    /// @param packetFunc describes the request in the RequestParam that it is given; a result other than 0 ends the
-    /// call
-    /// @param parseFunc reads the "data" object of the reply into the caller's record; empty (`{}`) where there is
+    /// @param packetFunc describes the request in the RequestParam passed to it; a result other than 0 ends the call
+    /// @param parseFunc reads the "data" object of the reply into the caller's record; empty (`{}`) if there is
     ///        nothing to read. `nullptr` does not compile.
-    /// @param strUIError the failure in the user's words, for notifications; may be empty
+    /// @param strUIError description of the failure for notifications; may be empty
     /// @param pParent widget under the wait dialog, or null to wait without one
-    /// @param strSuccessTip notified after success unless empty; not shown when data came and @p parseFunc is empty
+    /// @param strSuccessTip notified after success unless empty; not if the reply has data and @p parseFunc is empty
     /// @param bShowErrorCode add the text of the failure's code to the notification
     /// @param bNotifyOnFailure notify a failing HTTP status or envelope code and return -1, instead of returning the
     ///        status or the code itself
@@ -183,15 +186,15 @@ public:
     ///  - -1: no Pack, a failing Pack (neither is notified), and every failure that was notified: -4 invalid URL or
     ///    request, -18 network error, -101 time-out, 7000 authentication required, 3101 a Parse that threw, and with
     ///    @p bNotifyOnFailure the HTTP status or envelope code
-    ///  - the HTTP status, or the envelope code (0 included, see the warning), of a failure that is not to be notified
+    ///  - the HTTP status, or the envelope code (0 included, see the warning), of a failure that is not notified
     ///  - the result of the Parse when it is not 0 (notified as 3101)
     int ExecuteFuncs(boost::function<int(void*)> packetFunc, boost::function<int(QJsonObject const&)> parseFunc,
                      const QString& strUIError, QWidget* pParent, const QString& strSuccessTip, bool bShowErrorCode,
                      bool bNotifyOnFailure);
 
-    /// The user's text for an error code.
+    /// Returns the text of an error code for the user.
     ///
-    /// @param strUIError the failure in the user's words; may be empty
+    /// @param strUIError description of the failure for the user; may be empty
     /// @param errorCode a result of this library, an HTTP status or an envelope code
     /// @param bAppend put @p strUIError and a colon before the text of a known code
     /// @return the text of a known code; for an unknown one @p strUIError, or "Operation failed" when that is empty

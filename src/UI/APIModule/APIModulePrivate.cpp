@@ -39,10 +39,10 @@ constexpr int kParseFailed = 3101;
 
 constexpr int kCodeSuccess = 1000;
 
-/// Of the six connections to a server, those that calls without a wait may take.
+/// How many of the six connections to a server started calls may use; one stays free for a call that waits.
 constexpr int kMostOnTheirWay = 5;
 
-/// Whether the value stays within its header.
+/// Whether the value cannot start another header.
 bool IsHeaderValue(const std::string& value)
 {
     return value.find_first_of(std::string("\r\n\0", 3)) == std::string::npos;
@@ -53,14 +53,14 @@ QByteArray Bytes(const std::string& text)
     return QByteArray::fromStdString(text);
 }
 
-/// The time-out of a timer, which holds no more than an int of milliseconds.
+/// The time-out of a timer, limited to what an int of milliseconds can hold.
 std::chrono::milliseconds Limited(std::chrono::milliseconds timeout)
 {
     constexpr std::chrono::milliseconds kMost(std::numeric_limits<int>::max());
     return std::clamp(timeout, std::chrono::milliseconds(0), kMost);
 }
 
-/// Between quit and aboutToQuit, Qt runs no event loop. Otherwise this runs one pass of it.
+/// Whether the application is between quit and aboutToQuit, when Qt runs no event loop. Otherwise this runs one pass.
 bool IsApplicationQuitting()
 {
     QEventLoop loop;
@@ -72,8 +72,8 @@ bool IsApplicationQuitting()
 
 CAPIModulePrivate::CAPIModulePrivate(CAPIModule* q) : q_ptr(q)
 {
-    // The façade belongs to the application object's thread. Made before there is one, it belongs to no thread until
-    // it is first used; made on another thread, it moves.
+    // The façade belongs to the application object's thread. If it was created earlier, it belongs to no thread until
+    // its first use; if it was created on another thread, it moves.
     QCoreApplication* pApplication = QCoreApplication::instance();
     if (pApplication && pApplication->thread() == QThread::currentThread()) {
         AttachTo(*pApplication);
@@ -114,7 +114,7 @@ void CAPIModulePrivate::AttachTo(QCoreApplication& application)
     MakeNetworkManager();
     connect(&application, &QCoreApplication::aboutToQuit, this,
             [this] { EndStarted(&StartedCall::DeliverAsApplicationEnding); });
-    // No socket may outlive the application object.
+    // Sockets must not outlive the application object.
     qAddPostRoutine([] { CAPIModule::GetInstance().d_func()->DetachFromApplication(); });
 }
 
@@ -177,7 +177,7 @@ void CAPIModulePrivate::RetireManagers()
 
 void CAPIModulePrivate::DetachFromApplication()
 {
-    // A function may start its call again, but the managers go.
+    // A function may start another call, but the managers are deleted here.
     m_bEndingStarted = true;
     EndStarted(&StartedCall::DeliverAsApplicationEnding);
     EndStarted(&StartedCall::Drop);
@@ -395,7 +395,7 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
                             QString::fromStdString(param.strIp) + QLatin1Char(':') + QString::number(param.nPort) +
                             QString::fromStdString(param.strUrl);
     const QUrl url(urlText, QUrl::TolerantMode);
-    // A path that changes the address would carry the token to another server.
+    // A path that changes the address would send the token to another server.
     if (!url.isValid() || url.port() != param.nPort || !url.userInfo().isEmpty()) {
         LogInfo(site, QStringLiteral("Invalid url, request url: %1").arg(MaskToken(urlText)));
         return kInvalidRequest;
@@ -405,7 +405,7 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
     if (m_strTimeZoneId.empty()) {
         m_strTimeZoneId = QTimeZone::systemTimeZoneId().toStdString();
     }
-    // The value below replaces this one. The interface has both, in this order, and what it lists is set.
+    // The value below replaces this one. The interface lists both in this order, so both are set.
     request.setRawHeader("Content-Type", "keep-alive");
     request.setRawHeader("Accept-Language", Bytes(m_strLanguage));
     request.setRawHeader("Time-Zone", Bytes(m_strTimeZoneId));
@@ -457,7 +457,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
     Exchange& exchange = *pExchange;
     SetUp(exchange, reply.pSteps);
     if (pParent) {
-        // What comes after the parent has gone is no result of the call.
+        // A reply that arrives after the parent was destroyed is ignored.
         connect(pParent, &QObject::destroyed, &exchange, [&exchange] { exchange.Close(CallEnd::Cancelled); });
     }
     connect(&exchange, &Exchange::Ended, wait.Context(), [&wait] { wait.End(); });
@@ -476,8 +476,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
     exchange.Begin(Send(request));
     wait.Run();
 
-    // Closed now, a connection whose answer did not come in time is gone even when the host makes further calls
-    // without a return to its event loop.
+    // Close the connection now: the host may make further calls before it returns to its event loop.
     if (!exchange.HasReply()) {
         exchange.Close(wait.IsBroken() ? CallEnd::Cancelled : eBroken);
         exchange.LogTimeOut();

@@ -28,7 +28,7 @@ namespace http {
 class Reply;
 }
 
-/// Where the log lines of the façade and of its steps say that they come from.
+/// The source file that log lines of the façade and its steps name.
 inline constexpr const char* kModuleFile = "src/UI/APIModule/APIModule";
 
 /// The steps of a call: builds requests, executes them, judges replies, delivers their data.
@@ -39,29 +39,29 @@ public:
     explicit CAPIModulePrivate(CAPIModule* q);
     ~CAPIModulePrivate() override;
 
-    /// Of the one CAPIModule.
+    /// The private part of the CAPIModule instance.
     static CAPIModulePrivate& Get() { return *CAPIModule::GetInstance().d_func(); }
 
-    /// Whether the calling thread is the application object's and may run calls; the façade then belongs to it.
+    /// Whether the calling thread is the application object's and may run calls. Moves the façade to that thread.
     bool AttachToApplication();
 
     void SetMaximumReplySize(qint64 nBytes);
     void SetServerTrust(const ServerTrust& trust);
 
-    /// Packs, sends, waits, judges and parses. Log lines and waits, but no notification.
+    /// Packs, sends, waits, judges and parses, with log lines but without notifications.
     /// @param parent of the wait dialog; null waits in a local event loop
     detail::CallResult Perform(const CallSteps& steps, const QPointer<QWidget>& parent);
 
-    /// Packs and builds. @return whether the request can be sent; otherwise @p result says why not
+    /// Packs and builds. @return whether the request can be sent; otherwise @p result has the reason
     bool Prepare(const CallSteps& steps, QNetworkRequest& request, detail::CallResult& result);
 
     /// Judges the reply in @p result and delivers its data.
     static void Conclude(const detail::ReadData& read, detail::CallResult& result);
 
-    /// Begins a call that nobody waits for.
+    /// Begins a call without waiting for it.
     CallHandle Start(const CallSteps& steps, QObject* pContext, const detail::Finished& finished);
 
-    /// Makes URL, headers and attributes. @return 0, or -4 for what cannot be sent
+    /// Sets URL, headers and attributes. @return 0, or -4 for a request that cannot be sent
     int BuildRequest(const RequestParam& param, QNetworkRequest& request);
 
     /// Sends the request and waits behind a modal wait dialog. @return 0, -4, -18, -101 or 7000
@@ -76,13 +76,13 @@ public:
     /// Runs the Parse on the data of a successful reply. Its result is -1 when it throws.
     static void Deliver(const detail::ReadData& read, ReplyInfo& reply);
 
-    /// Lets an exchange have what its call and the host want of it.
+    /// Configures an exchange as its call and the host require.
     void SetUp(Exchange& exchange, const CallSteps* pSteps) const;
 
-    /// Packs and builds a request that is not sent. See APIModule::Preview().
+    /// Packs and builds a request without sending it. See APIModule::Preview().
     std::optional<ObservedExchange> Preview(const CallSteps& steps);
 
-    /// How long a request may be on its way.
+    /// The time-out of a request.
     /// @param pSteps of a typed call, null for ExecuteFuncs()
     std::chrono::milliseconds TimeoutOf(const QNetworkRequest& request, const CallSteps* pSteps) const;
 
@@ -91,7 +91,7 @@ public:
     /// Deletes earlier network managers whose calls have ended.
     void RetireManagers();
 
-    /// A call is no longer on its way to @p origin.
+    /// Must be called when a started call to @p origin has left the transport.
     void OnLeft(const QString& origin);
 
 private:
@@ -100,7 +100,7 @@ private:
     /// Calls to one server.
     struct Line {
         int nOnTheirWay = 0;
-        QQueue<QPointer<StartedCall>> waiting;  ///< among them those that ended before their turn
+        QQueue<QPointer<StartedCall>> waiting;  ///< including calls that ended while they queued
     };
 
     static http::Reply* Send(http::AccessManager& manager, const QNetworkRequest& request);
@@ -109,14 +109,14 @@ private:
     void DetachFromApplication();
     void MakeNetworkManager();
 
-    /// What comes from now on reaches its server over new connections. Calls that wait keep theirs.
+    /// Makes later calls use new connections. Calls that wait keep theirs.
     void ForgetConnections();
 
     int Execute(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply, Wait& wait, const char* pFunction);
 
-    /// Begins the calls to a server that have their turn.
+    /// Sends queued calls to a server as far as its limit permits.
     void BeginNext(const QString& origin);
-    /// Ends the calls that Start() began, whose functions are called later, or before this returns.
+    /// Ends the calls of Start(). Their functions are called later, or before this returns.
     void EndStarted(void (StartedCall::*pEnd)());
 
     CAPIModule* const q_ptr;
@@ -126,11 +126,11 @@ private:
     std::chrono::milliseconds m_waitDialogDelay{300};
     std::optional<std::chrono::milliseconds> m_callTimeout;
     ExchangeObserver m_observer;
-    QHash<QString, Line> m_lines;                       ///< the calls of Start(), for each server
-    bool m_bEndingStarted = false;                      ///< no call has its turn
+    QHash<QString, Line> m_lines;                       ///< the calls of Start(), by server
+    bool m_bEndingStarted = false;                      ///< while set, queued calls are not sent
     std::shared_ptr<const ServerTrust> m_pServerTrust;  ///< null when every server is trusted
     QPointer<http::AccessManager> m_pNetworkManager;
-    QList<QPointer<http::AccessManager>> m_networkManagers;  ///< with earlier ones whose calls still wait
+    QList<QPointer<http::AccessManager>> m_networkManagers;  ///< including earlier ones whose calls still wait
     QPointer<QCoreApplication> m_pApplication;
 };
 

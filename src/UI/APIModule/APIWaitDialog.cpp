@@ -33,5 +33,5 @@ CAPIWaitDialog::~CAPIWaitDialog()
 
 }  // namespace APIModule
 
-// Here, so that one unit holds the whole class: abidw loses functions of a class whose definitions are spread.
+// Defined in this file because abidw loses functions of a class that is defined in several units.
 #include "moc_APIWaitDialog.cpp"  // NOLINT(bugprone-suspicious-include)

@@ -12,18 +12,18 @@ namespace APIModule {
 
 class CAPIWaitDialogPrivate;
 
-/// A busy indicator over a widget for as long as the object lives, for work of the host's own.
+/// Shows a busy indicator over a widget during its lifetime, for work of the host.
 ///
 /// The dialog is shown without blocking: the constructor returns at once. Calls that run through
-/// CAPIModule::ExecuteFuncs() bring a wait dialog of their own.
+/// CAPIModule::ExecuteFuncs() show a wait dialog themselves.
 class APIMODULE_EXPORT CAPIWaitDialog : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows the wait dialog. It is gone from the screen, without harm to this object, when the parent is destroyed
-    /// first. Without a QApplication nothing is shown.
+    /// Shows the wait dialog. If the parent is destroyed first, the dialog disappears and this object stays valid.
+    /// Without a QApplication nothing is shown.
     ///
-    /// @param parent widget under the dialog, or null for a dialog on its own
+    /// @param parent widget under the dialog, or null for a dialog without a parent
     explicit CAPIWaitDialog(QWidget* parent);
 
     /// Hides the wait dialog, takes it from its parent and deletes it.

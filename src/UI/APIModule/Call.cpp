@@ -9,7 +9,7 @@ namespace APIModule {
 
 namespace {
 
-/// A typed call as the steps that every call goes through.
+/// The steps of a typed call.
 CallSteps StepsOf(const char* pEntry, const detail::RequestParts& parts, const detail::ReadData& read)
 {
     CallSteps steps;

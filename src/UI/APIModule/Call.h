@@ -15,38 +15,43 @@
 class QWidget;
 
 /// @file
-/// Runs typed calls: Run() waits for the outcome, Start() has it delivered, Preview() sends nothing.
+/// Runs typed calls. Run() waits for the outcome, Start() returns at once and delivers it later, Preview() only shows
+/// the request:
+/// @code
+/// const Outcome<TimeSyncConfig> settings = Run(BRMS::GetTimeSyncConfig(), this);
+/// Start(IPMS::GetDetailParkingLots("", "001", 0), this, [this](const auto& lots) { Show(lots); });
+/// @endcode
+/// A call cannot be made on another thread than the application object's.
 
 namespace APIModule {
 
 /// @cond
 namespace detail {
 
-/// Reads the data of the reply into what it holds. It may run on another thread than the application object's.
+/// Reads the data of the reply into the record. It may run on another thread than the application object's.
 using ReadData = std::function<int(const QJsonObject&)>;
 using Finished = std::function<void(const std::shared_ptr<const CallResult>&)>;
 
 }  // namespace detail
 /// @endcond
 
-/// A call that Start() began. Copies name the same call; destroying them does not end it.
+/// Handle of a call that Start() began. Copies refer to the same call; destroying them does not cancel it.
 ///
-/// To be used on the thread of the application object.
+/// Use it on the thread of the application object only.
 class APIMODULE_EXPORT CallHandle {
 public:
-    /// Names no call.
+    /// Refers to no call.
     CallHandle() = default;
     /// Made by Start().
-    /// @param pCall what the handle names
+    /// @param pCall the call
     explicit CallHandle(QObject* pCall) : m_pCall(pCall) {}
 
-    /// Ends the call, whose function is not called any more, and closes its connection. Does nothing when the call has
-    /// ended. It can be called at any time, from the function of this or another call, too.
-    ///
-    /// The function is not called with an outcome: who cancels knows, and what the function uses may be going away.
+    /// Cancels the call and closes its connection. Its function is not called, because objects that it uses may be
+    /// about to be destroyed. Does nothing after the call has ended. Cancel() may be called at any time, also from the
+    /// function of this or another call.
     void Cancel();
 
-    /// @return whether the function of the call is still to be called
+    /// @return whether the function of the call has not been called yet
     bool IsRunning() const;
 
 private:
@@ -62,7 +67,7 @@ APIMODULE_EXPORT CallHandle StartCall(const RequestParts& parts, const ReadData&
                                       const Finished& finished);
 APIMODULE_EXPORT std::optional<ObservedExchange> PreviewCall(const RequestParts& parts);
 
-/// Reads into a record that it shares.
+/// Reads into a shared record.
 template <typename Record>
 ReadData Into(const std::shared_ptr<Record>& pRecord, typename FixedRequest<Record>::Parse parse)
 {
@@ -76,17 +81,17 @@ ReadData Into(const std::shared_ptr<Record>& pRecord, typename FixedRequest<Reco
 /// @endcond
 
 /// Runs a request and waits for its outcome, with the steps, log lines and waits of CAPIModule::ExecuteFuncs(). It
-/// notifies nothing: CAPIModule::NotifyOutcome() does so when the host wants it.
+/// notifies nothing; call CAPIModule::NotifyOutcome() to do so.
 ///
-/// Behind a parent, user input to all windows is discarded from the start, except that windows can be closed; the wait
-/// dialog appears when the call takes longer than CAPIModule::SetWaitDialogDelay(). JSON of more than 256 KiB, and the
-/// record, are read on a thread of Qt's global thread pool while the event loop goes on.
+/// With a parent, user input to all windows is discarded from the start, except for closing a window; the wait dialog
+/// appears when the call takes longer than CAPIModule::SetWaitDialogDelay(). JSON of more than 256 KiB, and its record,
+/// are read on a thread of Qt's global thread pool while the event loop keeps running.
 ///
 /// Only the thread of the application object may call it; on another one the outcome is CallEnd::NotPacked.
 ///
-/// @param request what a Call makes from its arguments
+/// @param request made by a Call from its arguments
 /// @param pParent widget under the wait dialog, or null to wait in a local event loop
-/// @return the record, or why there is none
+/// @return the record, or the reason why there is none
 template <typename Record>
 Outcome<Record> Run(const FixedRequest<Record>& request, QWidget* pParent = nullptr)
 {
@@ -95,19 +100,19 @@ Outcome<Record> Run(const FixedRequest<Record>& request, QWidget* pParent = null
                            pRecord);
 }
 
-/// Begins a call and returns at once. The request is packed now; its outcome is delivered later, from the event loop.
+/// Starts a call and returns at once. The request is packed now; the outcome is delivered later, from the event loop.
 ///
-/// Of the calls begun so, five to a server are on their way at a time; the others stand in line, and their time-outs
-/// begin with their turn. UnInit() ends calls as CallEnd::Cancelled, the end of the application as
-/// CallEnd::ApplicationEnding. Large replies are read as by Run().
+/// At most five started calls to a server are in flight; the others queue, and their time-outs begin when they are
+/// sent. UnInit() ends calls as CallEnd::Cancelled, the end of the application as CallEnd::ApplicationEnding. Large
+/// replies are read as by Run().
 ///
 /// Only the thread of the application object may call it; on another one it writes a log line and calls nothing.
 ///
-/// @param request what a Call makes from its arguments
-/// @param pContext an object of the application object's thread. When it is destroyed the call ends, and the function
-///        is not called.
+/// @param request made by a Call from its arguments
+/// @param pContext an object on the application object's thread. When it is destroyed, the call ends without calling
+///        the function.
 /// @param finished called once with the outcome, on the thread of the application object, never from inside Start()
-/// @return names the call
+/// @return handle to cancel the call
 template <typename Record, typename Function>
 CallHandle Start(const FixedRequest<Record>& request, QObject* pContext, Function finished)
 {
@@ -121,15 +126,15 @@ CallHandle Start(const FixedRequest<Record>& request, QObject* pContext, Functio
         });
 }
 
-/// Makes the request of a call without sending it.
+/// Shows the request of a call without sending it.
 ///
 /// The headers are those of a request without a proxy. The Pack runs; its log lines are dropped unless it fails.
 ///
 /// Only the thread of the application object may call it; on another one it writes a log line and returns nothing.
 ///
-/// @param request what a Call makes from its arguments
-/// @return method, masked URL, headers and body of the request, all else as by default; nothing when the call cannot
-///         be packed or its request cannot be sent
+/// @param request made by a Call from its arguments
+/// @return method, masked URL, headers and body of the request, with all other members at their defaults; nothing when
+///         the call cannot be packed or its request cannot be sent
 template <typename Record>
 std::optional<ObservedExchange> Preview(const FixedRequest<Record>& request)
 {

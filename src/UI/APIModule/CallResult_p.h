@@ -6,17 +6,17 @@
 
 namespace APIModule::detail {
 
-/// How a call ended, with what came back.
+/// How a call ended, with its reply.
 struct CallResult {
     CallEnd eEnd = CallEnd::NotPacked;
     int nCode = -1;  ///< OutcomeBase::Code()
     ReplyInfo reply;
 };
 
-/// The result as outcomes share it. A large one is released on a thread of Qt's pool.
+/// The result shared by outcomes. A large one is destroyed on a thread of Qt's pool.
 std::shared_ptr<const CallResult> Shared(CallResult&& result);
 
-/// The code of an end that the reply does not name itself.
+/// The code of an end that does not depend on the reply.
 int CodeOf(CallEnd eEnd);
 
 }  // namespace APIModule::detail

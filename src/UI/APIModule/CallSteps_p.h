@@ -8,9 +8,9 @@
 
 namespace APIModule {
 
-/// What a call does before its request is sent and after its reply has come.
+/// What a call does before its request is sent and after its reply arrived.
 struct CallSteps {
-    const char* pEntry;  ///< the function of the interface that runs the call, as log lines name it
+    const char* pEntry;  ///< the public function that runs the call, as in log lines
     std::function<int(void*)> pack;
     detail::ReadData read;                             ///< null without a Parse
     bool bTyped = false;                               ///< a typed call reads large replies in the background

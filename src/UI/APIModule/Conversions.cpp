@@ -12,14 +12,14 @@ namespace {
 
 using Integers = std::numeric_limits<qint64>;
 
-/// Without the fraction; the lowest integer stands for all that an integer cannot hold, as the processor has it.
+/// Truncates the fraction; values out of range become the lowest integer, as on the processor.
 qint64 Cut(double number)
 {
     constexpr double kBeyondIntegers = 9223372036854775808.0;
     return number >= -kBeyondIntegers && number < kBeyondIntegers ? qint64(number) : Integers::min();
 }
 
-/// The nearest integer, the upper one of two. A number beyond 64 bits gives what the same steps make of it in Qt 5.
+/// Rounds to the nearest integer, halves up. A number beyond 64 bits gives the same result as in Qt 5.
 qint64 Rounded(double number)
 {
     constexpr double kHalf = 0.5;
@@ -30,7 +30,7 @@ qint64 Rounded(double number)
     return qint64(quint64(Cut(number - double(below) + kHalf)) + quint64(below));
 }
 
-/// Between 0.0001 and 0.001 the versions of Qt differ on what is shorter, with an exponent or without.
+/// Between 0.0001 and 0.001 the versions of Qt choose differently between exponent and decimal notation.
 QString TextOf(double number)
 {
     if (const std::optional<long long> integer = IntegerIn(number)) {
@@ -59,7 +59,7 @@ long long IntegerOf(const QString& text)
     if (number.startsWith(kMinus)) {
         number[0] = QLatin1Char('-');
     }
-    // What else is not ASCII, and a zero byte, is judged by each version of Qt in its way.
+    // Other characters beyond ASCII, and zero bytes, are handled differently by each version of Qt.
     const bool bPlain = std::all_of(number.cbegin(), number.cend(), [](QChar character) {
         return !character.isNull() && character.unicode() <= kLastAscii;
     });

@@ -4,7 +4,7 @@
 
 namespace APIModule::detail {
 
-/// Unpacks the envelope that the body holds; a body that is empty or not JSON leaves the code at -1.
+/// Reads the envelope in the body. The code stays -1 for a body that is empty or not JSON.
 void Unpack(ReplyInfo& reply);
 
 }  // namespace APIModule::detail

@@ -18,10 +18,10 @@ using namespace detail;
 
 namespace {
 
-/// A smaller reply is read before a thread would have begun.
+/// A smaller reply is parsed faster than a thread starts.
 constexpr int kLargeReply = 256 * 1024;
 
-/// Takes an end that is no answer of the server. @return Success for an answer
+/// Handles an end without a reply. @return Success for a reply
 CallEnd TakeEnd(const http::Reply& finished, const QNetworkRequest& request, const char* pFunction)
 {
     if (const std::optional<http::UnknownServer>& unknown = finished.GetUnknownServer()) {
@@ -78,7 +78,7 @@ void RunInPool(const std::function<void()>& work)
     }
 }
 
-/// What the thread that reads and the exchange share. The exchange may go first.
+/// Shared by the exchange and the thread that reads. The exchange may be destroyed first.
 struct Exchange::Reading {
     std::mutex mutex;
     Exchange* pExchange = nullptr;

@@ -18,34 +18,36 @@ namespace http {
 class Reply;
 }
 
-// The attributes that carry a request from its description to its execution.
+// The attributes that pass values from the description of a request to its execution.
 inline constexpr auto kMethodAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 100);
 inline constexpr auto kBodyAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 101);
 inline constexpr auto kTimeoutAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 102);
 inline constexpr auto kExcludeUserInputAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 103);
 
-/// One request on its way: it begins, and ends when its reply has been taken. Whoever began it may wait for that in an
-/// event loop or be called, limits the time, and may give it up at any moment by deleting or closing it.
+/// One request in flight, from sending until its reply was taken.
+///
+/// The owner creates it, connects to its end, or waits for it in an event loop, and limits its time. It can be
+/// abandoned at any moment by closing or deleting it. An exchange is not reused.
 class Exchange final : public QObject {
     Q_OBJECT
 
 public:
-    /// @param pFunction where the log lines say that they come from
+    /// @param pFunction the function that log lines name
     Exchange(const QNetworkRequest& request, const char* pFunction);
     ~Exchange() override;
 
-    /// Reads a large reply, and its data by @p read, on a thread of Qt's pool. @p read is released there.
+    /// Makes a large reply, and its data by @p read, be read on a thread of Qt's pool. @p read is destroyed there.
     void ReadInBackground(const detail::ReadData& read);
 
-    /// An observer that is null is ignored.
+    /// Adds an observer; null is ignored.
     void AddObserver(const ExchangeObserver& observer);
 
     void Begin(http::Reply* pReply);
 
-    /// Ends the exchange without a reply unless it has ended, and closes its connection.
+    /// Closes the connection and ends the exchange without a reply, unless it has ended already.
     void Close(CallEnd eEnd);
 
-    /// Whether the reply has been taken, and what it brought.
+    /// Whether the reply was taken, and its content.
     bool HasReply() const { return m_bTaken; }
     ReplyInfo& Reply() { return m_reply; }
 
@@ -55,9 +57,9 @@ public:
     void LogTimeOut() const;
 
 signals:
-    /// The answer has come: the time-out counts no longer.
+    /// The reply has arrived; the time-out no longer applies.
     void Answered();
-    /// The reply has been taken, or will never come.
+    /// The reply was taken, or will never arrive.
     void Ended();
 
 private:
@@ -79,17 +81,17 @@ private:
     std::shared_ptr<Reading> m_pReading;  ///< shared with the thread that reads
     detail::LogCapture::Lines m_lines;    ///< of the thread that read
     std::vector<ExchangeObserver> m_observers;
-    std::unique_ptr<ObservedExchange> m_pObserved;  ///< until it is reported; null without observers
+    std::unique_ptr<ObservedExchange> m_pObserved;  ///< reset once it is reported; null without observers
     std::chrono::steady_clock::time_point m_begun;
 };
 
-/// The URL of a request as log lines show it.
+/// The URL of a request as in log lines.
 QString MaskedUrl(const QNetworkRequest& request);
 
-/// The header lines in the head of a request.
+/// The header lines of a request head.
 ObservedExchange::Headers MaskedHeaders(const QByteArray& head);
 
-/// Runs work on a thread of Qt's global pool, or here when there is no application any more.
+/// Runs work on a thread of Qt's global pool, or on this thread if there is no application object.
 void RunInPool(const std::function<void()>& work);
 
 }  // namespace APIModule

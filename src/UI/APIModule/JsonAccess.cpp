@@ -44,7 +44,7 @@ QCborValue NumberFromVariant(const QCborValue& number)
 
 namespace {
 
-/// Whether a variant gives the value back as it is.
+/// Whether a variant returns the value unchanged.
 bool IsKeptByVariant(const QCborValue& value)
 {
     if (value.isInteger() || value.isDouble()) {
@@ -58,7 +58,7 @@ bool IsKeptByVariant(const QCborValue& value)
     return std::all_of(map.begin(), map.end(), [](const auto& member) { return IsKeptByVariant(member.second); });
 }
 
-/// A value as it comes back from a variant, with all that is inside.
+/// A value as returned by a variant, including nested values.
 QCborValue FromVariant(const QCborValue& value)
 {
     if (value.isArray()) {

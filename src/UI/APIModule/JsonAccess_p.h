@@ -21,7 +21,7 @@ namespace APIModule::detail {
 /// Stores the text as UTF-8.
 void StoreUtf8(const QString& text, std::string& result);
 
-/// The value when it is a whole number of usual size.
+/// The value, if it is an integer of usual size.
 inline std::optional<long long> WholeNumber(const QJsonValue& value)
 {
     constexpr int kOther = std::numeric_limits<int>::min();
@@ -34,7 +34,7 @@ inline std::optional<long long> WholeNumber(const QCborValue& value)
     return value.isInteger() ? std::optional<long long>(value.toInteger()) : std::nullopt;
 }
 
-/// With all digits of an integer, which QCborValue::fromJsonValue of Qt 5 does not keep.
+/// Keeps all digits of an integer, unlike Qt 5's QCborValue::fromJsonValue.
 inline QCborValue Generic(const QJsonValue& value)
 {
     return QCborValue::fromVariant(value.toVariant());
@@ -45,7 +45,7 @@ inline const QCborValue& Generic(const QCborValue& value)
     return value;
 }
 
-// Each conversion gives what the value's variant gives with Qt 5; what is usual takes a shorter way.
+// Each conversion returns what the value's variant returns with Qt 5; common cases take a shorter path.
 
 template <typename Value>
 void Convert(const Value& value, int& result)
@@ -79,14 +79,14 @@ void Convert(const Value& value, std::string& result)
     StoreUtf8(value.isString() ? value.toString() : TextOf(Generic(value)), result);
 }
 
-/// A number in an object or array as it comes back from the variant of that. A variant makes a double of it: an integer
-/// beyond 2^53 loses digits, and what is no finite number becomes null.
+/// A number in an object or array, as converted by the variant of that container. A variant converts it to a double: an
+/// integer beyond 2^53 loses digits, and a number that is not finite becomes null.
 QCborValue NumberFromVariant(const QCborValue& number);
 
 void Convert(const QJsonValue& value, QJsonObject& result);
 void Convert(const QJsonValue& value, QJsonArray& result);
 
-// The readers of records do to each number inside what the variant does.
+// The readers of records convert each nested number as the variant does.
 
 inline void Convert(const QCborValue& value, QCborMap& result)
 {
@@ -102,7 +102,7 @@ void LogEmptyObject();
 void LogMissingKey(const QString& key);
 void LogUndefinedValue(const QString& key);
 
-/// Logs why an object gives no value for the key.
+/// Logs why an object has no value for the key.
 template <typename Object>
 void LogNoValue(const Object& object, const QString& key)
 {
@@ -115,7 +115,7 @@ void LogNoValue(const Object& object, const QString& key)
     }
 }
 
-/// Notes the last key that gives no value on its thread while it lives.
+/// Remembers the last key without a value on its thread during its lifetime.
 class UnreadableKey {
 public:
     explicit UnreadableKey(QString& key);

@@ -7,22 +7,22 @@
 
 namespace APIModule::detail {
 
-/// Where a log line comes from, as the line tells it.
+/// The origin of a log line.
 struct LogSite {
     const char* file;      ///< source path, without an extension
     const char* function;  ///< full name, with namespace and class; both live as long as the line
     int line = __builtin_LINE();
 };
 
-/// Logs information or success. The text is never taken as a format.
+/// Logs information or success. The text is never used as a format.
 void LogInfo(const LogSite& site, const char* text);
 void LogInfo(const LogSite& site, const QString& text);
 
-/// Logs a failure. The text is never taken as a format.
+/// Logs a failure. The text is never used as a format.
 void LogFailure(const LogSite& site, const char* text);
 void LogFailure(const LogSite& site, const QString& text);
 
-/// Keeps back the log lines of its thread while it lives, so that another thread can write them.
+/// Holds back the log lines of its thread during its lifetime, so that another thread can write them.
 class LogCapture {
 public:
     struct Line {

@@ -4,7 +4,7 @@
 
 namespace APIModule::detail {
 
-/// Puts ten asterisks in the place of the ten characters, or all that there are, behind the first "token=".
+/// Replaces the ten characters after the first "token=", or fewer at the end of the text, by ten asterisks.
 QString MaskToken(QString text);
 
 }  // namespace APIModule::detail

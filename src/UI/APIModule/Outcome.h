@@ -9,24 +9,24 @@
 #include <utility>
 
 /// @file
-/// How typed calls end.
+/// The outcome of a typed call: the record, or the reason why there is none.
 
 namespace APIModule {
 
 /// Why a call has ended.
 enum class CallEnd {
-    Success,            ///< the record is there
-    NotPacked,          ///< the Pack refused, or the calling thread is not the application object's; code -1
-    InvalidRequest,     ///< what the Pack made cannot be sent; code -4
-    NoConnection,       ///< no complete answer came; code -18
-    ServerNotTrusted,   ///< the server is not known to CAPIModule::SetServerTrust(); code -18
-    TimedOut,           ///< no answer came in time; code -101
-    Cancelled,          ///< by UnInit(), or because the wait dialog or its parent went away; code -101
-    NotAuthenticated,   ///< the session is not valid; code 7000
-    HttpStatus,         ///< the server answered with another status than 200, which is the code
-    Refused,            ///< the server answered with another code than 1000, which is the code; 0 without a number
-    ReplyTooLarge,      ///< the reply is larger than CAPIModule::SetMaximumReplySize() allows; code -18
-    UnreadableReply,    ///< the reply is no JSON, code -1, or a value that the record needs is missing, code 3101
+    Success,           ///< the record is there
+    NotPacked,         ///< the Pack failed, or the calling thread is not the application object's; code -1
+    InvalidRequest,    ///< the Pack's request cannot be sent; code -4
+    NoConnection,      ///< no complete reply arrived; code -18
+    ServerNotTrusted,  ///< CAPIModule::SetServerTrust() does not accept the server; code -18
+    TimedOut,          ///< no reply arrived in time; code -101
+    Cancelled,         ///< by UnInit(), or because the wait dialog was stopped or it or its parent destroyed; code -101
+    NotAuthenticated,  ///< the session is not valid; code 7000
+    HttpStatus,        ///< the server replied with a status other than 200; the code is that status
+    Refused,           ///< the envelope's code is not 1000; the code is that code, 0 if it is not a number
+    ReplyTooLarge,     ///< the reply is larger than CAPIModule::SetMaximumReplySize() allows; code -18
+    UnreadableReply,   ///< the reply is not JSON, code -1, or a required key is missing, code 3101
     ApplicationEnding,  ///< the application quits; code -101
 };
 
@@ -36,13 +36,13 @@ struct CallResult;
 }
 /// @endcond
 
-/// How a call ended, apart from its record. Copies share what they hold.
+/// How a call ended, without its record. Copies share their data.
 class APIMODULE_EXPORT OutcomeBase {
 public:
     /// The outcome of no call: not packed.
     OutcomeBase();
     /// Made by the library.
-    /// @param pResult what came of the call
+    /// @param pResult the result of the call
     explicit OutcomeBase(std::shared_ptr<const detail::CallResult> pResult);
 
     /// @return whether the call succeeded
@@ -51,54 +51,59 @@ public:
     /// @return why the call ended
     CallEnd End() const;
 
-    /// An envelope code can be 0, as the code of a success is: operator bool() says whether the call succeeded.
-    /// @return the code that CAPIModule::ExecuteFuncs() would notify for this end; 0 for a success
+    /// An envelope code can be 0, like that of a success; use operator bool() to test for success.
+    /// @return the code that CAPIModule::ExecuteFuncs() would notify; 0 for a success
     int Code() const;
 
-    /// Says a failure in the user's words. Writes no log line.
-    /// @return the text of Code() in the language of the error texts, or "Operation failed" with the number of a code
-    /// that
-    ///         they do not know; empty for a success
+    /// Describes a failure to the user. Writes no log line.
+    /// @return the text of Code() in the language of the error texts, or "Operation failed" with the number of an
+    ///         unknown code; empty for a success
     QString Text() const;
 
-    /// @return the "desc" of the server's envelope, in the server's words; empty where no envelope came
+    /// @return the "desc" of the server's envelope; empty without an envelope
     QString ServerText() const;
 
-    /// @return the key at which the reading of the record ended; empty unless it ended at one
+    /// @return the key at which reading the record stopped; empty otherwise
     QString UnreadableKey() const;
 
-    /// @return the "data" of the reply, for what the record does not hold; empty where none came
+    /// @return the "data" of the reply, including keys that the record does not have; empty without data
     const QJsonObject& Data() const;
 
 private:
     std::shared_ptr<const detail::CallResult> m_pResult;
 };
 
-/// The record of a call whose reply carries no data for the caller.
+/// The record of a call whose reply has no data for the caller.
 struct NoRecord {};
 
 /// How a call ended, with its record.
 ///
-/// Converts to true for a success, whatever the record is: `Outcome<bool>` does not convert to its record.
+/// Converts to true for a success, whatever the record is; `Outcome<bool>` does not convert to its record:
+/// @code
+/// if (const auto settings = Run(BRMS::GetTimeSyncConfig())) {
+///     Show(settings->interval);
+/// } else {
+///     Report(settings.Text());
+/// }
+/// @endcode
 template <typename Record>
 class Outcome : public OutcomeBase {
 public:
     /// The outcome of no call: not packed.
     Outcome() = default;
     /// Made by the library.
-    /// @param pResult what came of the call
-    /// @param pRecord what was read
+    /// @param pResult the result of the call
+    /// @param pRecord the fields that were read
     Outcome(std::shared_ptr<const detail::CallResult> pResult, std::shared_ptr<const Record> pRecord)
         : OutcomeBase(std::move(pResult)), m_pRecord(std::move(pRecord))
     {}
 
-    /// @return the record of a success, as made by default where the reply carried no data; after a failure a record as
-    ///         made by default
+    /// @return the record; a default-constructed one after a failure and for a reply without data
     const Record& operator*() const { return *this ? Incomplete() : None(); }
     /// @return the same
     const Record* operator->() const { return &**this; }
 
-    /// @return the record as far as it was read before the call failed
+    /// @return the record with the fields that were read before the call failed
     const Record& Incomplete() const { return m_pRecord ? *m_pRecord : None(); }
 
 private:

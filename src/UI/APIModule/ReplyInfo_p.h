@@ -14,10 +14,10 @@ namespace APIModule {
 
 struct CallSteps;
 
-/// The one HTTP status whose reply is read.
+/// The only HTTP status whose reply is read.
 inline constexpr int kStatusOk = 200;
 
-/// What came back for one request.
+/// The reply to one request.
 struct ReplyInfo {
     int nHttpStatus = -1;                             ///< HTTP status, -1 without one
     QByteArray byteBody;                              ///< raw body of a reply with status 200
@@ -26,11 +26,11 @@ struct ReplyInfo {
     QString strDesc;                                  ///< "desc" of the envelope
     QJsonObject jsonData;                             ///< "data" of the envelope
     bool bJson = false;                               ///< whether the body is JSON
-    CallEnd eEnd = CallEnd::ApplicationEnding;        ///< Success for a reply of whatever status and code
+    CallEnd eEnd = CallEnd::ApplicationEnding;        ///< Success for a reply with any status and code
     std::optional<int> parsed;                        ///< result of the Parse, where it ran
     QString strUnreadableKey;                         ///< the key at which the Parse stopped
     bool bLarge = false;                              ///< whether releasing it takes noticeable time
-    const CallSteps* pSteps = nullptr;                ///< of the typed call that it is for, null for ExecuteFuncs()
+    const CallSteps* pSteps = nullptr;                ///< of the typed call, null for ExecuteFuncs()
 };
 
 }  // namespace APIModule

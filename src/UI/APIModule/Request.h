@@ -11,7 +11,7 @@
 #include <utility>
 
 /// @file
-/// Calls as values: a Call is a constant, applied to its arguments it makes a Request, which Run() and Start() of
+/// Calls as values. A Call is a constant; called with its arguments it returns a Request, which Run() and Start() of
 /// Call.h run.
 
 namespace APIModule {
@@ -19,7 +19,7 @@ namespace APIModule {
 /// @cond
 namespace detail {
 
-/// What describes a request.
+/// Everything that describes a request.
 struct RequestParts {
     std::function<int(void* pReqParamData, int nServerId)> pack;
     int nServerId = -1;
@@ -30,9 +30,9 @@ struct RequestParts {
 }  // namespace detail
 /// @endcond
 
-/// A call with its arguments. A value: it can be kept, copied and run any number of times.
+/// A call with its arguments: a value that can be stored, copied and run any number of times.
 ///
-/// The call itself names its server; most calls make a Request, which can be sent to any.
+/// The call determines its server; most calls return a Request, which can be sent to any server.
 template <typename Record>
 class FixedRequest {
 public:
@@ -44,9 +44,9 @@ public:
     /// @param parse null for a call without a Parse
     FixedRequest(detail::RequestParts parts, Parse parse) : m_parts(std::move(parts)), m_parse(parse) {}
 
-    /// The same request with a time-out, in the place of CAPIModule::SetCallTimeout() and of the Pack's own. It counts
-    /// from the moment at which the request has its turn to be sent.
-    /// @param timeout longest wait for the reply; 0 does not wait for it
+    /// The same request with a time-out, which replaces those of CAPIModule::SetCallTimeout() and of the Pack. It
+    /// begins when the request is sent, not while it queues.
+    /// @param timeout longest wait for the reply; 0 does not wait
     /// @return the request
     [[nodiscard]] FixedRequest Within(std::chrono::milliseconds timeout) const
     {
@@ -55,7 +55,7 @@ public:
         return request;
     }
 
-    /// The same request, whose exchanges are shown to an observer besides that of CAPIModule::SetExchangeObserver().
+    /// The same request, with an observer in addition to that of CAPIModule::SetExchangeObserver().
     /// @param observer called at the end of each exchange of the request
     /// @return the request
     [[nodiscard]] FixedRequest Observed(const ExchangeObserver& observer) const
@@ -65,13 +65,13 @@ public:
         return request;
     }
 
-    /// @return what Run() and Start() need
+    /// @return the parts that Run() and Start() need
     [[nodiscard]] const detail::RequestParts& Parts() const { return m_parts; }
     /// @return null for a call without a Parse
     [[nodiscard]] Parse GetParse() const { return m_parse; }
 
 protected:
-    /// What Request changes.
+    /// Changed by Request.
     detail::RequestParts m_parts;  // NOLINT(cppcoreguidelines-non-private-member-variables-in-classes)
 
 private:
@@ -117,7 +117,7 @@ private:
 /// @cond
 namespace detail {
 
-/// A stored argument as a Pack takes it: one by reference to non-const gets a fresh copy.
+/// A stored argument, passed as the Pack takes it; for a reference to non-const it is a fresh copy.
 template <typename Parameter>
 class Passed {
     using Value = std::decay_t<Parameter>;
@@ -213,7 +213,7 @@ public:
         return RequestType(std::move(parts), Parse);
     }
 
-    /// Takes what the other overload does not, for the sake of the message.
+    /// Accepts all other arguments, to fail with a readable message.
     template <typename... Given, typename = std::enable_if_t<!Fits<Given...>()>>
     RequestType operator()(const Given&... /*given*/) const
     {
@@ -227,9 +227,9 @@ public:
 }  // namespace detail
 /// @endcond
 
-/// A call of the library: a Pack and, where its reply carries data for the caller, the Parse that belongs to it.
+/// A call of the library: a Pack and, if the reply has data for the caller, its Parse.
 ///
-/// Applied to the Pack's arguments, without the request and the server identifier, it makes a request:
+/// Called with the arguments of the Pack, without the request and the server identifier, it returns a request:
 /// @code
 /// const Request<std::vector<RuleInfo>> rules = OBMS::GetPointRules(GetPointAccessRules{"7", 1, false}).OnServer(2);
 /// @endcode

@@ -8,7 +8,7 @@
 
 namespace APIModule::detail {
 
-/// Runs code of the host, whose exceptions end here.
+/// Runs code of the host and catches its exceptions.
 /// @return its result, or -1 with a log line when it throws
 template <typename Call>
 int RunHosted(const LogSite& site, const QString& name, Call call)

@@ -15,8 +15,7 @@ namespace APIModule {
 class CAPIModulePrivate;
 class Exchange;
 
-/// A call that nobody waits for. It stands in line, is on its way, and ends; its function is called once, unless it is
-/// dropped before.
+/// A call of Start(). It queues, is sent, and ends; its function is called once, unless the call is dropped before.
 class StartedCall final : public QObject {
     Q_OBJECT
 
@@ -24,30 +23,30 @@ public:
     StartedCall(CAPIModulePrivate& module, CallSteps steps, QObject* pContext, detail::Finished finished);
     ~StartedCall() override;
 
-    /// Packs the request. A call that cannot be sent ends.
+    /// Packs the request. Ends the call if it cannot be sent.
     void Prepare();
 
-    /// Its turn has come.
+    /// Sends the request.
     void Begin();
 
-    /// Ends the call unless it has ended. Its function is called from the event loop.
+    /// Ends the call, unless it has ended already. Its function is called from the event loop.
     void EndAsCancelled() { End(CallEnd::Cancelled); }
 
     /// Calls its function now.
     void DeliverAsApplicationEnding() { Deliver(CallEnd::ApplicationEnding); }
 
-    /// Ends the call; its function is not called any more.
+    /// Ends the call without calling its function.
     void Drop();
 
     enum class State {
         InLine,
         OnItsWay,
-        Ended,    ///< the function is still to be called
-        Finished  ///< nothing is left to do
+        Ended,    ///< the function has not been called yet
+        Finished  ///< the function was called
     };
 
     State GetState() const { return m_state; }
-    /// Server, as far as connections are concerned.
+    /// Scheme, host and port, by which connections are shared.
     const QString& Origin() const { return m_origin; }
 
 private:

@@ -4,7 +4,7 @@
 
 namespace APIModule::detail {
 
-/// The widest range of protocols that Qt offers to servers of any age.
+/// The widest range of TLS versions that Qt supports, for servers of any age.
 #if QT_VERSION_MAJOR == 5
 constexpr QSsl::SslProtocol kWidestTlsRange = QSsl::TlsV1SslV3;
 #else

@@ -11,8 +11,8 @@ namespace APIModule {
 
 namespace {
 
-/// Discards user input to all windows of the application, as a modal dialog does, while it lives. Closing a window goes
-/// through: with Qt 6 a close by the user looks like one by the program.
+/// Discards user input to all windows of the application during its lifetime, like a modal dialog. Closing a window is
+/// allowed, because Qt 6 does not distinguish a close by the user from one by the program.
 class InputBarrier final : public QObject {
 public:
     InputBarrier() { QCoreApplication::instance()->installEventFilter(this); }
@@ -96,7 +96,7 @@ void Wait::Run()
     }
 }
 
-/// @return whether the time of the dialog has come
+/// @return whether the dialog is due
 bool Wait::WaitForDialog()
 {
     if (!m_pParent) {

@@ -13,10 +13,11 @@ class OrnWaitDialog;
 
 namespace APIModule {
 
-/// The wait of one request, in a local event loop or behind a modal wait dialog.
+/// The wait of one request, in a local event loop or behind a modal wait dialog. This is the only place of the library
+/// that runs an event loop.
 ///
-/// Whatever runs meanwhile may delete the parent or the dialog, stop the dialog, start further waits or end the
-/// application. A wait inside another one delays the end of the outer one; nothing else does.
+/// Code that runs meanwhile may delete the parent or the dialog, stop the dialog, start further waits or quit the
+/// application. Only a nested wait delays the end of the outer one.
 class Wait {
 public:
     /// A wait in a local event loop.
@@ -25,7 +26,7 @@ public:
     /// A wait behind a modal dialog over @p parent. It ends when the parent or the dialog is destroyed, and when the
     /// dialog returns from exec() for any other reason.
     ///
-    /// @param delay until the dialog appears; until then user input to all windows is discarded in its place
+    /// @param delay until the dialog appears; until then user input to all windows is discarded
     explicit Wait(QWidget& parent, std::chrono::milliseconds delay = std::chrono::milliseconds(0));
 
     ~Wait();
@@ -34,16 +35,16 @@ public:
     Wait& operator=(const Wait&) = delete;
 
     /// Runs the event loop until End(), or until the dialog returns or the application quits. Returns at once while
-    /// the application is quitting: Qt starts no nested loop then.
+    /// the application is quitting, because Qt runs no nested loop then.
     void Run();
 
-    /// Ends the wait, also one that has not begun.
+    /// Ends the wait, even before Run().
     void End();
 
-    /// Whether somebody else ended the wait: the parent or the dialog is gone, or the dialog was stopped.
+    /// Whether the parent or the dialog was destroyed, or the dialog stopped.
     bool IsBroken() const { return m_bBroken; }
 
-    /// Lives as long as the wait: a context for connections that end it.
+    /// Context for connections that end the wait; exists as long as the wait.
     QObject* Context() { return &m_loop; }
 
 private:
@@ -53,7 +54,7 @@ private:
     QEventLoop m_loop;
     QEventLoop::ProcessEventsFlags m_flags = QEventLoop::AllEvents;
     QPointer<ORNGUI::OrnWaitDialog> m_pDialog;
-    QPointer<QWidget> m_pParent;  ///< of the dialog that is still to be made
+    QPointer<QWidget> m_pParent;  ///< parent of the dialog, which is created later
     std::chrono::milliseconds m_delay{};
     bool m_bEnded = false;
     bool m_bBroken = false;

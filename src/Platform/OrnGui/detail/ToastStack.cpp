@@ -36,7 +36,7 @@ bool IsOnScreen(const QWidget* pWindow)
     return pWindow != nullptr && pWindow->isVisible() && !pWindow->isMinimized();
 }
 
-/// A wait dialog stands for the window under it.
+/// The window that counts as active: below a wait dialog, that of its parent.
 QWidget* ActiveWindow()
 {
     QWidget* pWindow = QApplication::activeWindow();
@@ -53,7 +53,7 @@ ToastStack& ToastStack::Instance()
 {
     if (g_pStack == nullptr) {
         g_pStack = new ToastStack;
-        // The widgets must go while the QApplication still stands, whether or not it ever ran.
+        // The widgets must be deleted before the QApplication, whether or not it ever ran.
         qAddPostRoutine(DeleteStack);
     }
     return *g_pStack;

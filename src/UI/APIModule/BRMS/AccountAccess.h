@@ -33,7 +33,7 @@ struct FunctionChannelCheckResult {
     int authorized = 0;  ///< "authorized": the number at the start of the server's text, such as 1 for allowed
 };
 
-/// Which devices are counted. All of it stands in the URL unencoded; an empty text leaves its place empty.
+/// Which devices are counted. All fields are inserted into the URL unencoded; an empty text leaves its value empty.
 struct DeviceCategoryParamReq {
     std::string keyword;       ///< "keyword": text to look for, empty for all devices
     std::string orgCode;       ///< "orgCode": code of their organisation, empty for all

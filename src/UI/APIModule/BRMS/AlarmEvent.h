@@ -7,11 +7,11 @@
 
 namespace APIModule {
 
-/// Which page of the alarm plans is asked for. All of it goes into the URL.
+/// The requested page of alarm plans. All fields are part of the URL.
 struct GetPageSummaryAlarmPlansParam {
     int page = 0;         ///< "page": number of the page, counted from 1; 0 is the first page, too
     int pageSize = 0;     ///< "pageSize": plans on a page
-    std::string keyword;  ///< "keyword": part of the plan's name, empty for all plans; stands in the URL unencoded
+    std::string keyword;  ///< "keyword": part of the plan's name, empty for all plans; inserted into the URL unencoded
 };
 
 /// An alarm plan in a list.

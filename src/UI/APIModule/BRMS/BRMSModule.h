@@ -338,7 +338,7 @@ public:
     /// Replaces a quick command, its requests included: PUT /brms/api/v1.1/config/quick/command/{command.id}
     ///
     /// Body: as that of PacketAddQuickCommand().
-    /// @param command the new values of the command that has this "id", which stands in the URL as given
+    /// @param command the new values of the command that has this "id", which is inserted into the URL as given
     static int PacketUpdateQuickCommand(void* pReqParamData, const QuickCommand& command, int nServerId);
 
     /// Deletes quick commands: DELETE /brms/api/v1.1/config/quick/command?ids={ids, with a comma between two}, no body
@@ -377,7 +377,7 @@ public:
     /// Reads one page of the alarm plans whose name holds a keyword:
     /// GET /brms/api/v1.1/alarm/plan/summary/page?page={page}&pageSize={pageSize}&keyword={keyword}
     /// @param query the page, counted from 1 (0 is the first page, too), its size, and a part of the name, empty for
-    ///        all plans; the keyword stands in the URL as given, so `R&D` is passed as `R%26D`
+    ///        all plans; the keyword is inserted into the URL as given, so `R&D` is passed as `R%26D`
     static int PacketGetPageSummaryAlarmPlans(void* pReqParamData, const GetPageSummaryAlarmPlansParam& query,
                                               int nServerId);
     /// Appends the plans of "pageData" to @p plans.

@@ -9,7 +9,7 @@ namespace APIModule {
 
 /// Network settings of one device.
 struct NetworkConfig {
-    std::string deviceCode;  ///< the device; stands in the URL, neither sent in a body nor filled by a Parse
+    std::string deviceCode;  ///< the device; part of the URL, neither sent in a body nor filled by a Parse
     std::string ip;          ///< "ip": address
     std::string mask;        ///< "mask": subnet mask
     std::string gateway;     ///< "gateway": address of the gateway
@@ -18,7 +18,7 @@ struct NetworkConfig {
 
 /// Video encoding of one stream of a channel. Codes and units are the server's.
 struct EncodeConfig {
-    std::string channelId;   ///< neither sent nor filled: the channel stands in the URL
+    std::string channelId;   ///< neither sent nor filled: the channel is part of the URL
     int streamType = 0;      ///< "streamType": which stream, such as 1
     int bitRate = 0;         ///< "bitRate": bit rate, such as 4096
     int bitRateControl = 0;  ///< "bitRateControl": code of the bit-rate control, such as 1
@@ -51,7 +51,7 @@ struct EncodeCapability {
 
 /// Image adjustment of one channel. The ranges are the server's, values such as 50.
 struct ImageConfig {
-    std::string channelId;  ///< the channel; stands in the URL, neither sent in a body nor filled by a Parse
+    std::string channelId;  ///< the channel; part of the URL, neither sent in a body nor filled by a Parse
     int brightness = 0;     ///< "brightness"
     int saturation = 0;     ///< "saturation"
     int contrast = 0;       ///< "contrast"
@@ -68,14 +68,14 @@ struct MultiCastStream {
 
 /// Multicast of one channel.
 struct MultiCastConfigInfo {
-    std::string channelId;                 ///< the channel; stands in the URL, not filled by a Parse
+    std::string channelId;                 ///< the channel; part of the URL, not filled by a Parse
     bool status = false;                   ///< "status": multicast of the channel is on
     std::vector<MultiCastStream> streams;  ///< "streams": its streams
 };
 
 /// Switch of the multicast of one stream.
 struct MultiCastStreamStatus {
-    std::string channelId;  ///< the channel; stands in the URL
+    std::string channelId;  ///< the channel; part of the URL
     int streamType = 0;     ///< "streamType": which stream, the server's code
     bool status = false;    ///< "status": multicast of the stream is on
 };

@@ -27,15 +27,15 @@ struct SimpleParkingPositionInfo {
 
 /// One parking lot in the short list.
 struct SimpleParkingLotInfoRsp {
-    std::string id;                                    ///< "id": identifier of the parking lot
-    std::string parkingLotName;                        ///< "parkingLotName": display name
-    std::string orgCode;                               ///< "orgCode": the organisation that it belongs to
-    std::string orgName;                               ///< "orgName": name of that organisation
-    std::string parentParkingLotId;                    ///< "parentParkingLotId": the parking lot around it
-    std::string parentParkingLotName;                  ///< "parentParkingLotName": name of the parking lot around it
-    int parkingLotMode = 0;                            ///< "parkingLotMode": the server's code
-    int enableParkingSpaceStatistics = 0;              ///< "enableParkingSpaceStatistics": a number as it stands
-    int parkingSpaceStatisticsType = 0;                ///< "parkingSpaceStatisticsType": the server's code
+    std::string id;                        ///< "id": identifier of the parking lot
+    std::string parkingLotName;            ///< "parkingLotName": display name
+    std::string orgCode;                   ///< "orgCode": the organisation that it belongs to
+    std::string orgName;                   ///< "orgName": name of that organisation
+    std::string parentParkingLotId;        ///< "parentParkingLotId": the parking lot around it
+    std::string parentParkingLotName;      ///< "parentParkingLotName": name of the parking lot around it
+    int parkingLotMode = 0;                ///< "parkingLotMode": the server's code
+    int enableParkingSpaceStatistics = 0;  ///< "enableParkingSpaceStatistics": the number as sent by the server
+    int parkingSpaceStatisticsType = 0;    ///< "parkingSpaceStatisticsType": the server's code
     std::vector<SimpleParkingPositionInfo> positions;  ///< "positions": the positions of the parking lot
 };
 
@@ -68,19 +68,19 @@ struct DetailParkingPositionInfo {
 
 /// One parking lot in the detailed list.
 struct DatailParkingLotInfoRsp {
-    std::string id;                                    ///< "id": identifier of the parking lot
-    std::string parkingLotName;                        ///< "parkingLotName": display name
-    std::string orgCode;                               ///< "orgCode": the organisation that it belongs to
-    std::string orgName;                               ///< "orgName": name of that organisation
-    std::string parentParkingLotId;                    ///< "parentParkingLotId": the parking lot around it
-    std::string parentParkingLotName;                  ///< "parentParkingLotName": name of the parking lot around it
-    int parkingLotMode = 0;                            ///< "parkingLotMode": the server's code
-    int enableParkingSpaceStatistics = 0;              ///< "enableParkingSpaceStatistics": a number as it stands
-    int parkingSpaceStatisticsType = 0;                ///< "parkingSpaceStatisticsType": the server's code
-    int issueVehicles = 0;                             ///< "issueVehicles": a number as it stands
-    int issueStatus = 0;                               ///< "issueStatus": the server's code
-    int totalParkingSpaceCount = 0;                    ///< "totalParkingSpaceCount": parking spaces in all
-    int idleParkingSpaceCount = 0;                     ///< "idleParkingSpaceCount": free parking spaces
+    std::string id;                        ///< "id": identifier of the parking lot
+    std::string parkingLotName;            ///< "parkingLotName": display name
+    std::string orgCode;                   ///< "orgCode": the organisation that it belongs to
+    std::string orgName;                   ///< "orgName": name of that organisation
+    std::string parentParkingLotId;        ///< "parentParkingLotId": the parking lot around it
+    std::string parentParkingLotName;      ///< "parentParkingLotName": name of the parking lot around it
+    int parkingLotMode = 0;                ///< "parkingLotMode": the server's code
+    int enableParkingSpaceStatistics = 0;  ///< "enableParkingSpaceStatistics": the number as sent by the server
+    int parkingSpaceStatisticsType = 0;    ///< "parkingSpaceStatisticsType": the server's code
+    int issueVehicles = 0;                 ///< "issueVehicles": the number as sent by the server
+    int issueStatus = 0;                   ///< "issueStatus": the server's code
+    int totalParkingSpaceCount = 0;        ///< "totalParkingSpaceCount": parking spaces in all
+    int idleParkingSpaceCount = 0;         ///< "idleParkingSpaceCount": free parking spaces
     std::vector<DetailParkingPositionInfo> positions;  ///< "positions": the positions of the parking lot
 };
 
@@ -89,8 +89,8 @@ struct OrganizationInfoRsp {
     std::string orgCode;        ///< "orgCode": code of the organisation, such as "001"
     std::string orgName;        ///< "orgName": display name
     std::string parentOrgCode;  ///< "parentOrgCode": the organisation above it, empty at the root
-    int hasChild = 0;           ///< "hasChild": whether organisations lie below it, a number as it stands
-    int hasAuthority = 0;       ///< "hasAuthority": whether the user has rights in it, a number as it stands
+    int hasChild = 0;           ///< "hasChild": whether it has child organisations, the number as sent by the server
+    int hasAuthority = 0;       ///< "hasAuthority": whether the user has rights in it, the number as sent by the server
 };
 
 /// The correction of a vehicle capture record.

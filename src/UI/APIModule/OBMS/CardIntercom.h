@@ -17,7 +17,7 @@ struct AcsCardConfigParam {
 struct ConfigDesFireFailureReq {
     int page = 0;         ///< "page": number of the page, counted from 1; 0 is the first page, too
     int pageSize = 0;     ///< "pageSize": devices of a page
-    std::string keyword;  ///< "keyword": what to search for, empty for all devices; stands in the URL unencoded
+    std::string keyword;  ///< "keyword": what to search for, empty for all devices; inserted into the URL unencoded
 };
 
 /// One device to which the card configuration could not be issued.

@@ -59,7 +59,8 @@ public:
 
     /// Lists the access rules of a point: GET
     /// /obms/api/v1.1/acp/point/{req.pointId}/rule/list?ruleType={req.ruleType}&hasOfflinePoint={req.hasOfflinePoint}
-    /// @param req the point and the filter. Point and rule type stand in the URL as given. A `%` before a single digit
+    /// @param req the point and the filter. Point and rule type are inserted into the URL as given. A `%` before a
+    /// single digit
     ///        in them, as in `%2F`, would be replaced by a later value; codes of two digits such as `%26` are safe.
     static int PackGetPointRules(void* pReqParamData, const GetPointAccessRules& req, int nServerId);
     /// Appends the rules of "results" to @p rules.
@@ -92,7 +93,7 @@ public:
     /// Reads one page of the devices to which the card configuration could not be issued: GET
     /// /obms/api/v1.1/acs/config/desfire/failure/page?page={req.page}&pageSize={req.pageSize}&keyword={req.keyword}
     /// @param req the page, counted from 1 (0 is the first page, too), its size, and the text to look for, empty for
-    ///        all devices; the keyword stands in the URL as given, so `R&D` is passed as `R%26D`
+    ///        all devices; the keyword is inserted into the URL as given, so `R&D` is passed as `R%26D`
     static int PackGetPageConfigDesfireFailInfo(void* pReqParamData, const ConfigDesFireFailureReq& req, int nServerId);
     /// Stores "totalCount", the number of devices on all pages, in @p resp once "pageData" was found, then appends the
     /// devices of "pageData". Without "pageData" the count stays as it is.

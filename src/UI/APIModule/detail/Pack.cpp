@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kTimeoutSeconds = 10;
 
-/// Two constant texts as one, without an allocation. The longest name of the library fills less than half of it.
+/// Concatenates two constant texts without an allocation. The longest name of the library fills less than half of it.
 class Joined {
 public:
     Joined(std::string_view first, std::string_view second)

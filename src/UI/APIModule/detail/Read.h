@@ -16,19 +16,20 @@
 #include <vector>
 
 /// Reading of typed records. A reader returns 0, or -1 at the first key that cannot be read, with the log line of
-/// CCommonFunc::GetJsonValue; what was read before that key stays filled.
+/// CCommonFunc::GetJsonValue; fields read before that key keep their new values. Unknown keys are ignored, and values
+/// of another type are converted, not reported.
 ///
-/// A record is read as its description lists it. Where keys or their order differ, a list of pairs says so; a record
-/// that is read so in lists has a `ReadRecord(const JsonObject&, Record&)` beside it.
+/// A record is read by its description. Where its keys or their order differ, a list of pairs is used instead; for such
+/// a record in lists there is a `ReadRecord(const JsonObject&, Record&)`.
 namespace APIModule::detail {
 
-/// A JSON object as the readers see it. Qt keeps a QJsonObject in the containers of its CBOR classes; seen through
-/// these nothing is copied, and a value is found and read in about half the time.
+/// A JSON object for the readers. Qt stores a QJsonObject in the containers of its CBOR classes; accessed through
+/// these, nothing is copied, and finding and reading a value takes about half the time.
 class JsonObject {
 public:
     JsonObject() = default;
     JsonObject(const QJsonObject& object) : m_members(QCborMap::fromJsonObject(object)) {}
-    /// One that was found inside of another value.
+    /// An object inside another value.
     explicit JsonObject(const QCborValue& value) : m_members(value.toMap()), m_bInner(true) {}
 
     [[nodiscard]] bool isEmpty() const { return m_members.isEmpty(); }
@@ -51,10 +52,10 @@ int ReadValue(const JsonObject& object, QLatin1String key, JsonArray& value);
 int ReadValue(const JsonObject& object, QLatin1String key, int64& value);
 int ReadValue(const JsonObject& object, QLatin1String key, bool& value);
 
-/// The array under @p key, whose numbers are decimal texts; an element that is no such text counts as 0.
+/// The array of @p key, whose numbers are decimal texts; any other element is read as 0.
 int ReadValue(const JsonObject& object, QLatin1String key, std::vector<int>& numbers);
 
-/// The array of records under @p key.
+/// The array of records of @p key.
 template <typename Record>
 int ReadValue(const JsonObject& object, QLatin1String key, std::vector<Record>& list);
 
@@ -72,7 +73,7 @@ int ReadRecord(const JsonObject& object, Record& record)
     return ReadDescribed(object, record, boost::describe::describe_members<Record, boost::describe::mod_public>());
 }
 
-/// Appends each element of @p array that @p readElement reads whole; the first that it does not ends the reading.
+/// Appends the elements of @p array; stops at the first that @p readElement reads incompletely.
 template <typename Element, typename ReadElement>
 int ReadElements(const JsonArray& array, std::vector<Element>& list, ReadElement readElement)
 {
@@ -94,7 +95,7 @@ int ReadRecords(const JsonArray& array, std::vector<Record>& list)
                         [](const JsonObject& element, Record& record) { return ReadRecord(element, record); });
 }
 
-/// The array under @p key, element by element.
+/// The array of @p key, element by element.
 template <typename Element, typename ReadElement>
 int ReadList(const JsonObject& object, QLatin1String key, std::vector<Element>& list, ReadElement readElement)
 {
@@ -129,8 +130,7 @@ private:
     int (*m_read)(const JsonObject&, QLatin1String, void*);
 };
 
-/// Keys and the fields that they fill, in the order in which they are read. A comma behind the last pair keeps each on
-/// a line by itself.
+/// Keys and the fields that they fill, in reading order. A comma after the last pair keeps one pair a line.
 int ReadFields(const JsonObject& object, std::initializer_list<Pair> pairs);
 
 /// A page of a longer list: "totalCount", stored only after "pageData" was found, and the records of "pageData".
@@ -146,7 +146,7 @@ int ReadPage(const JsonObject& object, int& totalCount, std::vector<Record>& pag
     return ReadRecords(array, pageData);
 }
 
-/// Appends the texts of @p array; an element that is no text counts as an empty one.
+/// Appends the texts of @p array; any other element is read as an empty text.
 void AppendTexts(const JsonArray& array, std::vector<std::string>& texts);
 
 }  // namespace APIModule::detail

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-/// How values travel. The calls differ on purpose: each names the conversion of each of its values.
+/// How values are sent. The calls differ on purpose: each names the conversion of each of its values.
 namespace APIModule::detail {
 
-/// The whole text, zero bytes included.
+/// The complete text, including zero bytes.
 inline QString Text(const std::string& text)
 {
     return QString::fromStdString(text);
@@ -24,13 +24,13 @@ inline QString CText(const std::string& text)
     return QString::fromUtf8(text.c_str());
 }
 
-/// The bytes up to the first zero byte, each one a character.
+/// The bytes up to the first zero byte, each as one character.
 inline QString Latin1Text(const std::string& text)
 {
     return QString::fromLatin1(text.c_str());
 }
 
-/// "1" or "0", a text.
+/// The text "1" or "0".
 inline QString FlagText(bool flag)
 {
     return flag ? QStringLiteral("1") : QStringLiteral("0");
@@ -54,13 +54,13 @@ inline QJsonValue FlagNumber(bool flag)
     return {flag ? 1 : 0};
 }
 
-/// A JSON array of whole texts.
+/// A JSON array of complete texts.
 QJsonArray TextList(const std::vector<std::string>& texts);
 
-/// One text of several, with a comma between two.
+/// Several texts joined by commas.
 QString JoinedTexts(const std::vector<std::string>& texts);
 
-/// A JSON array with what @p toValue makes of each element.
+/// A JSON array of the results of @p toValue for each element.
 template <typename Element, typename ToValue>
 QJsonArray List(const std::vector<Element>& elements, ToValue toValue)
 {
@@ -88,7 +88,7 @@ QJsonObject Object(std::initializer_list<Member> members);
 /// The text of a request body: one JSON object, compact.
 QString Body(std::initializer_list<Member> members);
 
-/// A path with its places %1, %2, ... filled by one QString::arg call after the other, nothing escaped.
+/// A path whose placeholders %1, %2, ... are replaced by successive calls of QString::arg, without escaping.
 template <typename... Arguments>
 QString Url(QString path, const Arguments&... arguments)
 {

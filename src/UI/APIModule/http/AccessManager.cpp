@@ -10,7 +10,7 @@ AccessManager::AccessManager(int nMostConnections) : m_nMostConnections(nMostCon
 
 AccessManager::~AccessManager()
 {
-    // Replies let their connections go when they are deleted, which must happen while there are connections.
+    // Replies release their connections when they are deleted, which must happen before the connections are.
     qDeleteAll(findChildren<Reply*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -59,7 +59,7 @@ Connection* AccessManager::Choose(const Reply& reply)
     return pConnection.get();
 }
 
-// From the event loop: never inside a signal of a socket.
+// Called from the event loop, never inside a signal of a socket.
 void AccessManager::Later(void (AccessManager::*pWork)())
 {
     QMetaObject::invokeMethod(

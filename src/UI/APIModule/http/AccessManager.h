@@ -13,16 +13,16 @@ struct ServerTrust;
 
 namespace APIModule::http {
 
-/// A network manager that speaks HTTP/1.1 itself, on the thread it belongs to, and keeps nothing but connections.
+/// A network manager with its own HTTP/1.1 transport on its thread, which keeps nothing but connections.
 ///
-/// In contrast to Qt's own engine a write is sent once whatever happens, bytes that arrive between two calls are never
-/// taken for an answer, and a reply that is given up ends its connection at once. There are no cookies, redirects,
-/// credentials or caches. Up to six connections to a server carry requests at a time; further requests stand in line.
+/// Unlike Qt's engine it sends a write once, whatever happens; it never takes bytes that arrive between two calls for a
+/// reply; and an abandoned reply closes its connection at once. There are no cookies, redirects, credentials or caches.
+/// At most six connections to a server carry requests concurrently; further requests queue.
 class AccessManager final : public QNetworkAccessManager {
     Q_OBJECT
 
 public:
-    static constexpr int kMostConnections = 6;  ///< to one server, as browsers and Qt have them
+    static constexpr int kMostConnections = 6;  ///< to one server, like browsers and Qt
 
     /// @param nMostConnections to one server at a time; with 0 nothing is sent
     explicit AccessManager(int nMostConnections = kMostConnections);

@@ -26,12 +26,12 @@ using namespace std::chrono_literals;
 
 constexpr auto kSecondAttempt = 250ms;
 constexpr auto kLongestIdle = 2min;
-/// A server may close a connection that is idle for longer at the moment at which a write is sent, and nobody knows
-/// then whether it has seen the write.
+/// After a longer idle time the server may close the connection just when a write is sent, and then it is unknown
+/// whether it received the write.
 constexpr std::chrono::milliseconds kLongestIdleForWrite = 100ms;
 constexpr qint64 kReadBufferSize = 256LL * 1024;
 
-/// What Qt's own HTTP engine reports for an error of a socket.
+/// The error that Qt's HTTP engine reports for an error of a socket.
 std::pair<QNetworkReply::NetworkError, QString> Reported(QAbstractSocket::SocketError error, const QString& host,
                                                          const QString& detail)
 {
@@ -112,7 +112,7 @@ void Connection::OnHostFound(const QHostInfo& info)
         Fail(error, text);
         return;
     }
-    // A host with addresses of both families may be reachable through one of them alone.
+    // A host with addresses of both families may be reachable through only one of them.
     const QAbstractSocket::NetworkLayerProtocol first = info.addresses().constFirst().protocol();
     const QList<QHostAddress> addresses = info.addresses();
     for (const QHostAddress& address : addresses) {
@@ -179,7 +179,7 @@ void Connection::OnConnected(QTcpSocket& socket)
 void Connection::OnEncrypted()
 {
     if (m_manager.GetServerTrust()) {
-        // The host may be asked, and nothing of it runs inside a signal of a socket.
+        // The host may be asked, and its code must not run inside a signal of a socket.
         QMetaObject::invokeMethod(this, &Connection::LookAtServer, Qt::QueuedConnection);
     } else {
         OnReady();
@@ -228,7 +228,7 @@ bool Connection::IsFitFor(const Reply& reply)
         Close();
         return false;
     }
-    // What has come meanwhile arrives now, and closes the connection.
+    // Pending bytes are read now, and close the connection.
     m_bProbing = true;
     m_pSocket->waitForReadyRead(0);
     m_bProbing = false;

@@ -22,7 +22,7 @@ namespace APIModule::http {
 class AccessManager;
 class Reply;
 
-/// Where a connection leads to.
+/// The destination of a connection.
 struct Origin {
     bool bEncrypted;
     QString host;
@@ -37,8 +37,8 @@ struct Origin {
 
 /// A connection to a server, which carries one request after the other.
 ///
-/// It closes as soon as anything comes that belongs to no request: what arrives between two replies must not become the
-/// answer to the next call.
+/// It closes as soon as it receives bytes that belong to no request: bytes that arrive between two replies must not
+/// become the reply to the next call.
 class Connection final : public QObject {
     Q_OBJECT
 
@@ -51,13 +51,13 @@ public:
     bool IsFree() const { return !m_bClosed && !m_pReply; }
     const Reply* Carried() const { return m_pReply; }
 
-    /// Whether the connection is free and good for the request. Closes one that is free and no longer good.
+    /// Whether the connection is idle and usable for the request. Closes an idle connection that is no longer usable.
     bool IsFitFor(const Reply& reply);
 
-    /// Sends the request of @p reply as soon as the connection is made.
+    /// Sends the request of @p reply as soon as the connection is established.
     void Carry(Reply& reply);
 
-    /// Lets the request go and closes.
+    /// Releases the request and closes the connection.
     void Close();
 
 signals:
@@ -86,11 +86,11 @@ private:
     const QUrl m_url;
     const QSslConfiguration m_configuration;
     QNetworkProxy m_proxy{QNetworkProxy::NoProxy};
-    bool m_bThroughCache = false;  ///< the proxy takes plain HTTP requests instead of a tunnel
+    bool m_bThroughCache = false;  ///< the proxy forwards plain HTTP requests instead of tunnelling
 
-    std::vector<std::unique_ptr<QTcpSocket>> m_dialled;  ///< until one of them is connected
+    std::vector<std::unique_ptr<QTcpSocket>> m_dialled;  ///< candidates until one of them is connected
     std::unique_ptr<QTcpSocket> m_pSocket;
-    std::optional<QAbstractSocket::NetworkLayerProtocol> m_second;  ///< to be tried beside the first
+    std::optional<QAbstractSocket::NetworkLayerProtocol> m_second;  ///< to be tried in parallel with the first
     QTimer m_timer;  ///< until the second attempt, or until the end of an idle connection
     QElapsedTimer m_idleSince;
 

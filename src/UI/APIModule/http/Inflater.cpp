@@ -58,7 +58,7 @@ Inflater::Result Inflater::Run(const QByteArray& input, QByteArray& out, qint64 
     bool bMore = true;
     while (bMore && !m_bEnded) {
         const qint64 nOld = out.size();
-        // One byte beyond the limit shows that there are more.
+        // One byte above the limit proves that the limit is exceeded.
         const qint64 nStep = std::min(std::max(nOld / 2, kLeastStep), nMost + 1 - nOld);
         out.resize(int(nOld + nStep));
         m_pStream->next_out = reinterpret_cast<Bytef*>(out.data() + nOld);

@@ -22,18 +22,18 @@ public:
     Inflater(const Inflater&) = delete;
     Inflater& operator=(const Inflater&) = delete;
 
-    /// Appends what @p size bytes at @p pData decompress to. Bytes after the end of the compressed stream are ignored.
+    /// Decompresses @p size bytes at @p pData and appends the result. Bytes after the end of the stream are ignored.
     /// @param nMost largest size of @p out
     Result Append(const char* pData, qint64 size, QByteArray& out, qint64 nMost);
 
-    /// Whether the compressed stream has come to its end, or has not begun.
+    /// Whether the compressed stream has ended or has not begun.
     bool IsWhole() const { return m_bEnded || (!m_pStream && m_first.isEmpty()); }
 
 private:
     Result Run(const QByteArray& input, QByteArray& out, qint64 nMost);
 
-    QByteArray m_first;                     ///< the first byte while the second has not come
-    std::unique_ptr<z_stream_s> m_pStream;  ///< once the form of the stream is known
+    QByteArray m_first;                     ///< the first byte until the second arrives
+    std::unique_ptr<z_stream_s> m_pStream;  ///< set once the format is known
     bool m_bEnded = false;
 };
 

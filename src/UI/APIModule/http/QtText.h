@@ -4,7 +4,7 @@
 
 namespace APIModule::http {
 
-/// A text of Qt's network classes, in the language of the translations that the host has installed for Qt.
+/// A text of Qt's network classes, in the language of the host's translations of Qt.
 inline QString QtText(const char* pText, const char* pContext = "QHttp")
 {
     return QCoreApplication::translate(pContext, pText);

@@ -19,9 +19,9 @@ namespace APIModule::http {
 class AccessManager;
 class ReplyReader;
 
-/// A request and what becomes of it: either a whole HTTP answer, and then the attribute HttpStatusCodeAttribute, or an
-/// error. The signal finished() comes from the event loop, never inside a signal of a socket, whose receivers must not
-/// run an event loop.
+/// A request and its outcome: a complete HTTP reply, with the attribute HttpStatusCodeAttribute, or an error. The
+/// signal finished() is emitted from the event loop, never inside a signal of a socket, whose receivers must not run an
+/// event loop.
 class Reply final : public QNetworkReply {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ public:
     bool isSequential() const override { return true; }
     qint64 bytesAvailable() const override;
 
-    /// The whole body, which is not there to be read any more.
+    /// Takes the complete body, which can then no longer be read.
     QByteArray TakeBody() { return std::exchange(m_body, QByteArray()); }
     /// Repeated headers are joined.
     const QList<QPair<QByteArray, QByteArray>>& Headers() const { return m_headers; }
@@ -49,13 +49,13 @@ public:
     const QByteArray& Verb() const { return m_verb; }
     const QByteArray& SentBody() const { return m_sentBody; }
 
-    /// From now on the reply notes when its first byte comes.
+    /// Makes the reply record when its first byte arrives.
     void Observe() { m_bObserved = true; }
     void NoteSent(const QByteArray& bytes) { m_sent = bytes; }
     void NoteFirstByte();
     /// Request line and header lines as they were sent; empty when nothing was sent.
     QByteArray SentHead() const { return m_sent.left(m_sent.size() - m_sentBody.size()); }
-    /// The same as it will be sent without a proxy.
+    /// The same, as it will be sent without a proxy.
     QByteArray Head() const
     {
         const QByteArray bytes = Bytes(nullptr);
@@ -63,23 +63,23 @@ public:
     }
     const std::optional<std::chrono::steady_clock::time_point>& FirstByte() const { return m_firstByte; }
 
-    /// Whether the server may do something twice when the request reaches it twice.
+    /// Whether the request must not reach the server twice.
     bool IsWrite() const { return m_bWrite; }
 
-    /// A read that met a connection that had died is repeated on a new one, once.
+    /// A read on a connection that had died is repeated once on a new one.
     bool IsRepeated() const { return m_bRepeated; }
     void SetRepeated() { m_bRepeated = true; }
 
-    /// Finishes with what @p reader holds, which is a complete reply.
+    /// Finishes with the complete reply in @p reader.
     void Complete(ReplyReader& reader);
-    /// Finishes without an answer.
+    /// Finishes without a reply.
     void Fail(NetworkError error, const QString& text);
-    /// Finishes without having sent anything, to a server that is not known.
+    /// Finishes without having sent anything, because the server is not trusted.
     void Refuse(const UnknownServer& server);
 
     const std::optional<UnknownServer>& GetUnknownServer() const { return m_unknownServer; }
 
-    /// Finishes because more came than the manager accepts.
+    /// Finishes because the reply is larger than the manager accepts.
     void FailTooLarge();
     bool IsTooLarge() const { return m_bTooLarge; }
 

@@ -15,7 +15,7 @@ constexpr int kFirstFinal = 200;
 constexpr int kNoContent = 204;
 constexpr int kNotModified = 304;
 
-/// A length as headers give it; nothing when it is not a number.
+/// Parses a length in a header; nothing when it is not a number.
 std::optional<qint64> Length(const QByteArray& value)
 {
     bool bOk = false;
@@ -172,7 +172,7 @@ void ReplyReader::EndHead()
     m_bKeepsConnection = !connection.contains("close") && (!bOld || connection.contains("keep-alive"));
 
     if (m_nStatus < kFirstFinal || m_nStatus == kNoContent || m_nStatus == kNotModified) {
-        // Nothing can be known of what follows: not every server leaves the body out.
+        // The connection cannot be reused: some servers send a body after these statuses.
         m_bKeepsConnection = false;
         Finish(State::Complete);
         return;

@@ -15,15 +15,15 @@ namespace APIModule::http {
 
 /// Reads one HTTP/1.x reply from the bytes of a connection, however they are split.
 ///
-/// It accepts what servers send beyond the standard: line ends without a carriage return, a status line without a
-/// reason, folded headers, a length that is no number. Interim replies with status 100 are skipped.
+/// It accepts some deviations from the standard: line ends without a carriage return, a status line without a reason,
+/// folded headers, a length that is not a number. Interim replies with status 100 are skipped. Trailers are ignored.
 class ReplyReader {
 public:
     enum class State {
         Reading,
         Complete,
-        Closed,    ///< no HTTP, or the connection ended within the reply
-        Corrupt,   ///< the content coding is broken, or cut short
+        Closed,    ///< not HTTP, or the connection ended within the reply
+        Corrupt,   ///< the compressed data is invalid or truncated
         TooLarge,  ///< more bytes than the caller accepts
     };
 
@@ -33,11 +33,11 @@ public:
     /// Reads from @p size bytes at @p pData. @return how many of them belong to the reply
     qint64 Feed(const char* pData, qint64 size);
 
-    /// The connection ended: completes a reply whose end only the connection marks.
+    /// Must be called when the connection ended; completes a reply that is delimited by the end of the connection.
     void End();
 
     State GetState() const { return m_state; }
-    /// Whether no byte of a reply has come yet.
+    /// Whether no byte of a reply has arrived yet.
     bool IsUntouched() const { return m_nReceived == 0; }
     /// Whether the connection may carry another request after this reply.
     bool KeepsConnection() const { return m_bKeepsConnection; }
@@ -74,8 +74,8 @@ private:
     qint64 m_nReceived = 0;
     State m_state = State::Reading;
     Step m_step = Step::StatusLine;
-    QByteArray m_line;       ///< the beginning of a line whose end has not come
-    qint64 m_nExpected = 0;  ///< bytes of the body or of the chunk that are to come
+    QByteArray m_line;       ///< the beginning of an incomplete line
+    qint64 m_nExpected = 0;  ///< bytes missing from the body or the chunk
     bool m_bKeepsConnection = false;
 
     int m_nMajor = 1;
@@ -83,7 +83,7 @@ private:
     int m_nStatus = -1;
     QByteArray m_reason;
     QList<QPair<QByteArray, QByteArray>> m_headers;
-    QHash<QByteArray, int> m_places;  ///< of each header, by its name in lower case
+    QHash<QByteArray, int> m_places;  ///< index of each header, by its name in lower case
     int m_nLastHeader = -1;           ///< the one that a folded line continues
     QByteArray m_body;
     std::unique_ptr<Inflater> m_pInflater;

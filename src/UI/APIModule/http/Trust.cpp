@@ -44,7 +44,7 @@ bool IsRestricted(const ServerTrust& trust)
 QSslConfiguration Verifying(const ServerTrust& trust, QSslConfiguration configuration)
 {
     QList<QSslCertificate> authorities = trust.authorities;
-    // To load those of the system takes time, which pins alone do not need.
+    // Loading the system's authorities takes time and is not needed for pins.
     if (trust.bSystemAuthorities || (authorities.isEmpty() && trust.decide)) {
         authorities += QSslConfiguration::systemCaCertificates();
     }

@@ -10,35 +10,41 @@
 
 namespace APIModule {
 
-/// Typed readers of JSON values, and a text helper for hosts.
+/// Typed readers of JSON values for the Parses that a host writes, and a text helper.
 ///
-/// GetJsonValue() reads the value under @p key of @p jsonObject into @p value, whose type selects the overload. It
-/// returns 0. When the object has no keys, lacks the key, or the value is of undefined type, it returns -1 with one log
-/// line that says why, and @p value is untouched. It accepts every other value and converts it as QVariant does: a text
-/// of digits gives its number, null gives 0, "" or false, a text of letters read as a number gives 0.
+/// GetJsonValue() reads the value of @p key in @p jsonObject into @p value, whose type selects the overload, and
+/// returns 0. It returns -1, writes one log line with the reason and leaves @p value untouched when the object has no
+/// keys, lacks the key, or the value is undefined. It converts every other value as QVariant does: a text of digits to
+/// its number, null to 0, "" or false, a text of letters read as a number to 0. It reports no other type mismatch:
+/// @code
+/// int Parse(const QJsonObject& data, int& interval)
+/// {
+///     return APIModule::CCommonFunc::GetJsonValue(data, QStringLiteral("interval"), interval);
+/// }
+/// @endcode
 class APIMODULE_EXPORT CCommonFunc {
 public:
     /// Reads an `int`.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, int& value);
     /// Reads a `double`.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, double& value);
-    /// Reads an object; a value of another type gives an empty one.
+    /// Reads an object; a value of another type is read as an empty one.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, QJsonObject& value);
-    /// Reads a text as UTF-8; a number gives its text.
+    /// Reads a text as UTF-8; a number is converted to its text.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, std::string& value);
-    /// Reads an array; a value of another type gives an empty one.
+    /// Reads an array; a value of another type is read as an empty one.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, QJsonArray& value);
-    /// Reads a 64-bit integer; beyond 2^53 a double in between limits its precision.
+    /// Reads a 64-bit integer; beyond 2^53 its precision is that of a double.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, int64& value);
-    /// Reads a `bool`; the texts "", "0" and "false" and the number 0 give false.
+    /// Reads a `bool`; the texts "", "0" and "false" and the number 0 are false.
     static int GetJsonValue(const QJsonObject& jsonObject, const QString& key, bool& value);
 
-    /// Whether the object has no keys, which is logged.
+    /// Tests whether the object has no keys, and logs that.
     /// @param jsonObject the object
     /// @return true without keys
     static bool IsEmpty(const QJsonObject& jsonObject);
 
-    /// Whether the object contains the key; a missing one is logged.
+    /// Tests whether the object contains the key, and logs a missing one.
     /// @param jsonObject the object
     /// @param key the key
     /// @return true when it is there
