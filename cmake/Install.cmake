@@ -92,7 +92,7 @@ endif()
 # With the client libraries that a host calls itself; UserLogical is headers alone.
 set(libraries -lAPIModule)
 if(APIMODULE_BUNDLED_PLATFORM)
-    string(APPEND libraries " -lAPIModule-ErrorLexicon -lAPIModule-OrnGui -lAPIModule-ornl")
+    string(APPEND libraries " -lErrorLexicon -lOrnGui -lornl")
 endif()
 configure_file("${PROJECT_SOURCE_DIR}/cmake/APIModule.pc.in" "${PROJECT_BINARY_DIR}/APIModule.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/APIModule.pc"
