@@ -16,7 +16,7 @@ constexpr const char* kLibrary = "APIModule";
 /// Ends the program.
 [[noreturn]] void Fail(const std::string& why);
 
-/// Ends the program when contenders do not give the same: what one of them leaves out would cost it nothing.
+/// Ends the program when the results of contenders differ, because one that does less work would win unfairly.
 void Require(bool isSame, const std::string& what);
 
 /// Registers the benchmarks of a program; each of them defines it. There is an application object.

@@ -71,7 +71,7 @@ Values Time(Client& client, const Exchange& exchange)
     return {{kSeconds, double(clock.nsecsElapsed()) / kPerSecond}};
 }
 
-/// Everybody must bring the same. It connects them, too.
+/// All contenders must return the same. This also opens their connections.
 void Compare(const std::vector<NamedClient>& clients, const Exchange& exchange)
 {
     const QJsonObject expected = DataOf(clients.front().client->Run(exchange));

@@ -1,4 +1,4 @@
-// Memory of calls: the peak of a large reply, and what many calls leave behind.
+// Memory of calls: the peak during a large reply, and the growth over many calls.
 #include "Bench.h"
 #include "transport/Clients.h"
 #include "transport/InTurns.h"

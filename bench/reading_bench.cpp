@@ -51,7 +51,7 @@ ParkingLots Read(const QJsonObject& data)
     return lots;
 }
 
-/// From the text to the records as a call takes them, the envelope included.
+/// From the text to the records, as in a call, including the envelope.
 ParkingLots ReadWithLibrary(const Reply& reply)
 {
     APIModule::ReplyInfo info;

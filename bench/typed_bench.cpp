@@ -1,4 +1,5 @@
-// Typed calls beside ExecuteFuncs and Qt: what a value costs, what calls at once save, and the stall of a large record.
+// Typed calls compared with ExecuteFuncs and Qt: their overhead, the gain of concurrent calls, the stall of a large
+// record.
 #include "Bench.h"
 #include "transport/Clients.h"
 #include "transport/InTurns.h"
@@ -115,7 +116,7 @@ void RegisterAtOnce(const Server& server)
         {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })}, {kLibrary, TimeOf([=] { StartAll(exchange); })}});
 }
 
-/// The longest time for which the event loop stands still, in milliseconds.
+/// The longest stall of the event loop, in milliseconds.
 double Stall(const std::function<void(QEventLoop&)>& begin)
 {
     QEventLoop loop;

@@ -29,7 +29,7 @@ void Idle(int nMilliseconds)
     loop.exec();
 }
 
-/// A window for the wait dialog to stand over.
+/// A window under the wait dialog.
 class Window : public QWidget {
 public:
     Window()
@@ -43,7 +43,7 @@ public:
     }
 };
 
-/// Processor time of the whole process, all its threads, in seconds.
+/// Processor time of all threads of the process, in seconds.
 double ProcessorSeconds()
 {
     std::timespec time{};
@@ -52,7 +52,7 @@ double ProcessorSeconds()
     return double(time.tv_sec) + double(time.tv_nsec) / kNanoPerSecond;
 }
 
-/// How late each tick of a timer comes meanwhile, in milliseconds, the latest last.
+/// How late each tick of a timer is meanwhile, in milliseconds, in ascending order.
 std::vector<double> Lateness(int nInterval, const std::function<void()>& wait)
 {
     std::vector<double> lateness;
@@ -71,7 +71,7 @@ std::vector<double> Lateness(int nInterval, const std::function<void()>& wait)
     return lateness;
 }
 
-/// What a wait takes from the processor, and what it does to the frames of an animation.
+/// The processor time of a wait, and its effect on the frames of an animation.
 Values Cost(const std::function<void()>& wait)
 {
     constexpr int kFrame = 16;

@@ -31,7 +31,7 @@ inline void Require(bool bHolds, const std::string& text)
     }
 }
 
-/// While it lives, what is not freed is no finding. Qt's parser never frees the first of two lists or objects under the
+/// Ignores leaks during its lifetime. Qt's parser never frees the first of two lists or objects under the
 /// same key.
 using ForgivenLeaks = __lsan::ScopedDisabler;
 

@@ -131,7 +131,7 @@ void ExpectAnswer(const HttpRequest& request)
 
 constexpr const char* kMethod = "PUT";
 
-/// A fault that is understood is told again just as it was taken, and hits what it is for.
+/// An accepted fault is reported unchanged, and applies to the requests that it names.
 void ExpectFault(const std::string& text, const std::string& target)
 {
     const Json json = Json::parse(text, nullptr, false);
@@ -152,10 +152,10 @@ void ExpectFault(const std::string& text, const std::string& target)
     }
 }
 
-/// What a connection's bytes come to.
+/// The requests in the bytes of a connection.
 struct Reading {
     std::vector<HttpRequest> requests;
-    int fault = 0;  ///< status; 0 when the bytes are right as far as they go
+    int fault = 0;  ///< status of the refusal; 0 when the bytes so far are valid
 };
 
 bool AreSame(const Reading& one, const Reading& other)
@@ -189,7 +189,7 @@ bool ReadOn(RequestReader& reader, Reading& reading)
     }
 }
 
-/// @param pieces the sizes of the pieces in which the bytes come, used again and again
+/// @param pieces sizes of the pieces in which the bytes arrive, used cyclically
 Reading Read(std::string_view bytes, const std::vector<std::size_t>& pieces)
 {
     Reading reading;
@@ -207,7 +207,7 @@ Reading Read(std::string_view bytes, const std::vector<std::size_t>& pieces)
     return reading;
 }
 
-/// However the bytes are cut, they are the same requests and just as right, and nothing is in them that did not come.
+/// However the bytes are split, the requests and their validity are the same, and they contain only bytes that arrived.
 /// @return the requests
 std::vector<HttpRequest> ExpectReading(std::string_view bytes)
 {
@@ -233,7 +233,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 {
     Server& server = TheServer();
     server.log.clear();
-    // What begins as a request does is read off the wire, all else is choices.
+    // Input that starts like a request is read as bytes of a connection, all other input as choices.
     const bool bWire = size > 0 && (bytes[0] == '\r' || (bytes[0] >= 'A' && bytes[0] <= 'Z'));
     std::vector<HttpRequest> requests;
     FuzzedDataProvider data(bytes, bWire ? 0 : size);

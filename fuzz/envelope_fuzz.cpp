@@ -12,7 +12,7 @@ namespace {
 
 using APIModule::ReplyInfo;
 
-/// The code of an envelope: a whole number of an int's range, else 0.
+/// The code of an envelope: an integer in the range of int, else 0.
 int CodeOf(const QVariant& value)
 {
     const bool bNumber = value.type() == QVariant::LongLong || value.type() == QVariant::Double;

@@ -1,4 +1,4 @@
-// Masking of the token in what is logged.
+// Masking of the token in logged texts.
 #include "Fuzz.h"
 
 #include <Mask_p.h>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kStars = 10;
 
-/// The same, letter by letter: whatever stands in the ten places behind the first "token=" gives way to ten stars.
+/// The reference, letter by letter: the ten characters after the first "token=" are replaced by ten asterisks.
 QString MaskedByLetters(const QString& text)
 {
     const QString name = QStringLiteral("token=");
@@ -56,7 +56,7 @@ std::string WithoutCapitals(std::string text)
     return text;
 }
 
-/// Of a token as long as a session's, no more than what is behind its first ten letters is seen.
+/// A session token shows at most the characters after its tenth.
 void ExpectTokenHidden(FuzzedDataProvider& data)
 {
     const std::string token = Token(data);

@@ -9,7 +9,7 @@
 
 using family_testing::KnownParses;
 
-// The tests of the families are linked in. Making their rows tells which Parses there are and what each reads.
+// The tests of the families are linked in. Their rows list all Parses and what each reads.
 extern "C" int LLVMFuzzerInitialize(int* pCount, char*** pArguments)
 {
     int nOwn = 1;

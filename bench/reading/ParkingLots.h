@@ -16,7 +16,7 @@ using ParkingLots = std::vector<APIModule::DatailParkingLotInfoRsp>;
 /// Parking lots as a platform has them, the same ones in every run.
 ParkingLots MakeParkingLots(int count);
 
-/// The whole reply that lists them, its envelope included.
+/// The complete reply that lists them, including its envelope.
 QByteArray ReplyOf(ParkingLots& lots);
 
 }  // namespace bench

@@ -4,7 +4,7 @@
 
 namespace bench {
 
-/// What a process of its own says of one contender.
+/// A figure of one contender, measured in a separate process.
 double Probe(const std::string& what, const std::string& contender, int nPort);
 
 // What can be asked.

@@ -72,7 +72,7 @@ public:
     }
 };
 
-/// As long as it lives nothing comes out at standard error: what log lines cost there is not the library's.
+/// Discards standard error during its lifetime: the cost of a terminal is not the library's.
 class NoStandardError {
 public:
     NoStandardError()

@@ -4,7 +4,7 @@
 
 namespace bench {
 
-/// The server that calls are measured against, in a process of its own.
+/// The server for measured calls, in a separate process.
 class Server {
 public:
     Server();

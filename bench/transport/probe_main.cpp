@@ -1,4 +1,4 @@
-// What is measured in a process of its own: of a first call, of memory. Prints one number.
+// Measures what needs a separate process: a first call, memory. Prints one number.
 //
 // usage: transport_probe <what> <contender> <port>
 #include "../Bench.h"
@@ -29,7 +29,7 @@ std::unique_ptr<Client> Make(const std::string& contender)
     return contender == kQtWithJson ? MakeQtWithJson() : MakeLibrary();
 }
 
-/// A size in kilobytes that the kernel tells of this process.
+/// A size of this process in kilobytes, from the kernel.
 double Kilobytes(const char* name)
 {
     QFile status(QStringLiteral("/proc/self/status"));

@@ -141,5 +141,5 @@ int main()
     pServer->PrintPorts();
     while (std::cin.get() != std::char_traits<char>::eof()) {
     }
-    std::_Exit(EXIT_SUCCESS);  // its threads have no end of their own
+    std::_Exit(EXIT_SUCCESS);  // its threads do not end
 }
