@@ -1,4 +1,4 @@
-// Every example reply of the document is read by the library, with all that stands in it and into all of the record.
+// The library reads every example reply of the document completely, and fills every field of the record.
 #include "Document.h"
 
 #include <support/Rows.h>
@@ -22,7 +22,7 @@ std::string WithoutIndices(const std::string& pointer)
     return std::regex_replace(pointer, index, "/*");
 }
 
-/// Where values of a type can stand.
+/// Where values of a type can occur.
 Places PlacesOf(const catalogue::Type& type, const std::string& where = {})
 {
     Places places;
@@ -60,7 +60,7 @@ Places Differences(const Json& left, const Json& right)
     return places;
 }
 
-/// What the platform sends and the library takes no notice of.
+/// Values that the platform sends and the library ignores.
 const std::set<std::pair<std::string, std::string>>& NotRead()
 {
     static const std::set<std::pair<std::string, std::string>> places = {

@@ -1,4 +1,4 @@
-// A mock server that knows nothing but the document takes every request of the library, and the library its replies.
+// A mock server generated from the document accepts every request of the library, and the library reads its replies.
 #include "Document.h"
 
 #include <e2e/rows/Rows.h>
@@ -90,7 +90,7 @@ private:
 
 std::unique_ptr<MockServer> Mock::s_server;
 
-/// Prism takes an empty value of a query for a missing one, so something stands in its place.
+/// Prism treats an empty value of a query as missing, so a value is inserted.
 void FillEmptyQueryValues(APIModule::RequestParam& request)
 {
     static const std::regex empty("=(?=&|$)");

@@ -32,7 +32,7 @@ class Calls {
 public:
     /// Sends @p record.
     static int PacketRecord(void* pReqParamData, const Record& record, int nServerId);
-    /// @param record takes what was read
+    /// @param record receives the fields
     static int ParseRecord(int data, Record& record);
 };
 

@@ -1,4 +1,4 @@
-// What the account may use, and how a device's own web page is opened.
+// The rights of the account, and access to the web page of a device.
 #include "support/Bind.h"
 #include "support/Family.h"
 #include "support/Json.h"
@@ -12,7 +12,7 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-/// A call whose one argument stands between two parts of its URL.
+/// A call whose only argument is between two parts of its URL.
 struct CallOfId {
     std::string name;
     int (*pack)(void*, const std::string&, int);
@@ -112,7 +112,7 @@ const Parse kPermissions = MakeParse(NAMED(CBRMSModule::ParseGetPermissionResour
 const Parse kCheck = MakeParse(NAMED(CBRMSModule::ParseFunctionChannelCheck));
 const Parse kCount = MakeParse(NAMED(CBRMSModule::ParseGetGetDeviceCategoryCount));
 
-/// Rows for what the value of "authorized" is taken for.
+/// Rows for the conversion of "authorized".
 std::vector<ParseRow> CheckRows()
 {
     const struct {

@@ -58,7 +58,7 @@ const char* const kChannelBefore =
         "deviceRecordWholenessStatus": "b19", "motionDetectPlan": "b20", "patchPlan": "b21", "recordPlan": "b22",
         "updateDate": 123})";
 
-/// The serial number comes last.
+/// The serial number is read last.
 const Readings kDeviceKeys = {
     Text("deviceCode"),      Text("deviceName"),      Text("deviceIp"),      Int("status"),
     Text("statusName"),      Text("offlineReason"),   Int("deviceCategory"), Text("deviceCategoryName"),

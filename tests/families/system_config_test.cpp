@@ -1,4 +1,4 @@
-// Settings of the whole platform.
+// Settings of the platform.
 #include "support/Bind.h"
 #include "support/Family.h"
 

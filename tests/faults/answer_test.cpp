@@ -47,7 +47,7 @@ QByteArray Gzip()
         "1f8b0800000000000203ab564ace4f4955b232343030d0514a492c4954b2aa56021286b5b50085f97ac71c000000");
 }
 
-/// One whose length promises more than comes.
+/// A reply that is shorter than its Content-Length.
 RawAnswer GzippedAndClosed()
 {
     RawAnswer answer = Gzipped(Gzip());

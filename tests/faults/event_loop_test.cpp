@@ -1,4 +1,4 @@
-// What a host may do in the event loop while a call waits. The call has its own result and leaves nothing behind.
+// What a host may do in the event loop while a call waits. The call returns its result and leaks nothing.
 #include "FaultHost.h"
 #include "support/Rows.h"
 
@@ -14,7 +14,7 @@ using APIModule::CAPIModule;
 
 namespace {
 
-/// A host whose user manager can go as well.
+/// A host whose user manager can be destroyed, too.
 class EventHost : public FaultHost {
 public:
     void UseOtherUserManager()
@@ -84,7 +84,7 @@ void PrintTo(const EventCase& row, std::ostream* pStream)
     *pStream << row.name;
 }
 
-/// Each event in each of the ways when an answer comes, and over HTTP when none does, once for each way of waiting.
+/// Each event with each way of making the call if a reply arrives, and over HTTP, once for each way of waiting, if not.
 std::vector<EventCase> Cases()
 {
     std::vector<EventCase> cases;
@@ -117,7 +117,7 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
             act(*this);
             happened.release();
         };
-        // The answer waits for the event, which comes when the wait is under way.
+        // The reply waits for the event, which happens during the wait.
         const auto respond = [&, bAnswered = answered](const RawRequest& request) {
             if (request.target == "/ok") {
                 return SuccessAnswer();
@@ -155,7 +155,7 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
 INSTANTIATE_TEST_SUITE_P(Events, EventTest, testing::ValuesIn(Cases()), RowName());
 
 /// Ten calls, each inside the one before, whose ends fall in an order drawn from the seed. Some end without an answer,
-/// some because their parent goes.
+/// some because their parent is destroyed.
 class NestedTest : public FaultHost, public testing::WithParamInterface<unsigned> {
 protected:
     struct End {

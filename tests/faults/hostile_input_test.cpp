@@ -1,4 +1,4 @@
-// Texts from elsewhere in every place of a request. None breaks out of its place, and none becomes a second request.
+// Hostile texts in every part of a request. None escapes from its part, and none becomes a second request.
 #include "support/Host.h"
 #include "support/Rows.h"
 
@@ -117,7 +117,7 @@ std::string HeaderNames(const RawRequest& request)
     return names.join(' ').toStdString();
 }
 
-/// What comes before the body, but for the target and the lengths, which are what is looked at.
+/// The head of a request without the parts under test, target and length.
 void ExpectUsualHead(const RawRequest& request, const QByteArray& method, const QByteArray& target)
 {
     const QByteArray firstLine = request.head.left(request.head.indexOf("\r\n"));
@@ -210,7 +210,7 @@ TEST_P(TextTest, IsSentUnchangedAsABody)
     EXPECT_TRUE(request.body == text.toUtf8());
 }
 
-/// The client takes the steps up itself, so that the request goes elsewhere on the same server.
+/// The client resolves dot segments, so that the request reaches another path of the same server.
 TEST_F(HostileInput, DotSegmentsInAUrlAreResolved)
 {
     const std::string text = "../../../admin";
@@ -226,7 +226,7 @@ struct HeaderPlace {
     const char* name;
     const char* header;
     void (*fill)(UserManager& users, HostCall& call, const std::string& text);
-    bool isText;  ///< takes text, and so valid UTF-8 alone
+    bool isText;  ///< is a text, and therefore valid UTF-8
 };
 
 const std::vector<HeaderPlace> kHeaderPlaces = {

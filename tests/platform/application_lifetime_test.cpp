@@ -1,4 +1,4 @@
-// Each test brings the application objects that it needs, or none.
+// Each test creates the application objects that it needs, or none.
 #include "support/TestApplication.h"
 
 #include <OrnGui/OrnMessageNotify.h>

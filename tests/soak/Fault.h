@@ -19,10 +19,10 @@ enum class Ending {
     Broken   ///< with a code that is notified in any case
 };
 
-/// What goes wrong with a call, and what that must come to.
+/// A fault of a call, and the expected outcome.
 struct Fault {
     std::string name;
-    Json control;  ///< the fault that the emulator is given, null for none; it gets its path later
+    Json control;  ///< the fault for the emulator, null for none; its path is set later
     Ending ending = Ending::Success;
     int code = 0;
     std::optional<int> timeoutSeconds = {};  ///< instead of the call's own

@@ -204,8 +204,8 @@ std::vector<Soak::Candidate> Soak::Candidates()
     return candidates;
 }
 
-// As cards are drawn, so that none stays away for long. Of other families than those that wait, so that no call changes
-// what another reads or meets its fault.
+// Drawn like cards, so that each appears regularly, and from families without a waiting call, so that no call changes
+// the data or takes the fault of another.
 const Soak::Candidate* Soak::Choose()
 {
     const bool writes = Chance(m_random, kWrites);

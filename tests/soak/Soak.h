@@ -36,7 +36,7 @@ private:
     struct Candidate {
         const e2e::Row* row;
         const catalogue::Call* call;
-        std::string path;  ///< the start of its URL, as it goes over the wire
+        std::string path;  ///< the start of its URL, as sent
         bool reads;        ///< changes nothing
     };
 

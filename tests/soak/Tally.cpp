@@ -22,11 +22,12 @@ constexpr std::size_t kMostShown = 20;
 constexpr std::size_t kLongCourse = 50'000;
 constexpr double kResidentBound = 0.02;
 constexpr double kResidentBoundOfShort = 0.1;
-/// Connections that are kept for reuse come and go: six to a port, each with some objects.
+/// The number of connections kept for reuse varies: up to six to a port, each with some objects.
 constexpr int kSpareDescriptors = 12;
 constexpr int kSpareObjects = 96;
 
-/// Of the moments of a tenth: the median of what swings, the least of what only a leak keeps up.
+/// For the samples of a tenth: the median of a value that fluctuates, the minimum of a value that only a leak keeps
+/// high.
 struct Summary {
     double residentKiB;
     int descriptors;

@@ -30,7 +30,7 @@ struct Holding {
     static Holding Now();
 };
 
-/// Counts calls and looks at what the process holds.
+/// Counts calls and samples the resources of the process.
 class Tally {
 public:
     void Count(const Made& made);
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] std::size_t Failures() const { return m_failures; }
 
     void PrintTables() const;
-    /// Prints what is not as it must be. @param allCalls the different calls that there are
+    /// Prints every deviation. @param allCalls number of different calls
     [[nodiscard]] bool IsGood(std::size_t allCalls) const;
 
 private:

@@ -1,4 +1,4 @@
-// Calls of all families against an emulator that fails at random, for as long as it is told.
+// Calls of all families to an emulator that fails at random, for a given time or number of calls.
 #include "Soak.h"
 
 #include <faults/Census.h>
@@ -60,7 +60,7 @@ int Run(const Options& options)
     Course course(options);
     std::exception_ptr failure;
 
-    // From the application's event loop, where a client's calls come from, too.
+    // Run from the application's event loop, like the calls of a client.
     QTimer steps;
     QObject::connect(&steps, &QTimer::timeout, &steps, [&] {
         steps.stop();

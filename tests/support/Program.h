@@ -21,7 +21,7 @@ struct Ended {
 /// Variables of a program's environment that differ from those of the test; a null one is taken away.
 using Variables = QMap<QString, QString>;
 
-/// Runs a program to its end, which must come within minutes.
+/// Runs a program, which must end within minutes.
 Ended RunProgram(const QString& program, const QStringList& arguments, const Variables& variables = {},
                  const QByteArray& input = {});
 

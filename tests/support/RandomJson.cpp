@@ -18,7 +18,7 @@ namespace testing_support {
 
 namespace {
 
-/// A written number stands between these in a text, until the text's quotes are taken away. No other text has them.
+/// Delimit a formatted number inside a text, until the text's quotes are removed. No other text contains them.
 constexpr QChar kBeforeNumber(0xE000);
 constexpr QChar kBehindNumber(0xE001);
 

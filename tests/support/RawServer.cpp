@@ -72,14 +72,14 @@ std::optional<QSslConfiguration> ConfigurationOf(RawServer::Scheme scheme)
     return configuration;
 }
 
-/// Acknowledges at once what came. A client that sends head and body one after the other waits for it.
+/// Acknowledges received data at once. A client that sends head and body separately waits for that.
 void Acknowledge(const QAbstractSocket& socket)
 {
     const int nOn = 1;
     setsockopt(int(socket.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &nOn, sizeof(nOn));
 }
 
-/// Ends a connection so that the other side is told of it as an error.
+/// Resets a connection, which the peer sees as an error.
 void Reset(QAbstractSocket& socket)
 {
     socket.flush();
@@ -88,7 +88,7 @@ void Reset(QAbstractSocket& socket)
     socket.abort();
 }
 
-/// Ends a connection without a packet: the other side goes on as if it were there.
+/// Ends a connection without a packet, so that the peer does not notice.
 void Vanish(QAbstractSocket& socket)
 {
     socket.flush();
@@ -105,7 +105,7 @@ void Finish(QAbstractSocket& socket, const RawAnswer& answer)
     case RawAnswer::KeepOpen:
         break;
     case RawAnswer::Close:
-        // Closing goes on in the event loop; the socket is deleted when it is closed, and lets go of its slots then.
+        // Closing continues in the event loop; the socket is deleted, with its slots, once it is closed.
         QObject::connect(&socket, &QAbstractSocket::disconnected, [done = answer.done] {});
         socket.disconnectFromHost();
         break;
@@ -125,7 +125,7 @@ void Finish(QAbstractSocket& socket, const RawAnswer& answer)
     }
 }
 
-/// Goes on at once, or after a time unless the connection is gone by then.
+/// Continues at once, or after a delay unless the connection is closed by then.
 void After(int milliseconds, QAbstractSocket& socket, const std::function<void()>& act)
 {
     if (milliseconds > 0) {
@@ -135,7 +135,7 @@ void After(int milliseconds, QAbstractSocket& socket, const std::function<void()
     }
 }
 
-/// Sends the bytes again and again, so many a second, but no more than the other side takes.
+/// Sends the bytes repeatedly at a given rate, but no more than the peer accepts.
 void SendEndlessly(QAbstractSocket& socket, const QByteArray& bytes, int nPerSecond)
 {
     constexpr int kTickMs = 10;

@@ -30,7 +30,7 @@ struct RawRequest {
 
     /// The values of a header, whatever the case of its name.
     QList<QByteArray> Values(const QByteArray& name) const;
-    /// The one value of a header; the request is a failure of the test when there are more or none.
+    /// The value of a header. The test fails unless there is exactly one.
     QByteArray Value(const QByteArray& name) const;
 };
 
@@ -53,7 +53,7 @@ struct RawAnswer {
     int moreMilliseconds = 0;     ///< between the bytes and more bytes
     int endlessPerSecond = 0;     ///< sends more bytes again and again, so many a second, until the server is destroyed
     int thenMilliseconds = 0;     ///< delay between the last byte and the end
-    std::shared_ptr<void> done = {};  ///< let go when everything above has happened or the connection is gone
+    std::shared_ptr<void> done = {};  ///< released when all of the above is done or the connection is closed
 };
 
 /// Whether this process may let a connection vanish.

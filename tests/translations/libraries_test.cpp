@@ -1,4 +1,4 @@
-// The libraries' own texts as a host gets them that loads their translations.
+// The texts of the libraries in a host that loads their translations.
 #include "support/Rows.h"
 
 #include <APIModule.h>
@@ -67,7 +67,7 @@ QString Text(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-/// Null for none.
+/// Null without translations.
 template <typename Window>
 Window* WindowOnScreen(const QString& title)
 {

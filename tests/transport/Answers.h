@@ -12,7 +12,7 @@ struct Answer {
     RawAnswer answer;
 };
 
-/// Answers of every kind that a server may give to a request.
+/// Replies of every kind that a server may send.
 std::vector<Answer> Answers();
 
 }  // namespace testing_support

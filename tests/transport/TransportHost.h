@@ -21,7 +21,7 @@ struct Ended {
 /// Whether something on the other side of a thread has happened.
 class Happening {
 public:
-    /// Happens when the last one of what it gives is let go.
+    /// Emitted when the last copy of the returned object is destroyed.
     std::shared_ptr<void> Handle() const;
     bool HasHappened() const { return *m_pHappened; }
 

@@ -134,7 +134,7 @@ std::string ByLibrary(const RawServer& server, RawServer::Scheme scheme)
 struct Difference {
     const char* library;
     const char* reason;
-    bool always = true;  ///< or Qt's own result depends on how the bytes fall into packets
+    bool always = true;  ///< false if Qt's result depends on packet boundaries
 };
 
 constexpr const char* kClosed = "error 2 Connection closed";

@@ -99,7 +99,7 @@ TEST_P(EndlessAnswer, EndsAtTheTimeOutOrBefore)
             EXPECT_TRUE(nCode == kTimedOut || nCode == -18) << nCode;
             EXPECT_LT(lateness.Milliseconds(), 100);
             EXPECT_LT(elapsed.elapsed(), kTimeoutSeconds * 1000 + kGenerousMs) << "the event loop was held up";
-            // The user interface goes on.
+            // The user interface stays responsive.
             EXPECT_GT(nTicks, kLeastTicks);
         }
         EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 0; }))

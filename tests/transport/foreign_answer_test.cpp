@@ -17,7 +17,7 @@ const QByteArray kForeign = TaggedAnswer(999999).bytes;
 struct Foreign {
     const char* name;
     std::function<RawAnswer(const RawAnswer& own)> make;
-    int code;  ///< what the request that meets it ends with
+    int code;  ///< result of the request that receives it
 };
 
 RawAnswer WithMore(const QByteArray& bytes, const QByteArray& more, int nMilliseconds = 0)

@@ -20,7 +20,7 @@ constexpr int kEndsAfterMs = 2;
 constexpr int kLongestPauseMs = 5;
 constexpr int kTimeoutSeconds = 2;
 
-/// Makes a call. @return 0, or what went wrong
+/// Makes a call. @return 0, or the error
 using Client = std::function<int(const RawServer& server, RawServer::Scheme scheme, bool bWrite, const QString& path)>;
 
 /// @return -101 without an answer in time, the number of Qt's error, or 0

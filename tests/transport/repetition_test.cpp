@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(Writes, WriteTest, testing::ValuesIn(Rows(kWrites)), Ro
 
 class ReadTest : public RepetitionTest {};
 
-/// The end of a connection that was kept may have come before the request.
+/// A kept connection may have ended before the request.
 TEST_P(ReadTest, IsRepeatedOnceWhenAKeptConnectionClosesBeforeAReply)
 {
     EXPECT_EQ(Arrivals(), GetParam().kept && GetParam().end.answer.bytes.isEmpty() ? 2 : 1);

@@ -35,7 +35,7 @@ qint64 PeakOfMemory()
     return nKilobytes * 1024;
 }
 
-/// From now on the peak is that of what follows.
+/// Resets the peak.
 void ForgetPeakOfMemory()
 {
     std::ofstream("/proc/self/clear_refs") << "5";
@@ -141,7 +141,7 @@ TEST_F(SizeTest, IsRefusedAtOnceByItsContentLength)
 struct Inflated {
     const char* name;
     int maximum;  ///< in megabytes
-    int peak;     ///< what the call may need, in megabytes
+    int peak;     ///< limit for the call, in megabytes
 };
 
 void PrintTo(const Inflated& row, std::ostream* pStream)

@@ -17,7 +17,7 @@ struct Signature {
     using PackOfNoServer = int (*)(void*, Parameters...);
 };
 
-/// Calls a Pack with its own arguments, which must come back unchanged.
+/// Calls a Pack with copies of the arguments, which it must not change.
 template <typename Call, typename... Arguments>
 std::function<int(void*, int)> Bound(const Call& call, Arguments... arguments)
 {
@@ -89,7 +89,7 @@ private:
     Irregular m_irregular;
 };
 
-/// Its rows have a name, the arguments, what they add to the URL, and a body where there is one.
+/// Its rows have a name, the arguments, their part of the URL, and the body if there is one.
 template <typename... Parameters>
 class UrlPack : public PackOfRows<Parameters...> {
 public:

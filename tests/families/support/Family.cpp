@@ -60,7 +60,7 @@ std::string Names(const RecordRow::Fields& fields)
     return names;
 }
 
-/// A request in which every field differs from what a Pack must make of it.
+/// A request in which every field differs from the values that a Pack sets.
 APIModule::RequestParam UsedRequest(const PackRow& row)
 {
     APIModule::RequestParam param;

@@ -56,7 +56,7 @@ RecordRow FieldsOf(const std::string& name, const std::string& fields)
 /// Compares the fields with the description and with their places in the record.
 class RecordTest : public testing::TestWithParam<RecordRow> {};
 
-/// One call of a Pack with what it must make of its arguments.
+/// One call of a Pack with the expected request.
 struct PackRow {
     std::string name;
     std::string call;                    ///< such as "CBRMSModule::PacketGetTimeSyncConfig"
@@ -75,15 +75,15 @@ std::ostream& operator<<(std::ostream& stream, const PackRow& row);
 /// reached the user manager, the result and the log line.
 class PackTest : public testing::TestWithParam<PackRow> {};
 
-/// A Parse with its record told as JSON; a value that is no record is told as itself.
+/// A Parse with its record as JSON; a value that is not a record is used directly.
 struct Parse {
     std::string call;                                   ///< such as "CBRMSModule::ParseGetTimeSyncConfig"
     Json fresh;                                         ///< the record as it is made
     Json filled;                                        ///< the record with other values in every field
-    std::function<int(const QJsonObject&, Json&)> run;  ///< starts with the given record and tells what became of it
+    std::function<int(const QJsonObject&, Json&)> run;  ///< starts with the given record and updates it
 };
 
-/// Also for a function of the test that gathers several outputs in a record of its own (+[](...) {...}).
+/// Also for a function of the test that combines several outputs in one record (+[](...) {...}).
 template <typename Record>
 Parse MakeParse(const std::string& call, int (*parse)(const QJsonObject&, Record&))
 {
@@ -98,7 +98,7 @@ Parse MakeParse(const std::string& call, int (*parse)(const QJsonObject&, Record
             }};
 }
 
-/// One call of a Parse with what must come of it.
+/// One call of a Parse with the expected record.
 struct ParseRow {
     std::string name;
     Parse parse;

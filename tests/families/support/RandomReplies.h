@@ -10,7 +10,7 @@
 /// Random replies to the Parses of a program, held against the reference.
 namespace family_testing {
 
-/// A Parse with what it reads.
+/// A Parse and its reading steps.
 struct KnownParse {
     Parse parse;
     Readings readings;

@@ -62,7 +62,7 @@ Reading Found(const std::string& key);
 /// The steps of an inner object, which fill the same record; an empty one has nothing to fill.
 Reading Object(const std::string& key, const Readings& inner);
 
-/// An array of objects, each read by the inner steps into a fresh Element that is appended when it is whole.
+/// An array of objects, each read by the inner steps into a new Element that is appended when it is complete.
 template <typename Element>
 Reading Records(const std::string& key, const Readings& inner, const FieldName& field = {})
 {

@@ -13,7 +13,7 @@
 #include <string>
 #include <type_traits>
 
-/// Reading of one value just as the rules tell it, whatever it costs, to hold the library against.
+/// Reading of one value by the rules, regardless of cost, as a reference for the library.
 namespace family_testing {
 
 /// The lines of a failed read.
@@ -28,15 +28,15 @@ enum class Target {
     Container
 };
 
-/// The variant of a value. With Qt 6, one that Qt 6 converts to the target as Qt 5 converts the value's own.
+/// The variant of a value. With Qt 6, a variant that Qt 6 converts to the target as Qt 5 converts the original.
 QVariant VariantFor(Target target, const QJsonValue& value);
 
 /// What QJsonValue::toVariant and then the variant's own conversion give with Qt 5, for the types that GetJsonValue
 /// reads.
 /// - A fraction is rounded and an integer cut to the lower bits of an int, as QVariant does it.
-/// - What is in an object or an array goes through a map or a list of variants. Qt makes a double of every number that
-///   comes back from there: integers beyond 2^53 lose digits, and what is no finite number becomes null.
-/// - A double beyond 64 bits has no integer value of its own; what Qt makes of it is taken all the same.
+/// - Values in an object or an array pass through a map or a list of variants, from which Qt returns every number as a
+///   double: integers beyond 2^53 lose digits, and numbers that are not finite become null.
+/// - A double beyond 64 bits has no integer value; the result of Qt's conversion is used nevertheless.
 template <typename T>
 T Converted(const QJsonValue& value)
 {
