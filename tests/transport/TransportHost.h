@@ -21,7 +21,7 @@ struct Ended {
 /// Whether something on the other side of a thread has happened.
 class Happening {
 public:
-    /// Emitted when the last copy of the returned object is destroyed.
+    /// The event happens when the last copy of the returned pointer is destroyed.
     std::shared_ptr<void> Handle() const;
     bool HasHappened() const { return *m_pHappened; }
 
