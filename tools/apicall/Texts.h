@@ -8,7 +8,7 @@ namespace apicall {
 
 /// What the program says, in the user's language.
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(apicall)
+    Q_DECLARE_TR_FUNCTIONS(Texts)
 };
 
 using translation::Filled;

@@ -8,7 +8,7 @@ namespace emulator {
 
 /// What hinders a start, in the user's language.
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(emulator)
+    Q_DECLARE_TR_FUNCTIONS(Texts)
 };
 
 using translation::Filled;

@@ -10,7 +10,7 @@ namespace translation {
 namespace {
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(Texts)
 };
 
 constexpr const char* kSeparator = ": ";

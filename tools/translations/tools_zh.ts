@@ -2,7 +2,466 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh" sourcelanguage="en">
 <context>
-    <name>CommandLine</name>
+    <name>Texts</name>
+    <message>
+        <source>cannot read %1</source>
+        <translation>无法读取 %1</translation>
+    </message>
+    <message>
+        <source>cannot open %1</source>
+        <translation>无法打开 %1</translation>
+    </message>
+    <message>
+        <source>%1 is not JSON: it cannot be read from byte %2 on</source>
+        <extracomment>%1 is what was read, %2 a number</extracomment>
+        <translation>%1 不是 JSON：从第 %2 个字节起无法读取</translation>
+    </message>
+    <message>
+        <source>nothing may follow the JSON object with the arguments</source>
+        <translation>包含参数的 JSON 对象之后不能再有内容</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>the argument</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>argument &quot;%1&quot; is neither name=value nor a JSON object</source>
+        <translation>参数“%1”既不是“名称=值”，也不是 JSON 对象</translation>
+    </message>
+    <message>
+        <source>argument &quot;%1&quot; is given twice</source>
+        <translation>参数“%1”重复</translation>
+    </message>
+    <message>
+        <source>argument &quot;%1&quot; (%2)</source>
+        <extracomment>%1 is the name, %2 the type</extracomment>
+        <translation>参数“%1”（%2）</translation>
+    </message>
+    <message>
+        <source>first byte after %1 ms, end after %2 ms</source>
+        <extracomment>Times in milliseconds</extracomment>
+        <translation>%1 毫秒后收到首字节，%2 毫秒后结束</translation>
+    </message>
+    <message>
+        <source>Arguments: none</source>
+        <translation>参数：无</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>参数：</translation>
+    </message>
+    <message>
+        <source>Result: none</source>
+        <translation>结果：无</translation>
+    </message>
+    <message>
+        <source>Result: %1</source>
+        <translation>结果：%1</translation>
+    </message>
+    <message>
+        <source>there is no call &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>没有名为“%1”的调用；您是指“%2”吗？</translation>
+    </message>
+    <message>
+        <source>there is no call &quot;%1&quot;; apicall --list names them</source>
+        <translation>没有名为“%1”的调用；apicall --list 可列出全部调用</translation>
+    </message>
+    <message>
+        <source>the server says %1</source>
+        <extracomment>%1 is the server&apos;s own text in quotation marks</extracomment>
+        <translation>服务器称 %1</translation>
+    </message>
+    <message>
+        <source>the reply holds no readable %1</source>
+        <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
+        <translation>应答中没有可读的 %1</translation>
+    </message>
+    <message>
+        <source>the server speaks no TLS on this port, which may be the one for http://</source>
+        <translation>服务器在此端口不使用 TLS，该端口可能用于 http://</translation>
+    </message>
+    <message>
+        <source>--server is missing</source>
+        <translation>缺少 --server</translation>
+    </message>
+    <message>
+        <source>--pin and --ca need a server with https://</source>
+        <translation>--pin 和 --ca 需要 https:// 的服务器</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of this language, for the texts of error codes</extracomment>
+        <translation>zh</translation>
+    </message>
+    <message>
+        <source>%1 failed with %2: %3</source>
+        <extracomment>%1 is the call, %2 a code, %3 its text</extracomment>
+        <translation>%1 失败，代码 %2：%3</translation>
+    </message>
+    <message>
+        <source>--merge: no call reads what %1 writes</source>
+        <extracomment>%1 is a call</extracomment>
+        <translation>--merge：没有调用读取 %1 所写入的内容</translation>
+    </message>
+    <message>
+        <source>the result cannot be written</source>
+        <translation>无法写出结果</translation>
+    </message>
+    <message>
+        <source>no call is named; apicall --help tells how it is used</source>
+        <translation>未指定调用；用法请见 apicall --help</translation>
+    </message>
+    <message>
+        <source>Arguments of a call:
+  name=value        a text as it stands, anything else as JSON
+  name/field=value  a field of a record; name/0 is the first element of a list
+  {&quot;name&quot;: value}   all of them in one JSON object; @FILE or - reads it from a file or from standard input
+
+Examples:
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+
+Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
+Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
+        <translation>调用的参数：
+  名称=值          文本按原样给出，其他值写成 JSON
+  名称/字段=值     记录的一个字段；名称/0 是列表的第一个元素
+  {&quot;名称&quot;: 值}     全部参数写在一个 JSON 对象中；@文件 或 - 表示从文件或标准输入读取
+
+示例：
+  $ apicall --list
+  $ apicall --help BRMS.GetLocalSetting
+  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
+  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
+
+标准输出只包含结果，没有结果的调用输出 null；日志和错误写到标准错误输出。
+退出状态：0 成功，1 调用失败，2 用法错误。</translation>
+    </message>
+    <message>
+        <source>Runs one call of the library against a platform server and prints its record as JSON.</source>
+        <translation>对平台服务器执行库的一个调用，并以 JSON 输出其记录。</translation>
+    </message>
+    <message>
+        <source>Print this help, or the arguments and the result of CALL</source>
+        <translation>输出此帮助，或 CALL 的参数和结果</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>输出版本</translation>
+    </message>
+    <message>
+        <source>List the calls</source>
+        <translation>列出所有调用</translation>
+    </message>
+    <message>
+        <source>Print names alone: of the calls, or of the arguments of CALL</source>
+        <translation>只打印名称：所有调用的名称，或 CALL 的参数名称</translation>
+    </message>
+    <message>
+        <source>Write log lines only when the call fails</source>
+        <translation>仅在调用失败时输出日志行</translation>
+    </message>
+    <message>
+        <source>Write request and reply to standard error, without the token</source>
+        <translation>将请求和响应写到标准错误输出，不含令牌</translation>
+    </message>
+    <message>
+        <source>Print the request, without the token, and send nothing</source>
+        <translation>打印请求（不含令牌），不发送任何内容</translation>
+    </message>
+    <message>
+        <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
+        <translation>用于写入类调用：先读取将被替换的内容，修改 ARGUMENT 指定的部分，再写入</translation>
+    </message>
+    <message>
+        <source>Platform server: https://host[:port] or http://host[:port]</source>
+        <translation>平台服务器：https://主机[:端口] 或 http://主机[:端口]</translation>
+    </message>
+    <message>
+        <source>Session token; the environment keeps it out of the process list</source>
+        <translation>会话令牌；通过环境变量给出时不会出现在进程列表中</translation>
+    </message>
+    <message>
+        <source>Trust only servers with this SHA-256 digest of their certificate or public key; repeatable</source>
+        <translation>只信任证书或公钥具有此 SHA-256 摘要的服务器；可重复</translation>
+    </message>
+    <message>
+        <source>DIGEST</source>
+        <extracomment>Stands for the value of --pin</extracomment>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>Trust only servers whose certificate an authority of this PEM file signed; repeatable</source>
+        <translation>只信任证书由此 PEM 文件中的颁发机构签名的服务器；可重复</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <extracomment>Stands for the value of --ca</extracomment>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
+        <translation>服务器文本（默认英语）和错误文本的语言</translation>
+    </message>
+    <message>
+        <source>Server identifier that the call is made with</source>
+        <translation>调用所用的服务器标识</translation>
+    </message>
+    <message>
+        <source>Longest wait, instead of the call&apos;s own 10 s</source>
+        <translation>最长等待时间，代替调用自身的 10 秒</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <extracomment>Stands for the value of --timeout</extracomment>
+        <translation>SECONDS</translation>
+    </message>
+    <message>
+        <source>Name of the call</source>
+        <translation>调用的名称</translation>
+    </message>
+    <message>
+        <source>Arguments of the call</source>
+        <translation>调用的参数</translation>
+    </message>
+    <message>
+        <source>this is no URL</source>
+        <translation>不是有效的 URL</translation>
+    </message>
+    <message>
+        <source>it must begin with https:// or http://</source>
+        <translation>必须以 https:// 或 http:// 开头</translation>
+    </message>
+    <message>
+        <source>it names no host</source>
+        <translation>没有主机名</translation>
+    </message>
+    <message>
+        <source>only a host and a port may follow the scheme</source>
+        <translation>协议之后只能是主机和端口</translation>
+    </message>
+    <message>
+        <source>a SHA-256 digest has 64 hexadecimal digits, with or without colons</source>
+        <translation>SHA-256 摘要有 64 个十六进制数字，可带冒号</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>无法读取该文件</translation>
+    </message>
+    <message>
+        <source>the file holds no certificate in PEM</source>
+        <translation>该文件中没有 PEM 格式的证书</translation>
+    </message>
+    <message>
+        <source>%1 has no argument &quot;%2&quot;: it takes none</source>
+        <extracomment>%1 is a call</extracomment>
+        <translation>%1 没有参数“%2”：此调用不接受参数</translation>
+    </message>
+    <message>
+        <source>%1 has no argument &quot;%2&quot;; did you mean &quot;%3&quot;?</source>
+        <extracomment>%1 is a call, %3 the name of one of its arguments</extracomment>
+        <translation>%1 没有参数“%2”；您是指“%3”吗？</translation>
+    </message>
+    <message>
+        <source>%1 has no argument &quot;%2&quot;: it takes %3</source>
+        <extracomment>%1 is a call, %3 the names of its arguments</extracomment>
+        <translation>%1 没有参数“%2”：此调用接受 %3</translation>
+    </message>
+    <message>
+        <source>the arguments of %1 must be a JSON object that holds each under its name</source>
+        <translation>%1 的参数必须是一个 JSON 对象，每个参数以其名称为键</translation>
+    </message>
+    <message>
+        <source>%1 needs the argument &quot;%2&quot; (%3)</source>
+        <extracomment>%1 is a call, %3 a type</extracomment>
+        <translation>%1 需要参数“%2”（%3）</translation>
+    </message>
+    <message>
+        <source>%1, which is read first, needs &quot;%2&quot; of %3</source>
+        <extracomment>%1 is a call, %2 the argument that it needs, %3 another call, which the user runs</extracomment>
+        <translation>首先要读取的 %1 需要 %3 的“%2”</translation>
+    </message>
+    <message>
+        <source>/%1: %2 has no such place</source>
+        <extracomment>%1 is a path such as /config/interval, %2 a type</extracomment>
+        <translation>/%1：%2 没有这个位置</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <extracomment>A type beside bool, int, int64 and double</extracomment>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>list of %1</source>
+        <extracomment>%1 is the type of its elements</extracomment>
+        <translation>%1 列表</translation>
+    </message>
+    <message>
+        <source>integer</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>number that is no 64-bit integer</source>
+        <translation>非 64 位整数的数字</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>expected %1, got %2</source>
+        <extracomment>Both are types</extracomment>
+        <translation>应为 %1，实为 %2</translation>
+    </message>
+    <message>
+        <source>%1 is out of the range of %2</source>
+        <extracomment>%1 is a number, %2 a type</extracomment>
+        <translation>%1 超出 %2 的范围</translation>
+    </message>
+    <message>
+        <source>%1 has no such field</source>
+        <extracomment>%1 is a type</extracomment>
+        <translation>%1 没有此字段</translation>
+    </message>
+    <message>
+        <source>key &apos;%1&apos; is there twice</source>
+        <translation>键“%1”重复</translation>
+    </message>
+    <message>
+        <source>%1: $ref is a text and stands alone</source>
+        <translation>%1：$ref 必须是文本，且不能与其他键并列</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; names no file of the contract</source>
+        <translation>%1：“%2”不是契约中的文件</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; leads back to itself</source>
+        <translation>%1：“%2”循环引用</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; leads nowhere</source>
+        <translation>%1：“%2”引用的目标不存在</translation>
+    </message>
+    <message>
+        <source>%1: a schema is an object</source>
+        <translation>%1：模式必须是对象</translation>
+    </message>
+    <message>
+        <source>%1: draft 7 and 2020-12 do not share this keyword</source>
+        <translation>%1：此关键字不是 draft 7 与 2020-12 共有的</translation>
+    </message>
+    <message>
+        <source>%1: no reply has the code 1000</source>
+        <translation>%1：没有代码为 1000 的应答</translation>
+    </message>
+    <message>
+        <source>%1: operation &apos;%2&apos; is told twice</source>
+        <translation>%1：操作“%2”重复定义</translation>
+    </message>
+    <message>
+        <source>no operation in the contract folder %1</source>
+        <translation>契约文件夹 %1 中没有任何操作</translation>
+    </message>
+    <message>
+        <source>the port is taken</source>
+        <translation>端口已被占用</translation>
+    </message>
+    <message>
+        <source>this machine does not have the address</source>
+        <translation>本机没有该地址</translation>
+    </message>
+    <message>
+        <source>no permission for the port</source>
+        <translation>没有使用该端口的权限</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>未知的地址</translation>
+    </message>
+    <message>
+        <source>cannot listen on %1: %2</source>
+        <translation>无法监听 %1：%2</translation>
+    </message>
+    <message>
+        <source>platform-emulator: a platform server to develop and test against. It answers the services of the contract with state, over HTTP and HTTPS at once, and prints each address when it listens.</source>
+        <translation>platform-emulator：用于开发和测试的平台服务器。它有状态地应答契约中的服务，同时支持 HTTP 和 HTTPS，并在开始监听时输出各个地址。</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>输出此帮助</translation>
+    </message>
+    <message>
+        <source>Address to listen on</source>
+        <translation>监听地址</translation>
+    </message>
+    <message>
+        <source>Port for HTTP, 0 for any free one</source>
+        <translation>HTTP 端口，0 表示任意空闲端口</translation>
+    </message>
+    <message>
+        <source>Port for HTTPS, 0 for any free one</source>
+        <translation>HTTPS 端口，0 表示任意空闲端口</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md); the environment keeps it out of the process list</source>
+        <translation>调用方必须以 X-Subject-Token 发送的令牌（默认值见 docs/emulator.md）；通过环境变量给出时不会出现在进程列表中</translation>
+    </message>
+    <message>
+        <source>Token that the control path asks for as X-Subject-Token (default: none)</source>
+        <translation>控制路径以 X-Subject-Token 要求的令牌（默认无）</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <extracomment>Stands for the value of --contract and of --seed</extracomment>
+        <translation>DIR</translation>
+    </message>
+    <message>
+        <source>Folder of the contract (default: ../share/apimodule/contract)</source>
+        <translation>契约所在文件夹（默认：../share/apimodule/contract）</translation>
+    </message>
+    <message>
+        <source>Folder of the seed data (default: ../share/apimodule/seed)</source>
+        <translation>初始数据所在文件夹（默认：../share/apimodule/seed）</translation>
+    </message>
+    <message>
+        <source>Makes the seeded lists so many times as long</source>
+        <translation>将初始数据中的列表放大相应倍数</translation>
+    </message>
+    <message>
+        <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
+        <translation>空闲连接或请求未结束的连接在多少秒后关闭</translation>
+    </message>
+    <message>
+        <source>Refuse the control path /emulator/v1/</source>
+        <translation>拒绝访问控制路径 /emulator/v1/</translation>
+    </message>
+    <message>
+        <source>Print a line for each request</source>
+        <translation>为每个请求输出一行</translation>
+    </message>
+    <message>
+        <source>no seed file in the folder %1</source>
+        <translation>文件夹 %1 中没有初始数据文件</translation>
+    </message>
+    <message>
+        <source>the server certificate cannot be made</source>
+        <translation>无法生成服务器证书</translation>
+    </message>
     <message>
         <source>Usage</source>
         <translation>用法</translation>
@@ -52,342 +511,6 @@
     <message>
         <source>there is no folder %1</source>
         <translation>文件夹 %1 不存在</translation>
-    </message>
-</context>
-<context>
-    <name>apicall</name>
-    <message>
-        <source>cannot read %1</source>
-        <translation>无法读取 %1</translation>
-    </message>
-    <message>
-        <source>cannot open %1</source>
-        <translation>无法打开 %1</translation>
-    </message>
-    <message>
-        <source>nothing may follow the JSON object with the arguments</source>
-        <translation>包含参数的 JSON 对象之后不能再有内容</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>标准输入</translation>
-    </message>
-    <message>
-        <source>the argument</source>
-        <translation>参数</translation>
-    </message>
-    <message>
-        <source>argument &quot;%1&quot; is neither name=value nor a JSON object</source>
-        <translation>参数“%1”既不是“名称=值”，也不是 JSON 对象</translation>
-    </message>
-    <message>
-        <source>argument &quot;%1&quot; is given twice</source>
-        <translation>参数“%1”重复</translation>
-    </message>
-    <message>
-        <source>argument &quot;%1&quot; (%2)</source>
-        <extracomment>%1 is the name, %2 the type</extracomment>
-        <translation>参数“%1”（%2）</translation>
-    </message>
-    <message>
-        <source>Arguments: none</source>
-        <translation>参数：无</translation>
-    </message>
-    <message>
-        <source>Arguments:</source>
-        <translation>参数：</translation>
-    </message>
-    <message>
-        <source>Result: none</source>
-        <translation>结果：无</translation>
-    </message>
-    <message>
-        <source>Result: %1</source>
-        <translation>结果：%1</translation>
-    </message>
-    <message>
-        <source>there is no call &quot;%1&quot;; apicall --list names them</source>
-        <translation>没有名为“%1”的调用；apicall --list 可列出全部调用</translation>
-    </message>
-    <message>
-        <source>--server is missing</source>
-        <translation>缺少 --server</translation>
-    </message>
-    <message>
-        <source>%1 failed with %2: %3</source>
-        <extracomment>%1 is the call, %2 a code, %3 its text</extracomment>
-        <translation>%1 失败，代码 %2：%3</translation>
-    </message>
-    <message>
-        <source>the result cannot be written</source>
-        <translation>无法写出结果</translation>
-    </message>
-    <message>
-        <source>no call is named; apicall --help tells how it is used</source>
-        <translation>未指定调用；用法请见 apicall --help</translation>
-    </message>
-    <message>
-        <source>Runs one call of the library against a platform server and prints its record as JSON.</source>
-        <translation>对平台服务器执行库的一个调用，并以 JSON 输出其记录。</translation>
-    </message>
-    <message>
-        <source>Print this help, or the arguments and the result of CALL</source>
-        <translation>输出此帮助，或 CALL 的参数和结果</translation>
-    </message>
-    <message>
-        <source>Print the version</source>
-        <translation>输出版本</translation>
-    </message>
-    <message>
-        <source>List the calls</source>
-        <translation>列出所有调用</translation>
-    </message>
-    <message>
-        <source>Platform server: https://host[:port] or http://host[:port]</source>
-        <translation>平台服务器：https://主机[:端口] 或 http://主机[:端口]</translation>
-    </message>
-    <message>
-        <source>Session token; the environment keeps it out of the process list</source>
-        <translation>会话令牌；通过环境变量给出时不会出现在进程列表中</translation>
-    </message>
-    <message>
-        <source>Server identifier that the call is made with</source>
-        <translation>调用所用的服务器标识</translation>
-    </message>
-    <message>
-        <source>Longest wait, instead of the call&apos;s own 10 s</source>
-        <translation>最长等待时间，代替调用自身的 10 秒</translation>
-    </message>
-    <message>
-        <source>SECONDS</source>
-        <extracomment>Stands for the value of --timeout</extracomment>
-        <translation>SECONDS</translation>
-    </message>
-    <message>
-        <source>Name of the call</source>
-        <translation>调用的名称</translation>
-    </message>
-    <message>
-        <source>Arguments of the call</source>
-        <translation>调用的参数</translation>
-    </message>
-    <message>
-        <source>this is no URL</source>
-        <translation>不是有效的 URL</translation>
-    </message>
-    <message>
-        <source>it must begin with https:// or http://</source>
-        <translation>必须以 https:// 或 http:// 开头</translation>
-    </message>
-    <message>
-        <source>it names no host</source>
-        <translation>没有主机名</translation>
-    </message>
-    <message>
-        <source>only a host and a port may follow the scheme</source>
-        <translation>协议之后只能是主机和端口</translation>
-    </message>
-    <message>
-        <source>en</source>
-        <extracomment>The code of this language, for the texts of error codes</extracomment>
-        <translation>zh</translation>
-    </message>
-    <message>
-        <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
-        <translation>服务器文本（默认英语）和错误文本的语言</translation>
-    </message>
-    <message>
-        <source>--pin and --ca need a server with https://</source>
-        <translation>--pin 和 --ca 需要 https:// 的服务器</translation>
-    </message>
-    <message>
-        <source>Trust only servers with this SHA-256 digest of their certificate or public key; repeatable</source>
-        <translation>只信任证书或公钥具有此 SHA-256 摘要的服务器；可重复</translation>
-    </message>
-    <message>
-        <source>DIGEST</source>
-        <extracomment>Stands for the value of --pin</extracomment>
-        <translation>摘要</translation>
-    </message>
-    <message>
-        <source>Trust only servers whose certificate an authority of this PEM file signed; repeatable</source>
-        <translation>只信任证书由此 PEM 文件中的颁发机构签名的服务器；可重复</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <extracomment>Stands for the value of --ca</extracomment>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>a SHA-256 digest has 64 hexadecimal digits, with or without colons</source>
-        <translation>SHA-256 摘要有 64 个十六进制数字，可带冒号</translation>
-    </message>
-    <message>
-        <source>the file cannot be read</source>
-        <translation>无法读取该文件</translation>
-    </message>
-    <message>
-        <source>the file holds no certificate in PEM</source>
-        <translation>该文件中没有 PEM 格式的证书</translation>
-    </message>
-    <message>
-        <source>the server says %1</source>
-        <extracomment>%1 is the server&apos;s own text in quotation marks</extracomment>
-        <translation>服务器称 %1</translation>
-    </message>
-    <message>
-        <source>the reply holds no readable %1</source>
-        <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
-        <translation>应答中没有可读的 %1</translation>
-    </message>
-    <message>
-        <source>%1 is not JSON: it cannot be read from byte %2 on</source>
-        <extracomment>%1 is what was read, %2 a number</extracomment>
-        <translation>%1 不是 JSON：从第 %2 个字节起无法读取</translation>
-    </message>
-    <message>
-        <source>first byte after %1 ms, end after %2 ms</source>
-        <extracomment>Times in milliseconds</extracomment>
-        <translation>%1 毫秒后收到首字节，%2 毫秒后结束</translation>
-    </message>
-    <message>
-        <source>there is no call &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
-        <translation>没有名为“%1”的调用；您是指“%2”吗？</translation>
-    </message>
-    <message>
-        <source>--merge: no call reads what %1 writes</source>
-        <extracomment>%1 is a call</extracomment>
-        <translation>--merge：没有调用读取 %1 所写入的内容</translation>
-    </message>
-    <message>
-        <source>Arguments of a call:
-  name=value        a text as it stands, anything else as JSON
-  name/field=value  a field of a record; name/0 is the first element of a list
-  {&quot;name&quot;: value}   all of them in one JSON object; @FILE or - reads it from a file or from standard input
-
-Examples:
-  $ apicall --list
-  $ apicall --help BRMS.GetLocalSetting
-  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
-
-Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
-Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
-        <translation>调用的参数：
-  名称=值          文本按原样给出，其他值写成 JSON
-  名称/字段=值     记录的一个字段；名称/0 是列表的第一个元素
-  {&quot;名称&quot;: 值}     全部参数写在一个 JSON 对象中；@文件 或 - 表示从文件或标准输入读取
-
-示例：
-  $ apicall --list
-  $ apicall --help BRMS.GetLocalSetting
-  $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
-  $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
-
-标准输出只包含结果，没有结果的调用输出 null；日志和错误写到标准错误输出。
-退出状态：0 成功，1 调用失败，2 用法错误。</translation>
-    </message>
-    <message>
-        <source>Print names alone: of the calls, or of the arguments of CALL</source>
-        <translation>只打印名称：所有调用的名称，或 CALL 的参数名称</translation>
-    </message>
-    <message>
-        <source>Write log lines only when the call fails</source>
-        <translation>仅在调用失败时输出日志行</translation>
-    </message>
-    <message>
-        <source>Write request and reply to standard error, without the token</source>
-        <translation>将请求和响应写到标准错误输出，不含令牌</translation>
-    </message>
-    <message>
-        <source>Print the request, without the token, and send nothing</source>
-        <translation>打印请求（不含令牌），不发送任何内容</translation>
-    </message>
-    <message>
-        <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
-        <translation>用于写入类调用：先读取将被替换的内容，修改 ARGUMENT 指定的部分，再写入</translation>
-    </message>
-    <message>
-        <source>the server speaks no TLS on this port, which may be the one for http://</source>
-        <translation>服务器在此端口不使用 TLS，该端口可能用于 http://</translation>
-    </message>
-</context>
-<context>
-    <name>catalogue</name>
-    <message>
-        <source>%1 has no argument &quot;%2&quot;: it takes none</source>
-        <extracomment>%1 is a call</extracomment>
-        <translation>%1 没有参数“%2”：此调用不接受参数</translation>
-    </message>
-    <message>
-        <source>%1 has no argument &quot;%2&quot;: it takes %3</source>
-        <extracomment>%1 is a call, %3 the names of its arguments</extracomment>
-        <translation>%1 没有参数“%2”：此调用接受 %3</translation>
-    </message>
-    <message>
-        <source>the arguments of %1 must be a JSON object that holds each under its name</source>
-        <translation>%1 的参数必须是一个 JSON 对象，每个参数以其名称为键</translation>
-    </message>
-    <message>
-        <source>%1 needs the argument &quot;%2&quot; (%3)</source>
-        <extracomment>%1 is a call, %3 a type</extracomment>
-        <translation>%1 需要参数“%2”（%3）</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <extracomment>A type beside bool, int, int64 and double</extracomment>
-        <translation>文本</translation>
-    </message>
-    <message>
-        <source>list of %1</source>
-        <extracomment>%1 is the type of its elements</extracomment>
-        <translation>%1 列表</translation>
-    </message>
-    <message>
-        <source>integer</source>
-        <translation>整数</translation>
-    </message>
-    <message>
-        <source>number that is no 64-bit integer</source>
-        <translation>非 64 位整数的数字</translation>
-    </message>
-    <message>
-        <source>list</source>
-        <translation>列表</translation>
-    </message>
-    <message>
-        <source>object</source>
-        <translation>对象</translation>
-    </message>
-    <message>
-        <source>expected %1, got %2</source>
-        <extracomment>Both are types</extracomment>
-        <translation>应为 %1，实为 %2</translation>
-    </message>
-    <message>
-        <source>%1 is out of the range of %2</source>
-        <extracomment>%1 is a number, %2 a type</extracomment>
-        <translation>%1 超出 %2 的范围</translation>
-    </message>
-    <message>
-        <source>%1 has no such field</source>
-        <extracomment>%1 is a type</extracomment>
-        <translation>%1 没有此字段</translation>
-    </message>
-    <message>
-        <source>%1 has no argument &quot;%2&quot;; did you mean &quot;%3&quot;?</source>
-        <extracomment>%1 is a call, %3 the name of one of its arguments</extracomment>
-        <translation>%1 没有参数“%2”；您是指“%3”吗？</translation>
-    </message>
-    <message>
-        <source>%1, which is read first, needs &quot;%2&quot; of %3</source>
-        <extracomment>%1 is a call, %2 the argument that it needs, %3 another call, which the user runs</extracomment>
-        <translation>首先要读取的 %1 需要 %3 的“%2”</translation>
-    </message>
-    <message>
-        <source>/%1: %2 has no such place</source>
-        <extracomment>%1 is a path such as /config/interval, %2 a type</extracomment>
-        <translation>/%1：%2 没有这个位置</translation>
     </message>
 </context>
 <context>
@@ -787,142 +910,6 @@ Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
     <message>
         <source>Reads the maintenance view of a device</source>
         <translation>读取设备的运维信息</translation>
-    </message>
-</context>
-<context>
-    <name>emulator</name>
-    <message>
-        <source>key &apos;%1&apos; is there twice</source>
-        <translation>键“%1”重复</translation>
-    </message>
-    <message>
-        <source>%1: $ref is a text and stands alone</source>
-        <translation>%1：$ref 必须是文本，且不能与其他键并列</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; names no file of the contract</source>
-        <translation>%1：“%2”不是契约中的文件</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; leads back to itself</source>
-        <translation>%1：“%2”循环引用</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; leads nowhere</source>
-        <translation>%1：“%2”引用的目标不存在</translation>
-    </message>
-    <message>
-        <source>%1: a schema is an object</source>
-        <translation>%1：模式必须是对象</translation>
-    </message>
-    <message>
-        <source>%1: draft 7 and 2020-12 do not share this keyword</source>
-        <translation>%1：此关键字不是 draft 7 与 2020-12 共有的</translation>
-    </message>
-    <message>
-        <source>%1: no reply has the code 1000</source>
-        <translation>%1：没有代码为 1000 的应答</translation>
-    </message>
-    <message>
-        <source>%1: operation &apos;%2&apos; is told twice</source>
-        <translation>%1：操作“%2”重复定义</translation>
-    </message>
-    <message>
-        <source>no operation in the contract folder %1</source>
-        <translation>契约文件夹 %1 中没有任何操作</translation>
-    </message>
-    <message>
-        <source>platform-emulator: a platform server to develop and test against. It answers the services of the contract with state, over HTTP and HTTPS at once, and prints each address when it listens.</source>
-        <translation>platform-emulator：用于开发和测试的平台服务器。它有状态地应答契约中的服务，同时支持 HTTP 和 HTTPS，并在开始监听时输出各个地址。</translation>
-    </message>
-    <message>
-        <source>Print this help</source>
-        <translation>输出此帮助</translation>
-    </message>
-    <message>
-        <source>Print the version</source>
-        <translation>输出版本</translation>
-    </message>
-    <message>
-        <source>Address to listen on</source>
-        <translation>监听地址</translation>
-    </message>
-    <message>
-        <source>Port for HTTP, 0 for any free one</source>
-        <translation>HTTP 端口，0 表示任意空闲端口</translation>
-    </message>
-    <message>
-        <source>Port for HTTPS, 0 for any free one</source>
-        <translation>HTTPS 端口，0 表示任意空闲端口</translation>
-    </message>
-    <message>
-        <source>is empty</source>
-        <translation>为空</translation>
-    </message>
-    <message>
-        <source>DIR</source>
-        <extracomment>Stands for the value of --contract and of --seed</extracomment>
-        <translation>DIR</translation>
-    </message>
-    <message>
-        <source>Folder of the contract (default: ../share/apimodule/contract)</source>
-        <translation>契约所在文件夹（默认：../share/apimodule/contract）</translation>
-    </message>
-    <message>
-        <source>Folder of the seed data (default: ../share/apimodule/seed)</source>
-        <translation>初始数据所在文件夹（默认：../share/apimodule/seed）</translation>
-    </message>
-    <message>
-        <source>Makes the seeded lists so many times as long</source>
-        <translation>将初始数据中的列表放大相应倍数</translation>
-    </message>
-    <message>
-        <source>Refuse the control path /emulator/v1/</source>
-        <translation>拒绝访问控制路径 /emulator/v1/</translation>
-    </message>
-    <message>
-        <source>Print a line for each request</source>
-        <translation>为每个请求输出一行</translation>
-    </message>
-    <message>
-        <source>no seed file in the folder %1</source>
-        <translation>文件夹 %1 中没有初始数据文件</translation>
-    </message>
-    <message>
-        <source>the server certificate cannot be made</source>
-        <translation>无法生成服务器证书</translation>
-    </message>
-    <message>
-        <source>the port is taken</source>
-        <translation>端口已被占用</translation>
-    </message>
-    <message>
-        <source>this machine does not have the address</source>
-        <translation>本机没有该地址</translation>
-    </message>
-    <message>
-        <source>no permission for the port</source>
-        <translation>没有使用该端口的权限</translation>
-    </message>
-    <message>
-        <source>the address is unknown</source>
-        <translation>未知的地址</translation>
-    </message>
-    <message>
-        <source>cannot listen on %1: %2</source>
-        <translation>无法监听 %1：%2</translation>
-    </message>
-    <message>
-        <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
-        <translation>空闲连接或请求未结束的连接在多少秒后关闭</translation>
-    </message>
-    <message>
-        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md); the environment keeps it out of the process list</source>
-        <translation>调用方必须以 X-Subject-Token 发送的令牌（默认值见 docs/emulator.md）；通过环境变量给出时不会出现在进程列表中</translation>
-    </message>
-    <message>
-        <source>Token that the control path asks for as X-Subject-Token (default: none)</source>
-        <translation>控制路径以 X-Subject-Token 要求的令牌（默认无）</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@ namespace catalogue {
 
 /// What the catalogue says, in the user's language.
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(catalogue)
+    Q_DECLARE_TR_FUNCTIONS(Texts)
 };
 
 using translation::Filled;
