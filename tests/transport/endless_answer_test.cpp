@@ -106,7 +106,7 @@ TEST_P(EndlessAnswer, EndsAtTheTimeOutOrBefore)
             << "the server still has " << server.OpenConnectionCount() << " connections";
     }
     EXPECT_TRUE(Await([nThreads] { return Threads() <= nThreads; })) << Threads() << " threads for " << nThreads;
-    ExpectNothingLeft(before);
+    ExpectNoLeaks(before);
 }
 
 // As fast as possible, and slowly enough that the client has read everything.
