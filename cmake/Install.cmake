@@ -1,11 +1,11 @@
-# What `cmake --install` and cpack put where. Components: runtime, data, development, tools, testing, testing_development,
-# and documentation, which docs/CMakeLists.txt fills. Packages.cmake makes a Debian package of each.
+# Install rules for `cmake --install` and cpack. Components: runtime, data, development, tools, testing, testing_development,
+# and documentation, which is in docs/CMakeLists.txt. Packages.cmake builds a Debian package of each component.
 include(CMakePackageConfigHelpers)
 
 set(headers_folder "${CMAKE_INSTALL_INCLUDEDIR}/apimodule")
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/APIModule")
 
-# Libraries find each other wherever they are put.
+# Libraries find each other in any installation folder.
 foreach(library IN LISTS APIMODULE_LIBRARIES)
     get_target_property(type ${library} TYPE)
     if(type STREQUAL SHARED_LIBRARY)
@@ -31,10 +31,10 @@ if(APIMODULE_BUILD_TOOLS)
     set_target_properties(${programs} PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
     install(TARGETS ${programs} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
 
-    # The manual of a program is what it says of itself.
-    set(title_of_apicall "runs calls of a platform server from a shell")
-    set(title_of_apimodule-explorer "runs calls of a platform server from a window")
-    set(title_of_platform-emulator "a platform server to develop and test against")
+    # The manual pages are generated from --help.
+    set(title_of_apicall "make calls to a platform server from a shell")
+    set(title_of_apimodule-explorer "make calls to a platform server from a window")
+    set(title_of_platform-emulator "platform server for development and tests")
     find_program(HELP2MAN help2man)
     if(HELP2MAN)
         foreach(program IN LISTS programs)
@@ -56,7 +56,7 @@ if(APIMODULE_BUILD_TOOLS)
     set(completions "${PROJECT_SOURCE_DIR}/tools/apicall/completions")
     set(zsh_folder site-functions)
     if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
-        set(zsh_folder vendor-completions)  # Debian's name; site-functions are those of the machine
+        set(zsh_folder vendor-completions)  # Debian's folder for packages; site-functions is for the administrator
     endif()
     install(FILES "${completions}/apicall.bash" RENAME apicall
         DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tools)
@@ -65,7 +65,7 @@ if(APIMODULE_BUILD_TOOLS)
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/contract" "${PROJECT_SOURCE_DIR}/tools/emulator/seed"
         DESTINATION "${share_folder}" COMPONENT data FILES_MATCHING PATTERN *.yaml PATTERN *.json)
 
-    # The emulator for the tests of clients: find_package(APIModule CONFIG COMPONENTS Testing).
+    # The emulator for client tests: find_package(APIModule CONFIG COMPONENTS Testing).
     set_target_properties(APIModuleTesting PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS APIModuleTesting EXPORT APIModuleTestingTargets
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT testing NAMELINK_COMPONENT testing_development
@@ -83,13 +83,13 @@ install(FILES "${PROJECT_BINARY_DIR}/APIModuleConfig.cmake" "${PROJECT_BINARY_DI
 
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/apimodule" COMPONENT development)
 
-# From the folder of APIModule.pc to the prefix.
+# Relative path from the folder of APIModule.pc to the prefix.
 file(RELATIVE_PATH to_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" /prefix)
 set(translations_variable "")
 if(APIMODULE_TRANSLATIONS_FOLDER)
     set(translations_variable "translations=\${prefix}/${APIMODULE_TRANSLATIONS_FOLDER}")
 endif()
-# With the client libraries that a host calls itself; UserLogical is headers alone.
+# Includes the client libraries that a host calls directly; UserLogical is header-only.
 set(libraries -lAPIModule)
 if(APIMODULE_BUNDLED_PLATFORM)
     string(APPEND libraries " -lErrorLexicon -lOrnGui -lornl")

@@ -1,10 +1,9 @@
-# Debian packages of the install tree, one for each component: the target `package`, in a folder that is configured with
-# the prefix /usr.
+# The target `package` builds a Debian package of each install component. Configure the build with the prefix /usr.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME apimodule)
 set(CPACK_PACKAGE_VENDOR "The APIModule developers")
 set(CPACK_PACKAGE_CONTACT "The APIModule developers <developers@apimodule.example>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has its own
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # set for each package
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -12,7 +11,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-# A program that was linked with this version runs with any later one of the same SOVERSION.
+# A program linked with this version runs with any later version that has the same SOVERSION.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
@@ -38,56 +37,56 @@ endmacro()
 apimodule_package(runtime ${library_package} libs
     PACKAGE_DEPENDS "apimodule-data ${at_least}"
     DESCRIPTION "typed calls to the services of a security platform
-The library through which the desktop client of a video-surveillance and
-security platform calls the REST services of the platform server, and the
-default client libraries that it works with.")
+The library with which the desktop client of a video-surveillance and
+security platform calls the REST services of the platform server, and its
+default client libraries.")
 apimodule_package(data apimodule-data misc
     PACKAGE_ARCHITECTURE all
     DESCRIPTION "translations, contract and seed data of APIModule
-What the library says in English, German and Chinese, the calls as OpenAPI,
-and what the platform emulator knows when it starts.")
+The texts of the library in English, German and Chinese, the calls as
+OpenAPI, and the initial data of the platform emulator.")
 apimodule_package(development libapimodule-dev libdevel
     PACKAGE_DEPENDS "${library_package} ${same}, ${qt_package}, libboost1.81-dev | libboost-dev (>= 1.81)"
     PACKAGE_RECOMMENDS "libapimoduletesting-dev"
     PACKAGE_SUGGESTS "apimodule-doc, apimodule-tools"
     DESCRIPTION "typed calls to the services of a security platform - headers
 Headers, CMake package and pkg-config file for programs that call the REST
-services of a platform server through APIModule, and an example of one.")
+services of a platform server with APIModule, and an example program.")
 set(packages_with_libraries runtime)
 if(APIMODULE_BUILD_TOOLS)
     list(APPEND packages_with_libraries testing)
     apimodule_package(testing ${testing_package} libs
         PACKAGE_DEPENDS "apimodule-data ${at_least}"
         DESCRIPTION "emulator of a security platform, for tests
-A platform server inside a test program: it answers the calls of APIModule
-with state, and fails as it is asked to.")
+A platform server inside a test program. It replies to the calls of
+APIModule, keeps state, and injects faults.")
     apimodule_package(testing_development libapimoduletesting-dev libdevel
         PACKAGE_DEPENDS "${testing_package} ${same}, libapimodule-dev ${same}, nlohmann-json3-dev"
         DESCRIPTION "emulator of a security platform, for tests - headers
-Headers and CMake target of the platform emulator, for the tests of programs
+Headers and CMake target of the platform emulator, for testing programs
 that use APIModule.")
     apimodule_package(tools apimodule-tools devel
         PACKAGE_DEPENDS "${library_package} ${at_least}, apimodule-data ${at_least}"
         PACKAGE_SUGGESTS "apimodule-doc"
         DESCRIPTION "calls to a security platform from a shell or a window
-A server to develop and test against, and programs that run any call of
+A server for development and tests, and programs that run any call of
 APIModule from a shell (apicall) or from a window (apimodule-explorer).")
 endif()
 if(APIMODULE_INSTALL_DOCS)
     apimodule_package(documentation apimodule-doc doc
         PACKAGE_ARCHITECTURE all
         DESCRIPTION "guides and reference of APIModule
-The guides, the reference of the library and the contract as a site and as
-they were written, and an example of a client.")
+The guides, the reference of the library and the contract as a website, with
+their sources, and an example client.")
 endif()
 
-# A trigger renews the cache of libraries, so no script does: CPack writes none where these are named.
+# The trigger runs ldconfig. Listing postinst and postrm keeps CPack from generating scripts that do the same.
 foreach(component IN LISTS packages_with_libraries)
     string(TOUPPER ${component} upper)
     set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/triggers;postinst;postrm")
 endforeach()
 
-# What every package says of itself.
+# Changelog and copyright of each package.
 string(TIMESTAMP package_date "%a, %d %b %Y 00:00:00 +0000" UTC)
 configure_file("${PROJECT_SOURCE_DIR}/cmake/changelog.in" "${PROJECT_BINARY_DIR}/changelog" @ONLY)
 execute_process(COMMAND gzip --best --no-name --force --keep "${PROJECT_BINARY_DIR}/changelog" COMMAND_ERROR_IS_FATAL ANY)

@@ -1,4 +1,4 @@
-# The libraries whose headers a client includes: APIMODULE_LIBRARIES, and with the emulator APIMODULE_PUBLIC_LIBRARIES.
+# The libraries whose headers a client includes: APIMODULE_LIBRARIES, or with the emulator APIMODULE_PUBLIC_LIBRARIES.
 set(APIMODULE_LIBRARIES APIModule)
 if(APIMODULE_BUNDLED_PLATFORM)
     list(APPEND APIMODULE_LIBRARIES ErrorLexicon OrnGui ornl UserLogical)
@@ -8,7 +8,7 @@ if(APIMODULE_BUILD_TOOLS)
     list(APPEND APIMODULE_PUBLIC_LIBRARIES APIModuleTesting)
 endif()
 
-# The library with all of the bundled client libraries as one target, APIModule::Client.
+# APIModule::Client: the library and all bundled client libraries as one target.
 if(APIMODULE_BUNDLED_PLATFORM)
     add_library(APIModuleClient INTERFACE)
     add_library(APIModule::Client ALIAS APIModuleClient)

@@ -1,8 +1,8 @@
-# The Qt that everything is built with: its targets are ${QT}::<module>. The versionless targets depend on which Qt was
-# found first, which a parent project or a client decides.
+# Selects the version of Qt; its targets are ${QT}::<module>. The versionless targets are not used because they depend on
+# which Qt a parent project or a client finds first.
 set(default 5)
 if(TARGET Qt6::Core)
-    set(default 6)  # a parent's
+    set(default 6)  # used by a parent project
 endif()
 set(APIMODULE_QT_MAJOR ${default} CACHE STRING "Major version of Qt to build with: 5 or 6")
 set_property(CACHE APIMODULE_QT_MAJOR PROPERTY STRINGS 5 6)
@@ -17,13 +17,13 @@ set(QT Qt${APIMODULE_QT_MAJOR})
 set(APIModule_QT_MAJOR ${APIMODULE_QT_MAJOR} CACHE INTERNAL "Major version of Qt, for a parent as with find_package(APIModule)")
 foreach(major IN ITEMS 5 6)
     if(NOT major EQUAL APIMODULE_QT_MAJOR AND TARGET Qt${major}::Core)
-        message(FATAL_ERROR "The project uses Qt ${major}, and APIModule would be built with Qt ${APIMODULE_QT_MAJOR}: "
+        message(FATAL_ERROR "The project uses Qt ${major}, but APIModule is configured for Qt ${APIMODULE_QT_MAJOR}: "
                             "set APIMODULE_QT_MAJOR to ${major}")
     endif()
 endforeach()
 
 # apimodule_find_qt(<module>... [PRIVATE <module>...])
-# Finds modules, and those of PRIVATE with their private headers as ${QT}::<module>Private.
+# Finds Qt modules. Those after PRIVATE are also available with private headers, as ${QT}::<module>Private.
 macro(apimodule_find_qt)
     cmake_parse_arguments(apimodule_qt "" "" "PRIVATE" ${ARGV})
     find_package(${QT} ${APIMODULE_QT_MINIMUM} REQUIRED

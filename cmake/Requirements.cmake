@@ -1,4 +1,4 @@
-# What every part of the project needs, in the oldest versions that it is built and tested with.
+# Requirements of all parts of the project, with the oldest versions that are tested.
 foreach(compiler IN ITEMS "GNU 12" "Clang 14")
     separate_arguments(compiler)
     list(POP_FRONT compiler id)
@@ -8,7 +8,7 @@ foreach(compiler IN ITEMS "GNU 12" "Clang 14")
     endif()
 endforeach()
 
-# A parent links the libraries without looking for these itself.
+# Lets a parent project link the libraries without finding these packages itself.
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
 apimodule_find_qt(Core Network Widgets)
-find_package(Boost 1.81 CONFIG REQUIRED)  # Boost.Describe is in no release before 1.77
+find_package(Boost 1.81 CONFIG REQUIRED)  # Boost.Describe exists since 1.77

@@ -1,5 +1,5 @@
 # apimodule_test(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>])
-# One test program, registered with ctest under its own name. It has no window server unless it asks for one.
+# Adds a test program and registers it with ctest under its name. It runs without a window server by default.
 find_package(GTest REQUIRED)
 include(GoogleTest)
 set(APIMODULE_TEST_ENVIRONMENT

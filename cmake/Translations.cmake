@@ -1,9 +1,9 @@
 # apimodule_translations(<name> COMPONENT <component> [SOURCES <folder>...])
-# The texts of the sources below the calling folder, or of those named, in every language of the project: the files
-# translations/<name>_<language>.ts beside the caller. The target <name>-translations makes the files that programs load
-# from share/apimodule/translations, in the build folder as in an installation. The target `translations` takes new texts
-# into all .ts files; a test fails when one of them is not up to date or misses a translation.
-# A parent finds those of the libraries in APIModule_TRANSLATIONS, as with find_package(APIModule).
+# Translates the sources below the calling folder, or those in SOURCES, into all languages of the project. The translations
+# are in translations/<name>_<language>.ts. The target <name>-translations compiles them to share/apimodule/translations,
+# where programs load them from, both in the build folder and in an installation. The target `translations` updates all .ts
+# files from the sources; a test fails if one of them is out of date or incomplete.
+# A parent project finds the libraries' translations in APIModule_TRANSLATIONS, as with find_package(APIModule).
 set(APIMODULE_LANGUAGES en de zh)
 
 unset(APIModule_TRANSLATIONS CACHE)
@@ -18,8 +18,8 @@ if(APIMODULE_TRANSLATIONS)
         if(PROJECT_IS_TOP_LEVEL)
             set(severity FATAL_ERROR)
         endif()
-        message(${severity} "APIModule has its texts in English alone: Qt's LinguistTools, which compile the translations, "
-                            "were not found. Install them, or turn APIMODULE_TRANSLATIONS off.")
+        message(${severity} "APIModule's texts will be English only, because Qt's LinguistTools, which compile the translations, "
+                            "were not found. Install them, or turn off APIMODULE_TRANSLATIONS.")
     endif()
 endif()
 if(APIMODULE_UPDATE_TRANSLATIONS)
@@ -48,7 +48,7 @@ function(apimodule_translations name)
         return()
     endif()
 
-    # Each list is one argument.
+    # Escaped to pass each list as one argument.
     string(REPLACE ";" "\\;" sources "${arg_SOURCES}")
     string(REPLACE ";" "\\;" files "${files}")
     set(update "${CMAKE_COMMAND}" "-DLUPDATE=$<TARGET_FILE:${QT}::lupdate>" "-DSOURCES=${sources}" "-DFILES=${files}")
@@ -57,7 +57,7 @@ function(apimodule_translations name)
         add_custom_target(${name}-texts COMMAND ${update} -P "${script}" VERBATIM)
         add_dependencies(translations ${name}-texts)
     endif()
-    # The files are those of Qt 5's lupdate: that of Qt 6 reads the sources differently.
+    # The .ts files come from Qt 5's lupdate; the lupdate of Qt 6 parses the sources differently.
     if(APIMODULE_BUILD_TESTS AND BUILD_TESTING AND APIMODULE_QT_MAJOR EQUAL 5)
         add_test(NAME ${name}_translations
             COMMAND ${update} "-DCHECK_IN=${CMAKE_CURRENT_BINARY_DIR}/${name}-translations" -P "${script}")

@@ -1,5 +1,5 @@
-# Takes the texts of SOURCES into the .ts FILES with LUPDATE. With CHECK_IN, a scratch folder, it does so with copies and
-# fails when one of them changes or has a text without a translation. English needs plural forms alone.
+# Updates the .ts FILES from SOURCES with LUPDATE. With CHECK_IN, a scratch folder, updates copies instead and fails if one
+# of them changes or lacks a translation. The English file contains only plural forms.
 cmake_minimum_required(VERSION 3.25)
 
 if(CHECK_IN)
@@ -20,7 +20,7 @@ foreach(file IN LISTS FILES)
     execute_process(
         COMMAND "${LUPDATE}" ${SOURCES} -silent -no-obsolete -locations none -source-language en ${forms} -ts "${updated}"
         ERROR_VARIABLE complaints COMMAND_ERROR_IS_FATAL ANY)
-    # lupdate of Debian 13 reports each namespace whose declaration is in a header that it does not read.
+    # lupdate of Debian 13 reports namespaces declared in headers that it does not parse.
     string(REGEX REPLACE "[^\n]*: Qualifying with unknown namespace/class [^\n]*\n" "" complaints "${complaints}")
     if(complaints)
         message(SEND_ERROR "${complaints}")
@@ -30,12 +30,12 @@ foreach(file IN LISTS FILES)
         file(SHA256 "${file}" before)
         file(SHA256 "${updated}" after)
         if(NOT before STREQUAL after)
-            message(SEND_ERROR "${file} is not that of the sources: build the target translations")
+            message(SEND_ERROR "${file} is out of date: build the target translations")
         endif()
         file(READ "${updated}" text)
         string(REGEX REPLACE "<name>catalogue::Call</name>([^<]|<[^/]|</[^c])*" "" text "${text}")  # may stay English
         if(text MATCHES "type=\"unfinished\"|<translation></translation>|<translation/>|<numerusform></numerusform>")
-            message(SEND_ERROR "${file} misses translations")
+            message(SEND_ERROR "${file} lacks translations")
         endif()
     endif()
 endforeach()
