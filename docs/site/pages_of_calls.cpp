@@ -1,5 +1,5 @@
-// Writes the pages of the site that show the calls, from the catalogue and the contract: calls.md, which leads to a
-// page for each family, calls_<family>.md. usage: pages-of-calls <folder of the contract> <folder for the pages>
+// Writes the site's pages about the calls from the catalogue and the contract: calls.md, which links to a page for each
+// family, calls_<family>.md. usage: pages-of-calls <folder of the contract> <folder for the pages>
 #include <catalogue/Call.h>
 #include <Contract.h>
 
@@ -30,7 +30,7 @@ std::string ShortName(const Call& call)
     return call.name.substr(call.family.size() + 1);
 }
 
-/// The label of the call's block.
+/// The label of the call's section.
 std::string Label(const Call& call)
 {
     std::string label = "call_" + call.name;
@@ -38,7 +38,7 @@ std::string Label(const Call& call)
     return label;
 }
 
-/// A link to what the reference says about a name.
+/// A link to a name in the reference.
 std::string Reference(std::string_view name, std::string_view shown)
 {
     return std::string("[").append(shown).append("](@ref ").append(name).append(")");
@@ -49,7 +49,7 @@ std::string Reference(std::string_view function)
     return Reference(function, function.substr(function.rfind(':') + 1));
 }
 
-/// Of an argument or a result: a record leads to its description.
+/// The type of an argument or a result, with a link for a record.
 std::string TypeOf(const catalogue::Type& type)
 {
     if (type.kind == catalogue::Kind::List) {
@@ -59,7 +59,7 @@ std::string TypeOf(const catalogue::Type& type)
     return type.kind == catalogue::Kind::Record ? Reference("APIModule::" + name, name) : name;
 }
 
-/// In a table a bar would end the cell.
+/// Escapes vertical bars, which would end the cell of a table.
 std::string Cell(std::string text)
 {
     for (std::size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2) {
@@ -74,7 +74,7 @@ std::string Block(const Json& json)
     return "```\n" + json.dump(kIndentation) + "\n```\n\n";
 }
 
-/// The path with its query as the contract's examples fill them.
+/// The path and query with the values of the contract's examples.
 std::string ExampleRequest(const Operation& operation)
 {
     const auto text = [&operation](const std::string& name) {
@@ -115,14 +115,14 @@ void WriteCall(std::ostream& page, const Call& call, const Operation& operation)
         }
         page << "\n";
     }
-    page << "Example of a request:\n\n```\n" << ExampleRequest(operation) << "\n";
+    page << "Example request:\n\n```\n" << ExampleRequest(operation) << "\n";
     if (!operation.bodyExamples.empty()) {
         constexpr int kIndentation = 2;
         page << "\n" << operation.bodyExamples.front().dump(kIndentation) << "\n";
     }
     page << "```\n\n";
     if (!operation.replyExamples.empty()) {
-        page << "Example of a reply:\n\n" << Block(operation.replyExamples.front());
+        page << "Example reply:\n\n" << Block(operation.replyExamples.front());
     }
 }
 
@@ -136,7 +136,7 @@ std::string DescriptionOf(const YAML::Node& tags, std::string_view subject)
     return {};
 }
 
-/// Calls of one family.
+/// Writes the page of one family.
 void WriteFamily(const std::filesystem::path& folder, const emulator::Contract& contract, const YAML::Node& file,
                  const std::vector<const Call*>& calls)
 {
@@ -173,7 +173,7 @@ int main(int /*argc*/, char** argv)
 
     std::ofstream overview(folder / "calls.md");
     overview
-        << "# Calls {#calls}\n\nThe calls of the library, by family. Each of them has a block with its functions, its "
+        << "# Calls {#calls}\n\nAll calls of the library, by family. The section of a call has its functions, its "
            "record, its arguments, and an example of a request and a reply.\n";
     const std::vector<Call>& calls = catalogue::Calls();
     for (auto begin = calls.begin(); begin != calls.end();) {

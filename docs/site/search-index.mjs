@@ -1,4 +1,4 @@
-// Writes what the search of the site finds: the sections of its pages, with their texts.
+// Writes the search index of the site: the sections of its pages with their texts.
 // usage: node search-index.mjs <folder of node modules> <folder of the site> <file>
 import {readdirSync, readFileSync, writeFileSync} from 'node:fs';
 import {createRequire} from 'node:module';
@@ -10,8 +10,8 @@ const require = createRequire(join(modules, 'package.json'));
 const {parse} = require('node-html-parser');
 const MiniSearch = require('minisearch');
 
-// Sources, lists of names and what Doxygen makes of folders hold nothing that is not said elsewhere.
-const passedOver = /_source\.html$|-members\.html$|^(annotated|classes|files|functions|globals|hierarchy|inherits|namespace(s|members)|pages|dir_)/;
+// Source listings, lists of names and pages about folders only repeat the content of other pages.
+const skipped = /_source\.html$|-members\.html$|^(annotated|classes|files|functions|globals|hierarchy|inherits|namespace(s|members)|pages|dir_)/;
 const sections = [];
 
 function sectionsOf(file) {
@@ -32,7 +32,7 @@ function sectionsOf(file) {
                 continue;
             }
             if (child.tagName === 'A' && child.id) {
-                anchor = child.id;  // of the member that follows
+                anchor = child.id;  // of the next member
             }
             if (/^H[1-6]$/.test(child.tagName ?? '')) {
                 anchor = child.querySelector('a.anchor')?.id ?? (child.classList.contains('memtitle') ? anchor : '');
@@ -57,7 +57,7 @@ function sectionsOf(file) {
     }
 }
 
-readdirSync(folder).filter(file => file.endsWith('.html') && !passedOver.test(file)).forEach(sectionsOf);
+readdirSync(folder).filter(file => file.endsWith('.html') && !skipped.test(file)).forEach(sectionsOf);
 const ids = new Set();
 const options = {
     fields: ['title', 'text'],
@@ -66,5 +66,5 @@ const options = {
 };
 const search = new MiniSearch({...options, ...globalThis.searchWords});
 search.addAll(sections.filter(({id}) => !ids.has(id) && ids.add(id)));
-// A script, as a page that is opened from a folder may load nothing else.
+// A script, because a page opened from a local folder can load nothing else.
 writeFileSync(output, `window.searchIndex = ${JSON.stringify({options, index: JSON.stringify(search)})};\n`);

@@ -1,5 +1,4 @@
-// The words of a text as the search compares them, in the index and in the browser: without endings, and "time-out" also as
-// "timeout".
+// Normalises words for the search, in the index and in the browser: without endings, and "time-out" also as "timeout".
 globalThis.searchWords = {
     tokenize: text => [
         ...text.split(/[\s\p{P}\p{S}]+/u).filter(Boolean),

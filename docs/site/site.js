@@ -1,5 +1,5 @@
-// The search of the site, a menu that closes, and code that breaks between words. Pages may lie in a folder that no server shows, where a page can load
-// scripts and nothing else.
+// The search of the site, a menu that closes itself, and line breaks in code. Pages may be opened from a local folder, where
+// a page can load only scripts.
 'use strict';
 
 (() => {
@@ -7,7 +7,7 @@
     let field;
     let list;
 
-    // The index is loaded with the first look at the field.
+    // Loads the index when the field is first used.
     function load(done) {
         if (window.searchIndex) {
             search = search ?? MiniSearch.loadJSON(searchIndex.index, {...searchIndex.options, ...searchWords});
@@ -43,7 +43,7 @@
             return item;
         }));
         if (field.value.trim() && !found.length) {
-            list.append('Nothing was found.');
+            list.append('No results.');
         }
         list.hidden = !field.value.trim();
     }
@@ -81,7 +81,7 @@
         });
     }
 
-    // On a phone the menu covers the page: it goes when something of it was chosen, and with a tap beside it.
+    // On a phone the menu covers the page, so it closes after a choice and on a tap outside it.
     function closeMenu() {
         const menu = document.getElementById('main-menu-state');
         document.addEventListener('click', event => {
@@ -91,7 +91,7 @@
         });
     }
 
-    // Long names and paths break behind a separator.
+    // Allows long names and paths to wrap after a separator.
     function allowBreaks() {
         for (const code of document.querySelectorAll('.contents code')) {
             for (const text of [...code.childNodes, ...code.querySelectorAll('a')].flatMap(node => node.nodeType === 3 ? node : [...node.childNodes])) {
