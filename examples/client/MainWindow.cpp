@@ -16,7 +16,7 @@ MainWindow::MainWindow(Session& session) : m_session(session)
     ui.lots.setRootIsDecorated(false);
     ui.lots.header()->setSectionResizeMode(QHeaderView::Stretch);
     ui.interval.setRange(1, 999);
-    ui.save.setEnabled(false);  // a write sends all settings, also those that nobody has read
+    ui.save.setEnabled(false);  // a write sends all settings, so they must be read first
     ui.pageLabel.setAlignment(Qt::AlignCenter);
     setCentralWidget(new QWidget);
     auto* const grid = new QGridLayout(centralWidget());
@@ -72,7 +72,7 @@ void MainWindow::Refresh()
     }
     const auto show = [this](const Outcome<std::vector<DatailParkingLotInfoRsp>>& lots) {
         Report(ui.refreshed, lots);
-        if (lots) {  // otherwise the last ones stay
+        if (lots) {  // after a failure the previous list stays
             ui.refreshed.setText(tr("As of %1").arg(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat)));
             ui.refreshed.show();
             ui.lots.clear();
@@ -98,8 +98,8 @@ void MainWindow::Save()
 
 void MainWindow::ShowPage(int page)
 {
-    m_search.Cancel();  // its answer might come after that of the next search
-    // Pages count from 1. The keyword goes into the URL as it stands.
+    m_search.Cancel();  // its reply could arrive after that of the next search
+    // Pages count from 1. The library does not encode the keyword for the URL.
     const std::string keyword = QUrl::toPercentEncoding(ui.keyword.text()).toStdString();
     const GetPageSummaryAlarmPlansParam query{page, kPageSize, keyword};
     const auto show = [this, page](const Outcome<std::vector<SummaryAlarmPlan>>& plans) {

@@ -7,7 +7,7 @@
 
 #include <QtWidgets>
 
-/// Switches the language at any time; windows get a LanguageChange event.
+/// Switches the language at run time; windows get a LanguageChange event.
 void Speak(const QString& language);
 
 enum class Access {
@@ -15,19 +15,19 @@ enum class Access {
     Write
 };
 
-/// What the user reads about a call that failed; empty when there is nothing to say.
+/// The message about a failed call for the user; empty if none is needed.
 QString FailureText(const APIModule::OutcomeBase& outcome, Access access);
 
-/// A list that refreshes itself, a setting to write, and a search in pages.
+/// A self-refreshing list, a setting to write, and a search with pages.
 class MainWindow : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(MainWindow)
 
 public:
     explicit MainWindow(Session& session);
 
-    /// Signs in with what was typed, and reads everything once the server has accepted a call.
+    /// Signs in with the entered server and token, and reads everything after the first successful call.
     void SignIn();
-    /// Reads the parking lots again, quietly: a failure shows in the status bar alone.
+    /// Reads the parking lots again; shows a failure only in the status bar.
     void Refresh();
 
     struct {
@@ -47,7 +47,7 @@ private:
     void Translate();
     void Save();
     void ShowPage(int page);
-    /// Shows a failure, or takes an earlier one away.
+    /// Shows a failure, or clears the previous one.
     void Report(QLabel& label, const APIModule::OutcomeBase& outcome, Access access = Access::Read);
 
     Session& m_session;

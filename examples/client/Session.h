@@ -11,7 +11,7 @@ struct Server : UserLogical::IServer {
     std::string GetToken() override { return token; }
 };
 
-/// The user manager, which the library asks in every call. Before the user has signed in, calls end as NotPacked.
+/// The user manager, which the library queries for every call. Before the user signs in, calls end with NotPacked.
 struct Session : UserLogical::IUserManager {
     std::shared_ptr<Server> server;
 

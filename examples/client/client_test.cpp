@@ -1,4 +1,4 @@
-// The client against a server that fails in many ways. An argument names a file for a picture of the window.
+// Tests the client with a server that fails in many ways. The optional argument is a file for a screenshot.
 #include "MainWindow.h"
 
 #include <emulator/PlatformEmulator.h>
@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Waits for what the user is to see.
+/// Waits until the user sees the expected state.
 void Expect(const char* what, const std::function<bool()>& seen)
 {
     for (const QDeadlineTimer deadline(30000); !seen();) {
@@ -59,11 +59,11 @@ void Test(const QString& picture)
     Expect("the setting is written", [&] { return platform.state()["brms"]["timeSync"]["interval"] == 7; });
     fault({{"kind", "envelope"}, {"code", 2001}, {"desc", "busy"}});
     ui.save.click();
-    fails("The server refuses this: busy (code 2001)");
+    fails("The server refused this: busy (code 2001)");
     api.SetCallTimeout(std::chrono::milliseconds(200));
     fault({{"kind", "silent"}});
     ui.save.click();
-    fails("Look whether it was saved");
+    fails("Check whether it was saved");
     api.SetCallTimeout(std::nullopt);
 
     ui.save.click();

@@ -16,6 +16,6 @@ int main(int argc, char** argv)
     window.resize(640, 480);
     window.show();
     const int result = QApplication::exec();
-    APIModule::CAPIModule::GetInstance().UnInit();  // before the session goes
+    APIModule::CAPIModule::GetInstance().UnInit();  // before the session is destroyed
     return result;
 }

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Example client</source>
-        <translation>Beispielprogramm</translation>
+        <translation>Beispielclient</translation>
     </message>
     <message>
         <source>Language</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Synchronise time every (hours)</source>
-        <translation>Uhrzeit abgleichen alle (Stunden)</translation>
+        <translation>Uhrzeit synchronisieren alle (Stunden)</translation>
     </message>
     <message>
         <source>Save</source>
@@ -69,27 +69,27 @@
     </message>
     <message>
         <source>This server is not trusted. Nothing was sent.</source>
-        <translation>Diesem Server wird nicht vertraut. Es wurde nichts gesendet.</translation>
+        <translation>Dieser Server ist nicht vertrauenswürdig. Es wurde nichts gesendet.</translation>
     </message>
     <message>
         <source>The reply is too large.</source>
         <translation>Die Antwort ist zu groß.</translation>
     </message>
     <message>
-        <source>The reply cannot be read. %1</source>
-        <translation>Die Antwort ist nicht lesbar. %1</translation>
+        <source>The reply is invalid. %1</source>
+        <translation>Die Antwort ist ungültig. %1</translation>
     </message>
     <message>
-        <source>The server refuses this: %1 (code %2)</source>
-        <translation>Der Server lehnt das ab: %1 (Code %2)</translation>
+        <source>The server refused this: %1 (code %2)</source>
+        <translation>Der Server hat das abgelehnt: %1 (Code %2)</translation>
     </message>
     <message>
         <source>%1 (HTTP status %2)</source>
         <translation>%1 (HTTP-Status %2)</translation>
     </message>
     <message>
-        <source>%1. Look whether it was saved before you repeat it.</source>
-        <translation>%1. Prüfen Sie vor dem Wiederholen, ob gespeichert wurde.</translation>
+        <source>%1. Check whether it was saved before you try again.</source>
+        <translation>%1. Prüfen Sie, ob gespeichert wurde, bevor Sie es erneut versuchen.</translation>
     </message>
 </context>
 </TS>

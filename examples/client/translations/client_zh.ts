@@ -5,7 +5,7 @@
     <name>MainWindow</name>
     <message>
         <source>As of %1</source>
-        <translation>截至 %1</translation>
+        <translation>更新于 %1</translation>
     </message>
     <message>
         <source>Saved</source>
@@ -73,23 +73,23 @@
     </message>
     <message>
         <source>The reply is too large.</source>
-        <translation>答复过大。</translation>
+        <translation>响应过大。</translation>
     </message>
     <message>
-        <source>The reply cannot be read. %1</source>
-        <translation>无法读取答复。%1</translation>
+        <source>The reply is invalid. %1</source>
+        <translation>响应无效。%1</translation>
     </message>
     <message>
-        <source>The server refuses this: %1 (code %2)</source>
-        <translation>服务器拒绝：%1（代码 %2）</translation>
+        <source>The server refused this: %1 (code %2)</source>
+        <translation>服务器拒绝了此操作：%1（代码 %2）</translation>
     </message>
     <message>
         <source>%1 (HTTP status %2)</source>
         <translation>%1（HTTP 状态 %2）</translation>
     </message>
     <message>
-        <source>%1. Look whether it was saved before you repeat it.</source>
-        <translation>%1。重试前请先查看是否已保存。</translation>
+        <source>%1. Check whether it was saved before you try again.</source>
+        <translation>%1。重试前请先确认是否已保存。</translation>
     </message>
 </context>
 </TS>
