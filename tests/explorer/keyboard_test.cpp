@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -84,6 +85,26 @@ TEST_F(KeyboardTest, AFieldOfTextLeavesTheKeyOfTheServersDialogToTheWindow)
     EXPECT_FALSE(asks.isAccepted());
     Press(Qt::Key_E, Qt::ControlModifier);
     EXPECT_NE(Window().findChild<QDialog*>(QStringLiteral("serversDialog")), nullptr);
+}
+
+TEST_F(KeyboardTest, TheKeyThatFindsACallSearchesTheResultWhereThatHasTheFocus)
+{
+    testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("{\"results\": []}"); });
+    Use(server.Port());
+    Run("OMMS.GetAlertTypes");
+    ASSERT_TRUE(Activate());
+    const auto expectField = [this](QWidget& from, const char* field) {
+        from.setFocus();
+        Press(Qt::Key_F, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), field);
+    };
+    auto& tabs = *Find<QTabWidget>("results").currentWidget()->findChild<QTabWidget*>();
+    expectField(Find<QWidget>("record"), "recordFilter");
+    for (const int text : {1, 3}) {  // JSON, raw exchange
+        tabs.setCurrentIndex(text);
+        expectField(*tabs.currentWidget()->findChild<QPlainTextEdit*>(), "find");
+    }
+    expectField(Find<QWidget>("servers"), "callFilter");
 }
 
 struct Place {

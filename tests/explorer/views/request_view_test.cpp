@@ -94,7 +94,7 @@ void RequestViewTest::TheCommandsAreReadyToCopy()
     view.Show(draft);
     const auto copied = [&view](const char* page) {
         QGuiApplication::clipboard()->clear();
-        Page(view, page).findChild<QPushButton*>()->click();
+        Page(view, page).findChild<QPushButton*>(QStringLiteral("copyText"))->click();
         return QGuiApplication::clipboard()->text();
     };
     QCOMPARE(copied("curl"), explorer::CurlLine(draft.request));

@@ -11,11 +11,14 @@
 #include <explorer/views/TotalsRow.h>
 
 #include <QAbstractItemModelTester>
+#include <QAction>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -24,8 +27,10 @@
 #include <QTableView>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextLayout>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 
 using explorer::CallOutcome;
@@ -42,9 +47,20 @@ private slots:
     void TheTreeShowsNameValueAndType();
     void TheTreeStandsInTheOrderOfTheFields();
     void EveryCallsFreshRecordHasATree();
+    void AnElementOfAListShowsItsNameAndIdentifier();
+    void TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch();
+    void TheFilterOfTheTreeIsTypedAfterItsKey();
+    void ValuePathAndSubtreeAreCopied();
+    void FieldsThatTheReplyDidNotBringAreMarked_data();
+    void FieldsThatTheReplyDidNotBringAreMarked();
+    void FieldsBehindTheUnreadableKeyAreMarked();
     void NamesAndTypesOfTheTreeAreWhole();
     void ALargeRecordOpensItsFirstLevelOnly();
     void TheJsonIsCopiedWhole();
+    void TheJsonIsSearchedByKeyboard();
+    void TheSearchFindsWhatIsNotShown();
+    void TheSearchSelectsTheMatchAfterLineEndsOfTheWire();
+    void AllOfALongTextIsShownOnDemand();
     void JsonHasColoursThatFollowThePalette();
     void TheTableHasARowForEachElement();
     void ColumnsSortByValue();
@@ -159,7 +175,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
     QCOMPARE(model.index(0, RecordModel::TypeColumn, root).data(Qt::ToolTipRole).toString(),
              QStringLiteral("list of AlarmLinkChannel"));
     const QModelIndex audio = model.index(2, 0, root);
-    QCOMPARE(TextOf(model, audio, 1), QStringLiteral("[1]||AlarmLinkAudioChannel"));
+    QCOMPARE(TextOf(model, audio, 1), QString::fromUtf8("[1]|Horn \xC2\xB7 1$4$0$1|AlarmLinkAudioChannel"));
     const QModelIndex horn = model.index(1, 0, audio);
     QCOMPARE(TextOf(model, horn, 1), QStringLiteral("channelName|Horn|text"));
 
@@ -195,6 +211,173 @@ void ResultViewTest::EveryCallsFreshRecordHasATree()
             QCOMPARE(model.rowCount(model.index(0, 0)), int(call.result->fields.size()));
         }
     }
+}
+
+void ResultViewTest::AnElementOfAListShowsItsNameAndIdentifier()
+{
+    RecordModel model;
+    const auto first = [&model](const CallOutcome& outcome) {
+        model.SetRecord(*outcome.call->result, Shared(outcome.record));
+        return model.index(0, RecordModel::ValueColumn, model.index(0, 0)).data().toString();
+    };
+    QCOMPARE(first(view_test::ParkingLots()), QString::fromUtf8("Headquarters \xC2\xB7 1"));
+    QCOMPARE(first(view_test::DeviceCategories()), QStringLiteral("deviceCategory: 1"));  // no name, no identifier
+}
+
+void ResultViewTest::TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch()
+{
+    RecordModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const CallOutcome outcome = view_test::ParkingLots();
+    model.SetRecord(*outcome.call->result, Shared(outcome.record));
+    model.Filter(QStringLiteral("MAIN gate"));
+    QCOMPARE(model.Matches(), 3);  // a position, its point, and the point on the other side
+    const QModelIndex root = model.index(0, 0);
+    QCOMPARE(model.rowCount(root), 1);
+    const QModelIndex lot = model.index(0, 0, root);
+    QCOMPARE(lot.data().toString(), QStringLiteral("[0]"));
+    QCOMPARE(model.rowCount(lot), 1);
+    const QModelIndex positions = model.index(0, 0, lot);
+    QCOMPARE(positions.data().toString(), QStringLiteral("positions"));
+    QCOMPARE(model.rowCount(positions), 1);
+    QCOMPARE(model.Path(model.index(0, 0, positions)), QStringLiteral("/0/positions/0"));
+
+    model.Filter(QStringLiteral("positions"));
+    QCOMPARE(model.rowCount(model.index(0, 0)), 3);
+    const QModelIndex all = model.index(0, 0, model.index(0, 0, model.index(0, 0)));
+    QCOMPARE(model.rowCount(all), 2);  // whole, although nothing in it matches
+    QVERIFY(model.rowCount(model.index(1, 0, all)) > 1);
+
+    model.Filter(QStringLiteral("no such text"));
+    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(model.Matches(), 0);
+    model.Filter(QString());
+    QCOMPARE(model.rowCount(model.index(0, 0)), 3);
+}
+
+void ResultViewTest::TheFilterOfTheTreeIsTypedAfterItsKey()
+{
+    ResultView view;
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    view.Show(view_test::ParkingLots());
+    auto& tree = *view.findChild<QTreeView*>(QStringLiteral("record"));
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("ramp"));
+    QTRY_COMPARE(view.findChild<QLabel*>(QStringLiteral("recordMatches"))->text(), QStringLiteral("Matches: 1"));
+    const QModelIndex root = tree.model()->index(0, 0);
+    QCOMPARE(tree.model()->rowCount(root), 1);
+    QVERIFY(tree.isExpanded(tree.model()->index(0, 0, root)));
+}
+
+void ResultViewTest::ValuePathAndSubtreeAreCopied()
+{
+    ResultView view;
+    const CallOutcome outcome = view_test::ParkingLots();
+    view.Show(outcome);
+    auto& tree = *view.findChild<QTreeView*>(QStringLiteral("record"));
+    const QAbstractItemModel& model = *tree.model();
+    const QModelIndex lot = model.index(1, 0, model.index(0, 0));
+    const auto copied = [&tree](const QModelIndex& index, const char* action) {
+        tree.setCurrentIndex(index);
+        tree.findChild<QAction*>(QLatin1String(action))->trigger();
+        return QGuiApplication::clipboard()->text();
+    };
+    QCOMPARE(copied(model.index(1, 1, lot), "copyValue"), QStringLiteral("Underground car park"));
+    QCOMPARE(copied(model.index(1, 0, lot), "copyPath"), QStringLiteral("/1/parkingLotName"));
+    QCOMPARE(json::parse(copied(lot, "copySubtree").toStdString()), outcome.record[1]);
+    QCOMPARE(json::parse(copied(lot, "copyValue").toStdString()), outcome.record[1]);
+}
+
+namespace {
+
+/// Places of the tree whose values are marked as missing in the reply.
+void AddMarked(const RecordModel& model, const QModelIndex& parent, QStringList& marked)
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        if (model.index(row, RecordModel::ValueColumn, parent)
+                .data()
+                .toString()
+                .contains(QLatin1String("(not in the reply)"))) {
+            marked.append(model.Path(index));
+        }
+        AddMarked(model, index, marked);
+    }
+}
+
+QStringList MarkedIn(const ResultView& view)
+{
+    QStringList marked;
+    const auto* pTree = view.findChild<QTreeView*>(QStringLiteral("record"));
+    AddMarked(*qobject_cast<RecordModel*>(pTree->model()), {}, marked);
+    return marked;
+}
+
+}  // namespace
+
+void ResultViewTest::FieldsThatTheReplyDidNotBringAreMarked_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("data");
+    QTest::addColumn<QStringList>("marked");
+    QTest::newRow("the identifier that the caller knows")
+        << QStringLiteral("BRMS.GetImageConfig")
+        << QStringLiteral(R"({"brightness": 0, "saturation": 50, "contrast": "55", "sharpness": 40})")
+        << QStringList{QStringLiteral("/channelId")};
+    QTest::newRow("in every element of a list")
+        << QStringLiteral("BRMS.GetEncodeConfig") << QStringLiteral(R"({"encodeConfigurations": [
+            {"streamType": 1, "bitRate": 0, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
+             "iFrameInterval": 50, "height": 0, "width": 0},
+            {"streamType": 2, "bitRate": 9, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
+             "iFrameInterval": 50, "height": 0, "width": 0}]})")
+        << QStringList{QStringLiteral("/0/channelId"), QStringLiteral("/1/channelId")};
+    QTest::newRow("all of it came") << QStringLiteral("BRMS.GetRemoteLogConfig")
+                                    << QStringLiteral(R"({"enable": false, "ip": "", "port": 0, "platformId": ""})")
+                                    << QStringList{};
+    QTest::newRow("another key than the field")
+        << QStringLiteral("BRMS.GetDeviceLoginModel") << QStringLiteral(R"({"deviceLoginModel": 0})") << QStringList{};
+    QTest::newRow("an empty list came") << QStringLiteral("BRMS.GetMultiCastConfig")
+                                        << QStringLiteral(R"({"status": false, "streams": []})")
+                                        << QStringList{QStringLiteral("/channelId")};
+}
+
+namespace {
+
+/// The outcome of a read whose reply has these data.
+CallOutcome Replied(const QString& call, const QString& data)
+{
+    CallOutcome outcome = view_test::Succeeded(call.toLatin1().constData(), "{}", "null");
+    const catalogue::Value record(*outcome.call->result);
+    outcome.succeeded = outcome.call->parse(QJsonDocument::fromJson(data.toUtf8()).object(), record.Data()) == 0;
+    outcome.record = record.ToJson();
+    outcome.reply->body = R"({"code": 1000, "desc": "Success", "data": )" + data.toUtf8() + "}";
+    return outcome;
+}
+
+}  // namespace
+
+void ResultViewTest::FieldsThatTheReplyDidNotBringAreMarked()
+{
+    QFETCH(QString, call);
+    QFETCH(QString, data);
+    QFETCH(QStringList, marked);
+    const CallOutcome outcome = Replied(call, data);
+    QVERIFY(outcome.succeeded);
+    ResultView view;
+    view.Show(outcome);
+    QCOMPARE(MarkedIn(view), marked);
+}
+
+void ResultViewTest::FieldsBehindTheUnreadableKeyAreMarked()
+{
+    const CallOutcome outcome = Replied(QStringLiteral("BRMS.GetRemoteLogConfig"),
+                                        QStringLiteral(R"({"enable": false, "ip": "10.0.0.1", "platformId": "p"})"));
+    QVERIFY(!outcome.succeeded);
+    ResultView view;
+    view.Show(outcome);
+    QCOMPARE(MarkedIn(view), (QStringList{QStringLiteral("/port"), QStringLiteral("/platformId")}));
 }
 
 void ResultViewTest::NamesAndTypesOfTheTreeAreWhole()
@@ -241,8 +424,105 @@ void ResultViewTest::TheJsonIsCopiedWhole()
     view.Show(outcome);
     auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(JsonTab));
     QVERIFY(page.findChild<QPlainTextEdit*>()->toPlainText().size() < int(kLong));
-    page.findChild<QPushButton*>()->click();
+    page.findChild<QPushButton*>(QStringLiteral("copyText"))->click();
     QCOMPARE(json::parse(QGuiApplication::clipboard()->text().toStdString()), outcome.record);
+}
+
+namespace {
+
+/// The lines of numbers from 0 up, "line 0" and so on.
+QString Lines(int count)
+{
+    QString text;
+    for (int line = 0; line < count; ++line) {
+        text += QStringLiteral("line %1\n").arg(line);
+    }
+    return text;
+}
+
+QString Selected(const CodeView& view)
+{
+    return view.findChild<QPlainTextEdit*>()->textCursor().selectedText();
+}
+
+QString CountOf(const CodeView& view)
+{
+    return view.findChild<QLabel*>(QStringLiteral("findCount"))->text();
+}
+
+}  // namespace
+
+void ResultViewTest::TheJsonIsSearchedByKeyboard()
+{
+    CodeView view(CodeView::Kind::Json, QString());
+    view.SetText(QStringLiteral("Gate, GATE and gate"));
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    const auto& edit = *view.findChild<QPlainTextEdit*>();
+    view.findChild<QPlainTextEdit*>()->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("find"));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("gate"));
+    QCOMPARE(CountOf(view), QStringLiteral("1 of 3"));
+    QCOMPARE(Selected(view), QStringLiteral("Gate"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(Selected(view), QStringLiteral("GATE"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
+    QCOMPARE(Selected(view), QStringLiteral("gate"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
+    QCOMPARE(CountOf(view), QStringLiteral("1 of 3"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3, Qt::ShiftModifier);
+    QCOMPARE(CountOf(view), QStringLiteral("3 of 3"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(CountOf(view), QStringLiteral("2 of 3"));
+    QCOMPARE(edit.textCursor().selectionStart(), 6);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+    QCOMPARE(CountOf(view), QStringLiteral("No match"));
+    QVERIFY(!view.findChild<QToolButton*>(QStringLiteral("findNext"))->isEnabled());
+
+    // Another text is searched for the same.
+    view.SetText(QStringLiteral("a gatex"));
+    QCOMPARE(CountOf(view), QStringLiteral("0 of 1"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
+    QCOMPARE(Selected(view), QStringLiteral("gatex"));
+}
+
+void ResultViewTest::TheSearchFindsWhatIsNotShown()
+{
+    CodeView view(CodeView::Kind::Text, QString());
+    view.SetText(Lines(60000));
+    const auto& edit = *view.findChild<QPlainTextEdit*>();
+    QVERIFY(!edit.toPlainText().contains(QLatin1String("line 55555")));
+    view.findChild<QLineEdit*>(QStringLiteral("find"))->setText(QStringLiteral("line 55555"));
+    QCOMPARE(CountOf(view), QStringLiteral("1 of 1"));
+    QCOMPARE(Selected(view), QStringLiteral("line 55555"));
+    QCOMPARE(edit.textCursor().block().text(), QStringLiteral("line 55555"));
+    QVERIFY(edit.toPlainText().size() < view.Text().size());
+}
+
+void ResultViewTest::TheSearchSelectsTheMatchAfterLineEndsOfTheWire()
+{
+    CodeView view(CodeView::Kind::Text, QString());
+    view.SetText(QStringLiteral("one\r\ntwo\r\nthree"));
+    view.findChild<QLineEdit*>(QStringLiteral("find"))->setText(QStringLiteral("three"));
+    QCOMPARE(Selected(view), QStringLiteral("three"));
+}
+
+void ResultViewTest::AllOfALongTextIsShownOnDemand()
+{
+    CodeView view(CodeView::Kind::Text, QString());
+    const QString text = Lines(60000);
+    view.SetText(text);
+    const auto& shortened = *view.findChild<QLabel*>(QStringLiteral("shortened"));
+    auto& all = *view.findChild<QPushButton*>(QStringLiteral("showAll"));
+    QCOMPARE(shortened.text(), QStringLiteral("Characters 1 to %1 of %2; search and copy have all of them.")
+                                   .arg(QLocale().toString(200000), QLocale().toString(text.size())));
+    QVERIFY(shortened.isVisibleTo(&view) && all.isVisibleTo(&view));
+    all.click();
+    QCOMPARE(view.findChild<QPlainTextEdit*>()->toPlainText(), text);
+    QVERIFY(!shortened.isVisibleTo(&view) && !all.isVisibleTo(&view));
+    view.SetText(Lines(3));
+    QVERIFY(!shortened.isVisibleTo(&view));
 }
 
 void ResultViewTest::JsonHasColoursThatFollowThePalette()

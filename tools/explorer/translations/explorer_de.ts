@@ -127,12 +127,17 @@
 <context>
     <name>explorer::CodeView</name>
     <message>
-        <source>The first %1 of %2 characters; a copy has them all.</source>
-        <translation>Die ersten %1 von %2 Zeichen; eine Kopie enthält alle.</translation>
-    </message>
-    <message>
         <source>C&amp;opy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Characters %1 to %2 of %3; search and copy have all of them.</source>
+        <extracomment>%1 and %2 are the first and the last character shown, %3 is the number of all</extracomment>
+        <translation>Zeichen %1 bis %2 von %3; Suche und Kopie umfassen alle.</translation>
     </message>
 </context>
 <context>
@@ -187,6 +192,13 @@
     <message>
         <source>No difference</source>
         <translation>Kein Unterschied</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more character(s)</source>
+        <translation>
+            <numerusform>noch %n Zeichen</numerusform>
+            <numerusform>noch %n Zeichen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -261,6 +273,34 @@
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FindBar</name>
+    <message>
+        <source>Previous match (Shift+F3)</source>
+        <translation>Voriger Treffer (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next match (F3)</source>
+        <translation>Nächster Treffer (F3)</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>Im Text suchen</translation>
+    </message>
+    <message>
+        <source>Find (Ctrl+F)</source>
+        <translation>Suchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <extracomment>%1 is the number of the current match, %2 that of all</extracomment>
+        <translation>Kein Treffer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
@@ -642,6 +682,10 @@
         <source>Elements: %1</source>
         <translation>Elemente: %1</translation>
     </message>
+    <message>
+        <source>not in the reply</source>
+        <translation>nicht in der Antwort</translation>
+    </message>
 </context>
 <context>
     <name>explorer::RecordTable</name>
@@ -687,6 +731,37 @@
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordTree</name>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Filter the record</source>
+        <translation>Datensatz filtern</translation>
+    </message>
+    <message>
+        <source>Filter by name or value (Ctrl+F)</source>
+        <translation>Nach Name oder Wert filtern (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;JSON, with all inside</source>
+        <translation>Als &amp;JSON kopieren, mit allem darin</translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation>Treffer: %1</translation>
     </message>
 </context>
 <context>
@@ -808,10 +883,6 @@
     <message>
         <source>No data came for a record.</source>
         <translation>Es kamen keine Daten für einen Datensatz.</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>Datensatz</translation>
     </message>
     <message>
         <source>Nothing was sent.</source>

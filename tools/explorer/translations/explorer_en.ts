@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>explorer::CompareDialog</name>
+    <message numerus="yes">
+        <source>%n more character(s)</source>
+        <translation>
+            <numerusform>%n more character</numerusform>
+            <numerusform>%n more characters</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>explorer::RunBar</name>
     <message numerus="yes">
         <source>%n call(s) waiting for the server</source>

@@ -126,12 +126,17 @@
 <context>
     <name>explorer::CodeView</name>
     <message>
-        <source>The first %1 of %2 characters; a copy has them all.</source>
-        <translation>显示前 %1 个字符，共 %2 个；复制时包含全部。</translation>
-    </message>
-    <message>
         <source>C&amp;opy</source>
         <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>显示全部</translation>
+    </message>
+    <message>
+        <source>Characters %1 to %2 of %3; search and copy have all of them.</source>
+        <extracomment>%1 and %2 are the first and the last character shown, %3 is the number of all</extracomment>
+        <translation>第 %1 至 %2 个字符，共 %3 个；搜索和复制涵盖全部。</translation>
     </message>
 </context>
 <context>
@@ -186,6 +191,12 @@
     <message>
         <source>No difference</source>
         <translation>无差异</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more character(s)</source>
+        <translation>
+            <numerusform>还有 %n 个字符</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -260,6 +271,34 @@
     <message>
         <source>Clear</source>
         <translation>清空</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FindBar</name>
+    <message>
+        <source>Previous match (Shift+F3)</source>
+        <translation>上一个匹配 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Next match (F3)</source>
+        <translation>下一个匹配 (F3)</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>在文本中查找</translation>
+    </message>
+    <message>
+        <source>Find (Ctrl+F)</source>
+        <translation>查找 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <extracomment>%1 is the number of the current match, %2 that of all</extracomment>
+        <translation>无匹配</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -641,6 +680,10 @@
         <source>Elements: %1</source>
         <translation>元素：%1</translation>
     </message>
+    <message>
+        <source>not in the reply</source>
+        <translation>应答中没有</translation>
+    </message>
 </context>
 <context>
     <name>explorer::RecordTable</name>
@@ -686,6 +729,37 @@
     <message>
         <source>Value</source>
         <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::RecordTree</name>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Filter the record</source>
+        <translation>筛选记录</translation>
+    </message>
+    <message>
+        <source>Filter by name or value (Ctrl+F)</source>
+        <translation>按名称或值筛选 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;value</source>
+        <translation>复制值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;JSON, with all inside</source>
+        <translation>复制为 JSON，含全部内容(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation>匹配：%1</translation>
     </message>
 </context>
 <context>
@@ -807,10 +881,6 @@
     <message>
         <source>No data came for a record.</source>
         <translation>没有收到用于记录的数据。</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>记录</translation>
     </message>
     <message>
         <source>Nothing was sent.</source>

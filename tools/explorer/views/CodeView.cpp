@@ -1,5 +1,6 @@
 #include "CodeView.h"
 
+#include "FindBar.h"
 #include "JsonHighlighter.h"
 #include "Theme.h"
 #include "TintedLabel.h"
@@ -7,6 +8,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -20,7 +23,7 @@ constexpr int kLongestShown = 200000;
 
 CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
     : QWidget(pParent), m_pEdit(new QPlainTextEdit), m_pShortened(new TintedLabel(theme::Hint)),
-      m_pCopy(new QPushButton(tr("C&opy")))
+      m_pAll(new QPushButton(tr("Show all"))), m_pFind(new FindBar), m_pCopy(new QPushButton(tr("C&opy")))
 {
     m_pEdit->setReadOnly(true);
     m_pEdit->setPlaceholderText(hint);
@@ -28,32 +31,88 @@ CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
     m_pEdit->setLineWrapMode(kind == Kind::Text ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
     m_pEdit->setTabChangesFocus(true);
     m_pEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_pShortened->setObjectName(QStringLiteral("shortened"));
+    m_pAll->setObjectName(QStringLiteral("showAll"));
+    m_pAll->setAutoDefault(false);
+    m_pCopy->setObjectName(QStringLiteral("copyText"));
     m_pCopy->setAutoDefault(false);
-    m_pCopy->setEnabled(false);
-    m_pShortened->hide();
     if (kind == Kind::Json) {
         new JsonHighlighter(*m_pEdit);
     }
 
+    auto* pPart = new QHBoxLayout;
+    pPart->addWidget(m_pShortened, 1);
+    pPart->addWidget(m_pAll);
     auto* pFooter = new QHBoxLayout;
-    pFooter->addWidget(m_pShortened, 1);
-    pFooter->addStretch();
+    pFooter->addWidget(m_pFind, 1);
     pFooter->addWidget(m_pCopy);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(m_pEdit, 1);
+    pLayout->addLayout(pPart);
     pLayout->addLayout(pFooter);
 
     connect(m_pCopy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(m_text); });
+    connect(m_pAll, &QPushButton::clicked, this, [this] { ShowPart(0, m_text.size()); });
+    connect(m_pFind, &FindBar::Found, this, &CodeView::ShowMatch);
+    SetText(QString());
 }
 
 void CodeView::SetText(const QString& text)
 {
     m_text = text;
-    m_pEdit->setPlainText(text.left(kLongestShown));
-    m_pShortened->setText(
-        tr("The first %1 of %2 characters; a copy has them all.").arg(kLongestShown).arg(text.size()));
-    m_pShortened->setVisible(text.size() > kLongestShown);
+    ShowPart(0, kLongestShown);
+    m_pFind->SetText(text);
+    m_pFind->setEnabled(!text.isEmpty());
     m_pCopy->setEnabled(!text.isEmpty());
+}
+
+void CodeView::ShowPart(int from, int length)
+{
+    m_from = from;
+    const QString part = m_text.mid(from, length);
+    m_length = part.size();
+    m_pEdit->setPlainText(part);
+    const bool isShortened = m_length < m_text.size();
+    const QLocale locale;
+    //: %1 and %2 are the first and the last character shown, %3 is the number of all
+    m_pShortened->setText(
+        tr("Characters %1 to %2 of %3; search and copy have all of them.")
+            .arg(locale.toString(m_from + 1), locale.toString(m_from + m_length), locale.toString(m_text.size())));
+    m_pShortened->setVisible(isShortened);
+    m_pAll->setVisible(isShortened);
+}
+
+void CodeView::ShowMatch(int position, int length)
+{
+    if (position < m_from || position + length > m_from + m_length) {
+        ShowPart(qMax(0, position - kLongestShown / 2), kLongestShown);
+    }
+    // The document has one character for the two that end a line on the wire.
+    const QString before = m_text.mid(m_from, position - m_from);
+    const QString match = m_text.mid(position, length);
+    const int start = before.size() - before.count(QLatin1String("\r\n"));
+    QTextCursor cursor = m_pEdit->textCursor();
+    cursor.setPosition(start);
+    cursor.setPosition(start + length - match.count(QLatin1String("\r\n")), QTextCursor::KeepAnchor);
+    m_pEdit->setTextCursor(cursor);
+    m_pEdit->centerCursor();
+}
+
+/// Here the keys of the window that find a call find a text.
+bool CodeView::event(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::ShortcutOverride && FindBar::IsFindKey(*static_cast<QKeyEvent*>(pEvent))) {
+        pEvent->accept();
+        return true;
+    }
+    return QWidget::event(pEvent);
+}
+
+void CodeView::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (!m_pFind->Press(*pEvent)) {
+        QWidget::keyPressEvent(pEvent);
+    }
 }
 
 }  // namespace explorer

@@ -8,7 +8,10 @@ class QPushButton;
 
 namespace explorer {
 
-/// A text to read and to copy. A very long one is shown in part; the copy is whole.
+class FindBar;
+
+/// A text to read, to search and to copy. Of a very long one a part is shown at first; the search and the copy have all
+/// of it.
 class CodeView : public QWidget {
     Q_OBJECT
 
@@ -25,10 +28,21 @@ public:
     void SetText(const QString& text);
     [[nodiscard]] QString Text() const { return m_text; }
 
+protected:
+    bool event(QEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+
 private:
+    void ShowPart(int from, int length);
+    void ShowMatch(int position, int length);
+
     QString m_text;
+    int m_from = 0;  // of the part that is shown
+    int m_length = 0;
     QPlainTextEdit* m_pEdit;
     QLabel* m_pShortened;
+    QPushButton* m_pAll;
+    FindBar* m_pFind;
     QPushButton* m_pCopy;
 };
 

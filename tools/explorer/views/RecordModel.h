@@ -2,6 +2,7 @@
 
 #include "Json.h"
 
+#include <catalogue/Brought.h>
 #include <catalogue/Type.h>
 
 #include <QAbstractItemModel>
@@ -10,7 +11,7 @@
 
 namespace explorer {
 
-/// A record as a tree: the name, the value and the type of each field.
+/// A record as a tree: the name, the value and the type of each field. Its nodes are made when they are asked for.
 class RecordModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -26,12 +27,25 @@ public:
     ~RecordModel() override;
 
     /// @p record fits the type.
-    void SetRecord(const catalogue::Type& type, const SharedRecord& pRecord);
+    void SetRecord(const catalogue::Type& type, const SharedRecord& pRecord,
+                   const catalogue::MissingFields& missing = {});
     void Clear();
+
+    /// Shows what contains the text in its name or its value, in upper or lower case, with all that is around and in
+    /// it.
+    void Filter(const QString& text);
+    /// How many names and values contain the text of the filter.
+    [[nodiscard]] int Matches() const { return m_matches; }
+
+    /// The value of a node; null for an invalid index.
+    [[nodiscard]] const nlohmann::json* Value(const QModelIndex& index) const;
+    /// The place of a node in the record, a JSON pointer.
+    [[nodiscard]] QString Path(const QModelIndex& index) const;
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] bool hasChildren(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
@@ -40,9 +54,23 @@ public:
 private:
     struct Node;
 
+    void Reset();
     [[nodiscard]] const Node& NodeOf(const QModelIndex& index) const;
+    /// The node with its children.
+    [[nodiscard]] const Node& Opened(const QModelIndex& index) const;
+    [[nodiscard]] bool IsMissing(const Node& node) const;
+    [[nodiscard]] bool Contains(const QString& name, const catalogue::Type& type, const nlohmann::json& value) const;
+    /// Whether it, or anything in it, contains the text of the filter.
+    [[nodiscard]] bool ContainsInside(const QString& name, const catalogue::Type& type,
+                                      const nlohmann::json& value) const;
+    [[nodiscard]] int Count(const QString& name, const catalogue::Type& type, const nlohmann::json& value) const;
+    [[nodiscard]] QVariant ValueData(const Node& node, int role) const;
 
+    const catalogue::Type* m_pType = nullptr;
     SharedRecord m_pRecord;
+    catalogue::MissingFields m_missing;
+    QString m_filter;
+    int m_matches = 0;
     std::unique_ptr<Node> m_pRoot;  // above the record itself
 };
 

@@ -3,15 +3,13 @@
 #include "CodeView.h"
 #include "Json.h"
 #include "RecordTable.h"
-#include "RoomyDelegate.h"
+#include "RecordTree.h"
 #include "TintedLabel.h"
 
 #include <explorer/CallOutcome.h>
 
-#include <QHeaderView>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -46,45 +44,24 @@ QString ExchangeText(const RunSummary& outcome)
     return text;
 }
 
-/// Opens all that fits on a screen or two; of a record with a longer text, its first level.
-void Open(QTreeView& tree, int textLength)
+/// Fields of the record that its reply did not bring.
+catalogue::MissingFields MissingIn(const CallOutcome& outcome)
 {
-    constexpr int kLongest = 8000;
-    if (textLength < kLongest) {
-        tree.expandAll();
-    } else {
-        tree.expandToDepth(0);
+    if (!outcome.reply) {
+        return {};
     }
-    for (const int column : {RecordModel::NameColumn, RecordModel::TypeColumn}) {
-        constexpr int kWidest = 260;
-        constexpr int kRoom = 8;
-        tree.resizeColumnToContents(column);
-        tree.setColumnWidth(column, qMin(tree.columnWidth(column) + kRoom, kWidest));
-    }
+    const QByteArray& body = outcome.reply->body;
+    return FieldsNotBrought(*outcome.call, {body.constData(), std::size_t(body.size())}, outcome.record,
+                            outcome.succeeded);
 }
 
 }  // namespace
 
 ResultView::ResultView(QWidget* pParent)
-    : QWidget(pParent), m_pTree(new QTreeView), m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))),
+    : QWidget(pParent), m_pTree(new RecordTree), m_pJson(new CodeView(CodeView::Kind::Json, tr("There is no record."))),
       m_pTable(new RecordTable), m_pExchange(new CodeView(CodeView::Kind::Text, tr("No request was made."))),
       m_pTreeHint(MakeHint()), m_pTableHint(MakeHint()), m_pTabs(new QTabWidget)
 {
-    m_pTree->setModel(&m_model);
-    m_pTree->setAlternatingRowColors(true);
-    m_pTree->setUniformRowHeights(true);
-    m_pTree->setAllColumnsShowFocus(true);
-    m_pTree->setTextElideMode(Qt::ElideRight);
-    m_pTree->setFrameShape(QFrame::NoFrame);
-    m_pTree->setObjectName(QStringLiteral("record"));
-    m_pTree->setAccessibleName(tr("Record"));
-    m_pTree->setItemDelegate(new RoomyDelegate(m_pTree));
-    constexpr int kIndentation = 14;
-    m_pTree->setIndentation(kIndentation);
-    // The values have all that names and types leave.
-    m_pTree->header()->setStretchLastSection(false);
-    m_pTree->header()->setSectionResizeMode(RecordModel::ValueColumn, QHeaderView::Stretch);
-
     m_pTreePages = AddTab(m_pTree, m_pTreeHint, tr("&Record"));
     m_pTabs->addTab(m_pJson, tr("&JSON"));
     m_pTablePages = AddTab(m_pTable, m_pTableHint, tr("&Table"));
@@ -104,7 +81,8 @@ void ResultView::Show(CallOutcome outcome)
     } else if (outcome.record.is_null()) {
         ShowNoRecord(tr("No data came for a record."));
     } else {
-        ShowRecord(*outcome.call->result, std::make_shared<const nlohmann::json>(std::move(outcome.record)));
+        const catalogue::MissingFields missing = MissingIn(outcome);
+        ShowRecord(*outcome.call->result, std::make_shared<const nlohmann::json>(std::move(outcome.record)), missing);
     }
     m_pExchange->SetText(ExchangeText(outcome));
 }
@@ -117,7 +95,7 @@ void ResultView::Clear()
 
 void ResultView::ShowWaiting(const catalogue::Call& call)
 {
-    m_model.Clear();
+    m_pTree->Clear();
     m_pJson->SetText(QString());
     m_pExchange->SetText(QString());
     if (call.result != nullptr) {
@@ -126,12 +104,12 @@ void ResultView::ShowWaiting(const catalogue::Call& call)
     }
 }
 
-void ResultView::ShowRecord(const catalogue::Type& type, const SharedRecord& pRecord)
+void ResultView::ShowRecord(const catalogue::Type& type, const SharedRecord& pRecord,
+                            const catalogue::MissingFields& missing)
 {
-    m_model.SetRecord(type, pRecord);
     const QString text = JsonText(*pRecord);
     m_pJson->SetText(text);
-    Open(*m_pTree, text.size());
+    m_pTree->SetRecord(type, pRecord, missing, text.size());
     m_pTreePages->setCurrentIndex(0);
     const bool hasList = m_pTable->SetRecord(type, pRecord);
     m_pTableHint->setText(tr("There is no list in this record."));
@@ -140,7 +118,7 @@ void ResultView::ShowRecord(const catalogue::Type& type, const SharedRecord& pRe
 
 void ResultView::ShowNoRecord(const QString& hint)
 {
-    m_model.Clear();
+    m_pTree->Clear();
     m_pJson->SetText(QString());
     for (QLabel* pHint : {m_pTreeHint, m_pTableHint}) {
         pHint->setText(hint);

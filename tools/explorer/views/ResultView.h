@@ -1,13 +1,14 @@
 #pragma once
 
-#include "RecordModel.h"
+#include "Json.h"
+
+#include <catalogue/Brought.h>
 
 #include <QWidget>
 
 class QLabel;
 class QStackedWidget;
 class QTabWidget;
-class QTreeView;
 
 namespace catalogue {
 struct Call;
@@ -18,6 +19,7 @@ namespace explorer {
 struct CallOutcome;
 class CodeView;
 class RecordTable;
+class RecordTree;
 
 /// What came back from a call: the record as a tree, as JSON and as a table, and the exchange as it went.
 class ResultView : public QWidget {
@@ -32,12 +34,11 @@ public:
     void ShowWaiting(const catalogue::Call& call);
 
 private:
-    void ShowRecord(const catalogue::Type& type, const SharedRecord& pRecord);
+    void ShowRecord(const catalogue::Type& type, const SharedRecord& pRecord, const catalogue::MissingFields& missing);
     void ShowNoRecord(const QString& hint);
     QStackedWidget* AddTab(QWidget* pContent, QLabel* pHint, const QString& title);
 
-    RecordModel m_model;
-    QTreeView* m_pTree;
+    RecordTree* m_pTree;
     CodeView* m_pJson;
     RecordTable* m_pTable;
     CodeView* m_pExchange;

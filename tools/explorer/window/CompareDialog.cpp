@@ -48,6 +48,16 @@ json ReplyOf(const CallOutcome& run)
                      : json(run.connectionError.toStdString());
 }
 
+/// A long text in part, with what is missing.
+QString Tip(const QString& text)
+{
+    constexpr int kLongest = 2000;
+    const int more = text.size() - kLongest;
+    return more <= 0
+               ? text
+               : text.left(kLongest) + QLatin1Char('\n') + CompareDialog::tr("%n more character(s)", nullptr, more);
+}
+
 QString TitleOf(const CallOutcome& run)
 {
     return QStringLiteral("%1 %2").arg(QString::fromStdString(run.call->name),
@@ -89,8 +99,7 @@ void CompareDialog::Add(const QString& title, const json& left, const json& righ
     for (const Difference& difference : differences) {
         auto* const pItem = new QTreeWidgetItem(pPart, {difference.path, difference.left, difference.right});
         for (int column = 0; column < m_pTree->columnCount(); ++column) {
-            constexpr int kLongestTip = 2000;
-            pItem->setToolTip(column, pItem->text(column).left(kLongestTip));
+            pItem->setToolTip(column, Tip(pItem->text(column)));
         }
     }
     if (differences.empty()) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Call.h"
+
+#include <nlohmann/json_fwd.hpp>
+
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace catalogue {
+
+/// Fields of a record that have the values of a fresh one because the reply did not bring them. A field is a path in
+/// the type: "/info/channelId", and with a "-" in the place of every index, "/-/channelId".
+using MissingFields = std::set<std::string>;
+
+/// @param body of the reply that the record was read from
+/// @param record as far as the Parse read it
+/// @param complete whether the Parse read it to the end
+MissingFields FieldsNotBrought(const Call& call, std::string_view body, const nlohmann::json& record, bool complete);
+
+}  // namespace catalogue
