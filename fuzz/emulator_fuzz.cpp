@@ -176,9 +176,9 @@ bool ReadOn(RequestReader& reader, Reading& reading)
         switch (reader.read()) {
         case RequestReader::Progress::NeedsMore:
             return true;
-        case RequestReader::Progress::NeedsGoAhead:
+        case RequestReader::Progress::ExpectsContinue:
             break;
-        case RequestReader::Progress::Whole:
+        case RequestReader::Progress::Complete:
             reading.requests.push_back(reader.request());
             reader.next();
             break;

@@ -244,14 +244,14 @@ TEST_P(ListenTest, SaysWhyAnAddressCannotBeListenedOn)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Addresses, ListenTest,
-    testing::Values(
-        NoPort{"OfNobodyHere", "192.0.2.1", "cannot listen on 192.0.2.1:0: this machine does not have the address"},
-        NoPort{"OfNobodyHereIpv6", "2001:db8::1",
-               "cannot listen on [2001:db8::1]:0: this machine does not have the address"},
-        NoPort{"Unknown", "no.such.host.invalid", "cannot listen on no.such.host.invalid:0: the address is unknown"}),
-    RowName());
+INSTANTIATE_TEST_SUITE_P(Addresses, ListenTest,
+                         testing::Values(NoPort{"OfNobodyHere", "192.0.2.1",
+                                                "cannot listen on 192.0.2.1:0: this machine has no such address"},
+                                         NoPort{"OfNobodyHereIpv6", "2001:db8::1",
+                                                "cannot listen on [2001:db8::1]:0: this machine has no such address"},
+                                         NoPort{"Unknown", "no.such.host.invalid",
+                                                "cannot listen on no.such.host.invalid:0: unknown address"}),
+                         RowName());
 
 TEST(PortTest, SaysThatAPortIsTaken)
 {
@@ -266,7 +266,7 @@ TEST(PortTest, SaysThatAPortIsTaken)
             FAIL() << "two listen on " << first.httpPort();
         } catch (const std::runtime_error& error) {
             EXPECT_EQ(std::string(error.what()),
-                      "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is taken");
+                      "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is in use");
         }
     }
 }
@@ -280,7 +280,7 @@ TEST(PortTest, SaysThatThePermissionIsMissing)
         platform.start();
         GTEST_SKIP() << "this user may listen on any port";
     } catch (const std::runtime_error& error) {
-        EXPECT_EQ(std::string(error.what()), "cannot listen on 127.0.0.1:1: no permission for the port");
+        EXPECT_EQ(std::string(error.what()), "cannot listen on 127.0.0.1:1: permission denied");
     }
 }
 

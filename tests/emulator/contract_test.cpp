@@ -105,19 +105,20 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         RefusedContract{"NotYaml", "a: [", "", "a.yaml"},
         RefusedContract{"NoOperation", "paths: {}", "", "no operation"},
-        RefusedContract{"KeyTwice", "paths: {}\npaths: {}", "", "key 'paths' is there twice"},
+        RefusedContract{"KeyTwice", "paths: {}\npaths: {}", "", "duplicate key 'paths'"},
         RefusedContract{"UnknownKeyword", FileWith("{type: string, nullable: true}"), "", "nullable"},
         RefusedContract{"KeywordOf2020", FileWith("{type: array, prefixItems: []}"), "", "prefixItems"},
         RefusedContract{"KeywordOfDraft7", FileWith("{type: array, additionalItems: false}"), "", "additionalItems"},
         RefusedContract{"KeywordDeepInside", FileWith("{type: array, items: {oneOf: [{$id: x}]}}"), "", "$id"},
         RefusedContract{"ItemsAsList", FileWith("{type: array, items: [{type: string}]}"), "", "items"},
         RefusedContract{"ReferenceWithSibling", FileWith("{$ref: '#/components/schemas/Text', title: x}"), "",
-                        "stands alone"},
-        RefusedContract{"ReferenceToNowhere", FileWith("{$ref: '#/components/schemas/Missing'}"), "", "leads nowhere"},
+                        "must be a string and the only key"},
+        RefusedContract{"ReferenceToNowhere", FileWith("{$ref: '#/components/schemas/Missing'}"), "",
+                        "the target of '#/components/schemas/Missing' does not exist"},
         RefusedContract{"ReferenceToNoFile", FileWith("{$ref: 'c.yaml#/components/schemas/Text'}"), "",
-                        "names no file"},
-        RefusedContract{"ReferenceToItself", FileWith("{$ref: '#/components/schemas/Loop'}"), "", "back to itself"},
-        RefusedContract{"OperationTwice", FileWith("{}"), FileWith("{}", "T.Get", "/other"), "is told twice"},
+                        "does not refer to a file of the contract"},
+        RefusedContract{"ReferenceToItself", FileWith("{$ref: '#/components/schemas/Loop'}"), "", "circular reference"},
+        RefusedContract{"OperationTwice", FileWith("{}"), FileWith("{}", "T.Get", "/other"), "is defined twice"},
         RefusedContract{"NoSuccess",
                         "paths: {/t: {get: {operationId: T, responses: {'200': {content: "
                         "{application/json: {schema: {oneOf: [{type: object}]}}}}}}}}",
@@ -334,7 +335,7 @@ TEST(SeedTest, CopiesFitEachOther)
 
 TEST(SeedTest, ListsAreTheSameInWhateverOrderTheyAreAskedFor)
 {
-    const emulator::Place device("/inventory/devices/20/deviceCode");
+    const emulator::StatePath device("/inventory/devices/20/deviceCode");
     emulator::State state(emulator::LoadSeeds(emulator::Options().seed), 3);
     EXPECT_EQ(state.at("/brms/users").size(), 24U);
     EXPECT_EQ(state.at(device), "1000003-2");

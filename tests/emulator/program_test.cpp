@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"ContractMissing", {"--contract", "/nowhere"}, "/nowhere"},
                     BadOption{"ContractEmpty", {"--contract", "/proc/self/task"}, "no operation"},
                     BadOption{"SeedMissing", {"--seed", "/nowhere"}, "/nowhere"},
-                    BadOption{"SeedEmpty", {"--seed", "/proc/self/task"}, "no seed file"},
+                    BadOption{"SeedEmpty", {"--seed", "/proc/self/task"}, "contains no seed file"},
                     BadOption{"AddressNotOurs", {"--address", "192.0.2.1"}, "cannot listen on 192.0.2.1"}),
     testing_support::RowName());
 
@@ -139,7 +139,7 @@ TEST(ProgramTest, SecondOneOnTheSamePortIsRefused)
     const std::string port = std::to_string(first.Port("http"));
     Program second({"--http-port", port});
     EXPECT_EQ(second.ExitStatus(), 2);
-    EXPECT_NE(second.Output().find("cannot listen on 127.0.0.1:" + port + ": the port is taken"), std::string::npos)
+    EXPECT_NE(second.Output().find("cannot listen on 127.0.0.1:" + port + ": the port is in use"), std::string::npos)
         << second.Output();
     first.Signal(SIGINT);
     EXPECT_EQ(first.ExitStatus(), 0);

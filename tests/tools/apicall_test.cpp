@@ -91,17 +91,18 @@ UsageRow Url(const char* name, const char* url, const char* text)
 INSTANTIATE_TEST_SUITE_P(
     CommandLine, WrongUsage,
     testing::Values(
-        UsageRow{"Nothing", {}, "no call is named; apicall --help"},
+        UsageRow{"Nothing", {}, "no call given; run 'apicall --help' for usage"},
         UsageRow{"UnknownOption", Words({"--serve", "http://127.0.0.1:1"}), "--serve"},
-        UsageRow{"UnknownCall", Words({"BRMS.GetNothing"}), "there is no call \"BRMS.GetNothing\"; apicall --list"},
+        UsageRow{"UnknownCall", Words({"BRMS.GetNothing"}),
+                 "unknown call \"BRMS.GetNothing\"; run 'apicall --list' for all calls"},
         UsageRow{"MisspeltCall", Words({"brms.GetTimeSynkConfig"}),
-                 "there is no call \"brms.GetTimeSynkConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
+                 "unknown call \"brms.GetTimeSynkConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
         UsageRow{"CallWithoutItsFamily", Words({"--help", "GetTimeSyncConfig"}),
-                 "there is no call \"GetTimeSyncConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
+                 "unknown call \"GetTimeSyncConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
         UsageRow{"MergeOfARead", Words({"--merge", "BRMS.GetTimeSyncConfig"}),
-                 "--merge: no call reads what BRMS.GetTimeSyncConfig writes"},
+                 "--merge: BRMS.GetTimeSyncConfig has no matching read call"},
         UsageRow{"MergeWithoutWhatTheReadNeeds", Words({"--merge", "BRMS.UpdateNetworkConfig"}),
-                 "BRMS.GetNetworkConfig, which is read first, needs \"config/deviceCode\" of BRMS.UpdateNetworkConfig"},
+                 "BRMS.GetNetworkConfig, which runs first, requires \"config/deviceCode\" of BRMS.UpdateNetworkConfig"},
         UsageRow{"NoServer", Words({"BRMS.GetTimeSyncConfig"}), "--server is missing"},
         UsageRow{"ServerIdOutOfRange", Words({"--server-id", "2", "BRMS.GetTimeSyncConfig"}), "--server-id"},
         UsageRow{"TimeoutOutOfRange", Words({"--timeout", "0", "BRMS.GetTimeSyncConfig"}), "--timeout"},
@@ -109,15 +110,15 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(Servers, WrongUsage,
-                         testing::Values(Url("NoUrl", "http://[", "this is no URL"),
-                                         Url("NoScheme", "127.0.0.1:8443", "this is no URL"),
+                         testing::Values(Url("NoUrl", "http://[", "not a valid URL"),
+                                         Url("NoScheme", "127.0.0.1:8443", "not a valid URL"),
                                          Url("HostOnly", "localhost", "must begin with https:// or http://"),
                                          Url("OtherScheme", "ftp://127.0.0.1", "must begin with https:// or http://"),
-                                         Url("NoHost", "https://", "it names no host"),
+                                         Url("NoHost", "https://", "host is missing"),
                                          Url("Path", "https://127.0.0.1/brms", "only a host and a port"),
                                          Url("Query", "https://127.0.0.1?a=1", "only a host and a port"),
                                          Url("User", "https://ada@127.0.0.1", "only a host and a port"),
-                                         Url("PortTooLarge", "https://127.0.0.1:65536", "this is no URL")),
+                                         Url("PortTooLarge", "https://127.0.0.1:65536", "not a valid URL")),
                          RowName());
 
 UsageRow Trusting(const char* name, const char* option, const char* value, const char* text,
@@ -137,10 +138,10 @@ INSTANTIATE_TEST_SUITE_P(
                  "a SHA-256 digest"),
         Trusting("PinThatIsTooLong", "--pin", "0000112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
                  "a SHA-256 digest"),
-        Trusting("PinWithoutTls", "--pin", kDigest, "--pin and --ca need a server with https://", "http://127.0.0.1:1"),
+        Trusting("PinWithoutTls", "--pin", kDigest, "--pin and --ca require an https:// server", "http://127.0.0.1:1"),
         Trusting("NoSuchAuthorityFile", "--ca", "/no/such/file", "--ca /no/such/file: the file cannot be"),
         Trusting("FolderOfAuthorities", "--ca", "/", "--ca /: the file cannot be read"),
-        Trusting("EmptyAuthorityFile", "--ca", "/dev/null", "--ca /dev/null: the file holds no certificate"),
+        Trusting("EmptyAuthorityFile", "--ca", "/dev/null", "--ca /dev/null: the file contains no PEM certificate"),
         UsageRow{"PinWithoutValue", Words({"BRMS.GetTimeSyncConfig", "--pin"}), "--pin"}),
     RowName());
 
@@ -148,38 +149,39 @@ INSTANTIATE_TEST_SUITE_P(
     Arguments, WrongUsage,
     testing::Values(
         UsageRow{"Unknown", Words({"BRMS.GetTimeSyncConfig", "a=1"}),
-                 "BRMS.GetTimeSyncConfig has no argument \"a\": it takes none"},
+                 "BRMS.GetTimeSyncConfig has no argument \"a\"; it takes no arguments"},
         UsageRow{"Misspelt", Words({"BRMS.GetLocalSetting", "settingTyp=3"}),
                  "BRMS.GetLocalSetting has no argument \"settingTyp\"; did you mean \"settingType\"?"},
         UsageRow{"UnknownPlace", Words({"BRMS.SetTimeSyncConfig", "config/ntp=1"}),
-                 "/config/ntp: TimeSyncConfig has no such place"},
+                 "/config/ntp: no such field or element in TimeSyncConfig"},
         UsageRow{"RecordAndItsField", Words({"BRMS.SetTimeSyncConfig", "config=5", "config/interval=3"}),
                  "\"config/interval\" is given twice"},
         UsageRow{"FieldAndItsRecord", Words({"BRMS.SetTimeSyncConfig", "config/interval=3", "config={}"}),
                  "\"config\" is given twice"},
         UsageRow{"PaddedIndex", Words({"BRMS.UpdateEncodeConfig", "configs/00/bitRate=1"}),
-                 "/configs/00: list of EncodeConfig has no such place"},
+                 "/configs/00: no such field or element in list of EncodeConfig"},
         UsageRow{"MergeOfAList", Words({"--merge", "BRMS.SetTimeSyncConfig", "@" LIST_FILE}),
-                 "must be a JSON object that holds each under its name"},
+                 "must be a JSON object with the argument names as keys"},
         UsageRow{"NameAsIndex", Words({"BRMS.UpdateEncodeConfig", "configs/first/bitRate=1"}),
-                 "/configs/first: list of EncodeConfig has no such place"},
+                 "/configs/first: no such field or element in list of EncodeConfig"},
         UsageRow{"Missing", Words({"BRMS.UpdateLocalSetting", "apply=true"}),
-                 "BRMS.UpdateLocalSetting needs the argument \"content\" (text)"},
+                 "BRMS.UpdateLocalSetting requires the argument \"content\" (text)"},
         UsageRow{"NoName", Words({"BRMS.GetLocalSetting", "3"}), "\"3\" is neither name=value nor a JSON object"},
         UsageRow{"Twice", Words({"BRMS.GetLocalSetting", "settingType=3", "settingType=4"}),
                  "\"settingType\" is given twice"},
         UsageRow{"WrongType", Words({"BRMS.GetLocalSetting", "settingType=\"3\""}),
                  "/settingType: expected int, got text"},
         UsageRow{"NoJson", Words({"BRMS.GetLocalSetting", "settingType=three"}),
-                 "argument \"settingType\" (int) is not JSON: it cannot be read from byte 2 on"},
+                 "argument \"settingType\" (int) is not valid JSON: syntax error at byte 2"},
         UsageRow{"Empty", Words({"BRMS.GetLocalSetting", "settingType="}),
-                 "argument \"settingType\" (int) is not JSON"},
+                 "argument \"settingType\" (int) is not valid JSON"},
         UsageRow{"UnknownField", Words({"BRMS.SetTimeSyncConfig", "config={\"ntp\": 1}"}),
                  "/config/ntp: TimeSyncConfig has no such field"},
-        UsageRow{"BrokenObject", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3"}), "the argument is not JSON"},
+        UsageRow{"BrokenObject", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3"}),
+                 "the argument is not valid JSON"},
         UsageRow{"ObjectAndMore", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3}", "settingType=3"}),
-                 "nothing may follow the JSON object"},
-        UsageRow{"ListOnStandardInput", Words({"BRMS.GetLocalSetting", "-"}), "standard input is not JSON"},
+                 "a JSON object must be the only argument"},
+        UsageRow{"ListOnStandardInput", Words({"BRMS.GetLocalSetting", "-"}), "standard input is not valid JSON"},
         UsageRow{"NoSuchFile", Words({"BRMS.GetLocalSetting", "@/no/such/file"}), "cannot open /no/such/file"},
         UsageRow{"FolderAsFile", Words({"BRMS.GetLocalSetting", "@/"}), "cannot read /"}),
     RowName());
@@ -217,7 +219,7 @@ TEST(Help, TheListBeginsEachLineWithTheNameOfACall)
 TEST(Help, ACallIsToldWithItsTypes)
 {
     const std::string help = R"(BRMS.GetLocalSetting (System configuration)
-Reads one of the client's settings
+Reads one client setting
 
 Returns what the server keeps for the client under one setting type.
 
@@ -500,7 +502,7 @@ TEST_P(Calls, HttpsToAPortOfPlainHttpIsNamed)
                                 Words({"--token", kToken, "--quiet"}) + GetTimeSync());
     EXPECT_EQ(ended.status, GetParam().https ? 0 : 1);
     const std::string lines = "apicall: BRMS.GetTimeSyncConfig failed with -18: " + ErrorText(-18) +
-                              "\napicall: the server speaks no TLS on this port, which may be the one for http://\n";
+                              "\napicall: the server does not use TLS on this port; is it the port for http://?\n";
     EXPECT_EQ(Contains(ended.err, lines), !GetParam().https) << ended.err;
 }
 
@@ -514,7 +516,7 @@ TEST_P(Calls, TheServersOwnTextIsQuotedWithoutToken)
 {
     Spoil({{"kind", "envelope"}, {"code", 1003}, {"desc", std::string("Not \x1b[31mnow, ") + kToken}});
     ExpectFailure(GetTimeSync(), 1003, ErrorText(1003) + R"(
-apicall: the server says "Not \u001b[31mnow, ******")");
+apicall: the server reports "Not \u001b[31mnow, ******")");
 }
 
 TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
@@ -538,7 +540,7 @@ TEST_P(Calls, AStatusFailsWithItsText)
 TEST_P(Calls, DataThatCannotBeReadFails)
 {
     Spoil({{"kind", "text"}, {"body", R"({"code": 1000, "desc": "", "data": {"enable": true}})"}});
-    ExpectFailure(GetTimeSync(), 3101, ErrorText(3101) + "\napicall: the reply holds no readable \"startTime\"");
+    ExpectFailure(GetTimeSync(), 3101, ErrorText(3101) + "\napicall: the reply has no valid value for \"startTime\"");
 }
 
 TEST_P(Calls, QuietWritesLogLinesOnlyOfACallThatFails)

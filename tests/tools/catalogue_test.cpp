@@ -228,15 +228,14 @@ INSTANTIATE_TEST_SUITE_P(
         MismatchRow{"BoolFromText", R"({"electric": "true"})", "/bicycle/electric: expected bool, got text"},
         MismatchRow{"IntFromText", R"({"gears": "7"})", "/bicycle/gears: expected int, got text"},
         MismatchRow{"IntFromFraction", R"({"gears": 7.0})",
-                    "/bicycle/gears: expected int, got number that is no 64-bit integer"},
+                    "/bicycle/gears: expected int, got number that is not a 64-bit integer"},
         MismatchRow{"IntFromBool", R"({"gears": true})", "/bicycle/gears: expected int, got bool"},
-        MismatchRow{"IntTooLarge", R"({"gears": 2147483648})", "/bicycle/gears: 2147483648 is out of the range of int"},
-        MismatchRow{"IntTooSmall", R"({"gears": -2147483649})",
-                    "/bicycle/gears: -2147483649 is out of the range of int"},
+        MismatchRow{"IntTooLarge", R"({"gears": 2147483648})", "/bicycle/gears: 2147483648 is out of range for int"},
+        MismatchRow{"IntTooSmall", R"({"gears": -2147483649})", "/bicycle/gears: -2147483649 is out of range for int"},
         MismatchRow{"Int64TooLarge", R"({"serial": 9223372036854775808})",
-                    "/bicycle/serial: 9223372036854775808 is out of the range of int64"},
+                    "/bicycle/serial: 9223372036854775808 is out of range for int64"},
         MismatchRow{"Int64FarTooLarge", R"({"serial": 99999999999999999999})",
-                    "/bicycle/serial: expected int64, got number that is no 64-bit integer"},
+                    "/bicycle/serial: expected int64, got number that is not a 64-bit integer"},
         MismatchRow{"DoubleFromText", R"({"weight": "1.5"})", "/bicycle/weight: expected double, got text"},
         MismatchRow{"TextFromNumber", R"({"colour": 5})", "/bicycle/colour: expected text, got integer"},
         MismatchRow{"TextFromNull", R"({"colour": null})", "/bicycle/colour: expected text, got null"},
@@ -270,17 +269,17 @@ TEST_P(Arguments, AreRefusedWithAReason)
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, Arguments,
-    testing::Values(ArgumentRow{"NoObject", "[true]",
-                                "the arguments of TEST.TakeReferences must be a JSON object that holds each under its "
-                                "name"},
-                    ArgumentRow{"Unknown", R"({"flag": true, "colour": "red"})",
-                                "TEST.TakeReferences has no argument \"colour\": it takes flag, bicycle, number"},
-                    ArgumentRow{"Missing", R"({"flag": true, "number": 1})",
-                                "TEST.TakeReferences needs the argument \"bicycle\" (Bicycle)"},
-                    ArgumentRow{"WrongType", R"({"flag": 1, "bicycle": {}, "number": 1})",
-                                "/flag: expected bool, got integer"},
-                    ArgumentRow{"WrongTypeWithin", R"({"flag": true, "bicycle": {"gears": ""}, "number": 1})",
-                                "/bicycle/gears: expected int, got text"}),
+    testing::Values(
+        ArgumentRow{"NoObject", "[true]",
+                    "the arguments of TEST.TakeReferences must be a JSON object with the argument names as "
+                    "keys"},
+        ArgumentRow{"Unknown", R"({"flag": true, "colour": "red"})",
+                    "TEST.TakeReferences has no argument \"colour\"; its arguments are: flag, bicycle, number"},
+        ArgumentRow{"Missing", R"({"flag": true, "number": 1})",
+                    "TEST.TakeReferences requires the argument \"bicycle\" (Bicycle)"},
+        ArgumentRow{"WrongType", R"({"flag": 1, "bicycle": {}, "number": 1})", "/flag: expected bool, got integer"},
+        ArgumentRow{"WrongTypeWithin", R"({"flag": true, "bicycle": {"gears": ""}, "number": 1})",
+                    "/bicycle/gears: expected int, got text"}),
     RowName());
 
 TEST(Entries, AnUnknownArgumentOfACallWithoutAnyIsRefused)
@@ -289,7 +288,7 @@ TEST(Entries, AnUnknownArgumentOfACallWithoutAnyIsRefused)
         catalogue::ReadArguments(Entry<TEST::Fail>("Fails"), {{"flag", true}});
         FAIL();
     } catch (const Mismatch& mismatch) {
-        EXPECT_STREQ(mismatch.what(), "TEST.Fail has no argument \"flag\": it takes none");
+        EXPECT_STREQ(mismatch.what(), "TEST.Fail has no argument \"flag\"; it takes no arguments");
     }
 }
 

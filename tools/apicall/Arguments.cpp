@@ -38,9 +38,9 @@ json ParseJson(const std::string& text, const std::string& what)
     try {
         return json::parse(text);
     } catch (const json::parse_error& error) {
-        //: %1 is what was read, %2 a number
+        //: %1 is the name of the input, %2 a number
         throw WrongUsage(
-            Filled(Texts::tr("%1 is not JSON: it cannot be read from byte %2 on"), what, std::to_string(error.byte)));
+            Filled(Texts::tr("%1 is not valid JSON: syntax error at byte %2"), what, std::to_string(error.byte)));
     }
 }
 
@@ -56,7 +56,7 @@ bool IsOneObject(const std::vector<std::string>& arguments)
 json OneObject(const std::vector<std::string>& arguments)
 {
     if (arguments.size() > 1) {
-        throw WrongUsage(Filled(Texts::tr("nothing may follow the JSON object with the arguments")));
+        throw WrongUsage(Filled(Texts::tr("a JSON object must be the only argument")));
     }
     const std::string& argument = arguments.front();
     if (argument == "-") {
@@ -89,10 +89,10 @@ GivenArguments::GivenArguments(const catalogue::Call& call, const std::vector<st
         const auto contains = [](const std::string& outer, const std::string& inner) {
             return inner == outer || inner.rfind(outer + '/', 0) == 0;
         };
-        const bool isTwice = std::any_of(names.begin(), names.end(), [&](const std::string& other) {
+        const bool isDuplicate = std::any_of(names.begin(), names.end(), [&](const std::string& other) {
             return contains(other, name) || contains(name, other);
         });
-        if (isTwice) {
+        if (isDuplicate) {
             throw WrongUsage(Filled(Texts::tr("argument \"%1\" is given twice"), name));
         }
         names.push_back(name);
@@ -108,7 +108,7 @@ json GivenArguments::Object() const
 {
     json object = json::object();
     for (const Assignment& assignment : m_assignments) {
-        object[assignment.place] = assignment.value;
+        object[assignment.path] = assignment.value;
     }
     return object;
 }
@@ -116,7 +116,7 @@ json GivenArguments::Object() const
 void GivenArguments::MergeInto(json& object) const
 {
     for (const Assignment& assignment : m_assignments) {
-        object[assignment.place].merge_patch(assignment.value);
+        object[assignment.path].merge_patch(assignment.value);
     }
 }
 

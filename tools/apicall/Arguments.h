@@ -9,22 +9,22 @@
 
 namespace apicall {
 
-/// What the command line gives to a call: places in its arguments, and their values.
+/// The arguments of a call as given on the command line: JSON pointers into the arguments and the values to assign.
 class GivenArguments {
 public:
-    /// Reads "name=value", "name/field=value", one JSON object, or its name as "@file" or "-". Throws WrongUsage or
-    /// catalogue::Mismatch.
+    /// Reads "name=value", "name/field=value" or a single JSON object, which "@file" reads from a file and "-" from
+    /// standard input. Throws WrongUsage or catalogue::Mismatch.
     GivenArguments(const catalogue::Call& call, const std::vector<std::string>& arguments);
 
-    /// The arguments in one object, as far as they are given.
+    /// The given arguments in one object.
     [[nodiscard]] nlohmann::json Object() const;
 
-    /// Changes those given in @p object, field by field, and leaves the others.
+    /// Writes the given values into @p object and leaves all other values unchanged.
     void MergeInto(nlohmann::json& object) const;
 
 private:
     struct Assignment {
-        nlohmann::json::json_pointer place;
+        nlohmann::json::json_pointer path;
         nlohmann::json value;
     };
     std::vector<Assignment> m_assignments;

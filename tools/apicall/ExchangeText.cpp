@@ -9,7 +9,7 @@ namespace {
 
 using APIModule::ObservedExchange;
 
-/// The bytes without what steers a terminal.
+/// The bytes with control characters escaped and the token masked.
 std::string Visible(QByteArray bytes, const std::string& token)
 {
     if (!token.empty()) {
@@ -24,10 +24,10 @@ std::string Visible(QByteArray bytes, const std::string& token)
     return visible;
 }
 
-std::string MessageText(const QByteArray& begin, const ObservedExchange::Headers& headers, const QByteArray& body,
+std::string MessageText(const QByteArray& firstLine, const ObservedExchange::Headers& headers, const QByteArray& body,
                         const std::string& token)
 {
-    QByteArray text = begin + '\n';
+    QByteArray text = firstLine + '\n';
     for (const auto& [name, value] : headers) {
         text += name + ": " + value + '\n';
     }
@@ -37,23 +37,23 @@ std::string MessageText(const QByteArray& begin, const ObservedExchange::Headers
     return Visible(text, token);
 }
 
-/// Each line behind the sign.
-std::string Marked(const std::string& text, const std::string& sign)
+/// Puts the prefix before each line.
+std::string Prefixed(const std::string& text, const std::string& prefix)
 {
-    std::string marked;
+    std::string prefixed;
     for (std::size_t begin = 0; begin < text.size();) {
         const std::size_t end = std::min(text.find('\n', begin), text.size());
-        marked += end == begin ? sign + "\n" : sign + " " + text.substr(begin, end - begin) + "\n";
+        prefixed += end == begin ? prefix + "\n" : prefix + " " + text.substr(begin, end - begin) + "\n";
         begin = end + 1;
     }
-    return marked;
+    return prefixed;
 }
 
 std::string Milliseconds(std::chrono::nanoseconds time)
 {
-    constexpr double kNanoseconds = 1e6;
+    constexpr double kNanosecondsPerMillisecond = 1e6;
     constexpr int kDigits = 1;
-    return QString::number(double(time.count()) / kNanoseconds, 'f', kDigits).toStdString();
+    return QString::number(double(time.count()) / kNanosecondsPerMillisecond, 'f', kDigits).toStdString();
 }
 
 }  // namespace
@@ -66,20 +66,20 @@ std::string RequestText(const ObservedExchange& exchange, const std::string& tok
 
 std::string ExchangeText(const ObservedExchange& exchange, const std::string& token)
 {
-    std::string text = Marked(RequestText(exchange, token), ">");
+    std::string text = Prefixed(RequestText(exchange, token), ">");
     if (exchange.nStatus != -1) {
-        text += Marked(
+        text += Prefixed(
             MessageText(QByteArray::number(exchange.nStatus), exchange.responseHeaders, exchange.responseBody, token),
             "<");
     }
     if (!exchange.error.isEmpty()) {
-        text += Marked(Visible(exchange.error.toUtf8(), token), "*");
+        text += Prefixed(Visible(exchange.error.toUtf8(), token), "*");
     }
     if (exchange.firstByte) {
         //: Times in milliseconds
-        text += Marked(Filled(Texts::tr("first byte after %1 ms, end after %2 ms"), Milliseconds(*exchange.firstByte),
-                              Milliseconds(exchange.finishedAfter)),
-                       "*");
+        text += Prefixed(Filled(Texts::tr("first byte after %1 ms, complete after %2 ms"),
+                                Milliseconds(*exchange.firstByte), Milliseconds(exchange.finishedAfter)),
+                         "*");
     }
     return text;
 }

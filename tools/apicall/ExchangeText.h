@@ -6,10 +6,10 @@
 
 namespace apicall {
 
-/// Method, URL, headers and body of a request, for people. What would steer a terminal is escaped, and @p token masked.
+/// Method, URL, headers and body of a request as readable text. Control characters are escaped and @p token is masked.
 std::string RequestText(const APIModule::ObservedExchange& exchange, const std::string& token);
 
-/// The request, what came back, and the times: each line begins with ">", "<" or "*".
+/// The request, the reply and the timing; their lines begin with ">", "<" and "*".
 std::string ExchangeText(const APIModule::ObservedExchange& exchange, const std::string& token);
 
 }  // namespace apicall

@@ -15,8 +15,8 @@ using catalogue::Kind;
 using catalogue::Translated;
 using catalogue::Type;
 
-/// What the contract says about a call.
-struct Said {
+/// The contract's documentation of a call.
+struct Documentation {
     std::string endpoint;
     std::string description;
     emulator::Descriptions allowed;
@@ -24,11 +24,11 @@ struct Said {
     emulator::Descriptions received;
 };
 
-Said Read(const std::filesystem::path& contract, const std::string& call)
+Documentation ReadDocumentation(const std::filesystem::path& contract, const std::string& call)
 {
     try {
-        const emulator::Contract read = emulator::Contract::Load(contract);
-        const emulator::Operation& operation = read.operation(call);
+        const emulator::Contract loaded = emulator::Contract::Load(contract);
+        const emulator::Operation& operation = loaded.operation(call);
         return {operation.method + ' ' + operation.path, operation.description, operation.allowed, operation.sent,
                 operation.received};
     } catch (const emulator::ContractError&) {
@@ -36,21 +36,21 @@ Said Read(const std::filesystem::path& contract, const std::string& call)
     }
 }
 
-/// The fields of a record, or of the records of a list.
+/// The fields of a record, or of a list's element type.
 const std::vector<catalogue::Field>& FieldsOf(const Type& type)
 {
     return type.kind == Kind::List ? FieldsOf(*type.element) : type.fields;
 }
 
-/// A value and the fields in it, each on a line with its type, its description and the values that the server takes. A
-/// switch takes both of its own, whatever it travels as.
+/// Writes a value and its fields, one per line, with type, description and permitted values. Permitted values are
+/// omitted for a bool: the contract lists those of its wire format, such as 0 and 1.
 void WriteValue(std::ostream& out, const std::string& indent, std::string_view name, const Type& type,
                 const emulator::Descriptions& descriptions, const emulator::Descriptions& allowed,
-                const std::string& around = {})
+                const std::string& parent = {})
 {
     const std::string key(name);
-    const std::string description = emulator::DescriptionOf(descriptions, around, key);
-    const std::string values = type.kind == Kind::Bool ? std::string() : emulator::DescriptionOf(allowed, around, key);
+    const std::string description = emulator::DescriptionOf(descriptions, parent, key);
+    const std::string values = type.kind == Kind::Bool ? std::string() : emulator::DescriptionOf(allowed, parent, key);
     out << indent << key << ": " << NameOf(type) << (description.empty() ? "" : ". ") << description
         << (values.empty() ? "" : " [" + values + "]") << '\n';
     for (const catalogue::Field& field : FieldsOf(type)) {
@@ -75,16 +75,16 @@ std::string ListOfCalls()
 
 std::string HelpFor(const Call& call, const std::filesystem::path& contract)
 {
-    const Said said = Read(contract, call.name);
+    const Documentation documentation = ReadDocumentation(contract, call.name);
     std::ostringstream out;
     out << call.name << " (" << Translated(call.subject) << ")\n" << Translated(call.summary) << "\n\n";
-    if (!said.description.empty()) {
-        out << said.description << "\n\n" << said.endpoint << "\n\n";
+    if (!documentation.description.empty()) {
+        out << documentation.description << "\n\n" << documentation.endpoint << "\n\n";
     }
 
     out << Filled(call.arguments.empty() ? Texts::tr("Arguments: none") : Texts::tr("Arguments:")) << '\n';
     for (const catalogue::Argument& argument : call.arguments) {
-        WriteValue(out, "  ", argument.name, *argument.type, said.sent, said.allowed);
+        WriteValue(out, "  ", argument.name, *argument.type, documentation.sent, documentation.allowed);
     }
 
     out << '\n';
@@ -93,7 +93,7 @@ std::string HelpFor(const Call& call, const std::filesystem::path& contract)
     } else {
         out << Filled(Texts::tr("Result: %1"), NameOf(*call.result)) << '\n';
         for (const catalogue::Field& field : FieldsOf(*call.result)) {
-            WriteValue(out, "  ", field.name, *field.type, said.received, {});
+            WriteValue(out, "  ", field.name, *field.type, documentation.received, {});
         }
     }
     return out.str();

@@ -7,11 +7,11 @@
 
 namespace apicall {
 
-/// Every call on a line that begins with its name.
+/// All calls, one per line, each with its name and summary.
 std::string ListOfCalls();
 
-/// What a call does, its arguments and its result with their types, and what the contract in that folder says about
-/// them. Without a contract there are names and types alone.
+/// Describes a call with its arguments and result, using the contract in the given folder. Without a contract, lists
+/// only names and types.
 std::string HelpFor(const catalogue::Call& call, const std::filesystem::path& contract);
 
 }  // namespace apicall

@@ -7,7 +7,7 @@
 
 namespace apicall {
 
-/// A command line that cannot be followed; the text says why.
+/// An invalid command line; the text says why.
 class WrongUsage : public std::invalid_argument {
 public:
     using std::invalid_argument::invalid_argument;
@@ -22,13 +22,13 @@ struct Server {
 struct Options {
     std::string server;
     std::string token;
-    std::vector<std::string> pins;            ///< digests as they were given
+    std::vector<std::string> pins;            ///< digests, not yet parsed
     std::vector<std::string> authorityFiles;  ///< PEM files
-    std::string language;  ///< empty for English of the server and error texts in the program's language
+    std::string language;                     ///< empty: English server texts, error texts in the program's language
     int serverId = -1;
-    std::optional<int> timeoutSeconds;   ///< instead of the call's own
+    std::optional<int> timeoutSeconds;   ///< overrides the call's default
     std::string call;                    ///< name of the call, empty for none
-    std::vector<std::string> arguments;  ///< as they were given
+    std::vector<std::string> arguments;  ///< not yet parsed
     bool list = false;
     bool names = false;
     bool quiet = false;
@@ -37,7 +37,7 @@ struct Options {
     bool merge = false;
     bool help = false;
     bool version = false;
-    std::string usage;  ///< how the program is called
+    std::string usage;  ///< the text for --help
 };
 
 /// Throws WrongUsage.

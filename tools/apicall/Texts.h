@@ -6,7 +6,7 @@
 
 namespace apicall {
 
-/// What the program says, in the user's language.
+/// The program's texts in the user's language.
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Texts)
 };

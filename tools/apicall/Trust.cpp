@@ -27,7 +27,7 @@ QList<QSslCertificate> CertificatesOf(const std::string& name)
     }
     const QList<QSslCertificate> certificates = QSslCertificate::fromDevice(&file, QSsl::Pem);
     if (certificates.isEmpty()) {
-        refuse(Texts::tr("the file holds no certificate in PEM"));
+        refuse(Texts::tr("the file contains no PEM certificate"));
     }
     return certificates;
 }

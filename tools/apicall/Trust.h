@@ -8,7 +8,7 @@
 
 namespace apicall {
 
-/// The servers that the options trust: every one without --pin and --ca. Throws WrongUsage.
+/// The trust that the options ask for; without --pin and --ca, every server is trusted. Throws WrongUsage.
 APIModule::ServerTrust TrustOf(const Options& options);
 
 }  // namespace apicall

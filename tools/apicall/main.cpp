@@ -1,6 +1,6 @@
 #include "Arguments.h"
+#include "BufferedStandardError.h"
 #include "ExchangeText.h"
-#include "HeldStandardError.h"
 #include "Help.h"
 #include "Options.h"
 #include "Texts.h"
@@ -51,13 +51,13 @@ const catalogue::Call& NamedCall(const std::string& name)
     }
     const std::string closest = names.size() == 1 ? std::string(names.front()) : catalogue::ClosestName(name, names);
     if (!closest.empty()) {
-        throw WrongUsage(Filled(Texts::tr("there is no call \"%1\"; did you mean \"%2\"?"), name, closest));
+        throw WrongUsage(Filled(Texts::tr("unknown call \"%1\"; did you mean \"%2\"?"), name, closest));
     }
-    throw WrongUsage(Filled(Texts::tr("there is no call \"%1\"; apicall --list names them"), name));
+    throw WrongUsage(Filled(Texts::tr("unknown call \"%1\"; run 'apicall --list' for all calls"), name));
 }
 
-/// What the server or its reply adds to the failure. Characters that would steer a terminal are escaped, and the token
-/// of the session is masked.
+/// The server's text and the unreadable key of a failed call, one per line. Control characters are escaped, and the
+/// session token is masked.
 std::string DetailsOf(const Outcome& outcome, const std::string& token)
 {
     const auto quoted = [&token](QString text) {
@@ -68,24 +68,25 @@ std::string DetailsOf(const Outcome& outcome, const std::string& token)
     };
     std::string details;
     if (!outcome.ServerText().isEmpty()) {
-        //: %1 is the server's own text in quotation marks
-        details += "apicall: " + Filled(Texts::tr("the server says %1"), quoted(outcome.ServerText())) + "\n";
+        //: %1 is the server's text in quotation marks
+        details += "apicall: " + Filled(Texts::tr("the server reports %1"), quoted(outcome.ServerText())) + "\n";
     }
     if (!outcome.UnreadableKey().isEmpty()) {
         //: %1 is a key of a JSON object in quotation marks
         details +=
-            "apicall: " + Filled(Texts::tr("the reply holds no readable %1"), quoted(outcome.UnreadableKey())) + "\n";
+            "apicall: " + Filled(Texts::tr("the reply has no valid value for %1"), quoted(outcome.UnreadableKey())) +
+            "\n";
     }
     return details;
 }
 
-/// Why a handshake failed, where the reason is what the user can mend. OpenSSL takes plain HTTP for TLS of a version
-/// that it does not know.
-std::string HandshakeDetails(const QString& networkError)
+/// A hint for a handshake failure that the user can fix. "wrong version number" is OpenSSL's error when the server
+/// replies with plain HTTP.
+std::string HandshakeHint(const QString& networkError)
 {
     return networkError.contains(QLatin1String("wrong version number"))
                ? "apicall: " +
-                     Filled(Texts::tr("the server speaks no TLS on this port, which may be the one for http://")) + "\n"
+                     Filled(Texts::tr("the server does not use TLS on this port; is it the port for http://?")) + "\n"
                : std::string();
 }
 
@@ -94,7 +95,7 @@ std::string HelpFor(const std::string& call)
     return apicall::HelpFor(NamedCall(call), emulator::DefaultShareFolder() / "contract");
 }
 
-/// The library as a host of one server, from its Init to its UnInit.
+/// Initialises the library for one server and uninitialises it at the end.
 class Session {
 public:
     explicit Session(const apicall::Options& options) : m_options(options)
@@ -106,13 +107,13 @@ public:
         const APIModule::ServerTrust trust = apicall::TrustOf(options);
         const bool restricted = !trust.pins.isEmpty() || !trust.authorities.isEmpty();
         if (restricted && !server.https) {
-            throw WrongUsage(Filled(Texts::tr("--pin and --ca need a server with https://")));
+            throw WrongUsage(Filled(Texts::tr("--pin and --ca require an https:// server")));
         }
         //: The code of this language, for the texts of error codes
         ErrorLexicon::SetLanguage(options.language.empty() ? Filled(Texts::tr("en")) : options.language);
         m_users.Use(server.host, server.port, options.token);
         if (options.quiet) {
-            m_held.emplace();
+            m_standardError.emplace();
         }
         m_library.SetHttpsMode(server.https ? 1 : 0);
         m_library.SetLanguage(options.language.empty() ? "en" : options.language);
@@ -124,7 +125,7 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// Reports a failure.
+    /// Runs the call and reports a failure.
     Outcome Run(const catalogue::Call& call, const json& arguments)
     {
         Outcome outcome = catalogue::Run(call, catalogue::ReadArguments(call, arguments), Settings());
@@ -135,12 +136,12 @@ public:
                       << Filled(Texts::tr("%1 failed with %2: %3"), call.name, std::to_string(outcome.Code()),
                                 outcome.Text().toStdString())
                       << '\n'
-                      << DetailsOf(outcome, m_options.token) << HandshakeDetails(m_networkError) << std::flush;
+                      << DetailsOf(outcome, m_options.token) << HandshakeHint(m_networkError) << std::flush;
         }
         return outcome;
     }
 
-    /// The request for people; empty when it cannot be made, which a log line explains.
+    /// The request as readable text; empty when it cannot be built, for which a log line gives the reason.
     std::string Preview(const catalogue::Call& call, const json& arguments)
     {
         const auto preview = catalogue::Preview(call, catalogue::ReadArguments(call, arguments), Settings());
@@ -153,8 +154,8 @@ public:
 private:
     void WriteLogLines()
     {
-        if (m_held) {
-            m_held->Release();
+        if (m_standardError) {
+            m_standardError->Release();
         }
     }
 
@@ -177,8 +178,8 @@ private:
     void Show(const APIModule::ObservedExchange& exchange)
     {
         const std::string text = apicall::ExchangeText(exchange, m_options.token);
-        if (m_held) {
-            m_held->WriteThrough(text);
+        if (m_standardError) {
+            m_standardError->WriteThrough(text);
         } else {
             std::cerr << text << std::flush;
         }
@@ -187,11 +188,11 @@ private:
     const apicall::Options& m_options;
     catalogue::OneServer m_users;
     APIModule::CAPIModule& m_library = APIModule::CAPIModule::GetInstance();
-    std::optional<apicall::HeldStandardError> m_held;
+    std::optional<apicall::BufferedStandardError> m_standardError;
     QString m_networkError;
 };
 
-/// A read whose record the write begins with.
+/// The read that supplies the record for a merged write.
 struct FirstRead {
     catalogue::MatchingRead read;
     json arguments;
@@ -208,7 +209,7 @@ private:
         const auto found = catalogue::FindMatchingRead(write);
         if (!found) {
             //: %1 is a call
-            throw WrongUsage(Filled(Texts::tr("--merge: no call reads what %1 writes"), write.name));
+            throw WrongUsage(Filled(Texts::tr("--merge: %1 has no matching read call"), write.name));
         }
         return *found;
     }
@@ -218,7 +219,7 @@ int Print(const std::string& text)
 {
     std::cout << text << std::flush;
     if (!std::cout) {
-        std::cerr << "apicall: " << Filled(Texts::tr("the result cannot be written")) << std::endl;
+        std::cerr << "apicall: " << Filled(Texts::tr("cannot write the result")) << std::endl;
         return kFailedCall;
     }
     return kSuccess;
@@ -230,9 +231,9 @@ int RunCall(const apicall::Options& options)
     const apicall::GivenArguments given(call, options.arguments);
     json arguments = given.Object();
     if (!arguments.is_object()) {
-        catalogue::ReadArguments(call, arguments);  // says what it must be
+        catalogue::ReadArguments(call, arguments);  // throws the error for the user
     }
-    // What is wrong with them is said before the server is looked at.
+    // Report wrong arguments before a missing or invalid server.
     std::optional<FirstRead> first;
     if (options.merge) {
         first.emplace(call, arguments);
@@ -256,7 +257,7 @@ int RunCall(const apicall::Options& options)
     return outcome ? Print(outcome.record.dump(4, ' ', false, json::error_handler_t::replace) + '\n') : kFailedCall;
 }
 
-/// A name a line, for scripts and for the completion of a shell.
+/// Names, one per line, for scripts and shell completion.
 std::string Names(const std::string& call)
 {
     std::string names;
@@ -284,7 +285,7 @@ int Main(int argc, char** argv)
     } else if (options.help) {
         std::cout << (options.call.empty() ? options.usage : HelpFor(options.call));
     } else if (options.call.empty()) {
-        throw WrongUsage(Filled(Texts::tr("no call is named; apicall --help tells how it is used")));
+        throw WrongUsage(Filled(Texts::tr("no call given; run 'apicall --help' for usage")));
     } else {
         return RunCall(options);
     }

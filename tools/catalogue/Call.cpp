@@ -22,7 +22,7 @@ std::string NamesOfArguments(const Call& call)
     return names;
 }
 
-/// How many letters must be inserted, removed or replaced; upper and lower case count as the same.
+/// The case-insensitive edit distance: the number of letters to insert, remove or replace.
 std::size_t Distance(std::string_view left, std::string_view right)
 {
     std::vector<std::size_t> row(right.size() + 1);
@@ -82,9 +82,9 @@ const Call* FindCall(std::string_view name)
 
 std::string ClosestName(std::string_view misspelt, const std::vector<std::string_view>& names)
 {
-    constexpr std::size_t kLettersForAMistake = 4;
+    constexpr std::size_t kLettersPerTypo = 4;
     std::string_view closest;
-    std::size_t least = misspelt.size() / kLettersForAMistake + 1;
+    std::size_t least = misspelt.size() / kLettersPerTypo + 1;
     for (const std::string_view name : names) {
         const std::size_t distance = Distance(misspelt, name);
         if (distance < least) {
@@ -99,7 +99,7 @@ void RefuseArgument(const Call& call, const std::string& name)
 {
     if (call.arguments.empty()) {
         //: %1 is a call
-        throw Mismatch(Filled(Texts::tr("%1 has no argument \"%2\": it takes none"), call.name, name));
+        throw Mismatch(Filled(Texts::tr("%1 has no argument \"%2\"; it takes no arguments"), call.name, name));
     }
     std::vector<std::string_view> names;
     for (const Argument& argument : call.arguments) {
@@ -111,7 +111,7 @@ void RefuseArgument(const Call& call, const std::string& name)
     }
     //: %1 is a call, %3 the names of its arguments
     throw Mismatch(
-        Filled(Texts::tr("%1 has no argument \"%2\": it takes %3"), call.name, name, NamesOfArguments(call)));
+        Filled(Texts::tr("%1 has no argument \"%2\"; its arguments are: %3"), call.name, name, NamesOfArguments(call)));
 }
 
 std::string Translated(std::string_view text)
@@ -123,7 +123,7 @@ std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& argumen
 {
     if (!arguments.is_object()) {
         throw Mismatch(
-            Filled(Texts::tr("the arguments of %1 must be a JSON object that holds each under its name"), call.name));
+            Filled(Texts::tr("the arguments of %1 must be a JSON object with the argument names as keys"), call.name));
     }
     RefuseUnknown(call, arguments);
 
@@ -134,7 +134,7 @@ std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& argumen
         if (given == arguments.end()) {
             //: %1 is a call, %3 a type
             throw Mismatch(
-                Filled(Texts::tr("%1 needs the argument \"%2\" (%3)"), call.name, name, NameOf(*argument.type)));
+                Filled(Texts::tr("%1 requires the argument \"%2\" (%3)"), call.name, name, NameOf(*argument.type)));
         }
         values.emplace_back(*argument.type).Assign(*given, "/" + name);
     }

@@ -24,7 +24,7 @@ namespace catalogue {
 struct Outcome;
 struct RunSettings;
 
-/// An argument of a Pack, between the request and the server identifier.
+/// An argument of a Pack, not counting the request and the server identifier.
 struct Argument {
     std::string_view name;
     const Type* type;
@@ -39,8 +39,8 @@ struct Call {
     std::string_view packName;   ///< "APIModule::CBRMSModule::PacketGetTimeSyncConfig"
     std::string_view parseName;  ///< empty without a Parse
     std::vector<Argument> arguments;
-    const Type* result = nullptr;  ///< what the Parse fills; null without a Parse
-    bool takesServerId = true;     ///< of the Pack, behind its arguments
+    const Type* result = nullptr;  ///< type of the record that the Parse fills; null without a Parse
+    bool takesServerId = true;     ///< whether the Pack has a server identifier as its last parameter
 
     int (*pack)(void* pReqParamData, void* const* arguments, int nServerId) = nullptr;
     int (*parse)(const QJsonObject& data, void* record) = nullptr;  ///< null without a Parse
@@ -61,16 +61,16 @@ const std::vector<Call>& Calls();
 /// Null for an unknown name.
 const Call* FindCall(std::string_view name);
 
-/// The one of @p names that @p misspelt probably stands for; empty when none is close.
+/// The name closest to @p misspelt; empty when none is close enough for a suggestion.
 std::string ClosestName(std::string_view misspelt, const std::vector<std::string_view>& names);
 
 /// The subject or the summary of a call in the user's language, as UTF-8.
 std::string Translated(std::string_view text);
 
-/// Throws Mismatch, because a call has no argument of that name.
+/// Throws the Mismatch for an argument that the call does not have.
 [[noreturn]] void RefuseArgument(const Call& call, const std::string& name);
 
-/// The arguments of a call in their order, from an object that holds each of them under its name. Throws Mismatch.
+/// The arguments of a call in their order, from a JSON object with the argument names as keys. Throws Mismatch.
 std::vector<Value> ReadArguments(const Call& call, const nlohmann::json& arguments);
 
 }  // namespace catalogue

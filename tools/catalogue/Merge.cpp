@@ -35,13 +35,13 @@ bool IsIndex(const std::string& word)
            std::all_of(word.begin(), word.end(), [](char letter) { return letter >= '0' && letter <= '9'; });
 }
 
-/// What a word names in a value of a type; null when there is no such place.
-const Type* Inside(const Type& type, const std::string& word)
+/// The type of one step of a path: a field of a record or an element of a list; null when there is none.
+const Type* TypeOfStep(const Type& type, const std::string& step)
 {
     if (type.kind == Kind::List) {
-        return IsIndex(word) ? type.element : nullptr;
+        return IsIndex(step) ? type.element : nullptr;
     }
-    const Field* const field = type.FindField(word);
+    const Field* const field = type.FindField(step);
     return field == nullptr ? nullptr : field->type;
 }
 
@@ -73,13 +73,13 @@ nlohmann::json ArgumentsOfRead(const MatchingRead& read, const Call& write, cons
         } else if (given.contains(record) && given[record].is_object() && given[record].contains(name)) {
             arguments[name] = given[record][name];
         } else {
-            std::string place = name;
+            std::string path = name;
             if (write.FindArgument(name) == nullptr) {
-                place.insert(0, record + '/');
+                path.insert(0, record + '/');
             }
-            //: %1 is a call, %2 the argument that it needs, %3 another call, which the user runs
+            //: %1 is the call that reads the record, %2 an argument, %3 the call that the user runs
             throw Mismatch(
-                Filled(Texts::tr("%1, which is read first, needs \"%2\" of %3"), read.call->name, place, write.name));
+                Filled(Texts::tr("%1, which runs first, requires \"%2\" of %3"), read.call->name, path, write.name));
         }
     }
     return arguments;
@@ -97,12 +97,13 @@ const Type& TypeAt(const Call& call, const std::string& path)
     while (end != std::string::npos) {
         const std::size_t begin = end + 1;
         end = path.find('/', begin);
-        const Type* const inside = Inside(*type, path.substr(begin, end == std::string::npos ? end : end - begin));
-        if (inside == nullptr) {
+        const Type* const next = TypeOfStep(*type, path.substr(begin, end == std::string::npos ? end : end - begin));
+        if (next == nullptr) {
             //: %1 is a path such as /config/interval, %2 a type
-            throw Mismatch(Filled(Texts::tr("/%1: %2 has no such place"), path.substr(0, end), NameOf(*type)));
+            throw Mismatch(
+                Filled(Texts::tr("/%1: no such field or element in %2"), path.substr(0, end), NameOf(*type)));
         }
-        type = inside;
+        type = next;
     }
     return *type;
 }

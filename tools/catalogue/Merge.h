@@ -9,22 +9,22 @@
 
 namespace catalogue {
 
-/// The read that brings what a write replaces.
+/// The call that reads the record which a write replaces.
 struct MatchingRead {
     const Call* call;
-    const Argument* argument;  ///< of the write: what the read returns
+    const Argument* argument;  ///< the argument of the write that takes the record
 };
 
-/// The read of the same name behind its verb whose record is an argument of the write: BRMS.GetEncodeConfig for
-/// BRMS.UpdateEncodeConfig. Nothing for a call that has none.
+/// Finds the read whose name differs only in the verb and whose record is an argument of the write, such as
+/// BRMS.GetEncodeConfig for BRMS.UpdateEncodeConfig. Returns nothing when there is none.
 std::optional<MatchingRead> FindMatchingRead(const Call& write);
 
-/// The arguments of the read, from those given for the write: the ones of the same name, or the fields of the same name
-/// in the record. Throws Mismatch when one is missing.
+/// Takes the arguments of the read from those of the write: from the argument of the same name, or else from the field
+/// of the same name in the record. Throws Mismatch when one is missing.
 nlohmann::json ArgumentsOfRead(const MatchingRead& read, const Call& write, const nlohmann::json& given);
 
-/// The type of what a path such as "configs/0/bitRate" names in the arguments of a call. Throws Mismatch for a place
-/// that the call does not have.
+/// The type at a path such as "configs/0/bitRate" in the arguments of a call. Throws Mismatch when the path does not
+/// exist.
 const Type& TypeAt(const Call& call, const std::string& path);
 
 }  // namespace catalogue

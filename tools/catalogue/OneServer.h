@@ -8,10 +8,10 @@
 
 namespace catalogue {
 
-/// The user manager of a host with one server at a time, which calls know as -1, 0 and 1.
+/// A user manager with one server at a time, which has the server identifiers -1, 0 and 1.
 class OneServer : public UserLogical::IUserManager {
 public:
-    /// From now on calls go there; those under way keep the server they were packed for.
+    /// Sends later calls to this server; calls in progress keep the server they were packed for.
     void Use(const std::string& host, int port, const std::string& token)
     {
         m_server = std::make_shared<Connection>(host, port, token);

@@ -16,27 +16,27 @@
 namespace catalogue {
 
 struct RunSettings {
-    int serverId = -1;                                            ///< -1 for the user manager's current server
-    std::optional<std::chrono::milliseconds> timeout = {};        ///< instead of the call's own
-    std::function<void(APIModule::RequestParam&)> onPacked = {};  ///< the last word on the request
-    APIModule::ExchangeObserver observer = {};                    ///< sees the exchange of the call
+    int serverId = -1;                                            ///< -1: the user manager's current server
+    std::optional<std::chrono::milliseconds> timeout = {};        ///< overrides the call's default
+    std::function<void(APIModule::RequestParam&)> onPacked = {};  ///< may change the packed request
+    APIModule::ExchangeObserver observer = {};                    ///< receives the exchange of the call
 };
 
-/// How a call ended, with its record.
+/// The outcome of a call with its record as JSON.
 struct Outcome : APIModule::OutcomeBase {
     nlohmann::json record;  ///< as far as it was read; null for a call without a Parse
 };
 
-/// Runs a call and waits for its end, behind a wait dialog over @p parent or, with null, in the event loop. @p
-/// arguments are those of ReadArguments().
+/// Runs a call and waits until it ends: behind a wait dialog over @p parent, or in the event loop when it is null.
+/// @p arguments come from ReadArguments().
 Outcome Run(const Call& call, const std::vector<Value>& arguments, const RunSettings& settings = {},
             QWidget* parent = nullptr);
 
-/// Begins a call, as APIModule::Start() does.
+/// Starts a call, as APIModule::Start() does.
 APIModule::CallHandle Start(const Call& call, const std::vector<Value>& arguments, const RunSettings& settings,
                             QObject* context, const std::function<void(const Outcome&)>& finished);
 
-/// The request of a call, which is not sent, as APIModule::Preview() makes it.
+/// Builds the request of a call without sending it, as APIModule::Preview() does.
 std::optional<APIModule::ObservedExchange> Preview(const Call& call, const std::vector<Value>& arguments,
                                                    const RunSettings& settings = {});
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-/// What the tools know of the library's calls: their names, their arguments and records, and how to run them.
+/// The library's calls as the tools see them: their names, arguments and records, and functions to run them.
 namespace catalogue {
 
 enum class Kind {
@@ -25,22 +25,22 @@ struct Type;
 struct Field {
     std::string_view name;
     const Type* type;
-    void* (*access)(void* record);  ///< the field in its record
+    void* (*access)(void* record);  ///< returns the field in its record
 };
 
-/// How the elements of a list are reached.
+/// Access to the elements of a list.
 struct ListAccess {
     std::size_t (*size)(const void* list);
     void* (*at)(void* list, std::size_t index);
-    void* (*append)(void* list);  ///< adds a fresh element and returns it
+    void* (*append)(void* list);  ///< adds a default element and returns it
 };
 
-/// A type that arguments and records are made of. There is one object for each.
+/// A type of arguments or records. Each type has exactly one object.
 struct Type {
     Kind kind;
-    std::shared_ptr<void> (*make)();  ///< a fresh value
+    std::shared_ptr<void> (*make)();  ///< returns a default value
     std::string_view name = {};       ///< of a record
-    std::vector<Field> fields = {};   ///< of a record, in their order
+    std::vector<Field> fields = {};   ///< of a record, in order of declaration
     const Type* element = nullptr;    ///< of a list
     ListAccess list = {};             ///< of a list
 

@@ -61,7 +61,7 @@ QString KindOf(const json& value)
     case json::value_t::number_unsigned:
         return Texts::tr("integer");
     case json::value_t::number_float:
-        return Texts::tr("number that is no 64-bit integer");
+        return Texts::tr("number that is not a 64-bit integer");
     case json::value_t::string:
         return Texts::tr("text");
     case json::value_t::array:
@@ -96,7 +96,7 @@ Integer ReadInteger(const Type& type, const json& value, const Pointer& where)
                           : value.get<int64>() >= Limits::min();
     if (!fits) {
         //: %1 is a number, %2 a type
-        Fail(where, Filled(Texts::tr("%1 is out of the range of %2"), value.dump(), NameOf(type)));
+        Fail(where, Filled(Texts::tr("%1 is out of range for %2"), value.dump(), NameOf(type)));
     }
     return value.get<Integer>();
 }

@@ -10,7 +10,7 @@
 
 namespace catalogue {
 
-/// JSON that does not fit the type that it is for; the text says what was wrong and where.
+/// JSON that does not match the expected type; the text says what is wrong and where.
 class Mismatch : public std::invalid_argument {
 public:
     using std::invalid_argument::invalid_argument;
@@ -19,7 +19,7 @@ public:
 /// A value of a type that is known only at run time.
 class Value {
 public:
-    /// A fresh value: empty, 0, false, or the defaults of a record's fields.
+    /// A default value: empty, 0, false, or a record with its default fields.
     explicit Value(const Type& type) : Value(type, type.make()) {}
     /// @p data is a C++ object of the type.
     Value(const Type& type, std::shared_ptr<void> data) : m_type(&type), m_data(std::move(data)) {}
@@ -28,11 +28,11 @@ public:
     /// The C++ object.
     [[nodiscard]] void* Data() const { return m_data.get(); }
 
-    /// Bytes of a text that are not UTF-8 go in as they are: dump the result with an error handler.
+    /// Does not check texts for valid UTF-8; dump the result with an error handler.
     [[nodiscard]] nlohmann::json ToJson() const;
 
-    /// Takes the place of what the value held. Fields of a record that @p value leaves out get their defaults; anything
-    /// that is not of the type throws Mismatch with @p where, a JSON pointer, before its own place in the text.
+    /// Replaces the value. Fields of a record that are missing in @p value get their defaults. Throws Mismatch for a
+    /// value of the wrong type; its text begins with @p where and the path of the wrong value, as one JSON pointer.
     void Assign(const nlohmann::json& value, const std::string& where);
 
 private:

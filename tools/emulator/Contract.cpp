@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::array kMethods = {"get", "put", "post", "delete"};
 
-/// What draft 7 and 2020-12 have in common; the validator passes over any other keyword in silence.
+/// The keywords common to draft 7 and 2020-12; the validator silently ignores any other keyword.
 const std::set<std::string>& SharedKeywords()
 {
     static const std::set<std::string> keywords = {
@@ -31,7 +31,7 @@ const std::set<std::string>& SharedKeywords()
     return keywords;
 }
 
-/// Plain scalars by YAML's core schema; quoted ones are texts.
+/// Converts plain scalars by YAML's core schema; quoted scalars are strings.
 Json ScalarOf(const YAML::Node& node)
 {
     const std::string& text = node.Scalar();
@@ -61,7 +61,7 @@ Json JsonOf(const YAML::Node& node)
         json = Json::object();
         for (const auto& member : node) {
             if (!json.emplace(member.first.Scalar(), JsonOf(member.second)).second) {
-                throw ContractError(Filled(Texts::tr("key '%1' is there twice"), member.first.Scalar()));
+                throw ContractError(Filled(Texts::tr("duplicate key '%1'"), member.first.Scalar()));
             }
         }
         return json;
@@ -70,7 +70,7 @@ Json JsonOf(const YAML::Node& node)
     }
 }
 
-/// The files of a folder with their references to each other.
+/// The files of a folder, with references between them.
 class Files {
 public:
     void read(const std::filesystem::path& file)
@@ -84,14 +84,14 @@ public:
 
     [[nodiscard]] const std::map<std::string, Json>& documents() const { return m_documents; }
 
-    /// The node of the file with what its references lead to in their place.
-    [[nodiscard]] Json resolved(const Json& node, const std::string& file, const std::string& place,
-                                std::set<std::string> passed = {}) const
+    /// The node with all references replaced by their targets.
+    [[nodiscard]] Json resolved(const Json& node, const std::string& file, const std::string& path,
+                                std::set<std::string> visited = {}) const
     {
         if (node.is_array()) {
             Json result = Json::array();
             for (std::size_t i = 0; i < node.size(); ++i) {
-                result.push_back(resolved(node[i], file, place + "/" + std::to_string(i), passed));
+                result.push_back(resolved(node[i], file, path + "/" + std::to_string(i), visited));
             }
             return result;
         }
@@ -99,17 +99,17 @@ public:
             return node;
         }
         if (node.contains("$ref")) {
-            return target(node, file, place, std::move(passed));
+            return target(node, file, path, std::move(visited));
         }
         Json result = Json::object();
         for (const auto& member : node.items()) {
-            result[member.key()] = resolved(member.value(), file, place + "/" + member.key(), passed);
+            result[member.key()] = resolved(member.value(), file, path + "/" + member.key(), visited);
         }
         return withoutWrapper(std::move(result));
     }
 
 private:
-    /// A reference that carries a description of its own is wrapped: {description: ..., allOf: [{$ref: ...}]}.
+    /// Unwraps a reference with a description beside it: {description: ..., allOf: [{$ref: ...}]}.
     static Json withoutWrapper(Json node)
     {
         const bool wrapped = node.contains("allOf") && node.at("allOf").is_array() && node.at("allOf").size() == 1;
@@ -122,71 +122,73 @@ private:
         return node;
     }
 
-    [[nodiscard]] Json target(const Json& node, const std::string& file, const std::string& place,
-                              std::set<std::string> passed) const
+    [[nodiscard]] Json target(const Json& node, const std::string& file, const std::string& path,
+                              std::set<std::string> visited) const
     {
-        const std::string where = file + ": " + place;
+        const std::string where = file + ": " + path;
         if (node.size() != 1 || !node.at("$ref").is_string()) {
-            throw ContractError(Filled(Texts::tr("%1: $ref is a text and stands alone"), where));
+            throw ContractError(Filled(Texts::tr("%1: $ref must be a string and the only key"), where));
         }
         const std::string reference = node.at("$ref");
         const std::size_t mark = reference.find('#');
         const std::string targetFile = mark == 0 ? file : reference.substr(0, mark);
         if (mark == std::string::npos || m_documents.count(targetFile) == 0) {
-            throw ContractError(Filled(Texts::tr("%1: '%2' names no file of the contract"), where, reference));
+            throw ContractError(
+                Filled(Texts::tr("%1: '%2' does not refer to a file of the contract"), where, reference));
         }
         const std::string pointer = reference.substr(mark + 1);
-        if (!passed.insert(targetFile + "#" + pointer).second) {
-            throw ContractError(Filled(Texts::tr("%1: '%2' leads back to itself"), where, reference));
+        if (!visited.insert(targetFile + "#" + pointer).second) {
+            throw ContractError(Filled(Texts::tr("%1: circular reference '%2'"), where, reference));
         }
         const Json& document = m_documents.at(targetFile);
         try {
-            return resolved(document.at(Json::json_pointer(pointer)), targetFile, pointer, std::move(passed));
+            return resolved(document.at(Json::json_pointer(pointer)), targetFile, pointer, std::move(visited));
         } catch (const Json::exception&) {
-            throw ContractError(Filled(Texts::tr("%1: '%2' leads nowhere"), where, reference));
+            throw ContractError(Filled(Texts::tr("%1: the target of '%2' does not exist"), where, reference));
         }
     }
 
     std::map<std::string, Json> m_documents;
 };
 
-void RefuseOtherKeywords(const Json& schema, const std::string& where);
+void RequireSharedKeywords(const Json& schema, const std::string& where);
 
-void RefuseInEach(const Json& schemas, const std::string& where)
+void RequireSharedKeywordsInEach(const Json& schemas, const std::string& where)
 {
     for (const auto& member : schemas.items()) {
-        RefuseOtherKeywords(member.value(), where + "/" + member.key());
+        RequireSharedKeywords(member.value(), where + "/" + member.key());
     }
 }
 
-void RefuseOtherKeywords(const Json& schema, const std::string& where)
+void RequireSharedKeywords(const Json& schema, const std::string& where)
 {
     if (schema.is_boolean()) {
         return;
     }
     if (!schema.is_object()) {
-        throw ContractError(Filled(Texts::tr("%1: a schema is an object"), where));
+        throw ContractError(Filled(Texts::tr("%1: a schema must be an object or a boolean"), where));
     }
     for (const auto& member : schema.items()) {
         const std::string& keyword = member.key();
-        std::string place = where;
-        place.append("/").append(keyword);
+        std::string path = where;
+        path.append("/").append(keyword);
         if (SharedKeywords().count(keyword) == 0) {
-            throw ContractError(Filled(Texts::tr("%1: draft 7 and 2020-12 do not share this keyword"), place));
+            throw ContractError(
+                Filled(Texts::tr("%1: JSON Schema draft 7 and 2020-12 do not both support this keyword"), path));
         }
         if (keyword == "properties" || keyword == "patternProperties" || keyword == "allOf" || keyword == "anyOf" ||
             keyword == "oneOf") {
-            RefuseInEach(member.value(), place);
+            RequireSharedKeywordsInEach(member.value(), path);
         } else if (keyword == "items" || keyword == "additionalProperties" || keyword == "not" || keyword == "if" ||
                    keyword == "then" || keyword == "else" || keyword == "contains" || keyword == "propertyNames") {
-            RefuseOtherKeywords(member.value(), place);
+            RequireSharedKeywords(member.value(), path);
         }
     }
 }
 
 Schema SchemaOf(const Json& document, const std::string& where)
 {
-    RefuseOtherKeywords(document, where);
+    RequireSharedKeywords(document, where);
     try {
         return Schema(document);
     } catch (const std::exception& error) {
@@ -207,7 +209,7 @@ std::vector<Json> ExamplesOf(const Json& content)
     return examples;
 }
 
-/// The envelope with code 1000 among the replies.
+/// The schema of the reply with code 1000.
 const Json& SuccessOf(const Json& reply, const std::string& where)
 {
     static const Json::json_pointer code("/properties/code/const");
@@ -216,10 +218,10 @@ const Json& SuccessOf(const Json& reply, const std::string& where)
             return envelope;
         }
     }
-    throw ContractError(Filled(Texts::tr("%1: no reply has the code 1000"), where));
+    throw ContractError(Filled(Texts::tr("%1: no reply with code 1000"), where));
 }
 
-/// The values of path and query.
+/// The path and query parameters.
 std::vector<Json> ParametersOf(const Json& path, const Json& operation)
 {
     std::vector<Json> parameters;
@@ -254,60 +256,61 @@ Json ParameterExamples(const std::vector<Json>& parameters)
     return examples;
 }
 
-/// What the node of a value in the contract says about it.
-using Saying = std::function<std::string(const Json&)>;
+/// Returns the text about a value from its node in the contract.
+using DescribeNode = std::function<std::string(const Json&)>;
 
 std::string DescriptionIn(const Json& node)
 {
     return node.value("description", "");
 }
 
-/// A list of values or a range.
+/// The permitted values: a list or a range.
 std::string AllowedIn(const Json& node)
 {
     const Json& schema = node.contains("schema") ? node.at("schema") : node;
     std::string allowed;
-    const auto add = [&allowed](const std::string& sign, const Json& value) {
-        allowed.append(allowed.empty() ? "" : ", ").append(sign).append(value.dump());
+    const auto add = [&allowed](const std::string& prefix, const Json& value) {
+        allowed.append(allowed.empty() ? "" : ", ").append(prefix).append(value.dump());
     };
     const Json values = schema.value("enum", Json::array());
     for (const Json& value : values) {
         add("", value);
     }
-    for (const auto& [keyword, sign] : {std::pair("minimum", ">= "), std::pair("maximum", "<= ")}) {
+    for (const auto& [keyword, prefix] : {std::pair("minimum", ">= "), std::pair("maximum", "<= ")}) {
         if (schema.contains(keyword)) {
-            add(sign, schema.at(keyword));
+            add(prefix, schema.at(keyword));
         }
     }
     return allowed;
 }
 
-Descriptions SaidOfParameters(const std::vector<Json>& parameters, const Saying& saying)
+Descriptions DescriptionsOfParameters(const std::vector<Json>& parameters, const DescribeNode& describe)
 {
     Descriptions descriptions;
     for (const Json& parameter : parameters) {
-        descriptions[parameter.at("name")] = saying(parameter);
+        descriptions[parameter.at("name")] = describe(parameter);
     }
     return descriptions;
 }
 
-/// The keys of a schema before those of the objects in it: of two keys alike the outer one keeps the bare name.
-void AddSaid(const Json& schema, const Saying& saying, const std::string& around, Descriptions& descriptions)
+/// Adds outer keys before nested ones, so that the plain name of a duplicate key refers to the outer key.
+void AddDescriptions(const Json& schema, const DescribeNode& describe, const std::string& parent,
+                     Descriptions& descriptions)
 {
     const Json properties = schema.value("properties", Json::object());
     for (const auto& [key, property] : properties.items()) {
-        const std::string text = saying(property);
+        const std::string text = describe(property);
         descriptions.emplace(key, text);
-        if (!around.empty()) {
-            descriptions.emplace(std::string(around).append("/").append(key), text);
+        if (!parent.empty()) {
+            descriptions.emplace(std::string(parent).append("/").append(key), text);
         }
     }
     for (const auto& [key, property] : properties.items()) {
-        AddSaid(property.value("items", property), saying, key, descriptions);
+        AddDescriptions(property.value("items", property), describe, key, descriptions);
     }
     const Json choices = schema.value("oneOf", Json::array());
     for (const Json& choice : choices) {
-        AddSaid(choice, saying, around, descriptions);
+        AddDescriptions(choice, describe, parent, descriptions);
     }
 }
 
@@ -319,14 +322,14 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     std::optional<Schema> body;
     std::vector<Json> bodyExamples;
     const std::vector<Json> parameters = ParametersOf(path, described);
-    Descriptions allowed = SaidOfParameters(parameters, AllowedIn);
-    Descriptions sent = SaidOfParameters(parameters, DescriptionIn);
+    Descriptions allowed = DescriptionsOfParameters(parameters, AllowedIn);
+    Descriptions sent = DescriptionsOfParameters(parameters, DescriptionIn);
     if (described.contains("requestBody")) {
         const Json& content = described.at("requestBody").at(jsonContent);
         body = SchemaOf(content.at("schema"), where + "/requestBody");
         bodyExamples = ExamplesOf(content);
-        AddSaid(content.at("schema"), AllowedIn, {}, allowed);
-        AddSaid(content.at("schema"), DescriptionIn, {}, sent);
+        AddDescriptions(content.at("schema"), AllowedIn, {}, allowed);
+        AddDescriptions(content.at("schema"), DescriptionIn, {}, sent);
     }
     const Json& content = described.at("responses").at("200").at(jsonContent);
     const Json& reply = content.at("schema");
@@ -335,7 +338,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     Schema successSchema = SchemaOf(success, where + "/responses/200");
     Json data = success.at("properties").value("data", Json::object());
     Descriptions received;
-    AddSaid(data, DescriptionIn, {}, received);
+    AddDescriptions(data, DescriptionIn, {}, received);
     std::string upper = method;
     std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
     return Operation{described.at("operationId"),
@@ -360,7 +363,7 @@ bool IsPlaceholder(const std::string& segment)
     return segment.size() > 2 && segment.front() == '{' && segment.back() == '}';
 }
 
-/// The values of the placeholders when the path fits the template.
+/// The values of the placeholders, if the path matches the template.
 std::optional<PathValues> ValuesOf(const std::string& template_, const std::vector<std::string>& segments)
 {
     const std::vector<std::string> wanted = Split(template_, '/');
@@ -380,10 +383,10 @@ std::optional<PathValues> ValuesOf(const std::string& template_, const std::vect
 
 }  // namespace
 
-std::string DescriptionOf(const Descriptions& descriptions, const std::string& around, const std::string& key)
+std::string DescriptionOf(const Descriptions& descriptions, const std::string& parent, const std::string& key)
 {
-    for (const std::string& place : {std::string(around).append("/").append(key), key}) {
-        const auto found = descriptions.find(place);
+    for (const std::string& path : {std::string(parent).append("/").append(key), key}) {
+        const auto found = descriptions.find(path);
         if (found != descriptions.end()) {
             return found->second;
         }
@@ -423,14 +426,14 @@ Contract Contract::Load(const std::filesystem::path& folder)
                     throw ContractError(where + ": " + error.what());
                 }
                 if (!known.insert(contract.m_operations.back().id).second) {
-                    throw ContractError(
-                        Filled(Texts::tr("%1: operation '%2' is told twice"), where, contract.m_operations.back().id));
+                    throw ContractError(Filled(Texts::tr("%1: operation '%2' is defined twice"), where,
+                                               contract.m_operations.back().id));
                 }
             }
         }
     }
     if (contract.m_operations.empty()) {
-        throw ContractError(Filled(Texts::tr("no operation in the contract folder %1"), folder.string()));
+        throw ContractError(Filled(Texts::tr("the contract folder %1 contains no operation"), folder.string()));
     }
     return contract;
 }
@@ -455,7 +458,7 @@ Contract::Match Contract::find(const std::string& method, const std::string& pat
         if (!values) {
             continue;
         }
-        // '{' sorts behind every letter, so of two templates that fit the more literal one is the smaller.
+        // '{' sorts after every letter, so the more literal of two matching templates is the smaller one.
         if (!best.pathKnown || operation.path < bestPath) {
             best = Match{true, nullptr, *values};
             bestPath = operation.path;

@@ -11,7 +11,7 @@
 
 namespace emulator {
 
-/// The contract on disk is not as it should be; the text names file and place.
+/// An error in the contract's files; the text names the file and the location in it.
 class ContractError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -23,43 +23,43 @@ struct QueryParameter {
     Schema schema;
 };
 
-/// What the contract says about values, by their keys. A key of an object inside another one is there as
-/// "<key of the object>/<key>" as well, as "id" may mean several things.
+/// The contract's texts about values, by key. A key of a nested object is also stored as "<key of the object>/<key>",
+/// because a name such as "id" can occur in several objects.
 using Descriptions = std::map<std::string, std::string>;
 
-/// What is said about a key, with the key of the object or list around it; empty where nothing is.
-std::string DescriptionOf(const Descriptions& descriptions, const std::string& around, const std::string& key);
+/// The text about a key whose object or list has the key @p parent; empty when there is none.
+std::string DescriptionOf(const Descriptions& descriptions, const std::string& parent, const std::string& key);
 
 /// One endpoint, its references resolved.
 struct Operation {
-    std::string id;      ///< such as "BRMS.GetTimeSyncConfig"
+    std::string id;      ///< operationId, such as "BRMS.GetTimeSyncConfig"
     std::string method;  ///< upper case
     std::string path;    ///< the template, such as "/brms/api/v1.1/user/group/{groupId}"
     std::vector<QueryParameter> query;
-    std::optional<Schema> body;  ///< empty where the call has none
-    Schema reply;                ///< every envelope that may come
-    Schema success;              ///< the envelope of a call that was carried out
-    Json dataSchema;             ///< of the successful reply's "data"; an empty object where it has none
-    Json parameterExamples;      ///< of path and query, by name
+    std::optional<Schema> body;  ///< not set for a call without a body
+    Schema reply;                ///< all envelopes that the server may return
+    Schema success;              ///< the envelope of a successful call
+    Json dataSchema;             ///< of the successful reply's "data"; an empty object without "data"
+    Json parameterExamples;      ///< of path and query parameters, by name
     std::vector<Json> bodyExamples;
     std::vector<Json> replyExamples;
     std::string description;
-    Descriptions allowed;   ///< the values that may be sent, such as "0, 1" or ">= 0", by the keys of "sent"
-    Descriptions sent;      ///< of path and query values, and of the keys of the body
+    Descriptions allowed;   ///< permitted values such as "0, 1" or ">= 0", with the keys of "sent"
+    Descriptions sent;      ///< of path and query parameters and the keys of the body
     Descriptions received;  ///< of the keys of the successful reply's "data"
 
-    /// The "data" of the first successful reply among the examples; an empty object where it has none.
+    /// The "data" of the first example of a successful reply; an empty object without "data".
     [[nodiscard]] Json dataExample() const;
 };
 
 using PathValues = std::map<std::string, std::string>;
 
-/// The endpoints that the files of one folder describe.
+/// The endpoints described by the files of one folder.
 class Contract {
 public:
     /// Reads every *.yaml file of the folder.
-    /// @throws ContractError for a file that cannot be read, a reference that leads nowhere, in a circle or has
-    /// siblings, a schema keyword that the validator would pass over, an operation told twice.
+    /// @throws ContractError for an unreadable file, a reference that is dangling, circular or has siblings, a schema
+    /// keyword that the validator would ignore, or an operation defined twice.
     static Contract Load(const std::filesystem::path& folder);
 
     [[nodiscard]] const std::vector<Operation>& operations() const { return m_operations; }
@@ -69,13 +69,13 @@ public:
 
     struct Match {
         bool pathKnown = false;
-        const Operation* operation = nullptr;  ///< null when the path is unknown or knows no such method
+        const Operation* operation = nullptr;  ///< null for an unknown path or method
         PathValues values;                     ///< decoded
     };
-    /// @param path as it came over the wire, without query. A literal segment wins over a placeholder.
+    /// @param path as received, without query. A literal segment takes precedence over a placeholder.
     [[nodiscard]] Match find(const std::string& method, const std::string& path) const;
 
-    /// The operation that reads what this one writes: the GET of the same path; null when there is none.
+    /// The operation that reads the data this one writes: the GET of the same path; null when there is none.
     [[nodiscard]] const Operation* readerOf(const Operation& writer) const;
 
 private:

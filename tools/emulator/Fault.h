@@ -10,31 +10,31 @@
 
 namespace emulator {
 
-/// Something that goes wrong with the next requests whose target begins with a prefix.
+/// A fault to inject into the next requests whose target begins with a prefix.
 struct Fault {
-    /// Delay, Cut, CloseMiddle, Large and Slow carry the call out and spoil its answer. All others stand in its place:
-    /// the state does not change, and neither token nor path is looked at.
+    /// Delay, Cut, CloseMiddle, Large and Slow execute the call and modify its reply. All others replace the reply
+    /// without executing the call: the state does not change, and neither token nor path is checked.
     enum class Kind {
-        Delay,        ///< the true answer, late
-        Status,       ///< an HTTP status, with the headers and the body given
-        Envelope,     ///< an envelope with the code and text given
+        Delay,        ///< the real reply, delayed
+        Status,       ///< a reply with the given status, headers and body
+        Envelope,     ///< an envelope with the given code and text
         Empty,        ///< status 200 and no body
-        Cut,          ///< the first half of the true body, as a complete HTTP answer
-        NotJson,      ///< status 200 and a body that is no JSON
-        Text,         ///< status 200 and the body given
-        Large,        ///< the true answer, its "desc" made so long that the body has the size given
-        CloseBefore,  ///< the connection is closed without an answer
-        CloseMiddle,  ///< the connection is closed after half of the true body
-        Silent,       ///< no answer and no end, until the client goes away or the emulator stops
-        Reset,        ///< the connection is reset without an answer
-        Slow          ///< the true answer, its body sent at the speed given
+        Cut,          ///< the first half of the real body, as a complete HTTP reply
+        NotJson,      ///< status 200 and a body that is not JSON
+        Text,         ///< status 200 and the given body
+        Large,        ///< the real reply, with "desc" extended until the body has the given size
+        CloseBefore,  ///< the connection is closed without a reply
+        CloseMiddle,  ///< the connection is closed after half of the real body
+        Silent,       ///< no reply, until the client disconnects or the emulator stops
+        Reset,        ///< the connection is reset without a reply
+        Slow          ///< the real reply, with its body sent at the given speed
     };
 
-    std::string path;                    ///< start of the target, query included; empty fits all
-    Kind kind = Kind::Delay;             ///< what goes wrong
-    std::string method;                  ///< of the request, such as "PUT"; empty fits all
-    int times = 1;                       ///< how many requests it hits; 0: all until it is cleared
-    std::chrono::milliseconds delay{0};  ///< before anything else; goes with every kind
+    std::string path;                    ///< prefix of the target, query included; empty matches all
+    Kind kind = Kind::Delay;             ///< the kind of fault
+    std::string method;                  ///< of the request, such as "PUT"; empty matches all
+    int times = 1;                       ///< number of requests it applies to; 0: all, until it is cleared
+    std::chrono::milliseconds delay{0};  ///< before everything else, for every kind
     int status = 200;                    ///< of Kind::Status
     std::vector<std::pair<std::string, std::string>> headers;  ///< of Kind::Status
     int code = 0;                                              ///< of Kind::Envelope
@@ -43,12 +43,12 @@ struct Fault {
     std::size_t size = 0;                                      ///< of Kind::Large, in bytes
     std::size_t bytesPerSecond = 1024;                         ///< of Kind::Slow
 
-    /// Reads a fault as the control path takes it.
-    /// @param json an object with "kind" and what goes with it
+    /// Reads a fault in the control path's format.
+    /// @param json an object with "kind" and the members for that kind
     /// @return the fault
-    /// @throws std::invalid_argument with a text for the user.
+    /// @throws std::invalid_argument whose text says what is wrong.
     static Fault FromJson(const Json& json);
-    /// @return the fault as the control path lists it
+    /// @return the fault in the control path's format
     [[nodiscard]] Json toJson() const;
 };
 

@@ -27,8 +27,8 @@ constexpr std::array kKinds = {KindName{Fault::Kind::Delay, "delay"},
                                KindName{Fault::Kind::Silent, "silent"},
                                KindName{Fault::Kind::Reset, "reset"},
                                KindName{Fault::Kind::Slow, "slow"}};
-constexpr int kDayMilliseconds = 24 * 60 * 60 * 1000;
-constexpr int kLargestAnswer = 1024 * 1024 * 1024;
+constexpr int kMillisecondsPerDay = 24 * 60 * 60 * 1000;
+constexpr int kLargestReply = 1024 * 1024 * 1024;
 
 Fault::Kind KindOf(const std::string& name)
 {
@@ -77,7 +77,7 @@ void SetMember(Fault& fault, const std::string& name, const Json& value)
     } else if (name == "times") {
         fault.times = NumberIn(value, name, 0, INT_MAX);
     } else if (name == "delayMs") {
-        fault.delay = std::chrono::milliseconds(NumberIn(value, name, 0, kDayMilliseconds));
+        fault.delay = std::chrono::milliseconds(NumberIn(value, name, 0, kMillisecondsPerDay));
     } else if (name == "status") {
         fault.status = NumberIn(value, name, 200, 599);
     } else if (name == "headers" && value.is_object()) {
@@ -91,9 +91,9 @@ void SetMember(Fault& fault, const std::string& name, const Json& value)
     } else if (name == "body") {
         fault.body = TextIn(value, name);
     } else if (name == "size") {
-        fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestAnswer));
+        fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestReply));
     } else if (name == "bytesPerSecond") {
-        fault.bytesPerSecond = static_cast<std::size_t>(NumberIn(value, name, 1, kLargestAnswer));
+        fault.bytesPerSecond = static_cast<std::size_t>(NumberIn(value, name, 1, kLargestReply));
     } else {
         throw std::invalid_argument(name + ": not expected");
     }

@@ -10,14 +10,14 @@
 
 namespace emulator {
 
-/// The faults that are switched on; safe to use from several threads.
+/// The active faults; thread-safe.
 class Faults {
 public:
     void add(Fault fault);
     [[nodiscard]] std::vector<Fault> list() const;
     void clear();
 
-    /// The first fault that fits a request, counted down.
+    /// Returns the first fault that matches the request and decrements its remaining times.
     std::optional<Fault> take(const std::string& method, std::string_view target);
 
 private:

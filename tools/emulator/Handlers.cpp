@@ -18,7 +18,7 @@ std::string Lower(std::string text)
     return text;
 }
 
-/// Identifiers are texts, a few are numbers.
+/// Most identifiers are strings, but some are numbers.
 bool IsIdentifiedBy(const Json& element, const std::string& field, const std::string& id)
 {
     const Json& value = element.at(field);
@@ -32,7 +32,7 @@ auto PositionOf(List& list, const std::string& field, const std::string& id)
                         [&](const Json& element) { return IsIdentifiedBy(element, field, id); });
 }
 
-/// The number that a text begins with; 0 without one.
+/// The number at the start of a text; 0 without one.
 std::uint64_t LeadingNumber(const std::string& text)
 {
     std::uint64_t number = 0;
@@ -40,10 +40,10 @@ std::uint64_t LeadingNumber(const std::string& text)
     return number;
 }
 
-/// One more than the highest identifier of the list, and never one that was given before.
+/// One more than the highest identifier so far; identifiers of deleted elements are not reused.
 std::string NewIdentifier(const Call& call, const Collection& collection)
 {
-    Json& last = call.state[Place("/lastIdentifiers")][collection.list.to_string()];
+    Json& last = call.state[StatePath("/lastIdentifiers")][collection.list.to_string()];
     std::uint64_t highest = last.is_null() ? 0 : last.get<std::uint64_t>();
     for (const Json& element : call.state.at(collection.list)) {
         highest = std::max(highest, LeadingNumber(element.at(collection.identifier)));
@@ -56,14 +56,14 @@ Json Filtered(const Json& list, const std::vector<Filter>& filters, const Call& 
 {
     Json kept = Json::array();
     for (const Json& element : list) {
-        if (std::all_of(filters.begin(), filters.end(), [&](const Filter& passes) { return passes(element, call); })) {
+        if (std::all_of(filters.begin(), filters.end(), [&](const Filter& filter) { return filter(element, call); })) {
             kept.push_back(element);
         }
     }
     return kept;
 }
 
-/// Page number and size go as numbers in a query and as text in a body.
+/// Reads a page number or size, which is a number in a query and a string in a body.
 std::size_t CountOf(const Call& call, const std::string& name)
 {
     const std::string text = ValueOf(call, name);
@@ -177,46 +177,46 @@ Json BodyAsRead(const Call& call, const std::string& reader)
 
 std::string NextNumber(const Call& call, const std::string& name)
 {
-    Json& number = call.state[Place("/numbers")][name];
+    Json& number = call.state[StatePath("/numbers")][name];
     number = number.is_null() ? 1 : number.get<int>() + 1;
     return number.dump();
 }
 
-void Remember(const Call& call)
+void RecordAccepted(const Call& call)
 {
-    call.state[Place("/accepted") / call.operation.id].push_back(
+    call.state[StatePath("/accepted") / call.operation.id].push_back(
         Json{{"path", call.path}, {"query", call.query}, {"body", call.body}});
 }
 
-Handler ReadDocument(const Place& place)
+Handler ReadDocument(const StatePath& path)
 {
-    return {[place](const Call& call) { return call.state.at(place); }, place.to_string()};
+    return {[path](const Call& call) { return call.state.at(path); }, path.to_string()};
 }
 
-Handler WriteDocument(const Place& place)
+Handler WriteDocument(const StatePath& path)
 {
-    return [place](const Call& call) {
-        call.state.at(place).update(BodyAsRead(call));
+    return [path](const Call& call) {
+        call.state.at(path).update(BodyAsRead(call));
         return Json::object();
     };
 }
 
-Handler ReadEntry(const Place& place, const Collection& owners)
+Handler ReadEntry(const StatePath& path, const Collection& owners)
 {
-    return {[place, owners](const Call& call) {
+    return {[path, owners](const Call& call) {
                 const std::string& id = PathValue(call);
                 owners.find(call.state, id);
-                const Json& entries = call.state.at(place);
+                const Json& entries = call.state.at(path);
                 return entries.contains(id) ? entries.at(id) : entries.at("*");
             },
-            place.to_string() + "/{}"};
+            path.to_string() + "/{}"};
 }
 
-Handler WriteEntry(const Place& place, const Collection& owners)
+Handler WriteEntry(const StatePath& path, const Collection& owners)
 {
-    return [place, owners](const Call& call) {
+    return [path, owners](const Call& call) {
         owners.find(call.state, PathValue(call));
-        call.state.at(place)[PathValue(call)] = BodyAsRead(call);
+        call.state.at(path)[PathValue(call)] = BodyAsRead(call);
         return Json::object();
     };
 }
@@ -227,18 +227,18 @@ Handler ReadElement(const Collection& collection)
             collection.list.to_string() + "/[]"};
 }
 
-Handler List(const Place& place, std::vector<Filter> filters)
+Handler List(const StatePath& path, std::vector<Filter> filters)
 {
-    return {[place, filters = std::move(filters)](const Call& call) {
-                return Json{{"results", Filtered(call.state.at(place), filters, call)}};
+    return {[path, filters = std::move(filters)](const Call& call) {
+                return Json{{"results", Filtered(call.state.at(path), filters, call)}};
             },
-            place.to_string() + "/[]", "/properties/results/items"};
+            path.to_string() + "/[]", "/properties/results/items"};
 }
 
-Handler Page(const Place& place, std::vector<Filter> filters)
+Handler Page(const StatePath& path, std::vector<Filter> filters)
 {
-    const auto pageOf = [place, filters = std::move(filters)](const Call& call) {
-        const Json all = Filtered(call.state.at(place), filters, call);
+    const auto pageOf = [path, filters = std::move(filters)](const Call& call) {
+        const Json all = Filtered(call.state.at(path), filters, call);
         const std::size_t page = std::max<std::size_t>(CountOf(call, "page"), 1);
         const std::size_t size = CountOf(call, "pageSize");
         const std::size_t begin = std::min((page - 1) * size, all.size());
@@ -248,7 +248,7 @@ Handler Page(const Place& place, std::vector<Filter> filters)
                   std::back_inserter(data));
         return Json{{"totalCount", all.size()}, {"pageData", data}};
     };
-    return {pageOf, place.to_string() + "/[]", "/properties/pageData/items"};
+    return {pageOf, path.to_string() + "/[]", "/properties/pageData/items"};
 }
 
 Handler Create(const Collection& collection, const std::string& reader)
@@ -291,15 +291,15 @@ Handler AcceptFor(const Collection& owners)
 {
     return [owners](const Call& call) {
         owners.find(call.state, PathValue(call));
-        Remember(call);
+        RecordAccepted(call);
         return Json::object();
     };
 }
 
-Json AnswerAsInTheExample(const Call& call)
+Json ReplyWithExample(const Call& call)
 {
     if (call.operation.method != "GET") {
-        Remember(call);
+        RecordAccepted(call);
     }
     return call.operation.dataExample();
 }

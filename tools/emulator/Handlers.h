@@ -12,7 +12,7 @@
 
 namespace emulator {
 
-/// Codes of the envelopes with which the emulator refuses a call or owns up to a mistake.
+/// The codes of envelopes: success, refusals, and the emulator's own errors.
 namespace code {
 constexpr int Success = 1000;
 constexpr int UnknownPath = 1001;
@@ -23,7 +23,7 @@ constexpr int UnknownObject = 1005;
 constexpr int ContractBroken = 1006;
 }  // namespace code
 
-/// A call is refused with an envelope of this code and text.
+/// Refuses a call with an envelope of this code and text.
 class Refusal : public std::runtime_error {
 public:
     Refusal(int envelopeCode, const std::string& text) : std::runtime_error(text), m_code(envelopeCode) {}
@@ -33,24 +33,24 @@ private:
     int m_code;
 };
 
-/// One call that the contract has found to be right. Query values have the type that the contract gives them.
+/// A call that conforms to the contract. Query values have the types of the contract.
 struct Call {
     const Contract& contract;
     const Operation& operation;
     const PathValues& path;
     const Json& query;
-    const Json& body;  ///< null where the call has none
+    const Json& body;  ///< null for a call without a body
     State& state;
 };
 
-/// Carries a call out: changes the state and returns the reply's "data". Keys that the contract has no room for are
-/// dropped from it afterwards, so a handler may return a record as the state holds it.
+/// Executes a call: changes the state and returns the reply's "data". Keys that the contract does not define are
+/// removed afterwards, so a handler may return a record exactly as it is in the state.
 class Handler {
 public:
-    /// @param action carries the call out
-    /// @param source where the state holds what the call returns, such as "/brms/userGroups/[]", for the check of the
-    /// seeds: "[]" is each element of a list, "{}" each member of an object. Empty: the handler puts it together.
-    /// @param part the place in the schema of "data" of what the source holds; empty for all of it
+    /// @param action executes the call
+    /// @param source the path in the state of the data that the call returns, for the check of the seeds, such as
+    /// "/brms/userGroups/[]": "[]" is any element of a list, "{}" any member of an object. Empty for composed data.
+    /// @param part the path in the schema of "data" that describes the source; empty for the whole schema
     template <typename Action>
     Handler(Action action, std::string source = {}, std::string part = {})
         : m_action(std::move(action)), m_source(std::move(source)), m_part(std::move(part))
@@ -66,95 +66,95 @@ private:
     std::string m_part;
 };
 
-/// Operation identifier -> handler. A family is one such table.
+/// Handlers by operation identifier. Each family has its own table.
 using HandlerTable = std::map<std::string, Handler>;
 
-/// Decides whether an element of a list belongs to the answer of a call.
+/// Returns whether an element of a list belongs in the reply.
 using Filter = std::function<bool(const Json& element, const Call& call)>;
 
-/// @name Filters; an empty query or body value lets everything pass
+/// @name Filters; an empty query or body value matches everything
 /// @{
-/// One of the fields holds the text of "keyword", case does not matter.
+/// One of the fields contains the text of "keyword", ignoring case.
 Filter HasKeyword(std::vector<std::string> fields);
 /// The field equals the value of that name.
 Filter Equals(const std::string& name);
-/// The field is one of the texts that the value names, separated by ','.
+/// The field is one of the comma-separated texts in the value.
 Filter OneOf(const std::string& name, const std::string& field);
-/// The field "orgCode" equals the value of that name or, when "containChild" is on, begins with it.
+/// The field "orgCode" equals the value of that name or, if "containChild" is on, begins with it.
 Filter InOrganisation();
 /// @}
 
-/// A list in the state whose elements know their identifier.
+/// A list in the state whose elements have an identifier.
 struct Collection {
-    Place list;
-    std::string identifier;  ///< the field that holds it
+    StatePath list;
+    std::string identifier;  ///< name of the identifier's field
 
-    /// @throws Refusal when there is no such element.
+    /// @throws Refusal for an unknown identifier.
     Json& find(State& state, const std::string& id) const;
     [[nodiscard]] bool has(State& state, const std::string& id) const;
 };
 
-/// The element of a list whose field holds the identifier.
-/// @throws Refusal when there is no such element.
+/// The element of a list with this identifier in the field.
+/// @throws Refusal for an unknown identifier.
 Json& ElementOf(Json& list, const std::string& field, const std::string& id);
 
-/// @throws Refusal that says that there is no such object. It claims to return for use in an expression.
+/// Always throws the Refusal for an unknown object. The return type allows use in an expression.
 Json RefuseUnknown(const std::string& id);
 
 /// @name Values of a call
 /// @{
 /// The call's only path value.
 const std::string& PathValue(const Call& call);
-/// The value from query or body; empty text when it is in neither.
+/// The value from the query or the body; empty when it is in neither.
 std::string ValueOf(const Call& call, const std::string& name);
-/// The texts of a list that is separated by ','; empty ones are left out.
+/// The parts of a comma-separated list, without empty ones.
 std::vector<std::string> Listed(const std::string& text);
-/// A switch is on as "1" and as "true".
+/// Whether a switch is on: "1" or "true".
 bool IsOn(const std::string& text);
-/// The body in the types of the data that the named operation (the GET of the same path if empty) returns.
+/// The body, converted to the types that the reader operation returns; the default is the GET of the same path.
 Json BodyAsRead(const Call& call, const std::string& reader = {});
 /// @}
 
-/// 1, 2, 3 and so on for each name, as text.
+/// The next number of the sequence 1, 2, 3, ... of this name, as text.
 std::string NextNumber(const Call& call, const std::string& name);
 
-/// Keeps path values, query and body of a write that no call reads back, under "/accepted/<operation>".
-void Remember(const Call& call);
+/// Records path values, query and body under "/accepted/<operation>", for a write that no call reads back.
+void RecordAccepted(const Call& call);
 
 /// @name Ready-made handlers
 /// @{
-/// One document for the whole platform, read and written whole.
-Handler ReadDocument(const Place& place);
-Handler WriteDocument(const Place& place);
+/// A single document for the platform. A write replaces the values that it sends.
+Handler ReadDocument(const StatePath& path);
+Handler WriteDocument(const StatePath& path);
 
-/// A document for each element of a collection, kept in an object by identifier; where none is kept yet the one named
-/// "*" answers.
-Handler ReadEntry(const Place& place, const Collection& owners);
-Handler WriteEntry(const Place& place, const Collection& owners);
+/// A document for each element of a collection, stored in an object by identifier. The document "*" is the default for
+/// elements without one.
+Handler ReadEntry(const StatePath& path, const Collection& owners);
+Handler WriteEntry(const StatePath& path, const Collection& owners);
 
-/// One element of a collection, by the path value.
+/// The element of a collection that the path value identifies.
 Handler ReadElement(const Collection& collection);
 
-/// {"results": [...]} with the elements that pass all filters.
-Handler List(const Place& place, std::vector<Filter> filters = {});
+/// {"results": [...]} with the elements that match all filters.
+Handler List(const StatePath& path, std::vector<Filter> filters = {});
 
-/// {"totalCount": n, "pageData": [...]} of the elements that pass all filters; pages count from 1, 0 counts as 1.
-Handler Page(const Place& place, std::vector<Filter> filters = {});
+/// {"totalCount": n, "pageData": [...]} with the elements that match all filters; pages count from 1, page 0 is page 1.
+Handler Page(const StatePath& path, std::vector<Filter> filters = {});
 
-/// A new element with the body's values and an identifier of its own, which is the reply.
-/// @param reader the operation whose data has the types to keep
+/// Adds an element with the body's values and a new identifier, and returns the identifier.
+/// @param reader the operation whose data defines the types to store
 Handler Create(const Collection& collection, const std::string& reader);
 Handler Update(const Collection& collection);
-/// Removes the elements that the query value "ids" names, separated by ','; refused when one is unknown.
+/// Removes the elements in the comma-separated query value "ids"; refused if one is unknown.
 Handler Delete(const Collection& collection);
 
-/// Takes the call and remembers it; refused when the path value names no element of the collection.
+/// Records the call; refused if the path value is not an element of the collection.
 Handler AcceptFor(const Collection& owners);
-/// Answers with the contract's example, and remembers what is no read.
-Json AnswerAsInTheExample(const Call& call);
+/// Replies with the contract's example, and records the call unless it is a GET.
+Json ReplyWithExample(const Call& call);
 /// @}
 
-/// The handlers of all families. AnswerAsInTheExample carries out the other operations.
+/// The handlers of all families. ReplyWithExample executes all other operations.
 const HandlerTable& AllHandlers();
 
 }  // namespace emulator

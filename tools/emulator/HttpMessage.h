@@ -9,26 +9,26 @@ namespace emulator {
 
 struct HttpRequest {
     std::string method;
-    std::string target;                                        ///< as it came, query included
-    std::vector<std::pair<std::string, std::string>> headers;  ///< as they came, without those of a chunked body's end
+    std::string target;                                        ///< as received, query included
+    std::vector<std::pair<std::string, std::string>> headers;  ///< as received, without the trailers of a chunked body
     std::string body;
-    std::size_t connection = 0;  ///< number of the TCP connection, from 1
+    std::size_t connection = 0;  ///< number of the TCP connection, counted from 1
 };
 
 struct HttpResponse {
     enum class Ending {
         Complete,
-        CloseBefore,  ///< the connection is closed instead of an answer
-        CloseMiddle,  ///< half of the body is sent, then the connection is closed
-        Reset         ///< the connection is reset instead of an answer
+        CloseBefore,  ///< the connection is closed without a reply
+        CloseMiddle,  ///< the connection is closed after half of the body
+        Reset         ///< the connection is reset without a reply
     };
 
     int status = 200;
-    /// Content-Type, Content-Length and Transfer-Encoding replace those that the server sends otherwise.
+    /// Content-Type, Content-Length and Transfer-Encoding override the server's defaults.
     std::vector<std::pair<std::string, std::string>> headers;
     std::string body;
     Ending ending = Ending::Complete;
-    std::size_t bytesPerSecond = 0;  ///< of the body; 0: as fast as the client takes it
+    std::size_t bytesPerSecond = 0;  ///< of the body; 0: as fast as the client reads
 };
 
 }  // namespace emulator

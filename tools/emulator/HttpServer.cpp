@@ -45,28 +45,28 @@ constexpr unsigned kLeastThreads = 2;
 constexpr unsigned kMostThreads = 4;
 constexpr std::size_t kReadSize = 16UL * 1024;
 constexpr std::size_t kWriteSize = 1024UL * 1024;
-/// Into how many pieces a slow answer is cut for each second, as far as there are bytes for them.
+/// Number of pieces that a slow reply sends each second.
 constexpr std::size_t kPiecesPerSecond = 10;
-/// How long a client may take nothing of an answer.
+/// Time-out for a client that does not read the reply.
 constexpr std::chrono::seconds kWriteTimeout(120);
-/// How long a client may still send after the last answer. To close at once would reset the connection, and the client
-/// might lose the answer.
+/// How long to keep reading after the last reply. Closing the connection with unread data would reset it, and the
+/// client might lose the reply.
 constexpr std::chrono::seconds kLingerTime(5);
-/// Before the next try to accept a connection when one failed, for want of file descriptors as a rule.
+/// Pause after a failure to accept a connection, which is usually a lack of file descriptors.
 constexpr std::chrono::milliseconds kAcceptPause(50);
 constexpr const char* kContentType = "application/json;charset=UTF-8";
-constexpr const char* kGoAhead = "HTTP/1.1 100 Continue\r\n\r\n";
+constexpr const char* kContinue = "HTTP/1.1 100 Continue\r\n\r\n";
 constexpr int kInternalError = 500;
 constexpr int kNoContent = 204;
 constexpr int kNotModified = 304;
 
-/// What the connections share with their server.
+/// Settings shared by the server and its connections.
 struct Shared {
     HttpHandler handler;
     std::chrono::milliseconds readTimeout;
 };
 
-/// A connection as the server knows it.
+/// The server's interface to a connection.
 class Connection {
 public:
     Connection() = default;
@@ -77,11 +77,11 @@ public:
     virtual ~Connection() = default;
 
     virtual void start() = 0;
-    /// Ends it from any thread.
+    /// Closes the connection; callable from any thread.
     virtual void abort() = 0;
 };
 
-/// The connections that are open, so that stopping can end them.
+/// The open connections, which the server closes when it stops.
 class Connections {
 public:
     void add(const std::shared_ptr<Connection>& connection)
@@ -133,7 +133,7 @@ bool HasBody(int status)
     return status != kNoContent && status != kNotModified;
 }
 
-/// A header that held the end of a line would be two.
+/// A line end inside a header would start a second header.
 bool IsOneLine(const std::string& text)
 {
     return text.find_first_of("\r\n") == std::string::npos;
@@ -168,7 +168,7 @@ std::string HeadOf(const HttpResponse& response, bool isLast, bool isOldVersion)
     return head + "\r\n\r\n";
 }
 
-/// Serves one connection. All of it runs on the socket's strand.
+/// Serves one connection. All members run on the socket's strand.
 template <typename Stream>
 class ConnectionOn final : public Connection, public std::enable_shared_from_this<ConnectionOn<Stream>> {
 public:
@@ -196,9 +196,9 @@ private:
     enum class State {
         Handshake,
         Reading,  ///< a request
-        Waiting,  ///< for what the handler wants
-        Writing,  ///< an answer
-        Ending,   ///< the last answer is out, the client may still send
+        Waiting,  ///< as the handler asked
+        Writing,  ///< a reply
+        Ending,   ///< the last reply was sent; reading until the client closes its side
         Closed
     };
 
@@ -218,8 +218,8 @@ private:
         }
         error_code ignored;
         socket().set_option(tcp::no_delay(true), ignored);
-        allow(m_shared.readTimeout);
-        watch();
+        setTimeout(m_shared.readTimeout);
+        startTimer();
         if constexpr (kIsTls) {
             m_stream.async_handshake(asio::ssl::stream_base::server,
                                      [self = this->shared_from_this()](const error_code& error) {
@@ -230,16 +230,16 @@ private:
         }
     }
 
-    void allow(Clock::duration time)
+    void setTimeout(Clock::duration time)
     {
         m_deadline = Clock::now() + time;
         if (m_timer.expiry() > m_deadline) {
-            watch();
+            startTimer();
         }
     }
 
-    /// Looks at the deadline when it may have passed; that it moves further away costs nothing.
-    void watch()
+    /// Checks the deadline when it may have passed. Extending the deadline does not restart the timer.
+    void startTimer()
     {
         m_timer.expires_at(m_deadline);
         m_timer.async_wait([self = this->shared_from_this()](const error_code& error) {
@@ -252,7 +252,7 @@ private:
     void checkDeadline()
     {
         if (m_state == State::Waiting) {
-            allow(m_shared.readTimeout);
+            setTimeout(m_shared.readTimeout);
         } else if (Clock::now() >= m_deadline) {
             if (m_state != State::Reading) {
                 close();
@@ -260,7 +260,7 @@ private:
             }
             end();
         }
-        watch();
+        startTimer();
     }
 
     void awaitRequest()
@@ -270,7 +270,7 @@ private:
         }
         m_state = State::Reading;
         m_hasBegun = false;
-        allow(m_shared.readTimeout);
+        setTimeout(m_shared.readTimeout);
         serve();
     }
 
@@ -280,14 +280,14 @@ private:
         case RequestReader::Progress::NeedsMore:
             if (!m_hasBegun && m_reader.hasBegun()) {
                 m_hasBegun = true;
-                allow(m_shared.readTimeout);
+                setTimeout(m_shared.readTimeout);
             }
             receive();
             break;
-        case RequestReader::Progress::NeedsGoAhead:
-            write(kGoAhead, {}, &ConnectionOn::awaitBody);
+        case RequestReader::Progress::ExpectsContinue:
+            write(kContinue, {}, &ConnectionOn::awaitBody);
             break;
-        case RequestReader::Progress::Whole:
+        case RequestReader::Progress::Complete:
             handle();
             break;
         case RequestReader::Progress::Refused:
@@ -299,11 +299,11 @@ private:
     void awaitBody()
     {
         m_state = State::Reading;
-        allow(m_shared.readTimeout);
+        setTimeout(m_shared.readTimeout);
         serve();
     }
 
-    /// Starts to read unless that is under way.
+    /// Starts reading unless a read is already in progress.
     void receive()
     {
         if (m_isReceiving) {
@@ -372,13 +372,13 @@ private:
         answer(ErrorResponse(m_reader.fault().status, m_reader.fault().reason));
     }
 
-    /// Reads meanwhile: that is how the end of the client shows.
-    void wait(HttpWait&& wanted)
+    /// Keeps reading, to detect that the client disconnects.
+    void wait(HttpWait&& request)
     {
         m_state = State::Waiting;
-        m_then = std::move(wanted.then);
-        if (wanted.time) {
-            m_waitTimer.expires_after(*wanted.time);
+        m_then = std::move(request.then);
+        if (request.time) {
+            m_waitTimer.expires_after(*request.time);
             m_waitTimer.async_wait([self = this->shared_from_this(), turn = m_turn](const error_code& error) {
                 if (!error && turn == self->m_turn) {
                     self->stopWaiting(false);
@@ -433,15 +433,15 @@ private:
             m_unsent = std::move(response.body);
             write(std::move(head), {}, &ConnectionOn::sendSlowly);
         } else {
-            write(std::move(head), std::move(response.body), &ConnectionOn::goOn);
+            write(std::move(head), std::move(response.body), &ConnectionOn::finishReply);
         }
     }
 
-    /// Sends what is left of a slow body, each piece after the time that it takes.
+    /// Sends the rest of a slow body in pieces, each after a pause that yields the requested rate.
     void sendSlowly()
     {
         if (m_unsent.empty()) {
-            goOn();
+            finishReply();
             return;
         }
         const std::size_t size =
@@ -456,8 +456,8 @@ private:
         });
     }
 
-    /// After an answer: the end or the next request.
-    void goOn()
+    /// Ends the connection after its last reply, or reads the next request.
+    void finishReply()
     {
         if (m_isLast) {
             end();
@@ -472,15 +472,15 @@ private:
         m_state = State::Writing;
         m_head = std::move(head);
         m_body = std::move(body);
-        allow(kWriteTimeout);
+        setTimeout(kWriteTimeout);
         const std::array<asio::const_buffer, 2> both = {asio::buffer(m_head), asio::buffer(m_body)};
-        const auto goesOn = [this](const error_code& error, std::size_t count) {
+        const auto onProgress = [this](const error_code& error, std::size_t count) {
             if (count > 0) {
-                allow(kWriteTimeout);
+                setTimeout(kWriteTimeout);
             }
             return error ? 0 : kWriteSize;
         };
-        asio::async_write(m_stream, both, goesOn,
+        asio::async_write(m_stream, both, onProgress,
                           [self = this->shared_from_this(), then](const error_code& error, std::size_t) {
                               if (self->m_state == State::Closed) {
                                   return;
@@ -490,11 +490,11 @@ private:
                           });
     }
 
-    /// Ends the own side and reads what still comes until the client ends its side.
+    /// Closes the sending side and discards incoming data until the client closes its side.
     void end()
     {
         m_state = State::Ending;
-        allow(std::min<Clock::duration>(kLingerTime, m_shared.readTimeout));
+        setTimeout(std::min<Clock::duration>(kLingerTime, m_shared.readTimeout));
         if constexpr (kIsTls) {
             m_stream.async_shutdown([self = this->shared_from_this()](const error_code&) { self->endSocket(); });
         } else {
@@ -562,22 +562,22 @@ private:
 std::string ReasonOf(const error_code& error)
 {
     if (error == asio::error::address_in_use) {
-        return Filled(Texts::tr("the port is taken"));
+        return Filled(Texts::tr("the port is in use"));
     }
     if (error == boost::system::errc::address_not_available) {
-        return Filled(Texts::tr("this machine does not have the address"));
+        return Filled(Texts::tr("this machine has no such address"));
     }
     if (error == asio::error::access_denied) {
-        return Filled(Texts::tr("no permission for the port"));
+        return Filled(Texts::tr("permission denied"));
     }
     if (error.category() == asio::error::get_netdb_category() ||
         error.category() == asio::error::get_addrinfo_category()) {
-        return Filled(Texts::tr("the address is unknown"));
+        return Filled(Texts::tr("unknown address"));
     }
     return error.message();
 }
 
-/// One port that is listened on.
+/// A listening port.
 class Listener {
 public:
     Listener(asio::io_context& context, const std::shared_ptr<ssl_ctx_st>& tls)
@@ -607,7 +607,7 @@ public:
 
     [[nodiscard]] int port() const { return m_acceptor.local_endpoint().port(); }
 
-    /// @param serve gets each connection
+    /// @param serve called with each connection
     template <typename Serve>
     void accept(Serve serve)
     {
@@ -625,7 +625,7 @@ public:
         });
     }
 
-    /// From any thread.
+    /// Callable from any thread.
     void close()
     {
         asio::post(m_acceptor.get_executor(), [this] {

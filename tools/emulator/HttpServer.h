@@ -14,30 +14,30 @@ struct ssl_ctx_st;
 
 namespace emulator {
 
-/// What a handler waits for before it answers.
+/// A wait before the reply.
 struct HttpWait {
-    std::optional<std::chrono::milliseconds> time;  ///< none: as long as the client stays
-    /// Called once, with whether the client went, or the server stopped, before the time was over.
+    std::optional<std::chrono::milliseconds> time;  ///< not set: until the client disconnects
+    /// Called once when the wait ends. @p isGone: the client disconnected or the server stopped before the time was up.
     std::function<HttpResponse(bool isGone)> then;
 };
 
 using HttpReply = std::variant<HttpResponse, HttpWait>;
 
-/// Answers a request or says what it waits for. Called on one of the server's few threads, which it must not hold up.
-/// The request stays until it is answered.
+/// Replies to a request, or asks for a wait before the reply. Runs on one of the server's few threads and must not
+/// block. The request remains valid until the reply.
 using HttpHandler = std::function<HttpReply(const HttpRequest&)>;
 
-/// A certificate signed by itself, made anew and never written to disk.
+/// Creates a self-signed certificate, which is never written to disk.
 std::shared_ptr<ssl_ctx_st> MakeServerTls();
 
-/// "127.0.0.1:80", "[::1]:80"
+/// Formats an address as "127.0.0.1:80" or "[::1]:80".
 std::string ShownAddress(const std::string& address, int port);
 
-/// Serves HTTP and HTTPS on any number of ports; a few threads do it for however many connections, which are kept
-/// alive.
+/// Serves HTTP and HTTPS on any number of ports. A few threads serve all connections, which are kept alive between
+/// requests.
 class HttpServer {
 public:
-    /// @param readTimeout how long a connection may wait for the first byte of a request, and from there for the last
+    /// @param readTimeout the time-out for the first byte of a request, and again from there to the last
     HttpServer(HttpHandler handler, std::chrono::milliseconds readTimeout);
     ~HttpServer();
     HttpServer(const HttpServer&) = delete;
@@ -45,17 +45,17 @@ public:
     HttpServer(HttpServer&&) = delete;
     HttpServer& operator=(HttpServer&&) = delete;
 
-    /// Listens from here on, until the server stops.
-    /// @param port 0 for any free one
+    /// Starts listening on a port, until the server stops.
+    /// @param port 0 for any free port
     /// @param tls null for plain HTTP
     /// @return the port
-    /// @throws std::runtime_error that says why not.
+    /// @throws std::runtime_error with the reason when it cannot listen.
     int listen(const std::string& address, int port, const std::shared_ptr<ssl_ctx_st>& tls = nullptr);
 
-    /// Ends all connections, also those whose request still waits, and returns when all is at rest.
+    /// Closes all connections, including those with a waiting request, and returns when all threads have ended.
     void stop();
 
-    /// @return how many connections were accepted so far
+    /// @return the number of connections accepted so far
     [[nodiscard]] std::size_t connections() const;
 
 private:

@@ -25,7 +25,7 @@ HttpResponse ResponseWith(int status, const Json& envelope)
     return response;
 }
 
-/// The value in the type of its schema: "12" is a number where an integer is asked.
+/// Converts the text to the type of its schema: "12" becomes a number for an integer.
 Json TypedValue(const QueryParameter& parameter, const std::string& text)
 {
     Json value = ConvertTo(parameter.schema.document(), text);
@@ -121,7 +121,7 @@ Json Platform::envelopeFor(const HttpRequest& request)
     const Json query = CheckedQuery(operation, request.target);
     const Json body = CheckedBody(operation, request.body);
     Json envelope = Envelope(code::Success, "Success");
-    envelope["data"] = ProjectOn(operation.dataSchema, carryOut(operation, match.values, query, body));
+    envelope["data"] = ProjectOn(operation.dataSchema, execute(operation, match.values, query, body));
     const std::string breach = operation.success.breach(envelope);
     if (!breach.empty()) {
         throw Refusal(code::ContractBroken, "answer of " + operation.id + ": " + breach);
@@ -129,10 +129,10 @@ Json Platform::envelopeFor(const HttpRequest& request)
     return envelope;
 }
 
-Json Platform::carryOut(const Operation& operation, const PathValues& path, const Json& query, const Json& body)
+Json Platform::execute(const Operation& operation, const PathValues& path, const Json& query, const Json& body)
 {
     const auto found = AllHandlers().find(operation.id);
-    const Handler& handler = found == AllHandlers().end() ? AnswerAsInTheExample : found->second;
+    const Handler& handler = found == AllHandlers().end() ? ReplyWithExample : found->second;
     const std::lock_guard lock(m_mutex);
     return handler(Call{m_contract, operation, path, query, body, m_state});
 }

@@ -41,7 +41,7 @@ Json ListOf(const List& list)
     return json;
 }
 
-/// Makes the envelope's "desc" long enough for the whole body to have the size.
+/// Extends the envelope's "desc" until the body has the size.
 std::string Enlarged(const std::string& body, std::size_t size)
 {
     Json envelope = Json::parse(body);
@@ -81,13 +81,13 @@ HttpResponse Replacement(const Fault& fault)
     return response;
 }
 
-bool SpoilsTrueAnswer(Fault::Kind kind)
+bool ModifiesRealReply(Fault::Kind kind)
 {
     return kind == Fault::Kind::Delay || kind == Fault::Kind::Cut || kind == Fault::Kind::CloseMiddle ||
            kind == Fault::Kind::Large || kind == Fault::Kind::Slow;
 }
 
-void Spoil(HttpResponse& response, const Fault& fault)
+void Modify(HttpResponse& response, const Fault& fault)
 {
     switch (fault.kind) {
     case Fault::Kind::Cut:
@@ -158,45 +158,45 @@ private:
 
     HttpReply serve(const HttpRequest& request)
     {
-        // In this order a request that is recorded has met its fault: who waits for it may add the next one.
+        // Taken before the request is recorded: a test that waits for the record may then add the next fault.
         std::optional<Fault> fault = m_faults.take(request.method, OriginForm(request.target));
         const std::size_t number = m_log.add(request);
         if (!fault) {
-            return noted(m_platform.answer(request), request, number);
+            return logged(m_platform.answer(request), request, number);
         }
         const bool isSilent = fault->kind == Fault::Kind::Silent;
         if (!isSilent && fault->delay.count() == 0) {
-            return noted(answerWith(*fault, request), request, number);
+            return logged(answerWith(*fault, request), request, number);
         }
         HttpWait wait;
         if (!isSilent) {
             wait.time = fault->delay;
         }
         wait.then = [this, fault = *std::move(fault), &request, number](bool isGone) {
-            return noted(isGone ? gone() : answerWith(fault, request), request, number);
+            return logged(isGone ? closed() : answerWith(fault, request), request, number);
         };
         return wait;
     }
 
     HttpResponse answerWith(const Fault& fault, const HttpRequest& request)
     {
-        if (!SpoilsTrueAnswer(fault.kind)) {
+        if (!ModifiesRealReply(fault.kind)) {
             return Replacement(fault);
         }
         HttpResponse response = m_platform.answer(request);
-        Spoil(response, fault);
+        Modify(response, fault);
         return response;
     }
 
-    static HttpResponse gone()
+    static HttpResponse closed()
     {
         HttpResponse response;
         response.ending = HttpResponse::Ending::CloseBefore;
         return response;
     }
 
-    /// Records and prints what a request is answered with.
-    HttpResponse noted(HttpResponse response, const HttpRequest& request, std::size_t number)
+    /// Records and prints the reply to a request.
+    HttpResponse logged(HttpResponse response, const HttpRequest& request, std::size_t number)
     {
         const bool answered =
             response.ending != HttpResponse::Ending::CloseBefore && response.ending != HttpResponse::Ending::Reset;
@@ -260,7 +260,7 @@ private:
         return withJson(text, [this](const Json& json) { return done([&] { m_platform.mergeState(json); }); });
     }
 
-    /// @param action throws std::invalid_argument for JSON that it does not take
+    /// @param action throws std::invalid_argument for JSON that it rejects
     static HttpResponse withJson(const std::string& text, const std::function<HttpResponse(const Json&)>& action)
     {
         const Json json = Json::parse(text, nullptr, false);

@@ -11,33 +11,33 @@
 #include <string>
 #include <vector>
 
-/// The platform server to develop and test against.
+/// A platform server for development and tests.
 namespace emulator {
 
-/// The token that an emulator accepts unless told otherwise.
+/// The token that an emulator accepts by default.
 constexpr const char* kDefaultToken = "emulator-token";
 
-/// Where contract and seed data are.
-/// @return share/apimodule in the nearest folder above this library that has it, else above the running program
+/// Finds the folder of the contract and the seed data.
+/// @return share/apimodule in the nearest parent folder of this library that has it, or else of the running program
 std::filesystem::path DefaultShareFolder();
 
-/// How an emulator runs.
+/// Options of an emulator.
 struct Options {
-    std::string address = "127.0.0.1";                                   ///< listened on
-    int httpPort = 0;                                                    ///< 0: any free one
-    int httpsPort = 0;                                                   ///< 0: any free one
-    std::string token = kDefaultToken;                                   ///< that callers must send
+    std::string address = "127.0.0.1";                                   ///< address to listen on
+    int httpPort = 0;                                                    ///< 0: any free port
+    int httpsPort = 0;                                                   ///< 0: any free port
+    std::string token = kDefaultToken;                                   ///< token that clients must send
     std::filesystem::path contract = DefaultShareFolder() / "contract";  ///< folder of the contract
     std::filesystem::path seed = DefaultShareFolder() / "seed";          ///< folder of the seed data
-    int scale = 1;                                                       ///< multiplies the seeded lists
-    bool controlPath = true;                                             ///< answer /emulator/v1/...
-    std::string controlToken;                                            ///< asked for there; empty: none is
-    bool verbose = false;  ///< a line for each request on standard output, without the token
-    /// How long a connection may be idle; a request that has begun has as long to be there whole.
+    int scale = 1;                                                       ///< factor for the length of the seeded lists
+    bool controlPath = true;                                             ///< whether to serve /emulator/v1/...
+    std::string controlToken;  ///< token for the control path; empty: none required
+    bool verbose = false;      ///< prints a line for each request, with the token masked
+    /// Time-out of an idle connection, and of a request from its first byte to its last.
     std::chrono::milliseconds readTimeout = std::chrono::seconds(30);
 };
 
-/// Serves the contract with state over HTTP and HTTPS. All members may be called from any thread.
+/// A stateful server of the contract over HTTP and HTTPS. All members may be called from any thread.
 ///
 /// @code
 /// emulator::PlatformEmulator platform;
@@ -48,60 +48,60 @@ struct Options {
 /// @endcode
 class PlatformEmulator {
 public:
-    /// Reads contract and seeds; serves nothing yet.
-    /// @param options how it is to run
-    /// @throws std::exception when one of them cannot be used.
+    /// Reads contract and seeds, without serving yet.
+    /// @param options the options
+    /// @throws std::exception when contract or seeds are invalid.
     explicit PlatformEmulator(Options options = {});
-    /// Stops.
+    /// Stops the emulator.
     ~PlatformEmulator();
     PlatformEmulator(const PlatformEmulator&) = delete;
     PlatformEmulator& operator=(const PlatformEmulator&) = delete;
     PlatformEmulator(PlatformEmulator&&) = delete;
     PlatformEmulator& operator=(PlatformEmulator&&) = delete;
 
-    /// Listens from here on. Started once.
+    /// Starts listening. Call it once.
     /// @throws std::runtime_error when a port cannot be bound.
     void start();
 
-    /// Closes all connections, hanging requests included, and returns when all is at rest.
+    /// Closes all connections, including those with a waiting request, and returns when all threads have ended.
     void stop();
 
-    /// @return the port that HTTP is spoken on, once it listens
+    /// @return the port for HTTP, once the emulator listens
     [[nodiscard]] int httpPort() const;
-    /// @return the port that HTTPS is spoken on, once it listens
+    /// @return the port for HTTPS, once the emulator listens
     [[nodiscard]] int httpsPort() const;
 
-    /// Switches a fault on. Of several that fit a request the oldest is taken.
+    /// Adds a fault. If several match a request, the oldest applies.
     /// @param fault the fault
     void addFault(Fault fault);
-    /// @return the faults that are switched on, with what is left of their times
+    /// @return the active faults, with their remaining times
     [[nodiscard]] std::vector<Fault> faults() const;
-    /// Switches all faults off.
+    /// Removes all faults.
     void clearFaults();
 
-    /// @return the recorded requests, the oldest first: the latest 10,000, and 64 MiB of bodies at most
+    /// @return the recorded requests, oldest first: at most the last 10,000, with at most 64 MiB of bodies
     [[nodiscard]] std::vector<RecordedRequest> requests() const;
-    /// Forgets the recorded requests.
+    /// Removes the recorded requests.
     void clearRequests();
-    /// Waits until so many requests were recorded since the last clearRequests().
-    /// @param count how many
-    /// @param time longest wait
-    /// @return false when the time was over first
+    /// Waits until @p count requests have been recorded since the last clearRequests().
+    /// @param count number of requests
+    /// @param time time-out
+    /// @return false on time-out
     [[nodiscard]] bool waitForRequests(std::size_t count, std::chrono::milliseconds time) const;
 
-    /// @return the whole state: the seeds by family, as the calls have changed them
+    /// @return the whole state by family: the seeds with all changes made by calls
     [[nodiscard]] Json state() const;
-    /// Replaces the state, to give a test the data it needs.
-    /// @param state a member for each family
+    /// Replaces the state, for a test that needs certain data.
+    /// @param state an object with a member for each family
     void setState(Json state);
     /// Changes parts of the state.
-    /// @param patch what changes, as a JSON merge patch (RFC 7396): a list is replaced whole, null removes a member
-    /// @throws std::invalid_argument when the patch is no object.
+    /// @param patch a JSON merge patch (RFC 7396), which replaces lists as a whole and removes members with null
+    /// @throws std::invalid_argument when the patch is not an object.
     void mergeState(const Json& patch);
-    /// Back to the seeds; faults and recorded requests stay.
+    /// Restores the seeds. Faults and recorded requests remain.
     void reset();
 
-    /// @return how many TCP connections were accepted so far, on both ports
+    /// @return the number of TCP connections accepted so far, on both ports
     [[nodiscard]] std::size_t connections() const;
 
 private:

@@ -59,7 +59,7 @@ std::size_t RequestLog::add(const HttpRequest& request)
     record.number = ++m_lastNumber;
     m_bodyBytes += record.body.size();
     m_requests.push_back(std::move(record));
-    forgetOldest();
+    removeOldest();
     m_arrived.notify_all();
     return m_lastNumber;
 }
@@ -94,7 +94,7 @@ bool RequestLog::waitFor(std::size_t count, std::chrono::milliseconds time) cons
     return m_arrived.wait_for(lock, time, [&] { return m_requests.size() >= count; });
 }
 
-void RequestLog::forgetOldest()
+void RequestLog::removeOldest()
 {
     while (m_requests.size() > kMostRequests || (m_requests.size() > 1 && m_bodyBytes > kMostBodyBytes)) {
         m_bodyBytes -= m_requests.front().body.size();

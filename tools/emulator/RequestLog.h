@@ -16,22 +16,22 @@
 
 namespace emulator {
 
-/// Keeps the requests, the latest 10,000 of them and 64 MiB of bodies at most; safe to use from several threads.
+/// Records at most the last 10,000 requests with at most 64 MiB of bodies; thread-safe.
 class RequestLog {
 public:
-    /// @return the number under which the request is kept
+    /// @return the number of the recorded request
     std::size_t add(const HttpRequest& request);
     void answered(std::size_t number, int status, std::optional<int> code);
 
     [[nodiscard]] std::vector<RecordedRequest> list() const;
     void clear();
 
-    /// Waits until so many requests are there.
-    /// @return false when the time was over first
+    /// Waits until @p count requests are recorded.
+    /// @return false on time-out
     bool waitFor(std::size_t count, std::chrono::milliseconds time) const;
 
 private:
-    void forgetOldest();
+    void removeOldest();
 
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_arrived;
@@ -40,10 +40,10 @@ private:
     std::size_t m_bodyBytes = 0;
 };
 
-/// The pairs of a query, decoded as forms are: '+' is a blank.
+/// The names and values of a query, decoded as in forms: '+' is a space.
 std::vector<std::pair<std::string, std::string>> QueryOf(const std::string& target);
 
-/// The target without the scheme and the host that it may begin with.
+/// The target without scheme and host, if it has them.
 std::string_view OriginForm(std::string_view target);
 
 /// The target without host and query, not decoded.

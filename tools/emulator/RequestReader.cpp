@@ -21,10 +21,10 @@ namespace http = beast::http;
 using boost::system::error_code;
 using Progress = RequestReader::Progress;
 
-/// Method and version beside the target.
+/// The target with method and version.
 constexpr std::size_t kLongestRequestLine = kLongestTarget + 32;
-/// What is left of any chunked body between two chunks; the parser stumbles over less.
-constexpr std::size_t kLeastOfChunk = std::string_view("0\r\n\r\n").size();
+/// The shortest possible rest of a chunked body between two chunks; the parser fails on less.
+constexpr std::size_t kShortestChunkRest = std::string_view("0\r\n\r\n").size();
 constexpr int kHttp10 = 10;
 constexpr int kHttp11 = 11;
 
@@ -37,7 +37,7 @@ constexpr int kHeadTooLarge = 431;
 constexpr int kNotImplemented = 501;
 constexpr int kVersionNotSupported = 505;
 
-/// Keeps the fields as they come.
+/// Stores the fields as received.
 class Parser final : public http::basic_parser<true> {
 public:
     explicit Parser(HttpRequest& request) : m_request(request)
@@ -47,7 +47,7 @@ public:
     }
 
     [[nodiscard]] int version() const { return m_version; }
-    /// Whether the bytes that come next are lines of text: the size of a chunk, or the end of a chunked body.
+    /// Whether the next bytes are lines of text: the size of a chunk, or the trailers.
     [[nodiscard]] bool isBetweenChunks() const { return chunked() && !m_inChunk; }
 
 private:
@@ -138,8 +138,8 @@ bool HasFoldedLine(std::string_view lines)
     return lines.find("\r\n ") != std::string_view::npos || lines.find("\r\n\t") != std::string_view::npos;
 }
 
-/// Goes through lines of text, which end in CR LF and hold no other control character. The parser would wait for more
-/// where the wrong end of a line makes it miss the right one.
+/// Checks that lines of text end in CR LF and contain no other control character. The parser does not report a wrong
+/// line end: it waits for more data.
 class LineScan {
 public:
     enum class Found {
@@ -148,7 +148,7 @@ public:
         Fault
     };
 
-    /// Goes to the end of the line, or of the text, from where it stopped before.
+    /// Continues to the end of the line or of the text.
     Found scan(std::string_view text)
     {
         for (; m_at < text.size(); ++m_at) {
@@ -166,9 +166,9 @@ public:
         return Found::Nothing;
     }
 
-    /// How far it came.
+    /// The current position.
     [[nodiscard]] std::size_t position() const { return m_at; }
-    /// Whether the line that ended last holds nothing.
+    /// Whether the last complete line is empty.
     [[nodiscard]] bool lineWasEmpty() const { return m_line == m_lineBefore + 2; }
 
 private:
@@ -177,7 +177,7 @@ private:
     std::size_t m_lineBefore = 0;
 };
 
-/// A length whose digits are right and that no number holds.
+/// Whether a Content-Length is valid but too large for an integer.
 bool DeclaresHugeLength(std::string_view head)
 {
     constexpr std::string_view name = "content-length:";
@@ -195,7 +195,7 @@ bool DeclaresHugeLength(std::string_view head)
     return false;
 }
 
-/// A request line of three parts whose last one is "HTTP/" and two digits around a point.
+/// Whether the line has three parts, and the last one has the form "HTTP/d.d".
 bool NamesVersion(std::string_view line)
 {
     constexpr std::string_view form = " HTTP/d.d\r\n";
@@ -239,7 +239,7 @@ std::optional<RequestFault> FaultOfHost(const HttpRequest& request, int version)
     return std::nullopt;
 }
 
-/// The parser reads a message whose codings it does not know as one without a body.
+/// Checks Transfer-Encoding, because the parser treats a message with an unknown coding as one without a body.
 std::optional<RequestFault> FaultOfTransferCoding(const HttpRequest& request, int version)
 {
     std::size_t chunked = 0;
@@ -326,10 +326,10 @@ public:
                 }
                 if (!m_parser->is_done() && rest().empty() && m_parser->version() >= kHttp11 &&
                     !ExpectationOf(m_request).empty()) {
-                    return Progress::NeedsGoAhead;
+                    return Progress::ExpectsContinue;
                 }
             } else if (m_parser->is_done()) {
-                return Progress::Whole;
+                return Progress::Complete;
             } else if (!readBody()) {
                 return m_fault ? Progress::Refused : Progress::NeedsMore;
             }
@@ -358,7 +358,7 @@ public:
     [[nodiscard]] std::string_view rest() const { return std::string_view(m_input).substr(m_used); }
 
     std::string m_input;
-    std::size_t m_used = 0;  ///< bytes of the input that are read
+    std::size_t m_used = 0;  ///< bytes of the input parsed so far
     HttpRequest m_request;
     std::optional<Parser> m_parser;
     std::optional<RequestFault> m_fault;
@@ -366,7 +366,7 @@ public:
 private:
     void refuse(RequestFault fault) { m_fault = std::move(fault); }
 
-    /// Passes over one empty line, which some clients send after a body.
+    /// Skips one empty line, which some clients send after a body.
     bool begin()
     {
         const std::string_view input = rest();
@@ -382,7 +382,7 @@ private:
         return true;
     }
 
-    /// @return whether the head is whole and right
+    /// @return whether the head is complete and valid
     bool readHead()
     {
         const std::string_view input = rest();
@@ -409,7 +409,7 @@ private:
         }
     }
 
-    /// Looks at the request line at once: what speaks another protocol may never send the end of a head.
+    /// Checks the request line immediately: a client of another protocol may never send the end of the head.
     bool readRequestLine(std::string_view line, LineScan::Found found)
     {
         const std::size_t blank = std::min(line.find(' '), line.size());
@@ -445,7 +445,7 @@ private:
         return true;
     }
 
-    /// @return whether it came on
+    /// @return whether any bytes were parsed
     bool readBody()
     {
         const std::string_view input = rest();
@@ -475,7 +475,7 @@ private:
         return !m_fault;
     }
 
-    /// The line that holds the size of the next chunk, behind the end of the one before.
+    /// Whether the line with the size of the next chunk is complete, after the end of the previous chunk.
     bool hasChunkSize(std::string_view input)
     {
         LineScan lines;
@@ -483,10 +483,10 @@ private:
         if (found == LineScan::Found::LineEnd && lines.lineWasEmpty()) {
             found = lines.scan(input);
         }
-        return checkText(input, found) && found == LineScan::Found::LineEnd && input.size() >= kLeastOfChunk;
+        return checkText(input, found) && found == LineScan::Found::LineEnd && input.size() >= kShortestChunkRest;
     }
 
-    /// The end of the body that is not all there.
+    /// Checks the incomplete end of a chunked body.
     void checkEndOfBody(std::string_view input)
     {
         LineScan lines;
@@ -508,7 +508,7 @@ private:
     }
 
     LineScan m_lines;
-    std::size_t m_parsed = 0;  ///< bytes of the head that the parser has taken
+    std::size_t m_parsed = 0;  ///< bytes of the head passed to the parser
     bool m_skippedLine = false;
 };
 

@@ -9,33 +9,33 @@
 
 namespace emulator {
 
-/// The longest target that is taken; status 414 beyond.
+/// The longest accepted target; longer ones get status 414.
 constexpr std::size_t kLongestTarget = 8UL * 1024;
-/// The largest request line and headers together; status 431 beyond.
+/// The largest accepted request line and headers together; larger ones get status 431.
 constexpr std::size_t kLargestHead = 256UL * 1024;
-/// The same for the headers after a chunked body.
+/// The same for the trailers of a chunked body.
 constexpr std::size_t kLargestEndOfBody = 16UL * 1024;
-/// The largest body; status 413 beyond.
+/// The largest accepted body; larger ones get status 413.
 constexpr std::size_t kLargestBody = 256UL * 1024 * 1024;
 
-/// Whether requests of this method are served; status 501 for any other.
+/// Whether requests with this method are served; others get status 501.
 bool IsServed(const std::string& method);
 
-/// Why a request is not served.
+/// The reason for rejecting a request.
 struct RequestFault {
     int status = 0;
     std::string reason;
 };
 
-/// Reads the requests out of the bytes of one connection, one after the other, as RFC 9112 has them. However the bytes
-/// are cut into pieces, the requests are the same.
+/// Parses the requests of one connection one after the other, according to RFC 9112. The result does not depend on how
+/// the bytes are split into pieces.
 class RequestReader {
 public:
     enum class Progress {
-        NeedsMore,     ///< bytes
-        NeedsGoAhead,  ///< the client waits for status 100 before it sends the body; reported once
-        Whole,         ///< the request is there
-        Refused        ///< what came is no request, or none that is served; nothing after it is read
+        NeedsMore,        ///< the request is incomplete
+        ExpectsContinue,  ///< the client waits for status 100 before it sends the body; reported once
+        Complete,         ///< the request is complete
+        Refused           ///< the request is invalid or not served; the reader stops here
     };
 
     RequestReader();
@@ -45,29 +45,29 @@ public:
     RequestReader(RequestReader&&) = delete;
     RequestReader& operator=(RequestReader&&) = delete;
 
-    /// Takes what has come.
+    /// Adds received bytes.
     void add(std::string_view bytes);
 
-    /// Reads on as far as the bytes go.
+    /// Parses the bytes added so far.
     Progress read();
 
-    /// The client ended its side: a request that has begun is refused.
+    /// Handles the end of the client's data: refuses an incomplete request.
     Progress readEnd();
 
-    /// Turns to the next request, after a whole one.
+    /// Starts the next request, after a complete one.
     void next();
 
-    /// @return whether part of a request is there
+    /// @return whether part of a request was received
     [[nodiscard]] bool hasBegun() const;
-    /// @return how many bytes wait to be read
+    /// @return the number of bytes not parsed yet
     [[nodiscard]] std::size_t pending() const;
-    /// @return the request, once it is whole; it stays until the next one
+    /// @return the complete request, valid until next()
     [[nodiscard]] HttpRequest& request();
-    /// @return whether the client leaves the connection open after a whole request
+    /// @return whether the connection stays open after the request
     [[nodiscard]] bool keepsAlive() const;
-    /// @return whether the request is of HTTP/1.0
+    /// @return whether the request uses HTTP/1.0
     [[nodiscard]] bool isOldVersion() const;
-    /// @return why it is refused
+    /// @return the reason for refusing the request
     [[nodiscard]] const RequestFault& fault() const;
 
 private:

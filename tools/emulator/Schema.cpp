@@ -15,22 +15,22 @@ namespace {
 using Adapter = valijson::adapters::NlohmannJsonAdapter;
 using Error = valijson::ValidationResults::Error;
 
-/// The validator names a place as "<root>", "[streams]", "[0]".
-Json::json_pointer PlaceOf(const Error& error)
+/// Converts the validator's form of a path: "<root>", "[streams]", "[0]".
+Json::json_pointer PathOf(const Error& error)
 {
-    Json::json_pointer place;
+    Json::json_pointer path;
     for (std::size_t i = 1; i < error.context.size(); ++i) {
         const std::string& step = error.context[i];
-        place /= step.substr(1, step.size() - 2);
+        path /= step.substr(1, step.size() - 2);
     }
-    return place;
+    return path;
 }
 
-const Json* SchemaAt(const Json& schema, Json::json_pointer place)
+const Json* SchemaAt(const Json& schema, Json::json_pointer path)
 {
     std::vector<std::string> steps;
-    for (; !place.empty(); place.pop_back()) {
-        steps.push_back(place.back());
+    for (; !path.empty(); path.pop_back()) {
+        steps.push_back(path.back());
     }
     const Json* node = &schema;
     for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
@@ -55,39 +55,39 @@ bool HasType(const Json& value, const std::string& type)
     return type == value.type_name();
 }
 
-/// The first of: wrong type, missing key, surplus key; whatever else is wrong keeps the validator's words.
+/// Describes common violations in the emulator's words, and all others in the validator's words.
 std::string Describe(const Json& schema, const Json& root, const Error& error)
 {
-    const Json::json_pointer place = PlaceOf(error);
-    const Json* wanted = SchemaAt(schema, place);
-    const Json& value = root.at(place);
+    const Json::json_pointer path = PathOf(error);
+    const Json* wanted = SchemaAt(schema, path);
+    const Json& value = root.at(path);
     if (wanted != nullptr && wanted->contains("type") && wanted->at("type").is_string()) {
         const std::string type = wanted->at("type");
         if (!HasType(value, type)) {
-            return place.to_string() + ": expected " + type + ", got " + value.type_name();
+            return path.to_string() + ": expected " + type + ", got " + value.type_name();
         }
     }
     if (wanted != nullptr && wanted->contains("enum") && value.is_primitive()) {
-        return place.to_string() + ": expected one of " + wanted->at("enum").dump() + ", got " + value.dump();
+        return path.to_string() + ": expected one of " + wanted->at("enum").dump() + ", got " + value.dump();
     }
     if (wanted != nullptr && wanted->contains("minimum") && value.is_number() && value < wanted->at("minimum")) {
-        return place.to_string() + ": expected at least " + wanted->at("minimum").dump() + ", got " + value.dump();
+        return path.to_string() + ": expected at least " + wanted->at("minimum").dump() + ", got " + value.dump();
     }
     if (wanted != nullptr && value.is_object()) {
         for (const Json& key : wanted->value("required", Json::array())) {
             if (!value.contains(key.get<std::string>())) {
-                return (place / key.get<std::string>()).to_string() + ": missing";
+                return (path / key.get<std::string>()).to_string() + ": missing";
             }
         }
         const Json properties = wanted->value("properties", Json::object());
         for (const auto& member : value.items()) {
             if (wanted->value("additionalProperties", Json(true)) == Json(false) &&
                 !properties.contains(member.key())) {
-                return (place / member.key()).to_string() + ": not expected";
+                return (path / member.key()).to_string() + ": not expected";
             }
         }
     }
-    return place.to_string() + ": " + error.description;
+    return path.to_string() + ": " + error.description;
 }
 
 std::optional<std::int64_t> IntegerOf(const std::string& text)

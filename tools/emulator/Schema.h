@@ -7,10 +7,10 @@
 
 namespace emulator {
 
-/// A JSON Schema that is compiled once and can then be asked from several threads.
+/// A compiled JSON Schema; validation is thread-safe.
 class Schema {
 public:
-    /// @throws std::exception when the schema itself is wrong.
+    /// @throws std::exception for an invalid schema.
     explicit Schema(Json document);
     ~Schema();
     Schema(Schema&&) noexcept;
@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] const Json& document() const { return m_document; }
 
-    /// What is wrong with the value and where, such as "/interval: expected string, got number"; empty for a valid one.
+    /// The first violation with its path, such as "/interval: expected string, got number"; empty for a valid value.
     [[nodiscard]] std::string breach(const Json& value) const;
 
 private:
@@ -30,11 +30,11 @@ private:
     std::unique_ptr<Compiled> m_compiled;
 };
 
-/// The value in the JSON types that the schema demands: "30" becomes 30 where an integer is asked, "1" becomes true
-/// where a boolean is. What cannot be converted stays as it is.
+/// Converts the value to the JSON types of the schema: "30" becomes 30 for an integer, "1" becomes true for a boolean.
+/// Values that cannot be converted remain unchanged.
 Json ConvertTo(const Json& schema, const Json& value);
 
-/// The value without the keys that the schema has no room for.
+/// Removes the keys that the schema does not permit.
 Json ProjectOn(const Json& schema, const Json& value);
 
 }  // namespace emulator

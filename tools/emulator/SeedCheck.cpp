@@ -9,56 +9,56 @@
 namespace emulator {
 namespace {
 
-struct Kept {
-    const char* place;
+struct Required {
+    const char* path;
     const char* type;
 };
-/// What handlers read beside what their calls return.
-constexpr std::array kKept = {
-    Kept{"/brms/alarmLinkages/[]/alarmType", "integer"},
-    Kept{"/brms/alarmLinkages/[]/sourceCode", "string"},
-    Kept{"/brms/alarmPlans/[]/quickCommandIds/[]", "string"},
-    Kept{"/brms/alarmRecords/[]/id", "string"},
-    Kept{"/brms/failingChannels/{}", "integer"},
-    Kept{"/brms/layers/[]/resourceCode", "string"},
-    Kept{"/brms/layers/[]/resourceType", "integer"},
-    Kept{"/brms/users/[]/groupId", "string"},
-    Kept{"/brms/users/[]/id", "string"},
-    Kept{"/iams/tasks/[]/id", "string"},
-    Kept{"/inventory/devices/[]/deviceCategory", "integer"},
-    Kept{"/inventory/devices/[]/domain", "string"},
-    Kept{"/inventory/devices/[]/orgCode", "string"},
-    Kept{"/inventory/devices/[]/permitted", "boolean"},
-    Kept{"/inventory/devices/[]/sourceType", "string"},
-    Kept{"/ipms/captureRecords/[]/id", "string"},
-    Kept{"/obms/contacts/{}/[]", "string"},
-    Kept{"/obms/managedErrors/{}", "string"},
-    Kept{"/obms/managedPersons/{}/[]", "string"},
-    Kept{"/obms/persons/[]/deviceCodes/[]", "string"},
-    Kept{"/obms/persons/[]/orgCode", "string"},
-    Kept{"/obms/persons/[]/pointIds/[]", "string"},
-    Kept{"/obms/points/[]/pointId", "string"},
-    Kept{"/obms/zones/[]/zoneId", "string"},
+/// Values that handlers read but do not return.
+constexpr std::array kRequired = {
+    Required{"/brms/alarmLinkages/[]/alarmType", "integer"},
+    Required{"/brms/alarmLinkages/[]/sourceCode", "string"},
+    Required{"/brms/alarmPlans/[]/quickCommandIds/[]", "string"},
+    Required{"/brms/alarmRecords/[]/id", "string"},
+    Required{"/brms/failingChannels/{}", "integer"},
+    Required{"/brms/layers/[]/resourceCode", "string"},
+    Required{"/brms/layers/[]/resourceType", "integer"},
+    Required{"/brms/users/[]/groupId", "string"},
+    Required{"/brms/users/[]/id", "string"},
+    Required{"/iams/tasks/[]/id", "string"},
+    Required{"/inventory/devices/[]/deviceCategory", "integer"},
+    Required{"/inventory/devices/[]/domain", "string"},
+    Required{"/inventory/devices/[]/orgCode", "string"},
+    Required{"/inventory/devices/[]/permitted", "boolean"},
+    Required{"/inventory/devices/[]/sourceType", "string"},
+    Required{"/ipms/captureRecords/[]/id", "string"},
+    Required{"/obms/contacts/{}/[]", "string"},
+    Required{"/obms/managedErrors/{}", "string"},
+    Required{"/obms/managedPersons/{}/[]", "string"},
+    Required{"/obms/persons/[]/deviceCodes/[]", "string"},
+    Required{"/obms/persons/[]/orgCode", "string"},
+    Required{"/obms/persons/[]/pointIds/[]", "string"},
+    Required{"/obms/points/[]/pointId", "string"},
+    Required{"/obms/zones/[]/zoneId", "string"},
 };
 
-/// A record of the state may have more keys than a reply.
-Json WithRoom(Json schema)
+/// Permits additional keys, because a record in the state may have more keys than in a reply.
+Json WithAdditionalKeys(Json schema)
 {
     if (schema.is_structured()) {
         if (schema.is_object() && schema.value("additionalProperties", Json()) == Json(false)) {
             schema.erase("additionalProperties");
         }
         for (Json& inner : schema) {
-            inner = WithRoom(std::move(inner));
+            inner = WithAdditionalKeys(std::move(inner));
         }
     }
     return schema;
 }
 
-/// The schema of the whole state, of which what is at the place has the one given.
-Json SchemaOfState(const std::string& place, Json schema)
+/// Wraps the schema of a path into a schema of the whole state.
+Json SchemaOfState(const std::string& path, Json schema)
 {
-    std::vector<std::string> steps = Split(place.substr(1), '/');
+    std::vector<std::string> steps = Split(path.substr(1), '/');
     for (; !steps.empty(); steps.pop_back()) {
         if (steps.back() == "[]") {
             schema = Json{{"type", "array"}, {"items", std::move(schema)}};
@@ -71,12 +71,12 @@ Json SchemaOfState(const std::string& place, Json schema)
     return schema;
 }
 
-void Check(const Json& seeds, const std::string& place, const Json& schema)
+void Check(const Json& seeds, const std::string& path, const Json& schema)
 {
-    const std::string breach = Schema(SchemaOfState(place, schema)).breach(seeds);
+    const std::string breach = Schema(SchemaOfState(path, schema)).breach(seeds);
     if (!breach.empty()) {
-        const std::size_t path = breach.find('/', 1);
-        throw SeedError(breach.substr(1, path - 1) + ".json: " + breach.substr(path));
+        const std::size_t inner = breach.find('/', 1);
+        throw SeedError(breach.substr(1, inner - 1) + ".json: " + breach.substr(inner));
     }
 }
 
@@ -84,8 +84,8 @@ void Check(const Json& seeds, const std::string& place, const Json& schema)
 
 void CheckSeeds(const Json& seeds, const Contract& contract)
 {
-    for (const Kept& kept : kKept) {
-        Check(seeds, kept.place, Json{{"type", kept.type}});
+    for (const Required& required : kRequired) {
+        Check(seeds, required.path, Json{{"type", required.type}});
     }
     for (const Operation& operation : contract.operations()) {
         const auto found = AllHandlers().find(operation.id);
@@ -94,7 +94,7 @@ void CheckSeeds(const Json& seeds, const Contract& contract)
         }
         const Json::json_pointer part(found->second.part());
         if (operation.dataSchema.contains(part)) {
-            Check(seeds, found->second.source(), WithRoom(operation.dataSchema.at(part)));
+            Check(seeds, found->second.source(), WithAdditionalKeys(operation.dataSchema.at(part)));
         }
     }
 }

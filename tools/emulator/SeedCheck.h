@@ -4,9 +4,9 @@
 
 namespace emulator {
 
-/// Holds the seeds against what the contract says of the replies made of them, and against what else the handlers read.
-/// Places that the seeds do not have are passed over.
-/// @throws SeedError that names file and place of the first wrong value.
+/// Checks the seeds against the contract's schemas of the replies built from them, and checks the types of all other
+/// values that handlers read. Ignores paths that are missing in the seeds.
+/// @throws SeedError with the file and path of the first wrong value.
 void CheckSeeds(const Json& seeds, const Contract& contract);
 
 }  // namespace emulator

@@ -20,25 +20,25 @@ Json ReadFile(const std::filesystem::path& file)
     }
 }
 
-/// Appends the mark to a text, or to each text of a list; an empty text names nothing and stays.
-void MarkTexts(Json& value, const std::string& mark)
+/// Appends the suffix to a text or to each text of a list. Empty texts identify nothing and remain unchanged.
+void AppendSuffix(Json& value, const std::string& suffix)
 {
     if (value.is_array()) {
         for (Json& element : value) {
-            MarkTexts(element, mark);
+            AppendSuffix(element, suffix);
         }
     } else if (value.is_string() && !value.get_ref<const std::string&>().empty()) {
-        value = value.get<std::string>() + mark;
+        value = value.get<std::string>() + suffix;
     }
 }
 
-void MarkCopy(Json& node, const Json& identifiers, const std::string& mark)
+void RenameIdentifiers(Json& node, const Json& identifiers, const std::string& suffix)
 {
     for (auto& member : node.items()) {
         if (std::find(identifiers.begin(), identifiers.end(), member.key()) != identifiers.end()) {
-            MarkTexts(member.value(), mark);
+            AppendSuffix(member.value(), suffix);
         } else if (member.value().is_structured()) {
-            MarkCopy(member.value(), identifiers, mark);
+            RenameIdentifiers(member.value(), identifiers, suffix);
         }
     }
 }
@@ -55,7 +55,7 @@ Json LoadSeeds(const std::filesystem::path& folder)
         }
     }
     if (seeds.empty()) {
-        throw SeedError(Filled(Texts::tr("no seed file in the folder %1"), folder.string()));
+        throw SeedError(Filled(Texts::tr("folder %1 contains no seed file"), folder.string()));
     }
     return seeds;
 }
@@ -67,7 +67,7 @@ State::State(Json seeds, int scale) : m_seeds(std::move(seeds)), m_identifiers(J
             const Json rule = family.value().value("scale", Json::object());
             family.value().erase("scale");
             for (const Json& name : rule.value("lists", Json::array())) {
-                const Place list = Place() / family.key() / name.get<std::string>();
+                const StatePath list = StatePath() / family.key() / name.get<std::string>();
                 m_seeds.at(list).get_ref<const Json::array_t&>();
                 m_identifiers[list.to_string()] = rule.at("identifiers");
             }
@@ -78,27 +78,27 @@ State::State(Json seeds, int scale) : m_seeds(std::move(seeds)), m_identifiers(J
     reset();
 }
 
-Json& State::at(const Place& place)
+Json& State::at(const StatePath& path)
 {
-    multiplyWhatMeets(place);
-    return m_families.at(place);
+    multiplyListsAt(path);
+    return m_families.at(path);
 }
 
-Json& State::operator[](const Place& place)
+Json& State::operator[](const StatePath& path)
 {
-    multiplyWhatMeets(place);
-    return m_families[place];
+    multiplyListsAt(path);
+    return m_families[path];
 }
 
 const Json& State::families()
 {
-    multiplyWhatMeets({});
+    multiplyListsAt({});
     return m_families;
 }
 
 void State::set(Json families)
 {
-    m_single.clear();
+    m_unmultiplied.clear();
     m_families = std::move(families);
 }
 
@@ -106,19 +106,19 @@ void State::reset()
 {
     set(m_seeds);
     for (const auto& list : m_identifiers.items()) {
-        m_single.insert(list.key());
+        m_unmultiplied.insert(list.key());
     }
 }
 
-/// The lists at the place, around it and in it.
-void State::multiplyWhatMeets(const Place& place)
+/// Multiplies the lists at the path, above it and below it.
+void State::multiplyListsAt(const StatePath& path)
 {
-    const std::string asked = place.to_string() + "/";
-    for (auto list = m_single.begin(); list != m_single.end();) {
+    const std::string wanted = path.to_string() + "/";
+    for (auto list = m_unmultiplied.begin(); list != m_unmultiplied.end();) {
         const std::string known = *list + "/";
-        if (StartsWith(known, asked) || StartsWith(asked, known)) {
+        if (StartsWith(known, wanted) || StartsWith(wanted, known)) {
             multiply(*list);
-            list = m_single.erase(list);
+            list = m_unmultiplied.erase(list);
         } else {
             ++list;
         }
@@ -132,9 +132,9 @@ void State::multiply(const std::string& list)
     const std::size_t count = elements.size();
     elements.reserve(count * static_cast<std::size_t>(m_scale));
     for (int copy = 2; copy <= m_scale; ++copy) {
-        const std::string mark = "-" + std::to_string(copy);
+        const std::string suffix = "-" + std::to_string(copy);
         for (std::size_t i = 0; i < count; ++i) {
-            MarkCopy(elements.emplace_back(elements[i]), identifiers, mark);
+            RenameIdentifiers(elements.emplace_back(elements[i]), identifiers, suffix);
         }
     }
 }

@@ -9,7 +9,7 @@
 
 namespace emulator {
 
-/// A seed file cannot be used; the text names it.
+/// An invalid seed file; the text names it.
 class SeedError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -19,50 +19,50 @@ public:
 /// @throws SeedError
 Json LoadSeeds(const std::filesystem::path& folder);
 
-/// Where something is in the state, such as "/brms/timeSync".
-struct Place : Json::json_pointer {
-    Place(const char* text = "") : json_pointer(text) {}
-    Place(const json_pointer& place) : json_pointer(place) {}
+/// A path in the state, such as "/brms/timeSync".
+struct StatePath : Json::json_pointer {
+    StatePath(const char* text = "") : json_pointer(text) {}
+    StatePath(const json_pointer& path) : json_pointer(path) {}
 };
 
-/// The state of all families, each under its name: the seeds, as the calls have changed them.
+/// The state of all families, by name: the seeds with all changes made by calls.
 ///
 /// A seed file may carry the member "scale": {"lists": ["devices", ...], "identifiers": ["deviceCode", ...]}. With a
-/// scale of N each of these lists holds N copies of its elements; in the copies the texts of the named keys, at any
-/// depth, end in "-2", "-3", ..., so that identifiers stay unique and still fit each other. A list is multiplied when
-/// it is first asked for: most of a large state is never looked at.
+/// scale of N, each of these lists has N copies of its elements. In the copies, the texts of the named keys at any
+/// depth get the suffix "-2", "-3", ..., so that identifiers stay unique and references between copies stay valid. A
+/// list is multiplied on first access, because most of a large state is never read.
 class State {
 public:
-    /// @throws SeedError when a file scales what it does not hold.
+    /// @throws SeedError when a file scales a list that it does not contain.
     State(Json seeds, int scale);
 
-    /// As with JSON, what is at a place; at() throws when nothing is.
-    Json& at(const Place& place);
-    Json& operator[](const Place& place);
+    /// The value at a path, as with JSON; at() throws if there is none.
+    Json& at(const StatePath& path);
+    Json& operator[](const StatePath& path);
     template <typename Value>
-    Value value(const Place& place, const Value& otherwise)
+    Value value(const StatePath& path, const Value& otherwise)
     {
-        return m_families.contains(place) ? at(place).get<Value>() : otherwise;
+        return m_families.contains(path) ? at(path).get<Value>() : otherwise;
     }
 
-    /// All of it.
+    /// The whole state.
     const Json& families();
     void set(Json families);
-    /// Back to the seeds.
+    /// Restores the seeds.
     void reset();
 
-    /// The seeds, each list once.
+    /// The seeds, with no list multiplied.
     [[nodiscard]] const Json& seeds() const { return m_seeds; }
 
 private:
-    void multiplyWhatMeets(const Place& place);
+    void multiplyListsAt(const StatePath& path);
     void multiply(const std::string& list);
 
     Json m_seeds;
-    Json m_identifiers;  ///< by the lists that are to be multiplied
+    Json m_identifiers;  ///< keys that identify elements, by the path of the list to multiply
     int m_scale;
     Json m_families;
-    std::set<std::string> m_single;  ///< the lists that are not multiplied yet
+    std::set<std::string> m_unmultiplied;  ///< the paths of the lists not multiplied yet
 };
 
 }  // namespace emulator

@@ -20,7 +20,7 @@ bool StartsWith(std::string_view text, std::string_view start)
     return text.substr(0, start.size()) == start;
 }
 
-std::string PercentDecode(std::string_view text, bool plusIsBlank)
+std::string PercentDecode(std::string_view text, bool plusIsSpace)
 {
     std::string decoded;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -34,7 +34,7 @@ std::string PercentDecode(std::string_view text, bool plusIsBlank)
                 continue;
             }
         }
-        decoded += plusIsBlank && text[i] == '+' ? ' ' : text[i];
+        decoded += plusIsSpace && text[i] == '+' ? ' ' : text[i];
     }
     return decoded;
 }

@@ -11,7 +11,7 @@ std::vector<std::string> Split(std::string_view text, char separator);
 
 bool StartsWith(std::string_view text, std::string_view start);
 
-/// "%41" becomes "A"; a '%' that no two hexadecimal digits follow stays. '+' becomes a blank where asked.
-std::string PercentDecode(std::string_view text, bool plusIsBlank);
+/// "%41" becomes "A"; a '%' not followed by two hexadecimal digits remains. '+' becomes a space if @p plusIsSpace.
+std::string PercentDecode(std::string_view text, bool plusIsSpace);
 
 }  // namespace emulator

@@ -6,7 +6,7 @@
 
 namespace emulator {
 
-/// What hinders a start, in the user's language.
+/// The texts of start errors in the user's language.
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Texts)
 };

@@ -23,7 +23,7 @@ using Extension = std::unique_ptr<X509_EXTENSION, Freeing<X509_EXTENSION, X509_E
 void Require(bool done)
 {
     if (!done) {
-        throw std::runtime_error(Filled(Texts::tr("the server certificate cannot be made")));
+        throw std::runtime_error(Filled(Texts::tr("cannot create the server certificate")));
     }
 }
 

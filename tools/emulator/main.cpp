@@ -21,13 +21,13 @@ namespace {
 using emulator::Filled;
 using emulator::Texts;
 
-constexpr int kWrongUse = 2;
+constexpr int kUsageError = 2;
 constexpr int kHighestPort = 65535;
 constexpr int kLargestScale = 10000;
 constexpr int kLongestReadSeconds = 24 * 60 * 60;
 
-/// The signals that end the program, held back in all threads and waited for in the first.
-sigset_t HoldBackEndSignals()
+/// Blocks SIGTERM and SIGINT in all threads; the main thread waits for them.
+sigset_t BlockTerminationSignals()
 {
     sigset_t signals{};
     sigemptyset(&signals);
@@ -37,7 +37,7 @@ sigset_t HoldBackEndSignals()
     return signals;
 }
 
-/// As many connections as the system lets this user have, not the few that a shell starts with.
+/// Raises the limit of open files to the maximum for this user; the default of a shell is too low for many connections.
 void AllowManyConnections()
 {
     rlimit files{};
@@ -54,7 +54,7 @@ void PrintPort(const char* scheme, const std::string& address, int port)
 
 int Run(const emulator::Options& options)
 {
-    const sigset_t signals = HoldBackEndSignals();
+    const sigset_t signals = BlockTerminationSignals();
     AllowManyConnections();
     emulator::PlatformEmulator platform(options);
     platform.start();
@@ -66,34 +66,34 @@ int Run(const emulator::Options& options)
     return 0;
 }
 
-/// The exit status of a command line that ends the program, none for one that starts it.
+/// Reads the command line. Returns the exit status if the program ends here, as after --help.
 std::optional<int> Read(int argc, char** argv, emulator::Options& options)
 {
-    CLI::App app{Filled(Texts::tr("platform-emulator: a platform server to develop and test against. It answers the "
-                                  "services of the contract with state, over HTTP and HTTPS at once, and prints each "
-                                  "address when it listens.")),
-                 "platform-emulator"};
+    CLI::App app{
+        Filled(Texts::tr("platform-emulator: a stateful platform server for development and tests. It serves the "
+                         "contract over both HTTP and HTTPS and prints each address when it starts to listen.")),
+        "platform-emulator"};
     translation::TranslateHelp(app);
     app.set_help_flag("-h,--help", Filled(Texts::tr("Print this help")));
     app.set_version_flag("--version", std::string("platform-emulator ") + EMULATOR_VERSION,
                          Filled(Texts::tr("Print the version")));
     app.add_option("--address", options.address, Filled(Texts::tr("Address to listen on")))->capture_default_str();
-    app.add_option("--http-port", options.httpPort, Filled(Texts::tr("Port for HTTP, 0 for any free one")))
+    app.add_option("--http-port", options.httpPort, Filled(Texts::tr("Port for HTTP; 0 selects a free port")))
         ->check(translation::InRange(0, kHighestPort))
         ->capture_default_str();
-    app.add_option("--https-port", options.httpsPort, Filled(Texts::tr("Port for HTTPS, 0 for any free one")))
+    app.add_option("--https-port", options.httpsPort, Filled(Texts::tr("Port for HTTPS; 0 selects a free port")))
         ->check(translation::InRange(0, kHighestPort))
         ->capture_default_str();
     const auto isNotEmpty = [](const std::string& token) {
-        return token.empty() ? Filled(Texts::tr("is empty")) : std::string();
+        return token.empty() ? Filled(Texts::tr("must not be empty")) : std::string();
     };
     app.add_option("--token", options.token,
-                   Filled(Texts::tr("Token that callers must send as X-Subject-Token (default: see docs/emulator.md); "
-                                    "the environment keeps it out of the process list")))
+                   Filled(Texts::tr("Token that clients must send as X-Subject-Token (default: see docs/emulator.md); "
+                                    "pass it in the environment to keep it out of the process list")))
         ->check(isNotEmpty)
         ->envname("PLATFORM_EMULATOR_TOKEN");
     app.add_option("--control-token", options.controlToken,
-                   Filled(Texts::tr("Token that the control path asks for as X-Subject-Token (default: none)")))
+                   Filled(Texts::tr("Token that the control path requires as X-Subject-Token (default: none)")))
         ->check(isNotEmpty)
         ->envname("PLATFORM_EMULATOR_CONTROL_TOKEN");
     //: Stands for the value of --contract and of --seed
@@ -106,15 +106,15 @@ std::optional<int> Read(int argc, char** argv, emulator::Options& options)
                    Filled(Texts::tr("Folder of the seed data (default: ../share/apimodule/seed)")))
         ->check(translation::ExistingFolder())
         ->type_name(folder);
-    app.add_option("--scale", options.scale, Filled(Texts::tr("Makes the seeded lists so many times as long")))
+    app.add_option("--scale", options.scale, Filled(Texts::tr("Factor for the length of the seeded lists")))
         ->check(translation::InRange(1, kLargestScale))
         ->capture_default_str();
     app.add_option_function<int>(
            "--read-timeout", [&options](int seconds) { options.readTimeout = std::chrono::seconds(seconds); },
-           Filled(Texts::tr("Seconds after which an idle connection, or one whose request does not end, is closed")))
+           Filled(Texts::tr("Seconds before an idle connection or an incomplete request is closed")))
         ->check(translation::InRange(1, kLongestReadSeconds))
         ->default_str(std::to_string(std::chrono::duration_cast<std::chrono::seconds>(options.readTimeout).count()));
-    app.add_flag("!--no-control", options.controlPath, Filled(Texts::tr("Refuse the control path /emulator/v1/")));
+    app.add_flag("!--no-control", options.controlPath, Filled(Texts::tr("Disable the control path /emulator/v1/")));
     app.add_flag("--verbose", options.verbose, Filled(Texts::tr("Print a line for each request")));
     try {
         app.parse(argc, argv);
@@ -137,6 +137,6 @@ int main(int argc, char** argv)
         return ended ? *ended : Run(options);
     } catch (const std::exception& error) {
         std::cerr << "platform-emulator: " << error.what() << std::endl;
-        return kWrongUse;
+        return kUsageError;
     }
 }

@@ -14,7 +14,7 @@ QString Folder()
 
 Application::Application(int& argc, char** argv) : m_application(argc, argv)
 {
-    // The application object takes all of the environment's locale, but numbers are the same in every language here.
+    // QCoreApplication sets the locale from the environment, but numbers must be formatted the same in every language.
     std::setlocale(LC_NUMERIC, "C");
 
     for (const char* name : {"apimodule", "tools"}) {

@@ -10,11 +10,11 @@ class QTranslator;
 
 namespace translation {
 
-/// Where the translations lie, beside the folder of the program.
+/// The folder of the translations, relative to the folder of the program.
 QString Folder();
 
-/// The application object of a program for the shell, which speaks the language of the environment: LANGUAGE, or else
-/// LC_ALL, LC_MESSAGES or LANG. It speaks English where there is no translation.
+/// The application object of a command-line program. Loads the translations for the language of the environment:
+/// LANGUAGE, or else LC_ALL, LC_MESSAGES or LANG. Texts without a translation stay English.
 class Application {
 public:
     Application(int& argc, char** argv);

@@ -15,13 +15,13 @@ struct Texts {
 
 constexpr const char* kSeparator = ": ";
 
-/// What CLI11 puts before the reason: the name of the option.
+/// The option's name, which is the first part of CLI11's message "<name>: <reason>".
 std::string NameOfOption(const std::string& text)
 {
     return text.substr(0, text.find(kSeparator));
 }
 
-/// What it puts behind the reason: the option with its value.
+/// The option and its value, which are the last part of CLI11's message "<reason>: <option> = <value>".
 std::string OptionAndValue(const std::string& text)
 {
     const std::size_t at = text.find(kSeparator);
@@ -36,7 +36,7 @@ void TranslateHelp(CLI::App& app)
     formatter->label("Usage", Filled(Texts::tr("Usage")));
     //: In "Usage: apicall [OPTIONS]"
     formatter->label("OPTIONS", Filled(Texts::tr("OPTIONS")));
-    //: Heading over the arguments that are no options
+    //: Heading over the arguments other than options
     formatter->label("Positionals", Filled(Texts::tr("Positionals")));
     //: Before the name of an environment variable, short for "environment"
     formatter->label("Env", Filled(Texts::tr("Env")));
@@ -49,14 +49,14 @@ void TranslateHelp(CLI::App& app)
 std::string Explain(const CLI::App& app, const CLI::ParseError& error)
 {
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
-        return Filled(Texts::tr("not expected: %1"), CLI::detail::join(app.remaining(), " "));
+        return Filled(Texts::tr("unexpected argument: %1"), CLI::detail::join(app.remaining(), " "));
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
-        return Filled(Texts::tr("%1 takes exactly one value"), NameOfOption(error.what()));
+        return Filled(Texts::tr("%1 requires exactly one value"), NameOfOption(error.what()));
     }
     if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) {
         //: %1 is an option with its value
-        return Filled(Texts::tr("cannot be used: %1"), OptionAndValue(error.what()));
+        return Filled(Texts::tr("invalid value: %1"), OptionAndValue(error.what()));
     }
     return error.what();
 }
@@ -68,7 +68,7 @@ CLI::Validator InRange(int least, int most)
     const std::string to = std::to_string(most);
     const auto check = [range, from, to](std::string& value) {
         return range(value).empty() ? std::string()
-                                    : Filled(Texts::tr("%1 is not a whole number from %2 to %3"), value, from, to);
+                                    : Filled(Texts::tr("%1 is not an integer from %2 to %3"), value, from, to);
     };
     return {check, from + ".." + to};
 }
@@ -77,7 +77,7 @@ CLI::Validator ExistingFolder()
 {
     const auto check = [](std::string& value) {
         return CLI::ExistingDirectory(value).empty() ? std::string()
-                                                     : Filled(Texts::tr("there is no folder %1"), value);
+                                                     : Filled(Texts::tr("folder %1 does not exist"), value);
     };
     return {check, std::string()};
 }

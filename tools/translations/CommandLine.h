@@ -6,16 +6,16 @@
 
 namespace translation {
 
-/// The words of CLI11's own help in the user's language. Comes before the options.
+/// Translates the fixed texts of CLI11's help. Call it before adding options.
 void TranslateHelp(CLI::App& app);
 
-/// Why the command line was refused, in the user's language.
+/// The reason for a parse error in the user's language.
 std::string Explain(const CLI::App& app, const CLI::ParseError& error);
 
-/// Takes a whole number of the range.
+/// Accepts an integer in the range.
 CLI::Validator InRange(int least, int most);
 
-/// Takes the name of a folder that is there.
+/// Accepts the path of an existing folder.
 CLI::Validator ExistingFolder();
 
 }  // namespace translation

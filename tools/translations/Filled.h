@@ -6,7 +6,7 @@
 
 namespace translation {
 
-/// A translated text as UTF-8, with the parts in the places of its %1, %2 and so on.
+/// A translated text as UTF-8, with %1, %2 and so on replaced by the parts.
 template <typename... Parts>
 std::string Filled(const QString& text, const Parts&... parts)
 {

@@ -5,20 +5,20 @@
     <name>Texts</name>
     <message>
         <source>cannot read %1</source>
-        <translation>%1 ist nicht lesbar</translation>
+        <translation>%1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>cannot open %1</source>
         <translation>%1 kann nicht geöffnet werden</translation>
     </message>
     <message>
-        <source>%1 is not JSON: it cannot be read from byte %2 on</source>
-        <extracomment>%1 is what was read, %2 a number</extracomment>
-        <translation>%1 ist kein JSON: ab Byte %2 ist es nicht lesbar</translation>
+        <source>%1 is not valid JSON: syntax error at byte %2</source>
+        <extracomment>%1 is the name of the input, %2 a number</extracomment>
+        <translation>%1 ist kein gültiges JSON: Syntaxfehler bei Byte %2</translation>
     </message>
     <message>
-        <source>nothing may follow the JSON object with the arguments</source>
-        <translation>auf das JSON-Objekt mit den Argumenten darf nichts folgen</translation>
+        <source>a JSON object must be the only argument</source>
+        <translation>ein JSON-Objekt muss das einzige Argument sein</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -42,9 +42,9 @@
         <translation>das Argument „%1“ (%2)</translation>
     </message>
     <message>
-        <source>first byte after %1 ms, end after %2 ms</source>
+        <source>first byte after %1 ms, complete after %2 ms</source>
         <extracomment>Times in milliseconds</extracomment>
-        <translation>erstes Byte nach %1 ms, Ende nach %2 ms</translation>
+        <translation>erstes Byte nach %1 ms, vollständig nach %2 ms</translation>
     </message>
     <message>
         <source>Arguments: none</source>
@@ -63,34 +63,34 @@
         <translation>Ergebnis: %1</translation>
     </message>
     <message>
-        <source>there is no call &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
-        <translation>den Aufruf „%1“ gibt es nicht; ist „%2“ gemeint?</translation>
+        <source>unknown call &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>unbekannter Aufruf „%1“; meinten Sie „%2“?</translation>
     </message>
     <message>
-        <source>there is no call &quot;%1&quot;; apicall --list names them</source>
-        <translation>es gibt keinen Aufruf „%1“; apicall --list nennt alle</translation>
+        <source>unknown call &quot;%1&quot;; run &apos;apicall --list&apos; for all calls</source>
+        <translation>unbekannter Aufruf „%1“; „apicall --list“ zeigt alle Aufrufe</translation>
     </message>
     <message>
-        <source>the server says %1</source>
-        <extracomment>%1 is the server&apos;s own text in quotation marks</extracomment>
-        <translation>der Server sagt %1</translation>
+        <source>the server reports %1</source>
+        <extracomment>%1 is the server&apos;s text in quotation marks</extracomment>
+        <translation>der Server meldet %1</translation>
     </message>
     <message>
-        <source>the reply holds no readable %1</source>
+        <source>the reply has no valid value for %1</source>
         <extracomment>%1 is a key of a JSON object in quotation marks</extracomment>
-        <translation>die Antwort enthält kein lesbares %1</translation>
+        <translation>die Antwort enthält keinen gültigen Wert für %1</translation>
     </message>
     <message>
-        <source>the server speaks no TLS on this port, which may be the one for http://</source>
-        <translation>der Server spricht auf diesem Port kein TLS; vielleicht ist es der für http://</translation>
+        <source>the server does not use TLS on this port; is it the port for http://?</source>
+        <translation>der Server verwendet auf diesem Port kein TLS; ist es der Port für http://?</translation>
     </message>
     <message>
         <source>--server is missing</source>
         <translation>--server fehlt</translation>
     </message>
     <message>
-        <source>--pin and --ca need a server with https://</source>
-        <translation>--pin und --ca brauchen einen Server mit https://</translation>
+        <source>--pin and --ca require an https:// server</source>
+        <translation>--pin und --ca setzen einen Server mit https:// voraus</translation>
     </message>
     <message>
         <source>en</source>
@@ -100,26 +100,26 @@
     <message>
         <source>%1 failed with %2: %3</source>
         <extracomment>%1 is the call, %2 a code, %3 its text</extracomment>
-        <translation>%1 ist fehlgeschlagen mit %2: %3</translation>
+        <translation>%1 fehlgeschlagen mit Code %2: %3</translation>
     </message>
     <message>
-        <source>--merge: no call reads what %1 writes</source>
+        <source>--merge: %1 has no matching read call</source>
         <extracomment>%1 is a call</extracomment>
-        <translation>--merge: kein Aufruf liest, was %1 schreibt</translation>
+        <translation>--merge: zu %1 gibt es keinen passenden Leseaufruf</translation>
     </message>
     <message>
-        <source>the result cannot be written</source>
+        <source>cannot write the result</source>
         <translation>das Ergebnis kann nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>no call is named; apicall --help tells how it is used</source>
-        <translation>es ist kein Aufruf angegeben; apicall --help sagt, wie es geht</translation>
+        <source>no call given; run &apos;apicall --help&apos; for usage</source>
+        <translation>kein Aufruf angegeben; „apicall --help“ zeigt die Verwendung</translation>
     </message>
     <message>
         <source>Arguments of a call:
-  name=value        a text as it stands, anything else as JSON
-  name/field=value  a field of a record; name/0 is the first element of a list
-  {&quot;name&quot;: value}   all of them in one JSON object; @FILE or - reads it from a file or from standard input
+  name=value        one argument; text is taken literally, all other types are JSON
+  name/field=value  one field of a record; name/0 is the first element of a list
+  {&quot;name&quot;: value}   all arguments as one JSON object; @FILE reads it from a file, - from standard input
 
 Examples:
   $ apicall --list
@@ -127,12 +127,12 @@ Examples:
   $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
   $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
-Standard output carries the result alone, null for a call without one; log lines and errors go to standard error.
-Exit status: 0 success, 1 failed call, 2 wrong usage.</source>
+Standard output contains only the result, null for a call without one. Log lines and errors go to standard error.
+Exit status: 0 success, 1 failed call, 2 usage error.</source>
         <translation>Argumente eines Aufrufs:
-  Name=Wert         ein Text, wie er da steht, alles andere als JSON
-  Name/Feld=Wert    ein Feld eines Datensatzes; name/0 ist das erste Element einer Liste
-  {&quot;Name&quot;: Wert}    alle in einem JSON-Objekt; @DATEI oder - liest es aus einer Datei oder von der Standardeingabe
+  Name=Wert         ein Argument; Text wird wörtlich übernommen, alle anderen Typen sind JSON
+  Name/Feld=Wert    ein Feld eines Datensatzes; Name/0 ist das erste Element einer Liste
+  {&quot;Name&quot;: Wert}    alle Argumente als ein JSON-Objekt; @DATEI liest es aus einer Datei, - von der Standardeingabe
 
 Beispiele:
   $ apicall --list
@@ -140,56 +140,56 @@ Beispiele:
   $ apicall --server https://127.0.0.1:8443 BRMS.GetLocalSetting settingType=3
   $ apicall --server https://127.0.0.1:8443 --merge BRMS.SetTimeSyncConfig config/interval=30
 
-Die Standardausgabe trägt allein das Ergebnis, null bei einem Aufruf ohne Ergebnis; Protokollzeilen und Fehler gehen auf die Standardfehlerausgabe.
-Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</translation>
+Die Standardausgabe enthält nur das Ergebnis, null bei einem Aufruf ohne Ergebnis. Protokollzeilen und Fehler gehen an die Standardfehlerausgabe.
+Rückgabewert: 0 Erfolg, 1 Aufruf fehlgeschlagen, 2 falsche Verwendung.</translation>
     </message>
     <message>
-        <source>Runs one call of the library against a platform server and prints its record as JSON.</source>
-        <translation>Führt einen Aufruf der Bibliothek an einem Plattformserver aus und gibt dessen Datensatz als JSON aus.</translation>
+        <source>Makes one call to a platform server and prints the result as JSON.</source>
+        <translation>Führt einen Aufruf an einem Plattformserver aus und gibt das Ergebnis als JSON aus.</translation>
     </message>
     <message>
-        <source>Print this help, or the arguments and the result of CALL</source>
-        <translation>Diese Hilfe ausgeben, oder Argumente und Ergebnis von CALL</translation>
+        <source>Print this help, or describe the arguments and result of CALL</source>
+        <translation>Diese Hilfe ausgeben oder Argumente und Ergebnis von CALL beschreiben</translation>
     </message>
     <message>
         <source>Print the version</source>
-        <translation>Die Version ausgeben</translation>
+        <translation>Version ausgeben</translation>
     </message>
     <message>
         <source>List the calls</source>
-        <translation>Die Aufrufe auflisten</translation>
+        <translation>Aufrufe auflisten</translation>
     </message>
     <message>
-        <source>Print names alone: of the calls, or of the arguments of CALL</source>
+        <source>Print only names: those of the calls, or of the arguments of CALL</source>
         <translation>Nur Namen ausgeben: die der Aufrufe oder die der Argumente von CALL</translation>
     </message>
     <message>
-        <source>Write log lines only when the call fails</source>
-        <translation>Protokollzeilen nur schreiben, wenn der Aufruf fehlschlägt</translation>
+        <source>Write log lines only if the call fails</source>
+        <translation>Protokollzeilen nur ausgeben, wenn der Aufruf fehlschlägt</translation>
     </message>
     <message>
-        <source>Write request and reply to standard error, without the token</source>
-        <translation>Anfrage und Antwort ohne das Token auf die Standardfehlerausgabe schreiben</translation>
+        <source>Write request and reply to standard error, with the token masked</source>
+        <translation>Anfrage und Antwort mit verdecktem Token auf die Standardfehlerausgabe schreiben</translation>
     </message>
     <message>
-        <source>Print the request, without the token, and send nothing</source>
-        <translation>Die Anfrage ohne das Token ausgeben und nichts senden</translation>
+        <source>Print the request, with the token masked, without sending it</source>
+        <translation>Die Anfrage mit verdecktem Token ausgeben, ohne sie zu senden</translation>
     </message>
     <message>
-        <source>For a call that writes: read what it replaces, change what ARGUMENT names, and write that</source>
-        <translation>Für einen Aufruf, der schreibt: lesen, was er ersetzt, ändern, was ARGUMENT nennt, und das schreiben</translation>
+        <source>For a call that writes a record: read the current record, apply each ARGUMENT, and write the result back</source>
+        <translation>Bei einem Schreibaufruf: den aktuellen Datensatz lesen, jedes ARGUMENT darin setzen und das Ergebnis zurückschreiben</translation>
     </message>
     <message>
         <source>Platform server: https://host[:port] or http://host[:port]</source>
         <translation>Plattformserver: https://Host[:Port] oder http://Host[:Port]</translation>
     </message>
     <message>
-        <source>Session token; the environment keeps it out of the process list</source>
-        <translation>Token der Sitzung; aus der Umgebung genommen, erscheint es nicht in der Prozessliste</translation>
+        <source>Session token; pass it in the environment to keep it out of the process list</source>
+        <translation>Sitzungstoken; über die Umgebung übergeben, erscheint es nicht in der Prozessliste</translation>
     </message>
     <message>
         <source>Trust only servers with this SHA-256 digest of their certificate or public key; repeatable</source>
-        <translation>Nur Servern vertrauen, deren Zertifikat oder öffentlicher Schlüssel diesen SHA-256-Fingerabdruck hat; wiederholbar</translation>
+        <translation>Nur Servern vertrauen, deren Zertifikat oder öffentlicher Schlüssel diesen SHA-256-Fingerabdruck hat; mehrfach möglich</translation>
     </message>
     <message>
         <source>DIGEST</source>
@@ -197,8 +197,8 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>FINGERABDRUCK</translation>
     </message>
     <message>
-        <source>Trust only servers whose certificate an authority of this PEM file signed; repeatable</source>
-        <translation>Nur Servern vertrauen, deren Zertifikat eine Zertifizierungsstelle aus dieser PEM-Datei unterschrieben hat; wiederholbar</translation>
+        <source>Trust only servers whose certificate was signed by an authority in this PEM file; repeatable</source>
+        <translation>Nur Servern vertrauen, deren Zertifikat von einer Zertifizierungsstelle aus dieser PEM-Datei signiert ist; mehrfach möglich</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -206,16 +206,16 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>DATEI</translation>
     </message>
     <message>
-        <source>Language of the server&apos;s texts, otherwise English, and of the error texts</source>
-        <translation>Sprache der Texte des Servers, sonst Englisch, und der Fehlertexte</translation>
+        <source>Language of error texts and of the server&apos;s texts, which are English by default</source>
+        <translation>Sprache der Fehlertexte und der Texte des Servers, die sonst englisch sind</translation>
     </message>
     <message>
-        <source>Server identifier that the call is made with</source>
-        <translation>Serverkennung, mit der der Aufruf erfolgt</translation>
+        <source>Server identifier passed to the call</source>
+        <translation>Serverkennung, die dem Aufruf übergeben wird</translation>
     </message>
     <message>
-        <source>Longest wait, instead of the call&apos;s own 10 s</source>
-        <translation>Längste Wartezeit, anstelle der 10 s des Aufrufs</translation>
+        <source>Time-out of the call, 10 s by default</source>
+        <translation>Zeitlimit des Aufrufs, sonst 10 s</translation>
     </message>
     <message>
         <source>SECONDS</source>
@@ -231,20 +231,20 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Argumente des Aufrufs</translation>
     </message>
     <message>
-        <source>this is no URL</source>
-        <translation>das ist keine URL</translation>
+        <source>not a valid URL</source>
+        <translation>keine gültige URL</translation>
     </message>
     <message>
-        <source>it must begin with https:// or http://</source>
-        <translation>sie muss mit https:// oder http:// beginnen</translation>
+        <source>must begin with https:// or http://</source>
+        <translation>muss mit https:// oder http:// beginnen</translation>
     </message>
     <message>
-        <source>it names no host</source>
-        <translation>sie nennt keinen Host</translation>
+        <source>host is missing</source>
+        <translation>der Host fehlt</translation>
     </message>
     <message>
         <source>only a host and a port may follow the scheme</source>
-        <translation>auf das Schema dürfen nur Host und Port folgen</translation>
+        <translation>nach dem Schema sind nur Host und Port erlaubt</translation>
     </message>
     <message>
         <source>a SHA-256 digest has 64 hexadecimal digits, with or without colons</source>
@@ -255,42 +255,42 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>die Datei kann nicht gelesen werden</translation>
     </message>
     <message>
-        <source>the file holds no certificate in PEM</source>
-        <translation>die Datei enthält kein Zertifikat im Format PEM</translation>
+        <source>the file contains no PEM certificate</source>
+        <translation>die Datei enthält kein PEM-Zertifikat</translation>
     </message>
     <message>
-        <source>%1 has no argument &quot;%2&quot;: it takes none</source>
+        <source>%1 has no argument &quot;%2&quot;; it takes no arguments</source>
         <extracomment>%1 is a call</extracomment>
-        <translation>%1 hat kein Argument „%2“: der Aufruf nimmt keine</translation>
+        <translation>%1 hat kein Argument „%2“; der Aufruf hat keine Argumente</translation>
     </message>
     <message>
         <source>%1 has no argument &quot;%2&quot;; did you mean &quot;%3&quot;?</source>
         <extracomment>%1 is a call, %3 the name of one of its arguments</extracomment>
-        <translation>%1 hat kein Argument „%2“; ist „%3“ gemeint?</translation>
+        <translation>%1 hat kein Argument „%2“; meinten Sie „%3“?</translation>
     </message>
     <message>
-        <source>%1 has no argument &quot;%2&quot;: it takes %3</source>
+        <source>%1 has no argument &quot;%2&quot;; its arguments are: %3</source>
         <extracomment>%1 is a call, %3 the names of its arguments</extracomment>
-        <translation>%1 hat kein Argument „%2“: der Aufruf nimmt %3</translation>
+        <translation>%1 hat kein Argument „%2“; die Argumente sind: %3</translation>
     </message>
     <message>
-        <source>the arguments of %1 must be a JSON object that holds each under its name</source>
-        <translation>die Argumente von %1 müssen ein JSON-Objekt sein, das jedes unter seinem Namen enthält</translation>
+        <source>the arguments of %1 must be a JSON object with the argument names as keys</source>
+        <translation>die Argumente von %1 müssen ein JSON-Objekt mit den Argumentnamen als Schlüsseln sein</translation>
     </message>
     <message>
-        <source>%1 needs the argument &quot;%2&quot; (%3)</source>
+        <source>%1 requires the argument &quot;%2&quot; (%3)</source>
         <extracomment>%1 is a call, %3 a type</extracomment>
-        <translation>%1 braucht das Argument „%2“ (%3)</translation>
+        <translation>%1 benötigt das Argument „%2“ (%3)</translation>
     </message>
     <message>
-        <source>%1, which is read first, needs &quot;%2&quot; of %3</source>
-        <extracomment>%1 is a call, %2 the argument that it needs, %3 another call, which the user runs</extracomment>
-        <translation>%1, das zuerst gelesen wird, braucht „%2“ von %3</translation>
+        <source>%1, which runs first, requires &quot;%2&quot; of %3</source>
+        <extracomment>%1 is the call that reads the record, %2 an argument, %3 the call that the user runs</extracomment>
+        <translation>%1 wird zuerst ausgeführt und benötigt „%2“ von %3</translation>
     </message>
     <message>
-        <source>/%1: %2 has no such place</source>
+        <source>/%1: no such field or element in %2</source>
         <extracomment>%1 is a path such as /config/interval, %2 a type</extracomment>
-        <translation>/%1: %2 hat keine solche Stelle</translation>
+        <translation>/%1: kein solches Feld oder Element in %2</translation>
     </message>
     <message>
         <source>text</source>
@@ -307,8 +307,8 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>ganze Zahl</translation>
     </message>
     <message>
-        <source>number that is no 64-bit integer</source>
-        <translation>Zahl, die keine ganze Zahl mit 64 Bit ist</translation>
+        <source>number that is not a 64-bit integer</source>
+        <translation>Zahl, die keine 64-Bit-Ganzzahl ist</translation>
     </message>
     <message>
         <source>list</source>
@@ -321,12 +321,12 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     <message>
         <source>expected %1, got %2</source>
         <extracomment>Both are types</extracomment>
-        <translation>erwartet: %1, erhalten: %2</translation>
+        <translation>%1 erwartet, %2 erhalten</translation>
     </message>
     <message>
-        <source>%1 is out of the range of %2</source>
+        <source>%1 is out of range for %2</source>
         <extracomment>%1 is a number, %2 a type</extracomment>
-        <translation>%1 liegt außerhalb des Bereichs von %2</translation>
+        <translation>%1 liegt außerhalb des Wertebereichs von %2</translation>
     </message>
     <message>
         <source>%1 has no such field</source>
@@ -334,68 +334,68 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>%1 hat kein solches Feld</translation>
     </message>
     <message>
-        <source>key &apos;%1&apos; is there twice</source>
-        <translation>der Schlüssel „%1“ ist doppelt vorhanden</translation>
+        <source>duplicate key &apos;%1&apos;</source>
+        <translation>doppelter Schlüssel „%1“</translation>
     </message>
     <message>
-        <source>%1: $ref is a text and stands alone</source>
-        <translation>%1: $ref ist ein Text und steht allein</translation>
+        <source>%1: $ref must be a string and the only key</source>
+        <translation>%1: $ref muss eine Zeichenkette und der einzige Schlüssel sein</translation>
     </message>
     <message>
-        <source>%1: &apos;%2&apos; names no file of the contract</source>
-        <translation>%1: „%2“ nennt keine Datei des Vertrags</translation>
+        <source>%1: &apos;%2&apos; does not refer to a file of the contract</source>
+        <translation>%1: „%2“ verweist auf keine Datei des Vertrags</translation>
     </message>
     <message>
-        <source>%1: &apos;%2&apos; leads back to itself</source>
-        <translation>%1: „%2“ führt zu sich selbst zurück</translation>
+        <source>%1: circular reference &apos;%2&apos;</source>
+        <translation>%1: zirkulärer Verweis „%2“</translation>
     </message>
     <message>
-        <source>%1: &apos;%2&apos; leads nowhere</source>
-        <translation>%1: „%2“ führt ins Leere</translation>
+        <source>%1: the target of &apos;%2&apos; does not exist</source>
+        <translation>%1: das Ziel von „%2“ existiert nicht</translation>
     </message>
     <message>
-        <source>%1: a schema is an object</source>
-        <translation>%1: ein Schema ist ein Objekt</translation>
+        <source>%1: a schema must be an object or a boolean</source>
+        <translation>%1: ein Schema muss ein Objekt oder ein Wahrheitswert sein</translation>
     </message>
     <message>
-        <source>%1: draft 7 and 2020-12 do not share this keyword</source>
-        <translation>%1: Draft 7 und 2020-12 haben dieses Schlüsselwort nicht gemeinsam</translation>
+        <source>%1: JSON Schema draft 7 and 2020-12 do not both support this keyword</source>
+        <translation>%1: JSON Schema Draft 7 und 2020-12 unterstützen dieses Schlüsselwort nicht beide</translation>
     </message>
     <message>
-        <source>%1: no reply has the code 1000</source>
-        <translation>%1: keine Antwort hat den Code 1000</translation>
+        <source>%1: no reply with code 1000</source>
+        <translation>%1: keine Antwort mit Code 1000</translation>
     </message>
     <message>
-        <source>%1: operation &apos;%2&apos; is told twice</source>
-        <translation>%1: der Vorgang „%2“ ist doppelt beschrieben</translation>
+        <source>%1: operation &apos;%2&apos; is defined twice</source>
+        <translation>%1: die Operation „%2“ ist doppelt definiert</translation>
     </message>
     <message>
-        <source>no operation in the contract folder %1</source>
-        <translation>kein Vorgang im Ordner des Vertrags %1</translation>
+        <source>the contract folder %1 contains no operation</source>
+        <translation>der Vertragsordner %1 enthält keine Operation</translation>
     </message>
     <message>
-        <source>the port is taken</source>
+        <source>the port is in use</source>
         <translation>der Port ist belegt</translation>
     </message>
     <message>
-        <source>this machine does not have the address</source>
-        <translation>dieser Rechner hat die Adresse nicht</translation>
+        <source>this machine has no such address</source>
+        <translation>dieser Rechner hat keine solche Adresse</translation>
     </message>
     <message>
-        <source>no permission for the port</source>
-        <translation>keine Berechtigung für den Port</translation>
+        <source>permission denied</source>
+        <translation>keine Berechtigung</translation>
     </message>
     <message>
-        <source>the address is unknown</source>
-        <translation>die Adresse ist unbekannt</translation>
+        <source>unknown address</source>
+        <translation>unbekannte Adresse</translation>
     </message>
     <message>
         <source>cannot listen on %1: %2</source>
-        <translation>an %1 kann nicht gelauscht werden: %2</translation>
+        <translation>%1 kann nicht zum Lauschen geöffnet werden: %2</translation>
     </message>
     <message>
-        <source>platform-emulator: a platform server to develop and test against. It answers the services of the contract with state, over HTTP and HTTPS at once, and prints each address when it listens.</source>
-        <translation>platform-emulator: ein Plattformserver zum Entwickeln und Testen. Er beantwortet die Dienste des Vertrags mit Zustand, über HTTP und HTTPS zugleich, und gibt jede Adresse aus, sobald er an ihr lauscht.</translation>
+        <source>platform-emulator: a stateful platform server for development and tests. It serves the contract over both HTTP and HTTPS and prints each address when it starts to listen.</source>
+        <translation>platform-emulator: ein zustandsbehafteter Plattformserver für Entwicklung und Tests. Er bedient den Vertrag über HTTP und HTTPS und gibt jede Adresse aus, sobald er dort Verbindungen annimmt.</translation>
     </message>
     <message>
         <source>Print this help</source>
@@ -403,26 +403,26 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     </message>
     <message>
         <source>Address to listen on</source>
-        <translation>Adresse, an der gelauscht wird</translation>
+        <translation>Adresse, unter der Verbindungen angenommen werden</translation>
     </message>
     <message>
-        <source>Port for HTTP, 0 for any free one</source>
-        <translation>Port für HTTP, 0 für einen beliebigen freien</translation>
+        <source>Port for HTTP; 0 selects a free port</source>
+        <translation>Port für HTTP; 0 wählt einen freien Port</translation>
     </message>
     <message>
-        <source>Port for HTTPS, 0 for any free one</source>
-        <translation>Port für HTTPS, 0 für einen beliebigen freien</translation>
+        <source>Port for HTTPS; 0 selects a free port</source>
+        <translation>Port für HTTPS; 0 wählt einen freien Port</translation>
     </message>
     <message>
-        <source>is empty</source>
-        <translation>ist leer</translation>
+        <source>must not be empty</source>
+        <translation>darf nicht leer sein</translation>
     </message>
     <message>
-        <source>Token that callers must send as X-Subject-Token (default: see docs/emulator.md); the environment keeps it out of the process list</source>
-        <translation>Token, das Aufrufer als X-Subject-Token senden müssen (Vorgabe: siehe docs/emulator.md); aus der Umgebung genommen, erscheint es nicht in der Prozessliste</translation>
+        <source>Token that clients must send as X-Subject-Token (default: see docs/emulator.md); pass it in the environment to keep it out of the process list</source>
+        <translation>Token, das Clients als X-Subject-Token senden müssen (Vorgabe: siehe docs/emulator.md); über die Umgebung übergeben, erscheint es nicht in der Prozessliste</translation>
     </message>
     <message>
-        <source>Token that the control path asks for as X-Subject-Token (default: none)</source>
+        <source>Token that the control path requires as X-Subject-Token (default: none)</source>
         <translation>Token, das der Steuerpfad als X-Subject-Token verlangt (Vorgabe: keines)</translation>
     </message>
     <message>
@@ -432,35 +432,35 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     </message>
     <message>
         <source>Folder of the contract (default: ../share/apimodule/contract)</source>
-        <translation>Ordner des Vertrags (Vorgabe: ../share/apimodule/contract)</translation>
+        <translation>Ordner mit dem Vertrag (Vorgabe: ../share/apimodule/contract)</translation>
     </message>
     <message>
         <source>Folder of the seed data (default: ../share/apimodule/seed)</source>
-        <translation>Ordner der Anfangsdaten (Vorgabe: ../share/apimodule/seed)</translation>
+        <translation>Ordner mit den Anfangsdaten (Vorgabe: ../share/apimodule/seed)</translation>
     </message>
     <message>
-        <source>Makes the seeded lists so many times as long</source>
-        <translation>Macht die Listen der Anfangsdaten so viele Male so lang</translation>
+        <source>Factor for the length of the seeded lists</source>
+        <translation>Faktor für die Länge der Listen in den Anfangsdaten</translation>
     </message>
     <message>
-        <source>Seconds after which an idle connection, or one whose request does not end, is closed</source>
-        <translation>Sekunden, nach denen eine Verbindung geschlossen wird, auf der nichts kommt oder deren Anfrage nicht endet</translation>
+        <source>Seconds before an idle connection or an incomplete request is closed</source>
+        <translation>Sekunden, nach denen eine untätige Verbindung oder eine unvollständige Anfrage beendet wird</translation>
     </message>
     <message>
-        <source>Refuse the control path /emulator/v1/</source>
-        <translation>Den Steuerpfad /emulator/v1/ verweigern</translation>
+        <source>Disable the control path /emulator/v1/</source>
+        <translation>Den Steuerpfad /emulator/v1/ abschalten</translation>
     </message>
     <message>
         <source>Print a line for each request</source>
         <translation>Für jede Anfrage eine Zeile ausgeben</translation>
     </message>
     <message>
-        <source>no seed file in the folder %1</source>
-        <translation>keine Datei mit Anfangsdaten im Ordner %1</translation>
+        <source>folder %1 contains no seed file</source>
+        <translation>der Ordner %1 enthält keine Datei mit Anfangsdaten</translation>
     </message>
     <message>
-        <source>the server certificate cannot be made</source>
-        <translation>das Zertifikat des Servers kann nicht erzeugt werden</translation>
+        <source>cannot create the server certificate</source>
+        <translation>das Serverzertifikat kann nicht erzeugt werden</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -473,7 +473,7 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     </message>
     <message>
         <source>Positionals</source>
-        <extracomment>Heading over the arguments that are no options</extracomment>
+        <extracomment>Heading over the arguments other than options</extracomment>
         <translation>Argumente</translation>
     </message>
     <message>
@@ -492,25 +492,25 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>not expected: %1</source>
-        <translation>nicht erwartet: %1</translation>
+        <source>unexpected argument: %1</source>
+        <translation>unerwartetes Argument: %1</translation>
     </message>
     <message>
-        <source>%1 takes exactly one value</source>
-        <translation>%1 nimmt genau einen Wert</translation>
+        <source>%1 requires exactly one value</source>
+        <translation>%1 erfordert genau einen Wert</translation>
     </message>
     <message>
-        <source>cannot be used: %1</source>
+        <source>invalid value: %1</source>
         <extracomment>%1 is an option with its value</extracomment>
-        <translation>nicht verwendbar: %1</translation>
+        <translation>ungültiger Wert: %1</translation>
     </message>
     <message>
-        <source>%1 is not a whole number from %2 to %3</source>
+        <source>%1 is not an integer from %2 to %3</source>
         <translation>%1 ist keine ganze Zahl von %2 bis %3</translation>
     </message>
     <message>
-        <source>there is no folder %1</source>
-        <translation>es gibt keinen Ordner %1</translation>
+        <source>folder %1 does not exist</source>
+        <translation>der Ordner %1 existiert nicht</translation>
     </message>
 </context>
 <context>
@@ -521,59 +521,59 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     </message>
     <message>
         <source>Reads the time synchronisation settings</source>
-        <translation>Liest die Einstellungen der Zeitsynchronisation</translation>
+        <translation>Liest die Einstellungen der Zeitsynchronisierung</translation>
     </message>
     <message>
         <source>Writes the time synchronisation settings</source>
-        <translation>Schreibt die Einstellungen der Zeitsynchronisation</translation>
+        <translation>Schreibt die Einstellungen der Zeitsynchronisierung</translation>
     </message>
     <message>
         <source>Synchronises the time of all devices now</source>
-        <translation>Gleicht jetzt die Zeit aller Geräte ab</translation>
+        <translation>Synchronisiert jetzt die Uhrzeit aller Geräte</translation>
     </message>
     <message>
         <source>Reads the remote log settings</source>
-        <translation>Liest die Einstellungen des entfernten Protokolls</translation>
+        <translation>Liest die Einstellungen für den Protokollserver</translation>
     </message>
     <message>
         <source>Writes the remote log settings</source>
-        <translation>Schreibt die Einstellungen des entfernten Protokolls</translation>
+        <translation>Schreibt die Einstellungen für den Protokollserver</translation>
     </message>
     <message>
         <source>Reads the login model of devices</source>
-        <translation>Liest das Anmeldeverfahren der Geräte</translation>
+        <translation>Liest das Anmeldemodell der Geräte</translation>
     </message>
     <message>
         <source>Writes the login model of devices</source>
-        <translation>Schreibt das Anmeldeverfahren der Geräte</translation>
+        <translation>Schreibt das Anmeldemodell der Geräte</translation>
     </message>
     <message>
         <source>Reads whether messages are pushed to the mobile app</source>
-        <translation>Liest, ob Nachrichten an die Mobil-App gesendet werden</translation>
+        <translation>Liest, ob Push-Nachrichten an die Mobil-App gesendet werden</translation>
     </message>
     <message>
-        <source>Switches the push of messages to the mobile app</source>
-        <translation>Schaltet das Senden von Nachrichten an die Mobil-App</translation>
+        <source>Enables or disables push messages to the mobile app</source>
+        <translation>Schaltet Push-Nachrichten an die Mobil-App ein oder aus</translation>
     </message>
     <message>
-        <source>Reads which outside databases are supported</source>
-        <translation>Liest, welche fremden Datenbanken unterstützt werden</translation>
+        <source>Lists the supported external databases</source>
+        <translation>Listet die unterstützten externen Datenbanken auf</translation>
     </message>
     <message>
-        <source>Reads one of the client&apos;s settings</source>
-        <translation>Liest eine der Einstellungen des Clients</translation>
+        <source>Reads one client setting</source>
+        <translation>Liest eine Einstellung des Clients</translation>
     </message>
     <message>
-        <source>Writes the client&apos;s setting</source>
-        <translation>Schreibt die Einstellung des Clients</translation>
+        <source>Writes the client setting that was read last</source>
+        <translation>Schreibt die zuletzt gelesene Einstellung des Clients</translation>
     </message>
     <message>
         <source>Reads the AI privacy switch</source>
-        <translation>Liest den Schalter für den KI-Datenschutz</translation>
+        <translation>Liest, ob der KI-Datenschutz eingeschaltet ist</translation>
     </message>
     <message>
         <source>Sets the AI privacy switch</source>
-        <translation>Setzt den Schalter für den KI-Datenschutz</translation>
+        <translation>Schaltet den KI-Datenschutz ein oder aus</translation>
     </message>
     <message>
         <source>Device and channel configuration</source>
@@ -588,24 +588,24 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Schreibt die Netzwerkeinstellungen eines Geräts</translation>
     </message>
     <message>
-        <source>Reads the encoding of a channel&apos;s streams</source>
-        <translation>Liest die Kodierung der Streams eines Kanals</translation>
+        <source>Reads the encoding settings of a channel&apos;s streams</source>
+        <translation>Liest die Kodierungseinstellungen der Streams eines Kanals</translation>
     </message>
     <message>
-        <source>Writes the encoding of a channel&apos;s streams</source>
-        <translation>Schreibt die Kodierung der Streams eines Kanals</translation>
+        <source>Writes the encoding settings of a channel&apos;s streams</source>
+        <translation>Schreibt die Kodierungseinstellungen der Streams eines Kanals</translation>
     </message>
     <message>
-        <source>Reads what the encoder of a stream offers</source>
-        <translation>Liest, was der Kodierer eines Streams bietet</translation>
+        <source>Reads the encoding capability of a stream</source>
+        <translation>Liest die Kodierungsmöglichkeiten eines Streams</translation>
     </message>
     <message>
-        <source>Reads the image adjustment of a channel</source>
-        <translation>Liest die Bildeinstellung eines Kanals</translation>
+        <source>Reads the image settings of a channel</source>
+        <translation>Liest die Bildeinstellungen eines Kanals</translation>
     </message>
     <message>
-        <source>Writes the image adjustment of a channel</source>
-        <translation>Schreibt die Bildeinstellung eines Kanals</translation>
+        <source>Writes the image settings of a channel</source>
+        <translation>Schreibt die Bildeinstellungen eines Kanals</translation>
     </message>
     <message>
         <source>Reads the multicast settings of a channel</source>
@@ -616,51 +616,51 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Schreibt die Multicast-Einstellungen eines Kanals</translation>
     </message>
     <message>
-        <source>Switches the multicast of one stream</source>
-        <translation>Schaltet das Multicast eines Streams</translation>
+        <source>Enables or disables multicast for one stream</source>
+        <translation>Schaltet Multicast für einen Stream ein oder aus</translation>
     </message>
     <message>
         <source>Device control</source>
         <translation>Gerätesteuerung</translation>
     </message>
     <message>
-        <source>Starts the discovery of several devices</source>
+        <source>Starts discovery of several devices</source>
         <translation>Startet die Suche nach mehreren Geräten</translation>
     </message>
     <message>
-        <source>Switches alarm outputs</source>
-        <translation>Schaltet Alarmausgänge</translation>
+        <source>Switches alarm outputs on or off</source>
+        <translation>Schaltet Alarmausgänge ein oder aus</translation>
     </message>
     <message>
-        <source>Switches audio-light alarms</source>
-        <translation>Schaltet Alarme mit Ton und Licht</translation>
+        <source>Switches audio-light alarms on or off</source>
+        <translation>Schaltet akustisch-optische Alarmgeber ein oder aus</translation>
     </message>
     <message>
-        <source>Lets IP speakers play audio files</source>
-        <translation>Lässt IP-Lautsprecher Audiodateien abspielen</translation>
+        <source>Plays audio files on IP speakers</source>
+        <translation>Gibt Audiodateien auf IP-Lautsprechern wieder</translation>
     </message>
     <message>
         <source>Server status warnings</source>
-        <translation>Warnungen zum Serverzustand</translation>
+        <translation>Warnungen zum Serverstatus</translation>
     </message>
     <message>
-        <source>Asks for a switch-over to the hot-spare server</source>
-        <translation>Fragt nach einem Wechsel auf den Ersatzserver</translation>
+        <source>Checks for a failover to the hot-spare server</source>
+        <translation>Prüft, ob auf den Hot-Spare-Server umgeschaltet wurde</translation>
     </message>
     <message>
-        <source>Asks whether only the basic services were started</source>
-        <translation>Fragt, ob nur die Basisdienste gestartet wurden</translation>
+        <source>Checks whether the server started with only its basic services</source>
+        <translation>Prüft, ob der Server nur mit den Basisdiensten gestartet ist</translation>
     </message>
     <message>
-        <source>Lists the servers with disks that raise warnings</source>
-        <translation>Listet die Server mit auffälligen Festplatten auf</translation>
+        <source>Lists the servers with disk warnings</source>
+        <translation>Listet die Server mit Festplattenwarnungen auf</translation>
     </message>
     <message>
         <source>Lists the servers that ran out of memory</source>
-        <translation>Listet die Server auf, denen der Speicher ausging</translation>
+        <translation>Listet die Server mit erschöpftem Arbeitsspeicher auf</translation>
     </message>
     <message>
-        <source>Lists the networks that the system knows</source>
+        <source>Lists the networks known to the system</source>
         <translation>Listet die dem System bekannten Netzwerke auf</translation>
     </message>
     <message>
@@ -680,16 +680,16 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Legt eine Benutzergruppe an</translation>
     </message>
     <message>
-        <source>Renames or describes a user group</source>
-        <translation>Benennt oder beschreibt eine Benutzergruppe neu</translation>
+        <source>Updates the name and description of a user group</source>
+        <translation>Ändert Namen und Beschreibung einer Benutzergruppe</translation>
     </message>
     <message>
-        <source>Moves users into one group</source>
+        <source>Moves users to a group</source>
         <translation>Verschiebt Benutzer in eine Gruppe</translation>
     </message>
     <message>
-        <source>Empties a user group</source>
-        <translation>Leert eine Benutzergruppe</translation>
+        <source>Removes all users from a group</source>
+        <translation>Entfernt alle Benutzer aus einer Gruppe</translation>
     </message>
     <message>
         <source>Deletes user groups</source>
@@ -704,7 +704,7 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Legt einen Schnellbefehl an</translation>
     </message>
     <message>
-        <source>Changes a quick command</source>
+        <source>Updates a quick command</source>
         <translation>Ändert einen Schnellbefehl</translation>
     </message>
     <message>
@@ -732,24 +732,24 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Liest eine Seite der Alarmpläne</translation>
     </message>
     <message>
-        <source>Reads what an alarm sets off</source>
-        <translation>Liest, was ein Alarm auslöst</translation>
+        <source>Lists the channels linked to an alarm</source>
+        <translation>Listet die mit einem Alarm verknüpften Kanäle auf</translation>
     </message>
     <message>
-        <source>Reads the map layer on which an alarm resource lies</source>
-        <translation>Liest die Kartenebene, auf der eine Alarmressource liegt</translation>
+        <source>Reads the map layer of an alarm resource</source>
+        <translation>Liest die Kartenebene einer Alarmressource</translation>
     </message>
     <message>
-        <source>Reads the recorded files of an alarm</source>
-        <translation>Liest die aufgezeichneten Dateien eines Alarms</translation>
+        <source>Lists the recorded files of an alarm</source>
+        <translation>Listet die aufgezeichneten Dateien eines Alarms auf</translation>
     </message>
     <message>
-        <source>Asks for the state of an audio file task</source>
-        <translation>Fragt nach dem Stand eines Auftrags für eine Audiodatei</translation>
+        <source>Reads the progress of an audio file task</source>
+        <translation>Liest den Fortschritt eines Audiodatei-Auftrags</translation>
     </message>
     <message>
         <source>Lists the event types of plug-in logs</source>
-        <translation>Listet die Ereignisarten der Plug-in-Protokolle auf</translation>
+        <translation>Listet die Ereignistypen der Plug-in-Protokolle auf</translation>
     </message>
     <message>
         <source>Lists the general events</source>
@@ -760,68 +760,68 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Konto und Webzugang</translation>
     </message>
     <message>
-        <source>Asks where the web page of a channel is reached</source>
-        <translation>Fragt, wo die Webseite eines Kanals zu erreichen ist</translation>
+        <source>Reads the address of a channel&apos;s web page</source>
+        <translation>Liest die Adresse der Webseite eines Kanals</translation>
     </message>
     <message>
-        <source>Asks how to log in to the web page of a channel</source>
-        <translation>Fragt, wie man sich an der Webseite eines Kanals anmeldet</translation>
+        <source>Reads the credentials for a channel&apos;s web page</source>
+        <translation>Liest die Zugangsdaten für die Webseite eines Kanals</translation>
     </message>
     <message>
-        <source>Asks whether a channel&apos;s web page may be opened</source>
-        <translation>Fragt, ob die Webseite eines Kanals geöffnet werden darf</translation>
+        <source>Checks whether web access is enabled for a channel</source>
+        <translation>Prüft, ob der Webzugang für einen Kanal aktiviert ist</translation>
     </message>
     <message>
-        <source>Asks whether a device&apos;s web page may be opened</source>
-        <translation>Fragt, ob die Webseite eines Geräts geöffnet werden darf</translation>
+        <source>Checks whether web access is enabled for a device</source>
+        <translation>Prüft, ob der Webzugang für ein Gerät aktiviert ist</translation>
     </message>
     <message>
-        <source>Asks whether a menu is available</source>
-        <translation>Fragt, ob ein Menü verfügbar ist</translation>
+        <source>Checks whether a menu is available</source>
+        <translation>Prüft, ob ein Menü verfügbar ist</translation>
     </message>
     <message>
-        <source>Has a token derived from the account&apos;s session</source>
-        <translation>Lässt ein Token aus der Sitzung des Kontos ableiten</translation>
+        <source>Derives a token from the account&apos;s session</source>
+        <translation>Leitet ein Token aus der Sitzung des Kontos ab</translation>
     </message>
     <message>
-        <source>Reads what the account may use</source>
-        <translation>Liest, was das Konto verwenden darf</translation>
+        <source>Reads the account&apos;s permissions</source>
+        <translation>Liest die Berechtigungen des Kontos</translation>
     </message>
     <message>
-        <source>Asks whether the account may use a function on a channel</source>
-        <translation>Fragt, ob das Konto eine Funktion eines Kanals verwenden darf</translation>
+        <source>Checks whether the account may use a function on a channel</source>
+        <translation>Prüft, ob das Konto eine Funktion eines Kanals verwenden darf</translation>
     </message>
     <message>
-        <source>Counts the devices of each category</source>
-        <translation>Zählt die Geräte jeder Kategorie</translation>
+        <source>Counts devices by category</source>
+        <translation>Zählt die Geräte nach Kategorie</translation>
     </message>
     <message>
         <source>PTZ</source>
         <translation>PTZ</translation>
     </message>
     <message>
-        <source>Switches the wash function of a channel on</source>
+        <source>Turns on the wash function of a channel</source>
         <translation>Schaltet die Waschfunktion eines Kanals ein</translation>
     </message>
     <message>
-        <source>Switches the wash function of several channels on</source>
+        <source>Turns on the wash function of several channels</source>
         <translation>Schaltet die Waschfunktion mehrerer Kanäle ein</translation>
     </message>
     <message>
-        <source>Makes the position of a channel its home position</source>
-        <translation>Macht die Position eines Kanals zu seiner Grundstellung</translation>
+        <source>Stores the current camera position as the home position</source>
+        <translation>Speichert die aktuelle Kameraposition als Grundstellung</translation>
     </message>
     <message>
-        <source>Moves a channel to its home position</source>
-        <translation>Bewegt einen Kanal in seine Grundstellung</translation>
+        <source>Moves the camera to its home position</source>
+        <translation>Fährt die Kamera in ihre Grundstellung</translation>
     </message>
     <message>
         <source>Analysis tasks</source>
         <translation>Analyseaufträge</translation>
     </message>
     <message>
-        <source>Marks the file uploads of tasks as failed</source>
-        <translation>Kennzeichnet das Hochladen der Dateien von Aufträgen als fehlgeschlagen</translation>
+        <source>Marks the file uploads of analysis tasks as failed</source>
+        <translation>Kennzeichnet die Datei-Uploads von Analyseaufträgen als fehlgeschlagen</translation>
     </message>
     <message>
         <source>Parking</source>
@@ -840,16 +840,16 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Listet die Organisationen der Parkplätze auf</translation>
     </message>
     <message>
-        <source>Corrects the plate number of a capture record</source>
-        <translation>Berichtigt das Kennzeichen einer Erfassung</translation>
+        <source>Corrects the plate number of a vehicle capture record</source>
+        <translation>Berichtigt das Kennzeichen einer Fahrzeugerfassung</translation>
     </message>
     <message>
         <source>Access-control persons and rules</source>
         <translation>Personen und Regeln der Zutrittskontrolle</translation>
     </message>
     <message>
-        <source>Reads one page of the persons with access</source>
-        <translation>Liest eine Seite der Personen mit Zutritt</translation>
+        <source>Reads one page of the authorised persons</source>
+        <translation>Liest eine Seite der zutrittsberechtigten Personen</translation>
     </message>
     <message>
         <source>Lists the persons managed on a device</source>
@@ -864,8 +864,8 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Listet die Regeln eines Zutrittspunkts auf</translation>
     </message>
     <message>
-        <source>Resets the anti-pass time of a person</source>
-        <translation>Setzt die Antipassback-Zeit einer Person zurück</translation>
+        <source>Resets the anti-passback time of a person</source>
+        <translation>Setzt die Anti-Passback-Zeit einer Person zurück</translation>
     </message>
     <message>
         <source>Cards, intercom and alarm hosts</source>
@@ -880,20 +880,20 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
         <translation>Schreibt die Kartenkonfiguration</translation>
     </message>
     <message>
-        <source>Reads one page of the devices that failed to take the card configuration</source>
-        <translation>Liest eine Seite der Geräte, die die Kartenkonfiguration nicht übernommen haben</translation>
+        <source>Reads one page of the devices where issuing the card configuration failed</source>
+        <translation>Liest eine Seite der Geräte, an die die Kartenkonfiguration nicht ausgegeben werden konnte</translation>
     </message>
     <message>
-        <source>Sends the card configuration to those devices again</source>
-        <translation>Sendet diesen Geräten die Kartenkonfiguration erneut</translation>
+        <source>Reissues the card configuration to the failed devices</source>
+        <translation>Gibt die Kartenkonfiguration erneut an die fehlgeschlagenen Geräte aus</translation>
     </message>
     <message>
         <source>Deletes contacts of an outdoor station</source>
         <translation>Löscht Kontakte einer Außenstation</translation>
     </message>
     <message>
-        <source>Has a snapshot taken of an alarm host&apos;s zone</source>
-        <translation>Lässt ein Bild von einem Bereich einer Alarmzentrale aufnehmen</translation>
+        <source>Requests a snapshot of an alarm host&apos;s zone</source>
+        <translation>Fordert ein Bild eines Bereichs einer Alarmzentrale an</translation>
     </message>
     <message>
         <source>Maintenance</source>
@@ -901,15 +901,15 @@ Rückgabewert: 0 Erfolg, 1 fehlgeschlagener Aufruf, 2 falsche Verwendung.</trans
     </message>
     <message>
         <source>Lists the alert types</source>
-        <translation>Listet die Alarmarten auf</translation>
+        <translation>Listet die Warnungstypen auf</translation>
     </message>
     <message>
         <source>Reads the maintenance view of a channel</source>
-        <translation>Liest die Wartungsansicht eines Kanals</translation>
+        <translation>Liest die Wartungsdaten eines Kanals</translation>
     </message>
     <message>
         <source>Reads the maintenance view of a device</source>
-        <translation>Liest die Wartungsansicht eines Geräts</translation>
+        <translation>Liest die Wartungsdaten eines Geräts</translation>
     </message>
 </context>
 </TS>

@@ -1,4 +1,4 @@
-# Completion of apicall for bash: options, calls, and the arguments of the call.
+# bash completion for apicall: options, calls and arguments.
 _apicall() {
     local current=${COMP_WORDS[COMP_CWORD]} call= word i
     for ((i = 1; i < COMP_CWORD; ++i)); do

@@ -13,16 +13,16 @@
 
 namespace catalogue::detail {
 
-/// The functions that a call of the library is made of.
+/// The Pack and Parse of a call of the library.
 template <typename Constant>
 struct Functions;
 
-template <auto ItsPack, auto ItsParse>
-struct Functions<APIModule::Call<ItsPack, ItsParse>> {
-    static constexpr auto kPack = ItsPack;
-    static constexpr auto kParse = ItsParse;
-    static constexpr bool kHasParse = !std::is_null_pointer_v<decltype(ItsParse)>;
-    using Signature = APIModule::detail::PackSignature<decltype(ItsPack)>;
+template <auto Pack, auto Parse>
+struct Functions<APIModule::Call<Pack, Parse>> {
+    static constexpr auto kPack = Pack;
+    static constexpr auto kParse = Parse;
+    static constexpr bool kHasParse = !std::is_null_pointer_v<decltype(Parse)>;
+    using Signature = APIModule::detail::PackSignature<decltype(Pack)>;
 };
 
 template <typename... Parameters>
@@ -31,10 +31,10 @@ constexpr std::size_t Size(APIModule::detail::ParameterList<Parameters...> /*par
     return sizeof...(Parameters);
 }
 
-/// A call with the names that follow from the one of its constant, "APIModule::BRMS::GetTimeSyncConfig".
+/// A call with name and family taken from the name of its constant, such as "APIModule::BRMS::GetTimeSyncConfig".
 Call NamedCall(std::string_view constantName);
 
-/// What describes a request, with the settings put into it.
+/// The parts of a request with the settings applied.
 APIModule::detail::RequestParts Adapted(const APIModule::detail::RequestParts& parts, const RunSettings& settings);
 
 template <typename Record>
@@ -53,27 +53,27 @@ Outcome Untyped(const APIModule::Outcome<Record>& outcome)
     }
 }
 
-/// A call, with its arguments and its record behind pointers.
+/// The functions of a call, with its arguments and record type-erased.
 template <const auto& kCall, typename Parameters, typename Indices>
 struct Erased;
 
 template <const auto& kCall, typename... Parameters, std::size_t... Index>
 struct Erased<kCall, APIModule::detail::ParameterList<Parameters...>, std::index_sequence<Index...>> {
     using Constant = std::decay_t<decltype(kCall)>;
-    using Its = Functions<Constant>;
+    using CallFunctions = Functions<Constant>;
 
     static int Pack(void* pReqParamData, [[maybe_unused]] void* const* arguments, [[maybe_unused]] int nServerId)
     {
-        if constexpr (Its::Signature::kTakesServerId) {
-            return Its::kPack(pReqParamData, Argument<Parameters>(arguments[Index])..., nServerId);
+        if constexpr (CallFunctions::Signature::kTakesServerId) {
+            return CallFunctions::kPack(pReqParamData, Argument<Parameters>(arguments[Index])..., nServerId);
         } else {
-            return Its::kPack(pReqParamData, Argument<Parameters>(arguments[Index])...);
+            return CallFunctions::kPack(pReqParamData, Argument<Parameters>(arguments[Index])...);
         }
     }
 
     static int Parse(const QJsonObject& data, void* record)
     {
-        return Its::kParse(data, *static_cast<typename Constant::Record*>(record));
+        return CallFunctions::kParse(data, *static_cast<typename Constant::Record*>(record));
     }
 
     static Outcome Run(void* const* arguments, const RunSettings& settings, QWidget* parent)
@@ -96,15 +96,15 @@ struct Erased<kCall, APIModule::detail::ParameterList<Parameters...>, std::index
     static Call Describe(const std::array<std::string_view, sizeof...(Parameters)>& argumentNames)
     {
         Call call = NamedCall(ConstantName<kCall>());
-        call.packName = FunctionName<Its::kPack>();
-        call.takesServerId = Its::Signature::kTakesServerId;
+        call.packName = FunctionName<CallFunctions::kPack>();
+        call.takesServerId = CallFunctions::Signature::kTakesServerId;
         call.arguments = {{argumentNames[Index], &TypeOf<std::decay_t<Parameters>>()}...};
         call.pack = Pack;
         call.run = Run;
         call.start = Start;
         call.preview = Preview;
-        if constexpr (Its::kHasParse) {
-            call.parseName = FunctionName<Its::kParse>();
+        if constexpr (CallFunctions::kHasParse) {
+            call.parseName = FunctionName<CallFunctions::kParse>();
             call.result = &TypeOf<typename Constant::Record>();
             call.parse = Parse;
         }
@@ -124,7 +124,7 @@ private:
     }
 };
 
-/// Describes a call of the library: its constant, a line on what it does, and the name of each argument.
+/// Describes a call of the library by its constant, a one-line summary and the names of its arguments.
 template <const auto& kCall, typename... Names>
 Call Entry(std::string_view summary, Names... argumentNames)
 {
@@ -132,8 +132,8 @@ Call Entry(std::string_view summary, Names... argumentNames)
     constexpr std::size_t kArguments = Size(typename Signature::Arguments());
     static_assert(sizeof...(Names) == kArguments, "every argument of a call needs a name");
 
-    using Its = Erased<kCall, typename Signature::Arguments, std::make_index_sequence<kArguments>>;
-    Call call = Its::Describe({std::string_view(argumentNames)...});
+    using ErasedCall = Erased<kCall, typename Signature::Arguments, std::make_index_sequence<kArguments>>;
+    Call call = ErasedCall::Describe({std::string_view(argumentNames)...});
     call.summary = summary;
     return call;
 }

@@ -4,8 +4,8 @@
 
 namespace catalogue::detail {
 
-/// What the one template parameter stands for, from the compiler's text for a function: "[with T = Name; ...]" or
-/// "[F = &Name]".
+/// Extracts the argument of a function's only template parameter from __PRETTY_FUNCTION__, which contains it as
+/// "[with T = Name; ...]" or "[F = &Name]".
 constexpr std::string_view ParameterIn(std::string_view function)
 {
     const auto begin = function.find(" = ") + std::string_view(" = ").size();

@@ -6,7 +6,7 @@
 
 namespace catalogue {
 
-/// What the catalogue says, in the user's language.
+/// The catalogue's texts in the user's language.
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Texts)
 };

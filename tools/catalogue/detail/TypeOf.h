@@ -25,12 +25,12 @@ std::shared_ptr<void> Make()
     return std::make_shared<T>();
 }
 
-/// Describes a type; records are described by their BOOST_DESCRIBE_STRUCT.
+/// Describes a type. The general template is for records, whose fields come from BOOST_DESCRIBE_STRUCT.
 template <typename T>
 struct Describer {
     using Members = boost::describe::describe_members<T, boost::describe::mod_public>;
     static_assert(boost::mp11::mp_size<Members>::value == boost::pfr::tuple_size_v<T>,
-                  "every field of a record has to be described");
+                  "BOOST_DESCRIBE_STRUCT must list every field of the record");
 
     static Type Describe()
     {

@@ -37,13 +37,14 @@ void AddBrmsCalls(std::vector<Call>& calls)
             Entry<BRMS::GetPushAppMsgConfig>(
                 QT_TRANSLATE_NOOP("catalogue::Call", "Reads whether messages are pushed to the mobile app")),
             Entry<BRMS::SetPushAppMsgConfig>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Switches the push of messages to the mobile app"), "enable"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Enables or disables push messages to the mobile app"), "enable"),
             Entry<BRMS::GetSupportDataBaseType>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Reads which outside databases are supported")),
-            Entry<BRMS::GetLocalSetting>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads one of the client's settings"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the supported external databases")),
+            Entry<BRMS::GetLocalSetting>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads one client setting"),
                                          "settingType"),
-            Entry<BRMS::UpdateLocalSetting>(QT_TRANSLATE_NOOP("catalogue::Call", "Writes the client's setting"),
-                                            "apply", "content"),
+            Entry<BRMS::UpdateLocalSetting>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Writes the client setting that was read last"), "apply",
+                "content"),
             Entry<BRMS::GetAIPrivacyConfig>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads the AI privacy switch")),
             Entry<BRMS::UpdateAIPrivacyConfig>(QT_TRANSLATE_NOOP("catalogue::Call", "Sets the AI privacy switch"),
                                                "enable"),
@@ -55,48 +56,49 @@ void AddBrmsCalls(std::vector<Call>& calls)
                    Entry<BRMS::UpdateNetworkConfig>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Writes the network settings of a device"), "config"),
                    Entry<BRMS::GetEncodeConfig>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the encoding of a channel's streams"), "channelId"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the encoding settings of a channel's streams"),
+                       "channelId"),
                    Entry<BRMS::UpdateEncodeConfig>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the encoding of a channel's streams"), "channelId",
-                       "configs"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the encoding settings of a channel's streams"),
+                       "channelId", "configs"),
                    Entry<BRMS::GetEncodeCapability>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads what the encoder of a stream offers"), "channelId",
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the encoding capability of a stream"), "channelId",
                        "streamType"),
                    Entry<BRMS::GetImageConfig>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the image adjustment of a channel"), "channelId"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads the image settings of a channel"), "channelId"),
                    Entry<BRMS::UpdateImageConfig>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the image adjustment of a channel"), "config"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Writes the image settings of a channel"), "config"),
                    Entry<BRMS::GetMultiCastConfig>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Reads the multicast settings of a channel"), "channelId"),
                    Entry<BRMS::SetMultiCastConfig>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Writes the multicast settings of a channel"), "info"),
                    Entry<BRMS::SetMultiCastStreamStatus>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Switches the multicast of one stream"), "status"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Enables or disables multicast for one stream"), "status"),
                });
-    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Device control"),
-               {
-                   Entry<BRMS::BatchDiscoverDevices>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Starts the discovery of several devices"), "deviceCodes",
-                       "discoverMode"),
-                   Entry<BRMS::AlarmOutputControl>(QT_TRANSLATE_NOOP("catalogue::Call", "Switches alarm outputs"),
-                                                   "channelIds", "on"),
-                   Entry<BRMS::AudioLightControl>(QT_TRANSLATE_NOOP("catalogue::Call", "Switches audio-light alarms"),
-                                                  "channelIds", "on"),
-                   Entry<BRMS::IPSpeakerControl>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Lets IP speakers play audio files"), "control"),
-               });
+    AddSubject(
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "Device control"),
+        {
+            Entry<BRMS::BatchDiscoverDevices>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Starts discovery of several devices"), "deviceCodes",
+                "discoverMode"),
+            Entry<BRMS::AlarmOutputControl>(QT_TRANSLATE_NOOP("catalogue::Call", "Switches alarm outputs on or off"),
+                                            "channelIds", "on"),
+            Entry<BRMS::AudioLightControl>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Switches audio-light alarms on or off"), "channelIds", "on"),
+            Entry<BRMS::IPSpeakerControl>(QT_TRANSLATE_NOOP("catalogue::Call", "Plays audio files on IP speakers"),
+                                          "control"),
+        });
     AddSubject(
         calls, QT_TRANSLATE_NOOP("catalogue::Call", "Server status warnings"),
         {
             Entry<BRMS::CheckHotSpareWarning>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks for a switch-over to the hot-spare server")),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Checks for a failover to the hot-spare server")),
             Entry<BRMS::GetBasicServiceWarm>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether only the basic services were started")),
-            Entry<BRMS::GetDiskWarm>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the servers with disks that raise warnings")),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Checks whether the server started with only its basic services")),
+            Entry<BRMS::GetDiskWarm>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the servers with disk warnings")),
             Entry<BRMS::GetMemoryOutOfServerList>(
                 QT_TRANSLATE_NOOP("catalogue::Call", "Lists the servers that ran out of memory")),
-            Entry<BRMS::GetNetWorks>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the networks that the system knows")),
+            Entry<BRMS::GetNetWorks>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the networks known to the system")),
         });
     AddSubject(
         calls, QT_TRANSLATE_NOOP("catalogue::Call", "User groups"),
@@ -104,17 +106,19 @@ void AddBrmsCalls(std::vector<Call>& calls)
             Entry<BRMS::GetUserGroupList>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the user groups"), "keyword"),
             Entry<BRMS::GetUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads one user group"), "groupId"),
             Entry<BRMS::AddUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Creates a user group"), "group"),
-            Entry<BRMS::UpdateUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Renames or describes a user group"),
-                                         "groupId", "group"),
-            Entry<BRMS::MoveUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Moves users into one group"), "move"),
-            Entry<BRMS::ClearUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Empties a user group"), "groupId"),
+            Entry<BRMS::UpdateUserGroup>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Updates the name and description of a user group"), "groupId",
+                "group"),
+            Entry<BRMS::MoveUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Moves users to a group"), "move"),
+            Entry<BRMS::ClearUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Removes all users from a group"),
+                                        "groupId"),
             Entry<BRMS::DeleteUserGroup>(QT_TRANSLATE_NOOP("catalogue::Call", "Deletes user groups"), "groupIds"),
         });
     AddSubject(
         calls, QT_TRANSLATE_NOOP("catalogue::Call", "Quick commands"),
         {
             Entry<BRMS::AddQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Creates a quick command"), "command"),
-            Entry<BRMS::UpdateQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Changes a quick command"), "command"),
+            Entry<BRMS::UpdateQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Updates a quick command"), "command"),
             Entry<BRMS::DelQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Deletes quick commands"), "ids"),
             Entry<BRMS::GetQuickCommand>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads one quick command"), "id"),
             Entry<BRMS::GetQuickCommands>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the quick commands"), "keyword"),
@@ -126,15 +130,16 @@ void AddBrmsCalls(std::vector<Call>& calls)
         {
             Entry<BRMS::GetPageSummaryAlarmPlans>(
                 QT_TRANSLATE_NOOP("catalogue::Call", "Reads one page of the alarm plans"), "query"),
-            Entry<BRMS::GetAlarmLinkControlList>(QT_TRANSLATE_NOOP("catalogue::Call", "Reads what an alarm sets off"),
-                                                 "sourceCode", "alarmType"),
+            Entry<BRMS::GetAlarmLinkControlList>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the channels linked to an alarm"), "sourceCode",
+                "alarmType"),
             Entry<BRMS::GetAlarmLayerDetail>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the map layer on which an alarm resource lies"),
-                "resourceCode", "resourceType"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the map layer of an alarm resource"), "resourceCode",
+                "resourceType"),
             Entry<BRMS::GetAlarmHostFileInfo>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the recorded files of an alarm"), "alarmRecordId"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the recorded files of an alarm"), "alarmRecordId"),
             Entry<BRMS::GetAudioFileInfo>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks for the state of an audio file task"), "url", "body"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the progress of an audio file task"), "url", "body"),
             Entry<BRMS::GetPluginLogType>(
                 QT_TRANSLATE_NOOP("catalogue::Call", "Lists the event types of plug-in logs")),
             Entry<BRMS::GetGeneralEvents>(QT_TRANSLATE_NOOP("catalogue::Call", "Lists the general events"), "query"),
@@ -143,24 +148,26 @@ void AddBrmsCalls(std::vector<Call>& calls)
         calls, QT_TRANSLATE_NOOP("catalogue::Call", "Account and web access"),
         {
             Entry<BRMS::GetChannelWebTunnel>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks where the web page of a channel is reached"), "channelId"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the address of a channel's web page"), "channelId"),
             Entry<BRMS::GetChannelWebAuthorization>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks how to log in to the web page of a channel"), "channelId"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the credentials for a channel's web page"), "channelId"),
             Entry<BRMS::GetChannelWebEnablement>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether a channel's web page may be opened"), "channelId"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Checks whether web access is enabled for a channel"),
+                "channelId"),
             Entry<BRMS::GetWebEnablement>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether a device's web page may be opened"), "deviceCode"),
-            Entry<BRMS::GetMenuAvailable>(QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether a menu is available"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Checks whether web access is enabled for a device"),
+                "deviceCode"),
+            Entry<BRMS::GetMenuAvailable>(QT_TRANSLATE_NOOP("catalogue::Call", "Checks whether a menu is available"),
                                           "menuCode"),
             Entry<BRMS::GetDeriveToken>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Has a token derived from the account's session")),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Derives a token from the account's session")),
             Entry<BRMS::GetPermissionResourceCollection>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Reads what the account may use")),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reads the account's permissions")),
             Entry<BRMS::FunctionChannelCheck>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Asks whether the account may use a function on a channel"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Checks whether the account may use a function on a channel"),
                 "check"),
-            Entry<BRMS::GetDeviceCategoryCount>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Counts the devices of each category"), "query"),
+            Entry<BRMS::GetDeviceCategoryCount>(QT_TRANSLATE_NOOP("catalogue::Call", "Counts devices by category"),
+                                                "query"),
         });
 }
 

@@ -15,14 +15,14 @@ void AddDmsCalls(std::vector<Call>& calls)
     AddSubject(
         calls, QT_TRANSLATE_NOOP("catalogue::Call", "PTZ"),
         {
-            Entry<DMS::WashOpen>(QT_TRANSLATE_NOOP("catalogue::Call", "Switches the wash function of a channel on"),
+            Entry<DMS::WashOpen>(QT_TRANSLATE_NOOP("catalogue::Call", "Turns on the wash function of a channel"),
                                  "channelId"),
             Entry<DMS::BatchWashOpen>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Switches the wash function of several channels on"),
-                "channelIds"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Turns on the wash function of several channels"), "channelIds"),
             Entry<DMS::SetHomePosition>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Makes the position of a channel its home position"), "channelId"),
-            Entry<DMS::GotoHomePosition>(QT_TRANSLATE_NOOP("catalogue::Call", "Moves a channel to its home position"),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Stores the current camera position as the home position"),
+                "channelId"),
+            Entry<DMS::GotoHomePosition>(QT_TRANSLATE_NOOP("catalogue::Call", "Moves the camera to its home position"),
                                          "channelId"),
         });
 }

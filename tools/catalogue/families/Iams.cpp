@@ -11,11 +11,12 @@ namespace IAMS = APIModule::IAMS;
 
 void AddIamsCalls(std::vector<Call>& calls)
 {
-    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Analysis tasks"),
-               {
-                   Entry<IAMS::SetAnalysisTaskUploadFailed>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Marks the file uploads of tasks as failed"), "taskIds"),
-               });
+    AddSubject(
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "Analysis tasks"),
+        {
+            Entry<IAMS::SetAnalysisTaskUploadFailed>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Marks the file uploads of analysis tasks as failed"), "taskIds"),
+        });
 }
 
 }  // namespace catalogue

@@ -12,19 +12,20 @@ namespace IPMS = APIModule::IPMS;
 
 void AddIpmsCalls(std::vector<Call>& calls)
 {
-    AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Parking"),
-               {
-                   Entry<IPMS::GetSimpleParkingLots>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists parking lots with their positions and points"),
-                       "parkingLotIds", "mode"),
-                   Entry<IPMS::GetDetailParkingLots>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists parking lots with their spaces and channels"),
-                       "parkingLotIds", "orgCode", "mode"),
-                   Entry<IPMS::GetParkingOrganization>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Lists the organisations of the parking lots")),
-                   Entry<IPMS::UpdateVehicleCaptureRecord>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Corrects the plate number of a capture record"), "info"),
-               });
+    AddSubject(
+        calls, QT_TRANSLATE_NOOP("catalogue::Call", "Parking"),
+        {
+            Entry<IPMS::GetSimpleParkingLots>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists parking lots with their positions and points"),
+                "parkingLotIds", "mode"),
+            Entry<IPMS::GetDetailParkingLots>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists parking lots with their spaces and channels"),
+                "parkingLotIds", "orgCode", "mode"),
+            Entry<IPMS::GetParkingOrganization>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Lists the organisations of the parking lots")),
+            Entry<IPMS::UpdateVehicleCaptureRecord>(
+                QT_TRANSLATE_NOOP("catalogue::Call", "Corrects the plate number of a vehicle capture record"), "info"),
+        });
 }
 
 }  // namespace catalogue

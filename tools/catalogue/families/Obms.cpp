@@ -16,7 +16,7 @@ void AddObmsCalls(std::vector<Call>& calls)
     AddSubject(calls, QT_TRANSLATE_NOOP("catalogue::Call", "Access-control persons and rules"),
                {
                    Entry<OBMS::GetPageAccessAuthorizePersons>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads one page of the persons with access"), "req"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Reads one page of the authorised persons"), "req"),
                    Entry<OBMS::GetManagePersons>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists the persons managed on a device"), "req"),
                    Entry<OBMS::SetManagePersons>(
@@ -24,7 +24,7 @@ void AddObmsCalls(std::vector<Call>& calls)
                    Entry<OBMS::GetPointRules>(
                        QT_TRANSLATE_NOOP("catalogue::Call", "Lists the rules of an access point"), "req"),
                    Entry<OBMS::PersonResetAntiPass>(
-                       QT_TRANSLATE_NOOP("catalogue::Call", "Resets the anti-pass time of a person"), "personId"),
+                       QT_TRANSLATE_NOOP("catalogue::Call", "Resets the anti-passback time of a person"), "personId"),
                });
     AddSubject(
         calls, QT_TRANSLATE_NOOP("catalogue::Call", "Cards, intercom and alarm hosts"),
@@ -34,14 +34,14 @@ void AddObmsCalls(std::vector<Call>& calls)
                                                  "param"),
             Entry<OBMS::GetPageConfigDesfireFailInfo>(
                 QT_TRANSLATE_NOOP("catalogue::Call",
-                                  "Reads one page of the devices that failed to take the card configuration"),
+                                  "Reads one page of the devices where issuing the card configuration failed"),
                 "req"),
             Entry<OBMS::ReissueConfigDesfire>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Sends the card configuration to those devices again")),
+                QT_TRANSLATE_NOOP("catalogue::Call", "Reissues the card configuration to the failed devices")),
             Entry<OBMS::DeleteAddressBooks>(
                 QT_TRANSLATE_NOOP("catalogue::Call", "Deletes contacts of an outdoor station"), "param"),
             Entry<OBMS::AlarmHostZoneSnapShot>(
-                QT_TRANSLATE_NOOP("catalogue::Call", "Has a snapshot taken of an alarm host's zone"), "zoneId",
+                QT_TRANSLATE_NOOP("catalogue::Call", "Requests a snapshot of an alarm host's zone"), "zoneId",
                 "action"),
         });
 }

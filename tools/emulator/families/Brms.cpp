@@ -16,7 +16,7 @@ constexpr const char* kLastSetting = "/brms/lastSettingType";
 
 Json& SettingEntry(State& state, int type)
 {
-    Json& entry = state.at(Place(kSettings))[std::to_string(type)];
+    Json& entry = state.at(StatePath(kSettings))[std::to_string(type)];
     if (entry.is_null()) {
         entry = Json{{"apply", false}, {"settingType", type}, {"settingVersion", 0}, {"settingContent", ""}};
     }
@@ -26,14 +26,14 @@ Json& SettingEntry(State& state, int type)
 Json ReadSetting(const Call& call)
 {
     const int type = call.query.at("settingType");
-    call.state[Place(kLastSetting)] = type;
+    call.state[StatePath(kLastSetting)] = type;
     return SettingEntry(call.state, type);
 }
 
-/// The call names no type: it changes the setting that was read last, the first one when none was.
+/// The call has no setting type: it changes the setting that was read last, or type 1 before any read.
 Json WriteSetting(const Call& call)
 {
-    Json& entry = SettingEntry(call.state, call.state.value(Place(kLastSetting), 1));
+    Json& entry = SettingEntry(call.state, call.state.value(StatePath(kLastSetting), 1));
     entry.update(BodyAsRead(call));
     entry["settingVersion"] = entry.at("settingVersion").get<std::int64_t>() + 1;
     return Json::object();
@@ -46,13 +46,13 @@ Json ReadEncodeCapability(const Call& call)
     return streams.contains(type) ? streams.at(type) : RefuseUnknown("stream " + type);
 }
 
-/// Switches one stream; a stream that is not configured yet is unknown.
+/// Switches one stream; refuses a stream that is not configured.
 Json SetMultiCastStreamStatus(const Call& call)
 {
     Json config = ReadEntry("/brms/multicast", kChannels)(call);
     Json& stream = ElementOf(config.at("streams"), "streamType", ValueOf(call, "streamType"));
     stream["status"] = call.body.at("status") == "1";
-    call.state.at(Place("/brms/multicast"))[PathValue(call)] = config;
+    call.state.at(StatePath("/brms/multicast"))[PathValue(call)] = config;
     return Json::object();
 }
 
@@ -61,14 +61,14 @@ Json DiscoverDevices(const Call& call)
     for (const Json& code : call.body.at("deviceCodes")) {
         kDevices.find(call.state, code);
     }
-    Remember(call);
+    RecordAccepted(call);
     return Json{{"session", "discover-" + NextNumber(call, "discover")}};
 }
 
-/// The channels that are seeded as failing, with their code, and those that do not exist.
+/// Returns the channels that fail: those seeded as failing, with their code, and unknown ones.
 Json ControlChannels(const Call& call, const std::vector<std::string>& channelIds)
 {
-    const Json& failing = call.state.at(Place("/brms/failingChannels"));
+    const Json& failing = call.state.at(StatePath("/brms/failingChannels"));
     Json failed = Json::array();
     for (const std::string& id : channelIds) {
         if (!kChannels.has(call.state, id)) {
@@ -77,7 +77,7 @@ Json ControlChannels(const Call& call, const std::vector<std::string>& channelId
             failed.push_back(Json{{"channelId", id}, {"errorCode", failing.at(id)}});
         }
     }
-    Remember(call);
+    RecordAccepted(call);
     return Json{{"failedChannels", failed}};
 }
 
@@ -95,7 +95,7 @@ Json ControlSpeakers(const Call& call)
     return ControlChannels(call, ids);
 }
 
-/// Takes the users out of the groups; they stay as users without a group.
+/// Removes the users from the groups; they remain as users without a group.
 void LeaveGroups(State& state, const std::vector<std::string>& groupIds)
 {
     for (Json& user : state.at(kUsers.list)) {
@@ -115,7 +115,7 @@ Json MoveUsers(const Call& call)
     for (const Json& id : call.body.at("userIds")) {
         kUsers.find(call.state, id)["groupId"] = group;
     }
-    Remember(call);
+    RecordAccepted(call);
     return Json::object();
 }
 
@@ -123,7 +123,7 @@ Json ClearGroup(const Call& call)
 {
     kUserGroups.find(call.state, PathValue(call));
     LeaveGroups(call.state, {PathValue(call)});
-    Remember(call);
+    RecordAccepted(call);
     return Json::object();
 }
 
@@ -134,7 +134,7 @@ Json DeleteGroups(const Call& call)
     return done;
 }
 
-/// The plan's commands as they are stored now; deleted ones are left out.
+/// The plan's commands as currently stored, without deleted ones.
 Json ReadPlanCommands(const Call& call)
 {
     Json commands = Json::array();
@@ -146,11 +146,11 @@ Json ReadPlanCommands(const Call& call)
     return Json{{"results", commands}};
 }
 
-/// A device or channel without a linkage for this type of alarm sets nothing off.
+/// Returns empty lists for a device or channel without a linkage for this type of alarm.
 Json ReadLinkage(const Call& call)
 {
     const std::string source = ValueOf(call, "sourceCode");
-    for (const Json& linkage : call.state.at(Place("/brms/alarmLinkages"))) {
+    for (const Json& linkage : call.state.at(StatePath("/brms/alarmLinkages"))) {
         if (linkage.at("sourceCode") == source && linkage.at("alarmType") == call.query.at("alarmType")) {
             return linkage;
         }
@@ -166,7 +166,7 @@ Json ReadLinkage(const Call& call)
 Json ReadLayer(const Call& call)
 {
     const std::string resource = ValueOf(call, "resourceCode");
-    for (const Json& layer : call.state.at(Place("/brms/layers"))) {
+    for (const Json& layer : call.state.at(StatePath("/brms/layers"))) {
         if (layer.at("resourceCode") == resource && layer.at("resourceType") == call.query.at("resourceType")) {
             return layer;
         }
@@ -176,21 +176,21 @@ Json ReadLayer(const Call& call)
 
 Json ReadMenu(const Call& call)
 {
-    const Json& menus = call.state.at(Place("/brms/menus"));
+    const Json& menus = call.state.at(StatePath("/brms/menus"));
     return menus.contains(PathValue(call)) ? menus.at(PathValue(call)) : RefuseUnknown(PathValue(call));
 }
 
 Json DeriveToken(const Call& call)
 {
-    Remember(call);
+    RecordAccepted(call);
     return Json{{"token", "derived-" + NextNumber(call, "derivedToken")}};
 }
 
-/// The account may use on every channel what its menu functions allow.
+/// The account's menu functions are allowed on every channel.
 Json CheckFunction(const Call& call)
 {
     kChannels.find(call.state, call.body.at("channelId"));
-    const Json& functions = call.state.at(Place("/brms/permission/menuFunctionCodes"));
+    const Json& functions = call.state.at(StatePath("/brms/permission/menuFunctionCodes"));
     const bool allowed = std::count(functions.begin(), functions.end(), call.body.at("functionCode")) > 0;
     return Json{{"authorized", allowed ? "1" : "0"}};
 }
@@ -198,8 +198,8 @@ Json CheckFunction(const Call& call)
 Json CountDevices(const Call& call)
 {
     const std::vector<Filter> filters = {HasKeyword({"deviceName", "deviceCode"}), InOrganisation(), Equals("domain"),
-                                         Equals("sourceType"), [](const Json& device, const Call& asked) {
-                                             return !IsOn(ValueOf(asked, "permitted")) ||
+                                         Equals("sourceType"), [](const Json& device, const Call& request) {
+                                             return !IsOn(ValueOf(request, "permitted")) ||
                                                     device.at("permitted") == true;
                                          }};
     std::map<int, int> counts;

@@ -3,17 +3,17 @@
 namespace emulator::families {
 namespace {
 
-/// The user who holds the lock of the channel; empty when nobody does.
+/// The user who has locked the channel; empty for an unlocked channel.
 Json LockUserOf(const Call& call, const std::string& channelId)
 {
-    return call.state.at(Place("/dms/lockUsers")).value(channelId, Json::object());
+    return call.state.at(StatePath("/dms/lockUsers")).value(channelId, Json::object());
 }
 
-/// A channel that somebody has locked does not obey: result "1".
+/// A locked channel ignores the command: result "1".
 Json Command(const Call& call, const std::string& channelId)
 {
     kChannels.find(call.state, channelId);
-    Remember(call);
+    RecordAccepted(call);
     const Json lockUser = LockUserOf(call, channelId);
     return Json{{"lockUser", lockUser}, {"result", lockUser.empty() ? "0" : "1"}};
 }
@@ -37,7 +37,7 @@ Json WashBatch(const Call& call)
         kChannels.find(call.state, channelId);
         locked += LockUserOf(call, channelId).empty() ? 0 : 1;
     }
-    Remember(call);
+    RecordAccepted(call);
     const std::string switched = std::to_string(commands.size() - locked) + " channels switched";
     return Json{{"result", locked == 0 ? "0" : "1"},
                 {"msg", locked == 0 ? switched : switched + ", " + std::to_string(locked) + " locked"}};

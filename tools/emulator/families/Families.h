@@ -2,7 +2,7 @@
 
 #include "../Handlers.h"
 
-/// What the platform does for each call of a family: one table a family, on the state of the seed file of its name.
+/// The handlers of each family, which work on the state from the seed file of the same name.
 namespace emulator::families {
 
 HandlerTable Brms();
@@ -12,7 +12,7 @@ HandlerTable Ipms();
 HandlerTable Obms();
 HandlerTable Omms();
 
-/// Devices and channels, which several families share (seed file inventory.json).
+/// Devices and channels, shared by several families (seed file inventory.json).
 inline const Collection kDevices{"/inventory/devices", "deviceCode"};
 inline const Collection kChannels{"/inventory/channels", "channelId"};
 

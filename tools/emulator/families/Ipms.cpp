@@ -8,7 +8,7 @@ const Collection kCaptureRecords{"/ipms/captureRecords", "id"};
 Json CorrectPlate(const Call& call)
 {
     kCaptureRecords.find(call.state, call.body.at("id"))["plateNo"] = call.body.at("plateNo");
-    Remember(call);
+    RecordAccepted(call);
     return Json::object();
 }
 

@@ -31,9 +31,9 @@ bool AtOneOfThePoints(const Json& person, const Call& call)
 Json ReadManagedPersons(const Call& call)
 {
     kDevices.find(call.state, PathValue(call));
-    const Json& errors = call.state.at(Place("/obms/managedErrors"));
+    const Json& errors = call.state.at(StatePath("/obms/managedErrors"));
     Json results = Json::array();
-    const auto ids = call.state.at(Place(kManaged)).value(PathValue(call), std::vector<std::string>());
+    const auto ids = call.state.at(StatePath(kManaged)).value(PathValue(call), std::vector<std::string>());
     for (const std::string& id : ids) {
         Json person = kPersons.find(call.state, id);
         person["errorCode"] = errors.value(id, "0");
@@ -48,7 +48,7 @@ Json WriteManagedPersons(const Call& call)
     for (const Json& id : call.body.at("personIds")) {
         kPersons.find(call.state, id);
     }
-    call.state.at(Place(kManaged))[PathValue(call)] = call.body.at("personIds");
+    call.state.at(StatePath(kManaged))[PathValue(call)] = call.body.at("personIds");
     return Json::object();
 }
 
@@ -67,34 +67,34 @@ Json ReadPointRules(const Call& call)
     return Json{{"results", results}};
 }
 
-/// Issuing again succeeds, so no failure is left.
+/// Reissuing always succeeds, so it clears the failures.
 Json ReissueCards(const Call& call)
 {
-    call.state.at(Place("/obms/desfireFailures")) = Json::array();
-    Remember(call);
+    call.state.at(StatePath("/obms/desfireFailures")) = Json::array();
+    RecordAccepted(call);
     return Json::object();
 }
 
-/// Mode 1 deletes all contacts of the outdoor station, mode 2 the indoor stations named.
+/// Mode 1 deletes all contacts of the outdoor station, mode 2 only the listed indoor stations.
 Json DeleteContacts(const Call& call)
 {
     const std::string station = call.body.at("vtoDeviceCode");
     kDevices.find(call.state, station);
     Json left = Json::array();
-    for (const Json& contact : call.state.at(Place("/obms/contacts")).value(station, Json::array())) {
+    for (const Json& contact : call.state.at(StatePath("/obms/contacts")).value(station, Json::array())) {
         if (call.body.at("mode") == "2" && !Holds(call.body.at("vthDeviceCodes"), contact)) {
             left.push_back(contact);
         }
     }
-    call.state.at(Place("/obms/contacts"))[station] = left;
-    Remember(call);
+    call.state.at(StatePath("/obms/contacts"))[station] = left;
+    RecordAccepted(call);
     return Json::object();
 }
 
 Json TakeZoneSnapshot(const Call& call)
 {
     kZones.find(call.state, PathValue(call));
-    Remember(call);
+    RecordAccepted(call);
     return Json{{"session", "snapshot-" + PathValue(call) + "-" + NextNumber(call, "snapshot")}};
 }
 

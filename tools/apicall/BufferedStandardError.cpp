@@ -1,4 +1,4 @@
-#include "HeldStandardError.h"
+#include "BufferedStandardError.h"
 
 #include <unistd.h>
 
@@ -7,34 +7,34 @@
 
 namespace apicall {
 
-HeldStandardError::HeldStandardError() : m_file(std::tmpfile(), std::fclose)
+BufferedStandardError::BufferedStandardError() : m_file(std::tmpfile(), std::fclose)
 {
     std::cerr << std::flush;
     if (m_file) {
-        m_standardError = dup(STDERR_FILENO);
+        m_original = dup(STDERR_FILENO);
     }
-    if (m_standardError != -1) {
+    if (m_original != -1) {
         dup2(fileno(m_file.get()), STDERR_FILENO);
     }
 }
 
-HeldStandardError::~HeldStandardError()
+BufferedStandardError::~BufferedStandardError()
 {
     Restore();
 }
 
-void HeldStandardError::Restore()
+void BufferedStandardError::Restore()
 {
-    if (m_standardError != -1) {
-        dup2(m_standardError, STDERR_FILENO);
-        close(m_standardError);
-        m_standardError = -1;
+    if (m_original != -1) {
+        dup2(m_original, STDERR_FILENO);
+        close(m_original);
+        m_original = -1;
     }
 }
 
-void HeldStandardError::Release()
+void BufferedStandardError::Release()
 {
-    if (m_standardError == -1) {
+    if (m_original == -1) {
         return;
     }
     Restore();
@@ -47,9 +47,9 @@ void HeldStandardError::Release()
     std::cerr << std::flush;
 }
 
-void HeldStandardError::WriteThrough(const std::string& text)
+void BufferedStandardError::WriteThrough(const std::string& text)
 {
-    const int target = m_standardError == -1 ? STDERR_FILENO : m_standardError;
+    const int target = m_original == -1 ? STDERR_FILENO : m_original;
     for (std::size_t written = 0; written < text.size();) {
         const ssize_t size = write(target, text.data() + written, text.size() - written);
         if (size <= 0) {
