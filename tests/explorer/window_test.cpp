@@ -96,13 +96,14 @@ TEST_F(WindowTest, TheContractDescribesTheCallAndItsArguments)
     Press(Qt::Key_Return);
     const auto& summary = Find<QLabel>("callSummary");
     EXPECT_TRUE(Await([&] { return !summary.accessibleDescription().isEmpty(); }));
-    const QString description = QStringLiteral("Returns what the server keeps for the client under one setting type.");
+    const QString description =
+        QStringLiteral("Returns the data that the server stores for the client under one setting type.");
     EXPECT_EQ(summary.accessibleDescription(), description);
     EXPECT_TRUE(summary.toolTip().contains(description)) << summary.toolTip().toStdString();
     const auto labels = Window().findChild<explorer::ArgumentForm*>()->findChildren<QLabel*>();
     ASSERT_EQ(labels.first()->accessibleName(), QStringLiteral("settingType"));
     EXPECT_EQ(labels.first()->toolTip(),
-              QStringLiteral("<p>int. Kind of setting, a code of the server, such as 1.</p>"));
+              QStringLiteral("<p>int. Kind of setting, a server-defined code such as 1.</p>"));
 }
 
 TEST_F(WindowTest, TheRequestFollowsTheForm)

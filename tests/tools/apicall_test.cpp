@@ -221,18 +221,18 @@ TEST(Help, ACallIsToldWithItsTypes)
     const std::string help = R"(BRMS.GetLocalSetting (System configuration)
 Reads one client setting
 
-Returns what the server keeps for the client under one setting type.
+Returns the data that the server stores for the client under one setting type.
 
 GET /brms/api/v1.1/config/local/setting
 
 Arguments:
-  settingType: int. Kind of setting, a code of the server, such as 1.
+  settingType: int. Kind of setting, a server-defined code such as 1.
 
 Result: LocalSettingQueryResult
   apply: bool. The setting's apply flag.
-  settingType: int. Kind of setting, the number that the query passed.
-  settingVersion: int64. Version of the stored content; grows by one with each update.
-  settingContent: text. The setting itself, an opaque text that the server keeps for the client.
+  settingType: int. Kind of setting, as passed in the query.
+  settingVersion: int64. Version of the stored content; increases by one with each update.
+  settingContent: text. The setting itself, an opaque string that the server stores for the client.
 )";
     EXPECT_EQ(Apicall(Words({"--help", "BRMS.GetLocalSetting"})).out, help);
     EXPECT_EQ(Apicall(Words({"BRMS.GetLocalSetting", "--help"})).out, help);
@@ -252,10 +252,10 @@ TEST(Help, TheFieldsOfAnArgumentAreDescribed)
 {
     const Ended ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
     EXPECT_TRUE(Contains(ended.out,
-                         "\n    page: int. Number of the page, counted from 1; 0 gives the first page, too. [>= 0]\n"
-                         "    pageSize: int. Plans a page.\n"
-                         "    keyword: text. Part of the name, empty for all plans. The host encodes it, "
-                         "R&D as R%26D.\n"))
+                         "\n    page: int. Page number, counted from 1; 0 also means the first page. [>= 0]\n"
+                         "    pageSize: int. Number of plans per page.\n"
+                         "    keyword: text. Part of the name, empty for all plans. The host percent-encodes it, "
+                         "so R&D becomes R%26D.\n"))
         << ended.out;
 }
 
