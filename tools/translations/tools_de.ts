@@ -185,7 +185,7 @@ Rückgabewert: 0 Erfolg, 1 Aufruf fehlgeschlagen, 2 falsche Verwendung.</transla
     </message>
     <message>
         <source>Session token; pass it in the environment to keep it out of the process list</source>
-        <translation>Sitzungstoken; über die Umgebung übergeben, erscheint es nicht in der Prozessliste</translation>
+        <translation>Sitzungstoken; als Umgebungsvariable übergeben, erscheint es nicht in der Prozessliste</translation>
     </message>
     <message>
         <source>Trust only servers with this SHA-256 digest of their certificate or public key; repeatable</source>
@@ -419,7 +419,7 @@ Rückgabewert: 0 Erfolg, 1 Aufruf fehlgeschlagen, 2 falsche Verwendung.</transla
     </message>
     <message>
         <source>Token that clients must send as X-Subject-Token (default: see docs/emulator.md); pass it in the environment to keep it out of the process list</source>
-        <translation>Token, das Clients als X-Subject-Token senden müssen (Vorgabe: siehe docs/emulator.md); über die Umgebung übergeben, erscheint es nicht in der Prozessliste</translation>
+        <translation>Token, das Clients als X-Subject-Token senden müssen (Vorgabe: siehe docs/emulator.md); als Umgebungsvariable übergeben, erscheint es nicht in der Prozessliste</translation>
     </message>
     <message>
         <source>Token that the control path requires as X-Subject-Token (default: none)</source>
