@@ -172,9 +172,8 @@ int main(int /*argc*/, char** argv)
     const emulator::Contract contract = emulator::Contract::Load(contractFolder);
 
     std::ofstream overview(folder / "calls.md");
-    overview
-        << "# Calls {#calls}\n\nAll calls of the library, by family. The section of a call has its functions, its "
-           "record, its arguments, and an example of a request and a reply.\n";
+    overview << "# Calls {#calls}\n\nAll calls of the library, by family. The section of a call has its functions, its "
+                "record, its arguments, and an example of a request and a reply.\n";
     const std::vector<Call>& calls = catalogue::Calls();
     for (auto begin = calls.begin(); begin != calls.end();) {
         const auto end =
