@@ -52,7 +52,7 @@ int NumberIn(const Json& value, const std::string& name, int least, int most)
 std::string TextIn(const Json& value, const std::string& name)
 {
     if (!value.is_string()) {
-        throw std::invalid_argument(name + ": expected a text");
+        throw std::invalid_argument(name + ": expected a string");
     }
     return value;
 }

@@ -216,7 +216,7 @@ private:
     HttpResponse control(const HttpRequest& request)
     {
         if (!m_options.controlPath) {
-            return PlainError(403, "the control path is switched off");
+            return PlainError(403, "the control path is disabled");
         }
         if (!m_options.controlToken.empty() && !HasToken(request, m_options.controlToken)) {
             return PlainError(401, kWrongToken);
@@ -239,7 +239,7 @@ private:
                                  }}}}};
         const auto route = routes.find(path);
         if (route == routes.end()) {
-            return PlainError(404, "no such control path");
+            return PlainError(404, "unknown control path");
         }
         const auto action = route->second.find(request.method);
         return action == route->second.end() ? PlainError(405, "method not allowed") : action->second();

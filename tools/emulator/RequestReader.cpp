@@ -28,7 +28,7 @@ constexpr std::size_t kShortestChunkRest = std::string_view("0\r\n\r\n").size();
 constexpr int kHttp10 = 10;
 constexpr int kHttp11 = 11;
 
-constexpr const char* kBadLine = "line that does not end in CR LF, or a control character";
+constexpr const char* kBadLine = "line without CR LF at its end, or control character";
 constexpr int kBadRequest = 400;
 constexpr int kContentTooLarge = 413;
 constexpr int kUriTooLong = 414;
@@ -211,7 +211,7 @@ std::optional<RequestFault> FaultOfRequestLine(const error_code& error, const Ht
                                                std::string_view line)
 {
     if (error == http::error::bad_version && NamesVersion(line)) {
-        return RequestFault{kVersionNotSupported, "another version of HTTP"};
+        return RequestFault{kVersionNotSupported, "unsupported HTTP version"};
     }
     if (error && error != http::error::need_more) {
         return RequestFault{kBadRequest, "request line: " + error.message()};
@@ -230,11 +230,11 @@ std::optional<RequestFault> FaultOfHost(const HttpRequest& request, int version)
     const auto isHost = [](const auto& header) { return IsName(header.first, "Host"); };
     const auto count = std::count_if(request.headers.begin(), request.headers.end(), isHost);
     if (count > 1 || (count == 0 && version >= kHttp11)) {
-        return RequestFault{kBadRequest, count == 0 ? "Host is missing" : "Host is there twice"};
+        return RequestFault{kBadRequest, count == 0 ? "missing Host header" : "duplicate Host header"};
     }
     const auto host = std::find_if(request.headers.begin(), request.headers.end(), isHost);
     if (host != request.headers.end() && host->second.find_first_of(" \t,/?#@\\\"<>") != std::string::npos) {
-        return RequestFault{kBadRequest, "Host names no host"};
+        return RequestFault{kBadRequest, "invalid Host header"};
     }
     return std::nullopt;
 }
@@ -259,7 +259,7 @@ std::optional<RequestFault> FaultOfTransferCoding(const HttpRequest& request, in
         }
     }
     if (isThere && (chunked != 1 || version < kHttp11)) {
-        return RequestFault{kBadRequest, "transfer coding out of place"};
+        return RequestFault{kBadRequest, "invalid transfer coding"};
     }
     return std::nullopt;
 }
@@ -340,7 +340,7 @@ public:
     Progress readEnd()
     {
         if (hasBegun()) {
-            refuse({kBadRequest, "the request ends early"});
+            refuse({kBadRequest, "incomplete request"});
         }
         return m_fault ? Progress::Refused : Progress::NeedsMore;
     }
@@ -414,7 +414,7 @@ private:
     {
         const std::size_t blank = std::min(line.find(' '), line.size());
         if (!std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(blank), IsTokenChar)) {
-            refuse({kBadRequest, "no method"});
+            refuse({kBadRequest, "invalid method"});
             return false;
         }
         if (line.size() > kLongestRequestLine) {
@@ -468,7 +468,7 @@ private:
         } else if (error) {
             refuse({kBadRequest, "body: " + error.message()});
         } else if (isText && count > kLargestEndOfBody) {
-            refuse({kHeadTooLarge, "end of the body too large"});
+            refuse({kHeadTooLarge, "trailers too large"});
         } else if (isText && HasFoldedLine(input.substr(0, count))) {
             refuse({kBadRequest, "folded header"});
         }
@@ -502,7 +502,7 @@ private:
         if (found == LineScan::Found::Fault) {
             refuse({kBadRequest, kBadLine});
         } else if (found == LineScan::Found::Nothing && input.size() > kLargestEndOfBody) {
-            refuse({kHeadTooLarge, "end of the body too large"});
+            refuse({kHeadTooLarge, "trailers too large"});
         }
         return !m_fault;
     }
