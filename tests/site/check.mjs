@@ -134,6 +134,14 @@ for (const file of files.filter(name => /^classAPIModule_1_1C(BRMS|DMS|IAMS|IPMS
     assert(html.indexOf('operator=') > html.indexOf('Packet'), `${file} begins with operator=`);
 }
 
+// A link to a section of another guide leads to that section.
+const security = readFileSync(join(site, files.find(name => /^md_docs_2?security/.test(name))), 'utf8');
+const sections = [...security.matchAll(/href="(md_[^"#]+)#([^"]+)"/g)];
+assert(sections.length >= 4, 'the guide to security links to no section');
+for (const [, file, anchor] of sections) {
+    assert(readFileSync(join(site, file), 'utf8').includes(`id="${anchor}"`), `${file} has no section ${anchor}`);
+}
+
 // No link is dead.
 for (const file of files) {
     for (const [, link] of readFileSync(join(site, file), 'utf8').matchAll(/(?:href|src|data)="([^"#:?]+)["#?]/g)) {

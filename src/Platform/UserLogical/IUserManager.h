@@ -17,7 +17,7 @@ class IServer {
 public:
     virtual ~IServer() = default;
 
-    /// Tells where the server is.
+    /// Returns the address of the server.
     /// @param connection takes host and port
     virtual void GetConnection(ServerConnection& connection) = 0;
 

@@ -272,7 +272,7 @@ QString CAPIModule::GetErroCodeInfor(const QString& strUIError, int errorCode, b
     std::string strText;
     if (ErrorLexicon::ErrorLexiconQuery(errorCode, strText) == 0) {
         const QString codeText = QString::fromStdString(strText);
-        //: Between the failure in the words of the user interface and the text of its code; a blank follows
+        //: Separates the description of the failure from the text of its code; a blank follows
         return bAppend && !strUIError.isEmpty() ? strUIError + tr(":") + QLatin1Char(' ') + codeText : codeText;
     }
 

@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the library exports; a host needs no definition of its own to import it.
+/// Marks exported symbols. A host imports them without defining anything.
 #if defined(APIMODULE_LIBRARY)
 #define APIMODULE_EXPORT Q_DECL_EXPORT
 #else

@@ -4,8 +4,8 @@
 
 namespace ORNGUI::detail {
 
-/// Tells that the application wants to end, for instance because its last window was closed. Qt gives that up again
-/// when a window that is still visible refuses to close.
+/// Reports that the application is about to quit, for instance because its last window was closed. Qt abandons the
+/// quit when a visible window refuses to close.
 class QuitWatcher : public QObject {
     Q_OBJECT
 

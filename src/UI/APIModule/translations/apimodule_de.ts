@@ -5,7 +5,7 @@
     <name>APIModule::CAPIModule</name>
     <message>
         <source>:</source>
-        <extracomment>Between the failure in the words of the user interface and the text of its code; a blank follows</extracomment>
+        <extracomment>Separates the description of the failure from the text of its code; a blank follows</extracomment>
         <translation>:</translation>
     </message>
     <message>
