@@ -228,6 +228,7 @@ const OnTheWire kOnTheWire[] = {
     {"query", APIModule::Method_Get, "/a?x=1&y=&keyword=a%20b", "", "GET", "/a?x=1&y=&keyword=a%20b", ""},
     {"query_with_blank", APIModule::Method_Get, "/a?keyword=a b", "", "GET", "/a?keyword=a%20b", ""},
     {"query_with_umlaut", APIModule::Method_Get, "/a?keyword=\xC3\xBC", "", "GET", "/a?keyword=%C3%BC", ""},
+    {"query_alone", APIModule::Method_Get, "?x=1", "", "GET", "/?x=1", ""},
     {"hash_ends_it", APIModule::Method_Get, "/a?keyword=a&b#c", "", "GET", "/a?keyword=a&b", ""},
 };
 

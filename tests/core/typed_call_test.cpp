@@ -17,12 +17,14 @@
 #include <QKeyEvent>
 #include <qpa/qwindowsysteminterface.h>
 #include <QThread>
+#include <QThreadPool>
 #include <QTimer>
 #include <QWindow>
 
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -39,6 +41,7 @@ struct Number {
 
 std::atomic<int> g_parseMilliseconds{0};  ///< duration of a Parse
 std::atomic<int> g_parsing{0};            ///< Parses in progress
+std::atomic<int> g_parsed{0};             ///< Parses that ended
 
 int PackPath(void* pReqParamData, const std::string& path, int nServerId)
 {
@@ -52,6 +55,7 @@ int ParseNumber(const QJsonObject& data, Number& number)
     ++g_parsing;
     QThread::msleep(static_cast<unsigned long>(g_parseMilliseconds.load()));
     --g_parsing;
+    ++g_parsed;
     if (CCommonFunc::GetJsonValue(data, QStringLiteral("a"), number.a) != 0) {
         return -1;
     }
@@ -64,6 +68,13 @@ int PackAppended(void* pReqParamData, std::string& path, int nServerId)
     return PackPath(pReqParamData, path, nServerId);
 }
 
+int PackAndUnInit(void* pReqParamData, const std::string& path, int nServerId)
+{
+    const int nResult = PackPath(pReqParamData, path, nServerId);
+    CAPIModule::GetInstance().UnInit();
+    return nResult;
+}
+
 int ParseFlag(const QJsonObject& data, bool& bFlag)
 {
     return CCommonFunc::GetJsonValue(data, QStringLiteral("flag"), bFlag);
@@ -73,6 +84,7 @@ constexpr Call<&PackPath, &ParseNumber> GetNumber;
 constexpr Call<&PackPath, &ParseFlag> GetFlag;
 constexpr Call<&PackPath> Touch;
 constexpr Call<&PackAppended> Append;
+constexpr Call<&PackAndUnInit> Leave;
 
 constexpr const char* kWhole = R"({"code":1000,"desc":"fine","data":{"a":1,"b":"x","totalCount":7}})";
 
@@ -99,6 +111,7 @@ protected:
     ~TypedCall() override
     {
         g_parseMilliseconds = 0;
+        g_parsed = 0;
         CAPIModule& module = CAPIModule::GetInstance();
         module.SetCallTimeout(std::nullopt);
         module.SetWaitDialogDelay(std::chrono::milliseconds(300));
@@ -359,6 +372,27 @@ TEST_P(WaitModeTest, LogsTheReadingOfALargeReply)
     EXPECT_EQ(lines[2].message, "Invalid key: [b], jsonObject does not contain the key.");
 }
 
+TEST_P(WaitModeTest, JudgesALargeReplyAsASmallOne)
+{
+    const QByteArray padding = ",\"padding\":\"" + QByteArray(300 * 1024, 'x') + "\"}";
+    QByteArray reply;
+    Serve([&reply](const RawRequest&) { return HttpAnswer(200, reply); });
+
+    reply = LargeReply(1001);
+    const auto refused = Ended(GetParam(), GetNumber("/large"));
+    EXPECT_EQ(refused.End(), CallEnd::Refused);
+    EXPECT_EQ(refused.Code(), 1001);
+    EXPECT_EQ(refused.Incomplete().a, -1);
+
+    reply = R"({"code":1000,"data":{})" + padding;
+    const auto empty = Ended(GetParam(), GetNumber("/large"));
+    EXPECT_EQ(empty.End(), CallEnd::Success);
+    EXPECT_EQ(empty->a, -1);
+
+    reply = LargeReply();
+    EXPECT_EQ(Ended(GetParam(), Touch("/large")).End(), CallEnd::Success);
+}
+
 TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, kWhole, "X-More: one\r\n"); });
@@ -477,6 +511,7 @@ TEST_F(TypedCall, DefaultOutcomeIsNotPacked)
     EXPECT_FALSE(none);
     EXPECT_EQ(none.End(), CallEnd::NotPacked);
     EXPECT_EQ(none->a, -1);
+    EXPECT_EQ(none.Incomplete().a, -1);
     EXPECT_EQ(none.Data(), QJsonObject());
 }
 
@@ -604,6 +639,20 @@ TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
     EXPECT_FALSE(bCalled);
 }
 
+TEST_F(TypedCall, CancelAfterParsingCallsNothing)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    bool bCalled = false;
+    CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
+    while (g_parsed == 0) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    }
+    QThreadPool::globalInstance()->waitForDone();  // the record waits in the event queue
+    handle.Cancel();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(bCalled);
+}
+
 TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
@@ -678,6 +727,19 @@ TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
             Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>& outcome) { bCalled = bool(outcome); });
     }
     EXPECT_TRUE(Await([&] { return bCalled; }));
+}
+
+TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
+{
+    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    EXPECT_TRUE(APIModule::Run(Touch("/path")));
+    m_pServer->TakeRequests();
+    std::optional<CallEnd> end;
+    Start(Leave("/path"), &m_parent, [&](const auto& outcome) { end = outcome.End(); });
+    EXPECT_TRUE(Await([&] { return end.has_value(); }));
+    EXPECT_EQ(*end, CallEnd::Cancelled);
+    EXPECT_EQ(m_pServer->TakeRequests().size(), 0U);
+    CAPIModule::GetInstance().Init(&users);
 }
 
 TEST_F(TypedCall, PackRunsInsideStart)

@@ -42,6 +42,16 @@ RawAnswer Encoded(const QByteArray& encoding, const QByteArray& body, RawAnswer:
               then);
 }
 
+/// The same bytes, the last of them in a separate segment.
+RawAnswer InTwo(RawAnswer answer, int nLast)
+{
+    constexpr int kPause = 20;
+    answer.moreBytes = answer.bytes.right(nLast);
+    answer.bytes.chop(nLast);
+    answer.moreMilliseconds = kPause;
+    return answer;
+}
+
 QByteArray ChunkOf(const QByteArray& bytes)
 {
     return QByteArray::number(bytes.size(), 16) + "\r\n" + bytes + "\r\n";
@@ -81,7 +91,13 @@ std::vector<Answer> Answers()
          Status("HTTP/1.0 200 OK", "Transfer-Encoding: chunked\r\n", kChunk + "0\r\n\r\n", RawAnswer::Close)},
         {"http_1_2", Status("HTTP/1.2 200 OK")},
         {"http_2_0", Status("HTTP/2.0 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_1_0_keep_alive", Status("HTTP/1.0 200 OK", "Connection: keep-alive\r\n" + kLength)},
         {"http_0_9", Raw(kBody, RawAnswer::Close)},
+        {"http_0_9_with_a_status", Status("HTTP/0.9 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_with_a_letter_for_the_major_version", Status("HTTP/x.1 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_with_a_letter_for_the_minor_version", Status("HTTP/1.x 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_without_a_dot", Status("HTTP/1-1 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_without_a_blank", Status("HTTP/1.1x200 OK", kLength, kBody, RawAnswer::Close)},
         {"http_in_small_letters", Status("http/1.1 200 OK", kLength, kBody, RawAnswer::Close)},
         {"http_without_version", Status("HTTP 200 OK", kLength, kBody, RawAnswer::Close)},
         {"other_protocol", Raw("220 mail ready\r\n\r\n", RawAnswer::Close)},
@@ -200,6 +216,7 @@ std::vector<Answer> Answers()
         {"length_hexadecimal", Ok("Content-Length: 0x1c\r\n", kBody, RawAnswer::Close)},
         {"length_with_zeros", Ok("Content-Length: 00000000000000000000028\r\n", kBody, RawAnswer::Close)},
         {"length_beyond_64_bits", Ok("Content-Length: 99999999999999999999\r\n", kBody, RawAnswer::Close)},
+        {"length_beyond_63_bits", Ok("Content-Length: 9223372036854775808\r\n", kBody, RawAnswer::Close)},
         {"length_twice_the_same", Ok(kLength + kLength, kBody, RawAnswer::Close)},
         {"length_twice_joined", Ok("Content-Length: 28, 28\r\n", kBody, RawAnswer::Close)},
         {"length_twice_different", Ok("Content-Length: 28\r\nContent-Length: 5\r\n", kBody, RawAnswer::Close)},
@@ -247,6 +264,10 @@ std::vector<Answer> Answers()
         {"gzip_twice", Encoded("gzip, gzip", Deflated(gzip))},
         {"gzip_chunked", Chunked(ChunkOf(gzip.left(20)) + ChunkOf(gzip.mid(20)) + "0\r\n\r\n", RawAnswer::KeepOpen,
                                  "Content-Encoding: gzip\r\n")},
+        {"gzip_after_its_first_byte", InTwo(Encoded("gzip", gzip), gzip.size() - 1)},
+        {"gzip_of_one_byte", Encoded("gzip", gzip.left(1))},
+        {"gzip_and_more_behind_in_a_chunk",
+         Chunked(ChunkOf(gzip) + ChunkOf("rest") + "0\r\n\r\n", RawAnswer::KeepOpen, "Content-Encoding: gzip\r\n")},
         {"gzip_until_the_end", Ok("Content-Encoding: gzip\r\n", gzip, RawAnswer::Close)},
         {"gzip_of_nothing", Encoded("gzip", Deflated(""))},
         {"gzip_without_a_byte", Encoded("gzip", "")},
@@ -273,6 +294,8 @@ std::vector<Answer> Answers()
         {"deflate", Encoded("deflate", zlib)},
         {"deflate_bare", Encoded("deflate", bare)},
         {"deflate_of_something_else", Encoded("deflate", body)},
+        {"deflate_with_a_wrong_check_of_the_header", Encoded("deflate", QByteArray(zlib).replace(1, 1, "\x02"))},
+        {"deflate_with_half_of_the_mark_of_gzip", Encoded("deflate", QByteArray(gzip).replace(1, 1, "\x02"))},
         {"deflate_cut", Encoded("deflate", zlib.left(15))},
         {"encoding_identity", Encoded("identity", body)},
         {"encoding_unknown", Encoded("x-other", body)},

@@ -272,8 +272,11 @@ QString CAPIModule::GetErroCodeInfor(const QString& strUIError, int errorCode, b
     std::string strText;
     if (ErrorLexicon::ErrorLexiconQuery(errorCode, strText) == 0) {
         const QString codeText = QString::fromStdString(strText);
-        //: Separates the description of the failure from the text of its code; a blank follows
-        return bAppend && !strUIError.isEmpty() ? strUIError + tr(":") + QLatin1Char(' ') + codeText : codeText;
+        if (bAppend && !strUIError.isEmpty()) {
+            //: Separates the description of the failure from the text of its code; a blank follows
+            return strUIError + tr(":") + QLatin1Char(' ') + codeText;
+        }
+        return codeText;
     }
 
     const LogSite site{kModuleFile, "APIModule::CAPIModule::GetErroCodeInfor"};

@@ -358,20 +358,20 @@ void CAPIModulePrivate::EndStarted(void (StartedCall::*pEnd)())
     }
 }
 
-void CAPIModulePrivate::SetUp(Exchange& exchange, const CallSteps* pSteps) const
+void CAPIModulePrivate::SetUp(Exchange& exchange, const CallSteps& steps) const
 {
     exchange.AddObserver(m_observer);
-    if (pSteps && pSteps->bTyped) {
-        exchange.ReadInBackground(pSteps->read);
-        exchange.AddObserver(pSteps->observer);
+    if (steps.bTyped) {
+        exchange.ReadInBackground(steps.read);
+        exchange.AddObserver(steps.observer);
     }
 }
 
-std::chrono::milliseconds CAPIModulePrivate::TimeoutOf(const QNetworkRequest& request, const CallSteps* pSteps) const
+std::chrono::milliseconds CAPIModulePrivate::TimeoutOf(const QNetworkRequest& request, const CallSteps& steps) const
 {
     std::optional<std::chrono::milliseconds> timeout;
-    if (pSteps && pSteps->bTyped) {
-        timeout = pSteps->timeout ? pSteps->timeout : m_callTimeout;
+    if (steps.bTyped) {
+        timeout = steps.timeout ? steps.timeout : m_callTimeout;
     }
     return Limited(timeout.value_or(std::chrono::seconds(request.attribute(kTimeoutAttribute).toInt())));
 }
@@ -427,7 +427,7 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
 
 int CAPIModulePrivate::ExecuteRequestWithWaitDlg(const QNetworkRequest& request, QWidget* pParent, ReplyInfo& reply)
 {
-    const bool bTyped = reply.pSteps && reply.pSteps->bTyped;
+    const bool bTyped = reply.pSteps->bTyped;
     Wait wait(*pParent, bTyped ? Limited(m_waitDialogDelay) : std::chrono::milliseconds(0));
     const int nResult =
         Execute(request, pParent, reply, wait, "APIModule::CAPIModulePrivate::ExecuteRequestWithWaitDlg");
@@ -455,7 +455,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
 
     auto pExchange = std::make_unique<Exchange>(request, pFunction);
     Exchange& exchange = *pExchange;
-    SetUp(exchange, reply.pSteps);
+    SetUp(exchange, *reply.pSteps);
     if (pParent) {
         // A reply that arrives after the parent was destroyed is ignored.
         connect(pParent, &QObject::destroyed, &exchange, [&exchange] { exchange.Close(CallEnd::Cancelled); });
@@ -471,7 +471,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
         wait.End();
     });
     connect(&exchange, &Exchange::Answered, &timer, &QTimer::stop);
-    timer.start(TimeoutOf(request, reply.pSteps));
+    timer.start(TimeoutOf(request, *reply.pSteps));
 
     exchange.Begin(Send(request));
     wait.Run();

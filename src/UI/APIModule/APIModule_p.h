@@ -77,14 +77,13 @@ public:
     static void Deliver(const detail::ReadData& read, ReplyInfo& reply);
 
     /// Configures an exchange as its call and the host require.
-    void SetUp(Exchange& exchange, const CallSteps* pSteps) const;
+    void SetUp(Exchange& exchange, const CallSteps& steps) const;
 
     /// Packs and builds a request without sending it. See APIModule::Preview().
     std::optional<ObservedExchange> Preview(const CallSteps& steps);
 
-    /// The time-out of a request.
-    /// @param pSteps of a typed call, null for ExecuteFuncs()
-    std::chrono::milliseconds TimeoutOf(const QNetworkRequest& request, const CallSteps* pSteps) const;
+    /// The time-out of a request: that of the Pack, or of a typed call.
+    std::chrono::milliseconds TimeoutOf(const QNetworkRequest& request, const CallSteps& steps) const;
 
     http::Reply* Send(const QNetworkRequest& request) { return Send(*m_pNetworkManager, request); }
 

@@ -84,14 +84,22 @@ void Convert(const QJsonValue& value, QJsonObject& result)
 {
     const QJsonObject object = value.toObject();
     const QCborMap map = QCborMap::fromJsonObject(object);
-    result = IsKeptByVariant(map) ? object : FromVariant(map).toMap().toJsonObject();
+    if (IsKeptByVariant(map)) {
+        result = object;
+    } else {
+        result = FromVariant(map).toMap().toJsonObject();
+    }
 }
 
 void Convert(const QJsonValue& value, QJsonArray& result)
 {
     const QJsonArray array = value.toArray();
     const QCborArray list = QCborArray::fromJsonArray(array);
-    result = IsKeptByVariant(list) ? array : FromVariant(list).toArray().toJsonArray();
+    if (IsKeptByVariant(list)) {
+        result = array;
+    } else {
+        result = FromVariant(list).toArray().toJsonArray();
+    }
 }
 
 void LogEmptyObject()

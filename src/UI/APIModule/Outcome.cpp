@@ -13,10 +13,11 @@ namespace APIModule {
 
 namespace {
 
-const detail::CallResult& NoResult()
+/// A result that no call has filled stands for a missing one.
+const detail::CallResult& ResultIn(const std::shared_ptr<const detail::CallResult>& pResult)
 {
     static const detail::CallResult none;
-    return none;
+    return pResult ? *pResult : none;
 }
 
 }  // namespace
@@ -66,12 +67,12 @@ OutcomeBase::OutcomeBase(std::shared_ptr<const detail::CallResult> pResult) : m_
 
 CallEnd OutcomeBase::End() const
 {
-    return (m_pResult ? *m_pResult : NoResult()).eEnd;
+    return ResultIn(m_pResult).eEnd;
 }
 
 int OutcomeBase::Code() const
 {
-    return (m_pResult ? *m_pResult : NoResult()).nCode;
+    return ResultIn(m_pResult).nCode;
 }
 
 QString OutcomeBase::Text() const
@@ -88,17 +89,17 @@ QString OutcomeBase::Text() const
 
 QString OutcomeBase::ServerText() const
 {
-    return (m_pResult ? *m_pResult : NoResult()).reply.strDesc;
+    return ResultIn(m_pResult).reply.strDesc;
 }
 
 QString OutcomeBase::UnreadableKey() const
 {
-    return (m_pResult ? *m_pResult : NoResult()).reply.strUnreadableKey;
+    return ResultIn(m_pResult).reply.strUnreadableKey;
 }
 
 const QJsonObject& OutcomeBase::Data() const
 {
-    return (m_pResult ? *m_pResult : NoResult()).reply.jsonData;
+    return ResultIn(m_pResult).reply.jsonData;
 }
 
 }  // namespace APIModule

@@ -30,7 +30,7 @@ struct ReplyInfo {
     std::optional<int> parsed;                        ///< result of the Parse, where it ran
     QString strUnreadableKey;                         ///< the key at which the Parse stopped
     bool bLarge = false;                              ///< whether releasing it takes noticeable time
-    const CallSteps* pSteps = nullptr;                ///< of the typed call, null for ExecuteFuncs()
+    const CallSteps* pSteps = nullptr;                ///< of the call, while it is performed
 };
 
 }  // namespace APIModule

@@ -47,7 +47,7 @@ void StartedCall::Prepare()
     const QUrl url = m_request.url();
     m_origin = url.scheme() + url.authority();
     m_pExchange = std::make_unique<Exchange>(m_request, kStart);
-    m_module.SetUp(*m_pExchange, &m_steps);
+    m_module.SetUp(*m_pExchange, m_steps);
 }
 
 void StartedCall::Begin()
@@ -55,7 +55,7 @@ void StartedCall::Begin()
     m_state = State::OnItsWay;
     connect(m_pExchange.get(), &Exchange::Answered, &m_timer, &QTimer::stop);
     connect(m_pExchange.get(), &Exchange::Ended, this, &StartedCall::OnEnded);
-    m_timer.start(m_module.TimeoutOf(m_request, &m_steps));
+    m_timer.start(m_module.TimeoutOf(m_request, m_steps));
     m_pExchange->Begin(m_module.Send(m_request));
 }
 

@@ -107,14 +107,14 @@ void Connection::OnHostFound(const QHostInfo& info)
     if (m_bClosed) {
         return;
     }
-    if (info.error() != QHostInfo::NoError || info.addresses().isEmpty()) {
+    const QList<QHostAddress> addresses = info.addresses();
+    if (addresses.isEmpty()) {
         const auto [error, text] = Reported(QAbstractSocket::HostNotFoundError, m_origin.host, QString());
         Fail(error, text);
         return;
     }
     // A host with addresses of both families may be reachable through only one of them.
-    const QAbstractSocket::NetworkLayerProtocol first = info.addresses().constFirst().protocol();
-    const QList<QHostAddress> addresses = info.addresses();
+    const QAbstractSocket::NetworkLayerProtocol first = addresses.constFirst().protocol();
     for (const QHostAddress& address : addresses) {
         if (address.protocol() != first) {
             m_second = address.protocol();
@@ -132,23 +132,32 @@ void Connection::Dial(QAbstractSocket::NetworkLayerProtocol protocol)
     std::unique_ptr<QTcpSocket> pSocket;
     if (m_origin.bEncrypted) {
         auto pTls = std::make_unique<QSslSocket>();
-        const std::shared_ptr<const ServerTrust>& pTrust = m_manager.GetServerTrust();
-        pTls->setSslConfiguration(pTrust ? Verifying(*pTrust, m_configuration) : m_configuration);
+        QSslConfiguration configuration = m_configuration;
+        if (const std::shared_ptr<const ServerTrust>& pTrust = m_manager.GetServerTrust()) {
+            configuration = Verifying(*pTrust, m_configuration);
+        }
+        pTls->setSslConfiguration(configuration);
         connect(pTls.get(), &QSslSocket::encrypted, this, &Connection::OnEncrypted);
         pSocket = std::move(pTls);
     } else {
         pSocket = std::make_unique<QTcpSocket>();
     }
     QTcpSocket& socket = *m_dialled.emplace_back(std::move(pSocket));
-    socket.setProxy(m_bThroughCache ? QNetworkProxy(QNetworkProxy::NoProxy) : m_proxy);
+    QNetworkProxy proxy = m_proxy;
+    QString host = m_origin.host;
+    auto nPort = quint16(m_origin.nPort);
+    if (m_bThroughCache) {  // which the connection leads to
+        proxy = QNetworkProxy::NoProxy;
+        host = m_proxy.hostName();
+        nPort = m_proxy.port();
+    }
+    socket.setProxy(proxy);
     socket.setReadBufferSize(kReadBufferSize);
     connect(&socket, &QTcpSocket::connected, this, [this, &socket] { OnConnected(socket); });
     connect(&socket, &QTcpSocket::readyRead, this, &Connection::OnReadyRead);
     connect(&socket, &QTcpSocket::errorOccurred, this,
             [this, &socket](QAbstractSocket::SocketError error) { OnSocketError(socket, error); });
 
-    const QString host = m_bThroughCache ? m_proxy.hostName() : m_origin.host;
-    const quint16 nPort = m_bThroughCache ? m_proxy.port() : quint16(m_origin.nPort);
     if (m_origin.bEncrypted) {
         static_cast<QSslSocket&>(socket).connectToHostEncrypted(host, nPort, QIODevice::ReadWrite, protocol);
     } else {

@@ -35,7 +35,10 @@ QByteArray HostOf(const QUrl& url)
         return QUrl::toAce(url.host());
     }
     const QByteArray text = url.host().toLatin1();
-    return address.protocol() == QAbstractSocket::IPv6Protocol ? '[' + text + ']' : text;
+    if (address.protocol() == QAbstractSocket::IPv6Protocol) {
+        return '[' + text + ']';
+    }
+    return text;
 }
 
 }  // namespace
