@@ -102,10 +102,10 @@ const std::vector<Row>& Rows()
     return rows;
 }
 
-const Row& RowOf(const std::string& call)
+const Row& RowOf(std::string_view call)
 {
     const std::vector<Row>& rows = Rows();
-    return *std::find_if(rows.begin(), rows.end(), [&call](const Row& row) { return row.call == call; });
+    return *std::find_if(rows.begin(), rows.end(), [call](const Row& row) { return row.call == call; });
 }
 
 }  // namespace e2e

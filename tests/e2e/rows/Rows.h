@@ -3,6 +3,7 @@
 #include "../support/Expected.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace e2e {
@@ -44,7 +45,7 @@ Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> t
 /// Those below; a call without any has one by the examples of the contract.
 const std::vector<Row>& Rows();
 /// The first row of a call.
-const Row& RowOf(const std::string& call);
+const Row& RowOf(std::string_view call);
 
 std::vector<Row> SystemConfigRows();
 std::vector<Row> DeviceConfigRows();
