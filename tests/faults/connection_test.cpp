@@ -100,8 +100,9 @@ const std::vector<Fault> kFaults = {
     {"certificate_expired", ShowsCertificate({"127.0.0.1", -20, -10}), Succeeds(), 20, kHttps},
     {"certificate_not_yet_valid", ShowsCertificate({"127.0.0.1", 10, 20}), Succeeds(), 20, kHttps},
     {"certificate_of_another_host", ShowsCertificate({"other.example"}), Succeeds(), 20, kHttps},
-    {"tls_1_0", Speaks(kTls1_0, false), NetworkFails("6"), 20, kHttps},
-    {"tls_1_1", Speaks(kTls1_1, false), NetworkFails("6"), 20, kHttps},
+    // Depending on the version of OpenSSL, the client refuses or the server closes without an alert.
+    {"tls_1_0", Speaks(kTls1_0, false), NetworkFails(), 20, kHttps},
+    {"tls_1_1", Speaks(kTls1_1, false), NetworkFails(), 20, kHttps},
     {"tls_1_2", Speaks(QSsl::TlsV1_2, true), Succeeds(), 20, kHttps},
     {"tls_1_3", Speaks(QSsl::TlsV1_3, true), Succeeds(), 20, kHttps},
 };
