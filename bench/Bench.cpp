@@ -14,7 +14,7 @@ void Fail(const std::string& why)
 void Require(bool isSame, const std::string& what)
 {
     if (!isSame) {
-        Fail("not the same: " + what);
+        Fail("check failed: " + what);
     }
 }
 

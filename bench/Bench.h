@@ -2,24 +2,24 @@
 
 #include <string>
 
-/// Benchmarks of the library beside its peers.
+/// Benchmarks that compare the library with its peers.
 ///
-/// A program registers its benchmarks with Google Benchmark. The name is "work/contender", where the work may hold
+/// A program registers its benchmarks with Google Benchmark under names "work/contender", where the work may contain
 /// further slashes: "read detailed parking lots/300/APIModule". The table that scripts/bench prints has one row for
-/// each work; the contender APIModule is this library. bench/targets.json says which of the others it is held against
-/// and how much of that it may cost.
+/// each work; the contender APIModule is this library. bench/targets.json defines which contender it is compared with
+/// and the highest acceptable ratio.
 namespace bench {
 
-/// The contender that is measured against the others.
+/// The contender that is compared with the others.
 constexpr const char* kLibrary = "APIModule";
 
 /// Ends the program.
 [[noreturn]] void Fail(const std::string& why);
 
-/// Ends the program when the results of contenders differ, because one that does less work would win unfairly.
+/// Ends the program unless @p isSame, because a contender that does less work would win unfairly.
 void Require(bool isSame, const std::string& what);
 
-/// Registers the benchmarks of a program; each of them defines it. There is an application object.
+/// Registers the benchmarks of a program. Each program defines this function; an application object exists.
 void RegisterBenchmarks();
 
 }  // namespace bench

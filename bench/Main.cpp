@@ -9,7 +9,7 @@
 int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");  // the same with a screen and without
+        qputenv("QT_QPA_PLATFORM", "offscreen");  // gives the same results with and without a screen
     }
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

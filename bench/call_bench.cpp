@@ -1,4 +1,4 @@
-// Whole calls on loopback: the library beside the exchange that it has under it and beside blocking clients.
+// Complete calls on loopback: the library compared with a plain exchange through Qt and with blocking clients.
 #include "Bench.h"
 #include "transport/Clients.h"
 #include "transport/InTurns.h"
@@ -18,13 +18,13 @@
 namespace bench {
 namespace {
 
-/// Clients and server share one processor. Each thread of Qt's network access has a connection's way of its own through
-/// the processors otherwise, good or bad for as long as it lives, and that decides more than the work that is done.
+/// Runs clients and server on one processor. Otherwise the placement of Qt's network threads on the processors, which
+/// lasts as long as the thread, would affect the results more than the work that is done.
 void UseOneProcessor()
 {
     cpu_set_t allowed;
     CPU_ZERO(&allowed);
-    Require(::sched_getaffinity(0, sizeof allowed, &allowed) == 0, "the processors that may be used");
+    Require(::sched_getaffinity(0, sizeof allowed, &allowed) == 0, "reading the processor affinity");
     int nLast = CPU_SETSIZE - 1;
     while (nLast > 0 && !CPU_ISSET(nLast, &allowed)) {
         --nLast;
@@ -32,7 +32,7 @@ void UseOneProcessor()
     cpu_set_t one;
     CPU_ZERO(&one);
     CPU_SET(nLast, &one);
-    Require(::sched_setaffinity(0, sizeof one, &one) == 0, "one processor");
+    Require(::sched_setaffinity(0, sizeof one, &one) == 0, "setting the processor affinity");
 }
 
 struct NamedClient {
@@ -48,17 +48,17 @@ struct Clients {
     NamedClient httplib = {"cpp-httplib", MakeHttplib()};
 };
 
-const Clients& TheClients()
+const Clients& SharedClients()
 {
     static const Clients clients;
     return clients;
 }
 
-/// The first two are measured in turns: the library and what it is held against. Beside reading a large reply the
-/// exchange is nothing.
+/// The first two, the library and its reference, are measured in turns. For a large reply the reference also reads the
+/// JSON text, because the exchange itself takes little of the time.
 std::vector<NamedClient> InOrder(bool bLarge)
 {
-    const Clients& all = TheClients();
+    const Clients& all = SharedClients();
     return {bLarge ? all.qtWithJson : all.qt, all.library, bLarge ? all.qt : all.qtWithJson, all.curl, all.httplib};
 }
 
@@ -71,13 +71,13 @@ Values Time(Client& client, const Exchange& exchange)
     return {{kSeconds, double(clock.nsecsElapsed()) / kPerSecond}};
 }
 
-/// All contenders must return the same. This also opens their connections.
+/// Checks that all contenders return the same data. This also opens their connections.
 void Compare(const std::vector<NamedClient>& clients, const Exchange& exchange)
 {
     const QJsonObject expected = DataOf(clients.front().client->Run(exchange));
     Require(!expected.isEmpty(), "the data of a reply");
     for (const NamedClient& named : clients) {
-        Require(DataOf(named.client->Run(exchange)) == expected, std::string("the reply that came to ") + named.name);
+        Require(DataOf(named.client->Run(exchange)) == expected, std::string("the reply received by ") + named.name);
     }
 }
 
@@ -113,8 +113,8 @@ void RegisterCalls(const Server& server)
 {
     const std::array<Size, 2> sizes = {
         {{"small reply", "/small", false, 400}, {"reply of 1 MB", "/lots/300", true, 20}}};
-    // Qt sends the headers and the body of a POST one after the other, and the body waits for the server's delayed
-    // acknowledgement, some 40 ms: few rounds.
+    // Qt sends the headers and the body of a POST separately, and the body waits about 40 ms for the server's delayed
+    // acknowledgement. Therefore few rounds.
     constexpr int kRoundsOfPost = 5;
     for (const bool bHttps : {false, true}) {
         for (const Size& size : sizes) {
@@ -143,7 +143,7 @@ double ConnectionsOfAThousandCalls()
 {
     constexpr int kCalls = 1000;
     const Server server;
-    Client& library = *TheClients().library.client;
+    Client& library = *SharedClients().library.client;
     Exchange exchange = Get(true, server.Port(true));
     for (int i = 0; i < kCalls; ++i) {
         library.Run(exchange);

@@ -1,5 +1,5 @@
-// Packing of requests: what Packs of the library cost beside the same request written by hand with Qt, one Pack for
-// each shape of a request.
+// Packing of requests: the cost of the library's Packs compared with hand-written Qt code, one Pack for each shape of a
+// request.
 #include "Bench.h"
 #include "packing/ByHand.h"
 
@@ -22,7 +22,7 @@ namespace {
 
 using APIModule::RequestParam;
 
-/// Arguments as the tests against the emulator have them.
+/// The arguments that the tests with the emulator use.
 std::vector<catalogue::Value> MakeArguments(const catalogue::Call& call)
 {
     const e2e::Json& arguments = e2e::RowOf(call.name).arguments;
@@ -84,7 +84,7 @@ void RegisterBenchmarks()
     for (const HandWritten& row : PackedByHand()) {
         const catalogue::Call* pCall = catalogue::FindCall(row.call);
         if (!pCall) {
-            Fail(std::string(row.call) + " is no call");
+            Fail(std::string(row.call) + " is not a call");
         }
         Register(*pCall, row.pack);
     }

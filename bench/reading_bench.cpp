@@ -1,5 +1,5 @@
-// Reading of replies: what the library's Parses cost beside reading the JSON text itself, and the way from the text to
-// the records beside other libraries.
+// Reading of replies: the cost of the library's Parses compared with parsing the JSON text, and the cost from the text
+// to the records compared with other libraries.
 #include "Bench.h"
 #include "reading/Lists.h"
 #include "reading/ParkingLots.h"
@@ -34,7 +34,7 @@ QJsonObject DataOf(const QJsonObject& envelope)
     return envelope.value(QLatin1String("data")).toObject();
 }
 
-/// A reply of so many detailed parking lots, in the forms that are measured.
+/// A reply with detailed parking lots, in the forms that are measured.
 struct Reply {
     QByteArray text;
     QJsonObject data;
@@ -51,7 +51,7 @@ ParkingLots Read(const QJsonObject& data)
     return lots;
 }
 
-/// From the text to the records, as in a call, including the envelope.
+/// Reads the text to records as a call does, including the envelope.
 ParkingLots ReadWithLibrary(const Reply& reply)
 {
     APIModule::ReplyInfo info;
@@ -76,7 +76,7 @@ constexpr Reader kReaders[] = {{kLibrary, ReadWithLibrary},
                                {"RapidJSON", ReadWith<ReadWithRapidJson>},
                                {"simdjson", ReadWith<ReadWithSimdjson>}};
 
-/// Made when it is first asked for; every reader must then give the records that it was made of.
+/// Created on first use. Checks that every reader returns the records that the reply was created from.
 const Reply& ReplyWith(int count)
 {
     static std::map<int, Reply> replies;
@@ -123,7 +123,7 @@ void RegisterParkingLots(int count)
     }
 }
 
-/// Reads a list reply into a fresh record.
+/// Reads a list reply into a new record.
 catalogue::Value Read(const catalogue::Call& call, const QJsonObject& data)
 {
     catalogue::Value record(*call.result);
@@ -141,7 +141,7 @@ void Register(const ListReply& reply)
         std::count_if(data.begin(), data.end(), [](const QJsonValue& value) { return value.isArray(); });
     const catalogue::Value record = Read(call, data);
     Require(CountElements(*call.result, record.Data()) == std::size_t(countLists) * kElements,
-            call.name + " read whole");
+            call.name + " read completely");
 
     const std::string work = "list of " + std::to_string(kElements) + ", " + call.name + "/";
     benchmark::RegisterBenchmark((work + kLibrary).c_str(), [=, &call](benchmark::State& state) {

@@ -3,17 +3,17 @@
 
 usage: bench/report.py <folder with the programs' results> <JSON file> <picture>
 
-What is measured is named "work/contender". targets.json lists what is asked of the library; of each entry
+Each measurement is named "work/contender". targets.json lists the targets of the library. The keys of an entry:
 
-  work       names the works that it is about (* and ? stand for any characters)
-  target     is the most that the library may cost: a ratio to the reference, or an absolute value without one
-  reference  is the contender that it is held against
-  counter    is the counter that is compared; without one it is the time
-  unit       follows the value of a counter in the table
-  flat_from  compares the cost of one element between works whose names end in their numbers of elements, from this
-             number on: the dearest beside the cheapest
-  title      folds all works into one row with this title, the one that is furthest from its target
-  show       lists the counters that the row tells too
+  work       pattern of the works that the target applies to (with wildcards * and ?)
+  target     the maximum for the library: a ratio to the reference, or an absolute value without one
+  reference  the contender that the library is compared with
+  counter    the counter that is compared; the time by default
+  unit       the unit of the counter, shown in the table
+  flat_from  compares the cost of one element between works whose names end in the number of elements, from this number
+             on: the highest cost with the lowest
+  title      shows only one row, with this title, for the work that is furthest from its target
+  show       further counters to show in the row
 """
 
 import fnmatch
@@ -30,10 +30,10 @@ CLOCKS = ("/real_time", "/manual_time", "/process_time")
 
 
 class Result:
-    """What was measured of one contender at one work: medians over the repetitions."""
+    """The results of one contender at one work: medians over the repetitions."""
 
     def __init__(self, runs):
-        # What waits is measured by the clock of the wall, which its name tells; all else by the time of the processor.
+        # Works that wait are measured in wall-clock time, which their names indicate, all others in processor time.
         clock = "real_time" if runs[0]["name"].endswith(CLOCKS[:2]) else "cpu_time"
         scale = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}[runs[0]["time_unit"]]
         self.seconds = statistics.median(run[clock] for run in runs) * scale
@@ -45,7 +45,7 @@ class Result:
 
 
 def read_results(folder):
-    """The results by work and contender, in the order of the programs, and where they were measured."""
+    """The results by work and contender, in the order of the programs, and the machine on which they were measured."""
     runs = {}
     context = {}
     for path in sorted(folder.glob("*_bench.json")):
@@ -70,12 +70,12 @@ def elements(work):
 
 
 def ratio(value, reference):
-    """Nothing beside nothing costs the same."""
+    """The ratio of two costs. Two costs of zero are equal."""
     return value / reference if reference else (1.0 if value == 0 else float("inf"))
 
 
 def row(target, work, results):
-    """What came of a target at one work."""
+    """The outcome of a target at one work."""
     counter = target.get("counter")
     value = results[LIBRARY].value(counter)
     reference = target.get("reference")
@@ -100,7 +100,7 @@ def row(target, work, results):
 
 
 def flat_row(target, works):
-    """Whether the cost of one element stays the same."""
+    """Compares the highest cost of one element with the lowest."""
     costs = {work: results[LIBRARY].seconds / elements(work) for work, results in works.items()
              if elements(work) >= target["flat_from"]}
     if len(costs) < 2:
@@ -177,7 +177,7 @@ def draw(works, folder, picture):
             lines.append("\t".join(f"{value:.6g}" for value in
                                    [results[0].counters["bytes"]] + [result.seconds * 1e3 for result in results]))
     except KeyError:
-        return  # not all of it was measured
+        return  # some contenders were not measured
     if len(sizes) < 2:
         return
     data = folder / "reading-cost.dat"

@@ -71,11 +71,11 @@ void StartAll(const Exchange& exchange)
 {
     UseServerOf(exchange);
     QEventLoop loop;
-    int nToGo = kReads;
+    int nRunning = kReads;
     for (int i = 0; i < kReads; ++i) {
         Start(ReadSettings(exchange), &loop, [&](const APIModule::Outcome<APIModule::NoRecord>& outcome) {
             Require(bool(outcome), "a started call succeeds");
-            if (--nToGo == 0) {
+            if (--nRunning == 0) {
                 loop.quit();
             }
         });
@@ -86,12 +86,12 @@ void StartAll(const Exchange& exchange)
 void SendAllByQt(QNetworkAccessManager& manager, const Exchange& exchange)
 {
     QEventLoop loop;
-    int nToGo = kReads;
+    int nRunning = kReads;
     std::vector<std::unique_ptr<QNetworkReply>> replies;
     for (int i = 0; i < kReads; ++i) {
         replies.emplace_back(SendByQt(manager, exchange));
         QObject::connect(replies.back().get(), &QNetworkReply::finished, &loop, [&] {
-            if (--nToGo == 0) {
+            if (--nRunning == 0) {
                 loop.quit();
             }
         });

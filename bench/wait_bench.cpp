@@ -1,4 +1,4 @@
-// What a waiting call leaves to the rest of the client: processor time, timers in time, and the stall of a large reply.
+// Effects of a waiting call on the rest of the client: processor time, late timers, and the stall of a large reply.
 #include "Bench.h"
 #include "transport/Clients.h"
 #include "transport/InTurns.h"
@@ -52,7 +52,7 @@ double ProcessorSeconds()
     return double(time.tv_sec) + double(time.tv_nsec) / kNanoPerSecond;
 }
 
-/// How late each tick of a timer is meanwhile, in milliseconds, in ascending order.
+/// The delays of a timer's ticks during the wait, in milliseconds and in ascending order.
 std::vector<double> Lateness(int nInterval, const std::function<void()>& wait)
 {
     std::vector<double> lateness;
@@ -120,7 +120,7 @@ void RegisterStall(const Server& server)
     const auto stall = [=](const std::shared_ptr<Client>& pClient) {
         const auto run = [=] {
             pClient->Run(exchange);
-            Idle(2 * kTick);  // for the tick that the end of the call held up
+            Idle(2 * kTick);  // for the tick that the end of the call delayed
         };
         return [=] { return Values{{"stall_ms", Lateness(kTick, run).back()}}; };
     };

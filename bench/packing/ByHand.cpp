@@ -1,4 +1,4 @@
-// The calls fill the places of a URL one after the other. clazy:excludeall=qstring-arg
+// The calls insert the arguments of a URL one after another. clazy:excludeall=qstring-arg
 #include "ByHand.h"
 
 #include <APIModule.h>
@@ -17,7 +17,7 @@ namespace {
 
 using namespace APIModule;
 
-/// Fills the request, as every Pack must, and logs that it did.
+/// Fills the request and logs it, as every Pack must.
 int Describe(void* pRequest, Method method, const QString& url, int nServerId, const QJsonObject& body = {})
 {
     constexpr int kTimeoutSeconds = 10;
@@ -135,7 +135,7 @@ const std::vector<HandWritten>& PackedByHand()
 {
     static const std::vector<HandWritten> calls = {
         {"BRMS.GetTimeSyncConfig", GetTimeSyncConfig},        // no argument
-        {"IPMS.GetDetailParkingLots", GetDetailParkingLots},  // a URL
+        {"IPMS.GetDetailParkingLots", GetDetailParkingLots},  // only a URL
         {"BRMS.SetTimeSyncConfig", SetTimeSyncConfig},        // a flat body
         {"BRMS.SetMultiCastConfig", SetMultiCastConfig},      // a nested body
         {"BRMS.MoveUserGroup", MoveUserGroup},                // a list

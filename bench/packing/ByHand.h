@@ -2,8 +2,7 @@
 
 #include <vector>
 
-/// Calls of the library packed in the plain way: a QJsonObject filled key by key, written by QJsonDocument, and
-/// QString::arg for the URL.
+/// Hand-written Packs: a QJsonObject filled key by key and written by QJsonDocument, and QString::arg for the URL.
 namespace bench {
 
 struct HandWritten {

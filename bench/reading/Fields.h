@@ -10,7 +10,7 @@
 
 namespace bench {
 
-/// Gives @p visit each field of a record with its key, in the order of the platform.
+/// Calls @p visit with the key and value of each field of a record, in the order of the platform.
 template <typename Record, typename Visit>
 auto VisitFields(Record& record, Visit visit) -> std::enable_if_t<boost::describe::has_describe_members<Record>::value>
 {

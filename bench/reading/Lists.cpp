@@ -13,7 +13,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;  // keys in the order in which the platform sends them
 
-/// The lists of the data are repeated, with the number of the element for each #.
+/// Data whose lists are repeated. Each # is replaced by the number of the element.
 struct Row {
     const char* call;
     const char* data;
@@ -144,7 +144,7 @@ std::vector<ListReply> ListReplies()
         Require(pCall && missing.erase(pCall->parseName) == 1, std::string(row.call) + " is a call with a list");
         replies.push_back({pCall, Repeated(row.data)});
     }
-    Require(missing.empty(), "the lists that are read and those that are measured");
+    Require(missing.empty(), "every Parse that reads a list is measured");
     return replies;
 }
 

@@ -16,10 +16,10 @@ struct ListReply {
 
 constexpr std::size_t kElements = 1000;
 
-/// One for every Parse that reads a list, but for the detailed parking lots.
+/// One reply for every Parse that reads a list, except the detailed parking lots.
 std::vector<ListReply> ListReplies();
 
-/// The number of elements in the lists of a record that is read from such a reply, inner lists not counted.
+/// The number of elements in the lists of a record read from such a reply, without inner lists.
 std::size_t CountElements(const catalogue::Type& type, void* record);
 
 }  // namespace bench

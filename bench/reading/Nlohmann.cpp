@@ -5,7 +5,7 @@
 
 namespace APIModule {
 
-/// Found by the name that nlohmann/json prescribes.
+/// The function that nlohmann/json calls to read a record.
 template <typename Record>
 auto from_json(const nlohmann::json& json, Record& record) -> decltype(bench::VisitFields(record, nullptr))
 {

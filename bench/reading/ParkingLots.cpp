@@ -13,7 +13,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;  // keys in the order in which the platform sends them
 
-/// The engine alone gives the same numbers everywhere, the standard distributions do not.
+/// Uses only the engine, because the standard distributions give different numbers on different platforms.
 class Random {
 public:
     int Between(int least, int most) { return least + int(m_engine() % unsigned(most - least + 1)); }

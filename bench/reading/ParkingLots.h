@@ -13,7 +13,7 @@ constexpr int kSuccess = 1000;
 
 using ParkingLots = std::vector<APIModule::DatailParkingLotInfoRsp>;
 
-/// Parking lots as a platform has them, the same ones in every run.
+/// Realistic parking lots, the same ones in every run.
 ParkingLots MakeParkingLots(int count);
 
 /// The complete reply that lists them, including its envelope.

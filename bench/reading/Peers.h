@@ -4,13 +4,13 @@
 
 #include <string_view>
 
-/// From the text of a reply to its records, as each library is used in the plain way. A reply that is not a success
-/// gives none.
+/// Reads the records from the text of a reply with other libraries, each used in its simplest way. A reply without
+/// success contains no records.
 namespace bench {
 
 ParkingLots ReadWithNlohmann(std::string_view reply);
 ParkingLots ReadWithRapidJson(std::string_view reply);
-/// Behind the text lie PaddingOfSimdjson() bytes that belong to it.
+/// The text must be followed by PaddingOfSimdjson() bytes of the same buffer.
 ParkingLots ReadWithSimdjson(std::string_view reply);
 
 int PaddingOfSimdjson();

@@ -42,7 +42,7 @@ void Read(value json, std::vector<Record>& list)
 
 ParkingLots ReadWithSimdjson(std::string_view reply)
 {
-    static simdjson::ondemand::parser parser;  // kept, as its makers advise: it owns the buffers
+    static simdjson::ondemand::parser parser;  // reused, as recommended, because it owns the buffers
     auto envelope = parser.iterate(reply.data(), reply.size(), reply.size() + std::size_t(PaddingOfSimdjson()));
     ParkingLots lots;
     if (int64_t(envelope["code"]) == kSuccess) {

@@ -30,40 +30,40 @@ inline Exchange Get(bool bHttps, int nPort, const QByteArray& path = "/small")
     return {bHttps, nPort, APIModule::Method_Get, path, {}};
 }
 
-/// What an exchange brought: the text, or the "data" object for those who read the envelope.
+/// The result of an exchange: the text, or the "data" object from clients that read the envelope.
 struct Answer {
     QByteArray text;
     QJsonObject data;
 };
 
-/// The "data" object, whoever read it.
+/// The "data" object, read from the text if the client did not read it.
 QJsonObject DataOf(const Answer& answer);
 
-/// Somebody who can carry out exchanges and keeps connections open for the next ones.
+/// A client that carries out exchanges and keeps connections open for the next ones.
 class Client {
 public:
     virtual ~Client() = default;
     virtual Answer Run(const Exchange& exchange) = 0;
 
-    /// Runs the exchange and gives its data to whoever reads it. @return the reader's result
+    /// Runs the exchange and passes its data to @p parse. @return the result of @p parse
     using Parse = std::function<int(const QJsonObject& data)>;
     virtual int Read(const Exchange& exchange, const Parse& parse);
 };
 
-/// The exchange that the library has under it: QNetworkAccessManager and an event loop, headers and attributes alike.
+/// A plain exchange through Qt: QNetworkAccessManager and an event loop, with the library's headers and attributes.
 std::unique_ptr<Client> MakeQt();
-/// The same and the reply's text read as JSON.
+/// The same, and parses the reply's text as JSON.
 std::unique_ptr<Client> MakeQtWithJson();
-/// The library as a host uses it, log lines to a file included. The façade waits behind a dialog over @p pParent.
+/// The library as a host uses it, including log lines to a file. Waits show a dialog over @p pParent.
 std::unique_ptr<Client> MakeLibrary(QWidget* pParent);
 std::unique_ptr<Client> MakeLibrary();
 /// The request of the library's client as a Pack, with the log line of the families' Packs.
 int PackExchange(void* pReqParamData, const Exchange& exchange, int nServerId);
-/// Makes the exchange's server that of the library's calls.
+/// Sets the exchange's server as the server of the library's calls.
 void UseServerOf(const Exchange& exchange);
-/// The request of the other clients, for a manager of the caller's own.
+/// Sends the request of the other clients through the caller's manager.
 QNetworkReply* SendByQt(QNetworkAccessManager& manager, const Exchange& exchange);
-/// What others do blocking, without an event loop.
+/// Blocking clients, without an event loop.
 std::unique_ptr<Client> MakeCurl();
 std::unique_ptr<Client> MakeHttplib();
 

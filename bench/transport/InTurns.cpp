@@ -40,7 +40,7 @@ public:
     void Report(benchmark::State& state, std::size_t nTurn)
     {
         Values values = MediansOf(nTurn, state.max_iterations);
-        constexpr double kLongEnough = 1;  // where it is not the time that is measured
+        constexpr double kLongEnough = 1;  // for benchmarks that do not measure time
         const auto time = values.extract(kSeconds);
         const double seconds = time ? time.mapped() * double(state.max_iterations) : kLongEnough;
         while (state.KeepRunningBatch(state.max_iterations)) {
@@ -57,7 +57,7 @@ private:
         std::size_t nRepetition = 0;
     };
 
-    /// While the number of iterations still grows, it is the same repetition.
+    /// A growing number of iterations means that Google Benchmark still calibrates the same repetition.
     Values MediansOf(std::size_t nTurn, benchmark::IterationCount nIterations)
     {
         Progress& progress = m_progress[nTurn];
@@ -89,7 +89,7 @@ private:
     const int m_nRounds;
     const std::vector<Turn> m_turns;
     std::vector<Progress> m_progress;
-    std::vector<std::vector<Values>> m_medians;  // a row a repetition
+    std::vector<std::vector<Values>> m_medians;  // one row for each repetition
 };
 
 }  // namespace

@@ -7,21 +7,20 @@
 
 namespace bench {
 
-/// What was measured once, by the names of counters; kSeconds is the time itself.
+/// The values of one measurement by counter; kSeconds is the time.
 using Values = std::map<std::string, double>;
 constexpr const char* kSeconds = "seconds";
 
-/// One of those that are measured in turns.
+/// A contender that is measured in turns with others.
 struct Turn {
     std::string contender;
     std::function<Values()> measure;
 };
 
-/// Registers a benchmark for each contender. One repetition of all of them is measured together, two at a time in
-/// turns: what disturbs the machine meanwhile disturbs both alike, and neither finds the processor's caches as it left
-/// them.
+/// Registers a benchmark for each contender. Contenders are measured two at a time, taking turns: load on the machine
+/// affects both equally, and neither finds its data in the processor's caches.
 ///
-/// @param nRounds how many turns of each make one repetition; it is their medians that are reported
+/// @param nRounds number of turns of each contender in one repetition, of which the median is reported
 void RegisterInTurns(const std::string& work, int nRounds, std::vector<Turn> turns);
 
 }  // namespace bench

@@ -72,7 +72,7 @@ public:
     }
 };
 
-/// Discards standard error during its lifetime: the cost of a terminal is not the library's.
+/// Discards standard error during its lifetime, so that the cost of a terminal is not measured.
 class NoStandardError {
 public:
     NoStandardError()
@@ -98,7 +98,7 @@ APIModule::CAPIModule& Facade()
     return APIModule::CAPIModule::GetInstance();
 }
 
-/// There is one façade, whoever uses it.
+/// The host of the façade, which all clients share.
 struct Host {
     Host()
     {
@@ -118,7 +118,7 @@ struct Host {
     testing_support::UserManager users{};
 };
 
-Host& TheHost()
+Host& SharedHost()
 {
     static Host host;
     return host;
@@ -173,7 +173,7 @@ int PackExchange(void* pReqParamData, const Exchange& exchange, int nServerId)
 void UseServerOf(const Exchange& exchange)
 {
     Facade().SetHttpsMode(exchange.bHttps ? 1 : 0);
-    TheHost().users.servers[1].port = exchange.nPort;
+    SharedHost().users.servers[1].port = exchange.nPort;
 }
 
 int Client::Read(const Exchange& exchange, const Parse& parse)

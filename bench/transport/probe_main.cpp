@@ -1,4 +1,4 @@
-// Measures what needs a separate process: a first call, memory. Prints one number.
+// Measures values that need a separate process, such as the first call and memory. Prints one number.
 //
 // usage: transport_probe <what> <contender> <port>
 #include "../Bench.h"
@@ -29,7 +29,7 @@ std::unique_ptr<Client> Make(const std::string& contender)
     return contender == kQtWithJson ? MakeQtWithJson() : MakeLibrary();
 }
 
-/// A size of this process in kilobytes, from the kernel.
+/// A memory size of this process in kilobytes, as reported by the kernel.
 double Kilobytes(const char* name)
 {
     QFile status(QStringLiteral("/proc/self/status"));

@@ -1,7 +1,7 @@
-// The server of the benchmarks of calls: replies of any size over HTTP and HTTPS on loopback, each in one write.
+// The server for benchmarks of calls. Sends replies of any size over HTTP and HTTPS on loopback, in one write each.
 //
-// "/small" is a few settings, "/lots/<n>" n detailed parking lots, "/after/<ms>" the settings after a while and
-// "/connections" how many connections there have been. It prints its two ports and ends with its standard input.
+// "/small" returns a few settings, "/lots/<n>" n detailed parking lots, "/after/<ms>" the settings after that time, and
+// "/connections" the number of connections so far. It prints its two ports and exits when its standard input closes.
 #include "../reading/ParkingLots.h"
 
 #include <support/Certificate.h>
@@ -81,7 +81,7 @@ private:
             Answer(stream, std::string(request.target()));
         }
     } catch (const boost::system::system_error&) {
-        // The client is done with the connection.
+        // The client has closed the connection.
     }
 
     template <typename Stream>
