@@ -13,16 +13,16 @@
 #include <limits>
 #include <string>
 
-/// What the targets share.
+/// Shared by the fuzz targets.
 namespace fuzz {
 
-/// Choices out of the fuzzer's bytes; when these are used up, always the first one.
+/// Makes choices from the fuzzer's bytes. When these are used up, it always returns the first choice.
 inline testing_support::Choose ChoiceOf(FuzzedDataProvider& data)
 {
     return [&data](quint64 most) { return data.ConsumeIntegralInRange<std::uint64_t>(0, most); };
 }
 
-/// Ends the run as a finding.
+/// Reports a finding and aborts unless the condition holds.
 inline void Require(bool bHolds, const std::string& text)
 {
     if (!bHolds) {
@@ -31,7 +31,7 @@ inline void Require(bool bHolds, const std::string& text)
     }
 }
 
-/// Ignores leaks during its lifetime. Qt's parser never frees the first of two lists or objects under the
+/// Ignores leaks during its lifetime, because Qt's parser never frees the first of two lists or objects with the
 /// same key.
 using ForgivenLeaks = __lsan::ScopedDisabler;
 

@@ -1,5 +1,5 @@
-// The emulator's handling of requests: how it reads them off the wire, what the contract makes of them, the state, its
-// faults and its log.
+// The emulator's handling of requests: reading them from a connection, checking them against the contract, the state,
+// the faults and the log.
 #include "Fuzz.h"
 
 #include <Contract.h>
@@ -27,7 +27,7 @@ using emulator::Json;
 using emulator::Operation;
 using emulator::RequestReader;
 
-/// What an emulator is made of but its sockets.
+/// The parts of an emulator except its sockets.
 struct Server {
     emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
     emulator::Platform platform{emulator::Contract::Load(emulator::Options().contract),
@@ -37,7 +37,7 @@ struct Server {
     emulator::RequestLog log;
 };
 
-Server& TheServer()
+Server& SharedServer()
 {
     static Server server;
     return server;
@@ -49,7 +49,7 @@ const auto& OneOf(const List& list, FuzzedDataProvider& data)
     return list[data.ConsumeIntegralInRange<std::size_t>(0, list.size() - 1)];
 }
 
-/// A text of the fuzzer's, or one that may well be known or be taken for a number.
+/// Random text, or one that is likely to be an identifier or a number.
 std::string Text(FuzzedDataProvider& data)
 {
     static const std::vector<std::string> known = {"1",       "0",   "-1",   "2147483648", "true", "1000001$1$0$0",
@@ -57,7 +57,7 @@ std::string Text(FuzzedDataProvider& data)
     return data.ConsumeBool() ? OneOf(known, data) : data.ConsumeRandomLengthString(32);
 }
 
-/// The path with texts in the places of its values, and its query values, now and then one more.
+/// A target with random path and query values, sometimes with an extra query value.
 std::string Target(const Operation& operation, FuzzedDataProvider& data)
 {
     std::string target = operation.path;
@@ -82,7 +82,7 @@ Json Value(FuzzedDataProvider& data)
     return parsed.is_discarded() ? Json(Text(data)) : parsed;
 }
 
-/// An example of the contract, now and then with another value at one place.
+/// An example of the contract, sometimes with one value replaced.
 std::string Body(const Operation& operation, FuzzedDataProvider& data)
 {
     if (operation.bodyExamples.empty() || data.ConsumeIntegralInRange(0, 7) == 0) {
@@ -90,10 +90,10 @@ std::string Body(const Operation& operation, FuzzedDataProvider& data)
     }
     Json body = OneOf(operation.bodyExamples, data);
     for (int left = data.ConsumeIntegralInRange(0, 3); left > 0; --left) {
-        const Json places = body.flatten();
-        const auto place = std::next(places.begin(), data.ConsumeIntegralInRange<int>(0, int(places.size()) - 1));
-        if (!places.empty() && !place.key().empty()) {
-            body[Json::json_pointer(place.key())] = Value(data);
+        const Json values = body.flatten();
+        const auto value = std::next(values.begin(), data.ConsumeIntegralInRange<int>(0, int(values.size()) - 1));
+        if (!values.empty() && !value.key().empty()) {
+            body[Json::json_pointer(value.key())] = Value(data);
         }
     }
     return body.dump(-1, ' ', false, Json::error_handler_t::replace);
@@ -102,7 +102,7 @@ std::string Body(const Operation& operation, FuzzedDataProvider& data)
 HttpRequest Request(FuzzedDataProvider& data)
 {
     HttpRequest request;
-    const Operation& operation = OneOf(TheServer().contract.operations(), data);
+    const Operation& operation = OneOf(SharedServer().contract.operations(), data);
     const bool bAnything = data.ConsumeIntegralInRange(0, 15) == 0;
     request.method = bAnything ? data.ConsumeRandomLengthString(8) : operation.method;
     request.target = bAnything ? data.ConsumeRandomLengthString() : Target(operation, data);
@@ -113,13 +113,13 @@ HttpRequest Request(FuzzedDataProvider& data)
     return request;
 }
 
-void ExpectAnswer(const HttpRequest& request)
+void ExpectValidReply(const HttpRequest& request)
 {
-    const emulator::HttpResponse response = TheServer().platform.answer(request);
+    const emulator::HttpResponse response = SharedServer().platform.answer(request);
     const bool bToken = std::any_of(request.headers.begin(), request.headers.end(), [](const auto& header) {
         return ::strcasecmp(header.first.c_str(), "X-Subject-Token") == 0 && header.second == emulator::kDefaultToken;
     });
-    const std::string shown = request.method + ' ' + request.target + '\n' + request.body + "\nis answered with " +
+    const std::string shown = request.method + ' ' + request.target + '\n' + request.body + "\nhas the reply " +
                               std::to_string(response.status) + '\n' + response.body;
     fuzz::Require(response.status == (bToken ? 200 : 401), shown);
     const Json envelope = Json::parse(response.body, nullptr, false);
@@ -131,8 +131,8 @@ void ExpectAnswer(const HttpRequest& request)
 
 constexpr const char* kMethod = "PUT";
 
-/// An accepted fault is reported unchanged, and applies to the requests that it names.
-void ExpectFault(const std::string& text, const std::string& target)
+/// Checks that an accepted fault is reported unchanged and applies to exactly the requests that it selects.
+void ExpectFaultToApply(const std::string& text, const std::string& target)
 {
     const Json json = Json::parse(text, nullptr, false);
     if (json.is_discarded()) {
@@ -140,13 +140,14 @@ void ExpectFault(const std::string& text, const std::string& target)
     }
     try {
         emulator::Fault fault = emulator::Fault::FromJson(json);
-        const Json told = fault.toJson();
-        fuzz::Require(emulator::Fault::FromJson(told).toJson() == told, told.dump());
+        const Json reported = fault.toJson();
+        fuzz::Require(emulator::Fault::FromJson(reported).toJson() == reported, reported.dump());
         const bool bHits =
             (fault.method.empty() || fault.method == kMethod) && target.compare(0, fault.path.size(), fault.path) == 0;
-        TheServer().faults.clear();
-        TheServer().faults.add(std::move(fault));
-        fuzz::Require(TheServer().faults.take(kMethod, target).has_value() == bHits, told.dump() + " for " + target);
+        SharedServer().faults.clear();
+        SharedServer().faults.add(std::move(fault));
+        fuzz::Require(SharedServer().faults.take(kMethod, target).has_value() == bHits,
+                      reported.dump() + " for " + target);
     } catch (const std::invalid_argument&) {
         return;
     }
@@ -155,7 +156,7 @@ void ExpectFault(const std::string& text, const std::string& target)
 /// The requests in the bytes of a connection.
 struct Reading {
     std::vector<HttpRequest> requests;
-    int fault = 0;  ///< status of the refusal; 0 when the bytes so far are valid
+    int fault = 0;  ///< status of the error reply; 0 while the bytes are valid
 };
 
 bool AreSame(const Reading& one, const Reading& other)
@@ -168,8 +169,8 @@ bool AreSame(const Reading& one, const Reading& other)
            std::equal(one.requests.begin(), one.requests.end(), other.requests.begin(), other.requests.end(), same);
 }
 
-/// Reads on until the reader wants more.
-/// @return false when it refuses
+/// Reads requests until the reader needs more bytes.
+/// @return false if it rejects the bytes
 bool ReadOn(RequestReader& reader, Reading& reading)
 {
     for (;;) {
@@ -207,33 +208,34 @@ Reading Read(std::string_view bytes, const std::vector<std::size_t>& pieces)
     return reading;
 }
 
-/// However the bytes are split, the requests and their validity are the same, and they contain only bytes that arrived.
+/// Checks that the result does not depend on how the bytes are split, and that requests contain only received bytes.
 /// @return the requests
 std::vector<HttpRequest> ExpectReading(std::string_view bytes)
 {
-    const Reading whole = Read(bytes, {bytes.size()});
+    const Reading complete = Read(bytes, {bytes.size()});
     for (const std::vector<std::size_t>& pieces : {std::vector<std::size_t>{1}, {2, 3, 7, 1}}) {
-        const Reading cut = Read(bytes, pieces);
-        fuzz::Require(AreSame(cut, whole), "status " + std::to_string(whole.fault) + " as a whole, " +
-                                               std::to_string(cut.fault) + " in pieces:\n" + std::string(bytes));
+        const Reading split = Read(bytes, pieces);
+        fuzz::Require(AreSame(split, complete), "status " + std::to_string(complete.fault) + " in one piece, " +
+                                                    std::to_string(split.fault) + " in several pieces:\n" +
+                                                    std::string(bytes));
     }
-    for (const HttpRequest& request : whole.requests) {
+    for (const HttpRequest& request : complete.requests) {
         const auto came = [bytes](const std::string& text) { return bytes.find(text) != std::string_view::npos; };
         fuzz::Require(came(request.method + ' ' + request.target + " HTTP/1."), request.target);
         for (const auto& [name, value] : request.headers) {
             fuzz::Require(came(name + ':') && came(value), name);
         }
     }
-    return whole.requests;
+    return complete.requests;
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    Server& server = TheServer();
+    Server& server = SharedServer();
     server.log.clear();
-    // Input that starts like a request is read as bytes of a connection, all other input as choices.
+    // Input that starts like a request is treated as the bytes of a connection, all other input as random choices.
     const bool bWire = size > 0 && (bytes[0] == '\r' || (bytes[0] >= 'A' && bytes[0] <= 'Z'));
     std::vector<HttpRequest> requests;
     FuzzedDataProvider data(bytes, bWire ? 0 : size);
@@ -247,7 +249,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     bool bWrote = false;
     for (const HttpRequest& request : requests) {
         server.log.add(request);
-        ExpectAnswer(request);
+        ExpectValidReply(request);
         bWrote = bWrote || request.method != "GET";
     }
     if (bWrote) {
@@ -257,6 +259,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         recorded.toJson().dump(-1, ' ', false, Json::error_handler_t::replace);
     }
     const std::string target = data.ConsumeRandomLengthString(32);
-    ExpectFault(data.ConsumeRemainingBytesAsString(), target);
+    ExpectFaultToApply(data.ConsumeRemainingBytesAsString(), target);
     return 0;
 }

@@ -1,4 +1,4 @@
-// Unpacking of the envelope that a reply's body holds.
+// Unpacking of the envelope in a reply's body.
 #include "Fuzz.h"
 
 #include <Envelope_p.h>
@@ -21,7 +21,7 @@ int CodeOf(const QVariant& value)
     return bNumber && bWhole ? int(number) : 0;
 }
 
-/// What the body says, read through variants.
+/// The reference: reads the body through variants.
 ReplyInfo UnpackedByVariants(const QByteArray& body)
 {
     ReplyInfo reply;
@@ -76,7 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         APIModule::detail::Unpack(reply);
     }
     fuzz::Require(reply.byteBody == expected.byteBody && reply.nHttpStatus == -1 && reply.rawHeaders.isEmpty(),
-                  "something else than the envelope changed");
+                  "unpacking changed more than the fields of the envelope");
     fuzz::Require(reply.nCode == expected.nCode && reply.strDesc == expected.strDesc &&
                       reply.strDesc.isNull() == expected.strDesc.isNull() && reply.jsonData == expected.jsonData,
                   reply.byteBody.toStdString() + "\ngives\n" + Shown(reply) + "\ninstead of\n" + Shown(expected));

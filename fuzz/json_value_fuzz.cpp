@@ -1,4 +1,4 @@
-// The readers of JSON values, held against the slow conversion.
+// The readers of JSON values, compared with the slow reference conversion.
 #include "Fuzz.h"
 
 #include "families/support/ReadingDifference.h"

@@ -12,8 +12,8 @@ namespace {
 
 constexpr int kStars = 10;
 
-/// The reference, letter by letter: the ten characters after the first "token=" are replaced by ten asterisks.
-QString MaskedByLetters(const QString& text)
+/// The reference, character by character: ten asterisks replace the ten characters after the first "token=".
+QString MaskedByCharacters(const QString& text)
 {
     const QString name = QStringLiteral("token=");
     int nValue = name.size();
@@ -32,13 +32,13 @@ QString MaskedByLetters(const QString& text)
     return masked;
 }
 
-void ExpectMaskedAsByLetters(const QString& text)
+void ExpectSameAsReference(const QString& text)
 {
     const QString masked = APIModule::detail::MaskToken(text);
-    fuzz::Require(masked == MaskedByLetters(text), text.toStdString() + "\nis masked as\n" + masked.toStdString());
+    fuzz::Require(masked == MaskedByCharacters(text), text.toStdString() + "\nis masked as\n" + masked.toStdString());
 }
 
-/// A token of letters that nothing else in the URL has.
+/// A token of capital letters, which occur nowhere else in the URL.
 std::string Token(FuzzedDataProvider& data)
 {
     std::string token(data.ConsumeIntegralInRange<std::size_t>(1, 64), 'A');
@@ -56,15 +56,15 @@ std::string WithoutCapitals(std::string text)
     return text;
 }
 
-/// A session token shows at most the characters after its tenth.
+/// Checks that masking leaves at most the characters after the tenth of a token.
 void ExpectTokenHidden(FuzzedDataProvider& data)
 {
     const std::string token = Token(data);
     std::string before = WithoutCapitals(data.ConsumeRandomLengthString());
     before.erase(std::min(before.find("token="), before.size()));
-    const std::string behind = WithoutCapitals(data.ConsumeRandomLengthString());
-    const QString text = QString::fromStdString(before + "token=" + token + behind);
-    ExpectMaskedAsByLetters(text);
+    const std::string trailing = WithoutCapitals(data.ConsumeRandomLengthString());
+    const QString text = QString::fromStdString(before + "token=" + token + trailing);
+    ExpectSameAsReference(text);
     const QString masked = APIModule::detail::MaskToken(text);
     fuzz::Require(!masked.contains(QString::fromStdString(token)), "shows the token: " + masked.toStdString());
 }
@@ -77,7 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     if (data.ConsumeBool()) {
         ExpectTokenHidden(data);
     } else {
-        ExpectMaskedAsByLetters(QString::fromStdString(data.ConsumeRemainingBytesAsString()));
+        ExpectSameAsReference(QString::fromStdString(data.ConsumeRemainingBytesAsString()));
     }
     return 0;
 }

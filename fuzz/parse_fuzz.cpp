@@ -1,4 +1,4 @@
-// Every Parse, with replies made of the fuzzer's bytes, held against the reference reading of the same steps.
+// Every Parse with random replies, compared with the reference implementation of the same reading steps.
 #include "Fuzz.h"
 
 #include "families/support/RandomReplies.h"
@@ -9,12 +9,12 @@
 
 using family_testing::KnownParses;
 
-// The tests of the families are linked in. Their rows list all Parses and what each reads.
+// The family tests are linked in. Their rows list all Parses and what each of them reads.
 extern "C" int LLVMFuzzerInitialize(int* pCount, char*** pArguments)
 {
     int nOwn = 1;
     testing::InitGoogleTest(&nOwn, *pArguments);
-    fuzz::Require(*pCount > 0 && KnownParses().size() > 50, "the tests of the families have told no Parses");
+    fuzz::Require(*pCount > 0 && KnownParses().size() > 50, "the tests of the families have reported no Parses");
     return 0;
 }
 

@@ -1,4 +1,4 @@
-// Reading of HTTP replies, whatever a server sends and however the network splits it.
+// Reading of HTTP replies with any bytes, split in any way.
 #include "Fuzz.h"
 
 #include <http/ReplyReader.h>
@@ -38,15 +38,17 @@ Read ReadInPieces(const std::string& bytes, NextSize nextSize)
         const qint64 nPiece = std::min<qint64>(nextSize(), qint64(bytes.size()) - nTaken);
         const qint64 nStep = reader.Feed(bytes.data() + nTaken, nPiece);
         const bool bAll = nStep == nPiece || reader.GetState() != ReplyReader::State::Reading;
-        fuzz::Require(nStep <= nPiece && bAll, "a reader that goes on leaves bytes");
+        fuzz::Require(nStep <= nPiece && bAll, "the reader expects more bytes but did not consume all");
         nTaken += nStep;
     }
     reader.End();
-    fuzz::Require(reader.GetState() != ReplyReader::State::Reading, "the end of the connection is the end of a reply");
+    fuzz::Require(reader.GetState() != ReplyReader::State::Reading,
+                  "the reader expects more bytes after the end of the connection");
     Read read{reader.GetState(), nTaken,           reader.KeepsConnection(), reader.Status(),
               reader.Reason(),   reader.Headers(), reader.TakeBody()};
-    fuzz::Require(read.body.size() <= kMost + 1, "a body is larger than accepted");
-    fuzz::Require(!read.bKept || read.state == ReplyReader::State::Complete, "a broken reply keeps its connection");
+    fuzz::Require(read.body.size() <= kMost + 1, "a body exceeds the size limit");
+    fuzz::Require(!read.bKept || read.state == ReplyReader::State::Complete,
+                  "the connection is kept after a broken reply");
     return read;
 }
 
@@ -59,16 +61,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pBytes, std::size_t si
     const std::string bytes = data.ConsumeRemainingBytesAsString();
 
     const Read whole = ReadInPieces(bytes, [&] { return qint64(bytes.size()); });
-    // What a reply is does not depend on the pieces. A reply that is too large or corrupt may be noticed earlier or
-    // later.
+    // The reply does not depend on the pieces, but an error in a reply that is too large or corrupt may be detected
+    // earlier or later.
     std::uint32_t nState = nSeed + 1U;
     const Read pieces = ReadInPieces(bytes, [&] {
         nState = nState * 1664525U + 1013904223U;
         return qint64(1 + (nState >> 16U) % 7);
     });
-    fuzz::Require(whole.state == pieces.state, "the pieces decide how a reply ends");
+    fuzz::Require(whole.state == pieces.state, "the state of the reader depends on the pieces");
     if (whole.state == ReplyReader::State::Complete) {
-        fuzz::Require(whole == pieces, "the pieces decide what a reply is");
+        fuzz::Require(whole == pieces, "the reply depends on the pieces");
     }
     return 0;
 }
