@@ -18,10 +18,10 @@
 namespace contract_tests {
 namespace {
 
-/// Prism with the document; a request that breaks it is refused.
+/// Runs Prism with the document. It rejects requests that violate the document.
 class MockServer {
 public:
-    /// Starts it and waits until it listens; Port() is 0 when it does not.
+    /// Starts Prism and waits until it listens; Port() is 0 if that fails.
     MockServer()
     {
         m_process.setProcessChannelMode(QProcess::MergedChannels);
@@ -48,7 +48,7 @@ public:
     MockServer& operator=(MockServer&&) = delete;
 
     [[nodiscard]] int Port() const { return m_port; }
-    /// What it printed since the last time.
+    /// The output since the last call.
     std::string Printed()
     {
         m_process.waitForReadyRead(0);
@@ -123,10 +123,10 @@ std::string NameOf(const testing::TestParamInfo<e2e::Row>& row)
 
 INSTANTIATE_TEST_SUITE_P(Rows, EveryCall, testing::ValuesIn(e2e::Rows()), NameOf);
 
-/// Why the server refused a request; empty when it did not.
-std::string Refusal(const Answer& answer)
+/// Why the server rejected a request; empty if it did not.
+std::string Refusal(const Reply& reply)
 {
-    return answer.status < 400 ? std::string() : std::to_string(answer.status) + " " + answer.body;
+    return reply.status < 400 ? std::string() : std::to_string(reply.status) + " " + reply.body;
 }
 
 TEST_F(Mock, RefusesABodyThatViolatesTheDocument)
@@ -136,9 +136,9 @@ TEST_F(Mock, RefusesABodyThatViolatesTheDocument)
             continue;
         }
         TestClient client(TestClient::Scheme::Http, Server().Port(), "token");
-        const Answer answer = client.request(operation.method, operation.path, R"({"notOfTheDocument": 1})");
+        const Reply reply = client.request(operation.method, operation.path, R"({"notOfTheDocument": 1})");
         const char* reason = operation.body ? R"("location":["body"])" : "No supported content types";
-        EXPECT_NE(Refusal(answer).find(reason), std::string::npos) << operation.id << ": " << Refusal(answer);
+        EXPECT_NE(Refusal(reply).find(reason), std::string::npos) << operation.id << ": " << Refusal(reply);
     }
 }
 

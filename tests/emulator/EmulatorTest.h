@@ -15,7 +15,7 @@ inline std::unique_ptr<TestClient> ClientOf(const emulator::PlatformEmulator& pl
     return std::make_unique<TestClient>(scheme, port, token);
 }
 
-/// An emulator of its own for each test, listening on free ports.
+/// Starts a new emulator for each test, on free ports.
 class EmulatorTest : public testing::Test {
 protected:
     EmulatorTest() { m_platform.start(); }
@@ -23,7 +23,7 @@ protected:
     emulator::PlatformEmulator m_platform;
 };
 
-/// One emulator for all rows of a table, back at its seeds for each.
+/// Shares one emulator between all rows of a table and resets it to its seeds for each.
 class EmulatorTableTest : public testing::Test {
 protected:
     EmulatorTableTest() { m_platform.reset(); }

@@ -54,16 +54,16 @@ public:
         return !error;
     }
 
-    Answer exchange(const http::request<http::string_body>& request)
+    Reply exchange(const http::request<http::string_body>& request)
     {
         error_code error;
         if (m_stream || (connect(error) && handshake(error))) {
-            Answer answer = m_isSecure ? exchangeOn(*m_stream, request) : exchangeOn(m_stream->next_layer(), request);
-            if (answer.arrived && !m_isLast) {
-                return answer;
+            Reply reply = m_isSecure ? exchangeOn(*m_stream, request) : exchangeOn(m_stream->next_layer(), request);
+            if (reply.arrived && !m_isLast) {
+                return reply;
             }
             drop();
-            return answer;
+            return reply;
         }
         drop();
         return {};
@@ -84,7 +84,7 @@ public:
 
 private:
     template <typename Stream>
-    Answer exchangeOn(Stream& stream, const http::request<http::string_body>& request)
+    Reply exchangeOn(Stream& stream, const http::request<http::string_body>& request)
     {
         error_code error;
         http::write(stream, request, error);
@@ -99,11 +99,11 @@ private:
         }
         const auto& response = parser.get();
         m_isLast = !response.keep_alive();
-        Answer answer{true, static_cast<int>(response.result_int()), response.body(), {}};
+        Reply reply{true, static_cast<int>(response.result_int()), response.body(), {}};
         for (const auto& field : response) {
-            answer.headers.emplace(std::string(field.name_string()), std::string(field.value()));
+            reply.headers.emplace(std::string(field.name_string()), std::string(field.value()));
         }
-        return answer;
+        return reply;
     }
 
     void drop()
@@ -126,7 +126,7 @@ TestClient::TestClient(Scheme scheme, int port, std::string token)
 
 TestClient::~TestClient() = default;
 
-Answer TestClient::request(const std::string& method, const std::string& target, const std::string& body)
+Reply TestClient::request(const std::string& method, const std::string& target, const std::string& body)
 {
     http::request<http::string_body> request;
     request.version(kHttp11);
@@ -173,7 +173,7 @@ bool RawConnection::send(std::string_view text)
     return m_isOpen;
 }
 
-void RawConnection::endOwnSide()
+void RawConnection::shutdownSending()
 {
     ::shutdown(m_socket, SHUT_WR);
 }
@@ -196,12 +196,12 @@ std::string RawConnection::receiveUntil(const std::string& text)
     return received;
 }
 
-std::string SendRaw(int port, const std::string& text, bool closeOwnSide)
+std::string SendRaw(int port, const std::string& text, bool halfClose)
 {
     RawConnection connection(port);
     connection.send(text);
-    if (closeOwnSide) {
-        connection.endOwnSide();
+    if (halfClose) {
+        connection.shutdownSending();
     }
     return connection.receiveUntil({});
 }

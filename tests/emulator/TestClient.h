@@ -10,21 +10,21 @@
 
 using Json = nlohmann::json;
 
-/// What came back for a request.
-struct Answer {
-    bool arrived = false;  ///< false when the connection ended before the whole answer was there
+/// The reply to a request.
+struct Reply {
+    bool arrived = false;  ///< false when the connection ended before the complete reply arrived
     int status = 0;
     std::string body;
     std::multimap<std::string, std::string> headers;
 
-    /// The body as JSON; discarded when it is none.
+    /// The body as JSON; a discarded value if it is not JSON.
     [[nodiscard]] Json json() const { return Json::parse(body, nullptr, false); }
     [[nodiscard]] int code() const { return json().value("code", -1); }
     [[nodiscard]] std::string desc() const { return json().value("desc", ""); }
     [[nodiscard]] Json data() const { return json().value("data", Json()); }
 };
 
-/// An HTTP or HTTPS client on one connection, kept alive. Targets go out as they are, nothing is encoded.
+/// An HTTP or HTTPS client that keeps one connection open. It sends targets unchanged, without encoding them.
 class TestClient {
 public:
     enum class Scheme {
@@ -32,7 +32,7 @@ public:
         Https
     };
 
-    /// @param token an empty text sends no token
+    /// @param token sent with every request unless it is empty
     TestClient(Scheme scheme, int port, std::string token);
     ~TestClient();
     TestClient(const TestClient&) = delete;
@@ -40,16 +40,16 @@ public:
     TestClient(TestClient&&) = delete;
     TestClient& operator=(TestClient&&) = delete;
 
-    Answer get(const std::string& target) { return request("GET", target); }
-    Answer put(const std::string& target, const Json& body) { return request("PUT", target, body.dump()); }
-    Answer post(const std::string& target, const std::optional<Json>& body = std::nullopt)
+    Reply get(const std::string& target) { return request("GET", target); }
+    Reply put(const std::string& target, const Json& body) { return request("PUT", target, body.dump()); }
+    Reply post(const std::string& target, const std::optional<Json>& body = std::nullopt)
     {
         return request("POST", target, body ? body->dump() : std::string());
     }
-    Answer remove(const std::string& target) { return request("DELETE", target); }
-    Answer request(const std::string& method, const std::string& target, const std::string& body = {});
+    Reply remove(const std::string& target) { return request("DELETE", target); }
+    Reply request(const std::string& method, const std::string& target, const std::string& body = {});
 
-    /// Ends a request that waits in another thread.
+    /// Aborts a request that is waiting in another thread.
     void abort();
 
 private:
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<Private> m_private;
 };
 
-/// A TCP connection over which a test sends what it likes.
+/// A TCP connection over which a test sends any bytes.
 class RawConnection {
 public:
     explicit RawConnection(int port);
@@ -68,12 +68,12 @@ public:
     RawConnection(RawConnection&&) = delete;
     RawConnection& operator=(RawConnection&&) = delete;
 
-    /// @return false when the peer takes no more
+    /// @return false when the peer accepts no more data
     bool send(std::string_view text);
-    void endOwnSide();
-    /// Waits for the next bytes; empty when the peer has closed.
+    void shutdownSending();
+    /// Waits for the next bytes; returns an empty string when the peer has closed.
     std::string receive();
-    /// Reads until the text was there or the peer closes; without a text, until the peer closes.
+    /// Reads until the text arrives or the peer closes; with an empty text, until the peer closes.
     std::string receiveUntil(const std::string& text);
     [[nodiscard]] bool isReset() const { return m_isReset; }
 
@@ -83,6 +83,6 @@ private:
     bool m_isReset = false;
 };
 
-/// Sends the text over a TCP connection of its own and returns all that comes until the peer closes, after which the
-/// client asks it to by closing its side where closeOwnSide is set.
-std::string SendRaw(int port, const std::string& text, bool closeOwnSide = false);
+/// Sends the text over a new TCP connection and returns everything received until the peer closes. With halfClose, the
+/// client shuts down its sending side after the text.
+std::string SendRaw(int port, const std::string& text, bool halfClose = false);

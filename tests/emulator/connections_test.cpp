@@ -1,4 +1,4 @@
-// What becomes of many connections, of idle and of slow ones, and of ports that cannot be listened on.
+// How the emulator handles many, idle and slow connections, and addresses that it cannot listen on.
 #include "EmulatorTest.h"
 
 #include <sys/resource.h>
@@ -54,7 +54,7 @@ protected:
     emulator::PlatformEmulator m_platform{WithReadTimeout(kTime)};
 };
 
-TEST_F(ReadTimeoutTest, ConnectionThatSaysNothingIsClosed)
+TEST_F(ReadTimeoutTest, SilentConnectionIsClosed)
 {
     const auto begin = steady_clock::now();
     EXPECT_EQ(SendRaw(m_platform.httpPort(), ""), "");
@@ -62,7 +62,7 @@ TEST_F(ReadTimeoutTest, ConnectionThatSaysNothingIsClosed)
     EXPECT_GE(steady_clock::now() - begin, 2 * kTime);
 }
 
-TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterItsLastAnswer)
+TEST_F(ReadTimeoutTest, IdleConnectionIsClosedAfterReply)
 {
     RawConnection connection(m_platform.httpPort());
     connection.send(kGet + "\r\n");
@@ -71,7 +71,7 @@ TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterItsLastAnswer)
     EXPECT_FALSE(connection.isReset());
 }
 
-TEST_F(ReadTimeoutTest, RequestThatDoesNotEndIsClosedHoweverItDribbles)
+TEST_F(ReadTimeoutTest, RequestThatArrivesTooSlowlyIsClosed)
 {
     for (const std::string& start : {kGet + "X: ", kGet + "Content-Length: 1000000\r\n\r\n"}) {
         RawConnection connection(m_platform.httpPort());
@@ -87,7 +87,7 @@ TEST_F(ReadTimeoutTest, RequestThatDoesNotEndIsClosedHoweverItDribbles)
     EXPECT_TRUE(m_platform.requests().empty());
 }
 
-TEST_F(ReadTimeoutTest, RequestsThatComeInTimeGoOn)
+TEST_F(ReadTimeoutTest, RequestsThatArriveInTimeAreServed)
 {
     const auto client = ClientOf(m_platform);
     for (int i = 0; i < 8; ++i) {
@@ -97,7 +97,7 @@ TEST_F(ReadTimeoutTest, RequestsThatComeInTimeGoOn)
     EXPECT_GE(m_platform.requests().size(), 8U);
 }
 
-TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterAnAnswerThatWasReadSlowly)
+TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterReplyThatIsReadSlowly)
 {
     m_platform.addFault(emulator::Fault::FromJson({{"kind", "text"}, {"body", std::string(kLarge, 'x')}}));
     RawConnection connection(m_platform.httpPort());
@@ -105,18 +105,18 @@ TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterAnAnswerThatWasReadSlowly)
     EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
     std::this_thread::sleep_for(2 * kTime);
     const auto begin = steady_clock::now();
-    EXPECT_GE(connection.receiveUntil({}).size(), kLarge / 2) << "the answer goes on";
-    EXPECT_LT(steady_clock::now() - begin, seconds(60)) << "long before an answer that is not taken is given up";
+    EXPECT_GE(connection.receiveUntil({}).size(), kLarge / 2) << "the reply is still being sent";
+    EXPECT_LT(steady_clock::now() - begin, seconds(60)) << "well before the time limit for a reply that is not read";
 }
 
-TEST_F(ReadTimeoutTest, AnswerMayTakeLonger)
+TEST_F(ReadTimeoutTest, ReplyMayTakeLongerThanReadTimeout)
 {
     m_platform.addFault(emulator::Fault::FromJson({{"kind", "delay"}, {"delayMs", (3 * kTime).count()}, {"times", 2}}));
     EXPECT_EQ(ClientOf(m_platform)->get(kTimeSync).code(), 1000);
     EXPECT_EQ(ClientOf(m_platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
 }
 
-TEST(ManyConnectionsTest, IdleOnesTakeNoThreadAndAreClosedInTime)
+TEST(ManyConnectionsTest, IdleConnectionsTakeNoThreadAndAreClosed)
 {
     constexpr std::size_t kIdle = 1000;
     AllowManyFiles();
@@ -137,7 +137,7 @@ TEST(ManyConnectionsTest, IdleOnesTakeNoThreadAndAreClosedInTime)
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
 }
 
-TEST(ManyConnectionsTest, RequestsThatHangTakeNoThread)
+TEST(ManyConnectionsTest, HangingRequestsTakeNoThread)
 {
     constexpr std::size_t kHanging = 1000;
     AllowManyFiles();
@@ -158,7 +158,7 @@ TEST(ManyConnectionsTest, RequestsThatHangTakeNoThread)
     }
 }
 
-TEST(ConnectionTest, RequestsBehindOneThatWaitsAreAnsweredAfterIt)
+TEST(ConnectionTest, PipelinedRequestIsServedAfterDelayedOne)
 {
     emulator::PlatformEmulator platform;
     platform.start();
@@ -168,7 +168,7 @@ TEST(ConnectionTest, RequestsBehindOneThatWaitsAreAnsweredAfterIt)
     EXPECT_EQ(platform.requests().size(), 2U);
 }
 
-TEST(ConnectionTest, EndOfTheOwnSideEndsTheWaitForAnAnswer)
+TEST(ConnectionTest, HalfCloseEndsHangingRequest)
 {
     emulator::PlatformEmulator platform;
     platform.start();
@@ -196,7 +196,7 @@ TEST(ConnectionTest, ResetFaultResetsTheConnection)
     EXPECT_FALSE(other.isReset());
 }
 
-TEST(ConnectionTest, HalfAnAnswerIsHalfOfTheBodyUnderItsWholeLength)
+TEST(ConnectionTest, TruncatedReplyHasFullContentLengthAndHalfOfTheBody)
 {
     emulator::PlatformEmulator platform;
     platform.start();
@@ -210,7 +210,7 @@ TEST(ConnectionTest, HalfAnAnswerIsHalfOfTheBodyUnderItsWholeLength)
     EXPECT_FALSE(connection.isReset());
 }
 
-TEST(ConnectionTest, StopsWhileAClientDoesNotReadItsAnswer)
+TEST(ConnectionTest, StopsWhileClientDoesNotReadItsReply)
 {
     emulator::PlatformEmulator platform;
     platform.start();
@@ -223,37 +223,37 @@ TEST(ConnectionTest, StopsWhileAClientDoesNotReadItsAnswer)
     EXPECT_LT(connection.receiveUntil({}).size(), kLarge);
 }
 
-struct NoPort {
+struct UnusableAddress {
     const char* name;
     const char* address;
     const char* reason;
 };
 
-class ListenTest : public testing::TestWithParam<NoPort> {};
+class ListenTest : public testing::TestWithParam<UnusableAddress> {};
 
-TEST_P(ListenTest, SaysWhyAnAddressCannotBeListenedOn)
+TEST_P(ListenTest, ReportsWhyItCannotListen)
 {
     emulator::Options options;
     options.address = GetParam().address;
     emulator::PlatformEmulator platform(options);
     try {
         platform.start();
-        FAIL() << "it listens on " << options.address;
+        FAIL() << "listens on " << options.address;
     } catch (const std::runtime_error& error) {
         EXPECT_EQ(std::string(error.what()), GetParam().reason);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Addresses, ListenTest,
-                         testing::Values(NoPort{"OfNobodyHere", "192.0.2.1",
-                                                "cannot listen on 192.0.2.1:0: this machine has no such address"},
-                                         NoPort{"OfNobodyHereIpv6", "2001:db8::1",
-                                                "cannot listen on [2001:db8::1]:0: this machine has no such address"},
-                                         NoPort{"Unknown", "no.such.host.invalid",
-                                                "cannot listen on no.such.host.invalid:0: unknown address"}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Addresses, ListenTest,
+    testing::Values(
+        UnusableAddress{"NotLocal", "192.0.2.1", "cannot listen on 192.0.2.1:0: this machine has no such address"},
+        UnusableAddress{"NotLocalIpv6", "2001:db8::1",
+                        "cannot listen on [2001:db8::1]:0: this machine has no such address"},
+        UnusableAddress{"Unknown", "no.such.host.invalid", "cannot listen on no.such.host.invalid:0: unknown address"}),
+    RowName());
 
-TEST(PortTest, SaysThatAPortIsTaken)
+TEST(PortTest, ReportsThatPortIsTaken)
 {
     emulator::PlatformEmulator first;
     first.start();
@@ -263,7 +263,7 @@ TEST(PortTest, SaysThatAPortIsTaken)
         emulator::PlatformEmulator second(options);
         try {
             second.start();
-            FAIL() << "two listen on " << first.httpPort();
+            FAIL() << "two emulators listen on " << first.httpPort();
         } catch (const std::runtime_error& error) {
             EXPECT_EQ(std::string(error.what()),
                       "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is in use");
@@ -271,7 +271,7 @@ TEST(PortTest, SaysThatAPortIsTaken)
     }
 }
 
-TEST(PortTest, SaysThatThePermissionIsMissing)
+TEST(PortTest, ReportsMissingPermissionForPort)
 {
     emulator::Options options;
     options.httpPort = 1;
@@ -299,7 +299,7 @@ TEST(PortTest, PortIsFreeAgainAfterAStop)
     EXPECT_EQ(ClientOf(second)->get(kTimeSync).code(), 1000);
 }
 
-TEST(PortTest, NameOfAnAddressIsTaken)
+TEST(PortTest, HostNameIsAcceptedAsAddress)
 {
     emulator::Options options;
     options.address = "localhost";

@@ -21,7 +21,7 @@ const Contract& RealContract()
     return contract;
 }
 
-/// A folder that is gone after the test.
+/// A temporary folder, removed after the test.
 class Folder {
 public:
     Folder()
@@ -60,13 +60,13 @@ struct RefusedContract {
 };
 class RefusedContractTest : public testing::TestWithParam<RefusedContract> {};
 
-/// A text as it stands, anything else as JSON.
+/// A string without quotes, any other value as JSON.
 std::string AsText(const Json& value)
 {
     return value.is_string() ? value.get<std::string>() : value.dump();
 }
 
-/// With the examples of the contract, which find something in the seeds.
+/// The request target, filled with the contract's example parameters, which exist in the seeds.
 std::string TargetOf(const Operation& operation)
 {
     std::string target = operation.path;
@@ -85,7 +85,7 @@ std::string TargetOf(const Operation& operation)
 
 }  // namespace
 
-TEST_P(RefusedContractTest, IsNamed)
+TEST_P(RefusedContractTest, IsRejectedWithReason)
 {
     const Folder folder;
     folder.write("a.yaml", GetParam().file);
@@ -94,7 +94,7 @@ TEST_P(RefusedContractTest, IsNamed)
     }
     try {
         Contract::Load(folder.path());
-        FAIL() << "was taken";
+        FAIL() << "was accepted";
     } catch (const ContractError& error) {
         EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
     }
@@ -179,7 +179,7 @@ TEST(RealContractTest, EveryHandlerHasAnOperation)
     }
 }
 
-TEST(UnhandledTest, OperationsAnswerWithTheExampleAndWritesAreRemembered)
+TEST(UnhandledTest, RepliesWithTheExampleAndRecordsWrites)
 {
     const Folder folder;
     folder.write("a.yaml", R"(
@@ -240,7 +240,7 @@ TEST(RealContractTest, EveryParameterHasAnExample)
     }
 }
 
-TEST(RealContractTest, SaysWhichValuesAreAllowed)
+TEST(RealContractTest, DescribesAllowedValues)
 {
     const auto allowed = [](const char* operation, const char* key) {
         return emulator::DescriptionOf(RealContract().operation(operation).allowed, {}, key);
@@ -251,7 +251,7 @@ TEST(RealContractTest, SaysWhichValuesAreAllowed)
     EXPECT_EQ(allowed("OBMS.DeleteAddressBooks", "mode"), R"("1", "2")");
 }
 
-TEST(RealContractTest, EveryReplyWithDataHasAnExampleOfThem)
+TEST(RealContractTest, EveryReplyWithDataHasAnExample)
 {
     for (const Operation& operation : RealContract().operations()) {
         const bool bData = !operation.dataSchema.value("properties", Json::object()).empty();
@@ -259,7 +259,7 @@ TEST(RealContractTest, EveryReplyWithDataHasAnExampleOfThem)
     }
 }
 
-TEST(RealContractTest, BodiesAndSuccessesAreClosed)
+TEST(RealContractTest, BodiesAndSuccessRepliesForbidOtherKeys)
 {
     for (const Operation& operation : RealContract().operations()) {
         if (operation.body) {
@@ -277,9 +277,9 @@ TEST_P(ExampleTest, EveryExampleRequestSucceeds)
     for (const Operation& operation : RealContract().operations()) {
         m_platform.reset();
         const std::string body = operation.bodyExamples.empty() ? "" : operation.bodyExamples.front().dump();
-        const Answer answer = client->request(operation.method, TargetOf(operation), body);
-        EXPECT_EQ(answer.status, 200) << operation.id;
-        EXPECT_EQ(operation.success.breach(answer.json()), "") << operation.id << ": " << answer.body;
+        const Reply reply = client->request(operation.method, TargetOf(operation), body);
+        EXPECT_EQ(reply.status, 200) << operation.id;
+        EXPECT_EQ(operation.success.breach(reply.json()), "") << operation.id << ": " << reply.body;
     }
     EXPECT_EQ(m_platform.connections(), 1U) << "the connection was not kept";
 }
@@ -310,17 +310,17 @@ TEST(SeedTest, ScaleMultipliesListsAndKeepsIdentifiersUnique)
                                                                              {"/obms/persons", "personId"},
                                                                              {"/obms/points", "pointId"},
                                                                              {"/obms/desfireFailures", "id"}}) {
-        const Json::json_pointer place(list);
-        EXPECT_EQ(scaled.at(place).size(), 3 * seeds.at(place).size()) << list;
+        const Json::json_pointer pointer(list);
+        EXPECT_EQ(scaled.at(pointer).size(), 3 * seeds.at(pointer).size()) << list;
         std::set<std::string> identifiers;
-        for (const Json& element : scaled.at(place)) {
+        for (const Json& element : scaled.at(pointer)) {
             identifiers.insert(element.at(identifier).get<std::string>());
         }
-        EXPECT_EQ(identifiers.size(), scaled.at(place).size()) << list;
+        EXPECT_EQ(identifiers.size(), scaled.at(pointer).size()) << list;
     }
 }
 
-TEST(SeedTest, CopiesFitEachOther)
+TEST(SeedTest, CopiesReferToEachOther)
 {
     const Json scaled = ScaledSeeds(2);
     std::set<std::string> devices;
@@ -333,7 +333,7 @@ TEST(SeedTest, CopiesFitEachOther)
     EXPECT_EQ(scaled.at("brms").at("alarmPlans").at(7).at("quickCommandIds"), (Json{"5-2", "6-2"}));
 }
 
-TEST(SeedTest, ListsAreTheSameInWhateverOrderTheyAreAskedFor)
+TEST(SeedTest, ListsDoNotDependOnReadingOrder)
 {
     const emulator::StatePath device("/inventory/devices/20/deviceCode");
     emulator::State state(emulator::LoadSeeds(emulator::Options().seed), 3);
@@ -355,13 +355,13 @@ struct RefusedSeed {
 };
 class RefusedSeedTest : public testing::TestWithParam<RefusedSeed> {};
 
-TEST_P(RefusedSeedTest, IsNamed)
+TEST_P(RefusedSeedTest, IsRejectedWithReason)
 {
     const Folder folder;
     folder.write("family.json", GetParam().file);
     try {
         emulator::State(emulator::LoadSeeds(folder.path()), 2);
-        FAIL() << "was taken";
+        FAIL() << "was accepted";
     } catch (const emulator::SeedError& error) {
         EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
     }
@@ -369,55 +369,55 @@ TEST_P(RefusedSeedTest, IsNamed)
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RefusedSeedTest,
                          testing::Values(RefusedSeed{"NotJson", "{", "family.json: "},
-                                         RefusedSeed{"NoObject", "[]", "family.json: "},
-                                         RefusedSeed{"ScalesWhatIsNotThere",
+                                         RefusedSeed{"NotObject", "[]", "family.json: "},
+                                         RefusedSeed{"ScalesMissingList",
                                                      R"({"scale": {"lists": ["missing"], "identifiers": []}})",
                                                      "missing"}),
                          RowName());
 
-/// The places of a value and of all in it; of each list and of each object of objects the first element alone.
-void AddPlaces(const Json& value, const Json::json_pointer& place, std::vector<Json::json_pointer>& places)
+/// Appends pointers to a value and everything in it; of lists and objects of objects, only to the first element.
+void AddPointers(const Json& value, const Json::json_pointer& pointer, std::vector<Json::json_pointer>& pointers)
 {
-    places.push_back(place);
+    pointers.push_back(pointer);
     if (value.is_array() && !value.empty()) {
-        AddPlaces(value.front(), place / 0, places);
+        AddPointers(value.front(), pointer / 0, pointers);
     } else if (value.is_object()) {
         for (const auto& member : value.items()) {
-            AddPlaces(member.value(), place / member.key(), places);
+            AddPointers(member.value(), pointer / member.key(), pointers);
         }
     }
 }
 
-TEST(SeedTest, WrongTypeIsReportedWithItsFileAndPlace)
+TEST(SeedTest, WrongTypeIsReportedWithFileAndPointer)
 {
-    // Shown in the state alone, no call reads it.
+    // No call reads these: they only appear in the state.
     const std::set<std::string> unread = {"/brms/users/0/userName", "/iams/tasks/0/fileName",
                                           "/iams/tasks/0/uploadFailed", "/ipms/captureRecords/0/plateNo",
                                           "/obms/zones/0/zoneName"};
     const Json seeds = ScaledSeeds(1);
-    std::vector<Json::json_pointer> places;
+    std::vector<Json::json_pointer> pointers;
     for (const auto& family : seeds.items()) {
         for (const auto& member : family.value().items()) {
-            AddPlaces(member.value(), Json::json_pointer() / family.key() / member.key(), places);
+            AddPointers(member.value(), Json::json_pointer() / family.key() / member.key(), pointers);
         }
     }
-    for (const Json::json_pointer& place : places) {
+    for (const Json::json_pointer& pointer : pointers) {
         Json wrong = seeds;
-        wrong[place] = seeds.at(place).is_structured() ? Json("a text") : Json::array();
+        wrong[pointer] = seeds.at(pointer).is_structured() ? Json("a text") : Json::array();
         std::string message;
         try {
             emulator::CheckSeeds(wrong, RealContract());
         } catch (const emulator::SeedError& error) {
             message = error.what();
         }
-        std::string expected = place.to_string().substr(1);
+        std::string expected = pointer.to_string().substr(1);
         expected.replace(expected.find('/'), 1, ".json: /").append(": expected ");
-        const bool isUnread = unread.count(place.to_string()) > 0;
-        EXPECT_EQ(message.substr(0, expected.size()), isUnread ? "" : expected) << place;
+        const bool isUnread = unread.count(pointer.to_string()) > 0;
+        EXPECT_EQ(message.substr(0, expected.size()), isUnread ? "" : expected) << pointer;
     }
 }
 
-TEST(SeedTest, SeedsOfSomeFamiliesDo)
+TEST(SeedTest, SeedsMayLackFamiliesAndLists)
 {
     Json seeds = ScaledSeeds(1);
     seeds.erase("brms");

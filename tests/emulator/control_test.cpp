@@ -23,11 +23,11 @@ TEST_F(ControlTest, FaultsAreAddedListedAndCleared)
                         {"times", 0},      {"status", 503},   {"headers", {{"Retry-After", "9"}}},
                         {"body", "later"}, {"delayMs", 1},    {"code", 0},
                         {"desc", ""},      {"size", 0},       {"bytesPerSecond", 7}};
-    const Answer added = m_control->post(kFaults, fault);
+    const Reply added = m_control->post(kFaults, fault);
     EXPECT_EQ(added.status, 201);
     EXPECT_EQ(added.json(), fault);
     EXPECT_EQ(m_control->get(kFaults).json(), Json::array({fault}));
-    const Answer hit = m_client->get(kTimeSync);
+    const Reply hit = m_client->get(kTimeSync);
     EXPECT_EQ(hit.status, 503);
     EXPECT_EQ(hit.body, "later");
     EXPECT_EQ(hit.headers.find("Retry-After")->second, "9");
@@ -43,35 +43,36 @@ struct RefusedFault {
 };
 class RefusedFaultTest : public EmulatorTableTest, public testing::WithParamInterface<RefusedFault> {};
 
-TEST_P(RefusedFaultTest, IsNamed)
+TEST_P(RefusedFaultTest, IsRejectedWithReason)
 {
-    const Answer answer = ClientOf(m_platform)->request("POST", kFaults, GetParam().body);
-    EXPECT_EQ(answer.status, 400);
-    EXPECT_NE(answer.json().value("error", "").find(GetParam().error), std::string::npos) << answer.body;
+    const Reply reply = ClientOf(m_platform)->request("POST", kFaults, GetParam().body);
+    EXPECT_EQ(reply.status, 400);
+    EXPECT_NE(reply.json().value("error", "").find(GetParam().error), std::string::npos) << reply.body;
     EXPECT_TRUE(m_platform.faults().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Faults, RefusedFaultTest,
-    testing::Values(RefusedFault{"NotJson", "{", "not JSON"}, RefusedFault{"NoObject", "[]", "kind"},
+    testing::Values(RefusedFault{"NotJson", "{", "not JSON"}, RefusedFault{"NotObject", "[]", "kind"},
                     RefusedFault{"NoKind", "{}", "kind"},
                     RefusedFault{"UnknownKind", R"({"kind":"slower"})", "'slower'"},
-                    RefusedFault{"KindNoText", R"({"kind":1})", "kind: expected a string"},
+                    RefusedFault{"KindNotString", R"({"kind":1})", "kind: expected a string"},
                     RefusedFault{"UnknownKey", R"({"kind":"empty","tims":1})", "tims: not expected"},
                     RefusedFault{"TimesNegative", R"({"kind":"empty","times":-1})", "times"},
-                    RefusedFault{"TimesNoNumber", R"({"kind":"empty","times":"1"})", "times"},
+                    RefusedFault{"TimesNotNumber", R"({"kind":"empty","times":"1"})", "times"},
                     RefusedFault{"StatusTooLow", R"({"kind":"status","status":199})", "status"},
                     RefusedFault{"StatusTooHigh", R"({"kind":"status","status":600})", "status"},
                     RefusedFault{"DelayNegative", R"({"kind":"delay","delayMs":-5})", "delayMs"},
                     RefusedFault{"MethodUnknown", R"({"kind":"empty","method":"put"})", "method: unknown 'put'"},
-                    RefusedFault{"MethodNoText", R"({"kind":"empty","method":["PUT"]})", "method: expected a string"},
+                    RefusedFault{"MethodNotString", R"({"kind":"empty","method":["PUT"]})",
+                                 "method: expected a string"},
                     RefusedFault{"SpeedZero", R"({"kind":"slow","bytesPerSecond":0})", "bytesPerSecond"},
                     RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
-                    RefusedFault{"HeadersNoObject", R"({"kind":"status","headers":[]})", "headers"},
-                    RefusedFault{"HeaderNoText", R"({"kind":"status","headers":{"A":1}})", "headers"}),
+                    RefusedFault{"HeadersNotObject", R"({"kind":"status","headers":[]})", "headers"},
+                    RefusedFault{"HeaderNotString", R"({"kind":"status","headers":{"A":1}})", "headers"}),
     RowName());
 
-TEST_F(ControlTest, RequestsAreHandedOutAsTheyCame)
+TEST_F(ControlTest, RequestsAreReturnedAsReceived)
 {
     m_client->get("/brms/api/v1.1/user/group/list?keyword=a%20b+c&x=%26&&y");
     m_client->put(kTimeSync, {{"ü", 1}});
@@ -108,13 +109,13 @@ TEST_F(ControlTest, TargetIsKeptByteForByte)
     EXPECT_EQ(m_platform.requests().back().query.at(1).first, "b?c+\"<\xc3\xbc");
 }
 
-TEST_F(ControlTest, TargetThatIsNoUtf8IsShownAllTheSame)
+TEST_F(ControlTest, TargetWithInvalidUtf8IsShown)
 {
     m_client->get("/brms/api/v1.1/user/group/%ff");
     EXPECT_EQ(m_control->get("/emulator/v1/requests").json().at(0).at("path"), "/brms/api/v1.1/user/group/\uFFFD");
 }
 
-TEST_F(ControlTest, RequestsWithoutAnAnswerHaveNoStatus)
+TEST_F(ControlTest, RequestsWithoutReplyHaveNoStatus)
 {
     m_control->post(kFaults, Json{{"kind", "closeBefore"}});
     m_client->get(kTimeSync);
@@ -123,7 +124,7 @@ TEST_F(ControlTest, RequestsWithoutAnAnswerHaveNoStatus)
     EXPECT_EQ(requests.at(0).at("code"), Json());
 }
 
-TEST_F(ControlTest, OldRequestsAreForgotten)
+TEST_F(ControlTest, OldRequestsAreDiscarded)
 {
     const std::string large(1024UL * 1024, 'x');
     for (int i = 0; i < 70; ++i) {
@@ -131,10 +132,10 @@ TEST_F(ControlTest, OldRequestsAreForgotten)
     }
     EXPECT_EQ(m_platform.requests().size(), 64U);
     EXPECT_EQ(m_platform.requests().back().number, 70U);
-    EXPECT_EQ(m_platform.requests().back().body, large) << "a body of a megabyte arrives whole";
+    EXPECT_EQ(m_platform.requests().back().body, large) << "a body of a megabyte arrives completely";
 }
 
-TEST_F(ControlTest, StateShowsWritesAndResetTakesThemBack)
+TEST_F(ControlTest, StateShowsWritesAndResetUndoesThem)
 {
     const Json seeds = m_control->get("/emulator/v1/state").json();
     EXPECT_EQ(seeds, m_platform.state());
@@ -144,25 +145,25 @@ TEST_F(ControlTest, StateShowsWritesAndResetTakesThemBack)
               Json::parse(R"([{"path":{},"query":{},"body":null}])"));
     EXPECT_EQ(m_control->post("/emulator/v1/reset").status, 204);
     EXPECT_EQ(m_control->get("/emulator/v1/state").json(), seeds);
-    EXPECT_EQ(m_platform.requests().size(), 1U) << "requests stay";
+    EXPECT_EQ(m_platform.requests().size(), 1U) << "the reset keeps the requests";
 }
 
 struct Patch {
     const char* name;
     const char* patch;
-    const char* place;
-    const char* value;  ///< afterwards; null for none
+    const char* pointer;
+    const char* value;  ///< after the patch; null if absent
 };
 class PatchTest : public EmulatorTableTest, public testing::WithParamInterface<Patch> {
 protected:
     void expectPatched(const Json& before)
     {
-        const Json::json_pointer place(GetParam().place);
+        const Json::json_pointer pointer(GetParam().pointer);
         Json expected = before;
         if (GetParam().value == nullptr) {
-            expected.at(place.parent_pointer()).erase(place.back());
+            expected.at(pointer.parent_pointer()).erase(pointer.back());
         } else {
-            expected[place] = Json::parse(GetParam().value);
+            expected[pointer] = Json::parse(GetParam().value);
         }
         EXPECT_NE(expected, before);
         EXPECT_EQ(m_platform.state(), expected);
@@ -189,7 +190,7 @@ INSTANTIATE_TEST_SUITE_P(
         Patch{"Value", R"({"brms":{"timeSync":{"interval":"77"}}})", "/brms/timeSync/interval", "\"77\""},
         Patch{"NewMember", R"({"brms":{"timeSync":{"more":{"a":null,"b":1}}}})", "/brms/timeSync/more", R"({"b":1})"},
         Patch{"NullRemoves", R"({"brms":{"timeSync":null}})", "/brms/timeSync", nullptr},
-        Patch{"ListWhole", R"({"brms":{"userGroups":[{"id":"1"}]}})", "/brms/userGroups", R"([{"id":"1"}])"},
+        Patch{"ListIsReplaced", R"({"brms":{"userGroups":[{"id":"1"}]}})", "/brms/userGroups", R"([{"id":"1"}])"},
         Patch{"NewFamily", R"({"tests":[1]})", "/tests", "[1]"}),
     RowName());
 
@@ -205,9 +206,9 @@ TEST_F(ControlTest, PatchThatIsNoObjectChangesNothing)
 {
     const Json before = m_platform.state();
     for (const char* patch : {"", "{", "[]", "null", "7"}) {
-        const Answer answer = m_control->request("PUT", kState, patch);
-        EXPECT_EQ(answer.status, 400) << patch;
-        EXPECT_FALSE(answer.json().value("error", "").empty()) << patch;
+        const Reply reply = m_control->request("PUT", kState, patch);
+        EXPECT_EQ(reply.status, 400) << patch;
+        EXPECT_FALSE(reply.json().value("error", "").empty()) << patch;
     }
     EXPECT_THROW(m_platform.mergeState(Json::array()), std::invalid_argument);
     EXPECT_EQ(m_platform.state(), before);
@@ -225,7 +226,7 @@ TEST_F(ControlTest, ConnectionsAreCounted)
     EXPECT_EQ(m_platform.connections(), 3U);
 }
 
-TEST_F(ControlTest, WhatItDoesNotKnowIsRefusedWithAStatus)
+TEST_F(ControlTest, UnknownPathsAndMethodsGetAnErrorStatus)
 {
     EXPECT_EQ(m_control->get("/emulator/v1/nothing").status, 404);
     EXPECT_EQ(m_control->get("/emulator/").status, 404);
@@ -245,7 +246,7 @@ TEST(ControlOffTest, ControlPathIsForbidden)
     EXPECT_EQ(client->get(kTimeSync).code(), 1000);
 }
 
-TEST(ControlTokenTest, ControlPathAsksForItsToken)
+TEST(ControlTokenTest, ControlPathRequiresItsToken)
 {
     emulator::Options options;
     options.controlToken = "the-tester";
@@ -254,9 +255,9 @@ TEST(ControlTokenTest, ControlPathAsksForItsToken)
     for (const char* token : {"", "wrong", emulator::kDefaultToken}) {
         const auto client = ClientOf(platform, TestClient::Scheme::Http, token);
         for (const char* path : {kFaults, kState, "/emulator/v1/requests", "/emulator/v1/nothing"}) {
-            const Answer answer = client->get(path);
-            EXPECT_EQ(answer.status, 401) << token << path;
-            EXPECT_FALSE(answer.json().value("error", "").empty()) << answer.body;
+            const Reply reply = client->get(path);
+            EXPECT_EQ(reply.status, 401) << token << path;
+            EXPECT_FALSE(reply.json().value("error", "").empty()) << reply.body;
         }
         EXPECT_EQ(client->post(kFaults, Json{{"kind", "empty"}}).status, 401) << token;
     }
@@ -266,7 +267,7 @@ TEST(ControlTokenTest, ControlPathAsksForItsToken)
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
 }
 
-TEST(OptionsTest, OtherTokenIsAsked)
+TEST(OptionsTest, ConfiguredTokenIsRequired)
 {
     emulator::Options options;
     options.token = "другой";
@@ -286,7 +287,7 @@ TEST(OptionsTest, TakenPortIsRefused)
     EXPECT_THROW(second.start(), std::runtime_error);
 }
 
-TEST(OptionsTest, StopsWithoutHavingStarted)
+TEST(OptionsTest, StopsWithoutStart)
 {
     emulator::PlatformEmulator platform;
     platform.stop();

@@ -31,24 +31,24 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Conversion{"TextToInteger", R"({"type":"integer"})", R"("-30")", "-30"},
         Conversion{"TextToLargeInteger", R"({"type":"integer"})", R"("9007199254740993")", "9007199254740993"},
-        Conversion{"TextNoInteger", R"({"type":"integer"})", R"("3x")", R"("3x")"},
-        Conversion{"EmptyTextNoInteger", R"({"type":"integer"})", R"("")", R"("")"},
+        Conversion{"TextNotInteger", R"({"type":"integer"})", R"("3x")", R"("3x")"},
+        Conversion{"EmptyTextNotInteger", R"({"type":"integer"})", R"("")", R"("")"},
         Conversion{"TextToNumber", R"({"type":"number"})", R"("5")", "5"},
         Conversion{"OneToTrue", R"({"type":"boolean"})", R"("1")", "true"},
         Conversion{"ZeroToFalse", R"({"type":"boolean"})", R"("0")", "false"},
         Conversion{"NumberToTrue", R"({"type":"boolean"})", "1", "true"},
-        Conversion{"TwoNoFlag", R"({"type":"boolean"})", R"("2")", R"("2")"},
+        Conversion{"TwoNotBoolean", R"({"type":"boolean"})", R"("2")", R"("2")"},
         Conversion{"FlagToInteger", R"({"type":"integer"})", "true", "1"},
         Conversion{"NumberToText", R"({"type":"string"})", "7", R"("7")"},
         Conversion{"TextStaysText", R"({"type":"string"})", R"("1")", R"("1")"},
-        Conversion{"WithoutSchemaItStays", "{}", R"({"a":"1"})", R"({"a":"1"})"},
+        Conversion{"UnchangedWithoutSchema", "{}", R"({"a":"1"})", R"({"a":"1"})"},
         Conversion{"DeepInside", R"({"properties":{"l":{"items":{"properties":{"n":{"type":"integer"}}}}}})",
                    R"({"l":[{"n":"1","t":"1"},{"n":"2"}],"x":"1"})", R"({"l":[{"n":1,"t":"1"},{"n":2}],"x":"1"})"}),
     testing_support::RowName());
 
 class ProjectionTest : public testing::TestWithParam<Conversion> {};
 
-TEST_P(ProjectionTest, ClosedObjectsLoseWhatTheyHaveNoRoomFor)
+TEST_P(ProjectionTest, ClosedObjectsDropUnknownKeys)
 {
     EXPECT_EQ(emulator::ProjectOn(Json::parse(GetParam().schema), Json::parse(GetParam().value)),
               Json::parse(GetParam().converted));
@@ -62,10 +62,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Conversion{"Open", R"({"properties":{"a":{}}})", R"({"a":1,"b":2})", R"({"a":1,"b":2})"},
                     Conversion{"ElementsOfAList", R"({"items":{"additionalProperties":false}})", R"([{"a":1},2])",
                                "[{},2]"},
-                    Conversion{"TypesStay", R"({"type":"integer"})", R"("1")", R"("1")"}),
+                    Conversion{"TypesAreKept", R"({"type":"integer"})", R"("1")", R"("1")"}),
     testing_support::RowName());
 
-TEST(TextTest, PercentDecoding)
+TEST(TextTest, DecodesPercentEscapes)
 {
     EXPECT_EQ(emulator::PercentDecode("a%20b%c3%BC", false), "a b\xc3\xbc");
     EXPECT_EQ(emulator::PercentDecode("a+b", false), "a+b");
@@ -78,7 +78,7 @@ TEST(TextTest, PercentDecoding)
     EXPECT_EQ(emulator::PercentDecode("%00", false), std::string(1, '\0'));
 }
 
-TEST(TextTest, Splitting)
+TEST(TextTest, SplitsAtSeparator)
 {
     EXPECT_EQ(emulator::Split("a,,b", ','), (std::vector<std::string>{"a", "", "b"}));
     EXPECT_EQ(emulator::Split("", ','), std::vector<std::string>{""});

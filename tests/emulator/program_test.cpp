@@ -32,14 +32,14 @@ QStringList Words(const std::vector<std::string>& words)
     return list;
 }
 
-/// platform-emulator.
+/// A running platform-emulator.
 class Program : public testing_support::RunningProgram {
 public:
     explicit Program(const std::vector<std::string>& arguments, const testing_support::Variables& variables = {})
         : RunningProgram(QStringLiteral(EMULATOR_PROGRAM), Words(arguments), variables)
     {}
 
-    /// The highest resident set so far.
+    /// The peak resident set size.
     [[nodiscard]] std::size_t MostKilobytes() const
     {
         std::ifstream status("/proc/" + std::to_string(ProcessId()) + "/status");
@@ -69,7 +69,7 @@ struct BadOption {
 
 class BadOptionTest : public testing::TestWithParam<BadOption> {};
 
-TEST_P(BadOptionTest, IsNamedAndEndsWithStatus2)
+TEST_P(BadOptionTest, IsReportedWithExitStatus2)
 {
     Program program(GetParam().arguments);
     EXPECT_EQ(program.ExitStatus(), 2);
@@ -78,8 +78,8 @@ TEST_P(BadOptionTest, IsNamedAndEndsWithStatus2)
 
 INSTANTIATE_TEST_SUITE_P(
     Options, BadOptionTest,
-    testing::Values(BadOption{"Unknown", {"--port", "1"}, "--port"}, BadOption{"Surplus", {"word"}, "word"},
-                    BadOption{"PortNoNumber", {"--http-port", "x"}, "--http-port"},
+    testing::Values(BadOption{"Unknown", {"--port", "1"}, "--port"}, BadOption{"UnexpectedArgument", {"word"}, "word"},
+                    BadOption{"PortNotNumber", {"--http-port", "x"}, "--http-port"},
                     BadOption{"PortTooHigh", {"--https-port", "65536"}, "--https-port"},
                     BadOption{"PortNegative", {"--http-port", "-1"}, "--http-port"},
                     BadOption{"ValueMissing", {"--token"}, "--token"},
@@ -91,10 +91,10 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"ContractEmpty", {"--contract", "/proc/self/task"}, "no operation"},
                     BadOption{"SeedMissing", {"--seed", "/nowhere"}, "/nowhere"},
                     BadOption{"SeedEmpty", {"--seed", "/proc/self/task"}, "contains no seed file"},
-                    BadOption{"AddressNotOurs", {"--address", "192.0.2.1"}, "cannot listen on 192.0.2.1"}),
+                    BadOption{"AddressNotLocal", {"--address", "192.0.2.1"}, "cannot listen on 192.0.2.1"}),
     testing_support::RowName());
 
-TEST(ProgramTest, HelpAndVersion)
+TEST(ProgramTest, PrintsHelpAndVersion)
 {
     Program help({"--help"});
     EXPECT_EQ(help.ExitStatus(), 0);
@@ -108,7 +108,7 @@ TEST(ProgramTest, HelpAndVersion)
     EXPECT_EQ(version.Output().find("platform-emulator "), 0U) << version.Output();
 }
 
-TEST(ProgramTest, PrintsItsPortsAndServesThem)
+TEST(ProgramTest, ServesThePrintedPorts)
 {
     Program program({"--token", kToken, "--verbose"});
     TestClient plain(TestClient::Scheme::Http, program.Port("http"), kToken);
@@ -133,7 +133,7 @@ TEST(ProgramTest, IsQuietUnlessVerbose)
     EXPECT_EQ(std::count(program.Output().begin(), program.Output().end(), '\n'), 2) << program.Output();
 }
 
-TEST(ProgramTest, SecondOneOnTheSamePortIsRefused)
+TEST(ProgramTest, SecondEmulatorOnSamePortFails)
 {
     Program first({});
     const std::string port = std::to_string(first.Port("http"));
@@ -153,7 +153,7 @@ TEST(ProgramTest, ClosesIdleConnectionsAfterTheReadTimeout)
     EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
-TEST(ProgramTest, TakesItsTokensFromTheEnvironment)
+TEST(ProgramTest, ReadsTokensFromTheEnvironment)
 {
     constexpr const char* kControlToken = "another-token";
     Program program({}, {{QStringLiteral("PLATFORM_EMULATOR_TOKEN"), QString::fromLatin1(kToken)},
@@ -166,7 +166,7 @@ TEST(ProgramTest, TakesItsTokensFromTheEnvironment)
     EXPECT_EQ(control.get(kTimeSync).status, 401);
 }
 
-TEST(ProgramTest, TakesAThousandConnectionsWithoutAThreadForEach)
+TEST(ProgramTest, ServesAThousandConnectionsWithFewThreads)
 {
     constexpr std::size_t kConnections = 1000;
     constexpr std::size_t kMostThreads = 8;
@@ -200,13 +200,13 @@ TEST(ProgramTest, ListensOnIpv6)
 
 class SignalTest : public testing::TestWithParam<int> {};
 
-TEST_P(SignalTest, EndsCleanlyWhileRequestsHang)
+TEST_P(SignalTest, StopsCleanlyWhileRequestsHang)
 {
     Program program({});
     const int port = program.Port("http");
     TestClient control(TestClient::Scheme::Http, port, "");
     ASSERT_EQ(control.post("/emulator/v1/faults", Json{{"kind", "silent"}}).status, 201);
-    std::future<Answer> hanging = std::async(std::launch::async, [port] {
+    std::future<Reply> hanging = std::async(std::launch::async, [port] {
         return TestClient(TestClient::Scheme::Http, port, emulator::kDefaultToken).get(kTimeSync);
     });
     while (control.get("/emulator/v1/requests").json().empty()) {
@@ -222,7 +222,7 @@ INSTANTIATE_TEST_SUITE_P(Signals, SignalTest, testing::Values(SIGTERM, SIGINT),
                              return row.param == SIGTERM ? "Terminate" : "Interrupt";
                          });
 
-/// A copy of the seeds with another file for one family, gone after the test.
+/// A temporary copy of the seeds with one family's file replaced, removed after the test.
 class EditedSeeds {
 public:
     EditedSeeds(const std::string& file, const std::string& text)
@@ -244,7 +244,7 @@ private:
     std::filesystem::path m_folder;
 };
 
-TEST(ProgramTest, ListsOfALargeScaleTakeNoMemoryUntilTheyAreAskedFor)
+TEST(ProgramTest, LargeScaleTakesNoMemoryUntilListsAreRead)
 {
     constexpr std::size_t kMostKilobytes = 500UL * 1000;
     Program program({"--scale", "10000"});
@@ -265,7 +265,7 @@ TEST(ProgramTest, EditedSeedsAreServed)
     EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
 }
 
-TEST(ProgramTest, WrongTypeInASeedEndsItAtOnce)
+TEST(ProgramTest, WrongTypeInASeedFailsAtStart)
 {
     const EditedSeeds seeds("omms.json", R"({"alertTypes": [{"alertTypeId": 7, "alertTypeName": "b"}]})");
     Program program({"--seed", seeds.folder()});

@@ -6,7 +6,7 @@ constexpr const char* kChannel = "/brms/api/v1.1/device/channel/1000001$1$0$0";
 
 struct ReadBack {
     const char* name;
-    std::string target;     ///< of write and read
+    std::string target;     ///< of both write and read
     const char* body;       ///< of the write
     const char* data;       ///< of the read
     std::string untouched;  ///< a target that the write must not change; may be empty
@@ -16,15 +16,15 @@ class ReadBackTest : public EmulatorTableTest, public testing::WithParamInterfac
 
 }  // namespace
 
-TEST_P(ReadBackTest, WhatAPutStoredTheNextGetReturns)
+TEST_P(ReadBackTest, GetReturnsWhatPutStored)
 {
     const auto writer = ClientOf(m_platform);
     const auto reader = ClientOf(m_platform, TestClient::Scheme::Https);
-    const Answer original = reader->get(GetParam().target);
-    EXPECT_NE(original.data(), Json::parse(GetParam().data)) << "the case cannot fail";
+    const Reply original = reader->get(GetParam().target);
+    EXPECT_NE(original.data(), Json::parse(GetParam().data)) << "the row checks nothing: the value is already stored";
     const std::string other = GetParam().untouched.empty() ? "" : reader->get(GetParam().untouched).body;
 
-    const Answer written = writer->request("PUT", GetParam().target, GetParam().body);
+    const Reply written = writer->request("PUT", GetParam().target, GetParam().body);
     EXPECT_EQ(written.json(), (Json{{"code", 1000}, {"desc", "Success"}, {"data", Json::object()}})) << written.body;
     EXPECT_EQ(reader->get(GetParam().target).data(), Json::parse(GetParam().data));
     if (!other.empty()) {
@@ -99,7 +99,7 @@ protected:
         return values;
     }
 
-    /// What a write that no call reads back left in the state.
+    /// What the state records of a write that no call reads back.
     Json accepted(const std::string& operation) { return m_platform.state().at("accepted").at(operation); }
 
     std::unique_ptr<TestClient> m_client = ClientOf(m_platform);
@@ -115,7 +115,7 @@ TEST_F(StateTest, MulticastStreamStatusShowsInTheConfig)
     EXPECT_EQ(m_client->get(target).data(), expected);
 }
 
-TEST_F(StateTest, LocalSettingUpdateGoesToTheOneReadLast)
+TEST_F(StateTest, LocalSettingUpdateChangesTheOneReadLast)
 {
     const std::string target = "/brms/api/v1.1/config/local/setting";
     EXPECT_EQ(m_client->put(target, {{"apply", "0"}, {"settingContent", "first"}}).code(), 1000);
@@ -133,7 +133,7 @@ TEST_F(StateTest, LocalSettingUpdateGoesToTheOneReadLast)
 TEST_F(StateTest, UserGroupsAreAddedFoundAndDeleted)
 {
     const std::string target = "/brms/api/v1.1/user/group";
-    const Answer added = m_client->post(target, Json{{"groupName", "Überwachung"}, {"memo", "m"}});
+    const Reply added = m_client->post(target, Json{{"groupName", "Überwachung"}, {"memo", "m"}});
     const std::string id = added.data().at("id");
     EXPECT_EQ(id, "17");
     EXPECT_EQ(m_client->get(target + "/" + id).data(), (Json{{"id", id}, {"groupName", "Überwachung"}, {"memo", "m"}}));
@@ -146,7 +146,7 @@ TEST_F(StateTest, UserGroupsAreAddedFoundAndDeleted)
     EXPECT_EQ(column(target + "/list?keyword=", "id"), (Json{"12", "14", "15", "16"}));
     EXPECT_EQ(m_client->remove(target + "?ids=").code(), 1000);
     EXPECT_EQ(m_client->post(target, Json{{"groupName", ""}, {"memo", ""}}).data().at("id"), "18")
-        << "identifiers are not given twice";
+        << "identifiers are not reused";
 }
 
 TEST_F(StateTest, UsersMoveAndLeaveGroups)
@@ -183,7 +183,7 @@ TEST_F(StateTest, QuickCommandsAreAddedFoundAndDeleted)
     EXPECT_EQ(column(target + "/list?keyword=", "id"), (Json{"5", "7", "8"}));
 }
 
-TEST_F(StateTest, PlanListsItsCommandsAsTheyAreNow)
+TEST_F(StateTest, PlanListsItsCurrentCommands)
 {
     const std::string plan = "/brms/api/v1.1/alarm/plan/9/quick/command/list";
     const std::string command = "/brms/api/v1.1/config/quick/command";
@@ -213,7 +213,7 @@ TEST_F(StateTest, ManagedPersonsAreReplaced)
               (Json{"5001", "5002", "5006"}));
 }
 
-TEST_F(StateTest, ReissueLeavesNoFailure)
+TEST_F(StateTest, ReissueRemovesFailures)
 {
     const std::string target = "/obms/api/v1.1/acs/config/desfire/failure";
     EXPECT_EQ(m_client->get(target + "/page?page=1&pageSize=20&keyword=").data().at("totalCount"), 4);
@@ -236,7 +236,7 @@ TEST_F(StateTest, ContactsAreDeletedByName)
     EXPECT_EQ(contacts(), Json::array());
 }
 
-TEST_F(StateTest, CaptureRecordGetsItsPlate)
+TEST_F(StateTest, CaptureRecordStoresPlate)
 {
     const Json body = {{"id", "88002"}, {"plateNo", "ÄÖ 1"}};
     EXPECT_EQ(m_client->put("/ipms/api/v1.1/fusion/vehicle-capture/record", body).code(), 1000);
@@ -244,7 +244,7 @@ TEST_F(StateTest, CaptureRecordGetsItsPlate)
     EXPECT_EQ(accepted("IPMS.UpdateVehicleCaptureRecord").at(0).at("body"), body);
 }
 
-TEST_F(StateTest, AnalysisTasksAreMarked)
+TEST_F(StateTest, FailedUploadsOfAnalysisTasksAreMarked)
 {
     const Json body = {{"ids", {"702"}}};
     EXPECT_EQ(m_client->post("/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch", body).code(), 1000);
@@ -253,16 +253,16 @@ TEST_F(StateTest, AnalysisTasksAreMarked)
     EXPECT_EQ(accepted("IAMS.SetAnalysisTaskUploadFailed").at(0).at("body"), body);
 }
 
-struct Remembered {
+struct RecordedWrite {
     const char* name;
     const char* target;
     const char* body;
     const char* operation;
     const char* path;
 };
-class RememberedTest : public EmulatorTableTest, public testing::WithParamInterface<Remembered> {};
+class RecordedWriteTest : public EmulatorTableTest, public testing::WithParamInterface<RecordedWrite> {};
 
-TEST_P(RememberedTest, WriteThatNoCallReadsBackIsInTheState)
+TEST_P(RecordedWriteTest, IsInTheStateThoughNoCallReadsIt)
 {
     EXPECT_EQ(ClientOf(m_platform)->request("POST", GetParam().target, GetParam().body).code(), 1000);
     const Json accepted = m_platform.state().at("accepted").at(GetParam().operation);
@@ -273,31 +273,31 @@ TEST_P(RememberedTest, WriteThatNoCallReadsBackIsInTheState)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Writes, RememberedTest,
+    Writes, RecordedWriteTest,
     testing::Values(
-        Remembered{"SyncTime", "/brms/api/v1.1/config/time-sync/immediate", "", "BRMS.ImmediatelySyncTime", "{}"},
-        Remembered{"Discover", "/brms/api/v1.1/device/discover/async/batch", R"({"deviceCodes":[],"discoverMode":2})",
-                   "BRMS.BatchDiscoverDevices", "{}"},
-        Remembered{"AlarmOutput", "/brms/api/v1.1/device/channel/alarm-output/control",
-                   R"({"channelIds":["1000001$3$0$0"],"action":0,"command":1})", "BRMS.AlarmOutputControl", "{}"},
-        Remembered{"AudioLight", "/brms/api/v1.1/device/channel/audio-light/regulate",
-                   R"({"channelIds":[],"command":0})", "BRMS.AudioLightControl", "{}"},
-        Remembered{"Speaker", "/brms/api/v1.1/device/channel/audio/ip-speaker/control",
-                   R"({"channels":[{"channelId":"1000005$10$0$0","fileIds":"1","playCount":"2"}],"command":7})",
-                   "BRMS.IPSpeakerControl", "{}"},
-        Remembered{"DeriveToken", "/brms/api/v1.1/account/token/derive", "", "BRMS.GetDeriveToken", "{}"},
-        Remembered{"Wash", "/admin/API/DMS/Ptz/AuxControl", R"({"data":{"channelId":"1000001$1$0$0","command":1}})",
-                   "DMS.WashOpen", "{}"},
-        Remembered{"WashNone", "/admin/API/DMS/Ptz/AuxBatchControl", R"({"data":{"ptzAuxControlXos":[]}})",
-                   "DMS.BatchWashOpen", "{}"},
-        Remembered{"SetHome", "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/configure", "",
-                   "DMS.SetHomePosition", R"({"channelId":"1000001$1$0$0"})"},
-        Remembered{"GotoHome", "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/goto", "",
-                   "DMS.GotoHomePosition", R"({"channelId":"1000001$1$0$0"})"},
-        Remembered{"ResetAntiPass", "/obms/api/v1.1/acs/person/5003/anti-pass-time/reset", "",
-                   "OBMS.PersonResetAntiPass", R"({"personId":"5003"})"},
-        Remembered{"Snapshot", "/obms/api/v1.1/alarm-host/zone/72/snapshot", R"({"action":-1})",
-                   "OBMS.AlarmHostZoneSnapShot", R"({"zoneId":"72"})"}),
+        RecordedWrite{"SyncTime", "/brms/api/v1.1/config/time-sync/immediate", "", "BRMS.ImmediatelySyncTime", "{}"},
+        RecordedWrite{"Discover", "/brms/api/v1.1/device/discover/async/batch",
+                      R"({"deviceCodes":[],"discoverMode":2})", "BRMS.BatchDiscoverDevices", "{}"},
+        RecordedWrite{"AlarmOutput", "/brms/api/v1.1/device/channel/alarm-output/control",
+                      R"({"channelIds":["1000001$3$0$0"],"action":0,"command":1})", "BRMS.AlarmOutputControl", "{}"},
+        RecordedWrite{"AudioLight", "/brms/api/v1.1/device/channel/audio-light/regulate",
+                      R"({"channelIds":[],"command":0})", "BRMS.AudioLightControl", "{}"},
+        RecordedWrite{"Speaker", "/brms/api/v1.1/device/channel/audio/ip-speaker/control",
+                      R"({"channels":[{"channelId":"1000005$10$0$0","fileIds":"1","playCount":"2"}],"command":7})",
+                      "BRMS.IPSpeakerControl", "{}"},
+        RecordedWrite{"DeriveToken", "/brms/api/v1.1/account/token/derive", "", "BRMS.GetDeriveToken", "{}"},
+        RecordedWrite{"Wash", "/admin/API/DMS/Ptz/AuxControl", R"({"data":{"channelId":"1000001$1$0$0","command":1}})",
+                      "DMS.WashOpen", "{}"},
+        RecordedWrite{"WashNone", "/admin/API/DMS/Ptz/AuxBatchControl", R"({"data":{"ptzAuxControlXos":[]}})",
+                      "DMS.BatchWashOpen", "{}"},
+        RecordedWrite{"SetHome", "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/configure", "",
+                      "DMS.SetHomePosition", R"({"channelId":"1000001$1$0$0"})"},
+        RecordedWrite{"GotoHome", "/brms/api/v1.1/ptz/channel/1000001$1$0$0/home-position/goto", "",
+                      "DMS.GotoHomePosition", R"({"channelId":"1000001$1$0$0"})"},
+        RecordedWrite{"ResetAntiPass", "/obms/api/v1.1/acs/person/5003/anti-pass-time/reset", "",
+                      "OBMS.PersonResetAntiPass", R"({"personId":"5003"})"},
+        RecordedWrite{"Snapshot", "/obms/api/v1.1/alarm-host/zone/72/snapshot", R"({"action":-1})",
+                      "OBMS.AlarmHostZoneSnapShot", R"({"zoneId":"72"})"}),
     RowName());
 
 struct Read {
@@ -305,16 +305,16 @@ struct Read {
     const char* method;
     const char* target;
     const char* body;
-    const char* place;     ///< in "data"
-    const char* expected;  ///< there
+    const char* pointer;   ///< in "data"
+    const char* expected;  ///< at the pointer
 };
 class ReadTest : public EmulatorTableTest, public testing::WithParamInterface<Read> {};
 
-TEST_P(ReadTest, AnswersFromTheSeeds)
+TEST_P(ReadTest, RepliesFromTheSeeds)
 {
-    const Answer answer = ClientOf(m_platform)->request(GetParam().method, GetParam().target, GetParam().body);
-    EXPECT_EQ(answer.code(), 1000) << answer.body;
-    EXPECT_EQ(answer.data().at(Json::json_pointer(GetParam().place)), Json::parse(GetParam().expected)) << answer.body;
+    const Reply reply = ClientOf(m_platform)->request(GetParam().method, GetParam().target, GetParam().body);
+    EXPECT_EQ(reply.code(), 1000) << reply.body;
+    EXPECT_EQ(reply.data().at(Json::json_pointer(GetParam().pointer)), Json::parse(GetParam().expected)) << reply.body;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -336,7 +336,7 @@ INSTANTIATE_TEST_SUITE_P(
             R"([{"id":"10","planName":"Intrusion yard"},{"id":"11","planName":"Camera covered"},{"id":"17","planName":"Parking barrier blocked"}])"},
         Read{"PlansPageZeroIsTheFirst", "GET", "/brms/api/v1.1/alarm/plan/summary/page?page=0&pageSize=1&keyword=", "",
              "/pageData", R"([{"id":"3","planName":"Door forced, main building"}])"},
-        Read{"PlansPageBehindTheLast", "GET", "/brms/api/v1.1/alarm/plan/summary/page?page=99&pageSize=20&keyword=", "",
+        Read{"PlansPageAfterTheLast", "GET", "/brms/api/v1.1/alarm/plan/summary/page?page=99&pageSize=20&keyword=", "",
              "/pageData", "[]"},
         Read{"PlansHugePage", "GET",
              "/brms/api/v1.1/alarm/plan/summary/page?page=999999999&pageSize=999999999&keyword=", "", "/pageData",

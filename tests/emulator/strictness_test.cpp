@@ -3,13 +3,13 @@
 namespace {
 
 constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
-constexpr const char* kRightTimeSync =
+constexpr const char* kValidTimeSync =
     R"({"enable":"1","startTime":"03:00","interval":"30","deviceOnlineTimeSync":"0","enableNtp":"1","ntpIp":"10.0.0.1","ntpPort":"-1","ntpSyncInterval":"5"})";
 
-/// The right body with one text replaced.
+/// The valid body with one piece of text replaced.
 std::string TimeSyncWith(const std::string& text, const std::string& replacement)
 {
-    std::string body = kRightTimeSync;
+    std::string body = kValidTimeSync;
     return body.replace(body.find(text), text.size(), replacement);
 }
 
@@ -26,14 +26,14 @@ class RefusedCallTest : public EmulatorTableTest, public testing::WithParamInter
 
 }  // namespace
 
-TEST_P(RefusedCallTest, IsAnEnvelopeAndChangesNothing)
+TEST_P(RefusedCallTest, ReturnsEnvelopeAndChangesNothing)
 {
     const Json before = m_platform.state();
-    const Answer answer = ClientOf(m_platform)->request(GetParam().method, GetParam().target, GetParam().body);
-    EXPECT_EQ(answer.status, 200);
-    EXPECT_EQ(answer.code(), GetParam().code) << answer.body;
-    EXPECT_NE(answer.desc().find(GetParam().desc), std::string::npos) << answer.body;
-    EXPECT_EQ(answer.json().size(), 2U) << "an envelope of code and desc: " << answer.body;
+    const Reply reply = ClientOf(m_platform)->request(GetParam().method, GetParam().target, GetParam().body);
+    EXPECT_EQ(reply.status, 200);
+    EXPECT_EQ(reply.code(), GetParam().code) << reply.body;
+    EXPECT_NE(reply.desc().find(GetParam().desc), std::string::npos) << reply.body;
+    EXPECT_EQ(reply.json().size(), 2U) << "an envelope of code and desc: " << reply.body;
     EXPECT_EQ(m_platform.state(), before);
 }
 
@@ -47,15 +47,15 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"RootPath", "GET", "/", "", 1001, "no service"},
         Refused{"WrongMethod", "DELETE", kTimeSync, "", 1002, "DELETE is not allowed"},
         Refused{"MethodOfNoCall", "PATCH", kTimeSync, "{}", 1002, "PATCH is not allowed"},
-        Refused{"PostInsteadOfPut", "POST", kTimeSync, kRightTimeSync, 1002, "POST is not allowed"},
+        Refused{"PostInsteadOfPut", "POST", kTimeSync, kValidTimeSync, 1002, "POST is not allowed"},
 
         Refused{"QueryMissing", "GET", "/brms/api/v1.1/config/local/setting", "", 1003, "query 'settingType': missing"},
         Refused{"QueryTwice", "GET", "/brms/api/v1.1/config/local/setting?settingType=1&settingType=1", "", 1003,
                 "query 'settingType': there twice"},
-        Refused{"QueryTooMany", "GET", "/brms/api/v1.1/config/local/setting?settingType=1&x=2", "", 1003,
+        Refused{"QueryUnknown", "GET", "/brms/api/v1.1/config/local/setting?settingType=1&x=2", "", 1003,
                 "query 'x': not expected"},
-        Refused{"QueryWhereNoneIs", "GET", std::string(kTimeSync) + "?a=1", "", 1003, "query 'a': not expected"},
-        Refused{"QueryNoNumber", "GET", "/brms/api/v1.1/config/local/setting?settingType=one", "", 1003,
+        Refused{"QueryWhereNoneIsAllowed", "GET", std::string(kTimeSync) + "?a=1", "", 1003, "query 'a': not expected"},
+        Refused{"QueryNotNumber", "GET", "/brms/api/v1.1/config/local/setting?settingType=one", "", 1003,
                 "query 'settingType': expected integer, got string in 'one'"},
         Refused{"QueryEmptyNumber", "GET", "/brms/api/v1.1/config/local/setting?settingType=", "", 1003,
                 "query 'settingType': expected integer"},
@@ -80,14 +80,14 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"BodyCut", "PUT", kTimeSync, R"({"enable":)", 1004, "body: not JSON"},
         Refused{"BodyMissing", "PUT", kTimeSync, "", 1004, "body: missing"},
         Refused{"BodyNotUtf8", "PUT", kTimeSync, TimeSyncWith("03:00", "\xff"), 1004, "body: not JSON"},
-        Refused{"BodyWhereNoneIs", "POST", "/brms/api/v1.1/config/time-sync/immediate", "{}", 1003,
+        Refused{"BodyWhereNoneIsAllowed", "POST", "/brms/api/v1.1/config/time-sync/immediate", "{}", 1003,
                 "body: not expected"},
         Refused{"BodyAtDelete", "DELETE", "/brms/api/v1.1/user/group?ids=12", "{}", 1003, "body: not expected"},
-        Refused{"BodyNoObject", "PUT", kTimeSync, "[]", 1003, ": expected object, got array"},
+        Refused{"BodyNotObject", "PUT", kTimeSync, "[]", 1003, ": expected object, got array"},
         Refused{"BodyNull", "PUT", kTimeSync, "null", 1003, ": expected object, got null"},
         Refused{"KeyMissing", "PUT", kTimeSync, TimeSyncWith(R"("interval":"30",)", ""), 1003, "/interval: missing"},
-        Refused{"KeyTooMany", "PUT", kTimeSync, TimeSyncWith("{", R"({"extra":1,)"), 1003, "/extra: not expected"},
-        Refused{"KeyWithSlashTooMany", "PUT", kTimeSync, TimeSyncWith("{", R"({"a/b~c":1,)"), 1003,
+        Refused{"KeyUnknown", "PUT", kTimeSync, TimeSyncWith("{", R"({"extra":1,)"), 1003, "/extra: not expected"},
+        Refused{"KeyWithSlashUnknown", "PUT", kTimeSync, TimeSyncWith("{", R"({"a/b~c":1,)"), 1003,
                 "/a~1b~0c: not expected"},
         Refused{"NumberInsteadOfText", "PUT", kTimeSync, TimeSyncWith(R"("30")", "30"), 1003,
                 "/interval: expected string, got number"},
@@ -112,12 +112,12 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"NestedKeyMissing", "PUT", "/brms/api/v1.1/device/channel/1000001$1$0$0/config/multicast",
                 R"({"status":"1","streams":[{"multicastIp":"a","multicastPort":"1","streamType":"1"}]})", 1003,
                 "/streams/0/status: missing"},
-        Refused{"NestedKeyTooMany", "POST", "/admin/API/DMS/Ptz/AuxControl",
+        Refused{"NestedKeyUnknown", "POST", "/admin/API/DMS/Ptz/AuxControl",
                 R"({"data":{"channelId":"1000001$1$0$0","command":1,"speed":2}})", 1003, "/data/speed: not expected"},
         Refused{"ElementTypeWrong", "POST", "/iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch",
                 R"({"ids":["701",702]})", 1003, "/ids/1: expected string, got number"},
         Refused{
-            "PageTextNoCount", "POST", "/obms/api/v1.1/acs/person/access/authorize/fetch/page",
+            "PageTextNotCount", "POST", "/obms/api/v1.1/acs/person/access/authorize/fetch/page",
             R"({"page":"-1","pageSize":"20","containChild":"0","keyword":"","deviceCode":"","orgCode":"","pointIds":[]})",
             1003, "page"},
 
@@ -181,40 +181,40 @@ TEST_F(StrictnessTest, MissingAndWrongTokensAreUnauthorised)
 {
     const Json before = m_platform.state();
     for (const char* token : {"", "wrong", "emulator-token ", "EMULATOR-TOKEN"}) {
-        const Answer answer =
-            ClientOf(m_platform, TestClient::Scheme::Http, token)->request("PUT", kTimeSync, kRightTimeSync);
-        // Blanks around a header's value are no part of it.
+        const Reply reply =
+            ClientOf(m_platform, TestClient::Scheme::Http, token)->request("PUT", kTimeSync, kValidTimeSync);
+        // Spaces around a header's value are not part of it.
         const bool isRight = std::string(token) == "emulator-token ";
-        EXPECT_EQ(answer.status, isRight ? 200 : 401) << token;
-        EXPECT_EQ(answer.code(), isRight ? 1000 : 401) << token;
+        EXPECT_EQ(reply.status, isRight ? 200 : 401) << token;
+        EXPECT_EQ(reply.code(), isRight ? 1000 : 401) << token;
         EXPECT_EQ(m_platform.state() == before, !isRight) << token;
         m_platform.reset();
     }
 }
 
-TEST_F(StrictnessTest, TokenIsAskedBeforeThePath)
+TEST_F(StrictnessTest, TokenIsCheckedBeforePath)
 {
     EXPECT_EQ(ClientOf(m_platform, TestClient::Scheme::Http, "")->get("/nowhere").status, 401);
 }
 
-TEST_F(StrictnessTest, AnswerThatBreaksTheContractIsOwnedUpTo)
+TEST_F(StrictnessTest, ReplyThatBreaksTheContractIsReported)
 {
     Json state = m_platform.state();
     state["brms"]["timeSync"].erase("ntpIp");
     state["brms"]["deviceLoginModel"]["deviceLoginModel"] = "1";
     m_platform.setState(state);
     const auto client = ClientOf(m_platform);
-    const Answer missing = client->get(kTimeSync);
+    const Reply missing = client->get(kTimeSync);
     EXPECT_EQ(missing.status, 200);
     EXPECT_EQ(missing.code(), 1006);
     EXPECT_NE(missing.desc().find("BRMS.GetTimeSyncConfig: /data/ntpIp: missing"), std::string::npos) << missing.body;
-    const Answer wrongType = client->get("/brms/api/v1.1/config/device-login-model");
+    const Reply wrongType = client->get("/brms/api/v1.1/config/device-login-model");
     EXPECT_EQ(wrongType.code(), 1006);
     EXPECT_NE(wrongType.desc().find("/data/deviceLoginModel: expected integer, got string"), std::string::npos)
         << wrongType.body;
 }
 
-TEST_F(StrictnessTest, StateThatLacksAFamilyIsOwnedUpTo)
+TEST_F(StrictnessTest, MissingFamilyInTheStateIsReported)
 {
     m_platform.setState(Json::object());
     EXPECT_EQ(ClientOf(m_platform)->get(kTimeSync).code(), 1006);
@@ -249,13 +249,13 @@ TEST_F(StrictnessTest, GetWithBodyIsRefusedAndTheNextRequestIsRead)
     EXPECT_EQ(m_platform.requests().back().body, "");
 }
 
-TEST_F(StrictnessTest, WhatIsNoHttpIsAnsweredWith400)
+TEST_F(StrictnessTest, InputThatIsNotHttpGetsStatus400)
 {
     const std::string reply = SendRaw(m_platform.httpPort(), "HELLO\r\n\r\n", true);
     EXPECT_EQ(reply.substr(0, 12), "HTTP/1.1 400") << reply;
 }
 
-TEST_F(StrictnessTest, PlusInAQueryIsABlank)
+TEST_F(StrictnessTest, PlusInAQueryIsASpace)
 {
     const auto client = ClientOf(m_platform);
     EXPECT_EQ(client->get("/brms/api/v1.1/user/group/list?keyword=day+shift").data().at("results").size(), 1U);
