@@ -1,4 +1,4 @@
-// apicall as a process against the emulator.
+// Runs the program apicall against the emulator.
 #include "support/Program.h"
 #include "support/RawServer.h"
 #include "support/Rows.h"
@@ -28,9 +28,9 @@ using testing_support::RunProgram;
 
 namespace {
 
-constexpr const char* kToken = "token-that-nobody-prints";
+constexpr const char* kToken = "token-that-must-not-be-printed";
 
-/// Runs apicall as a shell without a display does.
+/// Runs apicall without a display.
 Ended Apicall(const QStringList& arguments, const QByteArray& input = {}, const QString& tokenInEnvironment = {})
 {
     testing_support::Variables variables{{QStringLiteral("APICALL_TOKEN"), tokenInEnvironment}};
@@ -65,7 +65,7 @@ struct UsageRow {
 
 class WrongUsage : public testing::TestWithParam<UsageRow> {};
 
-TEST_P(WrongUsage, EndsWith2AndSaysWhy)
+TEST_P(WrongUsage, IsReportedWithExitStatus2)
 {
     const Ended ended = Apicall(GetParam().arguments);
     EXPECT_EQ(ended.status, 2);
@@ -101,16 +101,16 @@ INSTANTIATE_TEST_SUITE_P(
                  "unknown call \"GetTimeSyncConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
         UsageRow{"MergeOfARead", Words({"--merge", "BRMS.GetTimeSyncConfig"}),
                  "--merge: BRMS.GetTimeSyncConfig has no matching read call"},
-        UsageRow{"MergeWithoutWhatTheReadNeeds", Words({"--merge", "BRMS.UpdateNetworkConfig"}),
+        UsageRow{"MergeWithoutArgumentOfTheRead", Words({"--merge", "BRMS.UpdateNetworkConfig"}),
                  "BRMS.GetNetworkConfig, which runs first, requires \"config/deviceCode\" of BRMS.UpdateNetworkConfig"},
         UsageRow{"NoServer", Words({"BRMS.GetTimeSyncConfig"}), "--server is missing"},
         UsageRow{"ServerIdOutOfRange", Words({"--server-id", "2", "BRMS.GetTimeSyncConfig"}), "--server-id"},
         UsageRow{"TimeoutOutOfRange", Words({"--timeout", "0", "BRMS.GetTimeSyncConfig"}), "--timeout"},
-        UsageRow{"TimeoutNoNumber", Words({"--timeout", "soon", "BRMS.GetTimeSyncConfig"}), "--timeout"}),
+        UsageRow{"TimeoutNotNumber", Words({"--timeout", "soon", "BRMS.GetTimeSyncConfig"}), "--timeout"}),
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(Servers, WrongUsage,
-                         testing::Values(Url("NoUrl", "http://[", "not a valid URL"),
+                         testing::Values(Url("NotUrl", "http://[", "not a valid URL"),
                                          Url("NoScheme", "127.0.0.1:8443", "not a valid URL"),
                                          Url("HostOnly", "localhost", "must begin with https:// or http://"),
                                          Url("OtherScheme", "ftp://127.0.0.1", "must begin with https:// or http://"),
@@ -134,13 +134,13 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Trusting("EmptyPin", "--pin", "", "--pin : a SHA-256 digest has 64 hexadecimal digits"),
         Trusting("ShortPin", "--pin", "00:11", "--pin 00:11: a SHA-256 digest has 64"),
-        Trusting("PinOfOtherDigits", "--pin", "g0112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
+        Trusting("PinWithInvalidDigit", "--pin", "g0112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
                  "a SHA-256 digest"),
-        Trusting("PinThatIsTooLong", "--pin", "0000112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
+        Trusting("LongPin", "--pin", "0000112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF",
                  "a SHA-256 digest"),
         Trusting("PinWithoutTls", "--pin", kDigest, "--pin and --ca require an https:// server", "http://127.0.0.1:1"),
         Trusting("NoSuchAuthorityFile", "--ca", "/no/such/file", "--ca /no/such/file: the file cannot be"),
-        Trusting("FolderOfAuthorities", "--ca", "/", "--ca /: the file cannot be read"),
+        Trusting("FolderAsAuthorityFile", "--ca", "/", "--ca /: the file cannot be read"),
         Trusting("EmptyAuthorityFile", "--ca", "/dev/null", "--ca /dev/null: the file contains no PEM certificate"),
         UsageRow{"PinWithoutValue", Words({"BRMS.GetTimeSyncConfig", "--pin"}), "--pin"}),
     RowName());
@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "BRMS.GetTimeSyncConfig has no argument \"a\"; it takes no arguments"},
         UsageRow{"Misspelt", Words({"BRMS.GetLocalSetting", "settingTyp=3"}),
                  "BRMS.GetLocalSetting has no argument \"settingTyp\"; did you mean \"settingType\"?"},
-        UsageRow{"UnknownPlace", Words({"BRMS.SetTimeSyncConfig", "config/ntp=1"}),
+        UsageRow{"UnknownPath", Words({"BRMS.SetTimeSyncConfig", "config/ntp=1"}),
                  "/config/ntp: no such field or element in TimeSyncConfig"},
         UsageRow{"RecordAndItsField", Words({"BRMS.SetTimeSyncConfig", "config=5", "config/interval=3"}),
                  "\"config/interval\" is given twice"},
@@ -171,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "\"settingType\" is given twice"},
         UsageRow{"WrongType", Words({"BRMS.GetLocalSetting", "settingType=\"3\""}),
                  "/settingType: expected int, got text"},
-        UsageRow{"NoJson", Words({"BRMS.GetLocalSetting", "settingType=three"}),
+        UsageRow{"NotJson", Words({"BRMS.GetLocalSetting", "settingType=three"}),
                  "argument \"settingType\" (int) is not valid JSON: syntax error at byte 2"},
         UsageRow{"Empty", Words({"BRMS.GetLocalSetting", "settingType="}),
                  "argument \"settingType\" (int) is not valid JSON"},
@@ -188,7 +188,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Help
 
-TEST(Help, TheVersionIsPrintedAlone)
+TEST(Help, PrintsNothingButTheVersion)
 {
     const Ended ended = Apicall(Words({"--version"}));
     EXPECT_EQ(ended.status, 0);
@@ -196,7 +196,7 @@ TEST(Help, TheVersionIsPrintedAlone)
     EXPECT_TRUE(std::regex_match(ended.out, std::regex("apicall [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << ended.out;
 }
 
-TEST(Help, TheListBeginsEachLineWithTheNameOfACall)
+TEST(Help, ListStartsEachLineWithTheNameOfACall)
 {
     const Ended ended = Apicall(Words({"--list"}));
     EXPECT_EQ(ended.status, 0);
@@ -216,7 +216,7 @@ TEST(Help, TheListBeginsEachLineWithTheNameOfACall)
     EXPECT_EQ(count, catalogue::Calls().size());
 }
 
-TEST(Help, ACallIsToldWithItsTypes)
+TEST(Help, DescribesACallWithItsTypes)
 {
     const std::string help = R"(BRMS.GetLocalSetting (System configuration)
 Reads one client setting
@@ -238,7 +238,7 @@ Result: LocalSettingQueryResult
     EXPECT_EQ(Apicall(Words({"BRMS.GetLocalSetting", "--help"})).out, help);
 }
 
-TEST(Help, AKeyOfSeveralMeaningsHasTheDescriptionOfItsObject)
+TEST(Help, DescribesTheSameKeyDifferentlyInEachObject)
 {
     const Ended ended = Apicall(Words({"--help", "IPMS.GetSimpleParkingLots"}));
     for (const char* line :
@@ -248,7 +248,7 @@ TEST(Help, AKeyOfSeveralMeaningsHasTheDescriptionOfItsObject)
     }
 }
 
-TEST(Help, TheFieldsOfAnArgumentAreDescribed)
+TEST(Help, DescribesTheFieldsOfAnArgument)
 {
     const Ended ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
     EXPECT_TRUE(Contains(ended.out,
@@ -259,7 +259,7 @@ TEST(Help, TheFieldsOfAnArgumentAreDescribed)
         << ended.out;
 }
 
-TEST(Help, ASwitchTakesBothOfItsValuesWhateverItTravelsAs)
+TEST(Help, ListsNoAllowedValuesForBooleans)
 {
     const Ended ended = Apicall(Words({"--help", "BRMS.UpdateAIPrivacyConfig"}));
     EXPECT_TRUE(Contains(ended.out, "\nPUT /brms/api/v1.1/config/ai/privacy\n")) << ended.out;
@@ -267,7 +267,7 @@ TEST(Help, ASwitchTakesBothOfItsValuesWhateverItTravelsAs)
     EXPECT_FALSE(Contains(ended.out, "[")) << ended.out;
 }
 
-TEST(Help, ACallWithoutArgumentsOrResultSaysSo)
+TEST(Help, ReportsThatACallHasNoArgumentsAndNoResult)
 {
     const Ended ended = Apicall(Words({"--help", "BRMS.ImmediatelySyncTime"}));
     EXPECT_EQ(ended.status, 0);
@@ -275,7 +275,7 @@ TEST(Help, ACallWithoutArgumentsOrResultSaysSo)
     EXPECT_TRUE(Contains(ended.out, "Result: none\n")) << ended.out;
 }
 
-TEST(Help, ThereIsHelpForEveryCall)
+TEST(Help, DescribesEveryCall)
 {
     for (const auto& call : catalogue::Calls()) {
         const Ended ended = Apicall({QStringLiteral("--help"), QString::fromStdString(call.name)});
@@ -284,7 +284,7 @@ TEST(Help, ThereIsHelpForEveryCall)
     }
 }
 
-TEST(Help, NamesAreThoseOfTheCallsOrOfTheArgumentsOfACall)
+TEST(Help, NamesListsCallsOrTheArgumentsOfACall)
 {
     const std::string calls = Apicall(Words({"--names"})).out;
     EXPECT_EQ(calls.rfind(catalogue::Calls().front().name + "\n", 0), 0U) << calls;
@@ -295,7 +295,7 @@ TEST(Help, NamesAreThoseOfTheCallsOrOfTheArgumentsOfACall)
 
 struct CompletionRow {
     const char* name;
-    const char* words;  ///< behind the program's name, the last one to be completed
+    const char* words;  ///< after the program's name; the last word is completed
     const char* completions;
 };
 
@@ -303,16 +303,16 @@ class Completion : public testing::TestWithParam<CompletionRow> {};
 
 INSTANTIATE_TEST_SUITE_P(Bash, Completion,
                          testing::Values(CompletionRow{"Call", "BRMS.GetTimeS", "BRMS.GetTimeSyncConfig"},
-                                         CompletionRow{"CallBehindAnOption", "--timeout 1.5 --quiet IAMS.",
+                                         CompletionRow{"CallAfterAnOption", "--timeout 1.5 --quiet IAMS.",
                                                        "IAMS.SetAnalysisTaskUploadFailed"},
                                          CompletionRow{"Argument", "BRMS.UpdateEncodeConfig con", "configs="},
                                          CompletionRow{"SecondArgument", "BRMS.UpdateEncodeConfig configs=[] chan",
                                                        "channelId="},
                                          CompletionRow{"Option", "--mer", "--merge"},
-                                         CompletionRow{"NothingOfAnUnknownCall", "BRMS.GetNothing a", ""}),
+                                         CompletionRow{"NothingForAnUnknownCall", "BRMS.GetNothing a", ""}),
                          RowName());
 
-TEST_P(Completion, OfBash)
+TEST_P(Completion, CompletesInBash)
 {
     const QString script =
         QStringLiteral("source '" COMPLETIONS_FOLDER "/apicall.bash'; words='%1'; COMP_WORDS=('" APICALL_FILE
@@ -323,7 +323,7 @@ TEST_P(Completion, OfBash)
     EXPECT_EQ(ended.out, GetParam().completions) << ended.err;
 }
 
-TEST(Help, TheProgramTellsItsUse)
+TEST(Help, PrintsItsOptionsButNotTheToken)
 {
     const Ended ended = Apicall(Words({"--help"}), {}, QString::fromLatin1(kToken));
     EXPECT_EQ(ended.status, 0);
@@ -351,7 +351,7 @@ protected:
         return ended;
     }
 
-    /// The result of a call that succeeds.
+    /// Runs a call, expects it to succeed and returns its result.
     json ResultOf(const QStringList& arguments, const QByteArray& input = {})
     {
         const Ended ended = Run(arguments, input);
@@ -378,7 +378,7 @@ protected:
 
     emulator::PlatformEmulator& Platform() { return m_platform; }
 
-    void Spoil(json fault)
+    void AddFault(json fault)
     {
         fault["path"] = "/brms";
         m_platform.addFault(emulator::Fault::FromJson(fault));
@@ -403,14 +403,14 @@ QStringList GetTimeSync()
     return Words({"BRMS.GetTimeSyncConfig"});
 }
 
-TEST_P(Calls, ARecordIsPrintedAsIndentedJson)
+TEST_P(Calls, PrintsARecordAsIndentedJson)
 {
     const Ended ended = Run(GetTimeSync());
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, Platform().state().at("brms").at("timeSync").dump(4) + "\n");
 }
 
-TEST_P(Calls, WhatIsWrittenIsReadBack)
+TEST_P(Calls, ReadsBackWhatItWrote)
 {
     const json config = {{"enable", false},
                          {"startTime", "03:15:00 \xc3\xbc"},
@@ -426,14 +426,14 @@ TEST_P(Calls, WhatIsWrittenIsReadBack)
     EXPECT_EQ(ResultOf(GetTimeSync()), config);
 }
 
-TEST_P(Calls, ValuesAndListsAreResultsToo)
+TEST_P(Calls, PrintsSimpleValuesAndLists)
 {
     EXPECT_EQ(ResultOf(Words({"BRMS.GetDeviceLoginModel"})), json(1));
     EXPECT_EQ(ResultOf(Words({"BRMS.GetPushAppMsgConfig"})), json(false));
     EXPECT_EQ(ResultOf(Words({"BRMS.GetSupportDataBaseType"})), (json{1, 3, 4}));
 }
 
-TEST_P(Calls, ACallWithoutAResultPrintsNull)
+TEST_P(Calls, PrintsNullForACallWithoutResult)
 {
     const Ended ended = Run(Words({"BRMS.ImmediatelySyncTime"}));
     EXPECT_EQ(ended.status, 0) << ended.err;
@@ -442,7 +442,7 @@ TEST_P(Calls, ACallWithoutAResultPrintsNull)
     EXPECT_EQ(Platform().requests().back().method, "POST");
 }
 
-TEST_P(Calls, ArgumentsComeAsTheUserLikes)
+TEST_P(Calls, AcceptsArgumentsInEveryForm)
 {
     const json setting = ResultOf(Words({"BRMS.GetLocalSetting", "settingType=1"}));
     EXPECT_EQ(setting.at("settingType"), 1);
@@ -456,21 +456,21 @@ TEST_P(Calls, ArgumentsComeAsTheUserLikes)
     EXPECT_EQ(ResultOf({QStringLiteral("BRMS.GetLocalSetting"), QStringLiteral("@") + file.fileName()}), setting);
 }
 
-TEST_P(Calls, ATextIsTakenAsItStands)
+TEST_P(Calls, PassesATextUnchanged)
 {
     ResultOf(Words({"BRMS.UpdateLocalSetting", "apply=true", "content={\"a\": [\"=\", 1]} \xc3\xa4"}));
     EXPECT_EQ(json::parse(Platform().requests().back().body),
               (json{{"apply", "1"}, {"settingContent", "{\"a\": [\"=\", 1]} \xc3\xa4"}}));
 }
 
-TEST_P(Calls, EveryServerIdIsTheSameServer)
+TEST_P(Calls, EveryServerIdLeadsToTheSameServer)
 {
     for (const char* serverId : {"-1", "0", "1"}) {
         EXPECT_TRUE(ResultOf(Words({"--server-id", serverId, "BRMS.GetTimeSyncConfig"})).is_object()) << serverId;
     }
 }
 
-TEST_P(Calls, TokenAndLanguageTravelInTheirHeaders)
+TEST_P(Calls, SendsTokenAndLanguageInTheirHeaders)
 {
     ResultOf(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}));
     ASSERT_EQ(Platform().requests().size(), 1U);
@@ -478,14 +478,14 @@ TEST_P(Calls, TokenAndLanguageTravelInTheirHeaders)
     EXPECT_EQ(Platform().requests().back().header("Accept-Language"), "de");
 }
 
-TEST_P(Calls, TheTokenMayComeFromTheEnvironment)
+TEST_P(Calls, ReadsTheTokenFromTheEnvironment)
 {
     const Ended ended = Apicall(Server() + GetTimeSync(), {}, QString::fromLatin1(kToken));
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_FALSE(Contains(ended.err, kToken));
 }
 
-TEST_P(Calls, AWrongTokenFails)
+TEST_P(Calls, FailsWithAWrongToken)
 {
     const Ended ended = Apicall(Server() + Words({"--token", "wrong"}) + GetTimeSync());
     EXPECT_EQ(ended.status, 1);
@@ -494,7 +494,7 @@ TEST_P(Calls, AWrongTokenFails)
         << ended.err;
 }
 
-TEST_P(Calls, HttpsToAPortOfPlainHttpIsNamed)
+TEST_P(Calls, ReportsHttpsToAPortOfPlainHttp)
 {
     const int port = GetParam().https ? Platform().httpsPort() : Platform().httpPort();
     const QString server = QStringLiteral("https://127.0.0.1:%1").arg(port);
@@ -506,50 +506,50 @@ TEST_P(Calls, HttpsToAPortOfPlainHttpIsNamed)
     EXPECT_EQ(Contains(ended.err, lines), !GetParam().https) << ended.err;
 }
 
-TEST_P(Calls, AnEnvelopeCodeFailsWithItsText)
+TEST_P(Calls, FailsWithTheTextOfAnEnvelopeCode)
 {
-    Spoil({{"kind", "envelope"}, {"code", 1003}});
+    AddFault({{"kind", "envelope"}, {"code", 1003}});
     ExpectFailure(GetTimeSync(), 1003, ErrorText(1003));
 }
 
-TEST_P(Calls, TheServersOwnTextIsQuotedWithoutToken)
+TEST_P(Calls, QuotesTheServersTextWithoutTheToken)
 {
-    Spoil({{"kind", "envelope"}, {"code", 1003}, {"desc", std::string("Not \x1b[31mnow, ") + kToken}});
+    AddFault({{"kind", "envelope"}, {"code", 1003}, {"desc", std::string("Not \x1b[31mnow, ") + kToken}});
     ExpectFailure(GetTimeSync(), 1003, ErrorText(1003) + R"(
 apicall: the server reports "Not \u001b[31mnow, ******")");
 }
 
-TEST_P(Calls, AnUnknownEnvelopeCodeFailsToo)
+TEST_P(Calls, FailsWithAnUnknownEnvelopeCode)
 {
-    Spoil({{"kind", "envelope"}, {"code", 987654}});
+    AddFault({{"kind", "envelope"}, {"code", 987654}});
     ExpectFailure(GetTimeSync(), 987654, "Operation failed (987654)");
 }
 
-TEST_P(Calls, AnEnvelopeWithCode0IsNoSuccess)
+TEST_P(Calls, FailsWithEnvelopeCode0)
 {
-    Spoil({{"kind", "envelope"}, {"code", 0}});
+    AddFault({{"kind", "envelope"}, {"code", 0}});
     ExpectFailure(GetTimeSync(), 0, "Operation failed (0)");
 }
 
-TEST_P(Calls, AStatusFailsWithItsText)
+TEST_P(Calls, FailsWithTheTextOfAnHttpStatus)
 {
-    Spoil({{"kind", "status"}, {"status", 503}});
+    AddFault({{"kind", "status"}, {"status", 503}});
     ExpectFailure(GetTimeSync(), 503, ErrorText(503));
 }
 
-TEST_P(Calls, DataThatCannotBeReadFails)
+TEST_P(Calls, FailsWhenDataCannotBeRead)
 {
-    Spoil({{"kind", "text"}, {"body", R"({"code": 1000, "desc": "", "data": {"enable": true}})"}});
+    AddFault({{"kind", "text"}, {"body", R"({"code": 1000, "desc": "", "data": {"enable": true}})"}});
     ExpectFailure(GetTimeSync(), 3101, ErrorText(3101) + "\napicall: the reply has no valid value for \"startTime\"");
 }
 
-TEST_P(Calls, QuietWritesLogLinesOnlyOfACallThatFails)
+TEST_P(Calls, QuietWritesLogLinesOnlyWhenACallFails)
 {
     const Ended succeeded = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(succeeded.status, 0);
     EXPECT_EQ(succeeded.err, "");
     EXPECT_NE(succeeded.out, "");
-    Spoil({{"kind", "status"}, {"status", 503}});
+    AddFault({{"kind", "status"}, {"status", 503}});
     const Ended failed = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(failed.status, 1);
     EXPECT_TRUE(Contains(failed.err, "Request failed, http status Code: 503")) << failed.err;
@@ -568,9 +568,9 @@ TEST_P(Calls, VerboseWritesTheExchange)
     }
 }
 
-TEST_P(Calls, VerboseWritesWhyNoAnswerCame)
+TEST_P(Calls, VerboseWritesWhyNoReplyArrived)
 {
-    Spoil({{"kind", "closeBefore"}, {"times", 0}});
+    AddFault({{"kind", "closeBefore"}, {"times", 0}});
     const Ended ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(std::regex_search(ended.err, std::regex("\n\\* [A-Z]"))) << ended.err;
@@ -588,7 +588,7 @@ TEST_P(Calls, DryRunPrintsTheRequestAndSendsNothing)
     EXPECT_TRUE(Platform().requests().empty());
 }
 
-TEST_P(Calls, PathsNameFieldsOfARecord)
+TEST_P(Calls, SetsFieldsOfARecordByPath)
 {
     EXPECT_EQ(ResultOf(Words({"BRMS.SetTimeSyncConfig", "config/interval=30", "config/ntpIp=a=b"})), json());
     const json config = ResultOf(GetTimeSync());
@@ -597,7 +597,7 @@ TEST_P(Calls, PathsNameFieldsOfARecord)
     EXPECT_EQ(config.at("startTime"), "");
 }
 
-TEST_P(Calls, MergeChangesWhatIsNamedAndLeavesTheRest)
+TEST_P(Calls, MergeKeepsFieldsThatAreNotNamed)
 {
     json expected = ResultOf(GetTimeSync());
     ASSERT_NE(expected.at("interval"), 30);
@@ -623,28 +623,28 @@ TEST_P(Calls, MergeChangesOneElementOfAList)
 
 TEST_P(Calls, MergeWritesNothingWhenTheReadFails)
 {
-    Spoil({{"kind", "status"}, {"status", 404}});
+    AddFault({{"kind", "status"}, {"status", 404}});
     const Ended ended = Run(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"}));
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 404")) << ended.err;
     EXPECT_EQ(Platform().requests().size(), 1U);
 }
 
-TEST_P(Calls, AnAnswerThatDoesNotComeFailsInTime)
+TEST_P(Calls, TimesOutWithoutReply)
 {
-    Spoil({{"kind", "silent"}});
+    AddFault({{"kind", "silent"}});
     ExpectFailure(Words({"--timeout", "1", "BRMS.GetTimeSyncConfig"}), -101, ErrorText(-101));
 }
 
-TEST_P(Calls, TheTextIsInTheLanguageAskedFor)
+TEST_P(Calls, ReportsErrorsInTheChosenLanguage)
 {
-    Spoil({{"kind", "closeBefore"}, {"times", 0}});
+    AddFault({{"kind", "closeBefore"}, {"times", 0}});
     const std::string german = ErrorText(-18, "de");
     EXPECT_NE(german, ErrorText(-18));
     ExpectFailure(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}), -18, german);
 }
 
-TEST(Unreachable, ServersFailWithTheTextOfANetworkError)
+TEST(Unreachable, FailsWithTheTextOfANetworkError)
 {
     QTcpServer closed;
     ASSERT_TRUE(closed.listen(QHostAddress::LocalHost));
@@ -659,7 +659,7 @@ TEST(Unreachable, ServersFailWithTheTextOfANetworkError)
     }
 }
 
-// Which server is talked to
+// Which servers apicall trusts
 
 class Trust : public testing::Test {
 protected:
@@ -671,7 +671,7 @@ protected:
         m_server.AnswerAnything();
     }
 
-    [[nodiscard]] QSslCertificate ItsCertificate() const { return m_certificate.certificate; }
+    [[nodiscard]] QSslCertificate ServerCertificate() const { return m_certificate.certificate; }
 
     static QByteArray Digest(const QByteArray& bytes)
     {
@@ -685,7 +685,7 @@ protected:
             options + Words({"--token", kToken, "BRMS.GetDeviceLoginModel"}));
     }
 
-    void ExpectKnown(const QStringList& options)
+    void ExpectTrusted(const QStringList& options)
     {
         const Ended ended = Run(options);
         EXPECT_EQ(ended.status, 0) << ended.err;
@@ -693,7 +693,7 @@ protected:
         EXPECT_FALSE(m_server.TakeRequests().empty());
     }
 
-    void ExpectUnknown(const QStringList& options, const QString& reason)
+    void ExpectNotTrusted(const QStringList& options, const QString& reason)
     {
         const Ended ended = Run(options);
         EXPECT_EQ(ended.status, 1);
@@ -702,16 +702,16 @@ protected:
             QStringLiteral("the server is not known, host: 127.0.0.1, port: %1, reason: %2, SHA-256 of "
                            "its certificate: %3")
                 .arg(QString::number(m_server.Port()), reason,
-                     QString::fromLatin1(Digest(ItsCertificate().toDer()).toHex(':')));
+                     QString::fromLatin1(Digest(ServerCertificate().toDer()).toHex(':')));
         EXPECT_TRUE(Contains(ended.err, line.toStdString()))
             << "expected: " << line.toStdString() << " in: " << ended.err;
         EXPECT_TRUE(Contains(ended.err, "BRMS.GetDeviceLoginModel failed with -18: " + ErrorText(-18) + "\n"))
             << ended.err;
         EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
-        EXPECT_TRUE(m_server.TakeRequests().empty()) << "nothing is sent to a server that is not known";
+        EXPECT_TRUE(m_server.TakeRequests().empty()) << "nothing is sent to a server that is not trusted";
     }
 
-    /// A PEM file with these certificates.
+    /// Writes these certificates to a PEM file and returns its name.
     static QString FileWith(QTemporaryFile& file, const QList<QSslCertificate>& certificates)
     {
         EXPECT_TRUE(file.open());
@@ -734,60 +734,60 @@ QStringList Pin(const QByteArray& digest)
     return {QStringLiteral("--pin"), QString::fromLatin1(digest)};
 }
 
-TEST_F(Trust, ThePinOfTheCertificateOrOfItsKeyNamesTheServer)
+TEST_F(Trust, AcceptsThePinOfTheCertificateOrOfItsKey)
 {
-    const QByteArray certificate = Digest(ItsCertificate().toDer()).toHex();
-    const QByteArray key = Digest(ItsCertificate().publicKey().toDer()).toHex(':');
-    ExpectKnown(Pin(certificate));
-    ExpectKnown(Pin(certificate.toUpper()));
-    ExpectKnown(Pin(key));
-    ExpectKnown(Pin(key.toUpper()));
+    const QByteArray certificate = Digest(ServerCertificate().toDer()).toHex();
+    const QByteArray key = Digest(ServerCertificate().publicKey().toDer()).toHex(':');
+    ExpectTrusted(Pin(certificate));
+    ExpectTrusted(Pin(certificate.toUpper()));
+    ExpectTrusted(Pin(key));
+    ExpectTrusted(Pin(key.toUpper()));
 }
 
-TEST_F(Trust, OneOfSeveralPinsNamesTheServer)
+TEST_F(Trust, AcceptsOneOfSeveralPins)
 {
-    ExpectKnown(Pin(kDigest) + Pin(Digest(ItsCertificate().toDer()).toHex()));
+    ExpectTrusted(Pin(kDigest) + Pin(Digest(ServerCertificate().toDer()).toHex()));
 }
 
-TEST_F(Trust, AnotherPinRefusesTheServerAndPrintsItsDigest)
+TEST_F(Trust, RejectsAnotherPinAndPrintsTheDigest)
 {
-    ExpectUnknown(Pin(kDigest), QStringLiteral("another certificate is pinned"));
+    ExpectNotTrusted(Pin(kDigest), QStringLiteral("another certificate is pinned"));
 }
 
-TEST_F(Trust, AnAuthorityThatSignedMakesTheServerKnown)
+TEST_F(Trust, AcceptsTheAuthorityThatSigned)
 {
     QTemporaryFile one;
-    ExpectKnown({QStringLiteral("--ca"), FileWith(one, {ItsCertificate()})});
+    ExpectTrusted({QStringLiteral("--ca"), FileWith(one, {ServerCertificate()})});
     QTemporaryFile several;
-    ExpectKnown(
+    ExpectTrusted(
         {QStringLiteral("--ca"),
-         FileWith(several, {testing_support::MakeCertificate({"other.example"}).certificate, ItsCertificate()})});
+         FileWith(several, {testing_support::MakeCertificate({"other.example"}).certificate, ServerCertificate()})});
     QTemporaryFile other;
-    ExpectKnown({QStringLiteral("--ca"),
-                 FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate}),
-                 QStringLiteral("--ca"), one.fileName()});
+    ExpectTrusted({QStringLiteral("--ca"),
+                   FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate}),
+                   QStringLiteral("--ca"), one.fileName()});
 }
 
-TEST_F(Trust, AnAuthorityThatDidNotSignRefusesTheServer)
+TEST_F(Trust, RejectsAnAuthorityThatDidNotSign)
 {
     QTemporaryFile file;
-    ExpectUnknown(
+    ExpectNotTrusted(
         {QStringLiteral("--ca"), FileWith(file, {testing_support::MakeCertificate({"other.example"}).certificate})},
         QSslError(QSslError::SelfSignedCertificate).errorString());
 }
 
-TEST_F(Trust, AmongPinAndAuthorityThePinDecides)
+TEST_F(Trust, PinTakesPrecedenceOverAuthority)
 {
     QTemporaryFile own;
-    const QStringList signer{QStringLiteral("--ca"), FileWith(own, {ItsCertificate()})};
-    ExpectUnknown(signer + Pin(kDigest), QStringLiteral("another certificate is pinned"));
+    const QStringList signer{QStringLiteral("--ca"), FileWith(own, {ServerCertificate()})};
+    ExpectNotTrusted(signer + Pin(kDigest), QStringLiteral("another certificate is pinned"));
     QTemporaryFile other;
-    ExpectKnown(QStringList{QStringLiteral("--ca"),
-                            FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate})} +
-                Pin(Digest(ItsCertificate().toDer()).toHex()));
+    ExpectTrusted(QStringList{QStringLiteral("--ca"),
+                              FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate})} +
+                  Pin(Digest(ServerCertificate().toDer()).toHex()));
 }
 
-TEST(Ipv6, TheHostKeepsItsBrackets)
+TEST(Ipv6, AcceptsAnAddressInBrackets)
 {
     emulator::Options options;
     options.address = "::1";

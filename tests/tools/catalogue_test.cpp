@@ -1,4 +1,4 @@
-// Types, values and calls of the catalogue, with records and functions of the test's own beside the library's.
+// Types, values and calls of the catalogue, tested with this file's records and functions and with the library's.
 #include "support/Host.h"
 #include "support/Rows.h"
 
@@ -42,26 +42,26 @@ struct Bicycle {
 };
 BOOST_DESCRIBE_STRUCT(Bicycle, (), (electric, gears, serial, weight, colour, wheels, owners))
 
-/// A family whose Packs take their arguments in every way that occurs and keep what they got.
+/// A family whose Packs take arguments in every form that occurs, and record what they receive.
 class CTESTModule {
 public:
     static int PacketByReference(void* pReqParamData, bool& flag, Bicycle& bicycle, int number, int nServerId)
     {
-        got = {{"flag", flag}, {"colour", bicycle.colour}, {"number", number}, {"serverId", nServerId}};
+        received = {{"flag", flag}, {"colour", bicycle.colour}, {"number", number}, {"serverId", nServerId}};
         flag = !flag;
         return Send(pReqParamData, nServerId);
     }
 
     static int PackeByValue(void* pReqParamData, std::vector<std::string> names, int nServerId)
     {
-        got = {{"names", names}, {"serverId", nServerId}};
+        received = {{"names", names}, {"serverId", nServerId}};
         names.clear();
         return Send(pReqParamData, nServerId);
     }
 
     static int PackWithoutServer(void* pReqParamData, const std::vector<std::string>& names)
     {
-        got = {{"names", names}};
+        received = {{"names", names}};
         return Send(pReqParamData, 1);
     }
 
@@ -78,7 +78,7 @@ public:
         return 0;
     }
 
-    static inline json got;
+    static inline json received;
 
 private:
     static int Send(void* pReqParamData, int nServerId)
@@ -111,7 +111,7 @@ json Parsed(const char* text)
     return json::parse(text);
 }
 
-TEST(Types, AreNamedForTheUser)
+TEST(Types, HaveReadableNames)
 {
     EXPECT_EQ(NameOf(TypeOf<bool>()), "bool");
     EXPECT_EQ(NameOf(TypeOf<int>()), "int");
@@ -123,7 +123,7 @@ TEST(Types, AreNamedForTheUser)
     EXPECT_EQ(NameOf(TypeOf<std::vector<std::vector<int>>>()), "list of list of int");
 }
 
-TEST(Types, ThereIsOneObjectForEach)
+TEST(Types, HaveOneObjectEach)
 {
     const auto& type = TypeOf<Bicycle>();
     EXPECT_EQ(type.FindField("wheels")->type->element, &TypeOf<APIModule::Wheel>());
@@ -131,7 +131,7 @@ TEST(Types, ThereIsOneObjectForEach)
     EXPECT_EQ(type.FindField("bell"), nullptr);
 }
 
-TEST(Types, FieldsStandInTheirOrder)
+TEST(Types, ListFieldsInDeclarationOrder)
 {
     std::vector<std::string_view> names;
     for (const auto& field : TypeOf<Bicycle>().fields) {
@@ -141,14 +141,14 @@ TEST(Types, FieldsStandInTheirOrder)
               (std::vector<std::string_view>{"electric", "gears", "serial", "weight", "colour", "wheels", "owners"}));
 }
 
-TEST(Values, AFreshRecordHasItsDefaults)
+TEST(Values, NewRecordHasItsDefaults)
 {
     EXPECT_EQ(Value(TypeOf<Bicycle>()).ToJson(),
               Parsed(R"({"electric": true, "gears": 3, "serial": 0, "weight": 12.5, "colour": "", "wheels": [],
                          "owners": []})"));
 }
 
-TEST(Values, GoToTheTypedRecordAndBack)
+TEST(Values, ConvertToTheTypedRecordAndBack)
 {
     const json bicycle = Parsed(R"({"electric": false, "gears": -2147483648, "serial": 9223372036854775807,
                                     "weight": -0.25, "colour": "grün \u0000 \"x\"",
@@ -169,7 +169,7 @@ TEST(Values, GoToTheTypedRecordAndBack)
     EXPECT_EQ(value.ToJson(), bicycle);
 }
 
-TEST(Values, WhatARecordLeavesOutHasItsDefault)
+TEST(Values, OmittedFieldsGetTheirDefaults)
 {
     Value value(TypeOf<Bicycle>());
     value.Assign(Parsed(R"({"gears": 7, "wheels": [{}], "owners": ["Ada"]})"), "");
@@ -178,21 +178,21 @@ TEST(Values, WhatARecordLeavesOutHasItsDefault)
                          "wheels": [{"inches": 26, "spokes": [1]}], "owners": []})"));
 }
 
-TEST(Values, AWholeNumberIsADouble)
+TEST(Values, IntegerConvertsToDouble)
 {
     Value value(TypeOf<double>());
     value.Assign(3, "");
     EXPECT_EQ(*static_cast<double*>(value.Data()), 3.0);
 }
 
-TEST(Values, ATextThatIsNotUtf8CanBePrinted)
+TEST(Values, TextWithInvalidUtf8CanBePrinted)
 {
     Value value(TypeOf<std::string>());
     *static_cast<std::string*>(value.Data()) = "a\xff";
     EXPECT_EQ(value.ToJson().dump(-1, ' ', false, json::error_handler_t::replace), "\"a\xef\xbf\xbd\"");
 }
 
-TEST(Values, ARefusedValueChangesNothing)
+TEST(Values, RejectedValueChangesNothing)
 {
     Value value(TypeOf<Bicycle>());
     value.Assign(Parsed(R"({"gears": 7})"), "");
@@ -208,12 +208,12 @@ struct MismatchRow {
 
 class Mismatches : public testing::TestWithParam<MismatchRow> {};
 
-TEST_P(Mismatches, SayWhatIsWrongAndWhere)
+TEST_P(Mismatches, ReportProblemAndPath)
 {
     Value value(TypeOf<Bicycle>());
     try {
         value.Assign(Parsed(GetParam().json), "/bicycle");
-        FAIL() << "taken: " << GetParam().json;
+        FAIL() << "accepted: " << GetParam().json;
     } catch (const Mismatch& mismatch) {
         EXPECT_STREQ(mismatch.what(), GetParam().text);
     }
@@ -256,12 +256,12 @@ struct ArgumentRow {
 
 class Arguments : public testing::TestWithParam<ArgumentRow> {};
 
-TEST_P(Arguments, AreRefusedWithAReason)
+TEST_P(Arguments, AreRejectedWithAReason)
 {
     const auto call = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
     try {
         catalogue::ReadArguments(call, Parsed(GetParam().json));
-        FAIL() << "taken: " << GetParam().json;
+        FAIL() << "accepted: " << GetParam().json;
     } catch (const Mismatch& mismatch) {
         EXPECT_STREQ(mismatch.what(), GetParam().text);
     }
@@ -270,7 +270,7 @@ TEST_P(Arguments, AreRefusedWithAReason)
 INSTANTIATE_TEST_SUITE_P(
     Rows, Arguments,
     testing::Values(
-        ArgumentRow{"NoObject", "[true]",
+        ArgumentRow{"NotObject", "[true]",
                     "the arguments of TEST.TakeReferences must be a JSON object with the argument names as "
                     "keys"},
         ArgumentRow{"Unknown", R"({"flag": true, "colour": "red"})",
@@ -282,7 +282,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "/bicycle/gears: expected int, got text"}),
     RowName());
 
-TEST(Entries, AnUnknownArgumentOfACallWithoutAnyIsRefused)
+TEST(Entries, CallWithoutArgumentsRejectsAnArgument)
 {
     try {
         catalogue::ReadArguments(Entry<TEST::Fail>("Fails"), {{"flag", true}});
@@ -292,7 +292,7 @@ TEST(Entries, AnUnknownArgumentOfACallWithoutAnyIsRefused)
     }
 }
 
-TEST(Entries, NamesFollowFromTheConstant)
+TEST(Entries, DeriveNamesFromTheConstant)
 {
     const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
     EXPECT_EQ(call.name, "TEST.ReadBicycle");
@@ -302,7 +302,7 @@ TEST(Entries, NamesFollowFromTheConstant)
     EXPECT_EQ(Entry<TEST::Fail>("Fails").parseName, "");
 }
 
-TEST(Entries, TypesFollowFromTheSignatures)
+TEST(Entries, DeriveTypesFromTheSignatures)
 {
     const auto call = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
     ASSERT_EQ(call.arguments.size(), 3U);
@@ -315,13 +315,13 @@ TEST(Entries, TypesFollowFromTheSignatures)
     EXPECT_FALSE((Entry<TEST::TakeNoServer>("Takes no server", "names").takesServerId));
 }
 
-TEST(Calls, AnUnknownNameIsNotFound)
+TEST(Calls, UnknownNameIsNotFound)
 {
     EXPECT_EQ(catalogue::FindCall("BRMS.GetNothing"), nullptr);
     EXPECT_EQ(catalogue::FindCall("GetTimeSyncConfig"), nullptr);
 }
 
-TEST(Calls, FreshRecordsOfTheLibraryGoToJsonAndBack)
+TEST(Calls, NewRecordsOfTheLibraryConvertToJsonAndBack)
 {
     std::set<const catalogue::Type*> types;
     for (const auto& call : catalogue::Calls()) {
@@ -340,7 +340,7 @@ TEST(Calls, FreshRecordsOfTheLibraryGoToJsonAndBack)
     }
 }
 
-/// Runs calls against a server of the test.
+/// Runs calls against a server in this process.
 class Runs : public Host {
 protected:
     catalogue::Outcome Run(const catalogue::Call& call, const json& arguments, const RawAnswer& answer,
@@ -360,24 +360,24 @@ protected:
     const json m_noNames = {{"names", json::array()}};
 };
 
-TEST_F(Runs, ArgumentsReachThePack)
+TEST_F(Runs, PassArgumentsToThePack)
 {
     const auto byReference = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
     const json arguments = {{"flag", true}, {"bicycle", {{"colour", "red"}}}, {"number", 5}};
     catalogue::RunSettings settings;
     settings.serverId = 0;
     EXPECT_TRUE(Run(byReference, arguments, Envelope("{}"), settings));
-    EXPECT_EQ(TestModule::got, (json{{"flag", true}, {"colour", "red"}, {"number", 5}, {"serverId", 0}}));
+    EXPECT_EQ(TestModule::received, (json{{"flag", true}, {"colour", "red"}, {"number", 5}, {"serverId", 0}}));
 
     const json names = {{"names", {"a", "b"}}};
     EXPECT_TRUE(Run(Entry<TEST::TakeValues>("Takes values", "names"), names, Envelope("{}")));
-    EXPECT_EQ(TestModule::got, (json{{"names", {"a", "b"}}, {"serverId", -1}}));
+    EXPECT_EQ(TestModule::received, (json{{"names", {"a", "b"}}, {"serverId", -1}}));
 
     EXPECT_TRUE(Run(Entry<TEST::TakeNoServer>("Takes no server", "names"), names, Envelope("{}")));
-    EXPECT_EQ(TestModule::got, names);
+    EXPECT_EQ(TestModule::received, names);
 }
 
-TEST_F(Runs, ThePackCanBeCalledAlone)
+TEST_F(Runs, PackCanBeCalledWithoutRunning)
 {
     users.servers[7] = users.servers[1];
     const auto call = Entry<TEST::TakeValues>("Takes values", "names");
@@ -386,10 +386,10 @@ TEST_F(Runs, ThePackCanBeCalledAlone)
     APIModule::RequestParam request;
     EXPECT_EQ(call.pack(&request, data, 7), 0);
     EXPECT_EQ(request.strUrl, "/bicycle");
-    EXPECT_EQ(TestModule::got, (json{{"names", {"a"}}, {"serverId", 7}}));
+    EXPECT_EQ(TestModule::received, (json{{"names", {"a"}}, {"serverId", 7}}));
 }
 
-TEST_F(Runs, TheRecordComesBack)
+TEST_F(Runs, ReturnTheRecord)
 {
     const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
     const auto outcome = Run(call, m_noNames, Envelope(R"({"gears": 21, "colour": "blue", "bell": true})"));
@@ -400,7 +400,7 @@ TEST_F(Runs, TheRecordComesBack)
     EXPECT_TRUE(outcome.Data().value(QStringLiteral("bell")).toBool());
 }
 
-TEST_F(Runs, AFailedParseLeavesWhatItRead)
+TEST_F(Runs, FailedParseKeepsWhatItHasRead)
 {
     const auto call = Entry<TEST::ReadBicycle>("Reads a bicycle", "names");
     const auto outcome = Run(call, m_noNames, Envelope(R"({"gears": 21})"));
@@ -410,7 +410,7 @@ TEST_F(Runs, AFailedParseLeavesWhatItRead)
     EXPECT_EQ(outcome.record.at("gears"), 21);
 }
 
-TEST_F(Runs, DataForACallWithoutAParseIsASuccess)
+TEST_F(Runs, CallWithoutParseIgnoresData)
 {
     const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
     const auto outcome = Run(call, m_noNames, Envelope(R"({"gears": 21})"));
@@ -418,14 +418,14 @@ TEST_F(Runs, DataForACallWithoutAParseIsASuccess)
     EXPECT_TRUE(outcome.record.is_null());
 }
 
-TEST_F(Runs, AFailingPackIsNotPacked)
+TEST_F(Runs, FailingPackEndsAsNotPacked)
 {
     const auto outcome = catalogue::Run(Entry<TEST::Fail>("Fails"), {});
     EXPECT_EQ(outcome.End(), CallEnd::NotPacked);
     EXPECT_EQ(outcome.Code(), -1);
 }
 
-TEST_F(Runs, StatusesAndCodesComeBackUnnotified)
+TEST_F(Runs, ReturnStatusesAndCodesWithoutNotification)
 {
     const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
     EXPECT_EQ(Run(call, m_noNames, HttpAnswer(503, "")).Code(), 503);
@@ -436,7 +436,7 @@ TEST_F(Runs, StatusesAndCodesComeBackUnnotified)
     EXPECT_EQ(notifications.Take(), QStringList());
 }
 
-TEST_F(Runs, TheWaitCanBeShortened)
+TEST_F(Runs, UseTheGivenTimeout)
 {
     catalogue::RunSettings settings;
     settings.timeout = std::chrono::milliseconds(50);
@@ -444,7 +444,7 @@ TEST_F(Runs, TheWaitCanBeShortened)
     EXPECT_EQ(outcome.End(), CallEnd::TimedOut);
 }
 
-TEST_F(Runs, TheCallerHasTheLastWordOnTheRequestAndSeesTheExchange)
+TEST_F(Runs, CallerCanChangeTheRequestAndObserveTheExchange)
 {
     catalogue::RunSettings settings;
     settings.onPacked = [](APIModule::RequestParam& request) { request.strUrl += "?more"; };
@@ -456,7 +456,7 @@ TEST_F(Runs, TheCallerHasTheLastWordOnTheRequestAndSeesTheExchange)
     EXPECT_EQ(exchanges.front().nStatus, 200);
 }
 
-TEST_F(Runs, StartedCallsEndInTheirFunctionsOrAreCancelled)
+TEST_F(Runs, StartedCallsReportToTheirFunctionUnlessCancelled)
 {
     RawServer server([](const RawRequest&) { return Envelope(R"({"gears": 21, "colour": "blue"})"); });
     Use(server);

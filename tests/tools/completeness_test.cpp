@@ -1,4 +1,4 @@
-// The catalogue against what the library exports and declares.
+// Compares the catalogue with what the library exports and declares.
 #include <catalogue/Call.h>
 
 #include <gtest/gtest.h>
@@ -77,16 +77,17 @@ std::vector<std::string> Difference(const std::set<std::string>& left, const std
     return difference;
 }
 
-TEST(Completeness, TheCatalogueHasWhatTheLibraryExports)
+TEST(Completeness, CatalogueMatchesTheExportedFunctions)
 {
     const auto exported = ExportedFunctions();
     const auto catalogued = CataloguedFunctions();
-    EXPECT_EQ(exported.count("APIModule::CBRMSModule::PacketGetTimeSyncConfig"), 1U) << "is this the library?";
+    EXPECT_EQ(exported.count("APIModule::CBRMSModule::PacketGetTimeSyncConfig"), 1U)
+        << "the symbols are not those of the library";
     EXPECT_EQ(Difference(exported, catalogued), std::vector<std::string>()) << "not in the catalogue";
     EXPECT_EQ(Difference(catalogued, exported), std::vector<std::string>()) << "not in the library";
 }
 
-TEST(Completeness, EveryConstantIsOneCallOfTheCatalogue)
+TEST(Completeness, EveryConstantHasOneCallInTheCatalogue)
 {
     std::multiset<std::string> catalogued;
     for (const catalogue::Call& call : catalogue::Calls()) {
@@ -96,7 +97,7 @@ TEST(Completeness, EveryConstantIsOneCallOfTheCatalogue)
     EXPECT_EQ(catalogued, DeclaredCalls());
 }
 
-TEST(Completeness, EveryPackIsOneCall)
+TEST(Completeness, EveryPackBelongsToOneCall)
 {
     std::multiset<std::string_view> packs;
     for (const catalogue::Call& call : catalogue::Calls()) {
@@ -105,10 +106,10 @@ TEST(Completeness, EveryPackIsOneCall)
     }
 }
 
-TEST(Completeness, EveryCallIsFoundByItsName)
+TEST(Completeness, EveryNameFindsItsCall)
 {
     for (const catalogue::Call& call : catalogue::Calls()) {
-        EXPECT_EQ(catalogue::FindCall(call.name), &call) << call.name << " stands for two calls";
+        EXPECT_EQ(catalogue::FindCall(call.name), &call) << call.name << " names two calls";
     }
 }
 
@@ -124,7 +125,7 @@ TEST(Completeness, EveryCallIsDescribed)
     }
 }
 
-TEST(Completeness, ArgumentsHaveNamesOfTheirOwn)
+TEST(Completeness, ArgumentsOfACallHaveDifferentNames)
 {
     for (const catalogue::Call& call : catalogue::Calls()) {
         for (const catalogue::Argument& argument : call.arguments) {
