@@ -14,7 +14,7 @@ using Json = nlohmann::json;
 /// The operations of contract/.
 const emulator::Contract& Document();
 
-/// How the Parse of a call took the data of a reply.
+/// The result of the Parse of a call for the data of a reply.
 struct Reading {
     int result = -1;
     Json record;

@@ -13,7 +13,7 @@
 namespace contract_tests {
 namespace {
 
-using Places = std::set<std::string>;
+using Paths = std::set<std::string>;
 
 /// "/lots/*/name" for "/lots/0/name".
 std::string WithoutIndices(const std::string& pointer)
@@ -22,23 +22,23 @@ std::string WithoutIndices(const std::string& pointer)
     return std::regex_replace(pointer, index, "/*");
 }
 
-/// Where values of a type can occur.
-Places PlacesOf(const catalogue::Type& type, const std::string& where = {})
+/// The paths at which values of a type can occur.
+Paths PathsOf(const catalogue::Type& type, const std::string& where = {})
 {
-    Places places;
+    Paths paths;
     if (type.kind == catalogue::Kind::Record) {
         for (const catalogue::Field& field : type.fields) {
-            places.merge(PlacesOf(*field.type, where + "/" + std::string(field.name)));
+            paths.merge(PathsOf(*field.type, where + "/" + std::string(field.name)));
         }
     } else if (type.kind == catalogue::Kind::List) {
-        places = PlacesOf(*type.element, where + "/*");
+        paths = PathsOf(*type.element, where + "/*");
     } else {
-        places.insert(where);
+        paths.insert(where);
     }
-    return places;
+    return paths;
 }
 
-/// Other values of the same JSON type; one of them at least means something else than the value.
+/// Other values of the same JSON type; at least one of them is read as a different value.
 Json Others(const Json& value)
 {
     if (value.is_boolean()) {
@@ -50,28 +50,28 @@ Json Others(const Json& value)
     return Json::array({value.get<std::string>() + "0", "0", "1"});
 }
 
-Places Differences(const Json& left, const Json& right)
+Paths Differences(const Json& left, const Json& right)
 {
-    Places places;
+    Paths paths;
     const Json changes = Json::diff(left, right);
     for (const Json& change : changes) {
-        places.insert(WithoutIndices(change.at("path")));
+        paths.insert(WithoutIndices(change.at("path")));
     }
-    return places;
+    return paths;
 }
 
-/// Values that the platform sends and the library ignores.
+/// Values that the platform sends but the library ignores.
 const std::set<std::pair<std::string, std::string>>& NotRead()
 {
-    static const std::set<std::pair<std::string, std::string>> places = {
+    static const std::set<std::pair<std::string, std::string>> paths = {
         {"BRMS.GetPageSummaryAlarmPlans", "/totalCount"}};
-    return places;
+    return paths;
 }
 
-/// Fields of records that several calls share, which the reply of this one has not.
-const std::map<std::string, Places>& FilledByOtherCalls()
+/// Record fields that are missing in a call's reply because several calls share the record.
+const std::map<std::string, Paths>& FilledByOtherCalls()
 {
-    static const std::map<std::string, Places> places = {
+    static const std::map<std::string, Paths> paths = {
         {"BRMS.GetNetworkConfig", {"/deviceCode"}},
         {"BRMS.GetEncodeConfig", {"/*/channelId"}},
         {"BRMS.GetImageConfig", {"/channelId"}},
@@ -82,7 +82,7 @@ const std::map<std::string, Places>& FilledByOtherCalls()
          {"/*/enableShortcutKeys", "/*/executeMode", "/*/httpUrls/*/body", "/*/id", "/*/remark", "/*/shortcutKeys"}},
         {"BRMS.GetChannelWebTunnel", {"/token", "/username"}},
         {"BRMS.GetChannelWebAuthorization", {"/https", "/ip", "/port"}}};
-    return places;
+    return paths;
 }
 
 std::vector<const catalogue::Call*> ReadingCalls()
@@ -104,35 +104,35 @@ protected:
 TEST_P(Example, IsReadCompletely)
 {
     const catalogue::Call& call = *GetParam();
-    Places filled;
+    Paths filled;
     for (const Json& example : Examples()) {
         ASSERT_TRUE(example.contains("data")) << example;
         const Json& data = example.at("data");
         const Reading reading = Read(call, data);
         EXPECT_EQ(reading.result, 0) << data;
         const Json values = data.flatten();
-        for (const auto& [place, value] : values.items()) {
-            if (value.is_null() || NotRead().count({call.name, place}) != 0) {
+        for (const auto& [path, value] : values.items()) {
+            if (value.is_null() || NotRead().count({call.name, path}) != 0) {
                 continue;  // null stands for an empty list or object
             }
-            Places changed;
+            Paths changed;
             const Json others = Others(value);
             for (const Json& other : others) {
                 Json changedData = data;
-                changedData[Json::json_pointer(place)] = other;
+                changedData[Json::json_pointer(path)] = other;
                 changed.merge(Differences(reading.record, Read(call, changedData).record));
             }
-            EXPECT_FALSE(changed.empty()) << "nobody reads " << place;
+            EXPECT_FALSE(changed.empty()) << "the library does not read " << path;
             filled.merge(changed);
         }
     }
     const auto elsewhere = FilledByOtherCalls().find(call.name);
     if (elsewhere != FilledByOtherCalls().end()) {
-        for (const std::string& place : elsewhere->second) {
-            EXPECT_TRUE(filled.insert(place).second) << place << " is filled";
+        for (const std::string& path : elsewhere->second) {
+            EXPECT_TRUE(filled.insert(path).second) << path << " is filled";
         }
     }
-    EXPECT_EQ(filled, PlacesOf(*call.result)) << "the examples do not show all that is read";
+    EXPECT_EQ(filled, PathsOf(*call.result)) << "the examples lack fields that the library reads";
 }
 
 std::string NameOf(const testing::TestParamInfo<const catalogue::Call*>& call)
@@ -142,20 +142,20 @@ std::string NameOf(const testing::TestParamInfo<const catalogue::Call*>& call)
 
 INSTANTIATE_TEST_SUITE_P(Replies, Example, testing::ValuesIn(ReadingCalls()), NameOf);
 
-TEST(Document, HasTheCallsOfTheLibrary)
+TEST(Document, HasAnOperationForEveryCall)
 {
-    Places calls;
+    Paths calls;
     for (const catalogue::Call& call : catalogue::Calls()) {
         calls.insert(call.name);
     }
-    Places operations;
+    Paths operations;
     for (const emulator::Operation& operation : Document().operations()) {
         operations.insert(operation.id);
     }
     EXPECT_EQ(operations, calls);
 }
 
-TEST(Document, HasDataForTheCallsThatReadThem)
+TEST(Document, HasDataForEveryCallThatReadsThem)
 {
     for (const catalogue::Call& call : catalogue::Calls()) {
         const Json schema = Document().operation(call.name).dataSchema;

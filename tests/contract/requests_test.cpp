@@ -1,4 +1,4 @@
-// The requests of the library are those of the document: path, query values in their order, and every key of a body.
+// The library sends the requests of the document: path, order of the query values, and every key of the body.
 #include "Document.h"
 
 #include <e2e/rows/Rows.h>
@@ -14,41 +14,41 @@
 namespace contract_tests {
 namespace {
 
-using Places = std::set<std::string>;
+using Paths = std::set<std::string>;
 
-/// Where the schema has values, such as "/channels/*/command".
-Places PlacesOf(const Json& schema, const std::string& where = {})
+/// The paths of the schema's values, such as "/channels/*/command".
+Paths PathsOf(const Json& schema, const std::string& where = {})
 {
-    Places places;
+    Paths paths;
     const Json properties = schema.value("properties", Json::object());
     for (const auto& [key, property] : properties.items()) {
-        std::string place = where;
-        places.merge(PlacesOf(property, place.append("/").append(key)));
+        std::string path = where;
+        paths.merge(PathsOf(property, path.append("/").append(key)));
     }
     const Json parts = schema.value("allOf", Json::array());
     for (const Json& part : parts) {
-        places.merge(PlacesOf(part, where));
+        paths.merge(PathsOf(part, where));
     }
     if (schema.contains("items")) {
-        places.merge(PlacesOf(schema.at("items"), where + "/*"));
+        paths.merge(PathsOf(schema.at("items"), where + "/*"));
     }
-    if (places.empty()) {
-        places.insert(where);
+    if (paths.empty()) {
+        paths.insert(where);
     }
-    return places;
+    return paths;
 }
 
-Places PlacesIn(const std::string& body)
+Paths PathsIn(const std::string& body)
 {
     static const std::regex index("/[0-9]+(?=/|$)");
-    Places places;
+    Paths paths;
     if (!body.empty()) {
         const Json values = Json::parse(body).flatten();
         for (const auto& entry : values.items()) {
-            places.insert(std::regex_replace(entry.key(), index, "/*"));
+            paths.insert(std::regex_replace(entry.key(), index, "/*"));
         }
     }
-    return places;
+    return paths;
 }
 
 class Requests : public e2e::EndToEnd {
@@ -72,15 +72,15 @@ TEST_F(Requests, MatchTheirOperation)
         ASSERT_NE(found, nullptr) << row.Name() << ": " << request.method << " " << path;
         EXPECT_EQ(found->id, row.call);
 
-        std::vector<std::string> told;
+        std::vector<std::string> documented;
         for (const emulator::QueryParameter& parameter : found->query) {
-            told.push_back(parameter.name);
+            documented.push_back(parameter.name);
         }
         std::vector<std::string> sent;
         for (const auto& value : request.query) {
             sent.push_back(value.first);
         }
-        EXPECT_EQ(sent, told) << row.Name();
+        EXPECT_EQ(sent, documented) << row.Name();
 
         EXPECT_EQ(!request.body.empty(), found->body.has_value()) << row.Name();
         if (found->body) {
@@ -96,16 +96,17 @@ TEST_F(Requests, SendEveryKeyOfABody)
         if (!operation.body) {
             continue;
         }
-        Places sent;
+        Paths sent;
         for (const e2e::Row& row : e2e::Rows()) {
             if (row.call == call.name) {
-                sent.merge(PlacesIn(RequestOf(row).body));
+                sent.merge(PathsIn(RequestOf(row).body));
             }
         }
-        const Places told = PlacesOf(operation.body->document());
-        Places missing;
-        std::set_difference(told.begin(), told.end(), sent.begin(), sent.end(), std::inserter(missing, missing.end()));
-        EXPECT_EQ(missing, Places()) << call.name << " never sends them";
+        const Paths documented = PathsOf(operation.body->document());
+        Paths missing;
+        std::set_difference(documented.begin(), documented.end(), sent.begin(), sent.end(),
+                            std::inserter(missing, missing.end()));
+        EXPECT_EQ(missing, Paths()) << "keys that " << call.name << " never sends";
     }
 }
 

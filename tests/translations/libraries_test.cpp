@@ -1,4 +1,4 @@
-// The texts of the libraries in a host that loads their translations.
+// Texts of the libraries in a host that loads their translations.
 #include "support/Rows.h"
 
 #include <APIModule.h>
@@ -25,7 +25,7 @@ namespace {
 constexpr int kUnknownCode = 987654;
 constexpr int kSignInNeeded = 7000;
 
-/// The library's translations for as long as it lives.
+/// Installs the libraries' translations during its lifetime.
 class Translations {
 public:
     explicit Translations(const QLocale& locale)
@@ -67,7 +67,7 @@ QString Text(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-/// Null without translations.
+/// Returns the window on the screen with this title, or null.
 template <typename Window>
 Window* WindowOnScreen(const QString& title)
 {
@@ -81,12 +81,12 @@ Window* WindowOnScreen(const QString& title)
     return nullptr;
 }
 
-TEST_P(Texts, AnUnknownCodeIsAFailedOperation)
+TEST_P(Texts, UnknownCodeIsReportedAsFailedOperation)
 {
     EXPECT_EQ(CAPIModule::GetErroCodeInfor(QString(), kUnknownCode, true), Text(GetParam().operationFailed));
 }
 
-TEST_P(Texts, TheTextOfACodeFollowsTheCaption)
+TEST_P(Texts, TextOfACodeFollowsTheCaption)
 {
     std::string code;
     ASSERT_EQ(ErrorLexicon::ErrorLexiconQuery(kSignInNeeded, code), 0);
@@ -94,7 +94,7 @@ TEST_P(Texts, TheTextOfACodeFollowsTheCaption)
               QLatin1String("BRMS") + Text(GetParam().colon) + QLatin1Char(' ') + QString::fromStdString(code));
 }
 
-TEST_P(Texts, TheWaitDialogAsksForPatience)
+TEST_P(Texts, WaitDialogAsksTheUserToWait)
 {
     const APIModule::CAPIWaitDialog wait(nullptr);
     const auto* const pDialog = WindowOnScreen<ORNGUI::OrnWaitDialog>(Text(GetParam().pleaseWait));
@@ -102,7 +102,7 @@ TEST_P(Texts, TheWaitDialogAsksForPatience)
     EXPECT_EQ(pDialog->accessibleName(), Text(GetParam().pleaseWait));
 }
 
-TEST_P(Texts, AToastWithALinkOffersToOpenIt)
+TEST_P(Texts, ToastWithALinkHasAnOpenButton)
 {
     ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance().AddTextNotification(
         QStringLiteral("BRMS"), true, QString(), QStringLiteral("file:///"), true);

@@ -1,4 +1,4 @@
-// What apicall and platform-emulator say in the language of their environment.
+// Texts of apicall and platform-emulator in the language of their environment.
 #include "support/Program.h"
 #include "support/Rows.h"
 
@@ -172,11 +172,11 @@ constexpr Environment kEnvironments[] = {
     {"German", "LANG", "de_DE.UTF-8", kGerman},
     {"Chinese", "LANG", "zh_CN.UTF-8", kChinese},
     {"Untranslated", "LANG", "fr_FR.UTF-8", kEnglish},
-    {"Plain", "LC_ALL", "C", kEnglish},
-    {"GermanForAll", "LC_ALL", "de_AT.UTF-8", kGerman},
-    {"ChineseMessages", "LC_MESSAGES", "zh_TW.UTF-8", kChinese},
+    {"CLocale", "LC_ALL", "C", kEnglish},
+    {"GermanByLcAll", "LC_ALL", "de_AT.UTF-8", kGerman},
+    {"ChineseByLcMessages", "LC_MESSAGES", "zh_TW.UTF-8", kChinese},
     {"EnglishBeforeGerman", "LANGUAGE", "en:de", kEnglish},
-    {"GermanBehindUntranslated", "LANGUAGE", "fr:de", kGerman},
+    {"GermanAfterUntranslated", "LANGUAGE", "fr:de", kGerman},
 };
 
 INSTANTIATE_TEST_SUITE_P(Environments, Programs, testing::ValuesIn(kEnvironments), RowName());

@@ -1,5 +1,5 @@
-// A client's first records, from a platform emulator that runs in this process, read by the calls that the manual
-// begins with.
+// Reads a client's first records from a platform emulator in this process, with the calls at the beginning of the
+// manual.
 #include "typed_calls.h"
 
 #include <APIModule.h>
@@ -14,7 +14,7 @@
 #include <memory>
 #include <string>
 
-/// Stands in first_call.cpp, which is the second sample of the manual; typed_calls.h is the first.
+/// Defined in first_call.cpp, the second sample of the manual; typed_calls.h is the first.
 int ReadTimeSettings(QWidget* parent, APIModule::TimeSyncConfig& config);
 
 namespace {

@@ -1,4 +1,4 @@
-// Fails unless the library speaks German with the translations in the folder of the first argument.
+// Fails unless the library's texts are German with the translations in the folder of the first argument.
 #include <APIModule.h>
 
 #include <QCoreApplication>
