@@ -38,7 +38,7 @@ void OnRemoved(QObject* pObject)
     Live().objects.erase(pObject);
 }
 
-/// Qt looks up host names on pool threads, which live on for some seconds.
+/// Qt looks up host names on pool threads, which run for some seconds longer.
 bool IsThreadOfPool(const QObject& object)
 {
     return qstrcmp(object.metaObject()->className(), "QThreadPoolThread") == 0;
@@ -70,7 +70,7 @@ Census Census::Now()
 {
     Census census;
     {
-        // An object of another thread may be in its destructor, but not past the hook.
+        // An object of another thread may be in its destructor, but has not yet passed the hook.
         const std::lock_guard<std::mutex> lock(Live().mutex);
         for (const QObject* pObject : Live().objects) {
             if (pObject->thread() == QThread::currentThread() && !IsOfToasts(*pObject) && !IsThreadOfPool(*pObject)) {

@@ -14,7 +14,7 @@ struct Census {
 
     static Census Now();
 
-    /// Whether nothing was added since then.
+    /// Whether no object or socket was added since @p before.
     bool IsWithin(const Census& before) const;
 };
 

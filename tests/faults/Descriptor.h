@@ -4,7 +4,7 @@
 
 namespace testing_support {
 
-/// A TCP socket as the system has it, closed when it goes.
+/// The descriptor of a TCP socket, closed by the destructor.
 class Descriptor {
 public:
     Descriptor();
@@ -20,7 +20,7 @@ private:
     int m_nNumber;
 };
 
-/// A socket with a port of its own on loopback; whoever connects to it is refused.
+/// A socket bound to a free port on loopback that does not listen, so that connections are refused.
 Descriptor BoundToLoopback();
 sockaddr_in AddressOf(const Descriptor& socket);
 int PortOf(const Descriptor& socket);

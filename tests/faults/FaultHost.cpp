@@ -157,7 +157,7 @@ FaultHost::~FaultHost()
 {
     const QWidgetList widgets = QApplication::topLevelWidgets();
     for (QWidget* pWidget : widgets) {
-        pWidget->close();  // the toasts, so that queued ones are shown and closed
+        pWidget->close();  // closes toasts, so that queued ones are shown and closed as well
     }
     delete m_parent;
 }

@@ -67,8 +67,8 @@ Outcome WithoutNotification(Outcome outcome);
 /// A successful reply with data.
 RawAnswer SuccessAnswer();
 
-/// By how much a wait exceeds its time-out, in ticks of its own event loop: a machine that stalls does not make a wait
-/// late.
+/// By how much a wait exceeds its time-out, measured in ticks of the event loop rather than in real time, so that a
+/// stalled machine does not count as a late wait.
 class Lateness {
 public:
     explicit Lateness(int nSeconds);

@@ -89,7 +89,7 @@ TEST_P(FaultMatrix, ReturnsExpectedOutcomeAndLeaksNothing)
         }
         ExpectNoLeaks(before);
     }
-    // Once the servers are gone, so are the connections kept for reuse.
+    // Destroying the servers also closes the connections kept for reuse.
     ExpectNoLeaks(atFirst);
 }
 

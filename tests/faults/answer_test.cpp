@@ -1,4 +1,4 @@
-// Answers that are cut short, broken or refuse the caller.
+// Replies that are truncated or malformed, or that reject the caller.
 #include "FaultMatrix.h"
 
 using namespace testing_support;
@@ -12,7 +12,7 @@ RawAnswer Raw(const QByteArray& bytes, RawAnswer::Then then = RawAnswer::KeepOpe
     return {bytes, 0, then};
 }
 
-/// An answer that ends within its body.
+/// A reply that ends within its body.
 RawAnswer Cut(int status, RawAnswer::Then then = RawAnswer::Close)
 {
     return Raw("HTTP/1.1 " + QByteArray::number(status) + " Reason\r\nContent-Length: 1000\r\n\r\n{\"code\":1000}",
@@ -68,7 +68,7 @@ Outcome CutShort()
 }
 
 const std::vector<Fault> kFaults = {
-    {"closed_before_the_answer", Answers(Raw("", RawAnswer::Close)), NetworkFails("2", "Connection closed")},
+    {"closed_before_the_reply", Answers(Raw("", RawAnswer::Close)), NetworkFails("2", "Connection closed")},
     {"closed_in_the_status_line", Answers(Raw("HTTP/1.1 2", RawAnswer::Close)), NetworkFails("2", "Connection closed")},
     {"closed_after_the_status_line", Answers(Raw("HTTP/1.1 200 OK\r\n", RawAnswer::Close)),
      NetworkFails("2", "Connection closed")},
@@ -82,26 +82,26 @@ const std::vector<Fault> kFaults = {
     {"closed_in_the_body_of_404", Answers(Cut(404)), NetworkFails()},
     {"closed_in_the_body_of_404_later", Answers(Cut(404, RawAnswer::CloseLater)), NetworkFails()},
     {"closed_in_the_body_of_500", Answers(Cut(500)), NetworkFails()},
-    {"reset_before_the_answer", Answers(Raw("", RawAnswer::Reset)), NetworkFails()},
+    {"reset_before_the_reply", Answers(Raw("", RawAnswer::Reset)), NetworkFails()},
     {"reset_after_the_status_line", Answers(Raw("HTTP/1.1 200 OK\r\n", RawAnswer::Reset)), NetworkFails()},
     {"reset_in_the_body", Answers(Cut(200, RawAnswer::Reset)), NetworkFails()},
-    {"no_http", Answers(Raw("220 mail ready\r\n\r\n", RawAnswer::Close)), NetworkFails("2")},
+    {"not_http", Answers(Raw("220 mail ready\r\n\r\n", RawAnswer::Close)), NetworkFails("2")},
     {"length_too_short", Answers(WithHeaders("Content-Length: 5\r\n", kBody)), EnvelopeFails(-1)},
     {"length_too_long", Answers(WithHeaders("Content-Length: 50\r\n", kBody, RawAnswer::Close)), NetworkFails()},
     {"length_too_long_not_chunked",
      Answers(WithHeaders("Transfer-Encoding: identity\r\nContent-Length: 50\r\n", kBody, RawAnswer::Close)),
      NetworkFails()},
     {"length_negative", Answers(WithHeaders("Content-Length: -5\r\n", kBody, RawAnswer::Close)), Succeeds()},
-    {"length_no_number", Answers(WithHeaders("Content-Length: all\r\n", kBody, RawAnswer::Close)), Succeeds()},
+    {"length_not_a_number", Answers(WithHeaders("Content-Length: all\r\n", kBody, RawAnswer::Close)), Succeeds()},
     {"without_length", Answers(WithHeaders("", kBody, RawAnswer::Close)), Succeeds()},
     {"chunked", Answers(Chunked(Chunk() + "0\r\n\r\n")), Succeeds()},
     {"chunked_beside_a_length",
      Answers(WithHeaders("Transfer-Encoding: chunked\r\nContent-Length: 500\r\n", Chunk() + "0\r\n\r\n")), Succeeds()},
-    {"chunk_size_no_number", Answers(Chunked("xyz\r\n" + kBody + "\r\n0\r\n\r\n")), EnvelopeFails(-1)},
+    {"chunk_size_not_a_number", Answers(Chunked("xyz\r\n" + kBody + "\r\n0\r\n\r\n")), EnvelopeFails(-1)},
     {"chunk_size_negative", Answers(Chunked("-5\r\n" + kBody + "\r\n0\r\n\r\n")), EnvelopeFails(-1)},
     {"chunk_size_beyond_64_bits", Answers(Chunked("fffffffffffffffff\r\n" + kBody + "\r\n0\r\n\r\n")),
      EnvelopeFails(-1)},
-    {"chunk_longer_than_told", Answers(Chunked("5\r\n" + kBody + "\r\n0\r\n\r\n", RawAnswer::Close)),
+    {"chunk_longer_than_its_size", Answers(Chunked("5\r\n" + kBody + "\r\n0\r\n\r\n", RawAnswer::Close)),
      EnvelopeFails(-1)},
     {"chunk_cut", Answers(Chunked("ff\r\n{\"code\":1000,", RawAnswer::Close)), CutShort()},
     {"chunk_cut_later", Answers(Chunked("ff\r\n{\"code\":1000,", RawAnswer::CloseLater)), CutShort()},
@@ -109,7 +109,7 @@ const std::vector<Fault> kFaults = {
     {"chunk_last_missing", Answers(Chunked(Chunk(), RawAnswer::Close)), CutShort()},
     {"chunk_last_missing_of_404", Answers(OfStatus404(Chunked(Chunk(), RawAnswer::Close))), CutShort()},
     {"gzip", Answers(Gzipped(Gzip())), Succeeds()},
-    {"gzip_of_something_else", Answers(Gzipped(kBody)), NetworkFails("399", "Data corrupted")},
+    {"gzip_named_but_not_used", Answers(Gzipped(kBody)), NetworkFails("399", "Data corrupted")},
     {"gzip_cut", Answers(Gzipped(Gzip().left(20))), NetworkFails("399", "Data corrupted")},
     {"gzip_cut_of_404", Answers(OfStatus404(Gzipped(Gzip().left(20)))), NetworkFails("399", "Data corrupted")},
     {"gzip_cut_before_its_sum", Answers(Gzipped(Gzip().chopped(8))), NetworkFails("399", "Data corrupted")},

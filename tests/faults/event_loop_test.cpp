@@ -14,7 +14,7 @@ using APIModule::CAPIModule;
 
 namespace {
 
-/// A host whose user manager can be destroyed, too.
+/// A host that can also replace its user manager.
 class EventHost : public FaultHost {
 public:
     void UseOtherUserManager()
@@ -41,13 +41,13 @@ private:
     std::unique_ptr<UserManager> m_pOther;
 };
 
-/// Something that happens when the server has the request.
+/// An event that occurs once the server has received the request.
 struct Event {
     const char* name;
     std::function<void(EventHost&)> act;
-    bool endsUse = false;      ///< nothing is notified any more
-    bool endsDialog = false;   ///< ends a wait behind the dialog with the result of a time-out
-    bool endsStarted = false;  ///< ends calls of Start()
+    bool endsUse = false;      ///< no notifications are shown after the event
+    bool endsDialog = false;   ///< ends a wait with a dialog with the result of a time-out
+    bool endsStarted = false;  ///< cancels calls of Start()
 };
 
 const std::vector<Event> kEvents = {
@@ -84,7 +84,7 @@ void PrintTo(const EventCase& row, std::ostream* pStream)
     *pStream << row.name;
 }
 
-/// Each event with each way of making the call if a reply arrives, and over HTTP, once for each way of waiting, if not.
+/// With a reply, each event in each call mode. Without one, each event over HTTP, once for each kind of wait.
 std::vector<EventCase> Cases()
 {
     std::vector<EventCase> cases;
@@ -136,7 +136,7 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
         elapsed.start();
         ExpectOutcome(mode, event.endsUse ? WithoutNotification(outcome) : outcome, false, bEnded || answered ? 20 : 1);
         if (bEnded) {
-            EXPECT_LT(elapsed.elapsed(), 10000) << "ends at once, not at its time-out";
+            EXPECT_LT(elapsed.elapsed(), 10000) << "the call must end at once, not at its time-out";
         }
         EXPECT_EQ(server.TakeRequests().size(), 1U);
 
@@ -154,14 +154,14 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
 
 INSTANTIATE_TEST_SUITE_P(Events, EventTest, testing::ValuesIn(Cases()), RowName());
 
-/// Ten calls, each inside the one before, whose ends fall in an order drawn from the seed. Some end without an answer,
-/// some because their parent is destroyed.
+/// Ten nested calls, which end in an order drawn from the seed. Some end without a reply, others because their parent
+/// is destroyed.
 class NestedTest : public FaultHost, public testing::WithParamInterface<unsigned> {
 protected:
     struct End {
         const char* path;
         int result;
-        int code;  ///< that is notified
+        int code;  ///< the notified code
     };
 
     void Nest(std::size_t nDepth);
@@ -179,7 +179,7 @@ protected:
 constexpr std::size_t kDepth = 10;
 constexpr int kStepMs = 30;
 
-/// Answers "/<what>/<ms>" after that time.
+/// Replies to "/<what>/<ms>" after that time.
 RawAnswer RespondLater(const RawRequest& request)
 {
     const QList<QByteArray> words = request.target.split('/');

@@ -31,7 +31,7 @@ std::string Repeated(std::size_t nTimes, const std::string& text)
     return repeated;
 }
 
-/// A text and how it travels in a URL.
+/// A text and its encoding in a URL.
 struct Hostile {
     std::string name;
     std::string text;
@@ -56,12 +56,12 @@ const std::vector<Hostile> kTexts = {
     {"control_characters", "\x01\x02\x08\x0B\x0C\x1B\x1F\x7F", "%01%02%08%0B%0C%1B%1F%7F"},
     {"control_characters_of_unicode", "\xC2\x85\xC2\x9F\xE2\x80\xA8\xE2\x80\xA9", "%C2%85%C2%9F%E2%80%A8%E2%80%A9"},
     {"percent", "%", "%25"},
-    {"percent_and_no_number", "%zz%2", "%25zz%252"},
+    {"percent_without_number", "%zz%2", "%25zz%252"},
     {"percent_and_line_break", "%0d%0a", "%0D%0A"},
     {"percent_and_zero_byte", "%00", "%00"},
     {"percent_and_percent", "%25", "%25"},
     {"percent_and_path", "%2e%2e%2f", "..%2F"},
-    {"place", "%1%2", "%251%252"},
+    {"format_marker", "%1%2", "%251%252"},
     {"format", "%s%n%d", "%25s%25n%25d"},
     {"quotes", "\"'`", "%22'%60"},
     {"backslash", "\\\\server\\..", "%5C%5Cserver%5C.."},
@@ -75,7 +75,7 @@ const std::vector<Hostile> kTexts = {
     {"blanks", " a  b ", "%20a%20%20b%20"},
     {"plus", "a+b", "a+b"},
     {"beyond_the_basic_plane", "\xF0\x9F\x98\x80", "%F0%9F%98%80"},
-    {"no_utf8", "\xFF\xC0\xAF", "%EF%BF%BD%EF%BF%BD%EF%BF%BD"},
+    {"invalid_utf8", "\xFF\xC0\xAF", "%EF%BF%BD%EF%BF%BD%EF%BF%BD"},
     {"json", "\",\"admin\":\"1", "%22,%22admin%22:%221"},
     {"megabyte", std::string(kMegabyte, 'a'), std::string(kMegabyte, 'a')},
     {"megabyte_of_line_breaks", std::string(kMegabyte, '\n'), Repeated(kMegabyte, "%0A")},
@@ -88,7 +88,7 @@ protected:
 
     using Pack = boost::function<int(void*)>;
 
-    /// The one request that a call makes of the text.
+    /// Runs the call and returns its only request.
     RawRequest Send(const Pack& pack)
     {
         EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs(pack, {}, {}, nullptr, {}, true, true), 0);
@@ -106,7 +106,7 @@ QByteArray Bytes(const std::string& text)
     return QByteArray::fromStdString(text);
 }
 
-/// In the order of their names, which is not the one in which they travel.
+/// The header names in alphabetical order, because the order on the wire is not fixed.
 std::string HeaderNames(const RawRequest& request)
 {
     QList<QByteArray> names;
@@ -117,7 +117,7 @@ std::string HeaderNames(const RawRequest& request)
     return names.join(' ').toStdString();
 }
 
-/// The head of a request without the parts under test, target and length.
+/// Checks the request line and the names of the headers.
 void ExpectUsualHead(const RawRequest& request, const QByteArray& method, const QByteArray& target)
 {
     const QByteArray firstLine = request.head.left(request.head.indexOf("\r\n"));
@@ -127,8 +127,8 @@ void ExpectUsualHead(const RawRequest& request, const QByteArray& method, const 
                                         "Content-Type Host Time-Zone User-Agent X-Subject-Token");
 }
 
-/// A place in a URL.
-struct UrlPlace {
+/// A part of a URL that a call fills with a text.
+struct UrlPart {
     const char* name;
     const char* method;
     const char* before;
@@ -136,7 +136,7 @@ struct UrlPlace {
     int (*pack)(void* pReqParamData, const std::string& text);
 };
 
-const std::vector<UrlPlace> kUrlPlaces = {
+const std::vector<UrlPart> kUrlParts = {
     {"path", "GET", "/brms/api/v1.1/user/group/", "",
      [](void* p, const std::string& text) { return CBRMSModule::PacketGetUserGroup(p, text, -1); }},
     {"middle_of_path", "GET", "/brms/api/v1.1/device/", "/config/network",
@@ -149,24 +149,24 @@ const std::vector<UrlPlace> kUrlPlaces = {
      }},
 };
 
-void PrintTo(const UrlPlace& place, std::ostream* pStream)
+void PrintTo(const UrlPart& part, std::ostream* pStream)
 {
-    *pStream << place.name;
+    *pStream << part.name;
 }
 
-class UrlTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, UrlPlace>> {};
+class UrlTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, UrlPart>> {};
 
-TEST_P(UrlTest, StaysInItsPlace)
+TEST_P(UrlTest, StaysInItsPartOfTheUrl)
 {
     const Hostile& text = std::get<0>(GetParam());
-    const UrlPlace& place = std::get<1>(GetParam());
-    const RawRequest request = Send([&](void* p) { return place.pack(p, text.text); });
-    const bool bCut = text.text.find('#') != std::string::npos;  // nothing behind it travels
-    ExpectUsualHead(request, place.method, place.before + Bytes(text.inUrl) + (bCut ? "" : place.after));
+    const UrlPart& part = std::get<1>(GetParam());
+    const RawRequest request = Send([&](void* p) { return part.pack(p, text.text); });
+    const bool bCut = text.text.find('#') != std::string::npos;  // nothing after it is sent
+    ExpectUsualHead(request, part.method, part.before + Bytes(text.inUrl) + (bCut ? "" : part.after));
     EXPECT_EQ(request.body, "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Urls, UrlTest, testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kUrlPlaces)),
+INSTANTIATE_TEST_SUITE_P(Urls, UrlTest, testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kUrlParts)),
                          [](const auto& row) {
                              return std::get<0>(row.param).name + "_in_" + std::get<1>(row.param).name;
                          });
@@ -175,7 +175,7 @@ class TextTest : public HostileInput, public testing::WithParamInterface<Hostile
 
 INSTANTIATE_TEST_SUITE_P(Texts, TextTest, testing::ValuesIn(kTexts), RowName());
 
-/// The one kind of path whose text ends at a zero byte, its bytes taken as characters.
+/// The only kind of path whose text ends at a zero byte and whose bytes are encoded as Latin-1 characters.
 TEST_P(TextTest, IsSentBytewiseInAPath)
 {
     const std::string& text = GetParam().text;
@@ -186,7 +186,7 @@ TEST_P(TextTest, IsSentBytewiseInAPath)
     ExpectUsualHead(request, "POST", target);
 }
 
-TEST_P(TextTest, StaysInItsStringOfABody)
+TEST_P(TextTest, StaysInItsStringOfTheBody)
 {
     APIModule::QuickCommand command;
     command.quickCommandName = GetParam().text;
@@ -222,14 +222,14 @@ TEST_F(HostileInput, DotSegmentsInAUrlAreResolved)
 }
 
 /// A header that a host or a user manager fills.
-struct HeaderPlace {
+struct HeaderField {
     const char* name;
     const char* header;
     void (*fill)(UserManager& users, HostCall& call, const std::string& text);
-    bool isText;  ///< is a text, and therefore valid UTF-8
+    bool isText;  ///< passed as QString and therefore sent as valid UTF-8
 };
 
-const std::vector<HeaderPlace> kHeaderPlaces = {
+const std::vector<HeaderField> kHeaderFields = {
     {"token", "X-Subject-Token",
      [](UserManager& users, HostCall&, const std::string& text) { users.servers[1].token = text; }, false},
     {"language", "Accept-Language",
@@ -238,20 +238,20 @@ const std::vector<HeaderPlace> kHeaderPlaces = {
      [](UserManager&, HostCall& call, const std::string& text) { call.sequence = QString::fromStdString(text); }, true},
 };
 
-void PrintTo(const HeaderPlace& place, std::ostream* pStream)
+void PrintTo(const HeaderField& part, std::ostream* pStream)
 {
-    *pStream << place.name;
+    *pStream << part.name;
 }
 
-class HeaderTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, HeaderPlace>> {};
+class HeaderTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, HeaderField>> {};
 
-TEST_P(HeaderTest, StaysInItsHeaderOrIsRefused)
+TEST_P(HeaderTest, StaysInItsHeaderOrIsRejected)
 {
-    const auto& [text, place] = GetParam();
+    const auto& [text, part] = GetParam();
     HostCall call;
     call.uiError = QStringLiteral("No settings");
     call.notifyOnFailure = false;
-    place.fill(users, call, text.text);
+    part.fill(users, call, text.text);
     const int nResult = Execute(call);
     const LogLines lines = logs.Take();
     const std::vector<RawRequest> requests = m_server.TakeRequests();
@@ -267,22 +267,22 @@ TEST_P(HeaderTest, StaysInItsHeaderOrIsRefused)
     }
     EXPECT_EQ(nResult, 0);
     ASSERT_EQ(requests.size(), 1U);
-    const QByteArray value = place.isText ? call.sequence.toUtf8() : Bytes(text.text);
-    EXPECT_TRUE((requests[0].head + "\r\n").contains("\r\n" + QByteArray(place.header) + ": " + value + "\r\n"));
-    EXPECT_EQ(requests[0].headers.size(), place.isText ? 9 : 8);
+    const QByteArray value = part.isText ? call.sequence.toUtf8() : Bytes(text.text);
+    EXPECT_TRUE((requests[0].head + "\r\n").contains("\r\n" + QByteArray(part.header) + ": " + value + "\r\n"));
+    EXPECT_EQ(requests[0].headers.size(), part.isText ? 9 : 8);
     EXPECT_EQ(requests[0].target, "/path");
 }
 
 INSTANTIATE_TEST_SUITE_P(Headers, HeaderTest,
-                         testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kHeaderPlaces)),
+                         testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kHeaderFields)),
                          [](const auto& row) {
                              return std::get<0>(row.param).name + "_in_" + std::get<1>(row.param).name;
                          });
 
-/// A host of the user manager's that would lead elsewhere. The line for a URL that is refused shows it.
+/// A host name that would lead elsewhere. The log line of the rejected URL shows it.
 class HostNameTest : public HostileInput, public testing::WithParamInterface<Hostile> {};
 
-TEST_P(HostNameTest, IsRefused)
+TEST_P(HostNameTest, IsRejected)
 {
     users.servers[1].host = GetParam().text;
     EXPECT_EQ(Execute({}), -1);

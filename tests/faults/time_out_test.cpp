@@ -27,7 +27,7 @@ RawAnswer ByteASecond()
 }
 
 /// Accepts the connection and all data, and sends nothing, not even for TLS.
-FaultSetup TakesAnythingAndSaysNothing(RawServer::Scheme scheme)
+FaultSetup AcceptsDataAndStaysSilent(RawServer::Scheme scheme)
 {
     auto silent = std::make_shared<RawServer>([](const RawRequest&) { return RawAnswer{}; });
     FaultSetup setup = BesideHealthy(scheme, silent->Port());
@@ -68,7 +68,7 @@ const std::vector<Fault> kFaults = {
     {"silent_in_the_body", StopsAfter(kHead + "Content-Length: 50\r\n\r\n{\"code\":1000}"), TimesOut(), 1},
     {"silent_before_the_last_chunk", StopsAfter(kHead + "Transfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n"), TimesOut(),
      1},
-    {"silent_instead_of_tls", TakesAnythingAndSaysNothing, TimesOut(), 1, {RawServer::Https}},
+    {"silent_instead_of_tls", AcceptsDataAndStaysSilent, TimesOut(), 1, {RawServer::Https}},
     {"byte_a_second", Answers(ByteASecond()), TimesOut(), 2},
     {"never_accepts", NeverAccepts, TimesOut(), 1},
 };

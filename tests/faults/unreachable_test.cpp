@@ -1,4 +1,4 @@
-// Addresses that never reply, in a network namespace of the test, where one can be created.
+// Addresses that never reply, in a separate network namespace. Skipped where none can be created.
 #include "FaultMatrix.h"
 #include "support/TestApplication.h"
 
@@ -17,7 +17,7 @@ constexpr const char* kWithoutRoute = "198.51.100.1";
 
 bool g_bOwnNetwork = false;
 
-/// Enters an empty network namespace, as its root. Must run before the process starts threads.
+/// Enters a new network namespace as its root user. Must run before the process starts threads.
 bool EnterNetwork()
 {
     const auto user = std::to_string(getuid());
@@ -41,7 +41,7 @@ bool RunsInShell(const std::string& command)
     return std::system(text.c_str()) == 0;  // NOLINT(cert-env33-c,concurrency-mt-unsafe): see above
 }
 
-/// A link whose other end drops everything sent to the address, because no interface has it.
+/// Creates a link whose far end drops everything sent to the address, because no interface has that address.
 bool MakeBlackHole()
 {
     return RunsInShell(
@@ -50,19 +50,19 @@ bool MakeBlackHole()
         std::string(kBlackHole) + " lladdr 02:00:00:00:00:02 dev near");
 }
 
-std::function<FaultSetup(RawServer::Scheme)> LiesAt(const char* host)
+std::function<FaultSetup(RawServer::Scheme)> IsAtHost(const char* host)
 {
     return [host](RawServer::Scheme scheme) {
         FaultSetup setup = BesideHealthy(scheme, 443);
         setup.faulty.host = host;
-        setup.missing = g_bOwnNetwork ? nullptr : "no network namespace can be made here, or iproute2 is not installed";
+        setup.missing = g_bOwnNetwork ? nullptr : "no network namespace can be created, or iproute2 is not installed";
         return setup;
     };
 }
 
 const std::vector<Fault> kFaults = {
-    {"black_hole", LiesAt(kBlackHole), TimesOut(), 1},
-    {"without_route", LiesAt(kWithoutRoute), NetworkFails("99", "Network unreachable")},
+    {"black_hole", IsAtHost(kBlackHole), TimesOut(), 1},
+    {"without_route", IsAtHost(kWithoutRoute), NetworkFails("99", "Network unreachable")},
 };
 
 INSTANTIATE_TEST_SUITE_P(Unreachable, FaultMatrix, testing::ValuesIn(Matrix(kFaults)), RowName());
@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Unreachable, FaultMatrix, testing::ValuesIn(Matrix(kFau
 
 int main(int argc, char** argv)
 {
-    // Without iproute2 the empty network could not be set up and would lack even the loopback address.
+    // Without iproute2 the new network could not be set up and would lack even the loopback address.
     g_bOwnNetwork = RunsInShell("command -v ip >/dev/null") && EnterNetwork() && MakeBlackHole();
     CountObjects();
     const TestApplication application(argc, argv);

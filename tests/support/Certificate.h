@@ -11,7 +11,7 @@ struct Certificate {
     QSslKey key;
 };
 
-/// Whom a certificate names, and from when to when it holds, in days from now.
+/// The name in a certificate and its period of validity, in days from now.
 struct CertificateSubject {
     QByteArray name = "localhost";
     int fromDay = -1;

@@ -15,7 +15,7 @@ namespace testing_support {
 
 constexpr const char* kFacadeFile = "src/UI/APIModule/APIModule";
 
-/// Everything that one call hands to ExecuteFuncs, with values that most tests can leave alone.
+/// All arguments of a call of ExecuteFuncs, with defaults that suit most tests.
 struct HostCall {
     APIModule::Method method = APIModule::Method_Get;
     QString url = QStringLiteral("/path");
@@ -32,7 +32,7 @@ struct HostCall {
     bool notifyOnFailure = true;
 };
 
-/// Runs a call with a Pack of the test.
+/// Runs the call with a Pack that makes its request.
 int Execute(const HostCall& call);
 
 /// A host that has initialised the library and knows one server.

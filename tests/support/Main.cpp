@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-// The application object is made before the tests, as a host makes it before it calls the library.
+// The application object is created before the tests, as a host creates it before calling the library.
 int main(int argc, char** argv)
 {
     const testing_support::TestApplication application(argc, argv);

@@ -18,9 +18,9 @@ namespace testing_support {
 
 namespace {
 
-/// Delimit a formatted number inside a text, until the text's quotes are removed. No other text contains them.
+/// Mark a number that is written as a string until its quotes are removed. No other string contains these characters.
 constexpr QChar kBeforeNumber(0xE000);
-constexpr QChar kBehindNumber(0xE001);
+constexpr QChar kAfterNumber(0xE001);
 
 using Doubles = std::numeric_limits<double>;
 
@@ -94,7 +94,7 @@ QJsonObject RandomJson::Document(const std::function<QJsonObject()>& make)
     }
     QString text = QString::fromUtf8(QJsonDocument(built).toJson(QJsonDocument::Compact));
     text.remove(QLatin1Char('"') + QString(kBeforeNumber));
-    text.remove(QString(kBehindNumber) + QLatin1Char('"'));
+    text.remove(QString(kAfterNumber) + QLatin1Char('"'));
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
     if (error.error != QJsonParseError::NoError) {
@@ -146,7 +146,7 @@ QJsonValue RandomJson::Value(int nDepth)
 
 QJsonValue RandomJson::Number()
 {
-    return m_bParsed ? QJsonValue(kBeforeNumber + WrittenNumber() + kBehindNumber) : BuiltNumber();
+    return m_bParsed ? QJsonValue(kBeforeNumber + WrittenNumber() + kAfterNumber) : BuiltNumber();
 }
 
 QJsonValue RandomJson::BuiltNumber()
@@ -199,7 +199,8 @@ QString RandomJson::WrittenNumber()
         text += QLatin1Char('.') + Digits();
     }
     if (OneIn(4)) {
-        constexpr quint64 kMostExponent = 280;  // with all the digits still within a double
+        constexpr quint64 kMostExponent =
+            280;  // so that the number, with all its digits, is still within the range of double
         text += OneIn(2) ? QStringLiteral("e") : QStringLiteral("E-");
         text += QString::number(OneIn(2) ? UpTo(20) : UpTo(kMostExponent));
     }

@@ -8,14 +8,14 @@
 
 namespace testing_support {
 
-/// Gives a number from 0 to the given one, both included.
+/// Returns a number from 0 to @p most, inclusive.
 using Choose = std::function<quint64(quint64 most)>;
 
-/// The same numbers in every run with the same seed, which is printed.
+/// Prints the seed. The same seed gives the same numbers in every run.
 Choose SeededChoice(quint64 seed);
 
-/// Random JSON with a preference for the values at which conversions part: numbers at the limits of their types, texts
-/// that look like numbers and flags.
+/// Random JSON that prefers values that conversions treat differently: numbers at the limits of their types, and texts
+/// that look like numbers or booleans.
 class RandomJson {
 public:
     explicit RandomJson(Choose choose);
@@ -23,11 +23,11 @@ public:
     quint64 UpTo(quint64 most);
     bool OneIn(quint64 number);
 
-    /// The object that @p make puts together with values of this generator: half of them as they were built, half
-    /// parsed from text, for Qt stores the two differently.
+    /// Returns an object that @p make builds from values of this generator. Half of the objects are returned as built,
+    /// the others are written and parsed again, because Qt stores the two differently.
     QJsonObject Document(const std::function<QJsonObject()>& make);
 
-    /// A value of any type, within Document().
+    /// A value of any type, for use within Document().
     QJsonValue Value(int nDepth = 2);
 
 private:

@@ -93,7 +93,7 @@ void Vanish(QAbstractSocket& socket)
 {
     socket.flush();
     const int nOn = 1;
-    // Refused where the other side has ended the connection already.
+    // Fails if the other side has already ended the connection.
     setsockopt(int(socket.socketDescriptor()), IPPROTO_TCP, TCP_REPAIR, &nOn, sizeof(nOn));
     socket.abort();
 }
@@ -198,7 +198,7 @@ protected:
     {
         auto* pSocket = new QSslSocket(this);
         pSocket->setSocketDescriptor(descriptor);
-        // Otherwise an answer waits until the client has acknowledged what came before it, and a reset discards it.
+        // Otherwise a reply waits until the client has acknowledged earlier data, and a reset discards it.
         pSocket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         const int nConnection = ++m_server.m_connections;
         ++m_server.m_openConnections;

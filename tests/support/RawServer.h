@@ -19,9 +19,9 @@ class QEventLoop;
 
 namespace testing_support {
 
-/// An HTTP request as it came over the wire.
+/// An HTTP request as received.
 struct RawRequest {
-    QByteArray head;  ///< from the first byte to the empty line, which is left out
+    QByteArray head;  ///< from the first byte up to the empty line, which is excluded
     QByteArray method;
     QByteArray target;
     QList<QPair<QByteArray, QByteArray>> headers;
@@ -41,28 +41,28 @@ struct RawAnswer {
         Close,
         CloseLater,
         Reset,
-        HalfClose,  ///< stops sending but keeps reading; over TLS without a close notification
-        Vanish      ///< the other side learns of it when it sends; as root only
+        HalfClose,  ///< stops sending but keeps reading; over TLS without close_notify
+        Vanish      ///< the other side notices it only when it sends; needs root
     };
 
-    QByteArray bytes;             ///< sent unchanged; nothing when empty
-    int delayMilliseconds = 0;    ///< before the bytes
-    Then then = KeepOpen;         ///< after the bytes
-    int trickleMilliseconds = 0;  ///< between one byte and the next; 0 sends all at once
-    QByteArray moreBytes = {};    ///< sent as a separate segment and TLS record
-    int moreMilliseconds = 0;     ///< between the bytes and more bytes
-    int endlessPerSecond = 0;     ///< sends more bytes again and again, so many a second, until the server is destroyed
-    int thenMilliseconds = 0;     ///< delay between the last byte and the end
+    QByteArray bytes;                 ///< sent unchanged; nothing when empty
+    int delayMilliseconds = 0;        ///< before the bytes
+    Then then = KeepOpen;             ///< after the bytes
+    int trickleMilliseconds = 0;      ///< between one byte and the next; 0 sends all at once
+    QByteArray moreBytes = {};        ///< sent as a separate segment and TLS record
+    int moreMilliseconds = 0;         ///< between the bytes and moreBytes
+    int endlessPerSecond = 0;         ///< if not 0, repeats moreBytes at this rate until the server is destroyed
+    int thenMilliseconds = 0;         ///< delay between the last byte and the end
     std::shared_ptr<void> done = {};  ///< released when all of the above is done or the connection is closed
 };
 
-/// Whether this process may let a connection vanish.
+/// Whether this process may use RawAnswer::Vanish.
 bool CanVanish();
 
-/// A complete HTTP answer.
+/// A complete HTTP reply.
 RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
 
-/// What an HTTPS server with this certificate needs.
+/// The TLS configuration of a server with this certificate.
 QSslConfiguration ServerConfiguration(const Certificate& certificate);
 
 /// A server on loopback, on a separate thread, with full control of the bytes that it sends.
@@ -84,10 +84,10 @@ public:
 
     int Port() const { return m_port; }
 
-    /// From now on whatever a client sends is answered as if it were a request.
+    /// From now on, replies to anything a client sends as if it were a request.
     void AnswerAnything() { m_bAnswersAnything = true; }
 
-    /// From now on connections that are idle for so long are closed.
+    /// From now on, closes connections that are idle for this long.
     void CloseIdleAfter(int milliseconds) { m_idleMilliseconds = milliseconds; }
 
     std::vector<RawRequest> TakeRequests();
@@ -100,7 +100,7 @@ private:
 
     RawServer(const Responder& responder, const std::optional<QSslConfiguration>& configuration);
 
-    std::thread m_thread;  // no QThread, whose wait() returns before the thread's TLS state has been cleaned up
+    std::thread m_thread;           // not a QThread, whose wait() returns before the thread's TLS state is cleaned up
     QEventLoop* m_pLoop = nullptr;  // of m_thread
     std::mutex m_mutex;
     std::vector<RawRequest> m_requests;

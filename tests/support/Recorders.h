@@ -12,7 +12,7 @@
 
 namespace testing_support {
 
-/// One log line as the tests compare it: everything but the line number, which must only be there.
+/// A log line as the tests compare it: without the line number, which must only be positive.
 struct LogLine {
     std::string file;
     std::string function;
@@ -25,7 +25,7 @@ std::ostream& operator<<(std::ostream& stream, const LogLine& line);
 
 using LogLines = std::vector<LogLine>;
 
-/// Collects everything that is logged during its lifetime.
+/// Collects all log lines during its lifetime.
 class LogRecorder {
 public:
     LogRecorder();
@@ -40,7 +40,7 @@ private:
     LogLines m_lines;
 };
 
-/// Collects the texts that are notified while it lives.
+/// Collects the notified texts during its lifetime.
 class NotificationRecorder {
 public:
     NotificationRecorder();
@@ -55,5 +55,5 @@ private:
 
 }  // namespace testing_support
 
-/// Shows the text where a comparison fails.
+/// Prints the text when a comparison fails.
 void PrintTo(const QString& text, std::ostream* pStream);

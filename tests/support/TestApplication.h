@@ -7,8 +7,7 @@ extern "C" void __lsan_ignore_object(const void*) __attribute__((weak));  // NOL
 
 namespace testing_support {
 
-/// The application object of a test. The window-system plugin without windows never deletes its screens, which is no
-/// leak of ours.
+/// The application object of a test. Ignores the screens, which the offscreen plugin never deletes, in the leak check.
 class TestApplication : public QApplication {
 public:
     TestApplication(int& argc, char** argv) : QApplication(argc, argv)

@@ -2,13 +2,13 @@
 
 namespace testing_support {
 
-/// The two ways of waiting for a reply.
+/// The two kinds of wait for a reply.
 enum Waiting {
     InLoop,
     BehindDialog
 };
 
-/// The function that the lines of a wait name.
+/// The function that log lines of this wait name.
 inline const char* FunctionOf(Waiting waiting)
 {
     return waiting == InLoop ? "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg"

@@ -9,7 +9,7 @@
 
 namespace testing_support {
 
-/// Ends the process when a test hangs, instead of leaving that to the time-out of the whole program.
+/// Ends the process when a test hangs, before the time-out of the test program.
 class Watchdog {
 public:
     Watchdog()

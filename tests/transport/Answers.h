@@ -6,7 +6,7 @@
 
 namespace testing_support {
 
-/// An answer on the wire, ordinary or odd.
+/// The bytes of a reply, ordinary or odd.
 struct Answer {
     const char* name;
     RawAnswer answer;

@@ -54,7 +54,7 @@ QByteArray Deflated(const QByteArray& bytes, Wrapper wrapper)
 QByteArray GzipOfMegabytes(int nMegabytes)
 {
     constexpr int kMegabyte = 1024 * 1024;
-    // After a full flush nothing refers to earlier data, so that one megabyte can be repeated.
+    // After a full flush nothing refers to earlier data, so the same compressed megabyte can be repeated.
     Deflater deflater(Wrapper::Gzip);
     QByteArray gzip = deflater.Append(QByteArray(), Z_FULL_FLUSH);
     const QByteArray megabyte = deflater.Append(QByteArray(kMegabyte, ' '), Z_FULL_FLUSH);

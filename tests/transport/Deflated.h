@@ -12,7 +12,7 @@ enum class Wrapper {
 
 QByteArray Deflated(const QByteArray& bytes, Wrapper wrapper = Wrapper::Gzip);
 
-/// A gzip body of some thousandth of the size that it has inflated, a number of megabytes.
+/// A gzip body that inflates to this many megabytes, about a thousand times its size.
 QByteArray GzipOfMegabytes(int nMegabytes);
 
 }  // namespace testing_support

@@ -8,9 +8,9 @@ namespace testing_support {
 
 using APIModule::CAPIModule;
 
-std::shared_ptr<void> Happening::Handle() const
+std::shared_ptr<void> Signal::Handle() const
 {
-    return std::shared_ptr<void>(nullptr, [pHappened = m_pHappened](void*) { *pHappened = true; });
+    return std::shared_ptr<void>(nullptr, [pHappened = m_pRaised](void*) { *pHappened = true; });
 }
 
 Ended TransportHost::Run(APIModule::Method method, const QString& url, const QString& body, int nTimeout)

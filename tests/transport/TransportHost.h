@@ -11,38 +11,38 @@
 
 namespace testing_support {
 
-/// What came of a call.
+/// The outcome of a call.
 struct Ended {
-    int code = 0;  ///< result, or the code that was notified
+    int code = 0;  ///< the result, or the notified code
     bool parsed = false;
-    int tag = -1;  ///< "n" of the data that the Parse was given
+    int tag = -1;  ///< "n" in the data that the Parse received
 };
 
-/// Whether something on the other side of a thread has happened.
-class Happening {
+/// Reports whether an event in another thread has occurred.
+class Signal {
 public:
-    /// The event happens when the last copy of the returned pointer is destroyed.
+    /// The event occurs when the last copy of the returned pointer is destroyed.
     std::shared_ptr<void> Handle() const;
-    bool HasHappened() const { return *m_pHappened; }
+    bool WasRaised() const { return *m_pRaised; }
 
 private:
-    std::shared_ptr<std::atomic<bool>> m_pHappened = std::make_shared<std::atomic<bool>>(false);
+    std::shared_ptr<std::atomic<bool>> m_pRaised = std::make_shared<std::atomic<bool>>(false);
 };
 
-/// A host whose calls meet servers that treat their connections badly.
+/// A host that calls servers with connection faults.
 class TransportHost : public FaultHost {
 protected:
-    /// Runs a call that is notified when it fails without an answer.
+    /// Runs a call whose failure is notified only if no reply arrives.
     Ended Run(APIModule::Method method, const QString& url, const QString& body = {}, int nTimeout = 20);
     Ended Get(const QString& url) { return Run(APIModule::Method_Get, url); }
 };
 
-/// How many times the usual number of calls the program makes: APIMODULE_TIMES in the environment, otherwise 1.
+/// The factor by which the program multiplies its number of calls: APIMODULE_TIMES in the environment, otherwise 1.
 int Times();
 
-/// A success with the number of its request as data.
+/// A successful reply whose data is the number of its request.
 RawAnswer TaggedAnswer(int nTag);
-/// The number behind the last slash of a target.
+/// The number after the last slash of a target.
 int TagOf(const QByteArray& target);
 
 }  // namespace testing_support

@@ -1,5 +1,5 @@
-// Bytes that arrive after an answer, from servers that answer twice, or with a status that has no body, or with a
-// length that is too small. No call gets an answer to another.
+// Bytes that arrive after a reply: from servers that reply twice, send a body with a status that has none, or send a
+// Content-Length that is too small. No call receives the reply to another.
 #include "support/Rows.h"
 #include "TransportHost.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 const QByteArray kForeign = TaggedAnswer(999999).bytes;
 
-/// What the server sends instead of the plain reply to a request, whose data are @p own.
+/// What the server sends instead of @p own, the plain reply to a request.
 struct Foreign {
     const char* name;
     std::function<RawAnswer(const RawAnswer& own)> make;
@@ -28,7 +28,7 @@ RawAnswer WithMore(const QByteArray& bytes, const QByteArray& more, int nMillise
     return answer;
 }
 
-/// A separate head before the answer, which follows at once, in another segment, or some time later.
+/// A separate head before the reply, which follows at once, in another segment, or some time later.
 std::function<RawAnswer(const RawAnswer&)> HeadBefore(const QByteArray& head, int nMilliseconds = -1)
 {
     return [head, nMilliseconds](const RawAnswer& own) {
@@ -36,7 +36,7 @@ std::function<RawAnswer(const RawAnswer&)> HeadBefore(const QByteArray& head, in
     };
 }
 
-/// The answer with another one behind it.
+/// The reply, followed by another one.
 std::function<RawAnswer(const RawAnswer&)> TwoAnswers(int nMilliseconds = -1)
 {
     return [nMilliseconds](const RawAnswer& own) {
@@ -44,7 +44,7 @@ std::function<RawAnswer(const RawAnswer&)> TwoAnswers(int nMilliseconds = -1)
     };
 }
 
-/// The answer with a body whose length leaves out the second half, which is an answer itself.
+/// A reply whose Content-Length omits the second half of its body, which contains another reply.
 std::function<RawAnswer(const RawAnswer&)> LengthTooSmall(int nMilliseconds = -1)
 {
     return [nMilliseconds](const RawAnswer& own) {
@@ -65,9 +65,9 @@ const std::vector<Foreign> kForeigns = {
     {"103", HeadBefore("HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n"), 103},
     {"103_later", HeadBefore("HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n", kLaterMs), 103},
     {"204_with_body", HeadBefore("HTTP/1.1 204 No Content\r\n" + kBodyless), 204},
-    {"204_and_an_answer_later", HeadBefore("HTTP/1.1 204 No Content\r\n\r\n", kLaterMs), 204},
+    {"204_and_a_reply_later", HeadBefore("HTTP/1.1 204 No Content\r\n\r\n", kLaterMs), 204},
     {"304_with_body", HeadBefore("HTTP/1.1 304 Not Modified\r\n" + kBodyless), 304},
-    {"304_and_an_answer_later", HeadBefore("HTTP/1.1 304 Not Modified\r\n\r\n", kLaterMs), 304},
+    {"304_and_a_reply_later", HeadBefore("HTTP/1.1 304 Not Modified\r\n\r\n", kLaterMs), 304},
     {"two_answers", TwoAnswers(), 0},
     {"two_answers_in_segments", TwoAnswers(0), 0},
     {"two_answers_the_second_later", TwoAnswers(kLaterMs), 0},
@@ -76,7 +76,7 @@ const std::vector<Foreign> kForeigns = {
     {"length_too_small_the_rest_later", LengthTooSmall(kLaterMs), -1},
 };
 
-/// What the host does until the foreign bytes have arrived.
+/// How the host waits until the foreign bytes have arrived.
 enum Between {
     EventLoop,
     Sleep
@@ -111,7 +111,7 @@ std::vector<ForeignCase> Cases()
 
 class ForeignAnswer : public TransportHost, public testing::WithParamInterface<ForeignCase> {};
 
-TEST_P(ForeignAnswer, ReachesNoCall)
+TEST_P(ForeignAnswer, IsNotReceivedByAnotherCall)
 {
     const auto& [name, foreign, scheme, between] = GetParam();
     const int nCalls = 8 * Times();
@@ -133,7 +133,7 @@ TEST_P(ForeignAnswer, ReachesNoCall)
                                               APIModule::Method_Delete};
     int nForeign = 0;
     for (int i = 0; i < nCalls / 2; ++i) {
-        const Happening sent;
+        const Signal sent;
         {
             const std::lock_guard<std::mutex> lock(mutex);
             handle = sent.Handle();
@@ -142,9 +142,9 @@ TEST_P(ForeignAnswer, ReachesNoCall)
         EXPECT_EQ(first.code, foreign.code);
         nForeign += first.parsed && first.tag != 2 * i ? 1 : 0;
         if (between == EventLoop) {
-            ASSERT_TRUE(Await([&sent] { return sent.HasHappened(); }));
+            ASSERT_TRUE(Await([&sent] { return sent.WasRaised(); }));
         }
-        while (!sent.HasHappened()) {
+        while (!sent.WasRaised()) {
             QThread::usleep(100);
         }
         const Ended second = Run(kMethods[i % 4], QStringLiteral("/own/%1").arg(2 * i + 1), QStringLiteral("{}"));

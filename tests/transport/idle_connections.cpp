@@ -1,5 +1,5 @@
-// Counts how calls end whose kept connection closes at about the time they begin, compared with QNetworkAccessManager:
-// prints the table of docs/testing.md.
+// Counts failures of calls that start at about the time their kept connection closes, compared with
+// QNetworkAccessManager. Prints the table in docs/testing.md.
 #include "support/TestApplication.h"
 #include "TransportHost.h"
 
@@ -23,7 +23,7 @@ constexpr int kTimeoutSeconds = 2;
 /// Makes a call. @return 0, or the error
 using Client = std::function<int(const RawServer& server, RawServer::Scheme scheme, bool bWrite, const QString& path)>;
 
-/// @return -101 without an answer in time, the number of Qt's error, or 0
+/// @return 0, Qt's error number, or -101 if no reply arrives in time
 int CallQt(QNetworkAccessManager& manager, const RawServer& server, RawServer::Scheme scheme, bool bWrite,
            const QString& path)
 {
@@ -43,7 +43,7 @@ int CallQt(QNetworkAccessManager& manager, const RawServer& server, RawServer::S
     return pReply->isFinished() ? int(pReply->error()) : kTimedOut;
 }
 
-/// A host of the library outside a test.
+/// A host of the library for use outside a test.
 class LibraryHost : public TransportHost {
 public:
     int Call(const RawServer& server, RawServer::Scheme scheme, bool bWrite, const QString& path)
@@ -124,7 +124,7 @@ int main(int argc, char** argv)
 {
     const TestApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
-    const int nCalls = argc > 1 ? std::atoi(argv[1]) : 150;  // NOLINT(cert-err34-c): for a person
+    const int nCalls = argc > 1 ? std::atoi(argv[1]) : 150;  // NOLINT(cert-err34-c): typed by a developer
     QNetworkAccessManager manager;
     const auto callQt = [&manager](const RawServer& server, RawServer::Scheme scheme, bool bWrite,
                                    const QString& path) { return CallQt(manager, server, scheme, bWrite, path); };

@@ -17,7 +17,7 @@ using APIModule::ObservedExchange;
 
 namespace {
 
-constexpr const char* kHost = "platform.example";  // no name server knows it: only the proxy resolves it
+constexpr const char* kHost = "platform.example";  // not a public name: only the proxy resolves it
 constexpr int kPort = 8443;
 
 /// A proxy that replies to CONNECT and, after a success, forwards all bytes to a server on loopback.
@@ -117,7 +117,7 @@ TEST_F(ProxyTest, ReceivesIpv6AddressesInBrackets)
     EXPECT_EQ(requests[0].Value("Host"), "[2001:db8::1]:8443");
 }
 
-TEST_F(ProxyTest, ReceivesItsCredentialsWhichObserversDoNot)
+TEST_F(ProxyTest, ReceivesCredentialsThatObserversDoNotSee)
 {
     RawServer proxy([](const RawRequest&) { return SuccessAnswer(); });
     Set(proxy.Port(), QStringLiteral("user"), QStringLiteral("secret"));
@@ -167,7 +167,7 @@ void PrintTo(const Refusal& row, std::ostream* pStream)
     *pStream << row.name;
 }
 
-/// A tunnel that is not established ends the call as a network error with Qt's number of it.
+/// A tunnel that cannot be established ends the call as a network error with Qt's error number.
 class RefusalTest : public ProxyTest, public testing::WithParamInterface<Refusal> {};
 
 TEST_P(RefusalTest, EndsTheCallAsANetworkError)
@@ -198,7 +198,7 @@ const Refusal kRefusals[] = {
 
 INSTANTIATE_TEST_SUITE_P(Tunnels, RefusalTest, testing::ValuesIn(kRefusals), RowName());
 
-TEST_F(ProxyTest, ThatIsUnreachableEndsTheCallAsANetworkError)
+TEST_F(ProxyTest, CallFailsWhenProxyIsUnreachable)
 {
     {
         const Tunnel closed(kEstablished, 0);
@@ -210,7 +210,7 @@ TEST_F(ProxyTest, ThatIsUnreachableEndsTheCallAsANetworkError)
     }
 }
 
-TEST_F(ProxyTest, WithAnUnknownNameEndsTheCallAsANetworkError)
+TEST_F(ProxyTest, CallFailsWhenProxyNameIsUnknown)
 {
     QNetworkProxy::setApplicationProxy(
         QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("no-such-proxy.invalid"), kPort));

@@ -1,5 +1,4 @@
-// How often a request reaches a server that ends the connection instead of answering, or that closes connections that
-// are idle.
+// How often a request reaches a server that ends the connection without a reply, or that closes idle connections.
 #include "support/Rows.h"
 #include "TransportHost.h"
 
@@ -56,7 +55,7 @@ struct Row {
     Request request;
     End end;
     RawServer::Scheme scheme;
-    bool kept;  ///< whether the request travels on a connection that carried another one before
+    bool kept;  ///< whether the request is sent on a connection that carried another one before
 };
 
 void PrintTo(const Row& row, std::ostream* pStream)
@@ -105,7 +104,7 @@ protected:
                 ++nArrivals;
             }
         }
-        EXPECT_EQ(Get(QStringLiteral("/ok")).code, 0) << "the call after it";
+        EXPECT_EQ(Get(QStringLiteral("/ok")).code, 0) << "the next call must succeed";
         return nArrivals;
     }
 };
@@ -129,7 +128,7 @@ TEST_P(ReadTest, IsRepeatedOnceWhenAKeptConnectionClosesBeforeAReply)
 
 INSTANTIATE_TEST_SUITE_P(Reads, ReadTest, testing::ValuesIn(Rows({{"get", APIModule::Method_Get, 0}})), RowName());
 
-/// A kept connection that has ended, which the host's event loop may or may not have had time to see.
+/// A kept connection that has ended. The host's event loop may or may not have had time to notice it.
 struct Ending {
     std::string name;
     RawServer::Scheme scheme;
@@ -164,7 +163,7 @@ std::vector<Ending> Endings()
 
 class EndingTest : public TransportHost, public testing::WithParamInterface<Ending> {};
 
-TEST_P(EndingTest, LosesNoCallAndRepeatsNone)
+TEST_P(EndingTest, NeitherLosesNorRepeatsCalls)
 {
     const Ending& row = GetParam();
     std::mutex mutex;
@@ -184,16 +183,16 @@ TEST_P(EndingTest, LosesNoCallAndRepeatsNone)
     Use(server, row.scheme);
     constexpr int kCalls = 20;
     for (int i = 1; i <= kCalls; ++i) {
-        const Happening ended;
+        const Signal ended;
         {
             const std::lock_guard<std::mutex> lock(mutex);
             handle = ended.Handle();
         }
         ASSERT_EQ(Get(QStringLiteral("/first")).code, 0);
         if (row.inEventLoop) {
-            ASSERT_TRUE(Await([&ended] { return ended.HasHappened(); }));
+            ASSERT_TRUE(Await([&ended] { return ended.WasRaised(); }));
         }
-        while (!ended.HasHappened()) {
+        while (!ended.WasRaised()) {
             QThread::usleep(100);
         }
         const Ended second = Run(row.method, QStringLiteral("/second/%1").arg(i), QStringLiteral("{}"));
@@ -205,7 +204,7 @@ TEST_P(EndingTest, LosesNoCallAndRepeatsNone)
 
 INSTANTIATE_TEST_SUITE_P(Endings, EndingTest, testing::ValuesIn(Endings()), RowName());
 
-/// What came before on a connection is of no weight for the end that marks a body's end.
+/// Earlier replies on a connection do not matter when its end marks the end of a body.
 TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
 {
     for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
@@ -227,7 +226,7 @@ TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
     }
 }
 
-/// Writes to servers that close idle connections, each after a pause about as long as theirs.
+/// Writes to servers that close idle connections, with pauses about as long as the servers' idle time.
 struct Pausing {
     std::string name;
     RawServer::Scheme scheme;
@@ -243,7 +242,7 @@ void PrintTo(const Pausing& row, std::ostream* pStream)
 
 class PauseTest : public TransportHost, public testing::WithParamInterface<Pausing> {};
 
-TEST_P(PauseTest, LosesNoWriteAndRepeatsNone)
+TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
 {
     const Pausing& row = GetParam();
     const int nWritesPerServer = row.writesPerServer * Times();
@@ -259,11 +258,11 @@ TEST_P(PauseTest, LosesNoWriteAndRepeatsNone)
     QObject context;
     std::mt19937 random(1);  // NOLINT(cert-msc51-cpp): the same pauses in every run
     int nFailures = 0;
-    int nToGo = row.servers;
-    // Calls to one server follow each other; those to others run meanwhile.
+    int nRunning = row.servers;
+    // Calls to the same server follow one another; calls to other servers run meanwhile.
     std::function<void(int, int)> write = [&](int nServer, int nWrite) {
         if (nWrite == nWritesPerServer) {
-            if (--nToGo == 0) {
+            if (--nRunning == 0) {
                 loop.quit();
             }
             return;

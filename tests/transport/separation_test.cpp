@@ -1,4 +1,4 @@
-// What one call leaves for the next: connections within one use of the library, and nothing else.
+// Calls between Init and UnInit share connections, and nothing else.
 #include "support/Rows.h"
 #include "TransportHost.h"
 
@@ -59,7 +59,7 @@ TEST_P(Separation, ConnectionsAreKeptUntilUnInit)
             EXPECT_EQ(request.connection, nUse);
         }
         CAPIModule::GetInstance().UnInit();
-        EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 0; })) << "after the end of use";
+        EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 0; })) << "after UnInit";
         CAPIModule::GetInstance().Init(&users);
     }
     EXPECT_EQ(server.ConnectionCount(), 3);
@@ -88,9 +88,9 @@ TEST_P(Separation, WaitingCallDoesNotShareItsConnection)
     const std::vector<RawRequest> requests = server.TakeRequests();
     ASSERT_EQ(requests.size(), 4U);
     EXPECT_EQ(requests[0].connection, 1);
-    EXPECT_EQ(requests[1].connection, 1) << "waits";
-    EXPECT_EQ(requests[2].connection, 2) << "meanwhile";
-    EXPECT_EQ(requests[3].connection, 2) << "after both";
+    EXPECT_EQ(requests[1].connection, 1) << "the waiting call";
+    EXPECT_EQ(requests[2].connection, 2) << "the call made meanwhile";
+    EXPECT_EQ(requests[3].connection, 2) << "after both calls";
     EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 1; }));
 }
 

@@ -1,5 +1,4 @@
-// Answers that are large: above the largest size they end the call, below it they are read in good time and with
-// bounded memory.
+// Large replies: above the size limit they end the call, below it they are read quickly and with bounded memory.
 #include "Deflated.h"
 #include "support/Rows.h"
 #include "TransportHost.h"
@@ -16,7 +15,7 @@ constexpr qint64 kMegabyte = 1024 * 1024;
 constexpr qint64 kDefaultSize = 512 * kMegabyte;
 const QByteArray kOk = "HTTP/1.1 200 OK\r\n";
 
-/// An envelope of this size, blanks at its end.
+/// An envelope of this size, padded with spaces.
 QByteArray Envelope(int nSize)
 {
     return QByteArray(R"({"code":1000,"data":{"n":1}})").leftJustified(nSize, ' ');
@@ -35,8 +34,8 @@ qint64 PeakOfMemory()
     return nKilobytes * 1024;
 }
 
-/// Resets the peak.
-void ForgetPeakOfMemory()
+/// Resets the peak to the current size.
+void ResetPeakOfMemory()
 {
     std::ofstream("/proc/self/clear_refs") << "5";
 }
@@ -45,8 +44,8 @@ class SizeTest : public TransportHost {
 protected:
     ~SizeTest() override { CAPIModule::GetInstance().SetMaximumReplySize(kDefaultSize); }
 
-    /// The one line of a call's end.
-    void ExpectRefusalIsLogged()
+    /// Expects one log line about the call, which names the size limit.
+    void ExpectSizeLimitIsLogged()
     {
         const LogLines lines = logs.Take();
         ASSERT_EQ(lines.size(), 2U);
@@ -99,7 +98,7 @@ const std::vector<Transfer> kTransfers = {
 
 class TransferTest : public SizeTest, public testing::WithParamInterface<std::tuple<Transfer, RawServer::Scheme>> {};
 
-TEST_P(TransferTest, IsRefusedOnlyAboveTheLimit)
+TEST_P(TransferTest, IsRejectedOnlyAboveTheLimit)
 {
     const auto& [transfer, scheme] = GetParam();
     constexpr int kBody = 300000;
@@ -113,7 +112,7 @@ TEST_P(TransferTest, IsRefusedOnlyAboveTheLimit)
     logs.Take();
     CAPIModule::GetInstance().SetMaximumReplySize(kBody - 1);
     EXPECT_EQ(Get(QStringLiteral("/path")).code, kNetworkError);
-    ExpectRefusalIsLogged();
+    ExpectSizeLimitIsLogged();
     CAPIModule::GetInstance().SetMaximumReplySize(kDefaultSize);
     EXPECT_EQ(Get(QStringLiteral("/path")).code, nAnswered);
 }
@@ -126,15 +125,15 @@ INSTANTIATE_TEST_SUITE_P(Transfers, TransferTest,
                                     (std::get<1>(row.param) == RawServer::Http ? "_http" : "_https");
                          });
 
-/// The server sends only the head, and the call does not wait for more.
-TEST_F(SizeTest, IsRefusedAtOnceByItsContentLength)
+/// The server sends only the head, and the call ends without waiting for more.
+TEST_F(SizeTest, IsRejectedAtOnceByItsContentLength)
 {
     RawServer server([](const RawRequest&) {
         return RawAnswer{kOk + "Content-Length: " + QByteArray::number(kDefaultSize + 1) + "\r\n\r\n"};
     });
     Use(server);
     EXPECT_EQ(Get(QStringLiteral("/path")).code, kNetworkError);
-    ExpectRefusalIsLogged();
+    ExpectSizeLimitIsLogged();
     EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 0; }));
 }
 
@@ -151,17 +150,17 @@ void PrintTo(const Inflated& row, std::ostream* pStream)
 
 class InflatedTest : public SizeTest, public testing::WithParamInterface<Inflated> {};
 
-TEST_P(InflatedTest, GigabyteOfGzipIsRefusedWithinTheMemoryLimit)
+TEST_P(InflatedTest, GigabyteOfGzipIsRejectedWithinTheMemoryLimit)
 {
     const QByteArray gzip = GzipOfMegabytes(1024);
     ASSERT_LT(gzip.size(), 2 * kMegabyte);
     RawServer server([&gzip](const RawRequest&) { return HttpAnswer(200, gzip, "Content-Encoding: gzip\r\n"); });
     Use(server);
     CAPIModule::GetInstance().SetMaximumReplySize(GetParam().maximum * kMegabyte);
-    ForgetPeakOfMemory();
+    ResetPeakOfMemory();
     const qint64 nBefore = PeakOfMemory();
     EXPECT_EQ(Get(QStringLiteral("/path")).code, kNetworkError);
-    ExpectRefusalIsLogged();
+    ExpectSizeLimitIsLogged();
     EXPECT_LT((PeakOfMemory() - nBefore) / kMegabyte, GetParam().peak);
 }
 
@@ -170,7 +169,7 @@ INSTANTIATE_TEST_SUITE_P(Gzip, InflatedTest,
                                          Inflated{"up_to_the_default", 512, 1400}),
                          RowName());
 
-/// Heads that are large, but below the largest size.
+/// Large heads below the size limit.
 struct Head {
     const char* name;
     std::function<QByteArray()> lines;
@@ -215,7 +214,7 @@ const std::vector<Head> kHeads = {
 
 class HeadTest : public SizeTest, public testing::WithParamInterface<Head> {};
 
-/// A reader whose work grows with the square of the lines would meet the time-out.
+/// A reader with quadratic run time would exceed the time-out.
 TEST_P(HeadTest, IsReadBeforeTheTimeOut)
 {
     const QByteArray lines = GetParam().lines();
