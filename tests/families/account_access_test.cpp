@@ -12,7 +12,7 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-/// A call whose only argument is between two parts of its URL.
+/// A call whose only argument is inserted into its URL.
 struct CallOfId {
     std::string name;
     int (*pack)(void*, const std::string&, int);
@@ -32,10 +32,10 @@ std::vector<PackRow> RowsOfId(const CallOfId& call)
         OfId(call, "", "1000001$1$0$0", "1000001$1$0$0"),
         OfId(call, "_empty", "", ""),
         OfId(call, "_is_not_escaped", R"(a/b?c&d#e f"g"+%20)", R"(a/b?c&d#e f"g"+%20)"),
-        OfId(call, "_with_marker_stays", "%1%2b", "%1%2b"),
+        OfId(call, "_with_marker_is_kept", "%1%2b", "%1%2b"),
         OfId(call, "_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
         OfId(call, "_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"),
-        OfId(call, "_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
+        OfId(call, "_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
     };
 }
 
@@ -60,7 +60,7 @@ std::vector<PackRow> PackRows()
                    R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
         kCheckPack("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
                    R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
-        kCheckPack("Check_texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s},
+        kCheckPack("Check_texts_continue_after_a_zero_byte", {"a\0b"s, "c\0d"s},
                    R"({"channelId": "a\u0000b", "functionCode": "c\u0000d"})"),
 
         kCountPack("Count", {"k", "o", "d", "p", "s", "c"},
@@ -74,13 +74,13 @@ std::vector<PackRow> PackRows()
                    "keyword=aORGb&orgCode=ORG&domain=D&permitted=P&sourceType=S&containChild=C"),
         kCountPack("Count_lowest_marker_is_replaced_first", {"%1", "ORG", "D", "P", "S", "C"},
                    "keyword=ORG&orgCode=D&domain=P&permitted=S&sourceType=C&containChild=%6"),
-        kCountPack("Count_marker_in_the_last_field_stays", {"k", "o", "d", "p", "s", "%1%6"},
+        kCountPack("Count_marker_in_the_last_field_is_kept", {"k", "o", "d", "p", "s", "%1%6"},
                    "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=%1%6"),
-        kCountPack("Count_marker_beyond_the_places_stays", {"%9", "o", "d", "p", "s", "c"},
+        kCountPack("Count_marker_beyond_the_parameters_is_kept", {"%9", "o", "d", "p", "s", "c"},
                    "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
-        kCountPack("Count_is_utf8_and_goes_on_behind_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
+        kCountPack("Count_is_utf8_and_continues_after_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
                    "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
-        kCountPack("Count_every_text_goes_on_behind_a_zero_byte",
+        kCountPack("Count_every_text_continues_after_a_zero_byte",
                    {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
                    "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
     };
@@ -131,7 +131,7 @@ std::vector<ParseRow> CheckRows()
         {"text_of_a_fraction", R"("1.9")", 1},
         {"text_of_hexadecimal_digits", R"("0x10")", 0},
         {"text_with_leading_zeros", R"("0010")", 10},
-        {"text_that_goes_on_behind_a_zero_byte", R"("1\u00002")", 1},
+        {"text_that_continues_after_a_zero_byte", R"("1\u00002")", 1},
         {"largest_number", R"("2147483647")", 2147483647},
         {"number_1", "1", 1},
         {"number_0", "0", 0},
@@ -186,14 +186,14 @@ std::vector<ParseRow> ParseRows()
             Row("Tunnel_without_ip_has_https_and_port", kTunnel, R"({"https": true, "port": 8443})",
                 R"({"https": false, "port": 1, "ip": "i", "username": "u", "token": "t"})", -1,
                 R"({"https": true, "port": 8443, "ip": "i", "username": "u", "token": "t"})", {MissingKey("ip")}),
-            Row("Tunnel_behind_authorization_keeps_user_name_and_token", kTunnel,
+            Row("Tunnel_after_authorization_keeps_user_name_and_token", kTunnel,
                 R"({"https": false, "port": 80, "ip": "10.0.0.9"})",
                 R"({"https": true, "port": 0, "ip": "", "username": "admin", "token": "t"})", 0,
                 R"({"https": false, "port": 80, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
             Row("Tunnel_of_text_forms", kTunnel, R"({"https": "1", "port": "8443", "ip": null})",
                 R"({"https": false, "port": 0, "ip": "i", "username": "", "token": ""})", 0,
                 R"({"https": true, "port": 8443, "ip": "", "username": "", "token": ""})"),
-            Row("Authorization_behind_tunnel_keeps_the_tunnel", kAuthorization,
+            Row("Authorization_after_tunnel_keeps_the_tunnel", kAuthorization,
                 R"({"username": "admin", "token": "a\u0000b\u00fc"})",
                 R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "", "token": ""})", 0,
                 R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "a\u0000b\u00fc"})"),
@@ -214,7 +214,7 @@ std::vector<ParseRow> ParseRows()
                         [null, true, 1.5, {"a": "b"}, ["c"], "", "d\u0000e\u00fc"]})",
                 R"({"menuFunctionCodes": [], "localConfigItemCodes": []})", 0,
                 R"({"menuFunctionCodes": [], "localConfigItemCodes": ["", "", "", "", "", "", "d\u0000e\u00fc"]})"),
-            Row("Permissions_without_localConfigItemCodes_leave_both_lists", kPermissions,
+            Row("Permissions_without_localConfigItemCodes_leave_both_lists_unchanged", kPermissions,
                 R"({"menuFunctionCodes": ["a", "b"]})",
                 R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", -1,
                 R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})",
@@ -231,9 +231,9 @@ std::vector<ParseRow> ParseRows()
                 R"([{"deviceCategory": 2, "deviceCount": 3}])", -1,
                 R"([{"deviceCategory": 2, "deviceCount": 3}, {"deviceCategory": 1, "deviceCount": 250}])",
                 {MissingKey("deviceCount")}),
-            Row("Count_without_results_leaves_the_list", kCount, R"({"deviceCategory": 1, "deviceCount": 250})",
-                R"([{"deviceCategory": 2, "deviceCount": 3}])", -1, R"([{"deviceCategory": 2, "deviceCount": 3}])",
-                {MissingKey("results")}),
+            Row("Count_without_results_leaves_the_list_unchanged", kCount,
+                R"({"deviceCategory": 1, "deviceCount": 250})", R"([{"deviceCategory": 2, "deviceCount": 3}])", -1,
+                R"([{"deviceCategory": 2, "deviceCount": 3}])", {MissingKey("results")}),
             Row("Count_empty_results_append_nothing", kCount, R"({"results": []})",
                 R"([{"deviceCategory": 2, "deviceCount": 3}])", 0, R"([{"deviceCategory": 2, "deviceCount": 3}])"),
         },

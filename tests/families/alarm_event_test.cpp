@@ -1,4 +1,4 @@
-// What the client shows about alarms and events.
+// Alarms and events.
 #include "support/Bind.h"
 #include "support/Family.h"
 #include "support/UserManager.h"
@@ -21,7 +21,7 @@ const UrlPack<const GetPageSummaryAlarmPlansParam&> kPlansPack(NAMED(CBRMSModule
 const UrlPack<const std::string&, int> kLinksPack(NAMED(CBRMSModule::PacketGetAlarmLinkControlList), Method_Get,
                                                   "/brms/api/v1.1/alarm/plan/source/alarm-type/linkage/list?");
 
-/// In a client whose numbers have a point behind their thousands.
+/// The same row in a client with the German locale, which separates thousands by a point.
 PackRow InGerman(PackRow row)
 {
     row.run = [run = row.run](void* pReqParamData, int nServerId) {
@@ -51,7 +51,7 @@ const PackRow kPacks[] = {
                "page=-1&pageSize=2147483647&keyword=k"),
     kPlansPack("Plans_keyword_is_not_escaped", {1, 2, "a&b#c %20\"%1%2b"},
                "page=1&pageSize=2&keyword=a&b#c %20\"%1%2b"),
-    kPlansPack("Plans_keyword_is_utf8_and_goes_on_behind_a_zero_byte", {1, 2, "\xC3\xBC\xFF\0b"s},
+    kPlansPack("Plans_keyword_is_utf8_and_continues_after_a_zero_byte", {1, 2, "\xC3\xBC\xFF\0b"s},
                "page=1&pageSize=2&keyword=\xC3\xBC\xEF\xBF\xBD\0b"s),
 
     kLinksPack("Links_src1_and_type_5", "src1", 5, "sourceCode=src1&alarmType=5"),
@@ -60,22 +60,22 @@ const PackRow kPacks[] = {
     kLinksPack("Links_source_is_not_escaped", "a&b#c/%20", 0, "sourceCode=a&b#c/%20&alarmType=0"),
     kLinksPack("Links_marker_in_the_source_is_replaced_by_the_type", "a%1b", 5, "sourceCode=a5b&alarmType=%2"),
     kLinksPack("Links_equal_marker_in_the_source_is_replaced_too", "a%2b", 5, "sourceCode=a5b&alarmType=5"),
-    kLinksPack("Links_higher_marker_in_the_source_stays", "a%3b", 5, "sourceCode=a%3b&alarmType=5"),
-    InGerman(kLinksPack("Links_localised_marker_in_the_source_takes_plain_digits", "a%L1b", 1234567,
+    kLinksPack("Links_higher_marker_in_the_source_is_kept", "a%3b", 5, "sourceCode=a%3b&alarmType=5"),
+    InGerman(kLinksPack("Links_localised_marker_in_the_source_is_replaced_by_plain_digits", "a%L1b", 1234567,
                         "sourceCode=a1234567b&alarmType=%2")),
-    kLinksPack("Links_source_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 5,
+    kLinksPack("Links_source_is_utf8_and_continues_after_a_zero_byte", "\xC3\xBC\xFF\0b"s, 5,
                "sourceCode=\xC3\xBC\xEF\xBF\xBD\0b&alarmType=5"s),
 
     kLayerPack("Layer_code_c9_of_type_3", "c9", 3, "resourceType=3&resourceCode=c9"),
     kLayerPack("Layer_negative_type_and_empty_code", "", -3, "resourceType=-3&resourceCode="),
     kLayerPack("Layer_code_is_not_escaped", "a&b#c%1%2", 0, "resourceType=0&resourceCode=a&b#c%1%2"),
-    kLayerPack("Layer_code_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s, 3,
+    kLayerPack("Layer_code_is_utf8_and_continues_after_a_zero_byte", "\xC3\xBC\xFF\0b"s, 3,
                "resourceType=3&resourceCode=\xC3\xBC\xEF\xBF\xBD\0b"s),
 
     kFilesPack("Files_one", "r1", "r1/file/detail"),
     kFilesPack("Files_empty_id", "", "/file/detail"),
     kFilesPack("Files_id_is_not_escaped", "a/b?c&d#%1", "a/b?c&d#%1/file/detail"),
-    kFilesPack("Files_id_is_utf8_and_goes_on_behind_a_zero_byte", "\xC3\xBC\xFF\0b"s,
+    kFilesPack("Files_id_is_utf8_and_continues_after_a_zero_byte", "\xC3\xBC\xFF\0b"s,
                "\xC3\xBC\xEF\xBF\xBD\0b/file/detail"s),
 
     kAudioFile("Audio_url_and_body_of_the_caller", "/brms/api/v1.1/audio/task?id=1", R"({"taskId":"t1"})",
@@ -99,7 +99,7 @@ const PackRow kPacks[] = {
                 R"({"transportType": "\"a\\b\"", "matchType": "%1\n", "keyword": "\t{}"})"),
     kEventsPack("Events_texts_are_utf8", {"\xC3\xBC", "\xE4\xB8\xAD", "invalid \xFF"},
                 R"({"transportType": "\u00fc", "matchType": "\u4e2d", "keyword": "invalid \ufffd"})"),
-    kEventsPack("Events_texts_go_on_behind_a_zero_byte", {"a\0b"s, "c\0d"s, "e\0f"s},
+    kEventsPack("Events_texts_continue_after_a_zero_byte", {"a\0b"s, "c\0d"s, "e\0f"s},
                 R"({"transportType": "a\u0000b", "matchType": "c\u0000d", "keyword": "e\u0000f"})"),
 };
 
@@ -214,7 +214,7 @@ std::vector<ParseRow> HandWrittenRows()
             R"({"pageData": [{"id": "p1", "planName": "n1"}, {"id": "p2"}, {"id": "p3", "planName": "n3"}]})",
             R"([{"id": "p0", "planName": "n0"}])", -1,
             R"([{"id": "p0", "planName": "n0"}, {"id": "p1", "planName": "n1"}])", {MissingKey("planName")}),
-        Row("Plans_of_results_in_place_of_pageData", kPlans, R"({"results": [{"id": "p1", "planName": "n1"}]})",
+        Row("Plans_with_results_instead_of_pageData", kPlans, R"({"results": [{"id": "p1", "planName": "n1"}]})",
             R"([{"id": "p0", "planName": "n0"}])", -1, R"([{"id": "p0", "planName": "n0"}])", {MissingKey("pageData")}),
         Row("Plans_empty_page_appends_nothing", kPlans, R"({"pageData": []})", R"([{"id": "p0", "planName": "n0"}])", 0,
             R"([{"id": "p0", "planName": "n0"}])"),
@@ -315,8 +315,8 @@ std::vector<ParseRow> HandWrittenRows()
             R"([{"groupId": "g1", "groupName": "n1", "sort": -1, "eventTypes": [
                     {"eventType": "e1", "eventTypeName": "t1", "sort": 12}]}])",
             {MissingKey("sort")}),
-        Row("PluginLog_without_results_leaves_the_list", kPluginLog, R"({"groups": []})", usedGroups, -1, usedGroups,
-            {MissingKey("results")}),
+        Row("PluginLog_without_results_leaves_the_list_unchanged", kPluginLog, R"({"groups": []})", usedGroups, -1,
+            usedGroups, {MissingKey("results")}),
         Row("Events_second_element_without_eventName_keeps_the_first", kEvents,
             R"({"results": [{"id": 1, "eventName": "n1"}, {"id": "2"}]})", R"([{"id": "0", "eventName": "n0"}])", -1,
             R"([{"id": "0", "eventName": "n0"}, {"id": "1", "eventName": "n1"}])", {MissingKey("eventName")}),

@@ -36,7 +36,7 @@ const PackRow kPacks[] = {
     kGetNetworkConfig("GetNetworkConfig", "dev1", "dev1/config/network"),
     kGetNetworkConfig("GetNetworkConfig_code_is_not_escaped", "a b/\xC3\xBC?\"%1#",
                       "a b/\xC3\xBC?\"%1#/config/network"),
-    kGetNetworkConfig("GetNetworkConfig_code_goes_whole", "a\0b\xFF"s, "a\0b\xEF\xBF\xBD/config/network"s),
+    kGetNetworkConfig("GetNetworkConfig_code_is_sent_completely", "a\0b\xFF"s, "a\0b\xEF\xBF\xBD/config/network"s),
     kGetNetworkConfig("GetNetworkConfig_empty_code", "", "/config/network"),
 
     kUpdateNetworkConfig("UpdateNetworkConfig", {"dev1", "10.0.0.7", "255.255.255.0", "10.0.0.1", "10.0.0.2"},
@@ -49,7 +49,7 @@ const PackRow kPacks[] = {
                          R"({"ip": "a", "mask": "", "gateway": "\u00fc", "dns": "\ufffd"})"),
 
     kGetEncodeConfig("GetEncodeConfig", "ch7", "ch7/config/encode"),
-    kGetEncodeConfig("GetEncodeConfig_channel_goes_whole", "a\0\xC3\xBC%1"s, "a\0\xC3\xBC%1/config/encode"s),
+    kGetEncodeConfig("GetEncodeConfig_channel_is_sent_completely", "a\0\xC3\xBC%1"s, "a\0\xC3\xBC%1/config/encode"s),
 
     kUpdateEncodeConfig("UpdateEncodeConfig", "ch7",
                         {{"other", 1, 4096, 2, 3, 1, 25, 50, 1080, 1920}, {"", 2, -512, 0, 4, 0, 12, 24, 288, 352}},
@@ -67,23 +67,23 @@ const PackRow kPacks[] = {
 
     kGetEncodeCapability("GetEncodeCapability_of_ch7_and_stream_type_2", "ch7", 2,
                          "ch7/capability/encode?streamType=2"),
-    kGetEncodeCapability("GetEncodeCapability_marker_in_the_channel_is_rewritten", "a%2b", -3,
+    kGetEncodeCapability("GetEncodeCapability_marker_in_the_channel_is_replaced", "a%2b", -3,
                          "a-3b/capability/encode?streamType=-3"),
-    kGetEncodeCapability("GetEncodeCapability_channel_goes_whole", "a\0b c"s, 0,
+    kGetEncodeCapability("GetEncodeCapability_channel_is_sent_completely", "a\0b c"s, 0,
                          "a\0b c/capability/encode?streamType=0"s),
 
     kGetImageConfig("GetImageConfig", "ch7", "ch7/config/video"),
-    kGetImageConfig("GetImageConfig_channel_goes_whole", "a\0b"s, "a\0b/config/video"s),
+    kGetImageConfig("GetImageConfig_channel_is_sent_completely", "a\0b"s, "a\0b/config/video"s),
 
     kUpdateImageConfig("UpdateImageConfig", {"ch7", 50, -60, 70, 80}, "ch7/config/video",
                        R"({"brightness": 50, "saturation": -60, "contrast": 70, "sharpness": 80})"),
     kUpdateImageConfig("UpdateImageConfig_fresh", {}, "/config/video",
                        R"({"brightness": 0, "saturation": 0, "contrast": 0, "sharpness": 0})"),
-    kUpdateImageConfig("UpdateImageConfig_channel_goes_whole", {"a\0b"s, 1, 2, 3, 4}, "a\0b/config/video"s,
+    kUpdateImageConfig("UpdateImageConfig_channel_is_sent_completely", {"a\0b"s, 1, 2, 3, 4}, "a\0b/config/video"s,
                        R"({"brightness": 1, "saturation": 2, "contrast": 3, "sharpness": 4})"),
 
     kGetMultiCastConfig("GetMultiCastConfig", "ch7", "ch7/config/multicast"),
-    kGetMultiCastConfig("GetMultiCastConfig_channel_goes_whole", "a\0b"s, "a\0b/config/multicast"s),
+    kGetMultiCastConfig("GetMultiCastConfig_channel_is_sent_completely", "a\0b"s, "a\0b/config/multicast"s),
 
     kSetMultiCastConfig(
         "SetMultiCastConfig_stream_type_2_on_is_sent_as_texts", {"ch7", false, {{"239.0.0.1", "5000", 2, true}}},
@@ -165,7 +165,7 @@ std::vector<ParseRow> ParseRows()
                 R"({"deviceCode": "dev1", "ip": "a", "mask": "b", "gateway": "c", "dns": "d"})", -1,
                 R"({"deviceCode": "dev1", "ip": "1", "mask": "2", "gateway": "c", "dns": "d"})",
                 {MissingKey("gateway")}),
-            Row("Encode_second_of_three_without_width_leaves_the_first", kEncode,
+            Row("Encode_second_of_three_without_width_keeps_the_first", kEncode,
                 R"({"encodeConfigurations": [
                     {"streamType": 1, "bitRate": 2, "bitRateControl": 3, "compression": 4, "enable": 5,
                      "frameRate": 6, "iFrameInterval": 7, "height": 8, "width": 9},
@@ -177,8 +177,9 @@ std::vector<ParseRow> ParseRows()
                 R"([{"channelId": "", "streamType": 1, "bitRate": 2, "bitRateControl": 3, "compression": 4,
                      "enable": 5, "frameRate": 6, "iFrameInterval": 7, "height": 8, "width": 9}])",
                 {MissingKey("width")}),
-            Row("Encode_of_an_empty_list_leaves_the_vector", kEncode, R"({"encodeConfigurations": []})", "[]", 0, "[]"),
-            Row("Encode_element_that_is_no_object_reads_as_an_empty_one", kEncode,
+            Row("Encode_of_an_empty_list_leaves_the_vector_unchanged", kEncode, R"({"encodeConfigurations": []})", "[]",
+                0, "[]"),
+            Row("Encode_element_that_is_not_an_object_is_read_as_an_empty_object", kEncode,
                 R"({"encodeConfigurations": [null]})", "[]", -1, "[]", {EmptyObject()}),
             Row("Encode_converts_texts_null_and_flags", kEncode,
                 R"({"encodeConfigurations": [
@@ -195,7 +196,7 @@ std::vector<ParseRow> ParseRows()
                 R"({"supportCompressions": ["1", "x", "-3"]})",
                 R"({"supportCompressions": [], "encodeCapabilities": []})", -1,
                 R"({"supportCompressions": [1, 0, -3], "encodeCapabilities": []})", {MissingKey("encodeCapabilities")}),
-            Row("Capability_second_with_a_format_without_videoWidth_leaves_the_first", kCapability,
+            Row("Capability_second_with_a_format_without_videoWidth_keeps_the_first", kCapability,
                 R"({"supportCompressions": [], "encodeCapabilities": [
                     {"compression": 1, "formats": [{"frameRateMax": 25, "videoHeight": 1080, "videoWidth": 1920}]},
                     {"compression": 3, "formats": [{"frameRateMax": 25, "videoHeight": 1080, "videoWidth": 1920},

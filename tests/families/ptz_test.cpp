@@ -34,7 +34,7 @@ const PackRow kPacks[] = {
                    R"({"data": {"ptzAuxControlXos": [{"channelId": "b", "command": 1},
                                                    {"channelId": "a", "command": 1}]}})"),
     kBatchWashOpen("BatchWashOpen_empty_list_is_sent", {}, R"({"data": {"ptzAuxControlXos": []}})"),
-    kBatchWashOpen("BatchWashOpen_texts_stand_as_they_are", {"", "a\0b"s, "\xC3\xBC\"%1", "x\xFF", "same", "same"},
+    kBatchWashOpen("BatchWashOpen_texts_are_sent_unchanged", {"", "a\0b"s, "\xC3\xBC\"%1", "x\xFF", "same", "same"},
                    R"({"data": {"ptzAuxControlXos": [{"channelId": "", "command": 1},
                                                    {"channelId": "a\u0000b", "command": 1},
                                                    {"channelId": "\u00fc\"%1", "command": 1},
@@ -71,7 +71,7 @@ const char* const kWholeStatus = R"({"lockUser": {"userName": "operator", "userL
 constexpr const char* kFresh = R"({"result": "", "userName": "", "userLevel": "", "lowerDomain": ""})";
 constexpr const char* kBefore = R"({"result": "r", "userName": "n", "userLevel": "l", "lowerDomain": "d"})";
 
-/// The three Parses with a lock read alike.
+/// The three Parses that read a lock follow the same steps.
 std::vector<ParseRow> StatusRows(const std::string& name, const Parse& parse)
 {
     return {
@@ -110,7 +110,7 @@ std::vector<ParseRow> ParseRows()
         {
             Row("BatchWash_without_msg_fills_result", kBatchWash, R"({"result": "0"})",
                 R"({"result": "r", "msg": "m"})", -1, R"({"result": "0", "msg": "m"})", {MissingKey("msg")}),
-            Row("BatchWash_without_result_leaves_msg", kBatchWash, R"({"msg": "done"})",
+            Row("BatchWash_without_result_leaves_msg_unchanged", kBatchWash, R"({"msg": "done"})",
                 R"({"result": "r", "msg": "m"})", -1, R"({"result": "r", "msg": "m"})", {MissingKey("result")}),
             Row("BatchWash_texts_with_zero_byte_and_utf8", kBatchWash,
                 R"({"result": "a\u0000b", "msg": "\u00fc\u4e2d"})", R"({"result": "", "msg": ""})", 0,

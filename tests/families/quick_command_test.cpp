@@ -25,7 +25,7 @@ const UrlPack<const std::string&> kListPack(NAMED(CBRMSModule::PacketGetQuickCom
 const UrlPack<const std::string&> kOfPlanPack(NAMED(CBRMSModule::PacketGetAlarmPlanQuickCommands), Method_Get,
                                               "/brms/api/v1.1/alarm/plan/");
 
-/// What add and update alike make of a command.
+/// The expected body for both adding and updating a command.
 struct BodyRow {
     std::string name;
     QuickCommand command;
@@ -33,7 +33,7 @@ struct BodyRow {
 };
 
 const BodyRow kBodies[] = {
-    {"whole",
+    {"complete",
      {"q1",
       "Open gate",
       true,
@@ -78,7 +78,7 @@ const BodyRow kBodies[] = {
          "remark": "",
          "httpUrls": [{"method": "-2147483648", "url": "", "body": "", "seq": "-007"},
                       {"method": "2147483647", "url": "", "body": "", "seq": "x"}]})"},
-    {"requests_keep_their_order_and_seq_is_not_looked_into",
+    {"requests_keep_their_order_and_seq_is_not_checked",
      {"q1", "n", false, "", 0, "", {{1, "c", "", "3"}, {2, "a", "", "1"}, {3, "b", "", ""}}},
      R"({"quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "", "executeMode": "0", "remark": "",
          "httpUrls": [{"method": "1", "url": "c", "body": "", "seq": "3"},
@@ -95,7 +95,7 @@ const BodyRow kBodies[] = {
      R"({"quickCommandName": "\u00fc", "enableShortcutKeys": "0", "shortcutKeys": "\u4e2d", "executeMode": "0",
          "remark": "\ud83d\ude00",
          "httpUrls": [{"method": "0", "url": "\u00fc", "body": "invalid \ufffd", "seq": "\ufffd"}]})"},
-    {"texts_go_on_behind_a_zero_byte",
+    {"texts_continue_after_a_zero_byte",
      {"q1", "a\0b"s, false, "c\0d"s, 0, "e\0f"s, {{0, "g\0h"s, "i\0j"s, "k\0l"s}}},
      R"({"quickCommandName": "a\u0000b", "enableShortcutKeys": "0", "shortcutKeys": "c\u0000d", "executeMode": "0",
          "remark": "e\u0000f",
@@ -114,10 +114,10 @@ std::vector<PackRow> PackRows()
     const char* const freshBody = R"({"quickCommandName": "", "enableShortcutKeys": "0", "shortcutKeys": "",
                                       "executeMode": "0", "remark": "", "httpUrls": []})";
     std::vector<PackRow> rows{
-        kUpdate("Update_id_goes_into_the_url_alone", OnlyId("q7"), "/brms/api/v1.1/config/quick/command/q7", freshBody),
+        kUpdate("Update_id_is_sent_only_in_the_url", OnlyId("q7"), "/brms/api/v1.1/config/quick/command/q7", freshBody),
         kUpdate("Update_id_is_not_escaped", OnlyId("a/b&c#%1"), "/brms/api/v1.1/config/quick/command/a/b&c#%1",
                 freshBody),
-        kUpdate("Update_id_goes_on_behind_a_zero_byte", OnlyId("a\0b"s), "/brms/api/v1.1/config/quick/command/a\0b"s,
+        kUpdate("Update_id_continues_after_a_zero_byte", OnlyId("a\0b"s), "/brms/api/v1.1/config/quick/command/a\0b"s,
                 freshBody),
 
         kDelete("Delete_two_joined_with_a_comma", {"x", "y"}, "x,y"),
@@ -125,23 +125,23 @@ std::vector<PackRow> PackRows()
         kDelete("Delete_none", {}, ""),
         kDelete("Delete_empty_ids_keep_their_commas", {"", "y", ""}, ",y,"),
         kDelete("Delete_ids_are_not_escaped", {"x,y", "a&b", "%1"}, "x,y,a&b,%1"),
-        kDelete("Delete_ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
+        kDelete("Delete_ids_are_utf8_and_continue_after_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
                 "a\0b,\xC3\xBC\xEF\xBF\xBD"s),
 
         kGetPack("Get_one", "q1", "q1"),
         kGetPack("Get_empty_id", "", ""),
         kGetPack("Get_id_is_not_escaped", "a/b?c&d#%1 \xC3\xBC", "a/b?c&d#%1 \xC3\xBC"),
-        kGetPack("Get_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
+        kGetPack("Get_id_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
 
         kListPack("List_keyword", "gate", "gate"),
         kListPack("List_empty_keyword", "", ""),
         kListPack("List_keyword_is_not_escaped", "a&b#c %1%2b \xC3\xBC\xFF", "a&b#c %1%2b \xC3\xBC\xEF\xBF\xBD"),
-        kListPack("List_keyword_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
+        kListPack("List_keyword_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
 
         kOfPlanPack("OfPlan_one", "p1", "p1/quick/command/list"),
         kOfPlanPack("OfPlan_empty_id", "", "/quick/command/list"),
         kOfPlanPack("OfPlan_id_is_not_escaped", "a/b&c#%1 \xC3\xBC", "a/b&c#%1 \xC3\xBC/quick/command/list"),
-        kOfPlanPack("OfPlan_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b/quick/command/list"s),
+        kOfPlanPack("OfPlan_id_continues_after_a_zero_byte", "a\0b"s, "a\0b/quick/command/list"s),
     };
     for (const BodyRow& row : kBodies) {
         rows.push_back(kAdd("Add_" + row.name, row.command, row.body));
@@ -251,7 +251,7 @@ std::vector<ParseRow> ParseRows()
                 R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
                      "executeMode": 0, "remark": "r1", "httpUrls": []}])",
                 {MissingKey("remark")}),
-            Row("List_leaves_mode_and_requests_of_the_reply_unread", kList,
+            Row("List_ignores_mode_and_requests_of_the_reply", kList,
                 R"({"results": [
                     {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
                      "executeMode": 2, "remark": "r1", "httpUrls": [
@@ -260,8 +260,8 @@ std::vector<ParseRow> ParseRows()
                 R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
                      "executeMode": 0, "remark": "r1", "httpUrls": []}])"),
             Row("List_empty_results_append_nothing", kList, R"({"results": []})", oneCommand, 0, oneCommand),
-            Row("List_without_results_leaves_the_list", kList, R"({"commands": []})", oneCommand, -1, oneCommand,
-                {MissingKey("results")}),
+            Row("List_without_results_leaves_the_list_unchanged", kList, R"({"commands": []})", oneCommand, -1,
+                oneCommand, {MissingKey("results")}),
             Row("OfPlan_requests_without_body_parse", kOfPlan,
                 R"({"results": [
                     {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}]})",
@@ -279,7 +279,7 @@ std::vector<ParseRow> ParseRows()
                      "executeMode": 0, "remark": "", "httpUrls": [
                          {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])",
                 {MissingKey("seq")}),
-            Row("OfPlan_leaves_everything_else_of_the_reply_unread", kOfPlan,
+            Row("OfPlan_ignores_everything_else_in_the_reply", kOfPlan,
                 R"({"results": [
                     {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
                      "executeMode": 2, "remark": "r1", "httpUrls": [

@@ -1,4 +1,4 @@
-// The record of the core. Those of the calls are in the tests of their subjects.
+// The record of the core. The tests of each subject cover the records of its calls.
 #include "support/Family.h"
 
 #include <RequestParamFields.h>

@@ -23,7 +23,7 @@ const BodyPack<const MoveUserGroupsParam&> kMove(NAMED(CBRMSModule::PacketMoveUs
                                                  "/brms/api/v1.1/user/group/move/batch");
 const UrlPack<const std::string&> kClear(NAMED(CBRMSModule::PacketClearUserGroup), Method_Post,
                                          "/brms/api/v1.1/user/group/");
-/// Its log texts are those of the clear call, under its own function name.
+/// Logs the texts of the clear call, but with its own function name.
 const UrlPack<const std::vector<std::string>&> kDelete(NAMED(CBRMSModule::PacketDeleteUserGroup), Method_Delete,
                                                        "/brms/api/v1.1/user/group?ids=",
                                                        {Server::OfCaller, "PacketClearUserGroup failed.",
@@ -31,18 +31,18 @@ const UrlPack<const std::vector<std::string>&> kDelete(NAMED(CBRMSModule::Packet
 
 const PackRow kPacks[] = {
     kListPack("List", "night", "night"),
-    kListPack("List_empty_keyword_leaves_nothing_behind_the_equals_sign", "", ""),
+    kListPack("List_empty_keyword_ends_after_the_equals_sign", "", ""),
     kListPack("List_keyword_with_ampersand_and_hash_is_not_escaped", "a&b#c", "a&b#c"),
     kListPack("List_keyword_with_space_percent_and_quote", "a %20 \"b\"", "a %20 \"b\""),
-    kListPack("List_keyword_with_marker_stays", "%1%2b", "%1%2b"),
+    kListPack("List_keyword_with_marker_is_kept", "%1%2b", "%1%2b"),
     kListPack("List_keyword_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
     kListPack("List_keyword_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"),
-    kListPack("List_keyword_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
+    kListPack("List_keyword_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
 
     kGetPack("Get", "g1", "g1"),
     kGetPack("Get_empty_id", "", ""),
     kGetPack("Get_id_is_not_escaped", "a/b?c&d#e %1", "a/b?c&d#e %1"),
-    kGetPack("Get_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b"s),
+    kGetPack("Get_id_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
 
     kAddPack("Add", {"Night shift", "guards"}, R"({"groupName": "Night shift", "memo": "guards"})"),
     kAddPack("Add_empty_memo_is_sent", {"Night shift", ""}, R"({"groupName": "Night shift", "memo": ""})"),
@@ -51,12 +51,13 @@ const PackRow kPacks[] = {
              R"({"groupName": "\"a\\b\"", "memo": "%1\n\t{}"})"),
     kAddPack("Add_texts_are_utf8", {"\xC3\xBC \xE4\xB8\xAD", "invalid \xFF"},
              R"({"groupName": "\u00fc \u4e2d", "memo": "invalid \ufffd"})"),
-    kAddPack("Add_texts_go_on_behind_a_zero_byte", {"a\0b"s, "\0"s}, R"({"groupName": "a\u0000b", "memo": "\u0000"})"),
+    kAddPack("Add_texts_continue_after_a_zero_byte", {"a\0b"s, "\0"s},
+             R"({"groupName": "a\u0000b", "memo": "\u0000"})"),
 
     kUpdate("Update", "g1", {"Day shift", "staff"}, "g1", R"({"groupName": "Day shift", "memo": "staff"})"),
     kUpdate("Update_empty_texts_are_sent", "", {}, "", R"({"groupName": "", "memo": ""})"),
     kUpdate("Update_id_is_not_escaped", "a/b&c#%1", {"n", "m"}, "a/b&c#%1", R"({"groupName": "n", "memo": "m"})"),
-    kUpdate("Update_texts_go_on_behind_a_zero_byte", "g\0x"s, {"a\0b"s, "c\0d"s}, "g\0x"s,
+    kUpdate("Update_texts_continue_after_a_zero_byte", "g\0x"s, {"a\0b"s, "c\0d"s}, "g\0x"s,
             R"({"groupName": "a\u0000b", "memo": "c\u0000d"})"),
 
     kMove("Move", {"g1", {"u2", "u1"}}, R"({"userIds": ["u2", "u1"], "groupId": "g1"})"),
@@ -64,13 +65,13 @@ const PackRow kPacks[] = {
     kMove("Move_fresh", {}, R"({"userIds": [], "groupId": ""})"),
     kMove("Move_users_given_twice_and_empty", {"g1", {"u1", "", "u1"}},
           R"({"userIds": ["u1", "", "u1"], "groupId": "g1"})"),
-    kMove("Move_texts_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, {"c\0d"s, "\xC3\xBC", "\xFF", "\"%1\""}},
+    kMove("Move_texts_are_utf8_and_continue_after_a_zero_byte", {"a\0b"s, {"c\0d"s, "\xC3\xBC", "\xFF", "\"%1\""}},
           R"({"userIds": ["c\u0000d", "\u00fc", "\ufffd", "\"%1\""], "groupId": "a\u0000b"})"),
 
     kClear("Clear", "g1", "g1/clear"),
     kClear("Clear_empty_id", "", "/clear"),
     kClear("Clear_id_is_not_escaped", "a/b&c#%1", "a/b&c#%1/clear"),
-    kClear("Clear_id_goes_on_behind_a_zero_byte", "a\0b"s, "a\0b/clear"s),
+    kClear("Clear_id_continues_after_a_zero_byte", "a\0b"s, "a\0b/clear"s),
 
     kDelete("Delete_three_joined_with_commas", {"a", "b", "c"}, "a,b,c"),
     kDelete("Delete_one_has_no_trailing_comma", {"a"}, "a"),
@@ -78,7 +79,7 @@ const PackRow kPacks[] = {
     kDelete("Delete_empty_ids_keep_their_commas", {"", "b", ""}, ",b,"),
     kDelete("Delete_equal_ids", {"a", "a"}, "a,a"),
     kDelete("Delete_ids_are_not_escaped", {"a,b", "c&d", "%1"}, "a,b,c&d,%1"),
-    kDelete("Delete_ids_are_utf8_and_go_on_behind_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
+    kDelete("Delete_ids_are_utf8_and_continue_after_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
             "a\0b,\xC3\xBC\xEF\xBF\xBD"s),
 };
 
@@ -98,7 +99,7 @@ std::vector<ParseRow> ParseRows()
         Variations(kGet, group, R"({"id": "g1", "groupName": "Night shift", "memo": "guards", "users": 3})"),
         Variations(kAdd, {Text("id", kItself)}, R"({"id": "g1"})"),
         {
-            Row("List_whole_behind_what_the_list_holds", kList,
+            Row("List_complete_reply_is_appended", kList,
                 R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"},
                                 {"id": "g2", "groupName": "n2", "memo": "m2"}]})",
                 R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", 0,
@@ -108,14 +109,14 @@ std::vector<ParseRow> ParseRows()
                 R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"}, {"id": "g2", "groupName": "n2"},
                                 {"id": "g3", "groupName": "n3", "memo": "m3"}]})",
                 "[]", -1, R"([{"id": "g1", "groupName": "n1", "memo": "m1"}])", {MissingKey("memo")}),
-            Row("List_without_results_leaves_the_list", kList, R"({"pageData": []})",
+            Row("List_without_results_leaves_the_list_unchanged", kList, R"({"pageData": []})",
                 R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", -1,
                 R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", {MissingKey("results")}),
             Row("List_of_an_empty_object", kList, "{}", "[]", -1, "[]", {EmptyObject()}),
             Row("List_empty_results_append_nothing", kList, R"({"results": []})",
                 R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", 0,
                 R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])"),
-            Row("List_element_that_is_no_object_reads_as_an_empty_one", kList,
+            Row("List_element_that_is_not_an_object_is_read_as_an_empty_object", kList,
                 R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"}, "g2"]})", "[]", -1,
                 R"([{"id": "g1", "groupName": "n1", "memo": "m1"}])", {EmptyObject()}),
             Row("Get_without_groupName_keeps_the_id_that_was_read", kGet, R"({"id": "g1", "memo": "m1"})",
@@ -128,7 +129,7 @@ std::vector<ParseRow> ParseRows()
                 R"({"id": "a\u0000b", "groupName": "\u00fc\u4e2d\ud83d\ude00", "memo": "\"%1\"\n"})",
                 R"({"id": "", "groupName": "", "memo": ""})", 0,
                 R"({"id": "a\u0000b", "groupName": "\u00fc\u4e2d\ud83d\ude00", "memo": "\"%1\"\n"})"),
-            Row("Add_without_id_leaves_the_text", kAdd, R"({"groupId": "g1"})", R"("g0")", -1, R"("g0")",
+            Row("Add_without_id_leaves_the_text_unchanged", kAdd, R"({"groupId": "g1"})", R"("g0")", -1, R"("g0")",
                 {MissingKey("id")}),
             Row("Add_of_a_number", kAdd, R"({"id": 7})", R"("g0")", 0, R"("7")"),
         },

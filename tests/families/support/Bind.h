@@ -17,7 +17,7 @@ struct Signature {
     using PackOfNoServer = int (*)(void*, Parameters...);
 };
 
-/// Calls a Pack with copies of the arguments, which it must not change.
+/// Calls a Pack with copies of the arguments and checks that it does not change them.
 template <typename Call, typename... Arguments>
 std::function<int(void*, int)> Bound(const Call& call, Arguments... arguments)
 {
@@ -30,7 +30,7 @@ std::function<int(void*, int)> Bound(const Call& call, Arguments... arguments)
     };
 }
 
-/// The parameters are given as the interface declares them: a Pack that declares others does not compile.
+/// Fixes the parameter types of the interface: a Pack with other parameters does not compile.
 template <typename... Parameters>
 std::function<int(void*, int)> Bind(typename Signature<Parameters...>::Pack pack, std::decay_t<Parameters>... arguments)
 {
@@ -47,14 +47,14 @@ std::function<int(void*, int)> Bind(typename Signature<Parameters...>::PackOfNoS
                  std::move(arguments)...);
 }
 
-/// What few Packs need, as in PackRow.
+/// Values of PackRow that few Packs need.
 struct Irregular {
     Server server = Server::OfCaller;
     std::string failed = {};
     std::string success = {};
 };
 
-/// A Pack that several rows call.
+/// Makes rows that call the same Pack.
 template <typename... Parameters>
 class PackOfRows {
 public:
@@ -89,7 +89,7 @@ private:
     Irregular m_irregular;
 };
 
-/// Its rows have a name, the arguments, their part of the URL, and the body if there is one.
+/// Rows consist of a name, the arguments, their part of the URL, and the body if there is one.
 template <typename... Parameters>
 class UrlPack : public PackOfRows<Parameters...> {
 public:
@@ -101,7 +101,7 @@ public:
     }
 };
 
-/// Its rows have a name, the arguments and the body.
+/// Rows consist of a name, the arguments and the body.
 template <typename... Parameters>
 class BodyPack : public PackOfRows<Parameters...> {
 public:

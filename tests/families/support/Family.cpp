@@ -22,7 +22,7 @@ constexpr int kCallersServer = 5;
 constexpr int kCurrentServer = 7;
 constexpr int kUnknownServer = 9;
 
-/// Knows three servers and remembers which were asked for.
+/// Has three servers and records which ones are requested.
 class RecordingUserManager : public testing_support::UserManager {
 public:
     RecordingUserManager()
@@ -100,7 +100,7 @@ LogLines OutcomeLine(const PackRow& row, int level, const std::string& irregular
     return {{SourcePath(row.call), "APIModule::" + row.call, level, text}};
 }
 
-/// The body as JSON; it must be compact and hold no key twice.
+/// The body as JSON. Expects it to be compact and without duplicate keys.
 Json ParsedBody(const std::string& body)
 {
     if (body.empty()) {

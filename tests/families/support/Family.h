@@ -19,7 +19,7 @@
 #include <utility>
 #include <vector>
 
-/// The name of a function as the log has it, and the function.
+/// The name of a function as it appears in the log, and the function.
 #define NAMED(function) #function, &function
 
 /// Tables of Packs and Parses: a test file lists its rows and instantiates PackTest and ParseTest with them.
@@ -27,21 +27,21 @@ namespace family_testing {
 
 using testing_support::RowName;
 
-/// Which server identifier a Pack hands on.
+/// The server identifier that a Pack uses.
 enum class Server {
-    OfCaller,  ///< the one that it is given
+    OfCaller,  ///< the caller's argument
     One,       ///< always 1
     Current,   ///< always -1, the user manager's current server
 };
 
-/// A record and its fields, separated by blanks, as the interface lists them.
+/// A record and its fields, separated by spaces, in the order of the interface.
 struct RecordRow {
-    /// A field's place in a record, and its name.
+    /// The address of each field in a record, and its name.
     using Fields = std::vector<std::pair<const void*, std::string>>;
 
     std::string name;
     std::string fields;
-    Fields described;  ///< as the description lists them
+    Fields described;  ///< in the order of the description
 };
 
 template <typename T>
@@ -53,7 +53,7 @@ RecordRow FieldsOf(const std::string& name, const std::string& fields)
     return row;
 }
 
-/// Compares the fields with the description and with their places in the record.
+/// Compares the fields with the description and with their order in the record.
 class RecordTest : public testing::TestWithParam<RecordRow> {};
 
 /// One call of a Pack with the expected request.
@@ -63,27 +63,27 @@ struct PackRow {
     std::function<int(void*, int)> run;  ///< calls the Pack with the RequestParam and the server identifier
     APIModule::Method method;
     std::string url;
-    std::string body = {};  ///< JSON text, empty where the Pack sends none
+    std::string body = {};  ///< JSON text, empty if the Pack sends none
     Server server = Server::OfCaller;
-    std::string failed = {};   ///< log text, where it is not the Pack's name followed by " failed."
-    std::string success = {};  ///< log text, where it is not the Pack's name followed by " success."
+    std::string failed = {};   ///< log text, unless it is the Pack's name followed by " failed."
+    std::string success = {};  ///< log text, unless it is the Pack's name followed by " success."
 };
 
 std::ostream& operator<<(std::ostream& stream, const PackRow& row);
 
-/// Runs the Pack for known servers and for an unknown one and compares the request, the server identifier that
-/// reached the user manager, the result and the log line.
+/// Runs the Pack for known servers and for an unknown one. Compares the request, the server identifier passed to the
+/// user manager, the result and the log line.
 class PackTest : public testing::TestWithParam<PackRow> {};
 
 /// A Parse with its record as JSON; a value that is not a record is used directly.
 struct Parse {
     std::string call;                                   ///< such as "CBRMSModule::ParseGetTimeSyncConfig"
-    Json fresh;                                         ///< the record as it is made
+    Json fresh;                                         ///< a default-constructed record
     Json filled;                                        ///< the record with other values in every field
-    std::function<int(const QJsonObject&, Json&)> run;  ///< starts with the given record and updates it
+    std::function<int(const QJsonObject&, Json&)> run;  ///< reads a reply into the given record
 };
 
-/// Also for a function of the test that combines several outputs in one record (+[](...) {...}).
+/// Accepts a Parse, or a captureless lambda (+[](...) {...}) that combines several outputs in one record.
 template <typename Record>
 Parse MakeParse(const std::string& call, int (*parse)(const QJsonObject&, Record&))
 {
@@ -103,9 +103,9 @@ struct ParseRow {
     std::string name;
     Parse parse;
     QJsonObject reply;
-    Json start;  ///< the caller's record before the call
+    Json start;  ///< the record before the call
     int result;
-    Json record;  ///< and after it
+    Json record;  ///< the record after the call
     testing_support::LogLines lines;
 };
 
@@ -118,11 +118,11 @@ class ParseTest : public testing::TestWithParam<ParseRow> {};
 ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
              const char* record, const testing_support::LogLines& lines = {});
 
-/// Rows for a whole reply and for every reply that differs from it in one place: a key, two keys or an element
-/// removed, a value replaced by others, a list or an object emptied; each with a fresh and with a filled record. What
-/// must come of them is told from @p readings. The Parse is given random replies as well. In the whole reply every list
-/// has two elements or more; only those inside a later element may be shorter.
-std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply);
+/// Rows for a complete reply and for variations of it: a key, two keys or an element removed, a value replaced, a list
+/// or an object emptied; each with a fresh and with a filled record. The expected outcome follows from @p readings.
+/// Also registers the Parse for random replies. Every list of the complete reply must have at least two elements,
+/// except lists inside the second and later elements of a list.
+std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* completeReply);
 
 /// Several lists of rows as one.
 std::vector<ParseRow> Joined(const std::vector<std::vector<ParseRow>>& lists);

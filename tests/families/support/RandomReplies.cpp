@@ -55,7 +55,7 @@ QJsonObject Part(const Readings& readings, RandomJson& random)
     return object;
 }
 
-/// What a reading leaves behind, bit by bit: a not-a-number equals itself, and 1 is not 1.0.
+/// The outcome of a reading, compared bit by bit: NaN equals itself, and 1 differs from 1.0.
 struct Outcome {
     int result = 0;
     Json record;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// Random replies to the Parses of a program, held against the reference.
+/// Compares the Parses of a program with the reference, using random replies.
 namespace family_testing {
 
 /// A Parse and its reading steps.
@@ -16,14 +16,14 @@ struct KnownParse {
     Readings readings;
 };
 
-/// Those that rows were made for.
+/// The Parses with rows in this program.
 std::vector<KnownParse>& KnownParses();
 
-/// A reply with what the steps look for: usually all of it, with lists of any length; now and then a key too few or a
-/// value of another type than the step expects.
+/// A reply for these steps, with lists of any length. It is usually complete; sometimes a key is missing or a value has
+/// another type than the step expects.
 QJsonObject RandomReply(const Readings& readings, testing_support::RandomJson& random);
 
-/// Reads the reply in both ways. @return how result, record or log lines differ; empty where they do not
+/// Reads the reply with the Parse and the reference. @return the differences of result, record and log lines, or empty
 std::string Difference(const KnownParse& known, const QJsonObject& reply, const Json& start);
 
 }  // namespace family_testing

@@ -28,7 +28,7 @@ quint64 Bits(double number)
     return bits;
 }
 
-/// Bit by bit, so that no number equals another one and every not-a-number itself.
+/// Compares bit by bit, so that 0.0 differs from -0.0 and NaN equals itself.
 template <typename T>
 bool AreSame(const T& left, const T& right)
 {
@@ -39,7 +39,7 @@ bool AreSame(const T& left, const T& right)
     }
 }
 
-/// JSON with all digits of its integers, which the texts that Qt makes of it do not have.
+/// JSON with all digits of its integers, which Qt's own output would truncate.
 template <typename T>
 std::string Shown(const T& value)
 {
@@ -50,7 +50,7 @@ std::string Shown(const T& value)
     }
 }
 
-/// Both ways start with the same output.
+/// Both readers start with the same output.
 template <typename T>
 std::string DifferenceFor(const T& before, const QJsonObject& object, const QString& key, LogRecorder& logs)
 {

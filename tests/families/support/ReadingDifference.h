@@ -9,8 +9,8 @@
 
 namespace family_testing {
 
-/// Reads one value with each overload of GetJsonValue and by the reference rules.
-/// @return how results, outputs or log lines differ; empty where they do not
+/// Reads one value with each overload of GetJsonValue and with the reference.
+/// @return the differences of results, outputs and log lines, or empty
 std::string ReadingDifference(const QJsonObject& object, const QString& key, testing_support::LogRecorder& logs);
 
 }  // namespace family_testing

@@ -16,7 +16,7 @@ Reading Single(Reading::Type type, const std::string& key, const FieldName& fiel
     return {type, key, field.value_or(key)};
 }
 
-/// Reads one reply into one record, both of which change from level to level.
+/// Reads one reply into one record; nested readers handle inner objects and elements.
 class Reader {
 public:
     explicit Reader(testing_support::LogLines& lines) : m_lines(lines) {}

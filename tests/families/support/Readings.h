@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-/// What a Parse reads from a reply, step by step in its order. A step names its key and the field that it fills, which
-/// has the key's name unless another is given.
+/// The steps in which a Parse reads a reply, in order. Each step names its key and the field that it fills, which has
+/// the name of the key by default.
 namespace family_testing {
 
 struct Reading;
@@ -39,7 +39,7 @@ struct Reading {
     Json freshElement = nullptr;
 };
 
-/// In place of a field: the step fills the output itself, which is no record but a value or a list.
+/// Used instead of a field name when the output is not a record but a simple value or a list.
 inline const std::string kItself;
 
 using FieldName = std::optional<std::string>;
@@ -50,33 +50,33 @@ Reading Double(const std::string& key, const FieldName& field = {});
 Reading Bool(const std::string& key, const FieldName& field = {});
 Reading Text(const std::string& key, const FieldName& field = {});
 
-/// An array of plain texts; an element that is no text counts as an empty one.
+/// An array of texts; an element that is not a text is read as an empty one.
 Reading Texts(const std::string& key, const FieldName& field = {});
-/// An array of decimal texts; an element that is no such text counts as 0.
+/// An array of decimal texts; any other element is read as 0.
 Reading NumbersOfTexts(const std::string& key, const FieldName& field = {});
 
-/// The key is looked up here and read only by a later step: Found("totalCount"), Found("pageData"), Int("totalCount"),
-/// Records(..., "pageData", ...) is a count that is stored only when its page is there.
+/// Only checks that the key exists; a later step reads it. For example, Found("totalCount"), Found("pageData"),
+/// Int("totalCount"), Records(..., "pageData", ...) stores a count only if its page exists.
 Reading Found(const std::string& key);
 
-/// The steps of an inner object, which fill the same record; an empty one has nothing to fill.
+/// The steps of an inner object, which fill the same record. An empty object fills nothing.
 Reading Object(const std::string& key, const Readings& inner);
 
-/// An array of objects, each read by the inner steps into a new Element that is appended when it is complete.
+/// An array of objects. The inner steps read each into a new Element, which is appended if it is complete.
 template <typename Element>
 Reading Records(const std::string& key, const Readings& inner, const FieldName& field = {})
 {
     return {Reading::Records, key, field.value_or(key), inner, ToJson(Element{})};
 }
 
-/// Many steps.
+/// A sequence of steps.
 template <typename... Steps>
 Readings InTurn(const Steps&... steps)
 {
     return {steps...};
 }
 
-/// Follows the steps as a plain reader that shares no code with the library. @return 0 or -1
+/// The reference implementation, which shares no code with the library. @return 0 or -1
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines);
 
 }  // namespace family_testing

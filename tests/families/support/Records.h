@@ -65,7 +65,7 @@ void FromJson(const Json& json, T& value)
     }
 }
 
-/// Gives every field a value that differs from a fresh one, and every list one element.
+/// Sets every field to a value other than its default, and every list to one element.
 template <typename T>
 void Fill(T& value)
 {

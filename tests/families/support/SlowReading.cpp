@@ -13,8 +13,8 @@ namespace family_testing {
 namespace {
 
 #if QT_VERSION_MAJOR > 5
-/// Halves are rounded up. The lowest integer stands for what is too large, zero or what an overflow leaves for what is
-/// too small, as Qt 5 has it on this processor.
+/// Rounds halves up. As in Qt 5 on this processor, a number that is too large becomes the lowest integer, and one that
+/// is too small becomes zero or the result of the overflow.
 qint64 RoundedAsInQt5(double number)
 {
     constexpr double kRange = 9223372036854775808.0;
@@ -26,7 +26,7 @@ qint64 RoundedAsInQt5(double number)
     return number >= -2 * kRange ? qint64(quint64(qint64(number + kRange)) + quint64(kLowest)) : 0;
 }
 
-/// Any spaces around, and the minus sign of mathematics for another sign.
+/// Reads an integer with optional surrounding whitespace. U+2212 is accepted as a minus sign.
 qint64 IntegerAsInQt5(const QString& text)
 {
     static const QRegularExpression kInteger(QStringLiteral("\\A[+\u2212-]?[0-9]+\\z"));
@@ -34,7 +34,7 @@ qint64 IntegerAsInQt5(const QString& text)
     return kInteger.match(number).hasMatch() ? number.replace(QChar(0x2212), QLatin1Char('-')).toLongLong() : 0;
 }
 
-/// Qt 5 keeps a double as an integer where it is one, but minus zero.
+/// Qt 5 stores a double without a fraction as an integer, except minus zero.
 std::optional<qint64> KeptAsInteger(double number)
 {
     constexpr double kRange = 9223372036854775808.0;
@@ -42,7 +42,7 @@ std::optional<qint64> KeptAsInteger(double number)
     return bInteger && (number != 0 || !std::signbit(number)) ? std::optional<qint64>(number) : std::nullopt;
 }
 
-/// A text without an exponent down to 0.0001.
+/// The text of a double, without an exponent for values down to 0.0001.
 QString TextAsInQt5(double number)
 {
     if (const auto integer = KeptAsInteger(number)) {
@@ -54,7 +54,7 @@ QString TextAsInQt5(double number)
     return match.hasMatch() ? match.captured(1) + QStringLiteral("0.000") + match.captured(2) : text;
 }
 
-/// Each number inside a double, or an integer where the double is one.
+/// Converts every number inside to a double, or to an integer if it has no fraction.
 QJsonValue ContainerAsInQt5(const QJsonValue& value)
 {
     if (value.isArray()) {

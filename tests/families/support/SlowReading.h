@@ -13,10 +13,10 @@
 #include <string>
 #include <type_traits>
 
-/// Reading of one value by the rules, regardless of cost, as a reference for the library.
+/// A slow but simple reader of single values, used as a reference for the library.
 namespace family_testing {
 
-/// The lines of a failed read.
+/// The log lines of failed reads.
 testing_support::LogLine EmptyObject();
 testing_support::LogLine MissingKey(const std::string& key);
 
@@ -28,15 +28,15 @@ enum class Target {
     Container
 };
 
-/// The variant of a value. With Qt 6, a variant that Qt 6 converts to the target as Qt 5 converts the original.
+/// The variant of a value. With Qt 6, one that converts to the target with the result of Qt 5.
 QVariant VariantFor(Target target, const QJsonValue& value);
 
-/// What QJsonValue::toVariant and then the variant's own conversion give with Qt 5, for the types that GetJsonValue
-/// reads.
-/// - A fraction is rounded and an integer cut to the lower bits of an int, as QVariant does it.
+/// The result of QJsonValue::toVariant() followed by the variant's conversion with Qt 5, for the types that
+/// GetJsonValue reads.
+/// - Fractions are rounded and integers truncated to the low bits of an int, as QVariant does.
 /// - Values in an object or an array pass through a map or a list of variants, from which Qt returns every number as a
 ///   double: integers beyond 2^53 lose digits, and numbers that are not finite become null.
-/// - A double beyond 64 bits has no integer value; the result of Qt's conversion is used nevertheless.
+/// - A double beyond 64 bits has no integer value; the result is whatever Qt's conversion returns.
 template <typename T>
 T Converted(const QJsonValue& value)
 {
@@ -58,13 +58,13 @@ T Converted(const QJsonValue& value)
     }
 }
 
-/// A decimal text as QString::toInt of Qt 5 reads it. @return 0 for any other text
+/// Reads a decimal text like QString::toInt() of Qt 5. @return 0 for any other text
 int NumberOfText(const QString& text);
 
-/// Looks the key up. @return whether there is a value to convert; otherwise with a line
+/// Looks up the key. @return whether a value exists; if not, adds a log line
 bool FindSlowly(const QJsonObject& object, const QString& key, QJsonValue& value, testing_support::LogLines& lines);
 
-/// @return 0, or -1 with a line and the output untouched
+/// @return 0; or -1 with a log line and unchanged output
 template <typename T>
 int ReadSlowly(const QJsonObject& object, const QString& key, T& output, testing_support::LogLines& lines)
 {

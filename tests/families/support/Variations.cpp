@@ -38,7 +38,7 @@ std::vector<Variation> Replacements(const QJsonValue& value)
     return variations;
 }
 
-/// The value replaced, and the value with one change inside.
+/// Replacements of the value, and the value with one change inside.
 std::vector<Variation> Changes(const QJsonValue& value)
 {
     std::vector<Variation> changes = Replacements(value);
@@ -50,7 +50,7 @@ std::vector<Variation> Changes(const QJsonValue& value)
         changed.remove(key);
         changes.push_back({name + "removed", changed});
         const QStringList others = keys.mid(keys.indexOf(key) + 1);
-        for (const QString& other : others) {  // the line names the one that is read first
+        for (const QString& other : others) {  // the log line names the key that is read first
             QJsonObject without = changed;
             without.remove(other);
             changes.push_back({name + "and_" + other.toStdString() + "_removed", without});
@@ -85,27 +85,27 @@ std::string TestName(std::string text)
     return text;
 }
 
-/// Without its class.
+/// The function name without its class.
 std::string FunctionName(const std::string& call)
 {
     return call.substr(call.rfind(':') + 1);
 }
 
-ParseRow Predicted(const std::string& name, const Parse& parse, const Readings& readings, const QJsonObject& reply,
-                   const Json& start)
+ParseRow Expected(const std::string& name, const Parse& parse, const Readings& readings, const QJsonObject& reply,
+                  const Json& start)
 {
     ParseRow row{FunctionName(parse.call) + TestName(name), parse, reply, start, 0, start, {}};
     row.result = ReadReference(reply, readings, row.record, row.lines);
     return row;
 }
 
-/// Of the lists inside a list's elements those of the first one count, so that deep replies stay of a size.
+/// Inside a list, checks only the first element, which keeps deeply nested replies small.
 void RequireTwoElements(const QJsonValue& value)
 {
     if (value.isArray()) {
         const QJsonArray array = value.toArray();
         if (array.size() < 2) {
-            throw std::logic_error("a list of the whole reply has less than two elements");
+            throw std::logic_error("a list of the complete reply has fewer than two elements");
         }
         RequireTwoElements(array.first());
     }
@@ -117,22 +117,22 @@ void RequireTwoElements(const QJsonValue& value)
 
 }  // namespace
 
-std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* wholeReply)
+std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* completeReply)
 {
-    const QJsonObject whole = JsonObject(wholeReply);
-    RequireTwoElements(whole);
+    const QJsonObject complete = JsonObject(completeReply);
+    RequireTwoElements(complete);
     KnownParses().push_back({parse, readings});
 
     std::vector<ParseRow> rows;
     const std::pair<const char*, Json> starts[] = {{"_fresh_", parse.fresh}, {"_filled_", parse.filled}};
     for (const auto& [startName, start] : starts) {
-        rows.push_back(Predicted(startName + std::string("whole"), parse, readings, whole, start));
+        rows.push_back(Expected(startName + std::string("complete"), parse, readings, complete, start));
         if (rows.back().result != 0) {
-            throw std::logic_error(parse.call + ": the whole reply lacks something");
+            throw std::logic_error(parse.call + ": the complete reply is incomplete");
         }
-        for (const Variation& change : Changes(whole)) {
+        for (const Variation& change : Changes(complete)) {
             if (change.value.isObject()) {
-                rows.push_back(Predicted(startName + change.name, parse, readings, change.value.toObject(), start));
+                rows.push_back(Expected(startName + change.name, parse, readings, change.value.toObject(), start));
             }
         }
     }
