@@ -18,21 +18,21 @@ protected:
     {
         Use(std::get<Scheme>(GetParam()));
         Json state = Platform().state();
-        for (const auto& [place, value] : ParamRow().state.items()) {
-            state[Json::json_pointer(place)] = value;
+        for (const auto& [pointer, value] : ParamRow().state.items()) {
+            state[Json::json_pointer(pointer)] = value;
         }
         Platform().setState(state);
     }
 
     static const Row& ParamRow() { return std::get<Row>(GetParam()); }
 
-    /// What is there to see now.
-    static Json Seen(const Trace& trace)
+    /// The current value of a trace.
+    static Json ValueOf(const Trace& trace)
     {
         if (trace.call.empty()) {
             const Json state = Platform().state();
-            const Json::json_pointer place(trace.place);
-            return state.contains(place) ? state.at(place) : Json();
+            const Json::json_pointer pointer(trace.pointer);
+            return state.contains(pointer) ? state.at(pointer) : Json();
         }
         const catalogue::Outcome outcome = Run(trace.call, trace.arguments);
         return outcome ? outcome.record : Json{{"failed", outcome.Code()}};
@@ -40,7 +40,7 @@ protected:
 
     static std::string Described(const Trace& trace)
     {
-        return trace.call.empty() ? trace.place : trace.call + " " + trace.arguments.dump();
+        return trace.call.empty() ? trace.pointer : trace.call + " " + trace.arguments.dump();
     }
 };
 
@@ -48,7 +48,8 @@ TEST_P(EveryCall, ReadsAndChangesTheStateOfThePlatform)
 {
     const Row& row = ParamRow();
     for (const Trace& trace : row.traces) {
-        EXPECT_NE(Seen(trace), trace.expected) << Described(trace) << ": nothing is left to change";
+        EXPECT_NE(ValueOf(trace), trace.expected)
+            << Described(trace) << ": already has the expected value before the call";
     }
 
     Platform().clearRequests();
@@ -60,17 +61,17 @@ TEST_P(EveryCall, ReadsAndChangesTheStateOfThePlatform)
     EXPECT_EQ(notifications.Take(), QStringList());
     if (row.record) {
         EXPECT_EQ(outcome.record, row.record(Platform().state()));
-        EXPECT_NE(outcome.record, FreshRecord(row.call)) << "a record that nothing was read into looks the same";
+        EXPECT_NE(outcome.record, DefaultRecord(row.call)) << "the row checks nothing: the record equals the default";
     } else {
         EXPECT_EQ(outcome.record, Json()) << "the row expects no record";
     }
     for (const Trace& trace : row.traces) {
-        EXPECT_EQ(Seen(trace), trace.expected) << Described(trace);
+        EXPECT_EQ(ValueOf(trace), trace.expected) << Described(trace);
     }
 
-    static const std::set<std::string> onlyAsk = {"BRMS.FunctionChannelCheck", "OBMS.GetPageAccessAuthorizePersons"};
-    if (requests.front().method != "GET" && onlyAsk.count(row.call) == 0) {
-        EXPECT_FALSE(row.traces.empty()) << "nobody looks for what it wrote";
+    static const std::set<std::string> onlyRead = {"BRMS.FunctionChannelCheck", "OBMS.GetPageAccessAuthorizePersons"};
+    if (requests.front().method != "GET" && onlyRead.count(row.call) == 0) {
+        EXPECT_FALSE(row.traces.empty()) << "the row does not check what the call wrote";
     }
 }
 

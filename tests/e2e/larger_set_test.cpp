@@ -1,4 +1,4 @@
-// Lists of a platform with a larger set of data are read completely.
+// Lists of a platform with more data are read completely.
 #include "rows/Rows.h"
 #include "support/EndToEnd.h"
 #include "support/Rows.h"
@@ -15,15 +15,15 @@ constexpr int kScale = 20;
 struct ListRow {
     std::string name;
     std::string call;
-    std::string seed;    ///< the seeded list, which the emulator holds kScale times
-    std::string inside;  ///< where the list is in the record
+    std::string seed;    ///< JSON pointer to the seeded list, which the emulator multiplies by kScale
+    std::string inside;  ///< JSON pointer to the list in the record
 };
 
-/// The number of elements that the seed files hold at a place.
-std::size_t SeededCount(const std::string& place)
+/// The number of elements that the seed files hold at a pointer.
+std::size_t SeededCount(const std::string& pointer)
 {
     static const Json seeds = emulator::LoadSeeds(emulator::DefaultShareFolder() / "seed");
-    return seeds.at(Json::json_pointer(place)).size();
+    return seeds.at(Json::json_pointer(pointer)).size();
 }
 
 class LargerSet : public EndToEnd {
@@ -77,9 +77,9 @@ struct PagedRow {
     std::string call;
     std::string argument;
     std::string seed;
-    std::string inside;  ///< where the page's elements are in the record
-    bool counted;        ///< the record has the number of all elements
-    Keys keys;           ///< of an element
+    std::string inside;  ///< JSON pointer to the page's elements in the record
+    bool counted;        ///< whether the record has the total number of elements
+    Keys keys;           ///< the keys of an element
 };
 
 class LargerPages : public LargerSet, public testing::WithParamInterface<PagedRow> {};

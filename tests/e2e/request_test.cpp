@@ -1,4 +1,4 @@
-// Requests as the platform got them: texts in URLs, the server they went to, and objects that do not exist.
+// Requests as the platform receives them: texts in URLs, the server that is used, and objects that do not exist.
 #include "support/EndToEnd.h"
 #include "support/Rows.h"
 
@@ -14,13 +14,13 @@ struct KeywordRow {
     std::string name;
     std::string call;
     Json arguments;
-    std::string target;  ///< what went over the wire
+    std::string target;  ///< as received by the server
     int result;
 };
 
 class Keyword : public EndToEnd, public testing::WithParamInterface<KeywordRow> {};
 
-TEST_P(Keyword, GoesIntoTheRequest)
+TEST_P(Keyword, IsSentInTheTarget)
 {
     const catalogue::Outcome outcome = Run(GetParam().call, GetParam().arguments);
     ASSERT_EQ(Platform().requests().size(), 1U);
@@ -33,7 +33,7 @@ Json Query(const std::string& keyword)
     return {{"page", 1}, {"pageSize", 20}, {"keyword", keyword}};
 }
 
-// An ampersand starts another value, which the platform refuses; a hash sign ends the request's target.
+// An ampersand starts another value, which the platform rejects; a hash sign ends the request's target.
 INSTANTIATE_TEST_SUITE_P(
     AmpersandAndHash, Keyword,
     testing::Values(
@@ -78,13 +78,13 @@ INSTANTIATE_TEST_SUITE_P(
                                {{"keyword", "R%26D"}},
                                "/brms/api/v1.1/user/group/list?keyword=R%26D",
                                0},
-                    KeywordRow{"EncodedBeforeALaterPlace",
+                    KeywordRow{"EncodedBeforeALaterValue",
                                "BRMS.GetDeviceCategoryCount",
                                {{"query", {{"keyword", "R%26D"}, {"orgCode", "001"}}}},
                                "/brms/api/v1.1/device/statistics/count-by-device-category/list"
                                "?keyword=R%26D&orgCode=001&domain=&permitted=&sourceType=&containChild=",
                                0},
-                    KeywordRow{"MarkerOfALaterPlace",
+                    KeywordRow{"FormatMarkerOfALaterValue",
                                "BRMS.GetDeviceCategoryCount",
                                {{"query", {{"keyword", "a%2b"}, {"orgCode", "001"}}}},
                                "/brms/api/v1.1/device/statistics/count-by-device-category/list"
@@ -100,7 +100,7 @@ TEST_F(EndToEnd, KeywordInABodyArrivesUnchanged)
     EXPECT_EQ(Json::parse(Platform().requests().front().body).at("keyword"), "a&b#c%2");
 }
 
-/// Two servers, distinguished by the token that the host sends; the emulator refuses that of the second one.
+/// Two servers, distinguished by the token that the host sends. The emulator rejects the second token.
 class TwoServers : public EndToEnd {
 protected:
     TwoServers()
@@ -109,7 +109,7 @@ protected:
         users.servers[2].token = "token-of-server-2";
     }
 
-    /// The server that a call asks, of those that the host knows.
+    /// Runs a call and returns the server that received it.
     int ServerOf(const std::string& call, const Json& arguments, int serverId = -1)
     {
         Platform().clearRequests();
@@ -129,14 +129,14 @@ TEST_F(TwoServers, WashFunctionAlwaysUsesServer1)
     users.currentServerId = 2;
     EXPECT_EQ(ServerOf("DMS.WashOpen", channel), 1);
     EXPECT_EQ(ServerOf("DMS.BatchWashOpen", {{"channelIds", Json::array({"1000001$1$0$0"})}}), 1);
-    EXPECT_EQ(ServerOf("DMS.SetHomePosition", channel), 2) << "others ask the current server";
+    EXPECT_EQ(ServerOf("DMS.SetHomePosition", channel), 2) << "other calls use the current server";
 }
 
 TEST_F(TwoServers, ManagingPersonsAreAlwaysReadFromTheCurrentServer)
 {
     const Json device = {{"req", {{"deviceCode", "1000041"}}}};
     EXPECT_EQ(ServerOf("OBMS.GetManagePersons", device, 2), 1);
-    EXPECT_EQ(ServerOf("OBMS.GetConfigDesfireInfo", {}, 2), 2) << "others ask the server that is named";
+    EXPECT_EQ(ServerOf("OBMS.GetConfigDesfireInfo", {}, 2), 2) << "other calls use the given server";
     users.currentServerId = 2;
     EXPECT_EQ(ServerOf("OBMS.GetManagePersons", device, 1), 2);
 }
@@ -156,7 +156,7 @@ TEST_P(UnknownObject, ReturnsTheEnvelopeCodeAndChangesNothing)
     EXPECT_EQ(outcome.End(), APIModule::CallEnd::Refused);
     EXPECT_EQ(outcome.Code(), kUnknownObject);
     EXPECT_EQ(notifications.Take(), QStringList());
-    EXPECT_EQ(outcome.record, FreshRecord(GetParam().call));
+    EXPECT_EQ(outcome.record, DefaultRecord(GetParam().call));
     EXPECT_EQ(Platform().state(), before);
 }
 

@@ -1,4 +1,4 @@
-// The secrets of a session do not appear in anything that a client writes, shows or prints.
+// The secrets of a session appear in nothing that a client logs, shows or prints.
 #include "rows/Rows.h"
 #include "support/EmulatorProcess.h"
 
@@ -29,9 +29,9 @@ namespace {
 
 using Json = nlohmann::json;
 
-const std::string kToken = "t0ken-of-a-session-that-nobody-may-see";
-const std::string kBodySecret = "pass-word-that-nobody-may-see";
-/// Makes a path or a value of a query, in which ten characters look like a token.
+const std::string kToken = "t0ken-of-a-session-that-must-stay-secret";
+const std::string kBodySecret = "pass-word-that-must-stay-secret";
+/// A secret for a path or a query value. Ten of its characters look like a token.
 const std::string kUrlSecret = "/found?token=0123456789abcdef";
 
 bool Contains(const std::string& text, const std::string& part)
@@ -39,7 +39,7 @@ bool Contains(const std::string& text, const std::string& part)
     return text.find(part) != std::string::npos;
 }
 
-/// Lets everything that the process writes to standard error go into a file while it lives.
+/// Redirects the standard error of the process to a file during its lifetime.
 class ErrorOutput {
 public:
     explicit ErrorOutput(const QString& fileName) : m_file(fileName)
@@ -62,7 +62,7 @@ private:
     QFile m_file;
 };
 
-/// The URL as it may be logged: ten characters behind the first "token=" are asterisks.
+/// The URL as it may be logged: the ten characters after the first "token=" are replaced by asterisks.
 std::string Masked(const APIModule::RequestParam& request)
 {
     const QString url = QString::fromStdString((request.bHttps ? "https://" : "http://") + request.strIp + ":" +
@@ -72,43 +72,43 @@ std::string Masked(const APIModule::RequestParam& request)
     return QUrl(url).toString().replace(token, QStringLiteral("\\1**********")).toStdString();
 }
 
-/// Puts something else in the place of each text of the arguments.
-void ReplaceTexts(Json& arguments, const std::function<std::string(const Json::json_pointer& place)>& replacement,
-                  const Json::json_pointer& place = Json::json_pointer())
+/// Replaces each text in the arguments.
+void ReplaceTexts(Json& arguments, const std::function<std::string(const Json::json_pointer& pointer)>& replacement,
+                  const Json::json_pointer& pointer = Json::json_pointer())
 {
     if (arguments.is_string()) {
-        arguments = replacement(place);
+        arguments = replacement(pointer);
         return;
     }
     if (arguments.is_object()) {
         for (auto& [key, value] : arguments.items()) {
-            ReplaceTexts(value, replacement, place / key);
+            ReplaceTexts(value, replacement, pointer / key);
         }
     } else if (arguments.is_array()) {
         for (std::size_t index = 0; index < arguments.size(); ++index) {
-            ReplaceTexts(arguments[index], replacement, place / index);
+            ReplaceTexts(arguments[index], replacement, pointer / index);
         }
     }
 }
 
 /// How the server replies, so that every path of a call writes its log lines.
-struct Course {
+struct ReplyKind {
     std::string name;
-    Json fault;                                        ///< null for none
-    std::optional<std::chrono::milliseconds> timeout;  ///< instead of the call's own
+    Json fault;                                        ///< null for an unchanged reply
+    std::optional<std::chrono::milliseconds> timeout;  ///< overrides the call's time-out
 };
 
-const std::vector<Course>& Courses()
+const std::vector<ReplyKind>& ReplyKinds()
 {
-    static const std::vector<Course> courses = {
-        {"as it is", {}, {}},
+    static const std::vector<ReplyKind> kinds = {
+        {"unchanged", {}, {}},
         {"status", {{"kind", "status"}, {"status", 500}, {"times", 0}}, {}},
         {"unauthorised", {{"kind", "status"}, {"status", 401}, {"times", 0}}, {}},
         {"envelope", {{"kind", "envelope"}, {"code", 2001}, {"desc", kToken}, {"times", 0}}, {}},
-        {"no JSON", {{"kind", "notJson"}, {"times", 0}}, {}},
+        {"not JSON", {{"kind", "notJson"}, {"times", 0}}, {}},
         {"closed", {{"kind", "closeBefore"}, {"times", 0}}, {}},
         {"no time", {}, std::chrono::milliseconds(0)}};
-    return courses;
+    return kinds;
 }
 
 class Secrets : public testing_support::Host {
@@ -123,17 +123,17 @@ protected:
     QString LogFile() const { return m_folder.filePath(QStringLiteral("client.log")); }
     QString ErrorFile() const { return m_folder.filePath(QStringLiteral("stderr.txt")); }
 
-    /// Runs a call on every course and looks at what it logs and notifies.
+    /// Runs a call with every kind of reply and checks what it logs and notifies.
     void Run(const Row& row, const Json& arguments)
     {
-        for (const Course& course : Courses()) {
-            SCOPED_TRACE(row.Name() + ", " + course.name);
-            if (!course.fault.is_null()) {
-                ASSERT_EQ(m_platform.Control().post("/emulator/v1/faults", course.fault).status, 201);
+        for (const ReplyKind& kind : ReplyKinds()) {
+            SCOPED_TRACE(row.Name() + ", " + kind.name);
+            if (!kind.fault.is_null()) {
+                ASSERT_EQ(m_platform.Control().post("/emulator/v1/faults", kind.fault).status, 201);
             }
             APIModule::RequestParam request;
             catalogue::RunSettings settings;
-            settings.timeout = course.timeout;
+            settings.timeout = kind.timeout;
             settings.onPacked = [&request](const APIModule::RequestParam& packed) { request = packed; };
             const catalogue::Call& call = *catalogue::FindCall(row.call);
             const catalogue::Outcome outcome =
@@ -150,12 +150,12 @@ protected:
             for (const QString& text : texts) {
                 ExpectClean(text.toStdString());
             }
-            LookAtLog(Masked(request));
+            ExpectCleanLog(Masked(request));
         }
     }
 
-    /// Each URL in it must be this one.
-    void LookAtLog(const std::string& url)
+    /// Checks the log lines; each URL in them must be this one.
+    void ExpectCleanLog(const std::string& url)
     {
         int urls = 0;
         for (const testing_support::LogLine& line : logs.Take()) {
@@ -186,11 +186,11 @@ protected:
         EXPECT_FALSE(content.contains(kBodySecret.c_str())) << name.toStdString();
     }
 
-    /// The arguments with a secret in the place of each text: of one kind in the URL, of the other in the body.
+    /// Replaces each text of the arguments by a secret: one for texts in the URL, another for texts in the body.
     Json WithSecrets(const Row& row, const Json& arguments)
     {
         Json secret = arguments;
-        ReplaceTexts(secret, [&](const Json::json_pointer& place) {
+        ReplaceTexts(secret, [&](const Json::json_pointer& pointer) {
             Json probe = arguments;
             probe[place] = "probe";
             const APIModule::RequestParam request = Packed(*catalogue::FindCall(row.call), probe);
@@ -272,7 +272,7 @@ TEST_F(Secrets, AreAbsentFromLogsNotificationsFilesAndEmulatorOutput)
 
 int main(int argc, char** argv)
 {
-    // Whatever the process writes to its usual places is looked at, too.
+    // Files that the process writes to its usual folders are checked as well.
     const QTemporaryDir home;
     for (const char* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
         qputenv(place, QFile::encodeName(home.path()));

@@ -1,6 +1,6 @@
-// Preloaded into a program, makes certain what is otherwise a matter of luck: a thread that used TLS and whose owner
-// takes it for ended is still inside libcrypto's clean-up of that thread when exit() runs libcrypto's own clean-up.
-// Both free the same memory. The thread's clean-up waits here until the other one has freed what it shares with it.
+// Preloaded into a program, this turns a rare race into a certain failure: a thread that used TLS seems to have ended,
+// but libcrypto is still cleaning up its state when exit() runs libcrypto's global clean-up. Both free the same memory.
+// Here the thread's clean-up waits until the global one has freed the memory that they share.
 #include <chrono>
 #include <condition_variable>
 #include <cstdio>
@@ -28,8 +28,8 @@ std::mutex g_mutex;
 std::condition_variable g_changed;
 Key g_keys[kMostKeys];
 int g_nKeys = 0;
-int g_nOwing = 0;    // threads but the first that have state of libcrypto's
-int g_nEntered = 0;  // those of them that are inside their clean-up
+int g_nOwing = 0;    // threads other than the first that hold libcrypto state
+int g_nEntered = 0;  // those of them that have entered their clean-up
 bool g_bCleaned = false;
 
 template <typename Function>
@@ -68,7 +68,7 @@ void CleanUpLate(Destructor destructor, void* pState)
     const bool bLate = g_bCleaned;
     lock.unlock();
     destructor(pState);
-    if (bLate) {  // glibc does not notice each block that is freed twice
+    if (bLate) {  // glibc does not detect every double free
         (void)std::fputs("A thread's TLS state was cleaned up after the program's.\n", stderr);
         _exit(kLateExit);
     }

@@ -1,5 +1,5 @@
-// A program that has made calls over HTTPS ends cleanly, with the state that TLS leaves in threads cleaned up as late
-// as it can be.
+// A program that has made calls over HTTPS exits cleanly, even when the TLS state of its threads is cleaned up as late
+// as possible.
 #include "support/Program.h"
 #include "support/RawServer.h"
 
@@ -40,8 +40,8 @@ INSTANTIATE_TEST_SUITE_P(Ends, ExitTest,
                                          "exit_in_a_slot"),
                          [](const auto& row) { return std::string(row.param); });
 
-/// What the test above would see.
-TEST(LateThreadStateTest, DetectsAThreadThatIsCleanedUpAfterTheProgram)
+/// Checks that the test above can fail.
+TEST(LateThreadStateTest, DetectsThreadCleanUpAfterTheProgram)
 {
     const Ended end = RunToEnd(CARELESS, {});
     EXPECT_TRUE(end.crashed || end.status == kLateExit) << end.status << end.err;

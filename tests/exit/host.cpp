@@ -1,4 +1,4 @@
-// A small host that calls once over HTTPS and ends in the way that its second argument names.
+// A small host that makes a call over HTTPS and exits as its second argument specifies.
 #include "support/UserManager.h"
 
 #include <APIModule.h>

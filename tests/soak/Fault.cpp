@@ -10,13 +10,13 @@ constexpr int kNetworkError = -18;
 constexpr int kTimedOut = -101;
 constexpr int kUnauthorised = 7000;
 
-// Of the statuses some have no body, some would be followed or asked again by a browser.
+// Includes statuses without a body, redirects and requests for authentication.
 constexpr std::array kStatuses = {201, 204, 301, 302, 304, 307, 400, 403, 404, 407, 409, 418, 500, 501, 502, 503, 599};
 constexpr std::array kCodes = {-7, 0, 1, 999, 1001, 1005, 2001, 2147483647};
 
 struct Kind {
     const char* name;
-    double weight;  ///< how often it is drawn, of all weights together
+    double weight;  ///< relative frequency
     bool onlyReading;
     Fault (*make)(Random& random);
 };
@@ -39,7 +39,7 @@ Fault Envelope(Random& random)
     return {"envelope", {{"kind", "envelope"}, {"code", code}, {"desc", "refused"}}, Ending::Judged, code};
 }
 
-// A time-out costs its second, so there are few.
+// A time-out takes a second, so these are rare.
 constexpr std::array kKinds = {
     Kind{"none", 70, false,
          [](Random&) {
@@ -75,7 +75,7 @@ constexpr std::array kKinds = {
          [](Random&) {
              return Fault{"slow", {{"kind", "slow"}, {"bytesPerSecond", 50'000}}};
          }},
-    // Qt repeats a request whose connection closed, so these stand until they are cleared.
+    // Qt repeats a request whose connection closed, so these faults apply until they are cleared.
     Kind{"closeBefore", 1.5, false,
          [](Random&) {
              return Fault{"closeBefore", {{"kind", "closeBefore"}, {"times", 0}}, Ending::Broken, kNetworkError};
@@ -94,8 +94,8 @@ constexpr std::array kKinds = {
                  "noTime", {{"kind", "delay"}, {"delayMs", 1000}, {"times", 0}}, Ending::Broken, kTimedOut, 0, false,
                  true};
          }},
-    Kind{"parentGoes", 0.5, true, [](Random&) {
-             return Fault{"parentGoes", {{"kind", "silent"}, {"times", 0}}, Ending::Broken, kTimedOut, {}, true, true};
+    Kind{"parentDies", 0.5, true, [](Random&) {
+             return Fault{"parentDies", {{"kind", "silent"}, {"times", 0}}, Ending::Broken, kTimedOut, {}, true, true};
          }}};
 
 }  // namespace

@@ -12,31 +12,31 @@ namespace soak {
 using Json = nlohmann::json;
 using Random = std::mt19937_64;
 
-/// How a call must end.
+/// The expected end of a call.
 enum class Ending {
     Success,
-    Judged,  ///< with a code that is the result, or is notified where the caller asked for that
-    Broken   ///< with a code that is notified in any case
+    Judged,  ///< with a code that is returned, or notified if the caller asked for that
+    Broken   ///< with a code that is always notified
 };
 
 /// A fault of a call, and the expected outcome.
 struct Fault {
     std::string name;
-    Json control;  ///< the fault for the emulator, null for none; its path is set later
+    Json control;  ///< the fault for the emulator or null; its path is set later
     Ending ending = Ending::Success;
     int code = 0;
-    std::optional<int> timeoutSeconds = {};  ///< instead of the call's own
-    bool parentGoes = false;                 ///< the call waits behind a dialog whose parent is destroyed meanwhile
-    bool answerIsLate = false;               ///< the emulator may meet the request after the call
+    std::optional<int> timeoutSeconds = {};  ///< overrides the call's time-out
+    bool parentDies = false;                 ///< the parent of the wait dialog is destroyed during the wait
+    bool requestIsLate = false;              ///< the emulator may receive the request after the call has ended
 };
 
 /// @param onlyReads whether the call changes nothing, so that it may reach the emulator at any time
 Fault DrawFault(Random& random, bool onlyReads);
 
-/// The names of all faults, the usual ones first.
+/// The names of all faults, the case without a fault first.
 std::vector<std::string> FaultNames();
 
-/// True in @p share of all cases.
+/// Returns true with probability @p share.
 bool Chance(Random& random, double share);
 
 template <typename Values>

@@ -23,8 +23,8 @@
 namespace soak {
 namespace {
 
-// Reads answer at once, a write over loopback takes 40 ms (its body waits for a delayed acknowledgement), in which
-// other calls run.
+// Reads return at once. A write over loopback takes 40 ms, because its body waits for a delayed acknowledgement;
+// other calls run meanwhile.
 constexpr double kWrites = 0.12;
 constexpr double kWithDialog = 0.05;
 constexpr double kWithTip = 0.02;
@@ -33,9 +33,9 @@ constexpr double kWithOthers = 0.1;
 constexpr double kTyped = 0.3;
 constexpr double kBursts = 0.01;
 constexpr int kMostInBurst = 30;
-constexpr double kGivenUp = 0.2;
-constexpr std::size_t kDeepest = 4;
-constexpr int kMostOthers = 6;
+constexpr double kCancelled = 0.2;
+constexpr std::size_t kMaxDepth = 4;
+constexpr int kMostNestedCalls = 6;
 constexpr int kParentLivesMs = 20;
 constexpr int kFailureLevel = 6;
 
@@ -67,7 +67,7 @@ int Pack(const catalogue::Call& call, const std::vector<catalogue::Value>& argum
     return call.pack(pReqParamData, values.data(), -1);
 }
 
-/// What ExecuteFuncs would have returned, and notifies as it does.
+/// Returns what ExecuteFuncs would have returned, and notifies as it does.
 int ResultOf(const APIModule::OutcomeBase& outcome, const QString& tip, bool bNotified)
 {
     using APIModule::CallEnd;
@@ -99,7 +99,7 @@ Soak::Soak(e2e::EmulatorProcess& platform, Random::result_type seed, Tally& tall
     Library().Init(&m_users);
     QObject::connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
                      &ORNGUI::OrnMessageNotify::TextNotificationAdded, &m_context,
-                     [this](const QString& text) { m_told.push_back(text.toStdString()); });
+                     [this](const QString& text) { m_notices.push_back(text.toStdString()); });
     ornl::TalPrintLog::instance().SetObserver([this](const ornl::LogRecord& record) {
         if (record.nLevel == kFailureLevel) {
             m_logged.push_back(record.strMessage);
@@ -126,28 +126,28 @@ void Soak::Step()
     }
 }
 
-/// Many reads at once. Some are given up, at once or on their way, by their handle or by the end of their receiver.
+/// Starts many reads at once. Some are cancelled, at once or later, by their handle or by destroying their receiver.
 void Soak::Burst()
 {
     struct Started {
         const Candidate* candidate;
         APIModule::CallHandle handle;
         std::unique_ptr<QObject> receiver = std::make_unique<QObject>();
-        bool givenUp = false;
+        bool cancelled = false;
         int ended = 0;
     };
     m_users.servers[1].port = m_platform.HttpsPort();
     Library().SetHttpsMode(1);
     std::vector<std::unique_ptr<Started>> calls;
-    std::size_t nToGo = 0;
+    std::size_t nRunning = 0;
     QEventLoop loop;
     const int nCalls = std::uniform_int_distribution<int>(2, kMostInBurst)(m_random);
     for (int i = 0; i < nCalls; ++i) {
         Started& call = *calls.emplace_back(std::make_unique<Started>());
         call.candidate = &OneOf(m_random, m_reading);
-        ++nToGo;
-        const auto leave = [&nToGo, &loop] {
-            if (--nToGo == 0) {
+        ++nRunning;
+        const auto leave = [&nRunning, &loop] {
+            if (--nRunning == 0) {
                 loop.quit();
             }
         };
@@ -156,18 +156,18 @@ void Soak::Burst()
             [this, &call, leave](const catalogue::Outcome& outcome) {
                 ++call.ended;
                 if (!outcome) {
-                    m_tally.Fail(call.candidate->call->name + " in a burst gave " + std::to_string(outcome.Code()));
+                    m_tally.Fail(call.candidate->call->name + " in a burst returned " + std::to_string(outcome.Code()));
                 }
                 leave();
             });
-        if (Chance(m_random, kGivenUp)) {
+        if (Chance(m_random, kCancelled)) {
             const bool bByHandle = Chance(m_random, 0.5);
             const int nDelay = std::uniform_int_distribution<int>(0, 5)(m_random);
             QTimer::singleShot(nDelay, &loop, [&call, leave, bByHandle] {
                 if (!call.handle.IsRunning()) {
                     return;
                 }
-                call.givenUp = true;
+                call.cancelled = true;
                 if (bByHandle) {
                     call.handle.Cancel();
                 } else {
@@ -181,7 +181,7 @@ void Soak::Burst()
     for (const auto& pCall : calls) {
         const catalogue::Call& call = *pCall->candidate->call;
         m_tally.Count({call.family, call.name, FaultNames().front(), false, 1, 0, 0});
-        if (pCall->ended != (pCall->givenUp ? 0 : 1)) {
+        if (pCall->ended != (pCall->cancelled ? 0 : 1)) {
             m_tally.Fail(call.name + " in a burst ended " + std::to_string(pCall->ended) + " times");
         }
     }
@@ -196,7 +196,7 @@ std::vector<Soak::Candidate> Soak::Candidates()
         if (pCall == nullptr || Pack(*pCall, ArgumentsOf(row, *pCall), &param) != 0) {
             throw std::logic_error(row.call + " does not run");
         }
-        // Up to the first character that may be encoded on its way.
+        // Up to the first character that may be percent-encoded.
         const std::size_t end = param.strUrl.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                                                "0123456789/.-_");
         candidates.push_back({&row, pCall, param.strUrl.substr(0, end), param.eMethod == APIModule::Method_Get});
@@ -204,8 +204,8 @@ std::vector<Soak::Candidate> Soak::Candidates()
     return candidates;
 }
 
-// Drawn like cards, so that each appears regularly, and from families without a waiting call, so that no call changes
-// the data or takes the fault of another.
+// Draws without replacement, so that every call appears regularly, and only from families without a waiting call, so
+// that no call changes the data or receives the fault of another.
 const Soak::Candidate* Soak::Choose()
 {
     const bool writes = Chance(m_random, kWrites);
@@ -230,13 +230,13 @@ const Soak::Candidate* Soak::Choose()
 Soak::Making Soak::Draw(const Candidate& candidate)
 {
     Fault fault = DrawFault(m_random, candidate.reads);
-    // A request that is under way yet could meet this fault in the place of the call.
-    const bool meetsLate = !m_latePath.empty() && (StartsWith(m_latePath, candidate.path));
-    if (meetsLate && !fault.control.is_null()) {
+    // A request that is still on its way could receive this fault instead of the call.
+    const bool mayHitLateRequest = !m_latePath.empty() && (StartsWith(m_latePath, candidate.path));
+    if (mayHitLateRequest && !fault.control.is_null()) {
         fault = Fault{FaultNames().front(), {}};
     }
-    m_latePath = fault.answerIsLate ? candidate.path : std::string();
-    const bool withDialog = fault.parentGoes || Chance(m_random, kWithDialog);
+    m_latePath = fault.requestIsLate ? candidate.path : std::string();
+    const bool withDialog = fault.parentDies || Chance(m_random, kWithDialog);
     return {&candidate, std::move(fault), withDialog, Chance(m_random, kWithTip), Chance(m_random, kNotified)};
 }
 
@@ -253,16 +253,16 @@ void Soak::Make(const Candidate& candidate)
     }
 
     m_families.push_back(candidate.call->family);
-    std::vector<std::string> toldToOuter = std::exchange(m_told, {});
+    std::vector<std::string> noticesOfOuter = std::exchange(m_notices, {});
     std::vector<std::string> loggedByOuter = std::exchange(m_logged, {});
     std::optional<QObject> others;
     const bool isUndisturbed = making.fault.control.is_null() && making.fault.ending == Ending::Success;
-    if (isUndisturbed && m_families.size() < kDeepest && (!candidate.reads || Chance(m_random, kWithOthers))) {
+    if (isUndisturbed && m_families.size() < kMaxDepth && (!candidate.reads || Chance(m_random, kWithOthers))) {
         others.emplace();
         QTimer::singleShot(0, &*others, [this] { StartOthers(); });
     }
     Judge(making, Execute(making));
-    m_told = std::move(toldToOuter);
+    m_notices = std::move(noticesOfOuter);
     m_logged = std::move(loggedByOuter);
     m_families.pop_back();
 
@@ -292,7 +292,7 @@ int Soak::Execute(const Making& making)
     const auto parse = [&](const QJsonObject& data) { return record ? call.parse(data, record->Data()) : 0; };
 
     QWidget* pParent = making.withDialog ? &m_window : nullptr;
-    if (making.fault.parentGoes) {
+    if (making.fault.parentDies) {
         pParent = new QWidget;
         pParent->show();
         QTimer::singleShot(kParentLivesMs, pParent, [pParent] { delete pParent; });
@@ -310,7 +310,7 @@ int Soak::Execute(const Making& making)
 
 void Soak::StartOthers()
 {
-    const int nOthers = std::uniform_int_distribution<int>(1, kMostOthers)(m_random);
+    const int nOthers = std::uniform_int_distribution<int>(1, kMostNestedCalls)(m_random);
     for (int i = 0; i < nOthers; ++i) {
         if (const Candidate* pOther = Choose()) {
             Make(*pOther);
@@ -323,19 +323,19 @@ void Soak::Judge(const Making& making, int result)
     const Fault& fault = making.fault;
     const bool isNotified = fault.ending == Ending::Broken || (fault.ending == Ending::Judged && making.notified);
     int expected = isNotified ? -1 : fault.code;
-    std::vector<std::string> told;
+    std::vector<std::string> expectedNotices;
     if (isNotified) {
-        told.push_back(
+        expectedNotices.push_back(
             APIModule::CAPIModule::GetErroCodeInfor(QString::fromStdString(kCaption), fault.code, true).toStdString());
     } else if (fault.ending == Ending::Success && making.withTip) {
-        told.push_back(kTip);
+        expectedNotices.push_back(kTip);
     }
     m_tally.Count({making.candidate->call->family, making.candidate->call->name, fault.name, making.withDialog,
                    m_families.size(), result, fault.code});
-    if (result != expected || m_told != told) {
-        m_tally.Fail(making.candidate->call->name + " under " + fault.name + " in depth " +
-                     std::to_string(m_families.size()) + " gave " + std::to_string(result) + " for " +
-                     std::to_string(expected) + ", notified: " + Listed(m_told) + ", logged: " + Listed(m_logged));
+    if (result != expected || m_notices != expectedNotices) {
+        m_tally.Fail(making.candidate->call->name + " with fault " + fault.name + " at depth " +
+                     std::to_string(m_families.size()) + " returned " + std::to_string(result) + " instead of " +
+                     std::to_string(expected) + ", notified: " + Listed(m_notices) + ", logged: " + Listed(m_logged));
     }
 }
 
@@ -344,7 +344,7 @@ void Soak::Control(const char* pMethod, const std::string& path, const Json& bod
     const Answer answer =
         m_platform.Control().request(pMethod, "/emulator/v1/" + path, body.is_null() ? std::string() : body.dump());
     if (!answer.arrived || answer.status >= 300) {
-        throw std::runtime_error("the emulator does not take " + path + ": " + answer.body);
+        throw std::runtime_error("the emulator rejects " + path + ": " + answer.body);
     }
 }
 

@@ -17,8 +17,8 @@
 
 namespace soak {
 
-/// Makes one call after the other, as a client's user interface does for weeks, and holds each against what must come
-/// of it.
+/// Makes calls one after another, as a client's user interface does for weeks, and compares each outcome with the
+/// expected one.
 class Soak {
 public:
     Soak(e2e::EmulatorProcess& platform, Random::result_type seed, Tally& tally);
@@ -28,7 +28,7 @@ public:
     Soak(Soak&&) = delete;
     Soak& operator=(Soak&&) = delete;
 
-    /// One call, with those that start while it waits.
+    /// Makes one call, and those that start while it waits.
     void Step();
 
 private:
@@ -37,10 +37,10 @@ private:
         const e2e::Row* row;
         const catalogue::Call* call;
         std::string path;  ///< the start of its URL, as sent
-        bool reads;        ///< changes nothing
+        bool reads;        ///< whether it only reads
     };
 
-    /// One call as it is made.
+    /// How one call is made.
     struct Making {
         const Candidate* candidate;
         Fault fault;
@@ -67,12 +67,12 @@ private:
     QObject m_context;
     std::vector<Candidate> m_reading;
     std::vector<Candidate> m_writing;
-    std::vector<const Candidate*> m_nextReading;  ///< those not made since each was
+    std::vector<const Candidate*> m_nextReading;  ///< not yet made in this round
     std::vector<const Candidate*> m_nextWriting;
-    std::string m_latePath;               ///< of a request that may reach the emulator after its call
-    std::vector<std::string> m_told;      ///< notified by the call that runs
-    std::vector<std::string> m_logged;    ///< the failures that it logged
-    std::vector<std::string> m_families;  ///< of the calls that wait
+    std::string m_latePath;               ///< path of a request that may arrive after its call has ended
+    std::vector<std::string> m_notices;   ///< texts that the running call notified
+    std::vector<std::string> m_logged;    ///< failures that it logged
+    std::vector<std::string> m_families;  ///< families of the waiting calls
 };
 
 }  // namespace soak

@@ -18,16 +18,16 @@ namespace soak {
 namespace {
 
 constexpr std::size_t kMostShown = 20;
-/// A short course ends while the process still warms up.
-constexpr std::size_t kLongCourse = 50'000;
+/// A shorter run ends while the process is still warming up.
+constexpr std::size_t kLongRun = 50'000;
 constexpr double kResidentBound = 0.02;
-constexpr double kResidentBoundOfShort = 0.1;
-/// The number of connections kept for reuse varies: up to six to a port, each with some objects.
+constexpr double kResidentBoundOfShortRun = 0.1;
+/// The number of connections kept for reuse varies: up to six for each port, each with a few objects.
 constexpr int kSpareDescriptors = 12;
 constexpr int kSpareObjects = 96;
 
-/// For the samples of a tenth: the median of a value that fluctuates, the minimum of a value that only a leak keeps
-/// high.
+/// Summarizes the samples of a tenth: the median of the resident set, which fluctuates, and the minimum of the counts,
+/// which only a leak keeps high.
 struct Summary {
     double residentKiB;
     int descriptors;
@@ -100,7 +100,7 @@ void Tally::Fail(const std::string& what)
     }
 }
 
-void Tally::Look(double progress)
+void Tally::Sample(double progress)
 {
     const auto tenth = std::min(kTenths - 1, static_cast<std::size_t>(progress * kTenths));
     m_tenths.at(tenth).push_back(Holding::Now());
@@ -119,11 +119,11 @@ void Tally::PrintTables() const
     }
     const auto fewest = std::min_element(m_byCall.begin(), m_byCall.end(),
                                          [](const auto& a, const auto& b) { return a.second < b.second; });
-    std::cout << "  all " << std::setw(10) << m_calls << ", " << m_withDialog << " behind a wait dialog, " << m_inside
-              << " inside the wait of another\n  " << m_byCall.size() << " different calls, each made "
+    std::cout << "  all " << std::setw(10) << m_calls << ", " << m_withDialog << " with a wait dialog, " << m_inside
+              << " during the wait of another\n  " << m_byCall.size() << " different calls, each made "
               << (fewest == m_byCall.end() ? 0 : fewest->second) << " times or more\n";
 
-    std::cout << "\nFaults, and how often which result came (the notified code behind a -1)\n";
+    std::cout << "\nFaults, and how often each result occurred (the notified code after a -1)\n";
     for (const std::string& name : FaultNames()) {
         const auto drawn = m_byFault.find(name);
         std::cout << "  " << std::left << std::setw(13) << name << std::right;
@@ -158,12 +158,12 @@ bool Tally::IsGood(std::size_t allCalls) const
     std::cout << "resident set: " << std::showpos << std::fixed << std::setprecision(2) << growth * 100
               << std::noshowpos << " % from the second tenth to the last\n";
     const std::vector<std::pair<bool, const char*>> demands = {
-        {m_failures == 0, "a call ended otherwise than predicted"},
+        {m_failures == 0, "a call did not end as expected"},
         {m_byCall.size() == allCalls, "a call was never made"},
-        {std::abs(growth) <= (m_calls < kLongCourse ? kResidentBoundOfShort : kResidentBound),
-         "the resident set is not flat"},
+        {std::abs(growth) <= (m_calls < kLongRun ? kResidentBoundOfShortRun : kResidentBound),
+         "the resident set grows"},
         {last.descriptors <= second.descriptors + kSpareDescriptors, "descriptors are left open"},
-        {last.objects <= second.objects + kSpareObjects, "objects are left"}};
+        {last.objects <= second.objects + kSpareObjects, "objects leak"}};
     bool isGood = true;
     for (const auto& [holds, complaint] : demands) {
         if (!holds) {
@@ -171,7 +171,7 @@ bool Tally::IsGood(std::size_t allCalls) const
             isGood = false;
         }
     }
-    std::cout << (isGood ? "soak: all as it must be" : "soak: failed") << std::endl;
+    std::cout << (isGood ? "soak: passed" : "soak: failed") << std::endl;
     return isGood;
 }
 

@@ -16,9 +16,9 @@ struct Made {
     std::string call;
     std::string fault;
     bool withDialog;
-    std::size_t depth;  ///< 1, and more inside the waits of others
+    std::size_t depth;  ///< 1, more during the waits of other calls
     int result;
-    int code;  ///< behind the result, which is -1 where the code was notified
+    int code;  ///< the notified code if the result is -1, otherwise the result
 };
 
 /// What the process held at one moment.
@@ -36,7 +36,7 @@ public:
     void Count(const Made& made);
     void Fail(const std::string& what);
     /// @param progress from 0 to 1
-    void Look(double progress);
+    void Sample(double progress);
 
     [[nodiscard]] std::size_t Calls() const { return m_calls; }
     [[nodiscard]] std::size_t Failures() const { return m_failures; }

@@ -1,4 +1,4 @@
-// Calls of all families to an emulator that fails at random, for a given time or number of calls.
+// Makes calls of all families to an emulator that fails at random, for a given time or number of calls.
 #include "Soak.h"
 
 #include <faults/Census.h>
@@ -22,10 +22,10 @@ struct Options {
     bool showLog = false;
 };
 
-/// Looks at the process a hundred times on the way.
-class Course {
+/// Samples the process a hundred times during a run.
+class Schedule {
 public:
-    explicit Course(const Options& options) : m_options(options) { m_time.start(); }
+    explicit Schedule(const Options& options) : m_options(options) { m_time.start(); }
 
     [[nodiscard]] double Progress(const soak::Tally& tally) const
     {
@@ -35,12 +35,12 @@ public:
                    : static_cast<double>(tally.Calls()) / static_cast<double>(m_options.calls);
     }
 
-    void LookAt(soak::Tally& tally)
+    void SampleWhenDue(soak::Tally& tally)
     {
         constexpr double kStep = 0.01;
         const double progress = Progress(tally);
         if (progress >= m_next && progress < 1) {
-            tally.Look(progress);
+            tally.Sample(progress);
             m_next = progress + kStep;
         }
     }
@@ -57,20 +57,20 @@ int Run(const Options& options)
     e2e::EmulatorProcess platform({});
     soak::Tally tally;
     soak::Soak soak(platform, options.seed, tally);
-    Course course(options);
+    Schedule schedule(options);
     std::exception_ptr failure;
 
-    // Run from the application's event loop, like the calls of a client.
+    // Runs from the application's event loop, like the calls of a client.
     QTimer steps;
     QObject::connect(&steps, &QTimer::timeout, &steps, [&] {
         steps.stop();
         try {
-            course.LookAt(tally);
+            schedule.SampleWhenDue(tally);
             soak.Step();
         } catch (...) {
             failure = std::current_exception();
         }
-        if (failure || course.Progress(tally) >= 1) {
+        if (failure || schedule.Progress(tally) >= 1) {
             QCoreApplication::quit();
         } else {
             steps.start();
@@ -93,14 +93,14 @@ int main(int argc, char** argv)
     Options options;
     CLI::App app{
         "soak: makes calls of all families against an emulator that fails at random, and checks that each ends "
-        "as it must and that nothing piles up.",
+        "as expected and that nothing leaks.",
         "soak"};
     CLI::Option* pSeconds = app.add_option("SECONDS", options.seconds, "How long")->check(CLI::PositiveNumber);
-    app.add_option("--calls", options.calls, "How many calls, where no time is given")
+    app.add_option("--calls", options.calls, "How many calls, if no time is given")
         ->check(CLI::PositiveNumber)
         ->excludes(pSeconds)
         ->capture_default_str();
-    app.add_option("--seed", options.seed, "Repeats a course (default: any)");
+    app.add_option("--seed", options.seed, "Repeats a run (default: random)");
     app.add_flag("--log", options.showLog, "Show the log on standard error");
     try {
         app.parse(argc, argv);

@@ -30,7 +30,7 @@ std::vector<Row> SystemConfigRows()
                               [](const Json& type) { return std::stoi(type.get<std::string>()); });
               }),
         Reads("BRMS.GetLocalSetting", readSetting, At("/brms/localSettings/3")),
-        // The setting that the trace has just read is the one that is written, with a version of its own.
+        // Writes the setting that the trace has just read, with a new version.
         Writes("BRMS.UpdateLocalSetting", {{"apply", false}, {"content", "<layout name=\"Halle\"/>"}},
                {ReadBack("BRMS.GetLocalSetting", readSetting,
                          {{"apply", false},
@@ -68,7 +68,7 @@ std::vector<Row> DeviceConfigRows()
               [](const Json& state) {
                   return With(state.at("brms").at("network").at("1000002"), {{"deviceCode", ""}});
               }),
-        Reads("BRMS.GetNetworkConfig OfADeviceWithoutItsOwn", {{"deviceCode", "1000051"}},
+        Reads("BRMS.GetNetworkConfig OfADeviceWithoutConfig", {{"deviceCode", "1000051"}},
               [](const Json& state) {
                   return With(state.at("brms").at("network").at("*"), {{"deviceCode", ""}});
               }),

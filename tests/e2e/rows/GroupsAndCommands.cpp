@@ -37,13 +37,13 @@ std::vector<Row> UserGroupRows()
     };
 }
 
-/// The list of all commands reads neither mode nor requests.
+/// A command in the list of all commands, which reads neither mode nor requests.
 static Json Summary(const Json& command)
 {
     return With(command, {{"executeMode", 0}, {"httpUrls", Json::array()}});
 }
 
-/// The list of a plan reads name and requests, of these neither body nor the rest.
+/// A command in the list of a plan, which reads only the name and the requests without their bodies.
 static Json OfAPlan(const Json& command)
 {
     return {{"id", ""},

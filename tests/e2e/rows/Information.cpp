@@ -99,7 +99,7 @@ std::vector<Row> AlarmEventRows()
     };
 }
 
-/// How many of the devices there are in each category.
+/// The number of devices in each category.
 static Json CountedByCategory(const Json& devices)
 {
     std::map<int, int> counts;

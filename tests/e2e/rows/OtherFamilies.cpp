@@ -173,7 +173,7 @@ std::vector<Row> ObmsRows()
 
 std::vector<Row> OmmsRows()
 {
-    // What only other calls read.
+    // Removes keys that only other calls read.
     const auto without = [](Json object, const Keys& keys) {
         for (const std::string& key : keys) {
             object.erase(key);
@@ -182,7 +182,7 @@ std::vector<Row> OmmsRows()
     };
     return {
         Reads("OMMS.GetAlertTypes", {}, At("/omms/alertTypes")),
-        // No two fields hold the same value.
+        // Makes the values of all fields different.
         Reads("OMMS.GetChannelInfo", {{"channelId", "1000002$1$0$1"}},
               [without](const Json& state) {
                   return without(Element(state.at("inventory").at("channels"), "channelId", "1000002$1$0$1"),

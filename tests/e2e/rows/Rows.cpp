@@ -12,7 +12,7 @@
 namespace e2e {
 namespace {
 
-/// The call with the examples of the contract: its arguments, and its record where it reads.
+/// A row with the contract's examples as arguments and, for a call that reads, as record.
 Row OfTheContract(const catalogue::Call& call)
 {
     static const emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
@@ -28,7 +28,8 @@ Row OfTheContract(const catalogue::Call& call)
     }
     if (call.parse != nullptr) {
         const Json data = operation.dataExample();
-        const bool bInside = call.result->kind != catalogue::Kind::Record;  // a value or a list is the only member
+        const bool bInside =
+            call.result->kind != catalogue::Kind::Record;  // a simple value or a list is the only member of the data
         row.record = [record = bInside ? data.front() : data](const Json& /*state*/) { return record; };
     }
     return row;
@@ -41,9 +42,9 @@ Trace ReadBack(std::string call, Json arguments, Json record)
     return {std::move(call), std::move(arguments), {}, std::move(record)};
 }
 
-Trace Held(std::string place, Json value)
+Trace Held(std::string pointer, Json value)
 {
-    return {{}, {}, std::move(place), std::move(value)};
+    return {{}, {}, std::move(pointer), std::move(value)};
 }
 
 Trace Accepted(const std::string& operation, Json path, Json body)
@@ -66,8 +67,8 @@ Row Writes(const std::string& name, Json arguments, std::vector<Trace> traces)
 
 Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> traces, Expectation record)
 {
-    const std::size_t blank = std::min(name.find(' '), name.size());
-    return {name.substr(0, blank), name.substr(std::min(blank + 1, name.size())), std::move(arguments),
+    const std::size_t space = std::min(name.find(' '), name.size());
+    return {name.substr(0, space), name.substr(std::min(space + 1, name.size())), std::move(arguments),
             std::move(record), std::move(traces)};
 }
 

@@ -8,41 +8,41 @@
 
 namespace e2e {
 
-/// Where a write must be seen: otherwise before the call, as expected after it.
+/// Where a write must be visible: the value must differ before the call and be as expected after it.
 struct Trace {
-    std::string call;  ///< the call that reads it back; empty where none does
+    std::string call;  ///< the call that reads the value back; empty if none does
     Json arguments;
-    std::string place;  ///< in the emulator's state where no call reads it back
+    std::string pointer;  ///< JSON pointer into the emulator's state, if no call reads the value back
     Json expected;
 };
 
-/// Seen by a call of the library.
+/// Read back by a call of the library.
 Trace ReadBack(std::string call, Json arguments, Json record);
-/// Seen in the emulator's state; the value is null where nothing stands.
-Trace Held(std::string place, Json value);
-/// Kept by the emulator as the first accepted request of its operation.
+/// Found in the emulator's state; null if nothing is stored there.
+Trace Held(std::string pointer, Json value);
+/// Recorded by the emulator as the first accepted request of its operation.
 Trace Accepted(const std::string& operation, Json path, Json body);
 
-/// A call, what its record must be and what it must change.
+/// A call, its expected record and its expected changes.
 struct Row {
     std::string call;
-    std::string variant;  ///< tells further rows of a call apart
+    std::string variant;  ///< distinguishes further rows of the same call
     Json arguments = {};
-    Expectation record = {};  ///< none for a call without a record
+    Expectation record = {};  ///< empty for a call without a record
     std::vector<Trace> traces = {};
-    Json state = {};  ///< values by JSON pointer that the emulator holds before the call, beside its seed
+    Json state = {};  ///< values by JSON pointer that are added to the emulator's seeds before the call
 
     [[nodiscard]] std::string Name() const;  ///< "BRMS_GetUserGroupList_Keyword"
 };
 
-/// @name Rows of a call, and of its variant behind a blank: "BRMS.GetUserGroupList Keyword"
+/// @name Rows of a call, named after the call and an optional variant: "BRMS.GetUserGroupList Keyword"
 /// @{
 Row Reads(const std::string& name, Json arguments, Expectation record, Json state = {});
 Row Writes(const std::string& name, Json arguments, std::vector<Trace> traces);
 Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> traces, Expectation record);
 /// @}
 
-/// Those below; a call without any has one by the examples of the contract.
+/// All rows below, and a row with the contract's examples for each call without one.
 const std::vector<Row>& Rows();
 /// The first row of a call.
 const Row& RowOf(std::string_view call);

@@ -10,20 +10,20 @@
 
 namespace e2e {
 
-/// The emulator as a program of its own.
+/// The emulator as a separate process.
 class EmulatorProcess {
 public:
-    /// Starts it and waits until it listens.
+    /// Starts the emulator and waits until it listens.
     explicit EmulatorProcess(const QStringList& arguments);
 
     [[nodiscard]] int HttpPort() const { return m_httpPort; }
     [[nodiscard]] int HttpsPort() const { return m_httpsPort; }
 
-    /// For its control path.
+    /// A client for the control path.
     TestClient& Control() { return m_control; }
 
-    /// Ends it.
-    /// @return all that it printed
+    /// Stops the emulator.
+    /// @return everything that it printed
     std::string End();
 
 private:

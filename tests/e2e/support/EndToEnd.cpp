@@ -53,7 +53,7 @@ catalogue::Outcome EndToEnd::Run(const std::string& call, const Json& arguments,
     return catalogue::Run(found, catalogue::ReadArguments(found, named), settings);
 }
 
-Json FreshRecord(const std::string& call)
+Json DefaultRecord(const std::string& call)
 {
     const catalogue::Type* pResult = Find(call).result;
     return pResult == nullptr ? Json() : catalogue::Value(*pResult).ToJson();

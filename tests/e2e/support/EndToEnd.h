@@ -20,8 +20,7 @@ enum class Scheme {
     Https
 };
 
-/// A host of the library that is connected to an emulator, which has just been reset. The tests of a suite share the
-/// emulator.
+/// A host connected to an emulator. The tests of a suite share the emulator, which is reset before each test.
 class EndToEnd : public testing_support::Host {
 protected:
     EndToEnd();
@@ -42,10 +41,10 @@ private:
     static std::unique_ptr<emulator::PlatformEmulator> s_platform;
 };
 
-/// The record of a call that reads nothing.
-Json FreshRecord(const std::string& call);
+/// The record of a call before anything is read into it.
+Json DefaultRecord(const std::string& call);
 
-/// A row of a table shows its call where a test fails.
+/// Prints the call of a row when a test fails.
 template <typename Row>
 auto operator<<(std::ostream& stream, const Row& row) -> decltype((stream << row.call))
 {

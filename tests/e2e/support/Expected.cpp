@@ -5,9 +5,9 @@
 
 namespace e2e {
 
-Expectation At(const std::string& place)
+Expectation At(const std::string& pointer)
 {
-    return [pointer = Json::json_pointer(place)](const Json& state) { return state.at(pointer); };
+    return [pointer = Json::json_pointer(pointer)](const Json& state) { return state.at(pointer); };
 }
 
 Json With(Json object, const Json& more)

@@ -6,24 +6,24 @@
 #include <string>
 #include <vector>
 
-/// Records as they must come, made of what the emulator holds.
+/// Expected records, computed from the emulator's state.
 namespace e2e {
 
 using Json = nlohmann::json;
 using Keys = std::vector<std::string>;
 
-/// A record by the emulator's state.
+/// Computes the expected record from the emulator's state.
 using Expectation = std::function<Json(const Json& state)>;
 
-/// What stands at a JSON pointer.
-Expectation At(const std::string& place);
+/// The value at a JSON pointer.
+Expectation At(const std::string& pointer);
 
 /// The object with further members.
 Json With(Json object, const Json& more);
-/// The object with these members alone.
+/// The object reduced to these members.
 Json Pick(const Json& object, const Keys& keys);
 Json PickEach(const Json& list, const Keys& keys);
-/// The elements of a page, which count from 1.
+/// The elements of a page; pages count from 1.
 Json PageOf(const Json& list, std::size_t page, std::size_t pageSize);
 /// The element whose member has this value.
 Json Element(const Json& list, const std::string& key, const Json& value);
