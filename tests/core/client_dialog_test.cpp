@@ -1,5 +1,5 @@
-// A client's own wait dialog: a plain modal dialog, which Escape, accept(), hiding and closing end. Its functions stand
-// here in the place of those of the bundled one.
+// A wait dialog that the client provides: a plain modal dialog, which Escape, accept(), hiding and closing end. The
+// functions below replace those of the bundled dialog.
 #include "support/Host.h"
 #include "support/Rows.h"
 #include "support/Waiting.h"
@@ -59,7 +59,7 @@ protected:
         return Execute(call);
     }
 
-    /// A call that is never answered ends long before its time-out, as one whose time is over.
+    /// Makes a call without a reply and expects it to end as timed out long before its time-out.
     void ExpectTimeOutAtOnce()
     {
         QElapsedTimer elapsed;
@@ -91,7 +91,7 @@ TEST_F(ClientDialogTest, DialogThatReturnsImmediatelyEndsTheWait)
     g_bReturnsAtOnce = false;
 }
 
-/// What ends a plain dialog.
+/// An action that ends a plain dialog.
 struct Ending {
     const char* name;
     void (*act)(QWidget& dialog);

@@ -1,4 +1,4 @@
-// The readers of JSON values, held against the slow conversion through variants on a million random values.
+// Compares the readers of JSON values with the slow reference conversion, using a million random values.
 #include "families/support/ReadingDifference.h"
 #include "support/RandomJson.h"
 #include "support/Recorders.h"
@@ -23,7 +23,7 @@ QStringList Keys()
     return keys;
 }
 
-/// Now and then without one of the keys, and without all.
+/// An object that sometimes lacks one of the keys or all of them.
 QJsonObject RandomObject(const QStringList& keys, RandomJson& random)
 {
     constexpr quint64 kWithout = 1000;

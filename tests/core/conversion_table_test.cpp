@@ -1,9 +1,8 @@
-// The readers of JSON values, held against a table of what the variants of Qt 5 convert them to:
-//   conversions.txt                  a row for each value, with fields between tabs: the value and what each overload
-//   reads <program> --write conversions.txt    writes the same rows anew, with the variants of the Qt 5 that it was
-//   built with
-// A value is the text of a JSON value, or, after "=", one that JSON text cannot express: an integer, or a double as %a
-// shows it.
+// Compares the readers of JSON values with conversions.txt, a table of the conversions of Qt 5. Each row has fields
+// separated by tabs: a value, and the result of each overload for it.
+//   <program> --write conversions.txt   rewrites the rows with the conversions of the Qt 5 that it was built with
+// A value is a JSON text or, after "=", a number that JSON text cannot express: an integer, or a double in the format
+// of %a.
 #include "families/support/SlowReading.h"
 
 #include <public/CommonFunc.h>
@@ -26,7 +25,7 @@ namespace {
 
 const QString kKey = QStringLiteral("k");
 
-/// In ASCII, with every bit that counts.
+/// The value in ASCII, without loss of precision.
 QByteArray Shown(double number)
 {
     std::array<char, 64> text{};
@@ -108,7 +107,7 @@ QByteArray Shown(const QJsonArray& array)
     return Shown(QJsonValue(array));
 }
 
-/// An object with the value of a row under the key.
+/// An object that holds the value of a row under kKey.
 QJsonObject ObjectOf(const QByteArray& value)
 {
     if (value.startsWith('=')) {
@@ -202,7 +201,7 @@ TEST_F(ConversionTable, ReferenceRulesMatchQt5)
 int Write(const QString& name)
 {
     if (QT_VERSION_MAJOR != 5) {
-        std::cerr << "the table is written with Qt 5\n";
+        std::cerr << "the table can only be written with Qt 5\n";
         return 1;
     }
     const QList<QByteArray> rows = RowsOf(name);

@@ -27,7 +27,7 @@ std::string KnownText(int code)
 
 class ErrorText : public Host {};
 
-TEST_F(ErrorText, KnownCode)
+TEST_F(ErrorText, KnownCodeHasItsTextAfterTheCaption)
 {
     const QString text = QString::fromStdString(KnownText(-101));
     EXPECT_EQ(CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), -101, true),
@@ -38,7 +38,7 @@ TEST_F(ErrorText, KnownCode)
     EXPECT_EQ(logs.Take(), LogLines());
 }
 
-TEST_F(ErrorText, UnknownCodeWithUiText)
+TEST_F(ErrorText, UnknownCodeReturnsTheUiTextAndLogs)
 {
     for (const bool bAppend : {true, false}) {
         EXPECT_EQ(CAPIModule::GetErroCodeInfor(QStringLiteral("No %s settings"), kUnknownCode, bAppend),
@@ -48,7 +48,7 @@ TEST_F(ErrorText, UnknownCodeWithUiText)
     }
 }
 
-TEST_F(ErrorText, UnknownCodeWithoutUiText)
+TEST_F(ErrorText, UnknownCodeWithoutUiTextReturnsOperationFailed)
 {
     EXPECT_EQ(CAPIModule::GetErroCodeInfor(QString(), kUnknownCode, true), QStringLiteral("Operation failed"));
     const char* const line = "Error code is not exist, strUIError=, errorCode=987654";
@@ -74,13 +74,13 @@ TEST_F(ErrorText, TextsAreTranslatedInTheContextOfTheClass)
     QCoreApplication::removeTranslator(&translator);
 }
 
-/// What a call that fails with the envelope code 987654, or 7000, shows.
+/// The notification of a call that fails with an envelope code.
 struct Notice {
     const char* name;
     const char* uiError;
     int code;
     bool showErrorCode;
-    const char* shown;  ///< null for nothing
+    const char* shown;  ///< null for no notification
 };
 
 class FailureNotice : public Host, public testing::WithParamInterface<Notice> {};
@@ -105,9 +105,9 @@ TEST_P(FailureNotice, IsShown)
 
 const Notice kNotices[] = {
     {"text_and_known_code", "No settings", 7000, true, "No settings: <7000>"},
-    {"known_code_alone", "", 7000, true, "<7000>"},
+    {"only_known_code", "", 7000, true, "<7000>"},
     {"text_and_unknown_code", "No settings", kUnknownCode, true, "No settings"},
-    {"unknown_code_alone", "", kUnknownCode, true, "Operation failed"},
+    {"only_unknown_code", "", kUnknownCode, true, "Operation failed"},
     {"text_without_code", "No settings", 7000, false, "No settings"},
     {"nothing_to_show", "", 7000, false, nullptr},
 };

@@ -1,4 +1,4 @@
-// What the library exports, and the shapes that its interface promises.
+// The exported names of the library, and properties of its types that clients rely on.
 #include <APIModule.h>
 #include <APIWaitDialog.h>
 #include <BRMS/BRMSModule.h>
@@ -81,7 +81,7 @@ TYPED_TEST(FamilyTest, IsAnEmptyAssignableClass)
     EXPECT_EQ(&(first = std::move(second)), &first);
 }
 
-TEST(Interface, Shapes)
+TEST(Interface, TypesHaveTheirPublishedProperties)
 {
     EXPECT_TRUE(std::is_aggregate_v<APIModule::RequestParam>);
     EXPECT_TRUE((std::is_same_v<APIModule::int64, long long>));

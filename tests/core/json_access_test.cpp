@@ -26,7 +26,7 @@ QJsonObject Json(const char* text)
     return document.object();
 }
 
-/// One text per type of value: what each overload makes of it.
+/// A JSON value and the result of each overload for it.
 struct Conversion {
     const char* name;
     const char* json;  ///< value of the key "k"
@@ -64,7 +64,7 @@ const Conversion kConversions[] = {
 
 class ConversionTest : public testing::TestWithParam<Conversion> {};
 
-TEST_P(ConversionTest, EveryOverload)
+TEST_P(ConversionTest, EveryOverloadConverts)
 {
     const Conversion& row = GetParam();
     const QJsonObject object = Json((std::string("{\"k\": ") + row.json + "}").c_str());
@@ -98,7 +98,7 @@ TEST_P(ConversionTest, EveryOverload)
 
 INSTANTIATE_TEST_SUITE_P(Values, ConversionTest, testing::ValuesIn(kConversions), RowName());
 
-/// Reads with each overload and expects the failure, its one line, and the output as it was.
+/// Reads with each overload. Expects failure, one log line and unchanged output.
 void ExpectFailure(const QJsonObject& object, const QString& key, const testing_support::LogLine& line)
 {
     LogRecorder logs;
@@ -159,7 +159,7 @@ TEST(JsonAccess, IntegersBeyond53BitsLoseDigitsOnlyInsideContainers)
     EXPECT_EQ(value, 9007199254740991);
 }
 
-TEST(JsonAccess, IsEmpty)
+TEST(JsonAccess, IsEmptyLogsAnEmptyObject)
 {
     LogRecorder logs;
     EXPECT_FALSE(CCommonFunc::IsEmpty(Json(R"({"k": null})")));
@@ -169,7 +169,7 @@ TEST(JsonAccess, IsEmpty)
               (LogLines{{kFile, "APIModule::CCommonFunc::IsEmpty", 6, "Invalid parameter, jsonObject is empty."}}));
 }
 
-TEST(JsonAccess, IsKeyValid)
+TEST(JsonAccess, IsKeyValidLogsAMissingKey)
 {
     LogRecorder logs;
     EXPECT_TRUE(CCommonFunc::IsKeyValid(Json(R"({"k": null})"), QStringLiteral("k")));

@@ -47,17 +47,17 @@ QStringList TimeOutNotice()
     return {CAPIModule::GetErroCodeInfor(QString(), -101, true)};
 }
 
-/// The host as in the other tests, without an application object made for it.
+/// A host without an application object; each test creates the ones that it needs.
 class Lifecycle : public Host {
 protected:
-    /// A server's thread needs the application object, too.
+    /// The thread of a server needs the application object as well.
     class Server : public RawServer {
     public:
         explicit Server(Lifecycle& host) : RawServer(Respond) { host.Use(*this); }
     };
 };
 
-TEST_F(Lifecycle, WithoutApplicationObject)
+TEST_F(Lifecycle, CallsFailWithoutAnApplicationObject)
 {
     EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), -1);
     EXPECT_EQ(logs.Take(),
@@ -99,7 +99,7 @@ TEST_F(Lifecycle, WorksUnderConsecutiveApplications)
     }
 }
 
-TEST_F(Lifecycle, CallOnAnotherThreadIsRefused)
+TEST_F(Lifecycle, CallOnAnotherThreadIsRejected)
 {
     const QCoreApplication application(g_argc, g_argv);
     const Server server(*this);
@@ -118,7 +118,7 @@ TEST_F(Lifecycle, CallOnAnotherThreadIsRefused)
     EXPECT_EQ(Execute(Call(QStringLiteral("/ok"))), 0);
 }
 
-// Without the fixture, which would make the instance first.
+// Without the fixture, which would create the instance first.
 TEST(Instance, IsTheSameForManyThreads)
 {
     const QCoreApplication application(g_argc, g_argv);
@@ -174,7 +174,7 @@ TEST(Instance, CanBeCreatedOnAThreadThatEndedBeforeTheApplication)
     CAPIModule::GetInstance().UnInit();
 }
 
-/// The end of the application, in both ways of waiting.
+/// The end of the application during both kinds of wait.
 class EndTest : public Lifecycle, public testing::WithParamInterface<Waiting> {
 protected:
     int Run(const QString& url, int nTimeout = 20)
@@ -196,9 +196,9 @@ TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilAboutToQuit)
     const Server server(*this);
     int nDuring = 99;
     int nAfter = 99;
-    bool bToldBefore = false;
-    bool bTold = false;
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] { bTold = true; });
+    bool bNotifiedBefore = false;
+    bool bNotified = false;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] { bNotified = true; });
     QElapsedTimer elapsed;
     elapsed.start();
     QTimer::singleShot(0, &application, [&] {
@@ -207,12 +207,12 @@ TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilAboutToQuit)
         EXPECT_GE(elapsed.elapsed(), 90);
         EXPECT_EQ(notifications.Take(), TimeOutNotice());
         nAfter = Run(QStringLiteral("/silent"));
-        bToldBefore = bTold;
+        bNotifiedBefore = bNotified;
     });
     QApplication::exec();
-    EXPECT_LT(elapsed.elapsed(), 10000) << "neither call takes its 20 s";
-    EXPECT_TRUE(bTold);
-    EXPECT_FALSE(bToldBefore);
+    EXPECT_LT(elapsed.elapsed(), 10000) << "both calls must end long before their 20 s";
+    EXPECT_TRUE(bNotified);
+    EXPECT_FALSE(bNotifiedBefore);
     EXPECT_EQ(nDuring, -1);
     EXPECT_EQ(nAfter, -1);
     EXPECT_EQ(notifications.Take(), TimeOutNotice());
@@ -231,7 +231,7 @@ TEST_P(EndTest, CallsWorkInEveryAboutToQuitSlotAndAfterExec)
     const auto call = [&] { results.push_back(Run(QStringLiteral("/ok"))); };
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
     const Server server(*this);
-    EXPECT_EQ(Run(QStringLiteral("/ok")), 0) << "before exec; the library's first use";
+    EXPECT_EQ(Run(QStringLiteral("/ok")), 0) << "before exec, the first use of the library";
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
     QTimer::singleShot(0, &application, [&] {
         QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, call);
@@ -307,7 +307,7 @@ TEST_P(EndTest, SecondQuitEndsACallInAnAboutToQuitSlot)
     QTimer::singleShot(0, &application, &QCoreApplication::quit);
     QApplication::exec();
     EXPECT_EQ(results, std::vector<int>(2, -1));
-    EXPECT_LT(elapsed.elapsed(), 10000) << "neither call takes its 20 s";
+    EXPECT_LT(elapsed.elapsed(), 10000) << "both calls must end long before their 20 s";
 }
 
 /// Nothing is emitted then, and the next exec() clears the request to exit.
@@ -366,19 +366,19 @@ TEST_P(EndTest, QuitEndsTenNestedCalls)
     EXPECT_EQ(notifications.Take().size(), 10);
 }
 
-TEST_P(EndTest, ApplicationDestroyedAfterCalls)
+TEST_P(EndTest, CallsAreRejectedAfterTheApplicationIsDestroyed)
 {
     auto application = std::make_unique<TestApplication>(g_argc, g_argv);
     auto server = std::make_unique<Server>(*this);
     EXPECT_EQ(Run(QStringLiteral("/ok")), 0);
     EXPECT_EQ(Run(QStringLiteral("/silent"), 0), -1);
     server.reset();
-    EXPECT_EQ(Run(QStringLiteral("/ok")), -1) << "refused";
+    EXPECT_EQ(Run(QStringLiteral("/ok")), -1) << "must be rejected";
     application.reset();
 }
 
-/// A host's own clean-up, which runs after the library's, makes a last call.
-TEST_F(Lifecycle, CallDuringDestructionOfTheApplicationIsRefused)
+/// The host makes a last call in its clean-up, which runs after the library's.
+TEST_F(Lifecycle, CallDuringDestructionOfTheApplicationIsRejected)
 {
     static int s_nResult = 99;
     qAddPostRoutine([] { s_nResult = Execute(Call(QStringLiteral("/ok"))); });
@@ -399,7 +399,7 @@ int PackSilent(void* pReqParamData, int nServerId)
 
 constexpr APIModule::Call<&PackSilent> Silent;
 
-/// Appends how the call ended.
+/// Returns a function that appends how the call ended.
 auto NoteIn(std::vector<APIModule::CallEnd>& ends)
 {
     return [&ends](const APIModule::Outcome<APIModule::NoRecord>& outcome) { ends.push_back(outcome.End()); };

@@ -1,4 +1,4 @@
-// Each misuse of a typed call is compiled alone, and the message of the compiler read. Without one everything compiles.
+// The test compiles one misuse of a typed call at a time and checks the compiler's message. Without misuse it compiles.
 #include <DMS/DMSCalls.h>
 #include <IPMS/IPMSCalls.h>
 

@@ -1,4 +1,4 @@
-// What ExecuteFuncs makes of each kind of reply: result, log lines, notifications.
+// Result, log lines and notifications of ExecuteFuncs for each kind of reply.
 #include "support/Host.h"
 #include "support/Rows.h"
 #include "support/Waiting.h"
@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 
-/// Marks the rows in which the call succeeds; no code of a reply.
+/// Marks the rows in which the call succeeds.
 constexpr int kSuccess = 1000;
 
 QString Notice(int code)
@@ -57,19 +57,19 @@ protected:
     int m_parseResult = 0;
 };
 
-/// An envelope and what the host gets.
+/// An envelope and the outcome for the host.
 struct Answer {
     const char* name;
     const char* body;
     int resultNotNotified;  ///< result with bNotifyOnFailure false
-    int notice;             ///< code that is notified with bNotifyOnFailure true, kSuccess for the success tip
-    const char* parsed;     ///< what the Parse got, null when it was not called
+    int notice;             ///< notified code with bNotifyOnFailure true; kSuccess for the success tip
+    const char* parsed;     ///< the data that the Parse received; null if it was not called
 };
 
 class AnswerTest : public Results,
                    public testing::WithParamInterface<std::tuple<Answer, Waiting, RawServer::Scheme>> {};
 
-TEST_P(AnswerTest, Judged)
+TEST_P(AnswerTest, DeterminesTheOutcome)
 {
     const auto& [row, waiting, scheme] = GetParam();
     const Answer answer = row;
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
                                     (std::get<2>(row.param) == RawServer::Http ? "_http" : "_https");
                          });
 
-/// Qt's text of an error may hold the URL, which depends on when it sees the end of the connection.
+/// Qt's error text may contain the URL, depending on when Qt notices the end of the connection.
 TEST_F(Results, NetworkErrorLineHasNoUrl)
 {
     RawServer server([](const RawRequest&) {
@@ -155,7 +155,7 @@ TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)
     }
 }
 
-TEST_F(Results, WithoutAParseDataShowsNoTip)
+TEST_F(Results, SuccessTipIsNotShownWhenDataHaveNoParse)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})"); });
     Use(server);
@@ -243,7 +243,7 @@ TEST_F(Results, ThrowingParseFails)
     }
 }
 
-/// A path through a call, with what its Pack and Parse do.
+/// A path through a call, defined by its Pack, its Parse and the reply.
 struct CallPath {
     const char* name;
     const char* url;
@@ -256,7 +256,7 @@ struct CallPath {
 /// The callables are released when the call returns, on every path.
 class ReleaseTest : public Results, public testing::WithParamInterface<CallPath> {};
 
-TEST_P(ReleaseTest, HappensWhenTheCallReturns)
+TEST_P(ReleaseTest, CallablesAreReleasedWhenTheCallReturns)
 {
     const CallPath& path = GetParam();
     RawServer server([](const RawRequest& request) {

@@ -1,4 +1,4 @@
-// Which servers a host talks to over HTTPS.
+// Which HTTPS servers a host trusts.
 #include "support/Host.h"
 #include "support/Rows.h"
 
@@ -66,15 +66,15 @@ protected:
         return Execute(call);
     }
 
-    void ExpectKnown(TlsServer& server, const ServerTrust& trust)
+    void ExpectTrusted(TlsServer& server, const ServerTrust& trust)
     {
         EXPECT_EQ(CallWith(server, trust), 0);
         EXPECT_FALSE(server.server.TakeRequests().empty());
     }
 
-    void ExpectUnknown(TlsServer& server, const ServerTrust& trust, const std::string& reason)
+    void ExpectNotTrusted(TlsServer& server, const ServerTrust& trust, const std::string& reason)
     {
-        server.server.AnswerAnything();  // half a request would be recorded, too
+        server.server.AnswerAnything();  // so that even a partial request would be recorded
         EXPECT_EQ(CallWith(server, trust), -1);
         const LogLines lines = logs.Take();
         EXPECT_EQ(lines.back().message, server.Line(reason));
@@ -82,7 +82,7 @@ protected:
         EXPECT_EQ(lines.back().function, "APIModule::CAPIModulePrivate::ExecuteRequestWithoutWaitDlg");
         EXPECT_EQ(notifications.Take(),
                   QStringList{CAPIModule::GetErroCodeInfor(QStringLiteral("No settings"), -18, true)});
-        EXPECT_TRUE(server.server.TakeRequests().empty()) << "nothing is sent to a server that is not known";
+        EXPECT_TRUE(server.server.TakeRequests().empty()) << "nothing is sent to a server that is not trusted";
     }
 
     static ServerTrust Pinned(const QByteArray& digest, const QString& host = QString(), int nPort = 0)
@@ -110,57 +110,58 @@ protected:
 TEST_F(Trust, EveryServerIsTrustedByDefault)
 {
     TlsServer server({"other.example", -20, -10});
-    ExpectKnown(server, {});
+    ExpectTrusted(server, {});
 }
 
 TEST_F(Trust, PinOfCertificateOrPublicKeyMakesAServerTrusted)
 {
     TlsServer server({"other.example", -20, -10});
     const QString host = QString::fromLatin1(kAddress);
-    ExpectKnown(server, Pinned(server.CertificateDigest()));
-    ExpectKnown(server, Pinned(server.KeyDigest()));
-    ExpectKnown(server, Pinned(server.CertificateDigest(), host));
-    ExpectKnown(server, Pinned(server.CertificateDigest(), host, server.server.Port()));
+    ExpectTrusted(server, Pinned(server.CertificateDigest()));
+    ExpectTrusted(server, Pinned(server.KeyDigest()));
+    ExpectTrusted(server, Pinned(server.CertificateDigest(), host));
+    ExpectTrusted(server, Pinned(server.CertificateDigest(), host, server.server.Port()));
 }
 
-TEST_F(Trust, WrongPinRefusesAServer)
+TEST_F(Trust, WrongPinRejectsAServer)
 {
     TlsServer server;
     const QByteArray other = DigestOf("other");
-    ExpectUnknown(server, Pinned(other), "another certificate is pinned");
-    ExpectUnknown(server, Pinned(QByteArray()), "another certificate is pinned");
+    ExpectNotTrusted(server, Pinned(other), "another certificate is pinned");
+    ExpectNotTrusted(server, Pinned(QByteArray()), "another certificate is pinned");
 
     ServerTrust both = SignedBy(server.certificate.certificate);
     both.pins = {{other, QString::fromLatin1(kAddress), server.server.Port()}};
-    ExpectUnknown(server, both, "another certificate is pinned");
+    ExpectNotTrusted(server, both, "another certificate is pinned");
 }
 
 TEST_F(Trust, PinOfAnotherServerIsIgnored)
 {
     TlsServer server;
     const QString reason = QSslError(QSslError::SelfSignedCertificate).errorString();
-    ExpectUnknown(server, Pinned(server.CertificateDigest(), QStringLiteral("other.example")), reason.toStdString());
-    ExpectUnknown(server, Pinned(server.CertificateDigest(), QString::fromLatin1(kAddress), server.server.Port() + 1),
-                  reason.toStdString());
+    ExpectNotTrusted(server, Pinned(server.CertificateDigest(), QStringLiteral("other.example")), reason.toStdString());
+    ExpectNotTrusted(server,
+                     Pinned(server.CertificateDigest(), QString::fromLatin1(kAddress), server.server.Port() + 1),
+                     reason.toStdString());
 }
 
 TEST_F(Trust, HostAuthorityMakesAServerTrusted)
 {
     TlsServer server;
-    ExpectKnown(server, SignedBy(server.certificate.certificate));
+    ExpectTrusted(server, SignedBy(server.certificate.certificate));
 }
 
-TEST_F(Trust, VerificationRefusesNameAndAuthority)
+TEST_F(Trust, VerificationRejectsWrongNameAndUnknownAuthority)
 {
     TlsServer otherName({"other.example"});
-    ExpectUnknown(otherName, SignedBy(otherName.certificate.certificate),
-                  QSslError(QSslError::HostNameMismatch).errorString().toStdString());
+    ExpectNotTrusted(otherName, SignedBy(otherName.certificate.certificate),
+                     QSslError(QSslError::HostNameMismatch).errorString().toStdString());
     TlsServer server;
     const std::string selfSigned = QSslError(QSslError::SelfSignedCertificate).errorString().toStdString();
-    ExpectUnknown(server, SignedBy(otherName.certificate.certificate), selfSigned);
+    ExpectNotTrusted(server, SignedBy(otherName.certificate.certificate), selfSigned);
     ServerTrust system;
     system.bSystemAuthorities = true;
-    ExpectUnknown(server, system, selfSigned);
+    ExpectNotTrusted(server, system, selfSigned);
 }
 
 TEST_F(Trust, VerificationReportsEveryError)
@@ -188,7 +189,7 @@ TEST_F(Trust, HostDecidesAboutAServerThatIsNotTrustedOtherwise)
         ++nAsked;
         return bAnswer;
     };
-    ExpectKnown(server, DecidedBy(decide));
+    ExpectTrusted(server, DecidedBy(decide));
     EXPECT_EQ(seen.host, QLatin1String(kAddress));
     EXPECT_EQ(seen.nPort, server.server.Port());
     EXPECT_EQ(seen.chain, QList<QSslCertificate>{server.certificate.certificate});
@@ -198,24 +199,24 @@ TEST_F(Trust, HostDecidesAboutAServerThatIsNotTrustedOtherwise)
     EXPECT_EQ(seen.errors.constFirst().error(), QSslError::SelfSignedCertificate);
     EXPECT_EQ(nAsked, 1);
     EXPECT_EQ(CallAgain(server), 0);
-    EXPECT_EQ(nAsked, 1) << "a kept connection is known";
+    EXPECT_EQ(nAsked, 1) << "a kept connection is already trusted";
     server.server.TakeRequests();
 
     bAnswer = false;
-    ExpectUnknown(server, DecidedBy(decide), "the host refused it");
+    ExpectNotTrusted(server, DecidedBy(decide), "the host refused it");
     EXPECT_EQ(nAsked, 2);
 
     ServerTrust pinnedToo = Pinned(server.CertificateDigest());
     pinnedToo.decide = decide;
-    ExpectKnown(server, pinnedToo);
-    EXPECT_EQ(nAsked, 2) << "a known server needs no decision";
+    ExpectTrusted(server, pinnedToo);
+    EXPECT_EQ(nAsked, 2) << "a trusted server needs no decision";
 }
 
-TEST_F(Trust, DecisionThatThrowsRefuses)
+TEST_F(Trust, DecisionThatThrowsRejectsTheServer)
 {
     TlsServer server;
-    ExpectUnknown(server, DecidedBy([](const PresentedServer&) -> bool { throw std::runtime_error("no"); }),
-                  "the host refused it");
+    ExpectNotTrusted(server, DecidedBy([](const PresentedServer&) -> bool { throw std::runtime_error("no"); }),
+                     "the host refused it");
 }
 
 TEST_F(Trust, DecisionMayRunAnEventLoopMakeCallsAndChangeTheTrust)
@@ -256,9 +257,9 @@ TEST_F(Trust, ParentDeletedDuringTheDecisionEndsTheCall)
 TEST_F(Trust, ChangeOfTrustClosesEarlierConnections)
 {
     TlsServer server;
-    ExpectKnown(server, {});
-    ExpectUnknown(server, Pinned(DigestOf("other")), "another certificate is pinned");
-    ExpectKnown(server, Pinned(server.CertificateDigest()));
+    ExpectTrusted(server, {});
+    ExpectNotTrusted(server, Pinned(DigestOf("other")), "another certificate is pinned");
+    ExpectTrusted(server, Pinned(server.CertificateDigest()));
     EXPECT_EQ(server.server.ConnectionCount(), 3);
 }
 
@@ -267,8 +268,8 @@ TEST_F(Trust, ReconnectionIsVerifiedAgain)
     TlsServer server;
     int nAsked = 0;
     const auto decide = [&](const PresentedServer&) { return ++nAsked == 1; };
-    ExpectKnown(server, DecidedBy(decide));
-    // A write does not take a connection that has been idle for a while.
+    ExpectTrusted(server, DecidedBy(decide));
+    // A write does not reuse a connection that has been idle for a while.
     QEventLoop loop;
     QTimer::singleShot(300, &loop, &QEventLoop::quit);
     loop.exec();
@@ -296,7 +297,7 @@ struct DigestText {
 
 class DigestTextTest : public testing::TestWithParam<DigestText> {};
 
-TEST_P(DigestTextTest, IsRead)
+TEST_P(DigestTextTest, IsReadOnlyIfItIsADigest)
 {
     const QByteArray digest = ServerPin::DigestFromText(QLatin1String(GetParam().text));
     EXPECT_EQ(digest, GetParam().bDigest ? QByteArray(16, '\x1a') + QByteArray(16, '\xf0') : QByteArray());
@@ -309,7 +310,7 @@ const DigestText kDigestTexts[] = {
     {"empty", "", false},
     {"too_short", "1a1a1a1a1a1a1a1a1a1a1a1a1a1a1a1af0f0f0f0f0f0f0f0f0f0f0f0f0f0f0", false},
     {"too_long", "1a1a1a1a1a1a1a1a1a1a1a1a1a1a1a1af0f0f0f0f0f0f0f0f0f0f0f0f0f0f0f000", false},
-    {"no_hexadecimal", "ga1a1a1a1a1a1a1a1a1a1a1a1a1a1a1af0f0f0f0f0f0f0f0f0f0f0f0f0f0f0f0", false},
+    {"not_hexadecimal", "ga1a1a1a1a1a1a1a1a1a1a1a1a1a1a1af0f0f0f0f0f0f0f0f0f0f0f0f0f0f0f0", false},
 };
 
 INSTANTIATE_TEST_SUITE_P(Texts, DigestTextTest, testing::ValuesIn(kDigestTexts), RowName());

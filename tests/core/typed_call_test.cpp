@@ -1,5 +1,4 @@
-// Calls as values: how they end, beside what ExecuteFuncs makes of the same replies; calls without a wait; what an
-// observer sees.
+// Typed calls: their outcomes compared with those of ExecuteFuncs, calls without a wait, and what observers receive.
 #include "support/Host.h"
 #include "support/Rows.h"
 #include "support/Watchdog.h"
@@ -36,7 +35,7 @@ namespace {
 struct Number {
     int a = -1;
     std::string b;
-    QThread* thread = nullptr;  ///< that read it
+    QThread* thread = nullptr;  ///< the thread that read the record
 };
 
 std::atomic<int> g_parseMilliseconds{0};  ///< duration of a Parse
@@ -86,7 +85,7 @@ constexpr Call<&PackPath> Touch;
 constexpr Call<&PackAppended> Append;
 constexpr Call<&PackAndUnInit> Leave;
 
-constexpr const char* kWhole = R"({"code":1000,"desc":"fine","data":{"a":1,"b":"x","totalCount":7}})";
+constexpr const char* kCompleteReply = R"({"code":1000,"desc":"fine","data":{"a":1,"b":"x","totalCount":7}})";
 
 /// How the test waits for the end of a request.
 enum class WaitMode {
@@ -134,7 +133,7 @@ protected:
             bCalled = true;
             result = outcome;
         });
-        EXPECT_FALSE(bCalled) << "inside Start()";
+        EXPECT_FALSE(bCalled) << "the function must not be called inside Start()";
         EXPECT_TRUE(Await([&] { return bCalled; }));
         return result;
     }
@@ -162,7 +161,7 @@ struct EndRow {
     int code;
     const char* serverText = "";
     const char* key = "";
-    int a = -1;  ///< as far as the record was read
+    int a = -1;  ///< field of the record after reading as much as possible
 };
 
 void PrintTo(const EndRow& row, std::ostream* pStream)
@@ -171,14 +170,14 @@ void PrintTo(const EndRow& row, std::ostream* pStream)
 }
 
 const std::vector<EndRow> kEnds = {
-    {"success", HttpAnswer(200, kWhole), CallEnd::Success, 0, "fine", "", 1},
+    {"success", HttpAnswer(200, kCompleteReply), CallEnd::Success, 0, "fine", "", 1},
     {"success_without_data", HttpAnswer(200, R"({"code":1000})"), CallEnd::Success, 0},
     {"refused", HttpAnswer(200, R"({"code":2001,"desc":"no such thing","data":{"a":1}})"), CallEnd::Refused, 2001,
      "no such thing"},
     {"refused_with_0", HttpAnswer(200, R"({"code":0,"data":{"a":1}})"), CallEnd::Refused, 0},
     {"refused_without_code", HttpAnswer(200, R"({"data":{"a":1}})"), CallEnd::Refused, 0},
     {"refused_with_null", HttpAnswer(200, R"({"code":null})"), CallEnd::Refused, -1},
-    {"no_json", HttpAnswer(200, "<html>"), CallEnd::UnreadableReply, -1},
+    {"not_json", HttpAnswer(200, "<html>"), CallEnd::UnreadableReply, -1},
     {"empty_body", HttpAnswer(200, ""), CallEnd::UnreadableReply, -1},
     {"key_missing", HttpAnswer(200, R"({"code":1000,"data":{"a":5}})"), CallEnd::UnreadableReply, 3101, "", "b", 5},
     {"status_404", HttpAnswer(404, ""), CallEnd::HttpStatus, 404},
@@ -207,7 +206,7 @@ TEST_P(EndTest, ReportsTheReasonAndNotifiesLikeExecuteFuncs)
     EXPECT_EQ(outcome->a, row.end == CallEnd::Success ? row.a : -1);
     EXPECT_EQ(outcome.Incomplete().a, row.a);
     EXPECT_EQ(outcome.Text().isEmpty(), row.end == CallEnd::Success);
-    EXPECT_EQ(logs.Take(), LogLines()) << "Text() writes no line";
+    EXPECT_EQ(logs.Take(), LogLines()) << "Text() must not log";
     EXPECT_EQ(notifications.Take(), QStringList());
     if (row.end == CallEnd::Success && row.a == 1) {
         EXPECT_EQ(outcome.Data().value(QStringLiteral("totalCount")).toInt(), 7);
@@ -266,7 +265,7 @@ TEST_P(WaitModeTest, EndsAsNotPackedWhenThePackFails)
 
 TEST_P(WaitModeTest, EndsAsInvalidRequestWhenItCannotBeSent)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     users.servers[1].host = "user@127.0.0.1";
     const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::InvalidRequest);
@@ -284,7 +283,7 @@ TEST_P(WaitModeTest, EndsAsReplyTooLarge)
 
 TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); }, RawServer::Https);
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); }, RawServer::Https);
     ServerTrust trust;
     trust.bSystemAuthorities = true;
     CAPIModule::GetInstance().SetServerTrust(trust);
@@ -296,7 +295,7 @@ TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 
 TEST_P(WaitModeTest, RunsAStoredRequestAgainAndOnOtherServers)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     RawServer other([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":2,"b":""}})"); });
     users.servers[2] = users.servers[1];
     users.servers[2].port = other.Port();
@@ -312,7 +311,7 @@ TEST_P(WaitModeTest, RunsAStoredRequestAgainAndOnOtherServers)
 
 TEST_P(WaitModeTest, HasNoRecordForACallWithoutOne)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     const Outcome<NoRecord> outcome = Ended(GetParam(), Touch("/path"));
     EXPECT_TRUE(outcome);
     EXPECT_EQ(outcome.Data().value(QStringLiteral("a")).toInt(), 1);
@@ -337,7 +336,7 @@ QByteArray LargeReply(int nCode = 1000)
 TEST_P(WaitModeTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopRuns)
 {
     Serve([](const RawRequest& request) {
-        return HttpAnswer(200, request.target == "/large" ? LargeReply() : QByteArray(kWhole));
+        return HttpAnswer(200, request.target == "/large" ? LargeReply() : QByteArray(kCompleteReply));
     });
     EXPECT_EQ(Ended(GetParam(), GetNumber("/small"))->thread, QThread::currentThread());
     g_parseMilliseconds = 300;
@@ -346,7 +345,7 @@ TEST_P(WaitModeTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopRuns)
     QObject::connect(&timer, &QTimer::timeout, &timer, [&nTicks] { ++nTicks; });
     timer.start(10);
     logs.Take();
-    // The time-out is over while the record is read, and no longer counts.
+    // The time-out expires while the record is read, when it no longer applies.
     const auto outcome = Ended(GetParam(), GetNumber("/large").Within(std::chrono::milliseconds(200)));
     EXPECT_EQ(outcome.End(), CallEnd::Success);
     EXPECT_NE(outcome->thread, QThread::currentThread());
@@ -395,7 +394,7 @@ TEST_P(WaitModeTest, JudgesALargeReplyAsASmallOne)
 
 TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole, "X-More: one\r\n"); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply, "X-More: one\r\n"); });
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     std::vector<ObservedExchange> ofRequest;
@@ -411,7 +410,7 @@ TEST_P(WaitModeTest, ObserversReceiveTheExchange)
     EXPECT_EQ(exchange.url, QStringLiteral("http://127.0.0.1:%1/path?token=**********x").arg(m_pServer->Port()));
     EXPECT_EQ(exchange.requestBody, QByteArray());
     EXPECT_EQ(exchange.nStatus, 200);
-    EXPECT_EQ(exchange.responseBody, kWhole);
+    EXPECT_EQ(exchange.responseBody, kCompleteReply);
     EXPECT_TRUE(exchange.responseHeaders.contains({"X-More", "one"}));
     EXPECT_EQ(exchange.error, QString());
     ASSERT_TRUE(exchange.firstByte);
@@ -443,7 +442,7 @@ TEST_P(WaitModeTest, ObserverReceivesAnExchangeThatTimedOut)
 
 TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     HostCall call;
@@ -457,7 +456,7 @@ TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
 
 TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     for (const int nDelay : {0, 10000}) {
         CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
         auto* const pWindow = new QWidget;
@@ -474,7 +473,7 @@ TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 
 TEST_F(TypedCall, ThrowingObserverIsHarmless)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     CAPIModule::GetInstance().SetExchangeObserver([](const ObservedExchange&) { throw std::runtime_error("no"); });
     EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
 }
@@ -495,7 +494,7 @@ TEST_F(TypedCall, OutcomeOfABoolConvertsToSuccessNotToItsValue)
 
 TEST_F(TypedCall, PackReceivesAFreshCopyOfItsArgumentsInEveryRun)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     const auto request = Append("/path");
     EXPECT_TRUE(APIModule::Run(request));
     EXPECT_TRUE(APIModule::Run(request));
@@ -526,7 +525,7 @@ bool HasWaitDialog()
 TEST_F(TypedCall, WaitDialogAppearsOnlyAfterItsDelay)
 {
     Serve([](const RawRequest& request) {
-        RawAnswer answer = HttpAnswer(200, kWhole);
+        RawAnswer answer = HttpAnswer(200, kCompleteReply);
         answer.delayMilliseconds = request.target == "/slow" ? 1000 : 0;
         return answer;
     });
@@ -544,7 +543,7 @@ TEST_F(TypedCall, WaitDialogAppearsOnlyAfterItsDelay)
     EXPECT_FALSE(HasWaitDialog());
 }
 
-/// A window that counts what the user does to it.
+/// A window that counts key presses.
 class Counting : public QWidget {
 public:
     int nKeys = 0;
@@ -556,7 +555,7 @@ protected:
 TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
 {
     Serve([](const RawRequest&) {
-        RawAnswer answer = HttpAnswer(200, kWhole);
+        RawAnswer answer = HttpAnswer(200, kCompleteReply);
         answer.delayMilliseconds = 300;
         return answer;
     });
@@ -608,7 +607,7 @@ TEST_F(TypedCall, DestroyedParentEndsTheCallBeforeAndAfterTheDialogIsShown)
 TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
 {
     Serve([](const RawRequest&) {
-        RawAnswer answer = HttpAnswer(200, kWhole);
+        RawAnswer answer = HttpAnswer(200, kCompleteReply);
         answer.delayMilliseconds = 200;
         return answer;
     });
@@ -617,7 +616,7 @@ TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&bSeen] { bSeen = bSeen || HasWaitDialog(); });
     poll.start(1);
-    // 2^32 ms and a little more: as an int, a delay of 10 ms.
+    // 2^32 ms and 10 ms more: converted to int, it would be a delay of 10 ms.
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds((1LL << 32) + 10));
     EXPECT_TRUE(APIModule::Run(GetNumber("/path"), &m_parent));
     EXPECT_FALSE(bSeen);
@@ -669,14 +668,14 @@ TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
     poll.start(10);
     logs.Take();
     const auto outcome = APIModule::Run(GetNumber("/path"), pWindow);
-    EXPECT_EQ(g_parsing, 1) << "did not wait for the reading";
+    EXPECT_EQ(g_parsing, 1) << "must not wait for the reading to finish";
     EXPECT_EQ(outcome.Code(), -101);
     const LogLines lines = logs.Take();
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[1].message.substr(0, 16), "Request time out");
 }
 
-TEST_F(TypedCall, CancelClosesTheConnectionAndCallsNothing)
+TEST_F(TypedCall, CancelClosesTheConnectionAndPreventsTheCallback)
 {
     Serve([](const RawRequest&) { return RawAnswer{}; });
     bool bCalled = false;
@@ -692,9 +691,9 @@ TEST_F(TypedCall, CancelClosesTheConnectionAndCallsNothing)
     CallHandle().Cancel();
 }
 
-TEST_F(TypedCall, CancelInsideTheFunctionAndInAnObserverIsSafe)
+TEST_F(TypedCall, CancelInsideACallbackOrAnObserverIsSafe)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     CallHandle first;
     CallHandle second;
     int nCalled = 0;
@@ -720,7 +719,7 @@ TEST_F(TypedCall, CancelInsideTheFunctionAndInAnObserverIsSafe)
 
 TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     bool bCalled = false;
     {
         const CallHandle handle =
@@ -744,7 +743,7 @@ TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
 
 TEST_F(TypedCall, PackRunsInsideStart)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     users.servers[1].token = "first";
     bool bCalled = false;
     Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
@@ -756,7 +755,7 @@ TEST_F(TypedCall, PackRunsInsideStart)
 TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 {
     Serve([](const RawRequest&) {
-        RawAnswer answer = HttpAnswer(200, kWhole);
+        RawAnswer answer = HttpAnswer(200, kCompleteReply);
         answer.delayMilliseconds = 300;
         return answer;
     });
@@ -769,7 +768,7 @@ TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
                   nSucceeded += outcome ? 1 : 0;
               });
     }
-    // A call that waits finds a connection free.
+    // A waiting call finds a free connection.
     EXPECT_TRUE(APIModule::Run(GetNumber("/path").Within(std::chrono::milliseconds(1500))));
     EXPECT_LT(nEnded, 30);
     EXPECT_TRUE(Await([&] { return nEnded == 30; }));
@@ -779,7 +778,7 @@ TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 
 TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     std::vector<int> ended(1000, 0);
     for (int& nEnded : ended) {
         Start(GetNumber("/path"), &m_parent,
@@ -789,10 +788,10 @@ TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
     EXPECT_EQ(m_pServer->TakeRequests().size(), 1000U);
 }
 
-TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromAFunction)
+TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromACallback)
 {
     Serve([](const RawRequest& request) {
-        RawAnswer answer = HttpAnswer(200, kWhole);
+        RawAnswer answer = HttpAnswer(200, kCompleteReply);
         answer.delayMilliseconds = request.target == "/slow" ? 300 : 0;
         return answer;
     });
@@ -843,9 +842,9 @@ TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirThread)
     CAPIModule::GetInstance().Init(&users);
 }
 
-TEST_F(TypedCall, OnAnotherThreadRunReturnsNotPackedAndStartCallsNothing)
+TEST_F(TypedCall, RunReturnsNotPackedAndStartDoesNothingOnAnotherThread)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     logs.Take();
     bool bCalled = false;
     CallEnd end = CallEnd::Success;
@@ -864,7 +863,7 @@ TEST_F(TypedCall, OnAnotherThreadRunReturnsNotPackedAndStartCallsNothing)
 
 TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     const auto request = BRMS::SetTimeSyncConfig(TimeSyncConfig());
     logs.Take();
     const std::optional<ObservedExchange> shown = Preview(request);
@@ -884,7 +883,7 @@ TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
 
 TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     users.servers[1].host = "user@127.0.0.1";
     logs.Take();
     EXPECT_FALSE(Preview(GetNumber("/path")));
@@ -899,7 +898,7 @@ TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 
 TEST_F(TypedCall, ThrowingFunctionIsHarmless)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     logs.Take();
     const CallHandle handle =
         Start(GetNumber("/path"), &m_parent, [](const Outcome<Number>&) { throw std::runtime_error("no"); });

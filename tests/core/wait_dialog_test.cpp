@@ -1,4 +1,4 @@
-// The wait dialog as a scope object of the host.
+// The wait dialog as a scoped object in the host.
 #include <APIWaitDialog.h>
 
 #include <OrnGui/OrnWaitDialog.h>

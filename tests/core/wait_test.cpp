@@ -1,4 +1,4 @@
-// What can happen while a call waits. Each call returns its own result, in time, and leaves nothing behind.
+// What can happen while a call waits. Each call returns its own result in time and leaks nothing.
 #include "support/Host.h"
 #include "support/Rows.h"
 #include "support/Waiting.h"
@@ -29,8 +29,8 @@ namespace {
 
 constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 
-/// Without its query, answers "/ok" at once, "/after/<ms>" after a while, "/<status>" with that status, and "/silent"
-/// never.
+/// Ignores the query. Replies to "/ok" at once, to "/after/<ms>" after that time, to "/<status>" with that status, and
+/// to "/silent" never.
 RawAnswer Respond(const RawRequest& request)
 {
     const RawAnswer success = HttpAnswer(200, R"({"code":1000,"data":{"a":1}})");
@@ -105,7 +105,7 @@ TEST_P(WaitTest, TimeOutIsPreciseAndTheEventLoopContinues)
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), 1)), -1);
     EXPECT_GE(elapsed.elapsed(), 1000);
     EXPECT_LT(elapsed.elapsed(), 3000);
-    EXPECT_GE(nTicks, 30) << "timers of the client stand still";
+    EXPECT_GE(nTicks, 30) << "the client's timers do not run";
     EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/silent"));
     EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
 
@@ -160,7 +160,7 @@ TEST_P(WaitTest, CaptionMayBelongToADeletedObject)
     }
 }
 
-/// What the host does while a line is logged.
+/// The host may run an event loop while a line is logged.
 TEST_P(WaitTest, ObserverMayRunAnEventLoop)
 {
     LogLines seen;
@@ -176,7 +176,7 @@ TEST_P(WaitTest, ObserverMayRunAnEventLoop)
         }
     });
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/1200"), 1)), -1);
-    EXPECT_EQ(seen, TimedOut(GetParam(), "/after/1200")) << "nothing more comes from a reply that timed out";
+    EXPECT_EQ(seen, TimedOut(GetParam(), "/after/1200")) << "a reply after the time-out logs nothing";
     seen.clear();
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/ok"))), 0);
     EXPECT_EQ(seen.size(), 2U);
@@ -195,7 +195,7 @@ TEST_P(WaitTest, ObserverMayMakeCalls)
         }
     });
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/100"))), 0);
-    EXPECT_EQ(results, std::vector<int>(2, 404)) << "for the lines of sending and of success";
+    EXPECT_EQ(results, std::vector<int>(2, 404)) << "one call for each log line: sending and success";
     ornl::TalPrintLog::instance().SetObserver({});
 }
 
@@ -233,7 +233,7 @@ TEST_P(WaitTest, LeaksNothing)
     });
     poll.start(10);
     loop.exec();
-    EXPECT_LE(m_server.OpenConnectionCount(), 1) << "but for a connection kept for reuse";
+    EXPECT_LE(m_server.OpenConnectionCount(), 1) << "only one connection may be kept for reuse";
     EXPECT_TRUE(m_parent->children().isEmpty());
     const QWidgetList widgets = QApplication::allWidgets();
     for (const QWidget* pWidget : widgets) {
@@ -291,7 +291,7 @@ TEST_F(WaitBase, TenFullTimeOutsStarveNoCall)
     EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/ok"), 5)), 0);
 }
 
-/// A call inside the wait of another one, each in both ways of waiting.
+/// A call during the wait of another one, with both kinds of wait for each.
 class NestedTest : public WaitBase, public testing::WithParamInterface<std::tuple<Waiting, Waiting>> {};
 
 INSTANTIATE_TEST_SUITE_P(Waits, NestedTest,
@@ -340,7 +340,7 @@ TEST_P(NestedTest, BothTimeOut)
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/ok"))), 0);
 }
 
-TEST_P(NestedTest, ParentOfBothIsDestroyed)
+TEST_P(NestedTest, DestroyedParentEndsBoth)
 {
     const auto [outer, inner] = GetParam();
     int nInner = 99;
@@ -384,7 +384,7 @@ TEST_F(WaitBase, ReturnsTimeoutWhenTheParentIsDestroyedBeforeTheWait)
     EXPECT_EQ(CAPIModule::GetInstance().ExecuteFuncs(pack, call.parse, {}, call.parent, {}, true, true), 0);
 }
 
-/// What may happen to the dialog.
+/// An action on the wait dialog.
 struct Disturbance {
     const char* name;
     void (*act)(ORNGUI::OrnWaitDialog& dialog);
@@ -439,7 +439,7 @@ TEST_P(HarmlessTest, DoesNotEndTheWait)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-/// Refuses to close, and with that refuses the end of the application.
+/// Refuses to close and thereby prevents the application from quitting.
 class RefusingWindow : public QWidget {
 protected:
     void closeEvent(QCloseEvent* pEvent) override { pEvent->ignore(); }
@@ -473,7 +473,7 @@ TEST_P(EndedDialogTest, EndsTheWaitWithATimeOut)
     QElapsedTimer elapsed;
     elapsed.start();
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/silent"))), -1);
-    EXPECT_LT(elapsed.elapsed(), 10000) << "ends at once, not at its time-out";
+    EXPECT_LT(elapsed.elapsed(), 10000) << "the call must end at once, not at its time-out";
     EXPECT_TRUE(m_bDisturbed);
     EXPECT_EQ(logs.Take(), TimedOut(BehindDialog, "/silent"));
     EXPECT_EQ(notifications.Take(), QStringList{TimeOutNotice()});
@@ -481,8 +481,8 @@ TEST_P(EndedDialogTest, EndsTheWaitWithATimeOut)
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/ok"))), 0);
 }
 
-/// The inner call keeps exec() of the outer one's dialog from returning. As after a time-out, a reply that comes until
-/// it returns counts.
+/// The inner call keeps exec() of the outer dialog from returning. A reply that arrives before it returns still counts,
+/// as after a time-out.
 TEST_P(EndedDialogTest, ReplyBeforeExecReturnsIsTheResult)
 {
     int nInner = 99;
@@ -493,7 +493,7 @@ TEST_P(EndedDialogTest, ReplyBeforeExecReturnsIsTheResult)
     EXPECT_EQ(nInner, 0);
 }
 
-/// Its dialog has ended, so the outer call does not wait on when the inner one has returned.
+/// The outer dialog has ended, so the outer call returns as soon as the inner one has returned.
 TEST_P(EndedDialogTest, NoReplyBeforeExecReturnsIsATimeOut)
 {
     int nInner = 99;
@@ -517,7 +517,7 @@ TEST_F(WaitBase, DialogIsModalOverItsParentAndIsClosed)
     bool bCovered = false;
     During(200, [&] {
         bCovered = seen && seen->isVisible() && seen->parentWidget() == m_parent;
-        EXPECT_NE(m_parent->grab().toImage().pixel(0, 0), before.pixel(0, 0)) << "the parent is not dimmed";
+        EXPECT_NE(m_parent->grab().toImage().pixel(0, 0), before.pixel(0, 0)) << "the dialog must dim its parent";
     });
     EXPECT_EQ(Execute(Call(BehindDialog, QStringLiteral("/after/400"))), 0);
     EXPECT_TRUE(bCovered);
@@ -553,7 +553,7 @@ TEST_F(WaitBase, ReplyBeforeTheWaitIsTheResult)
 class UserInputTest : public WaitBase, public testing::WithParamInterface<bool> {};
 
 INSTANTIATE_TEST_SUITE_P(Waits, UserInputTest, testing::Bool(),
-                         [](const auto& row) { return row.param ? "held_back" : "goes_on"; });
+                         [](const auto& row) { return row.param ? "held_back" : "delivered"; });
 
 /// Closes the toasts of earlier tests: showing or closing a window delivers pending user input.
 void CloseToasts()
@@ -590,13 +590,13 @@ TEST_P(UserInputTest, IsHeldBackDuringAWaitWithoutDialog)
     });
     HostCall call = Call(InLoop, QStringLiteral("/after/300"));
     call.excludeUserInput = GetParam();
-    call.successTip.clear();  // the window of a toast would fetch the key
+    call.successTip.clear();  // showing a toast would deliver the key
     EXPECT_EQ(Execute(call), 0);
     EXPECT_EQ(keys.count, GetParam() ? 0 : 1);
     QEventLoop loop;
     QTimer::singleShot(50, &loop, &QEventLoop::quit);
     loop.exec();
-    EXPECT_EQ(keys.count, 1) << "what was held back comes afterwards";
+    EXPECT_EQ(keys.count, 1) << "input that was held back is delivered afterwards";
 }
 
 TEST_F(WaitBase, ThousandCallsUseOneConnection)

@@ -38,7 +38,7 @@ int VisibleWindows()
     return n;
 }
 
-/// What one AddTextNotification() emits.
+/// The texts that one AddTextNotification() emits.
 QStringList Emitted()
 {
     QStringList texts;

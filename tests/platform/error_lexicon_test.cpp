@@ -25,7 +25,7 @@ std::string Text(int nErrorCode)
     return strText;
 }
 
-/// Asked before main runs, when no application object and no test exists.
+/// Queried before main() runs, when no application object exists.
 const std::string g_beforeMain = [] {
     std::string strText;
     (void)ErrorLexiconQuery(-18, strText);

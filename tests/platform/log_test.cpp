@@ -26,9 +26,9 @@ TalPrintLog& Log()
     return TalPrintLog::instance();
 }
 
-void Say(const char* text)
+void LogText(const char* text)
 {
-    Log().Log("Here.cpp", 7, "Here::Say", "", 4, "%s", text);
+    Log().Log("Here.cpp", 7, "Here::Log", "", 4, "%s", text);
 }
 
 std::string Content(const fs::path& file)
@@ -139,7 +139,7 @@ TEST_F(LogTest, MessagesOfAnyLengthAreLoggedCompletely)
     for (const std::size_t length : {0U, 1U, 255U, 256U, 1023U, 4096U, 65536U, 20U * 1024U * 1024U}) {
         const std::string message(length, 'm');
         Log().SetFile((folder / std::to_string(length)).string());
-        Say(message.c_str());
+        LogText(message.c_str());
         EXPECT_EQ(records.back().strMessage, message) << length;
         EXPECT_NE(Content(folder / std::to_string(length)).find(": " + message + '\n'), std::string::npos) << length;
     }
@@ -162,14 +162,14 @@ TEST_F(LogTest, InvalidFormatIsLoggedAsItsText)
 TEST_F(LogTest, FileReceivesRecordsUntilTheNameIsEmpty)
 {
     const fs::path file = folder / fs::u8path("Protokoll-üß-日志.log");
-    Say("before");
+    LogText("before");
     Log().SetFile(file.u8string());
-    Say("during");
+    LogText("during");
     Log().SetFile({});
-    Say("after");
+    LogText("after");
     const std::string content = Content(file);
     EXPECT_EQ(Count(content, "\n"), 1) << content;
-    EXPECT_NE(content.find("info Here.cpp:7 Here::Say: during\n"), std::string::npos) << content;
+    EXPECT_NE(content.find("info Here.cpp:7 Here::Log: during\n"), std::string::npos) << content;
     const std::string text = Stderr();
     EXPECT_EQ(Count(text, "before") + Count(text, "during") + Count(text, "after"), 3) << text;
 }
@@ -179,12 +179,12 @@ TEST_F(LogTest, SetFileReplacesTheFileAndAppendsToTheSameOne)
     const fs::path first = folder / "first.log";
     const fs::path second = folder / "made" / "for it" / "second.log";
     Log().SetFile(first.string());
-    Say("one");
+    LogText("one");
     Log().SetFile(second.string());
-    Say("two");
+    LogText("two");
     Log().SetFile(first.string());
     Log().SetFile(first.string());
-    Say("three");
+    LogText("three");
     EXPECT_EQ(Count(Content(first), "\n"), 2) << Content(first);
     EXPECT_NE(Content(first).find("one"), std::string::npos);
     EXPECT_NE(Content(first).find("three"), std::string::npos);
@@ -196,7 +196,7 @@ TEST_F(LogTest, FileRotatesAndStaysBounded)
     Log().SetFile((folder / "rotating.log").string());
     const std::string message(std::size_t{1024} * 1024, 'r');
     for (int i = 0; i < 40; ++i) {
-        Say(message.c_str());
+        LogText(message.c_str());
     }
     std::uintmax_t nBytes = 0;
     int nFiles = 0;
@@ -214,15 +214,15 @@ TEST_F(LogTest, UnopenableFileIsReportedAndStandardErrorContinues)
     Log().SetFile(good.string());
     EXPECT_NO_THROW(Log().SetFile(folder.string()));
     EXPECT_NO_THROW(Log().SetFile("/proc/no/such/file.log"));
-    Say("goes on");
+    LogText("still logging");
     EXPECT_EQ(Content(good), "");
     const std::string text = Stderr();
     EXPECT_EQ(Count(text, folder.string()) > 0, true) << text;
     EXPECT_NE(text.find("/proc/no/such/file.log"), std::string::npos) << text;
-    EXPECT_NE(text.find("goes on"), std::string::npos) << text;
+    EXPECT_NE(text.find("still logging"), std::string::npos) << text;
 }
 
-/// What somebody else does to the file between two records.
+/// What another program does to the file between two records.
 struct Loss {
     const char* name;
     void (*act)(const fs::path& file);
@@ -234,15 +234,15 @@ TEST_P(LostFileTest, IsOpenedAgain)
 {
     const fs::path file = folder / "logs" / "one.log";
     Log().SetFile(file.string());
-    Say("before");
+    LogText("before");
     GetParam().act(file);
-    Say("after");
-    Say("then");
+    LogText("after");
+    LogText("then");
     const std::string content = Content(file);
     EXPECT_EQ(Count(content, ": after\n"), 1) << content;
     EXPECT_EQ(Count(content, ": then\n"), 1) << content;
     EXPECT_EQ(Count(content, "before"), 0) << content;
-    EXPECT_EQ(Count(Stderr(), "\n"), 3) << "the three lines, and nothing about the loss";
+    EXPECT_EQ(Count(Stderr(), "\n"), 3) << "only the three lines, no report of the loss";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -252,7 +252,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Loss{"replaced",
                          [](const fs::path& file) {
                              fs::rename(file, file.string() + ".1");
-                             std::ofstream(file) << "of somebody else\n";
+                             std::ofstream(file) << "by another program\n";
                          }},
                     Loss{"deleted_with_its_folder", [](const fs::path& file) { fs::remove_all(file.parent_path()); }}),
     [](const auto& row) { return std::string(row.param.name); });
@@ -263,9 +263,9 @@ TEST_F(LogTest, LostFileIsRetriedUntilItCanBeOpened)
     Log().SetFile(file.string());
     fs::remove_all(file.parent_path());
     std::ofstream(file.parent_path()) << "no folder\n";
-    EXPECT_NO_THROW(Say("without file"));
+    EXPECT_NO_THROW(LogText("without file"));
     fs::remove(file.parent_path());
-    Say("with file");
+    LogText("with file");
     const std::string content = Content(file);
     EXPECT_EQ(Count(content, "with file"), 1) << content;
     EXPECT_EQ(Count(content, "without"), 0) << content;
@@ -280,10 +280,10 @@ TEST_F(LogTest, ObserverMayLog)
     Log().SetObserver([&](const LogRecord& record) {
         ++nCalls;
         if (record.strMessage == "outer") {
-            Say("inner");
+            LogText("inner");
         }
     });
-    Say("outer");
+    LogText("outer");
     EXPECT_EQ(nCalls, 2);
 }
 
@@ -294,10 +294,10 @@ TEST_F(LogTest, ObserverMayReplaceItself)
     const auto alive = std::make_shared<int>(1);
     Log().SetObserver([&nFirst, &nSecond, alive](const LogRecord&) {
         Log().SetObserver([&nSecond](const LogRecord&) { ++nSecond; });
-        nFirst += *alive;  // what the running observer holds outlives its replacement
+        nFirst += *alive;  // the captured state outlives the replacement of the running observer
     });
-    Say("one");
-    Say("two");
+    LogText("one");
+    LogText("two");
     EXPECT_EQ(nFirst, 1);
     EXPECT_EQ(nSecond, 1);
     EXPECT_EQ(alive.use_count(), 1);
@@ -307,7 +307,7 @@ TEST_F(LogTest, ObserverMayLogInItsDestructor)
 {
     const std::shared_ptr<int> farewell(new int, [](const int* p) {
         delete p;
-        Say("farewell");
+        LogText("farewell");
     });
     Log().SetObserver([held = std::shared_ptr<int>(farewell)](const LogRecord&) {});
     std::weak_ptr<int> watch = farewell;
@@ -319,9 +319,9 @@ TEST_F(LogTest, ObserverMayLogInItsDestructor)
 
 TEST_F(LogTest, EmptyObserverStopsObserving)
 {
-    Say("seen");
+    LogText("seen");
     Log().SetObserver({});
-    Say("unseen");
+    LogText("unseen");
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].strMessage, "seen");
 }
@@ -329,9 +329,9 @@ TEST_F(LogTest, EmptyObserverStopsObserving)
 TEST_F(LogTest, ExceptionsOfAnObserverAreDropped)
 {
     Log().SetObserver([](const LogRecord&) { throw std::runtime_error("from the observer"); });
-    EXPECT_NO_THROW(Say("first"));
+    EXPECT_NO_THROW(LogText("first"));
     Log().SetObserver([](const LogRecord&) { throw 5; });
-    EXPECT_NO_THROW(Say("second"));
+    EXPECT_NO_THROW(LogText("second"));
     const std::string text = Stderr();
     EXPECT_NE(text.find("first"), std::string::npos);
     EXPECT_NE(text.find("second"), std::string::npos);
@@ -341,7 +341,7 @@ TEST_F(LogTest, ObserverRunsOnTheThreadThatLogs)
 {
     std::thread::id seen;
     Log().SetObserver([&](const LogRecord&) { seen = std::this_thread::get_id(); });
-    std::thread other([] { Say("other"); });
+    std::thread other([] { LogText("other"); });
     const std::thread::id expected = other.get_id();
     other.join();
     EXPECT_EQ(seen, expected);
@@ -359,7 +359,7 @@ TEST_F(LogTest, ManyThreadsLogWhileObserverAndFileChange)
     for (int i = 0; i < kThreads; ++i) {
         threads.emplace_back([] {
             for (int n = 0; n < kRecords; ++n) {
-                Say("from a thread");
+                LogText("from a thread");
             }
         });
     }
@@ -371,10 +371,10 @@ TEST_F(LogTest, ManyThreadsLogWhileObserverAndFileChange)
         thread.join();
     }
     EXPECT_EQ(nSeen, kThreads * kRecords);
-    EXPECT_EQ(Count(Stderr(), "Here::Say: from a thread\n"), kThreads * kRecords);
+    EXPECT_EQ(Count(Stderr(), "Here::Log: from a thread\n"), kThreads * kRecords);
 }
 
-/// Each test leaves its process in the end.
+/// Each test ends its process.
 class ClosedPipeTest : public testing::Test {
 protected:
     ClosedPipeTest() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
@@ -401,9 +401,9 @@ TEST_F(ClosedPipeTest, DoesNotEndTheProcess)
         const fs::path file = fs::temp_directory_path() / ("ornl-closed-pipe-" + std::to_string(getpid()));
         CloseStandardError();
         Log().SetFile(file.string());
-        Say("one");
-        std::thread([] { Say("two"); }).join();
-        Log().SetFile("/proc/no/such/file.log");  // reported there as well
+        LogText("one");
+        std::thread([] { LogText("two"); }).join();
+        Log().SetFile("/proc/no/such/file.log");  // the failure is also reported on standard error
         const std::string content = Content(file);
         fs::remove(file);
         std::_Exit(Count(content, "one") == 1 && Count(content, "two") == 1 && !IsPending() ? 0 : 1);
@@ -415,7 +415,7 @@ TEST_F(ClosedPipeTest, StillSignalsWritesOutsideTheLog)
 {
     const auto write = [] {
         CloseStandardError();
-        Say("one");
+        LogText("one");
         (void)!::write(STDERR_FILENO, "x", 1);
         std::_Exit(0);
     };
@@ -430,25 +430,25 @@ TEST_F(ClosedPipeTest, KeepsASignalBlockedByTheHost)
         sigemptyset(&sigpipe);
         sigaddset(&sigpipe, SIGPIPE);
         pthread_sigmask(SIG_BLOCK, &sigpipe, nullptr);
-        Say("one");
-        const bool bNoneOfTheLog = !IsPending();
+        LogText("one");
+        const bool bNoneFromTheLog = !IsPending();
         std::raise(SIGPIPE);
-        Say("two");
-        std::_Exit(bNoneOfTheLog && IsPending() ? 0 : 1);
+        LogText("two");
+        std::_Exit(bNoneFromTheLog && IsPending() ? 0 : 1);
     };
     EXPECT_EXIT(log(), testing::ExitedWithCode(0), "");
 }
 
 struct LogsAtTheEnd {
-    ~LogsAtTheEnd() { Say("from a static destructor"); }
+    ~LogsAtTheEnd() { LogText("from a static destructor"); }
 };
 
 TEST(LogLifetimeTest, StaticDestructorsMayLog)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto end = [] {
-        static const LogsAtTheEnd logsAtTheEnd;  // goes after all that logging sets up now
-        Say("first record");
+        static const LogsAtTheEnd logsAtTheEnd;  // destroyed after everything that logging creates below
+        LogText("first record");
         std::exit(0);
     };
     EXPECT_EXIT(end(), testing::ExitedWithCode(0), "from a static destructor");

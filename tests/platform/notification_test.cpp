@@ -70,7 +70,7 @@ QAbstractButton* ButtonOf(const QWidget* pToast)
     return pToast->findChild<QAbstractButton*>();
 }
 
-/// Stands for the desktop that opens links.
+/// Stands in for the desktop, which opens links.
 class Desktop : public QObject {
     Q_OBJECT
 
@@ -80,7 +80,7 @@ public:
 
     QList<QUrl> opened;
 
-public Q_SLOTS:  // NOLINT(readability-redundant-access-specifiers): tells moc that this is a slot
+public Q_SLOTS:  // NOLINT(readability-redundant-access-specifiers): moc needs it
     void Open(const QUrl& url) { opened.append(url); }
 };
 
@@ -102,7 +102,7 @@ protected:
             for (QWidget* pToast : toasts) {
                 pToast->close();
             }
-            QCoreApplication::sendPostedEvents();  // those that waited come up
+            QCoreApplication::sendPostedEvents();  // shows the queued toasts
             return Toasts().isEmpty();
         }));
     }
@@ -194,7 +194,7 @@ TEST_F(NotificationTest, ToastsIgnoreTheWaitDialog)
     EXPECT_EQ(window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
-TEST_F(NotificationTest, ToastsStayOnTheScreenWhateverTheWindow)
+TEST_F(NotificationTest, ToastsStayOnTheScreenWhereverTheWindowIs)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     for (const QRect& geometry : {QRect(screen.right() - 50, screen.bottom() - 50, 300, 300),
@@ -220,7 +220,7 @@ TEST_F(NotificationTest, ClickClosesAPersistentToastAndTheOthersMoveUp)
     }));
 }
 
-TEST_F(NotificationTest, ClickOnTheTextCountsToo)
+TEST_F(NotificationTest, ClickOnTheTextClosesTheToast)
 {
     Staying(QStringLiteral("one"));
     QTest::mouseClick(Toasts().at(0)->findChild<QLabel*>(), Qt::LeftButton);
@@ -270,7 +270,7 @@ TEST_F(NotificationTest, ButtonOpensTheLinkAndClosesItsToast)
     EXPECT_EQ(desktop.opened, QList<QUrl>{QUrl(QStringLiteral("vms://export/7?a=b&c=%20d"))});
 }
 
-TEST_F(NotificationTest, ClickBesideTheButtonOpensNothing)
+TEST_F(NotificationTest, ClickOutsideTheButtonOpensNothing)
 {
     Desktop desktop;
     Notify().AddTextNotification(QStringLiteral("text"), true, QString(), QStringLiteral("vms://x"), true);
@@ -324,8 +324,8 @@ TEST_F(NotificationTest, ToastSizeIsLimitedForLongTexts)
 
 TEST_F(NotificationTest, TextOfAFewLinesIsShownCompletely)
 {
-    const QString strText = QStringLiteral("A message that needs some lines of the toast before all of it is told,\n"
-                                           "with a break of its own.");
+    const QString strText = QStringLiteral("A message that needs several lines of the toast to be shown completely,\n"
+                                           "with its own line break.");
     Staying(strText);
     EXPECT_EQ(Texts(), QStringList(strText));
     EXPECT_GT(Toasts().at(0)->height(), 60);
@@ -357,7 +357,7 @@ TEST_F(NotificationTest, ThousandsOfToastsCloseWithinTenSeconds)
     QStringList seen;
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
-            QCoreApplication::sendPostedEvents();  // those that waited come up
+            QCoreApplication::sendPostedEvents();  // shows the queued toasts
             seen += Texts();
             EXPECT_LE(Toasts().size(), 6);
             return Toasts().isEmpty();
@@ -365,7 +365,7 @@ TEST_F(NotificationTest, ThousandsOfToastsCloseWithinTenSeconds)
         15000));
     EXPECT_LE(clock.elapsed() - nAdded, 10000);
     EXPECT_TRUE(seen.contains(QStringLiteral("0")));
-    EXPECT_TRUE(seen.contains(QString::number(kMany - 1))) << "the latest is told too";
+    EXPECT_TRUE(seen.contains(QString::number(kMany - 1))) << "the latest toast is shown as well";
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ using ORNGUI::OrnWaitDialog;
 
 namespace {
 
-/// Runs the events that are due, without waiting for others.
+/// Processes pending events without waiting for more.
 void Settle()
 {
     QCoreApplication::sendPostedEvents();
@@ -30,7 +30,7 @@ QRect OnScreen(const QWidget& widget)
     return {widget.mapToGlobal(QPoint()), widget.size()};
 }
 
-/// What dims a part of the window at the moment.
+/// The visible widgets that dim a part of the window.
 QList<QWidget*> Veils(const QWidget& window)
 {
     QList<QWidget*> veils = window.findChildren<QWidget*>(QStringLiteral("OrnWaitVeil"));
@@ -226,9 +226,9 @@ struct Attempt {
     std::function<void(OrnWaitDialog&, Window&)> action;
 };
 
-class WaitDialogEndureTest : public testing::TestWithParam<Attempt> {};
+class WaitDialogPersistenceTest : public testing::TestWithParam<Attempt> {};
 
-TEST_P(WaitDialogEndureTest, DoesNotEndShow)
+TEST_P(WaitDialogPersistenceTest, DoesNotEndShow)
 {
     Window host;
     OrnWaitDialog dialog(host.panel, true);
@@ -238,25 +238,25 @@ TEST_P(WaitDialogEndureTest, DoesNotEndShow)
     EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST_P(WaitDialogEndureTest, DoesNotEndExec)
+TEST_P(WaitDialogPersistenceTest, DoesNotEndExec)
 {
     Window host;
     OrnWaitDialog dialog(host.panel, true);
-    bool bEndured = false;
+    bool bStillVisible = false;
     QTimer::singleShot(0, &dialog, [&] {
         GetParam().action(dialog, host);
         QTimer::singleShot(20, &dialog, [&] {
-            bEndured = dialog.isVisible();
+            bStillVisible = dialog.isVisible();
             dialog.OnStopWaitImmediately();
         });
     });
     dialog.exec();
-    EXPECT_TRUE(bEndured);
+    EXPECT_TRUE(bStillVisible);
     EXPECT_FALSE(dialog.isVisible());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    , WaitDialogEndureTest,
+    , WaitDialogPersistenceTest,
     testing::Values(
         Attempt{"Escape", [](OrnWaitDialog& dialog, Window&) { QTest::keyClick(&dialog, Qt::Key_Escape); }},
         Attempt{"EscapeToTheParent", [](OrnWaitDialog&, Window& host) { QTest::keyClick(host.panel, Qt::Key_Escape); }},
@@ -310,7 +310,7 @@ TEST(WaitDialogTest, StopBeforeShowingDoesNotAffectALaterExec)
     EXPECT_EQ(finished.count(), 1);
 }
 
-TEST(WaitDialogTest, ExecIsModalAlsoAfterShow)
+TEST(WaitDialogTest, ExecIsModalEvenAfterShow)
 {
     const Window host;
     for (const bool bShownBefore : {false, true}) {
@@ -327,7 +327,7 @@ TEST(WaitDialogTest, ExecIsModalAlsoAfterShow)
     }
 }
 
-TEST(WaitDialogTest, SlotIsFoundByItsName)
+TEST(WaitDialogTest, StopIsASlot)
 {
     OrnWaitDialog dialog(nullptr, true);
     QTimer timer;
@@ -347,13 +347,13 @@ class WaitDialogParentDestroyedTest : public testing::TestWithParam<std::tuple<D
 protected:
     void Destroy() { std::get<0>(GetParam()).destroy(host); }
 
-    void ExpectLeftBehind()
+    void ExpectOrphaned()
     {
         ASSERT_TRUE(dialog);
         EXPECT_FALSE(dialog->isVisible());
         EXPECT_EQ(dialog->parent(), nullptr);
         EXPECT_TRUE(host.panel.isNull());
-        // It still works, over the screen.
+        // It can still be shown, centred on the screen.
         QTimer::singleShot(0, dialog, [this] {
             EXPECT_TRUE(dialog->isVisible());
             EXPECT_TRUE(dialog->windowFlags().testFlag(Qt::FramelessWindowHint));
@@ -372,7 +372,7 @@ TEST_P(WaitDialogParentDestroyedTest, WhileExecuting)
 {
     QTimer::singleShot(0, qApp, [this] { Destroy(); });
     dialog->exec();
-    ExpectLeftBehind();
+    ExpectOrphaned();
 }
 
 TEST_P(WaitDialogParentDestroyedTest, WhileShown)
@@ -382,13 +382,13 @@ TEST_P(WaitDialogParentDestroyedTest, WhileShown)
     QSignalSpy finished(dialog, &QDialog::finished);
     Destroy();
     EXPECT_EQ(finished.count(), 1);
-    ExpectLeftBehind();
+    ExpectOrphaned();
 }
 
 TEST_P(WaitDialogParentDestroyedTest, WhileNotShown)
 {
     Destroy();
-    ExpectLeftBehind();
+    ExpectOrphaned();
 }
 
 TEST_P(WaitDialogParentDestroyedTest, WhileAnObserverDeletesTheDialog)
@@ -436,7 +436,7 @@ TEST(WaitDialogTest, DestroyedParentWindowEndsTheWait)
     }
 }
 
-TEST(WaitDialogTest, AfterReparentingIgnoresTheFormerParent)
+TEST(WaitDialogTest, IgnoresTheFormerParentAfterReparenting)
 {
     auto window = std::make_unique<QWidget>();
     window->show();

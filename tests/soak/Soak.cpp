@@ -341,10 +341,10 @@ void Soak::Judge(const Making& making, int result)
 
 void Soak::Control(const char* pMethod, const std::string& path, const Json& body)
 {
-    const Answer answer =
+    const Reply reply =
         m_platform.Control().request(pMethod, "/emulator/v1/" + path, body.is_null() ? std::string() : body.dump());
-    if (!answer.arrived || answer.status >= 300) {
-        throw std::runtime_error("the emulator rejects " + path + ": " + answer.body);
+    if (!reply.arrived || reply.status >= 300) {
+        throw std::runtime_error("the emulator rejects " + path + ": " + reply.body);
     }
 }
 
