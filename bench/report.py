@@ -105,12 +105,12 @@ def flat_row(target, works):
              if elements(work) >= target["flat_from"]}
     if len(costs) < 2:
         return []
-    dearest = max(costs, key=costs.get)
-    cheapest = min(costs, key=costs.get)
-    reached = costs[dearest] / costs[cheapest]
+    highest = max(costs, key=costs.get)
+    lowest = min(costs, key=costs.get)
+    reached = costs[highest] / costs[lowest]
     return [{
-        "work": target["title"], "counter": None, "unit": "", "library": costs[dearest],
-        "reference": f"{elements(cheapest)} lots", "reference_value": costs[cheapest], "ratio": reached,
+        "work": target["title"], "counter": None, "unit": "", "library": costs[highest],
+        "reference": f"{elements(lowest)} lots", "reference_value": costs[lowest], "ratio": reached,
         "target": target["target"], "reached": reached <= target["target"], "excess": 0, "show": {}, "peers": {},
     }]
 
@@ -147,7 +147,7 @@ def value_text(value, each):
 
 
 def print_table(rows):
-    lines = [("", LIBRARY, "beside", "", "ratio", "target", "", "others")]
+    lines = [("", LIBRARY, "reference", "", "ratio", "target", "", "others")]
     for each in rows:
         others = [f"{name} {time_text(seconds)}" for name, seconds in each["peers"].items()]
         for counter, values in each["show"].items():

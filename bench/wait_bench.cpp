@@ -106,10 +106,10 @@ void RegisterWaits(const Server& server)
                     {{kLibrary, cost(RunOf(MakeLibrary(), exchange))},
                      {"event loop", cost([] { Idle(kWaitMilliseconds); })},
                      {kQt, cost(RunOf(MakeQt(), exchange))}});
-    RegisterInTurns("wait of 2 s behind the dialog", 1, {{kLibrary, [=] {
-                                                              Window window;
-                                                              return Cost(RunOf(MakeLibrary(&window), exchange));
-                                                          }}});
+    RegisterInTurns("wait of 2 s with a dialog", 1, {{kLibrary, [=] {
+                                                          Window window;
+                                                          return Cost(RunOf(MakeLibrary(&window), exchange));
+                                                      }}});
 }
 
 void RegisterStall(const Server& server)
