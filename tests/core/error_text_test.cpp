@@ -85,7 +85,7 @@ struct Notice {
 
 class FailureNotice : public Host, public testing::WithParamInterface<Notice> {};
 
-TEST_P(FailureNotice, IsShown)
+TEST_P(FailureNotice, ShowsTheExpectedText)
 {
     const Notice& row = GetParam();
     RawServer server(

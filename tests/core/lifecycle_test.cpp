@@ -310,7 +310,7 @@ TEST_P(EndTest, SecondQuitEndsACallInAnAboutToQuitSlot)
     EXPECT_LT(elapsed.elapsed(), 10000) << "both calls must end long before their 20 s";
 }
 
-/// Nothing is emitted then, and the next exec() clears the request to exit.
+/// Without a running loop, aboutToQuit is not emitted, and the next exec() clears the request to exit.
 TEST_P(EndTest, ExitWithoutARunningLoopEndsCallsUntilTheNextExec)
 {
     TestApplication application(g_argc, g_argv);

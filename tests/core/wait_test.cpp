@@ -270,7 +270,7 @@ TEST_P(WaitTest, TimeOutBeyondTheTimerLimitIsAccepted)
     }
 }
 
-TEST_P(WaitTest, TenTimeOutsStarveNoCall)
+TEST_P(WaitTest, TenTimeOutsDoNotBlockLaterCalls)
 {
     for (int i = 0; i < 10; ++i) {
         EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/silent"), i == 0 ? 1 : 0)), -1);
@@ -283,7 +283,7 @@ TEST_P(WaitTest, TenTimeOutsStarveNoCall)
     EXPECT_EQ(notifications.Take(), QStringList{QStringLiteral("Done")});
 }
 
-TEST_F(WaitBase, TenFullTimeOutsStarveNoCall)
+TEST_F(WaitBase, TenFullTimeOutsDoNotBlockLaterCalls)
 {
     for (int i = 0; i < 10; ++i) {
         EXPECT_EQ(Execute(Call(InLoop, QStringLiteral("/silent"), 1)), -1);

@@ -19,7 +19,7 @@ struct ListRow {
     std::string inside;  ///< JSON pointer to the list in the record
 };
 
-/// The number of elements that the seed files hold at a pointer.
+/// The number of elements at a JSON pointer in the seed files.
 std::size_t SeededCount(const std::string& pointer)
 {
     static const Json seeds = emulator::LoadSeeds(emulator::DefaultShareFolder() / "seed");

@@ -230,7 +230,7 @@ std::vector<ParseRow> ParseRows()
 
 INSTANTIATE_TEST_SUITE_P(DeviceConfig, ParseTest, testing::ValuesIn(ParseRows()), RowName());
 
-TEST(DeviceConfig, FreshRecords)
+TEST(DeviceConfig, DefaultRecordsHaveTheirInitialValues)
 {
     EXPECT_EQ(ToJson(MultiCastStream()),
               Json::parse(R"({"multicastIp": "", "multicastPort": "", "streamType": 1, "status": false})"));

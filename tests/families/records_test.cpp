@@ -1,4 +1,4 @@
-// The record of the core. The tests of each subject cover the records of its calls.
+// The core's record. The tests of each subject cover the records of its calls.
 #include "support/Family.h"
 
 #include <RequestParamFields.h>

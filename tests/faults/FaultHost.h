@@ -35,7 +35,7 @@ struct CallMode {
     Runner runner = Runner::ExecuteFuncs;
 };
 
-/// ExecuteFuncs in both ways of waiting, with GET and POST, over each scheme.
+/// ExecuteFuncs with both kinds of wait, with GET and POST, over each scheme.
 std::vector<CallMode> CallModes(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});
 /// The same, and typed calls over each scheme: one that waits and one that is started.
 std::vector<CallMode> AllCallModes(const std::vector<RawServer::Scheme>& schemes = {RawServer::Http, RawServer::Https});

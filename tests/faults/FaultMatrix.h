@@ -40,7 +40,7 @@ struct FaultCase {
 };
 void PrintTo(const FaultCase& row, std::ostream* pStream);
 
-/// Each fault with each way of making the call.
+/// Each fault in each call mode.
 std::vector<FaultCase> Matrix(const std::vector<Fault>& faults);
 
 class FaultMatrix : public FaultHost, public testing::WithParamInterface<FaultCase> {

@@ -106,7 +106,7 @@ QByteArray Bytes(const std::string& text)
     return QByteArray::fromStdString(text);
 }
 
-/// The header names in alphabetical order, because the order on the wire is not fixed.
+/// The header names in alphabetical order, not in the order on the wire.
 std::string HeaderNames(const RawRequest& request)
 {
     QList<QByteArray> names;

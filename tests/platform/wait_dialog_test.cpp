@@ -368,14 +368,14 @@ protected:
     QPointer<OrnWaitDialog> dialog = new OrnWaitDialog(host.panel, std::get<1>(GetParam()));
 };
 
-TEST_P(WaitDialogParentDestroyedTest, WhileExecuting)
+TEST_P(WaitDialogParentDestroyedTest, EndsExec)
 {
     QTimer::singleShot(0, qApp, [this] { Destroy(); });
     dialog->exec();
     ExpectOrphaned();
 }
 
-TEST_P(WaitDialogParentDestroyedTest, WhileShown)
+TEST_P(WaitDialogParentDestroyedTest, EndsShow)
 {
     dialog->show();
     Settle();
@@ -385,13 +385,13 @@ TEST_P(WaitDialogParentDestroyedTest, WhileShown)
     ExpectOrphaned();
 }
 
-TEST_P(WaitDialogParentDestroyedTest, WhileNotShown)
+TEST_P(WaitDialogParentDestroyedTest, LeavesAHiddenDialogUsable)
 {
     Destroy();
     ExpectOrphaned();
 }
 
-TEST_P(WaitDialogParentDestroyedTest, WhileAnObserverDeletesTheDialog)
+TEST_P(WaitDialogParentDestroyedTest, LetsAnObserverDeleteTheDialog)
 {
     dialog->show();
     QObject context;

@@ -29,7 +29,7 @@ Ended RunProgram(const QString& program, const QStringList& arguments, const Var
 class RunningProgram {
 public:
     RunningProgram(const QString& program, const QStringList& arguments, const Variables& variables = {});
-    /// Kills the program if it is still running.
+    /// Terminates the program if it is still running.
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;

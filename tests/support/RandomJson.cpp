@@ -199,8 +199,7 @@ QString RandomJson::WrittenNumber()
         text += QLatin1Char('.') + Digits();
     }
     if (OneIn(4)) {
-        constexpr quint64 kMostExponent =
-            280;  // so that the number, with all its digits, is still within the range of double
+        constexpr quint64 kMostExponent = 280;  // keeps the number and its digits within the range of double
         text += OneIn(2) ? QStringLiteral("e") : QStringLiteral("E-");
         text += QString::number(OneIn(2) ? UpTo(20) : UpTo(kMostExponent));
     }

@@ -12,7 +12,7 @@
 namespace e2e {
 namespace {
 
-/// A row with the contract's examples as arguments and, for a call that reads, as record.
+/// A row whose arguments, and whose record if the call reads, are the contract's examples.
 Row OfTheContract(const catalogue::Call& call)
 {
     static const emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
@@ -28,8 +28,7 @@ Row OfTheContract(const catalogue::Call& call)
     }
     if (call.parse != nullptr) {
         const Json data = operation.dataExample();
-        const bool bInside =
-            call.result->kind != catalogue::Kind::Record;  // a simple value or a list is the only member of the data
+        const bool bInside = call.result->kind != catalogue::Kind::Record;  // otherwise it is the only member
         row.record = [record = bInside ? data.front() : data](const Json& /*state*/) { return record; };
     }
     return row;

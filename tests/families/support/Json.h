@@ -6,7 +6,7 @@
 
 namespace family_testing {
 
-/// The object that a constant text of a test holds.
+/// Parses a JSON object from a constant text.
 QJsonObject JsonObject(const std::string& text);
 
 }  // namespace family_testing

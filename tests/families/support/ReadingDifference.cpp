@@ -39,7 +39,7 @@ bool AreSame(const T& left, const T& right)
     }
 }
 
-/// JSON with all digits of its integers, which Qt's own output would truncate.
+/// JSON with all digits of its integers, some of which Qt's JSON output would lose.
 template <typename T>
 std::string Shown(const T& value)
 {
