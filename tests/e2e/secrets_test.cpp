@@ -192,7 +192,7 @@ protected:
         Json secret = arguments;
         ReplaceTexts(secret, [&](const Json::json_pointer& pointer) {
             Json probe = arguments;
-            probe[place] = "probe";
+            probe[pointer] = "probe";
             const APIModule::RequestParam request = Packed(*catalogue::FindCall(row.call), probe);
             const bool isInUrl = Contains(request.strUrl, "probe");
             m_inUrl += isInUrl ? 1 : 0;
