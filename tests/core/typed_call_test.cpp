@@ -730,7 +730,7 @@ TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 
 TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kWhole); });
+    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
     EXPECT_TRUE(APIModule::Run(Touch("/path")));
     m_pServer->TakeRequests();
     std::optional<CallEnd> end;
