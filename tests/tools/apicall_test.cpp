@@ -621,6 +621,16 @@ TEST_P(Calls, MergeChangesOneElementOfAList)
     EXPECT_EQ(ResultOf(read), expected);
 }
 
+TEST_P(Calls, MergeTakesTheFieldsFromARecordOfAnotherType)
+{
+    const json group = ResultOf(Words({"BRMS.GetUserGroupList", "keyword="})).at(0);
+    const std::string id = "groupId=" + group.at("id").get<std::string>();
+    EXPECT_EQ(ResultOf(Words({"--merge", "BRMS.UpdateUserGroup", id.c_str(), "group/memo=new"})), json());
+    json expected = group;
+    expected["memo"] = "new";
+    EXPECT_EQ(ResultOf(Words({"BRMS.GetUserGroup", id.c_str()})), expected);
+}
+
 TEST_P(Calls, MergeWritesNothingWhenTheReadFails)
 {
     AddFault({{"kind", "status"}, {"status", 404}});

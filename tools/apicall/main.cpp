@@ -246,7 +246,8 @@ int RunCall(const apicall::Options& options)
         if (!outcome) {
             return kFailedCall;
         }
-        arguments[std::string(first->read.argument->name)] = outcome.record;
+        arguments[std::string(first->read.argument->name)] =
+            catalogue::PresentValue(first->read, first->arguments, outcome.record);
         given.MergeInto(arguments);
     }
     if (options.dryRun) {

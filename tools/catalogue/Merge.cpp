@@ -22,9 +22,15 @@ std::string SubjectOf(const Call& write)
     return {};
 }
 
-bool IsPlain(const Type& type)
+/// Whether a value of the type can be taken from a record of another one.
+bool Brings(const Type& record, const Type& wanted)
 {
-    return type.kind != Kind::Record && type.kind != Kind::List;
+    return &record == &wanted ||
+           (record.kind == Kind::Record && wanted.kind == Kind::Record &&
+            std::all_of(wanted.fields.begin(), wanted.fields.end(), [&record](const Field& field) {
+                const Field* const found = record.FindField(field.name);
+                return found != nullptr && found->type == field.type;
+            }));
 }
 
 bool IsIndex(const std::string& word)
@@ -55,7 +61,7 @@ std::optional<MatchingRead> FindMatchingRead(const Call& write)
         return std::nullopt;
     }
     for (const Argument& argument : write.arguments) {
-        if (argument.type == read->result && !IsPlain(*argument.type)) {
+        if (Brings(*read->result, *argument.type)) {
             return MatchingRead{read, &argument};
         }
     }
@@ -83,6 +89,19 @@ nlohmann::json ArgumentsOfRead(const MatchingRead& read, const Call& write, cons
         }
     }
     return arguments;
+}
+
+nlohmann::json PresentValue(const MatchingRead& read, const nlohmann::json& asked, const nlohmann::json& record)
+{
+    if (read.argument->type->kind != Kind::Record) {
+        return record;
+    }
+    nlohmann::json present = nlohmann::json::object();
+    for (const Field& field : read.argument->type->fields) {
+        const std::string name(field.name);
+        present[name] = asked.contains(name) ? asked[name] : record.at(name);
+    }
+    return present;
 }
 
 const Type& TypeAt(const Call& call, const std::string& path)
