@@ -256,53 +256,68 @@ Json ParameterExamples(const std::vector<Json>& parameters)
     return examples;
 }
 
-/// Returns the text about a value from its node in the contract.
-using DescribeNode = std::function<std::string(const Json&)>;
+/// Returns what the contract says about a value, from the value's node.
+template <typename Said>
+using DescribeNode = std::function<Said(const Json&)>;
 
 std::string DescriptionIn(const Json& node)
 {
     return node.value("description", "");
 }
 
-/// The permitted values: a list or a range.
-std::string AllowedIn(const Json& node)
+Json LimitsIn(const Json& node)
 {
     const Json& schema = node.contains("schema") ? node.at("schema") : node;
+    Json limits = Json::object();
+    for (const char* const keyword : {"enum", "minimum", "maximum"}) {
+        if (schema.contains(keyword)) {
+            limits[keyword] = schema.at(keyword);
+        }
+    }
+    return limits;
+}
+
+/// A list of values or a range.
+std::string TextOf(const Json& limits)
+{
     std::string allowed;
     const auto add = [&allowed](const std::string& prefix, const Json& value) {
         allowed.append(allowed.empty() ? "" : ", ").append(prefix).append(value.dump());
     };
-    const Json values = schema.value("enum", Json::array());
+    const Json values = limits.value("enum", Json::array());
     for (const Json& value : values) {
         add("", value);
     }
     for (const auto& [keyword, prefix] : {std::pair("minimum", ">= "), std::pair("maximum", "<= ")}) {
-        if (schema.contains(keyword)) {
-            add(prefix, schema.at(keyword));
+        if (limits.contains(keyword)) {
+            add(prefix, limits.at(keyword));
         }
     }
     return allowed;
 }
 
-Descriptions DescriptionsOfParameters(const std::vector<Json>& parameters, const DescribeNode& describe)
+template <typename Said>
+std::map<std::string, Said> DescriptionsOfParameters(const std::vector<Json>& parameters,
+                                                     const DescribeNode<Said>& describe)
 {
-    Descriptions descriptions;
+    std::map<std::string, Said> said;
     for (const Json& parameter : parameters) {
-        descriptions[parameter.at("name")] = describe(parameter);
+        said[parameter.at("name")] = describe(parameter);
     }
-    return descriptions;
+    return said;
 }
 
 /// Adds outer keys before nested ones, so that the plain name of a duplicate key refers to the outer key.
-void AddDescriptions(const Json& schema, const DescribeNode& describe, const std::string& parent,
-                     Descriptions& descriptions)
+template <typename Said>
+void AddDescriptions(const Json& schema, const DescribeNode<Said>& describe, const std::string& parent,
+                     std::map<std::string, Said>& descriptions)
 {
     const Json properties = schema.value("properties", Json::object());
     for (const auto& [key, property] : properties.items()) {
-        const std::string text = describe(property);
-        descriptions.emplace(key, text);
+        const Said said = describe(property);
+        descriptions.emplace(key, said);
         if (!parent.empty()) {
-            descriptions.emplace(std::string(parent).append("/").append(key), text);
+            descriptions.emplace(std::string(parent).append("/").append(key), said);
         }
     }
     for (const auto& [key, property] : properties.items()) {
@@ -314,6 +329,26 @@ void AddDescriptions(const Json& schema, const DescribeNode& describe, const std
     }
 }
 
+/// Adds outer keys before nested ones, like AddDescriptions().
+void AddExamples(const Json& example, const std::string& parent, Descriptions& examples)
+{
+    for (const auto& [key, value] : example.items()) {
+        if (!value.is_structured()) {
+            const std::string text = value.is_string() ? value.get<std::string>() : value.dump();
+            examples.emplace(key, text);
+            if (!parent.empty()) {
+                examples.emplace(std::string(parent).append("/").append(key), text);
+            }
+        }
+    }
+    for (const auto& [key, value] : example.items()) {
+        const Json& inner = value.is_array() && !value.empty() ? value.front() : value;
+        if (inner.is_object()) {
+            AddExamples(inner, key, examples);
+        }
+    }
+}
+
 Operation OperationOf(const std::string& template_, const std::string& method, const Json& path,
                       const std::string& where)
 {
@@ -322,14 +357,20 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     std::optional<Schema> body;
     std::vector<Json> bodyExamples;
     const std::vector<Json> parameters = ParametersOf(path, described);
-    Descriptions allowed = DescriptionsOfParameters(parameters, AllowedIn);
-    Descriptions sent = DescriptionsOfParameters(parameters, DescriptionIn);
+    Limits limits = DescriptionsOfParameters<Json>(parameters, LimitsIn);
+    Descriptions sent = DescriptionsOfParameters<std::string>(parameters, DescriptionIn);
+    const Json parameterExamples = ParameterExamples(parameters);
+    Descriptions examples;
+    AddExamples(parameterExamples, {}, examples);
     if (described.contains("requestBody")) {
         const Json& content = described.at("requestBody").at(jsonContent);
         body = SchemaOf(content.at("schema"), where + "/requestBody");
         bodyExamples = ExamplesOf(content);
-        AddDescriptions(content.at("schema"), AllowedIn, {}, allowed);
-        AddDescriptions(content.at("schema"), DescriptionIn, {}, sent);
+        AddDescriptions<Json>(content.at("schema"), LimitsIn, {}, limits);
+        AddDescriptions<std::string>(content.at("schema"), DescriptionIn, {}, sent);
+        for (const Json& example : bodyExamples) {
+            AddExamples(example, {}, examples);
+        }
     }
     const Json& content = described.at("responses").at("200").at(jsonContent);
     const Json& reply = content.at("schema");
@@ -338,7 +379,11 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     Schema successSchema = SchemaOf(success, where + "/responses/200");
     Json data = success.at("properties").value("data", Json::object());
     Descriptions received;
-    AddDescriptions(data, DescriptionIn, {}, received);
+    AddDescriptions<std::string>(data, DescriptionIn, {}, received);
+    Descriptions allowed;
+    for (const auto& [key, said] : limits) {
+        allowed[key] = TextOf(said);
+    }
     std::string upper = method;
     std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
     return Operation{described.at("operationId"),
@@ -349,12 +394,14 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
                      std::move(replySchema),
                      std::move(successSchema),
                      std::move(data),
-                     ParameterExamples(parameters),
+                     parameterExamples,
                      std::move(bodyExamples),
                      ExamplesOf(content),
                      described.value("description", ""),
                      std::move(allowed),
                      std::move(sent),
+                     std::move(limits),
+                     std::move(examples),
                      std::move(received)};
 }
 

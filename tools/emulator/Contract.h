@@ -30,6 +30,9 @@ using Descriptions = std::map<std::string, std::string>;
 /// The text about a key whose object or list has the key @p parent; empty when there is none.
 std::string DescriptionOf(const Descriptions& descriptions, const std::string& parent, const std::string& key);
 
+/// The keywords of the contract that limit a value, "enum", "minimum" and "maximum", by the keys of Descriptions.
+using Limits = std::map<std::string, Json>;
+
 /// One endpoint, its references resolved.
 struct Operation {
     std::string id;      ///< operationId, such as "BRMS.GetTimeSyncConfig"
@@ -46,6 +49,8 @@ struct Operation {
     std::string description;
     Descriptions allowed;   ///< permitted values such as "0, 1" or ">= 0", with the keys of "sent"
     Descriptions sent;      ///< of path and query parameters and the keys of the body
+    Limits limits;          ///< of what may be sent, with the keys of "sent"
+    Descriptions examples;  ///< of what may be sent, with the keys of "sent"
     Descriptions received;  ///< of the keys of the successful reply's "data"
 
     /// The "data" of the first example of a successful reply; an empty object without "data".
