@@ -223,6 +223,9 @@ TEST_P(MnemonicTest, EachLetterLeadsToOnePlace)
     Use(server.Port());
     emit Window().LanguageChosen(QLatin1String(GetParam()));
     Run("OMMS.GetAlertTypes");
+    Choose("BRMS.SetTimeSyncConfig");
+    ExpectUnique(Shown(), "a write");
+    Choose("OMMS.GetAlertTypes");
     auto& results = Find<QTabWidget>("results");
     for (int tab = 0; tab < results.count(); ++tab) {
         results.setCurrentIndex(tab);

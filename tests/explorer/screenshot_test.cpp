@@ -3,6 +3,7 @@
 #include <explorer/views/ArgumentForm.h>
 #include <explorer/window/Appearance.h>
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -116,6 +117,42 @@ TEST_P(LanguageTest, WindowAndServers)
 
 INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, testing::Values("en", "de", "zh"),
                          [](const auto& row) { return std::string(row.param); });
+
+class OverwritingTest : public ScreenshotTest,
+                        public testing::WithParamInterface<std::tuple<const char*, Appearance>> {};
+
+TEST_P(OverwritingTest, QuestionAndForm)
+{
+    const auto [language, appearance] = GetParam();
+    const std::string suffix = std::string("-") + language + (appearance == Appearance::Dark ? "-dark" : "-light");
+    explorer::StoreLanguage(*settings, QLatin1String(language));
+    Close();
+    Start();
+    explorer::ApplyAppearance(appearance);
+    Window().resize(kSmall);
+    UseEmulator();
+    Choose("BRMS.SetTimeSyncConfig");
+    Find<QLineEdit>("ntpIp").setText(QStringLiteral("10.0.0.9"));
+    ClickRun();
+    ASSERT_TRUE(Await([this] { return Window().findChild<QDialog*>(QStringLiteral("overwriteDialog")) != nullptr; }));
+    auto& question = Find<QDialog>("overwriteDialog");
+    Shoot(question, ("overwrite" + suffix).c_str());
+    question.reject();
+    Run("BRMS.GetImageConfig");
+    Choose("OBMS.GetPageConfigDesfireFailInfo");
+    ASSERT_TRUE(Await([this] { return !Find<QLabel>("page.limits").text().isEmpty(); }));
+    Find<QAbstractSpinBox>("page").stepBy(-1);
+    Shoot(Window(), ("refused" + suffix).c_str());
+    Choose("BRMS.UpdateImageConfig");
+    Shoot(Window(), ("fill" + suffix).c_str());
+    explorer::ApplyAppearance(Appearance::Light);
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, OverwritingTest,
+                         testing::Values(std::tuple("en", Appearance::Light), std::tuple("de", Appearance::Dark),
+                                         std::tuple("zh", Appearance::Light)),
+                         [](const auto& row) { return std::string(std::get<0>(row.param)); });
 
 TEST_F(ScreenshotTest, Failure)
 {

@@ -330,6 +330,7 @@ TEST_F(WithoutWaitingTest, EachCallIsCancelledByItsButton)
     Begin(kCall);
     ASSERT_TRUE(Await([&server] { return server.Requests() == 1; }));
     Choose("BRMS.SetRemoteLogConfig");
+    MeanAll();
     ClickRun();
     ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
     ASSERT_EQ(CancelButtons().size(), 2);

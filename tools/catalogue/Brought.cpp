@@ -81,7 +81,8 @@ void AddEqual(const Type& type, const json& left, const json& right, const std::
     case Kind::Record:
         for (const Field& field : type.fields) {
             const std::string name(field.name);
-            AddEqual(*field.type, left.at(name), right.at(name), path + '/' + name, missing, brought);
+            AddEqual(*field.type, left.at(name), right.at(name), std::string(path).append("/").append(name), missing,
+                     brought);
         }
         break;
     case Kind::List:

@@ -1,6 +1,7 @@
 #include "ExplorerTest.h"
 
 #include <explorer/core/EmulatorProcess.h>
+#include <explorer/views/ArgumentForm.h>
 
 #include <QComboBox>
 #include <QLabel>
@@ -117,6 +118,12 @@ void ExplorerTest::Choose(const char* call)
     Window().SelectCall(*pCall);
 }
 
+void ExplorerTest::MeanAll()
+{
+    auto& form = *Window().findChild<explorer::ArgumentForm*>();
+    form.SetArguments(form.Arguments(), explorer::Origin::Known);
+}
+
 void ExplorerTest::Use(explorer::Way way)
 {
     auto& ways = Find<QComboBox>("wait");
@@ -136,6 +143,7 @@ bool ExplorerTest::AwaitRuns(int count) const
 CallOutcome ExplorerTest::Run(const char* call)
 {
     Choose(call);
+    MeanAll();
     const int runs = static_cast<int>(outcomes.size());
     ClickRun();
     if (!AwaitRuns(runs + 1)) {

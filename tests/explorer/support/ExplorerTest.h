@@ -80,11 +80,13 @@ protected:
     [[nodiscard]] QString TextOf(const char* label) const;
 
     void Choose(const char* call);
+    /// Means all values of the form as they are, so that a write of them asks nothing.
+    void MeanAll();
     void Use(explorer::Way way);
     void ClickRun();
     /// Waits until so many runs have ended since the start.
     [[nodiscard]] bool AwaitRuns(int count) const;
-    /// Chooses a call, runs it and waits for its end.
+    /// Chooses a call, runs it with the values of the form and waits for its end.
     CallOutcome Run(const char* call);
 
     QTemporaryDir folder;

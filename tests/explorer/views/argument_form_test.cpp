@@ -8,8 +8,10 @@
 
 #include <catalogue/Call.h>
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -80,6 +82,13 @@ private slots:
     void TheTabKeyFollowsTheScreen();
     void LabelsLeadToTheirFields();
     void DescriptionsStandInTheToolTipsOfTheLabels();
+    void LimitsAndExamplesAreShown();
+    void AValueThatTheServerRefusesIsNotValid_data();
+    void AValueThatTheServerRefusesIsNotValid();
+    void ARefusedValueInTheJsonIsNamed();
+    void KnownValuesAreCompleted();
+    void WhatWasNotEnteredIsKnown();
+    void AnElementIsNotEnteredUntilAFieldOfItIs();
     void ANarrowPaneShowsWholeForms();
     void ACopyIsPastedBack();
     void AWrongPasteSaysWhyAndChangesNothing_data();
@@ -340,12 +349,34 @@ void ArgumentFormTest::LabelsLeadToTheirFields()
     QCOMPARE(labels, 2);
 }
 
+namespace {
+
+explorer::FieldFacts Described(const char* description)
+{
+    explorer::FieldFacts facts;
+    facts.description = QString::fromUtf8(description);
+    return facts;
+}
+
+/// The facts of a field that takes these texts alone, or a range.
+explorer::FieldFacts Limited(const QStringList& values, std::optional<double> minimum = {},
+                             std::optional<double> maximum = {})
+{
+    explorer::FieldFacts facts;
+    facts.values = values;
+    facts.minimum = minimum;
+    facts.maximum = maximum;
+    return facts;
+}
+
+}  // namespace
+
 void ArgumentFormTest::DescriptionsStandInTheToolTipsOfTheLabels()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.SetMultiCastConfig"));
-    form.Describe({{QStringLiteral("status"), QStringLiteral("Of the channel, <b> & all.")},
-                   {QStringLiteral("streams/status"), QStringLiteral("Of the stream.")}});
+    form.Describe({{QStringLiteral("status"), Described("Of the channel, <b> & all.")},
+                   {QStringLiteral("streams/status"), Described("Of the stream.")}});
     Child<QPushButton>(form, "streams.add").click();
     QStringList shown;
     const QList<QLabel*> all = form.findChildren<QLabel*>();
@@ -359,6 +390,131 @@ void ArgumentFormTest::DescriptionsStandInTheToolTipsOfTheLabels()
                         "status|<p>bool. Of the channel, &lt;b&gt; &amp; all.</p>|Of the channel, <b> & all.|"
                         "multicastIp|text||multicastPort|text||streamType|int||"
                         "status|<p>bool. Of the stream.</p>|Of the stream."));
+}
+
+void ArgumentFormTest::LimitsAndExamplesAreShown()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.SetRemoteLogConfig"));
+    explorer::FieldFacts port = Limited({}, 1, 65535);
+    port.example = QStringLiteral("514");
+    port.description = QStringLiteral("Of the log server.");
+    form.Describe({{QStringLiteral("port"), port}});
+    QCOMPARE(Child<QLabel>(form, "port.limits").text(), QString::fromUtf8("\xE2\x89\xA5 1, \xE2\x89\xA4 65535"));
+    QCOMPARE(Child<NumberBox>(form, "port").accessibleDescription(),
+             QString::fromUtf8("Of the log server.\nAllowed: \xE2\x89\xA5 1, \xE2\x89\xA4 65535\nExample: 514"));
+    explorer::FieldFacts address;
+    address.example = QStringLiteral("192.168.10.9");
+    form.Describe({{QStringLiteral("ip"), address}});
+    QCOMPARE(Child<QLineEdit>(form, "ip").placeholderText(), QStringLiteral("e.g. 192.168.10.9"));
+    QVERIFY(!Child<QLabel>(form, "port.limits").isVisibleTo(&form));
+}
+
+void ArgumentFormTest::AValueThatTheServerRefusesIsNotValid_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("problem");
+    const auto add = [](const char* field, const char* typed, const char* problem) {
+        QTest::addRow("%s %s", field, typed)
+            << QString::fromLatin1(field) << QString::fromLatin1(typed) << QString::fromLatin1(problem);
+    };
+    add("port", "1", "");
+    add("port", "9", "");
+    add("port", "0", "Must be 1 or more");
+    add("port", "10", "Must be 9 or less");
+    add("port", "many", "Not a whole number");
+    add("platformId", "a", "");
+    add("platformId", "A", "Must be one of: a, b");
+    add("platformId", "", "Must be one of: a, b");
+}
+
+void ArgumentFormTest::AValueThatTheServerRefusesIsNotValid()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, typed);
+    QFETCH(QString, problem);
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.SetRemoteLogConfig"));
+    form.SetArguments(explorer::ToQt(json::parse(R"({"config": {"port": 5, "platformId": "b"}})")));
+    form.Describe({{QStringLiteral("port"), Limited({}, 1, 9)},
+                   {QStringLiteral("platformId"), Limited({QStringLiteral("a"), QStringLiteral("b")})}});
+    QVERIFY(form.IsValid());
+    Type(Child<QWidget>(form, field.toLatin1().constData()), typed.toUtf8().constData());
+    QCOMPARE(form.IsValid(), problem.isEmpty());
+    QCOMPARE(Child<QLabel>(form, (field + QLatin1String(".problem")).toLatin1().constData()).text(), problem);
+}
+
+void ArgumentFormTest::ARefusedValueInTheJsonIsNamed()
+{
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.GetLocalSetting"));
+    form.Describe({{QStringLiteral("settingType"), Limited({}, 0)}});
+    Child<QPushButton>(form, "argumentsAsJson").click();
+    Child<QPlainTextEdit>(form, "argumentsJson").setPlainText(QStringLiteral(R"({"settingType": -1})"));
+    QVERIFY(!form.IsValid());
+    QCOMPARE(Problem(form), QStringLiteral("settingType: Must be 0 or more"));
+}
+
+void ArgumentFormTest::KnownValuesAreCompleted()
+{
+    ArgumentForm form;
+    form.SetCall(Call("DMS.BatchWashOpen"));
+    form.Describe({}, [](const QString& name) {
+        return name == QLatin1String("channelIds")
+                   ? QVector<explorer::Completion>{{QStringLiteral("7$1"), QStringLiteral("Main gate")},
+                                                   {QStringLiteral("8$1"), QString()}}
+                   : QVector<explorer::Completion>();
+    });
+    Child<QPushButton>(form, "channelIds.add").click();  // an element that came later
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    auto& field = Child<QLineEdit>(form, "channelIds");
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("GATE"));
+    QAbstractItemView* const pList = field.completer()->popup();
+    QTRY_VERIFY(pList->isVisible());
+    QCOMPARE(pList->model()->rowCount(), 1);
+    QCOMPARE(pList->model()->index(0, 0).data().toString(), QString::fromUtf8("7$1  \xC2\xB7  Main gate"));
+    QTest::keyClick(pList, Qt::Key_Down);
+    QTest::keyClick(pList, Qt::Key_Return);
+    QCOMPARE(field.text(), QStringLiteral("7$1"));
+}
+
+void ArgumentFormTest::WhatWasNotEnteredIsKnown()
+{
+    using explorer::Origin;
+    using Places = std::vector<std::string>;
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.UpdateUserGroup"));
+    QCOMPARE(form.NotEntered().values, (Places{"/groupId", "/group/groupName", "/group/memo"}));
+    Type(Child<QLineEdit>(form, "memo"), "x");
+    QCOMPARE(form.NotEntered().values, (Places{"/groupId", "/group/groupName"}));
+
+    // Of JSON, what differs from before has been entered.
+    Child<QPushButton>(form, "argumentsAsJson").click();
+    Child<QPlainTextEdit>(form, "argumentsJson")
+        .setPlainText(QStringLiteral(R"({"groupId": "7", "group": {"groupName": "", "memo": "x"}})"));
+    QCOMPARE(form.NotEntered().values, (Places{"/group/groupName"}));
+    form.SetArguments(form.Arguments(), Origin::Known);
+    QCOMPARE(form.NotEntered().values, Places{});
+    form.SetArguments(form.Arguments());
+    QCOMPARE(form.NotEntered().values.size(), std::size_t(3));
+}
+
+void ArgumentFormTest::AnElementIsNotEnteredUntilAFieldOfItIs()
+{
+    using Places = std::vector<std::string>;
+    ArgumentForm form;
+    form.SetCall(Call("BRMS.AddQuickCommand"));
+    form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
+    QCOMPARE(form.NotEntered().elements, Places{});
+    Child<QPushButton>(form, "httpUrls.add").click();
+    QCOMPARE(form.NotEntered().elements, (Places{"/command/httpUrls/3"}));
+    Child<QToolButton>(form, "httpUrls.up", 3).click();
+    QCOMPARE(form.NotEntered().elements, (Places{"/command/httpUrls/2"}));
+    Type(Child<QLineEdit>(form, "url", 3), "http://10.0.0.4");
+    QCOMPARE(form.NotEntered().elements, Places{});
 }
 
 void ArgumentFormTest::ANarrowPaneShowsWholeForms()
@@ -436,7 +592,7 @@ void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing_data()
     add("nothing", "", "it is no JSON");
     add("no JSON", "{\"groupId\": ", "it is no JSON");
     add("a list", "[]", "must be a JSON object");
-    add("an argument is missing", R"({"groupId": "7"})", "needs the argument \"group\"");
+    add("an argument is missing", R"({"groupId": "7"})", "requires the argument \"group\"");
     add("an unknown argument", R"({"groupId": "7", "group": {}, "x": 1})", "has no argument \"x\"");
     add("a wrong type", R"({"groupId": 7, "group": {}})", "/groupId: expected text, got integer");
     add("an unknown field", R"({"groupId": "7", "group": {"name": ""}})",

@@ -1,5 +1,7 @@
 #include "CallIndex.h"
 
+#include <catalogue/Identity.h>
+
 #include <Contract.h>
 #include <PlatformEmulator.h>
 
@@ -26,6 +28,19 @@ void AddKeys(const emulator::Json& schema, QStringList& keys)
     }
 }
 
+void Limit(FieldFacts& facts, const emulator::Json& limits)
+{
+    const emulator::Json values = limits.value("enum", emulator::Json::array());
+    for (const emulator::Json& value : values) {
+        facts.values.append(QString::fromStdString(catalogue::PlainText(value)));
+    }
+    const auto number = [&limits](const char* keyword) {
+        return limits.contains(keyword) ? std::optional<double>(limits.at(keyword).get<double>()) : std::nullopt;
+    };
+    facts.minimum = number("minimum");
+    facts.maximum = number("maximum");
+}
+
 Endpoint Describe(const emulator::Operation& operation)
 {
     Endpoint endpoint{QString::fromStdString(operation.method),
@@ -34,7 +49,13 @@ Endpoint Describe(const emulator::Operation& operation)
                       QString::fromStdString(operation.description),
                       {}};
     for (const auto& [key, description] : operation.sent) {
-        endpoint.sent.insert(QString::fromStdString(key), QString::fromStdString(description));
+        FieldFacts& facts = endpoint.sent[QString::fromStdString(key)];
+        facts.description = QString::fromStdString(description);
+        Limit(facts, operation.limits.at(key));
+        const auto example = operation.examples.find(key);
+        if (example != operation.examples.end()) {
+            facts.example = QString::fromStdString(example->second);
+        }
     }
     for (const emulator::QueryParameter& parameter : operation.query) {
         endpoint.keys.append(QString::fromStdString(parameter.name));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "../FieldFacts.h"
+
 #include <catalogue/Call.h>
 
 #include <QHash>
@@ -16,7 +18,7 @@ struct Endpoint {
     QString path;  ///< with its placeholders, "/brms/api/v1.1/user/group/{groupId}"
     QStringList keys;
     QString description;
-    QHash<QString, QString> sent;  ///< descriptions of what is sent, by argument or key
+    FactsByName sent;
 };
 
 /// By the name of the call.

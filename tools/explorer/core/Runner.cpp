@@ -159,7 +159,15 @@ void Runner::Wait(const RunOrder& order)
 {
     const CallOutcome outcome = Run(order);
     --m_pending;
+    Announce(order, outcome);
+}
+
+void Runner::Announce(const RunOrder& order, const CallOutcome& outcome)
+{
     emit Finished(outcome);
+    if (order.finished) {
+        order.finished(outcome);
+    }
 }
 
 void Runner::Begin(const RunOrder& order)
@@ -215,7 +223,7 @@ void Runner::End(int number, const std::function<CallOutcome(Course&)>& conclude
     emit WithoutWaitingChanged();
     const CallOutcome outcome = conclude(*running.pCourse);
     Check(running.order, outcome, running.pCourse->token);
-    emit Finished(outcome);
+    Announce(running.order, outcome);
 }
 
 std::map<int, RunOrder> Runner::WithoutWaiting() const

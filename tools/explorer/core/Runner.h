@@ -25,7 +25,8 @@ struct RunOrder {
     Server server;                           ///< that the user manager knows as the current one
     std::optional<int> timeoutSeconds = {};  ///< instead of the call's own
     Way way = Way::EventLoop;
-    QPointer<QWidget> parent = {};  ///< under the wait dialog
+    QPointer<QWidget> parent = {};                          ///< under the wait dialog
+    std::function<void(const CallOutcome&)> finished = {};  ///< after Runner::Finished
 };
 
 /// Makes calls through the library, each from the event loop, so that nothing of a window is on the stack while a call
@@ -79,6 +80,7 @@ private:
 
     void Wait(const RunOrder& order);
     void Begin(const RunOrder& order);
+    void Announce(const RunOrder& order, const CallOutcome& outcome);
     void End(int number, const std::function<CallOutcome(Course&)>& conclude);
     CallOutcome Run(const RunOrder& order);
     void Check(const RunOrder& order, const RunSummary& run, const QString& token);

@@ -16,6 +16,7 @@ Session::Session(QSettings& allSettings, Tokens::Vault* vault, const QString& em
     connect(&emulator, &EmulatorProcess::StateChanged, this,
             [this] { servers.SetEmulatorPorts(emulator.HttpPort(), emulator.HttpsPort()); });
     connect(&runner, &Runner::Finished, &history, &History::Add);
+    connect(&runner, &Runner::Finished, &identifiers, &Identifiers::Add);
     connect(&runner, &Runner::TokenRefused, &tokens, &Tokens::Refuse);
     UseCurrentServer();
     APIModule::CAPIModule::GetInstance().Init(&m_users);

@@ -3,6 +3,7 @@
 #include "EmulatorProcess.h"
 #include "Feed.h"
 #include "History.h"
+#include "Identifiers.h"
 #include "Runner.h"
 #include "Servers.h"
 #include "Tokens.h"
@@ -34,6 +35,7 @@ public:
     EmulatorProcess emulator;
     Runner runner;
     History history;
+    Identifiers identifiers;
     LogFeed log;
     NotificationFeed notifications;
     QHash<QString, QJsonObject> drafts;  ///< arguments of calls that were left without a run, by name

@@ -47,6 +47,14 @@
         <source>Paste</source>
         <translation>Einfügen</translation>
     </message>
+    <message>
+        <source>Runs %1 and takes over what it returns</source>
+        <translation>Führt %1 aus und übernimmt, was der Aufruf liefert</translation>
+    </message>
+    <message>
+        <source>Fill fro&amp;m the server</source>
+        <translation>Vo&amp;m Server laden</translation>
+    </message>
 </context>
 <context>
     <name>explorer::CallHeader</name>
@@ -122,6 +130,13 @@
     <message>
         <source>The server does not answer</source>
         <translation>Der Server antwortet nicht</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CheckedEditor</name>
+    <message>
+        <source>e.g. %1</source>
+        <translation>z. B. %1</translation>
     </message>
 </context>
 <context>
@@ -412,6 +427,21 @@
     </message>
 </context>
 <context>
+    <name>explorer::Limits</name>
+    <message>
+        <source>Must be one of: %1</source>
+        <translation>Erlaubt sind: %1</translation>
+    </message>
+    <message>
+        <source>Must be %1 or more</source>
+        <translation>Muss mindestens %1 sein</translation>
+    </message>
+    <message>
+        <source>Must be %1 or less</source>
+        <translation>Darf höchstens %1 sein</translation>
+    </message>
+</context>
+<context>
     <name>explorer::ListEditor</name>
     <message>
         <source>Add element</source>
@@ -577,10 +607,6 @@
         <translation>Wählen Sie zuerst einen Aufruf</translation>
     </message>
     <message>
-        <source>An argument holds no value of its type</source>
-        <translation>Ein Argument hat keinen Wert seines Typs</translation>
-    </message>
-    <message>
         <source>The emulator gets a fresh token with each start.</source>
         <translation>Der Emulator bekommt bei jedem Start ein neues Token.</translation>
     </message>
@@ -640,6 +666,21 @@
         <source>&amp;History</source>
         <translation>&amp;Verlauf</translation>
     </message>
+    <message>
+        <source>An argument holds no valid value</source>
+        <translation>Ein Argument hat keinen gültigen Wert</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::NameLabel</name>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>Erlaubt: %1</translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation>Beispiel: %1</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NumberBox</name>
@@ -658,6 +699,57 @@
     <message>
         <source>Not a whole number</source>
         <translation>Keine ganze Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::OverwriteDialog</name>
+    <message>
+        <source>Overwrite values of the server?</source>
+        <translation>Werte des Servers überschreiben?</translation>
+    </message>
+    <message>
+        <source>%1 sends values that you have not entered. They replace those of the server.</source>
+        <translation>%1 sendet Werte, die Sie nicht eingegeben haben. Sie ersetzen die des Servers.</translation>
+    </message>
+    <message>
+        <source>%1 sends values that you have not entered. What they replace is not known.</source>
+        <translation>%1 sendet Werte, die Sie nicht eingegeben haben. Was sie ersetzen, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Values that change</source>
+        <translation>Werte, die sich ändern</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>On the server</source>
+        <translation>Auf dem Server</translation>
+    </message>
+    <message>
+        <source>Will be sent</source>
+        <translation>Wird gesendet</translation>
+    </message>
+    <message>
+        <source>Entered</source>
+        <translation>Eingegeben</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>&amp;Send anyway</source>
+        <translation>Trotzdem &amp;senden</translation>
     </message>
 </context>
 <context>
@@ -1253,6 +1345,26 @@
     <message>
         <source>Total</source>
         <translation>Summe</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::WriteGuard</name>
+    <message>
+        <source>%1 needs &quot;%2&quot;</source>
+        <translation>%1 braucht „%2“</translation>
+    </message>
+    <message>
+        <source>The form has the values of the server.</source>
+        <translation>Das Formular enthält die Werte des Servers.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <extracomment>%1 is a call, %2 why it failed</extracomment>
+        <translation>%1 ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>%1 returned no data</source>
+        <translation>%1 lieferte keine Daten</translation>
     </message>
 </context>
 </TS>

@@ -47,6 +47,14 @@
         <source>Paste</source>
         <translation>粘贴</translation>
     </message>
+    <message>
+        <source>Runs %1 and takes over what it returns</source>
+        <translation>运行 %1 并采用其返回的内容</translation>
+    </message>
+    <message>
+        <source>Fill fro&amp;m the server</source>
+        <translation>从服务器填充(&amp;M)</translation>
+    </message>
 </context>
 <context>
     <name>explorer::CallHeader</name>
@@ -121,6 +129,13 @@
     <message>
         <source>The server does not answer</source>
         <translation>服务器没有应答</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::CheckedEditor</name>
+    <message>
+        <source>e.g. %1</source>
+        <translation>例如 %1</translation>
     </message>
 </context>
 <context>
@@ -410,6 +425,21 @@
     </message>
 </context>
 <context>
+    <name>explorer::Limits</name>
+    <message>
+        <source>Must be one of: %1</source>
+        <translation>必须是以下之一：%1</translation>
+    </message>
+    <message>
+        <source>Must be %1 or more</source>
+        <translation>必须大于或等于 %1</translation>
+    </message>
+    <message>
+        <source>Must be %1 or less</source>
+        <translation>必须小于或等于 %1</translation>
+    </message>
+</context>
+<context>
     <name>explorer::ListEditor</name>
     <message>
         <source>Add element</source>
@@ -575,10 +605,6 @@
         <translation>请先选择调用</translation>
     </message>
     <message>
-        <source>An argument holds no value of its type</source>
-        <translation>有参数的值与其类型不符</translation>
-    </message>
-    <message>
         <source>The emulator gets a fresh token with each start.</source>
         <translation>模拟器每次启动都会得到新的令牌。</translation>
     </message>
@@ -638,6 +664,21 @@
         <source>&amp;History</source>
         <translation>历史(&amp;H)</translation>
     </message>
+    <message>
+        <source>An argument holds no valid value</source>
+        <translation>有参数的值无效</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::NameLabel</name>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>允许：%1</translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation>示例：%1</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NumberBox</name>
@@ -656,6 +697,57 @@
     <message>
         <source>Not a whole number</source>
         <translation>不是整数</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::OverwriteDialog</name>
+    <message>
+        <source>Overwrite values of the server?</source>
+        <translation>覆盖服务器上的值？</translation>
+    </message>
+    <message>
+        <source>%1 sends values that you have not entered. They replace those of the server.</source>
+        <translation>%1 将发送您未输入的值。它们会替换服务器上的值。</translation>
+    </message>
+    <message>
+        <source>%1 sends values that you have not entered. What they replace is not known.</source>
+        <translation>%1 将发送您未输入的值。它们会替换什么尚不清楚。</translation>
+    </message>
+    <message>
+        <source>Values that change</source>
+        <translation>将要更改的值</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>On the server</source>
+        <translation>服务器上</translation>
+    </message>
+    <message>
+        <source>Will be sent</source>
+        <translation>将发送</translation>
+    </message>
+    <message>
+        <source>Entered</source>
+        <translation>已输入</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>&amp;Send anyway</source>
+        <translation>仍然发送(&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -1250,6 +1342,26 @@
     <message>
         <source>Total</source>
         <translation>合计</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::WriteGuard</name>
+    <message>
+        <source>%1 needs &quot;%2&quot;</source>
+        <translation>%1 需要“%2”</translation>
+    </message>
+    <message>
+        <source>The form has the values of the server.</source>
+        <translation>表单已填入服务器上的值。</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <extracomment>%1 is a call, %2 why it failed</extracomment>
+        <translation>%1 失败：%2</translation>
+    </message>
+    <message>
+        <source>%1 returned no data</source>
+        <translation>%1 未返回数据</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "Json.h"
 #include "JsonHighlighter.h"
 #include "NameLabel.h"
+#include "PlainEditors.h"
 #include "RecordEditor.h"
 #include "Theme.h"
 #include "TintedLabel.h"
@@ -43,12 +44,16 @@ QPushButton* MakeButton(const QString& text, const QString& tip, const QString& 
 }  // namespace
 
 ArgumentForm::ArgumentForm(QWidget* pParent)
-    : QWidget(pParent), m_pArea(new QScrollArea), m_pJson(new QPlainTextEdit),
+    : QWidget(pParent), m_pRead(new QPushButton(tr("Fill fro&m the server"))), m_pArea(new QScrollArea),
+      m_pJson(new QPlainTextEdit),
       m_pCopy(MakeButton(tr("Copy"), tr("Copy as JSON"), QStringLiteral("copyArguments"), Qt::Key_C)),
       m_pPaste(MakeButton(tr("Paste"), tr("Paste JSON"), QStringLiteral("pasteArguments"), Qt::Key_V)),
       m_pAsJson(MakeButton(QStringLiteral("JSON"), tr("Edit as JSON"), QStringLiteral("argumentsAsJson"), Qt::Key_J)),
       m_pProblem(new TintedLabel(theme::Error))
 {
+    m_pRead->setObjectName(QStringLiteral("fillFromServer"));
+    m_pRead->setAutoDefault(false);
+    m_pRead->hide();
     m_pArea->setWidgetResizable(true);
     m_pArea->setFrameShape(QFrame::NoFrame);
     m_pJson->setObjectName(QStringLiteral("argumentsJson"));
@@ -69,11 +74,13 @@ ArgumentForm::ArgumentForm(QWidget* pParent)
     pButtons->addStretch();
 
     auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(m_pRead, 0, Qt::AlignLeft);
     pLayout->addWidget(m_pArea, 1);
     pLayout->addWidget(m_pJson, 1);
     pLayout->addWidget(m_pProblem);
     pLayout->addLayout(pButtons);
 
+    connect(m_pRead, &QPushButton::clicked, this, &ArgumentForm::ReadRequested);
     connect(m_pCopy, &QPushButton::clicked, this, &ArgumentForm::Copy);
     connect(m_pPaste, &QPushButton::clicked, this, &ArgumentForm::Paste);
     connect(m_pAsJson, &QPushButton::toggled, this, &ArgumentForm::ShowJson);
@@ -99,10 +106,10 @@ void ArgumentForm::SetCall(const catalogue::Call& call)
     for (const Argument& argument : call.arguments) {
         std::string name(argument.name);
         ValueEditor* pEditor = AddMember(pForm, *argument.type, QString::fromStdString(name));
-        pEditor->SetValue(catalogue::Value(*argument.type).ToJson());
+        pEditor->SetValue(catalogue::Value(*argument.type).ToJson(), Origin::Unseen);
         connect(pEditor, &ValueEditor::Changed, this, &ArgumentForm::OnChanged);
         connect(pEditor, &ValueEditor::Rearranged, this, &ArgumentForm::OrderTabs);
-        connect(pEditor, &ValueEditor::Rearranged, this, &ArgumentForm::ShowDescriptions);
+        connect(pEditor, &ValueEditor::Rearranged, this, &ArgumentForm::ShowFacts);
         m_editors.emplace_back(std::move(name), pEditor);
     }
     FillArea(pContent);
@@ -110,24 +117,49 @@ void ArgumentForm::SetCall(const catalogue::Call& call)
     OnChanged();
 }
 
-void ArgumentForm::Describe(const QHash<QString, QString>& descriptions)
+void ArgumentForm::Describe(const FactsByName& facts, const Completions& completions)
 {
-    m_descriptions = descriptions;
-    ShowDescriptions();
+    m_facts = facts;
+    m_completions = completions;
+    ShowFacts();
+    ShowButtons();
+    emit Changed();
 }
 
-void ArgumentForm::ShowDescriptions()
+void ArgumentForm::ShowFacts()
 {
+    const auto factsOf = [this](const QWidget* pWidget, const QString& name) {
+        auto found = m_facts.constFind(name);
+        for (const QWidget* pAround = pWidget->parentWidget(); pAround != m_pArea; pAround = pAround->parentWidget()) {
+            const auto inside = m_facts.constFind(pAround->accessibleName() + QLatin1Char('/') + name);
+            found = inside != m_facts.cend() ? inside : found;
+        }
+        return found != m_facts.cend() ? *found : FieldFacts();
+    };
     const QList<NameLabel*> labels = m_pArea->findChildren<NameLabel*>();
     for (NameLabel* pLabel : labels) {
-        const QString name = pLabel->accessibleName();
-        auto found = m_descriptions.constFind(name);
-        for (const QWidget* pAround = pLabel->parentWidget(); pAround != m_pArea; pAround = pAround->parentWidget()) {
-            const auto inside = m_descriptions.constFind(pAround->accessibleName() + QLatin1Char('/') + name);
-            found = inside != m_descriptions.cend() ? inside : found;
-        }
-        pLabel->Describe(found != m_descriptions.cend() ? *found : QString());
+        pLabel->Describe(factsOf(pLabel, pLabel->accessibleName()));
     }
+    const QList<CheckedEditor*> editors = m_pArea->findChildren<CheckedEditor*>();
+    for (CheckedEditor* pEditor : editors) {
+        pEditor->SetFacts(factsOf(pEditor, pEditor->Name()),
+                          m_completions ? m_completions(pEditor->Name()) : QVector<Completion>());
+    }
+}
+
+Unentered ArgumentForm::NotEntered() const
+{
+    Unentered unentered;
+    for (const auto& [name, pEditor] : m_editors) {
+        pEditor->Collect("/" + name, unentered);
+    }
+    return unentered;
+}
+
+void ArgumentForm::OfferRead(const QString& name)
+{
+    m_pRead->setVisible(!name.isEmpty());
+    m_pRead->setToolTip(tr("Runs %1 and takes over what it returns").arg(name));
 }
 
 QJsonObject ArgumentForm::Arguments() const
@@ -139,7 +171,7 @@ QJsonObject ArgumentForm::Arguments() const
     return ToQt(arguments);
 }
 
-void ArgumentForm::SetArguments(const QJsonObject& arguments)
+void ArgumentForm::SetArguments(const QJsonObject& arguments, Origin origin)
 {
     for (const auto& [name, pEditor] : m_editors) {
         const auto given = arguments.constFind(QString::fromStdString(name));
@@ -149,7 +181,7 @@ void ArgumentForm::SetArguments(const QJsonObject& arguments)
         catalogue::Value value(*m_pCall->FindArgument(name)->type);
         try {
             value.Assign(FromQt(*given), "/" + name);
-            pEditor->SetValue(value.ToJson());
+            pEditor->SetValue(value.ToJson(), origin);
         } catch (const catalogue::Mismatch&) {
             continue;  // of an earlier form of the call, perhaps
         }
@@ -185,7 +217,7 @@ bool ArgumentForm::Take(const QString& text, const QString& problem)
         const json given = document.isArray() ? json::array() : FromQt(document.object());
         const std::vector<catalogue::Value> values = ReadArguments(*m_pCall, given);
         for (std::size_t index = 0; index < values.size(); ++index) {
-            m_editors[index].second->SetValue(values[index].ToJson());
+            m_editors[index].second->SetValue(values[index].ToJson(), Origin::Entered);
         }
         return true;
     } catch (const catalogue::Mismatch& mismatch) {
@@ -200,8 +232,24 @@ void ArgumentForm::TakeJson()
     m_bTakesJson = true;  // the text stays as it is typed
     m_bJsonFits = Take(m_pJson->toPlainText(), tr("The text does not fit: %1"));
     m_bTakesJson = false;
+    if (m_bJsonFits) {
+        ShowRefusal();
+    }
     ShowButtons();
     emit Changed();
+}
+
+/// The text has the types of the call, but a value that the server would refuse.
+void ArgumentForm::ShowRefusal()
+{
+    const QList<CheckedEditor*> editors = m_pArea->findChildren<CheckedEditor*>();
+    for (const CheckedEditor* pEditor : editors) {
+        if (!pEditor->IsValid()) {
+            m_pProblem->setText(QStringLiteral("%1: %2").arg(pEditor->Name(), pEditor->Problem()));
+            m_pProblem->show();
+            return;
+        }
+    }
 }
 
 void ArgumentForm::ShowJson()
@@ -251,7 +299,7 @@ void ArgumentForm::OnChanged()
 
 void ArgumentForm::OrderTabs()
 {
-    QList<QWidget*> stops{m_pArea};
+    QList<QWidget*> stops{m_pRead, m_pArea};
     for (const auto& [name, pEditor] : m_editors) {
         stops += pEditor->TabStops();
     }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "ValueEditor.h"
+
+#include <explorer/FieldFacts.h>
+
 #include <nlohmann/json.hpp>
 
-#include <QHash>
 #include <QJsonObject>
 #include <QWidget>
 
@@ -21,8 +24,6 @@ struct Call;
 
 namespace explorer {
 
-class ValueEditor;
-
 /// The arguments of a call as a form made of the call's description, or as JSON; checked as they are typed.
 class ArgumentForm : public QWidget {
     Q_OBJECT
@@ -33,14 +34,20 @@ public:
     /// Shows the arguments of a call with the values of fresh ones.
     void SetCall(const catalogue::Call& call);
 
-    /// Shows what arguments and fields mean, those of list elements that are still to be added included.
-    /// @param descriptions by name; that of a field inside of another one by "<the other one>/<name>", where it exists
-    void Describe(const QHash<QString, QString>& descriptions);
+    [[nodiscard]] const catalogue::Call* Call() const { return m_pCall; }
+
+    /// Shows what is known of arguments and fields, those of list elements that are still to be added included. Values
+    /// that the server would refuse are not valid.
+    void Describe(const FactsByName& facts, const Completions& completions = {});
 
     /// Each argument under its name. Fields that are not valid count as 0.
     [[nodiscard]] QJsonObject Arguments() const;
     /// Takes over what fits the call; everything else stays as it is.
-    void SetArguments(const QJsonObject& arguments);
+    void SetArguments(const QJsonObject& arguments, Origin origin = Origin::Unseen);
+    /// What the user has not entered since the call was set. A place begins with the name of the argument.
+    [[nodiscard]] Unentered NotEntered() const;
+    /// Offers to take what a read returns; without a name it does not.
+    void OfferRead(const QString& name);
 
     /// Whether there is a call and each field holds a value of its type.
     [[nodiscard]] bool IsValid() const;
@@ -52,22 +59,27 @@ public:
 
 signals:
     void Changed();
+    /// The values of the server are wanted.
+    void ReadRequested();
 
 private:
     /// Puts what does not fit into words of %1.
     bool Take(const QString& text, const QString& problem);
     void TakeJson();
+    void ShowRefusal();
     void ShowJson();
     void ShowButtons();
     void ShowHint(const QString& text);
     void FillArea(QWidget* pContent);
     void OnChanged();
     void OrderTabs();
-    void ShowDescriptions();
+    void ShowFacts();
 
     const catalogue::Call* m_pCall = nullptr;
     std::vector<std::pair<std::string, ValueEditor*>> m_editors;
-    QHash<QString, QString> m_descriptions;
+    FactsByName m_facts;
+    Completions m_completions;
+    QPushButton* m_pRead;
     QScrollArea* m_pArea;
     QPlainTextEdit* m_pJson;
     bool m_bJsonFits = true;

@@ -68,8 +68,10 @@ json ListEditor::Value() const
     return list;
 }
 
-void ListEditor::SetValue(const json& value)
+void ListEditor::SetValue(const json& value, Origin origin)
 {
+    const std::size_t before = m_rows.size();
+    m_bEntered = origin == Origin::Known || (origin == Origin::Entered && (m_bEntered || before != value.size()));
     while (m_rows.size() > value.size()) {
         delete m_rows.back().pWidget;
         m_rows.pop_back();
@@ -78,11 +80,30 @@ void ListEditor::SetValue(const json& value)
         Append();
     }
     for (std::size_t index = 0; index < value.size(); ++index) {
-        m_rows[index].pEditor->SetValue(value[index]);
+        const bool isNew = index >= before && origin == Origin::Entered;
+        m_rows[index].pEditor->SetValue(value[index], isNew ? Origin::Known : origin);
+        m_rows[index].isAdded = m_rows[index].isAdded && origin == Origin::Entered;
     }
     Number();
     emit Rearranged();
     emit Changed();
+}
+
+void ListEditor::Collect(const std::string& place, Unentered& unentered) const
+{
+    if (!m_bEntered) {
+        unentered.values.push_back(place);
+    }
+    for (std::size_t index = 0; index < m_rows.size(); ++index) {
+        const std::string inner = place + '/' + std::to_string(index);
+        Unentered inside;
+        m_rows[index].pEditor->Collect(inner, inside);
+        if (m_rows[index].isAdded && inside.values.size() == m_rows[index].untouched) {
+            unentered.elements.push_back(inner);
+        }
+        unentered.values.insert(unentered.values.end(), inside.values.begin(), inside.values.end());
+        unentered.elements.insert(unentered.elements.end(), inside.elements.begin(), inside.elements.end());
+    }
 }
 
 bool ListEditor::IsValid() const
@@ -146,10 +167,13 @@ void ListEditor::Append()
 void ListEditor::AddByUser()
 {
     Append();
-    m_rows.back().pEditor->SetValue(catalogue::Value(m_element).ToJson());
-    Number();
-    emit Rearranged();
-    emit Changed();
+    Row& added = m_rows.back();
+    added.pEditor->SetValue(catalogue::Value(m_element).ToJson(), Origin::Unseen);
+    Unentered all;
+    added.pEditor->Collect({}, all);
+    added.untouched = all.values.size();
+    added.isAdded = true;
+    Rearrange();
     m_rows.back().pEditor->TabStops().constFirst()->setFocus(Qt::TabFocusReason);
 }
 
@@ -163,9 +187,7 @@ void ListEditor::Remove(const QWidget* pRow)
     m_pLayout->removeWidget(pWidget);
     pWidget->deleteLater();
 
-    Number();
-    emit Rearranged();
-    emit Changed();
+    Rearrange();
     (m_rows.empty() ? static_cast<QWidget*>(m_pAdd) : m_rows[std::min(index, m_rows.size() - 1)].pRemove)->setFocus();
 }
 
@@ -175,6 +197,12 @@ void ListEditor::Move(const QWidget* pRow, int steps)
     const auto to = std::size_t(std::ptrdiff_t(from) + steps);
     std::swap(m_rows[from], m_rows[to]);
     m_pLayout->insertWidget(int(to), m_rows[to].pWidget);
+    Rearrange();
+}
+
+void ListEditor::Rearrange()
+{
+    m_bEntered = true;
     Number();
     emit Rearranged();
     emit Changed();

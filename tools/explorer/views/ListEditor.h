@@ -19,7 +19,8 @@ public:
     ListEditor(const catalogue::Type& type, const QString& name, QWidget* pParent);
 
     [[nodiscard]] nlohmann::json Value() const override;
-    void SetValue(const nlohmann::json& value) override;
+    void SetValue(const nlohmann::json& value, Origin origin) override;
+    void Collect(const std::string& place, Unentered& unentered) const override;
     [[nodiscard]] bool IsValid() const override;
     [[nodiscard]] QList<QWidget*> TabStops() const override;
 
@@ -31,6 +32,8 @@ private:
         QToolButton* pUp;
         QToolButton* pDown;
         QToolButton* pRemove;
+        bool isAdded = false;       // by the user
+        std::size_t untouched = 0;  // values in an element that was just added
     };
 
     void Append();
@@ -40,9 +43,13 @@ private:
     void Number();
     [[nodiscard]] std::size_t IndexOf(const QWidget* pRow) const;
 
+    /// The user has added, removed or moved elements.
+    void Rearrange();
+
     const catalogue::Type& m_element;
     const QString m_name;
     std::vector<Row> m_rows;
+    bool m_bEntered = false;  // which elements there are
     QVBoxLayout* m_pLayout;
     QLabel* m_pHint;
     QPushButton* m_pAdd;

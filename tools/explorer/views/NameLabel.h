@@ -1,5 +1,7 @@
 #pragma once
 
+#include <explorer/FieldFacts.h>
+
 #include <QLabel>
 
 namespace explorer {
@@ -12,8 +14,8 @@ public:
     /// @param typeName of the value, shown in the tool tip
     explicit NameLabel(const QString& name, const QString& typeName = QString());
 
-    /// Adds the meaning of the value to the tool tip, and gives it to screen readers at the field.
-    void Describe(const QString& description);
+    /// Adds what is known of the value to the tool tip, and gives it to screen readers at the field.
+    void Describe(const FieldFacts& facts);
 
 private:
     const QString m_typeName;

@@ -21,6 +21,8 @@ public:
     /// 0 while there is a problem.
     [[nodiscard]] nlohmann::json Value() const;
     void SetValue(const nlohmann::json& value);
+    /// The field that is typed in.
+    [[nodiscard]] QLineEdit* Line() const { return lineEdit(); }
 
     void stepBy(int steps) override;
     [[nodiscard]] QSize sizeHint() const override;

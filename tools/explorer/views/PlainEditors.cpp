@@ -1,25 +1,24 @@
 #include "PlainEditors.h"
 
+#include "Completer.h"
+#include "Limits.h"
 #include "NumberBox.h"
 #include "Theme.h"
 #include "TintedLabel.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace explorer {
 namespace {
 
-QHBoxLayout* MarginlessRow(QWidget* pWidget)
-{
-    auto* pRow = new QHBoxLayout(pWidget);
-    pRow->setContentsMargins(0, 0, 0, 0);
-    return pRow;
-}
-
-void Name(QWidget* pWidget, const QString& name)
+void SetName(QWidget* pWidget, const QString& name)
 {
     pWidget->setObjectName(name);
     pWidget->setAccessibleName(name);
@@ -27,13 +26,36 @@ void Name(QWidget* pWidget, const QString& name)
 
 }  // namespace
 
-BoolEditor::BoolEditor(const QString& name, QWidget* pParent) : ValueEditor(pParent), m_pBox(new QCheckBox)
+void PlainEditor::SetValue(const nlohmann::json& value, Origin origin)
 {
-    Name(m_pBox, name);
-    QHBoxLayout* pRow = MarginlessRow(this);
+    const bool isEntered = origin == Origin::Known || (origin == Origin::Entered && (m_bEntered || Value() != value));
+    m_bPuts = true;
+    Put(value);
+    m_bPuts = false;
+    m_bEntered = isEntered;
+}
+
+void PlainEditor::Collect(const std::string& place, Unentered& unentered) const
+{
+    if (!m_bEntered) {
+        unentered.values.push_back(place);
+    }
+}
+
+void PlainEditor::Edited()
+{
+    m_bEntered = m_bEntered || !m_bPuts;
+    emit Changed();
+}
+
+BoolEditor::BoolEditor(const QString& name, QWidget* pParent) : PlainEditor(pParent), m_pBox(new QCheckBox)
+{
+    SetName(m_pBox, name);
+    auto* pRow = new QHBoxLayout(this);
+    pRow->setContentsMargins(0, 0, 0, 0);
     pRow->addWidget(m_pBox);
     pRow->addStretch();
-    connect(m_pBox, &QCheckBox::toggled, this, &BoolEditor::Changed);
+    connect(m_pBox, &QCheckBox::toggled, this, &BoolEditor::Edited);
 }
 
 nlohmann::json BoolEditor::Value() const
@@ -41,7 +63,7 @@ nlohmann::json BoolEditor::Value() const
     return m_pBox->isChecked();
 }
 
-void BoolEditor::SetValue(const nlohmann::json& value)
+void BoolEditor::Put(const nlohmann::json& value)
 {
     m_pBox->setChecked(value.get<bool>());
 }
@@ -51,11 +73,89 @@ QList<QWidget*> BoolEditor::TabStops() const
     return {m_pBox};
 }
 
-TextEditor::TextEditor(const QString& name, QWidget* pParent) : ValueEditor(pParent), m_pEdit(new QLineEdit)
+CheckedEditor::CheckedEditor(const QString& name, QWidget* pParent)
+    : PlainEditor(pParent), m_name(name), m_pLimits(new TintedLabel(theme::Hint)),
+      m_pProblem(new TintedLabel(theme::Error))
 {
-    Name(m_pEdit, name);
-    MarginlessRow(this)->addWidget(m_pEdit);
-    connect(m_pEdit, &QLineEdit::textChanged, this, &TextEditor::Changed);
+    m_pLimits->setObjectName(name + QLatin1String(".limits"));
+    m_pLimits->setWordWrap(false);
+    m_pLimits->hide();
+    m_pProblem->setObjectName(name + QLatin1String(".problem"));
+    m_pProblem->setWordWrap(false);
+    m_pProblem->hide();
+}
+
+void CheckedEditor::Show(QWidget* pField, QLineEdit* pLine, Qt::Alignment alignment)
+{
+    m_pLine = pLine;
+    SetName(pField, m_name);
+    m_pLine->installEventFilter(this);
+    auto* pRow = new QHBoxLayout;
+    pRow->addWidget(pField, 1, alignment);
+    pRow->addWidget(m_pLimits);
+    auto* pColumn = new QVBoxLayout(this);
+    pColumn->setContentsMargins(0, 0, 0, 0);
+    pColumn->setSpacing(2);
+    pColumn->addLayout(pRow);
+    pColumn->addWidget(m_pProblem);
+}
+
+void CheckedEditor::SetFacts(const FieldFacts& facts, const QVector<Completion>& completions)
+{
+    m_facts = facts;
+    const QString limits = LimitsText(facts);
+    m_pLimits->setText(limits);
+    m_pLimits->setVisible(!limits.isEmpty());
+    m_pLine->setPlaceholderText(facts.example.isEmpty() ? QString() : tr("e.g. %1").arg(facts.example));
+    QVector<Completion> offered = completions;
+    for (const QString& value : facts.values) {
+        offered.append({value, {}});
+    }
+    m_pLine->setCompleter(offered.isEmpty() ? nullptr : new Completer(offered, m_pLine));
+    ShowProblem();
+}
+
+bool CheckedEditor::IsValid() const
+{
+    return Problem().isEmpty();
+}
+
+void CheckedEditor::TextEdited()
+{
+    ShowProblem();
+    Edited();
+}
+
+QString CheckedEditor::Problem() const
+{
+    const QString own = OwnProblem();
+    return own.isEmpty() ? LimitProblem(m_facts, m_pLine->text()) : own;
+}
+
+void CheckedEditor::ShowProblem()
+{
+    const QString problem = Problem();
+    m_pProblem->setText(problem);
+    m_pProblem->setVisible(!problem.isEmpty());
+}
+
+/// The key that goes down lists all that can be entered.
+bool CheckedEditor::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    QCompleter* const pCompleter = m_pLine->completer();
+    if (pWatched == m_pLine && pEvent->type() == QEvent::KeyPress && pCompleter != nullptr &&
+        static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Down && !pCompleter->popup()->isVisible()) {
+        pCompleter->setCompletionPrefix(QString());
+        pCompleter->complete();
+        return true;
+    }
+    return PlainEditor::eventFilter(pWatched, pEvent);
+}
+
+TextEditor::TextEditor(const QString& name, QWidget* pParent) : CheckedEditor(name, pParent), m_pEdit(new QLineEdit)
+{
+    Show(m_pEdit, m_pEdit, {});
+    connect(m_pEdit, &QLineEdit::textChanged, this, &TextEditor::TextEdited);
 }
 
 nlohmann::json TextEditor::Value() const
@@ -63,7 +163,7 @@ nlohmann::json TextEditor::Value() const
     return m_pEdit->text().toStdString();
 }
 
-void TextEditor::SetValue(const nlohmann::json& value)
+void TextEditor::Put(const nlohmann::json& value)
 {
     m_pEdit->setText(QString::fromStdString(value.get_ref<const std::string&>()));
     m_pEdit->setCursorPosition(0);
@@ -75,23 +175,10 @@ QList<QWidget*> TextEditor::TabStops() const
 }
 
 NumberEditor::NumberEditor(catalogue::Kind kind, const QString& name, QWidget* pParent)
-    : ValueEditor(pParent), m_pBox(new NumberBox(kind)), m_pProblem(new TintedLabel(theme::Error))
+    : CheckedEditor(name, pParent), m_pBox(new NumberBox(kind))
 {
-    Name(m_pBox, name);
-    m_pProblem->setObjectName(name + QLatin1String(".problem"));
-    m_pProblem->setWordWrap(false);
-    m_pProblem->hide();
-    auto* pColumn = new QVBoxLayout(this);
-    pColumn->setContentsMargins(0, 0, 0, 0);
-    pColumn->setSpacing(2);
-    pColumn->addWidget(m_pBox, 0, Qt::AlignLeft);
-    pColumn->addWidget(m_pProblem);
-    connect(m_pBox, &NumberBox::Changed, this, [this] {
-        const QString problem = m_pBox->Problem();
-        m_pProblem->setText(problem);
-        m_pProblem->setVisible(!problem.isEmpty());
-        emit Changed();
-    });
+    Show(m_pBox, m_pBox->Line(), Qt::AlignLeft);
+    connect(m_pBox, &NumberBox::Changed, this, &NumberEditor::TextEdited);
 }
 
 nlohmann::json NumberEditor::Value() const
@@ -99,14 +186,14 @@ nlohmann::json NumberEditor::Value() const
     return m_pBox->Value();
 }
 
-void NumberEditor::SetValue(const nlohmann::json& value)
+void NumberEditor::Put(const nlohmann::json& value)
 {
     m_pBox->SetValue(value);
 }
 
-bool NumberEditor::IsValid() const
+QString NumberEditor::OwnProblem() const
 {
-    return m_pBox->Problem().isEmpty();
+    return m_pBox->Problem();
 }
 
 QList<QWidget*> NumberEditor::TabStops() const

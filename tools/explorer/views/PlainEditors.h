@@ -2,6 +2,8 @@
 
 #include "ValueEditor.h"
 
+#include <explorer/FieldFacts.h>
+
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -10,51 +12,106 @@ namespace explorer {
 
 class NumberBox;
 
-class BoolEditor : public ValueEditor {
+/// A value in one field.
+class PlainEditor : public ValueEditor {
+    Q_OBJECT
+
+public:
+    using ValueEditor::ValueEditor;
+
+    void SetValue(const nlohmann::json& value, Origin origin) override;
+    void Collect(const std::string& place, Unentered& unentered) const override;
+
+protected:
+    virtual void Put(const nlohmann::json& value) = 0;
+    /// The field has another value.
+    void Edited();
+
+private:
+    bool m_bEntered = false;
+    bool m_bPuts = false;
+};
+
+class BoolEditor : public PlainEditor {
     Q_OBJECT
 
 public:
     BoolEditor(const QString& name, QWidget* pParent);
 
     [[nodiscard]] nlohmann::json Value() const override;
-    void SetValue(const nlohmann::json& value) override;
     [[nodiscard]] bool IsValid() const override { return true; }
     [[nodiscard]] QList<QWidget*> TabStops() const override;
+
+protected:
+    void Put(const nlohmann::json& value) override;
 
 private:
     QCheckBox* m_pBox;
 };
 
-class TextEditor : public ValueEditor {
+/// A field of text whose value the server may refuse. Says under the field what is wrong with it.
+class CheckedEditor : public PlainEditor {
+    Q_OBJECT
+
+public:
+    [[nodiscard]] bool IsValid() const override;
+    /// Why the value is not valid; empty when it is.
+    [[nodiscard]] QString Problem() const;
+    [[nodiscard]] QString Name() const { return m_name; }
+    /// Shows and checks what is known of the value.
+    void SetFacts(const FieldFacts& facts, const QVector<Completion>& completions);
+
+protected:
+    CheckedEditor(const QString& name, QWidget* pParent);
+
+    /// The field, with the line that is edited in it.
+    void Show(QWidget* pField, QLineEdit* pLine, Qt::Alignment alignment);
+    void TextEdited();
+    /// What is wrong with the text whatever the facts are; empty for nothing.
+    [[nodiscard]] virtual QString OwnProblem() const { return {}; }
+
+private:
+    void ShowProblem();
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+    const QString m_name;
+    FieldFacts m_facts;
+    QLineEdit* m_pLine = nullptr;
+    QLabel* m_pLimits;
+    QLabel* m_pProblem;
+};
+
+class TextEditor : public CheckedEditor {
     Q_OBJECT
 
 public:
     TextEditor(const QString& name, QWidget* pParent);
 
     [[nodiscard]] nlohmann::json Value() const override;
-    void SetValue(const nlohmann::json& value) override;
-    [[nodiscard]] bool IsValid() const override { return true; }
     [[nodiscard]] QList<QWidget*> TabStops() const override;
+
+protected:
+    void Put(const nlohmann::json& value) override;
 
 private:
     QLineEdit* m_pEdit;
 };
 
-/// Says beside the field what is wrong with the number.
-class NumberEditor : public ValueEditor {
+class NumberEditor : public CheckedEditor {
     Q_OBJECT
 
 public:
     NumberEditor(catalogue::Kind kind, const QString& name, QWidget* pParent);
 
     [[nodiscard]] nlohmann::json Value() const override;
-    void SetValue(const nlohmann::json& value) override;
-    [[nodiscard]] bool IsValid() const override;
     [[nodiscard]] QList<QWidget*> TabStops() const override;
+
+protected:
+    void Put(const nlohmann::json& value) override;
+    [[nodiscard]] QString OwnProblem() const override;
 
 private:
     NumberBox* m_pBox;
-    QLabel* m_pProblem;
 };
 
 }  // namespace explorer

@@ -35,10 +35,17 @@ json RecordEditor::Value() const
     return record;
 }
 
-void RecordEditor::SetValue(const json& value)
+void RecordEditor::SetValue(const json& value, Origin origin)
 {
     for (const auto& [name, pEditor] : m_members) {
-        pEditor->SetValue(value.at(name));
+        pEditor->SetValue(value.at(name), origin);
+    }
+}
+
+void RecordEditor::Collect(const std::string& place, Unentered& unentered) const
+{
+    for (const auto& [name, pEditor] : m_members) {
+        pEditor->Collect(std::string(place).append("/").append(name), unentered);
     }
 }
 

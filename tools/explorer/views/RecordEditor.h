@@ -20,7 +20,8 @@ public:
     RecordEditor(const catalogue::Type& type, QWidget* pParent);
 
     [[nodiscard]] nlohmann::json Value() const override;
-    void SetValue(const nlohmann::json& value) override;
+    void SetValue(const nlohmann::json& value, Origin origin) override;
+    void Collect(const std::string& place, Unentered& unentered) const override;
     [[nodiscard]] bool IsValid() const override;
     [[nodiscard]] QList<QWidget*> TabStops() const override;
 

@@ -11,6 +11,7 @@
 #include "ServerBar.h"
 #include "ServersDialog.h"
 #include "TokenDialog.h"
+#include "WriteGuard.h"
 
 #include "../core/Session.h"
 #include "../views/ArgumentForm.h"
@@ -111,10 +112,10 @@ QSplitter* NewSplitter(Qt::Orientation orientation)
 MainWindow::MainWindow(Session& session, QWidget* pParent)
     : QMainWindow(pParent), m_session(session), m_pServerBar(new ServerBar(session)),
       m_pCalls(new CallPanel(session.settings)), m_pHeader(new CallHeader), m_pForm(new ArgumentForm),
-      m_pRunBar(new RunBar(session.settings)), m_pRunning(new RunningCalls(session.runner)),
-      m_pResultHeader(new ResultHeader), m_pResult(new ResultView), m_pRequest(new RequestView),
-      m_pTiming(new TimingView), m_pRequestTimer(new QTimer(this)), m_pPanes(NewSplitter(Qt::Horizontal)),
-      m_pRows(NewSplitter(Qt::Vertical))
+      m_pGuard(new WriteGuard(*m_pForm, session.runner, this)), m_pRunBar(new RunBar(session.settings)),
+      m_pRunning(new RunningCalls(session.runner)), m_pResultHeader(new ResultHeader), m_pResult(new ResultView),
+      m_pRequest(new RequestView), m_pTiming(new TimingView), m_pRequestTimer(new QTimer(this)),
+      m_pPanes(NewSplitter(Qt::Horizontal)), m_pRows(NewSplitter(Qt::Vertical))
 {
     setWindowTitle(tr("APIModule Explorer"));
     MakeLayout();
@@ -132,6 +133,10 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
     connect(m_pCalls, &CallPanel::Activated, this, &MainWindow::FocusArguments);
     connect(m_pHeader, &CallHeader::FavouriteToggled, this, &MainWindow::ToggleFavourite);
     connect(m_pForm, &ArgumentForm::Changed, this, &MainWindow::FormChanged);
+    connect(m_pForm, &ArgumentForm::ReadRequested, this, &MainWindow::Fill);
+    connect(m_pGuard, &WriteGuard::Message, this,
+            [this](const QString& text) { statusBar()->showMessage(text, kStatusTime); });
+    connect(&session.identifiers, &Identifiers::Changed, this, &MainWindow::ShowFacts);
     connect(m_pRunBar, &RunBar::RunRequested, this, &MainWindow::Run);
     connect(m_pTiming, &TimingView::RepeatRequested, this, &MainWindow::RepeatRun);
     connect(m_pTiming, &TimingView::CancelRequested, &session.runner, &Runner::CancelRepeat);
@@ -160,6 +165,10 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
         if (m_session.servers.Current().id != m_runsAt) {
             m_runsAt.clear();  // another server was not meant
         }
+        if (m_session.servers.Current().id != m_enteredFor) {
+            m_enteredFor = m_session.servers.Current().id;
+            m_pGuard->Forget();
+        }
     });
     connect(&session.tokens, &Tokens::Kept, this, [this](const QString& /*serverId*/, bool worked) {
         statusBar()->showMessage(worked
@@ -173,6 +182,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
         ShowHeader();
     });
 
+    m_enteredFor = session.servers.Current().id;
     FormChanged();
     ReadState();
     ReadContract();
@@ -476,6 +486,7 @@ void MainWindow::Choose(const catalogue::Call& call)
         m_runsAt.clear();  // another call was not meant
         m_session.settings.setValue(QLatin1String(kCallKey), name);
         m_pForm->SetCall(call);
+        m_pForm->OfferRead(WriteGuard::ReadFor(call));
         const QByteArray lastUse = m_session.settings.value(ArgumentsKey(call)).toByteArray();
         m_pForm->SetArguments(m_session.drafts.value(name, QJsonDocument::fromJson(lastUse).object()));
         ShowHeader();
@@ -496,7 +507,16 @@ void MainWindow::ShowHeader()
     if (m_pCall != nullptr) {
         const Endpoint endpoint = m_endpoints.value(QString::fromStdString(m_pCall->name));
         m_pHeader->Show(*m_pCall, endpoint, m_pCalls->IsFavourite(*m_pCall));
-        m_pForm->Describe(endpoint.sent);
+    }
+    ShowFacts();
+}
+
+void MainWindow::ShowFacts()
+{
+    if (m_pCall != nullptr) {
+        const FactsByName facts = m_endpoints.value(QString::fromStdString(m_pCall->name)).sent;
+        m_pForm->Describe(
+            facts, [this, &call = *m_pCall](const QString& name) { return m_session.identifiers.For(call, name); });
     }
 }
 
@@ -511,7 +531,7 @@ void MainWindow::FormChanged()
     m_pRequestTimer->start();
     m_pTiming->SetRepeatEnabled(m_pForm->IsValid());
     m_pRunBar->SetReady(m_pForm->IsValid(),
-                        m_pCall == nullptr ? tr("Choose a call first") : tr("An argument holds no value of its type"));
+                        m_pCall == nullptr ? tr("Choose a call first") : tr("An argument holds no valid value"));
 }
 
 void MainWindow::EditServers()
@@ -547,7 +567,7 @@ void MainWindow::ShowRequest()
         m_pRequest->Show(Runner::Draft(FilledIn()));
     } else {
         m_pRequest->ShowHint(m_pCall == nullptr ? tr("Choose a call to see its request here.")
-                                                : tr("An argument holds no value of its type"));
+                                                : tr("An argument holds no valid value"));
     }
 }
 
@@ -556,21 +576,40 @@ RunOrder MainWindow::FilledIn() const
     return {m_pCall, m_pForm->Arguments(), m_session.servers.Current(), m_pRunBar->TimeoutSeconds()};
 }
 
+RunOrder MainWindow::InTheChosenWay(RunOrder order)
+{
+    order.way = m_pRunBar->ChosenWay();
+    if (order.way == Way::WaitDialog) {
+        order.parent = this;
+    }
+    return order;
+}
+
+bool MainWindow::IsReadyFor(void (MainWindow::*step)())
+{
+    m_runsAt.clear();
+    const bool isReady = m_session.IsReady();
+    if (isReady && m_session.CurrentToken()) {
+        return true;
+    }
+    m_runsAt = m_session.servers.Current().id;
+    m_pStepThen = step;
+    if (isReady) {
+        AskForToken();
+    } else {
+        statusBar()->showMessage(tr("The call runs as soon as the emulator has started."), kStatusTime);
+        m_session.emulator.Start();
+    }
+    return false;
+}
+
 std::optional<RunOrder> MainWindow::Order()
 {
     m_runsAt.clear();
     if (m_pCall == nullptr || !m_pForm->IsValid()) {
         return std::nullopt;
     }
-    if (!m_session.IsReady()) {
-        m_runsAt = m_session.servers.Current().id;
-        statusBar()->showMessage(tr("The call runs as soon as the emulator has started."), kStatusTime);
-        m_session.emulator.Start();
-        return std::nullopt;
-    }
-    if (!m_session.CurrentToken()) {
-        m_runsAt = m_session.servers.Current().id;
-        AskForToken();
+    if (!IsReadyFor(&MainWindow::Run)) {
         return std::nullopt;
     }
     const RunOrder order = FilledIn();
@@ -580,26 +619,30 @@ std::optional<RunOrder> MainWindow::Order()
 
 void MainWindow::Run()
 {
-    if (std::optional<RunOrder> order = Order()) {
-        order->way = m_pRunBar->ChosenWay();
-        if (order->way == Way::WaitDialog) {
-            order->parent = this;
-        }
-        m_session.runner.Order(*order);
+    if (const std::optional<RunOrder> filledIn = Order()) {
+        const RunOrder order = InTheChosenWay(*filledIn);
+        m_pGuard->Check(order, [this, order] { m_session.runner.Order(order); });
+    }
+}
+
+void MainWindow::Fill()
+{
+    if (m_pCall != nullptr && IsReadyFor(&MainWindow::Fill)) {
+        m_pGuard->Fill(InTheChosenWay(FilledIn()));
     }
 }
 
 void MainWindow::RunWhenReady()
 {
     if (m_session.servers.Current().id == m_runsAt && m_session.IsReady()) {
-        Run();
+        (this->*m_pStepThen)();
     }
 }
 
 void MainWindow::RepeatRun(int count)
 {
     if (const std::optional<RunOrder> order = Order()) {
-        m_session.runner.Repeat(*order, count);
+        m_pGuard->Check(*order, [this, order, count] { m_session.runner.Repeat(*order, count); });
     }
 }
 

@@ -30,6 +30,7 @@ class RunningCalls;
 class ServerBar;
 class Session;
 class TimingView;
+class WriteGuard;
 
 /// Every call of the library: choose it, fill it in, run it, see what came.
 class MainWindow : public QMainWindow {
@@ -79,12 +80,18 @@ private:
     void AskForToken();
     /// The call that is filled in, for the current server.
     [[nodiscard]] RunOrder FilledIn() const;
+    [[nodiscard]] RunOrder InTheChosenWay(RunOrder order);
     /// Nothing while something is missing that was asked for, or that is about to come.
     [[nodiscard]] std::optional<RunOrder> Order();
     void ShowRequest();
     void RepeatRun(int count);
-    /// The run that was asked for, as soon as its server can be asked.
+    /// Fills the form with what the matching read of its call returns.
+    void Fill();
+    /// Whether the current server can be asked now. If not, @p step is taken as soon as it can.
+    [[nodiscard]] bool IsReadyFor(void (MainWindow::*step)());
+    /// What was asked for, as soon as its server can be asked.
     void RunWhenReady();
+    void ShowFacts();
     void RunFinished(const CallOutcome& outcome);
     /// Null for none.
     void ShowRun(const PastRunPtr& pRun);
@@ -100,12 +107,15 @@ private:
     QFutureWatcher<Endpoints> m_contract;
     const catalogue::Call* m_pCall = nullptr;
     PastRunPtr m_pShown;
-    PastRuns m_timed;  // those that were chosen to be timed; empty for the last ones of the call
-    QString m_runsAt;  // the server of a run that waits for the emulator or a token
+    PastRuns m_timed;      // those that were chosen to be timed; empty for the last ones of the call
+    QString m_runsAt;      // the server of a run that waits for the emulator or a token
+    QString m_enteredFor;  // the server for which the form was filled in
+    void (MainWindow::*m_pStepThen)() = nullptr;  // that was asked for
     ServerBar* m_pServerBar;
     CallPanel* m_pCalls;
     CallHeader* m_pHeader;
     ArgumentForm* m_pForm;
+    WriteGuard* m_pGuard;
     RunBar* m_pRunBar;
     RunningCalls* m_pRunning;
     ResultHeader* m_pResultHeader;

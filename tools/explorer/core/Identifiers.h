@@ -1,0 +1,42 @@
+#pragma once
+
+#include "../CallOutcome.h"
+#include "../FieldFacts.h"
+
+#include <QMap>
+#include <QObject>
+
+#include <string>
+
+namespace explorer {
+
+/// The identifiers that the reads of the session brought, with the names beside them.
+class Identifiers : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    void Add(const CallOutcome& outcome);
+    /// Those for an argument or a field of that name: "channelId" for "channelId" and "channelIds", the "id" of a
+    /// parking lot for "parkingLotId" and, in a call about parking lots, for "id".
+    [[nodiscard]] QVector<Completion> For(const catalogue::Call& call, const QString& name) const;
+
+signals:
+    void Changed();
+
+private:
+    struct Source {
+        QString field;
+        QString record;  ///< type of the record around it, in lower case
+        [[nodiscard]] bool operator<(const Source& other) const;
+    };
+    using Known = QMap<QString, QString>;  ///< names by identifiers
+
+    bool AddInside(const catalogue::Type& type, const nlohmann::json& value);
+    bool AddRecord(const catalogue::Type& type, const nlohmann::json& record);
+
+    QMap<Source, Known> m_known;
+};
+
+}  // namespace explorer

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <explorer/FieldFacts.h>
+
+#include <QCompleter>
+
+namespace explorer {
+
+/// Completes a value from any part of it or of its meaning.
+class Completer : public QCompleter {
+    Q_OBJECT
+
+public:
+    explicit Completer(const QVector<Completion>& completions, QObject* pParent = nullptr);
+
+    [[nodiscard]] QString pathFromIndex(const QModelIndex& index) const override;
+};
+
+}  // namespace explorer

@@ -1,0 +1,122 @@
+#include "OverwriteDialog.h"
+
+#include "../views/Difference.h"
+#include "../views/Json.h"
+#include "../views/RoomyDelegate.h"
+#include "../views/ValueEditor.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace explorer {
+namespace {
+
+using nlohmann::json;
+
+/// Whether one place is in the other one, or the same.
+bool Contains(const std::string& outer, const std::string& inner)
+{
+    return inner == outer || inner.rfind(outer + '/', 0) == 0;
+}
+
+bool IsUnentered(const std::string& path, const Unentered& unentered)
+{
+    const auto overlaps = [&path](const std::string& place) { return Contains(place, path) || Contains(path, place); };
+    return std::any_of(unentered.values.begin(), unentered.values.end(), overlaps) ||
+           std::any_of(unentered.elements.begin(), unentered.elements.end(), overlaps);
+}
+
+/// What is sent without having been entered, when nothing is known of the server's values.
+std::vector<Difference> SentUnentered(const json& sent, const Unentered& unentered)
+{
+    std::vector<Difference> differences;
+    for (const auto* const pPlaces : {&unentered.elements, &unentered.values}) {
+        for (const std::string& place : *pPlaces) {
+            differences.push_back(
+                {QString::fromStdString(place), QString(), CompactJsonText(sent.at(json::json_pointer(place)))});
+        }
+    }
+    return differences;
+}
+
+}  // namespace
+
+bool OverwritesUnseen(const json& present, const json& sent, const Unentered& unentered)
+{
+    const std::vector<Difference> differences = Differences(present, sent);
+    return std::any_of(differences.begin(), differences.end(), [&unentered](const Difference& difference) {
+        return IsUnentered(difference.path.toStdString(), unentered);
+    });
+}
+
+OverwriteDialog::OverwriteDialog(const QString& call, const json& present, const json& sent, const Unentered& unentered,
+                                 const QString& why, QWidget* pParent)
+    : QDialog(pParent)
+{
+    setWindowTitle(tr("Overwrite values of the server?"));
+    setObjectName(QStringLiteral("overwriteDialog"));
+    auto* const pWords =
+        new QLabel(why.isEmpty() && !present.is_null()
+                       ? tr("%1 sends values that you have not entered. They replace those of the server.").arg(call)
+                       : tr("%1 sends values that you have not entered. What they replace is not known.").arg(call));
+    pWords->setObjectName(QStringLiteral("overwriteWords"));
+    pWords->setTextFormat(Qt::PlainText);
+    pWords->setWordWrap(true);
+    auto* const pWhy = new QLabel(why);
+    pWhy->setObjectName(QStringLiteral("overwriteReason"));
+    pWhy->setTextFormat(Qt::PlainText);
+    pWhy->setWordWrap(true);
+    pWhy->setVisible(!why.isEmpty());
+
+    auto* const pTree = new QTreeWidget;
+    pTree->setObjectName(QStringLiteral("overwritten"));
+    pTree->setAccessibleName(tr("Values that change"));
+    pTree->setHeaderLabels({tr("Place"), tr("On the server"), tr("Will be sent"), tr("Entered")});
+    pTree->setRootIsDecorated(false);
+    pTree->setAlternatingRowColors(true);
+    pTree->setUniformRowHeights(true);
+    pTree->setItemDelegate(new RoomyDelegate(pTree));
+    const std::vector<Difference> rows =
+        present.is_null() ? SentUnentered(sent, unentered) : Differences(present, sent);
+    for (const Difference& row : rows) {
+        const bool isEntered = !IsUnentered(row.path.toStdString(), unentered);
+        auto* const pItem = new QTreeWidgetItem(pTree, {row.path, present.is_null() ? tr("not known") : row.left,
+                                                        row.right, isEntered ? tr("yes") : tr("no")});
+        for (int column = 0; column < pTree->columnCount(); ++column) {
+            pItem->setToolTip(column, pItem->text(column));
+            QFont font = pItem->font(column);
+            font.setBold(!isEntered);
+            pItem->setFont(column, font);
+        }
+    }
+    pTree->header()->setSectionResizeMode(QHeaderView::Stretch);
+    pTree->header()->setStretchLastSection(false);
+    pTree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    pTree->header()->setSectionResizeMode(pTree->columnCount() - 1, QHeaderView::ResizeToContents);
+
+    auto* const pButtons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    QPushButton* const pSend = pButtons->addButton(tr("&Send anyway"), QDialogButtonBox::AcceptRole);
+    pSend->setObjectName(QStringLiteral("overwrite"));
+    pSend->setAutoDefault(false);
+    QPushButton* const pCancel = pButtons->button(QDialogButtonBox::Cancel);
+    pCancel->setObjectName(QStringLiteral("cancelOverwrite"));
+    pCancel->setDefault(true);
+    pCancel->setFocus();
+    connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pWords);
+    pLayout->addWidget(pWhy);
+    pLayout->addWidget(pTree);
+    pLayout->addWidget(pButtons);
+    constexpr QSize kSize(760, 420);
+    resize(kSize);
+}
+
+}  // namespace explorer
