@@ -18,9 +18,9 @@ using nlohmann::json;
 /// The arguments of the read, which the form must hold already. Throws Mismatch.
 json AskedOf(const catalogue::MatchingRead& read, const RunOrder& write)
 {
-    const json asked = catalogue::ArgumentsOfRead(read, *write.call, FromQt(write.arguments));
+    json asked = catalogue::ArgumentsOfRead(read, *write.call, FromQt(write.arguments));
     for (const auto& [name, value] : asked.items()) {
-        if (value == "") {
+        if (value.is_string() && value.get_ref<const std::string&>().empty()) {
             throw catalogue::Mismatch(WriteGuard::tr("%1 needs \"%2\"")
                                           .arg(QString::fromStdString(read.call->name), QString::fromStdString(name))
                                           .toStdString());
