@@ -4,12 +4,17 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QPlainTextEdit>
+#include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -53,6 +58,13 @@ QWidgetList Toasts()
 QString TextOf(const QWidget* pToast)
 {
     return pToast->findChild<QLabel*>()->text();
+}
+
+/// What the toast says about how many notifications it stands for; empty for one.
+QString CountOf(const QWidget* pToast)
+{
+    const auto* pCount = pToast->findChild<QLabel*>(QStringLiteral("count"));
+    return pCount != nullptr && pCount->isVisible() ? pCount->text() : QString();
 }
 
 QStringList Texts()
@@ -202,6 +214,7 @@ TEST_F(NotificationTest, ToastsStayOnTheScreenWhereverTheWindowIs)
         window.setGeometry(geometry);
         Staying(QStringLiteral("one"));
         Passing(QStringLiteral("two"));
+        ASSERT_GE(Toasts().size(), 2);
         const QWidgetList toasts = Toasts();
         for (const QWidget* pToast : toasts) {
             EXPECT_TRUE(screen.contains(pToast->geometry())) << geometry.x() << ' ' << geometry.y();
@@ -329,6 +342,169 @@ TEST_F(NotificationTest, TextOfAFewLinesIsShownCompletely)
     Staying(strText);
     EXPECT_EQ(Texts(), QStringList(strText));
     EXPECT_GT(Toasts().at(0)->height(), 60);
+}
+
+TEST_F(NotificationTest, EqualOnesInARowAreOneToastWithTheirNumber)
+{
+    QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
+    Passing(QStringLiteral("Saved"));
+    EXPECT_EQ(CountOf(Toasts().at(0)), QString());
+    for (int i = 0; i < 11; ++i) {
+        Passing(QStringLiteral("Saved"));
+    }
+    EXPECT_EQ(added.count(), 12);
+    ASSERT_EQ(Texts(), QStringList(QStringLiteral("Saved")));
+    EXPECT_EQ(CountOf(Toasts().at(0)), QStringLiteral("\u00d7 12"));
+    EXPECT_TRUE(
+        Toasts().at(0)->rect().contains(Toasts().at(0)->findChild<QLabel*>(QStringLiteral("count"))->geometry()));
+    EXPECT_EQ(window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
+
+    Passing(QStringLiteral("other"));
+    Passing(QStringLiteral("Saved"));
+    EXPECT_EQ(Texts(), (QStringList{QStringLiteral("Saved"), QStringLiteral("other"), QStringLiteral("Saved")}));
+    EXPECT_EQ(CountOf(Toasts().at(2)), QString());
+}
+
+TEST_F(NotificationTest, OnesThatDifferInMoreThanTheirTextAreToastsOfTheirOwn)
+{
+    const QString strText = QStringLiteral("Export finished");
+    const auto add = [&](bool bWithButton, const char* button, const char* link, bool bStayOpen) {
+        Notify().AddTextNotification(strText, bWithButton, QLatin1String(button), QLatin1String(link), bStayOpen);
+    };
+    add(true, "Show", "vms://1", true);
+    add(true, "Show", "vms://2", true);
+    add(true, "Open", "vms://2", true);
+    EXPECT_EQ(Toasts().size(), 3);
+    add(true, "Open", "vms://2", true);
+    EXPECT_EQ(Toasts().size(), 3);
+    EXPECT_EQ(CountOf(Toasts().at(2)), QStringLiteral("\u00d7 2"));
+    QTest::mouseClick(Toasts().at(2), Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_EQ(Toasts().size(), 2) << "one click closes all that it stands for";
+    add(true, "Open", "vms://2", true);
+    EXPECT_EQ(CountOf(Toasts().at(2)), QString());
+}
+
+TEST_F(NotificationTest, OnesThatWaitForRoomAreCountedToo)
+{
+    for (int i = 0; i < 4; ++i) {
+        Staying(QString::number(i));
+    }
+    const qsizetype nShown = Toasts().size();
+    for (int i = 0; i < 3; ++i) {
+        Staying(QStringLiteral("waiting"));
+    }
+    EXPECT_EQ(Toasts().size(), nShown);
+    QStringList counts;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QWidgetList toasts = Toasts();
+        for (QWidget* pToast : toasts) {
+            counts += TextOf(pToast) == QLatin1String("waiting") ? QStringList(CountOf(pToast)) : QStringList();
+            pToast->close();
+        }
+        QCoreApplication::sendPostedEvents();
+        return Toasts().isEmpty();
+    }));
+    EXPECT_EQ(counts, QStringList(QStringLiteral("\u00d7 3")));
+}
+
+TEST_F(NotificationTest, AToastThatIsRepeatedWithoutEndClosesWithinTenSeconds)
+{
+    Passing(QStringLiteral("again"));
+    QPointer<QWidget> pFirst = Toasts().at(0);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            Passing(QStringLiteral("again"));
+            return !pFirst || !pFirst->isVisible();
+        },
+        15000));
+    EXPECT_GE(clock.elapsed(), 6000) << "the latest one can be read";
+    EXPECT_LE(clock.elapsed(), 10000);
+    EXPECT_EQ(Toasts().size(), 1) << "another one counts on";
+}
+
+class DialogTest : public NotificationTest {
+protected:
+    void SetUp() override
+    {
+        NotificationTest::SetUp();
+        auto* pLayout = new QVBoxLayout(&dialog);
+        pLayout->addWidget(new QPlainTextEdit);
+        pLayout->addWidget(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel));
+    }
+
+    void Open(const QRect& geometry)
+    {
+        dialog.setGeometry(geometry);
+        dialog.show();
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    }
+
+    [[nodiscard]] bool CoversADialog() const
+    {
+        const QWidgetList toasts = Toasts();
+        return std::any_of(toasts.begin(), toasts.end(), [this](const QWidget* pToast) {
+            return pToast->geometry().intersects(dialog.frameGeometry());
+        });
+    }
+
+    [[nodiscard]] static bool OnScreen()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const QWidgetList toasts = Toasts();
+        return std::all_of(toasts.begin(), toasts.end(),
+                           [&](const QWidget* pToast) { return screen.contains(pToast->geometry()); });
+    }
+
+    QDialog dialog{&window};
+};
+
+TEST_F(DialogTest, ToastsStandBesideTheActiveDialog)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect places[] = {{120, 60, 300, 300},
+                            {screen.right() - 320, 100, 300, 300},
+                            {screen.left() + 20, screen.bottom() - 220, screen.width() - 40, 200},
+                            {screen.left() + 20, screen.top() + 20, screen.width() - 40, 200}};
+    for (const QRect& place : places) {
+        Open(place);
+        Staying(QStringLiteral("one"));
+        Passing(QStringLiteral("two"));
+        ASSERT_FALSE(Toasts().isEmpty());
+        EXPECT_FALSE(CoversADialog()) << place.x() << ' ' << place.y();
+        EXPECT_TRUE(OnScreen()) << place.x() << ' ' << place.y();
+    }
+}
+
+TEST_F(DialogTest, ToastsMakeRoomForADialogThatOpensOrMoves)
+{
+    Staying(QStringLiteral("one"));
+    dialog.setGeometry(Toasts().at(0)->geometry());
+    dialog.show();
+    EXPECT_FALSE(CoversADialog()) << "shown";
+    dialog.move(Toasts().at(0)->pos());
+    EXPECT_FALSE(CoversADialog()) << "moved";
+    dialog.setGeometry(100, 200, 650, 500);
+    EXPECT_FALSE(CoversADialog()) << "resized";
+    dialog.hide();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight() == QPoint(16, 16); }));
+}
+
+TEST_F(DialogTest, ADialogOfTheSizeOfTheScreenKeepsItsControlsInSight)
+{
+    const auto buttons = dialog.findChildren<QAbstractButton*>();
+    dialog.findChild<QPlainTextEdit*>()->setFocusPolicy(Qt::NoFocus);  // only the buttons in the corner
+    Open(QGuiApplication::primaryScreen()->availableGeometry());
+    Staying(QStringLiteral("one"));
+    for (const QAbstractButton* pButton : buttons) {
+        const QRect button(pButton->mapToGlobal(QPoint()), pButton->size());
+        EXPECT_FALSE(Toasts().at(0)->geometry().intersects(button)) << pButton->text().toStdString();
+    }
+    EXPECT_TRUE(OnScreen());
 }
 
 TEST_F(NotificationTest, TransientToastClosesAfterAboutFiveSecondsAndPersistentOneStays)

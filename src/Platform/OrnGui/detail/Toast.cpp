@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -10,6 +11,8 @@
 #include <QTextLayout>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ORNGUI::detail {
 namespace {
@@ -76,9 +79,14 @@ QString Fitted(const QString& strText, const QFont& font)
 
 }  // namespace
 
+bool ToastContent::Equals(const ToastContent& other) const
+{
+    return strText == other.strText && bWithButton == other.bWithButton && strButtonText == other.strButtonText &&
+           strLink == other.strLink && bStayOpen == other.bStayOpen;
+}
+
 Toast::Toast(const ToastContent& content)
-    : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
-      m_bStayOpen(content.bStayOpen)
+    : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus), m_content(content)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -90,11 +98,47 @@ Toast::Toast(const ToastContent& content)
     pLayout->setContentsMargins(kMargins);
     pLayout->setSpacing(8);
     pLayout->addWidget(MakeText(content.strText));
+    m_pCount = new QLabel(this);
+    m_pCount->setObjectName(QStringLiteral("count"));
+    m_pCount->setTextFormat(Qt::PlainText);
+    m_pCount->setForegroundRole(QPalette::Text);
+    auto* pFooter = new QHBoxLayout;
+    pFooter->addWidget(m_pCount);
     if (content.bWithButton) {
-        pLayout->addWidget(MakeButton(content.strButtonText, content.strLink), 0, Qt::AlignRight);
+        pFooter->addWidget(MakeButton(content.strButtonText, content.strLink), 0, Qt::AlignRight);
     }
+    pLayout->addLayout(pFooter);
     setFixedWidth(kWidth);
-    setFixedHeight(pLayout->hasHeightForWidth() ? pLayout->heightForWidth(kWidth) : sizeHint().height());
+    ShowCount();
+    m_lifetime.setSingleShot(true);
+    connect(&m_lifetime, &QTimer::timeout, this, &QWidget::close);
+}
+
+void Toast::CloseAfter(int nLifetimeMs, const QDeadlineTimer& goneBy)
+{
+    m_goneBy = goneBy;
+    m_lifetime.start(nLifetimeMs);
+}
+
+bool Toast::Repeat()
+{
+    if (m_lifetime.isActive()) {
+        const qint64 nLeftMs = m_goneBy.remainingTime();
+        if (nLeftMs < kReadableMs) {
+            return false;
+        }
+        m_lifetime.start(std::min(m_lifetime.interval(), static_cast<int>(nLeftMs)));
+    }
+    ++m_content.nCount;
+    ShowCount();
+    return true;
+}
+
+void Toast::ShowCount()
+{
+    m_pCount->setText(QStringLiteral("\u00d7 %1").arg(m_content.nCount));
+    m_pCount->setVisible(m_content.nCount > 1);
+    setFixedHeight(layout()->hasHeightForWidth() ? layout()->heightForWidth(kWidth) : sizeHint().height());
 }
 
 QWidget* Toast::MakeText(const QString& strText)
@@ -153,7 +197,7 @@ void Toast::paintEvent(QPaintEvent* /*pEvent*/)
     line.setAlpha(70);
     painter.setPen(line);
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    if (m_bStayOpen) {
+    if (m_content.bStayOpen) {
         line.setAlpha(160);
         painter.setPen(QPen(line, 1.5, Qt::SolidLine, Qt::RoundCap));
         const QRectF cross(width() - kCrossSize - 11, 12, kCrossSize, kCrossSize);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -14,17 +16,28 @@ struct ToastContent {
     QString strButtonText;
     QString strLink;
     bool bStayOpen = false;
+    int nCount = 1;  ///< equal notifications in a row that it stands for
+
+    /// Whether both notify of the same, however often.
+    [[nodiscard]] bool Equals(const ToastContent& other) const;
 };
 
-/// One notification on the screen. It closes when it is clicked; whoever shows it deletes it.
+/// A notification on the screen, or several equal ones with their number. It closes when it is clicked; whoever shows
+/// it deletes it.
 class Toast : public QWidget {
     Q_OBJECT
 
 public:
     explicit Toast(const ToastContent& content);
 
-    [[nodiscard]] bool StaysOpen() const { return m_bStayOpen; }
+    [[nodiscard]] const ToastContent& Content() const { return m_content; }
     [[nodiscard]] bool IsOpen() const { return m_bOpen; }
+
+    /// Closes about so long after it was shown or has counted another one, whatever it counts at the end of @p goneBy.
+    void CloseAfter(int nLifetimeMs, const QDeadlineTimer& goneBy);
+    /// Counts another notification that equals this one.
+    /// @return false when it closes too soon to be read
+    bool Repeat();
 
 signals:
     void Closed();
@@ -37,9 +50,15 @@ protected:
 private:
     QWidget* MakeText(const QString& strText);
     QWidget* MakeButton(const QString& strButtonText, const QString& strLink);
+    void ShowCount();
 
-    const bool m_bStayOpen;
+    ToastContent m_content;
+    QLabel* m_pCount = nullptr;
+    QTimer m_lifetime;
+    QDeadlineTimer m_goneBy{QDeadlineTimer::Forever};
     bool m_bOpen = true;
 };
+
+constexpr int kReadableMs = 1500;  ///< a toast is not worth showing for less
 
 }  // namespace ORNGUI::detail

@@ -4,8 +4,8 @@
 #include "QuitWatcher.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -14,8 +14,7 @@ namespace ORNGUI::detail {
 namespace {
 
 constexpr int kLifetimeMs = 5000;
-constexpr int kGoneByMs = 9500;    ///< a timer may be late, and ten seconds are promised
-constexpr int kReadableMs = 1500;  ///< a toast is not worth showing for less
+constexpr int kGoneByMs = 9500;  ///< a timer may be late, and ten seconds are promised
 constexpr int kMaxShown = 6;
 constexpr int kMaxStaying = 4;
 constexpr int kTallest = 160;
@@ -45,6 +44,66 @@ QWidget* ActiveWindow()
         pWindow = pParent != nullptr ? pParent->window() : nullptr;
     }
     return pWindow;
+}
+
+/// The dialogs on the screen. A wait dialog has no controls.
+QVector<QDialog*> Dialogs()
+{
+    QVector<QDialog*> dialogs;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* pWindow : windows) {
+        auto* pDialog = qobject_cast<QDialog*>(pWindow);
+        if (IsOnScreen(pDialog) && qobject_cast<OrnWaitDialog*>(pDialog) == nullptr) {
+            dialogs.append(pDialog);
+        }
+    }
+    return dialogs;
+}
+
+/// What of a dialog the user can reach with mouse or keyboard.
+QVector<QRect> ControlsOf(const QDialog& dialog)
+{
+    QVector<QRect> controls;
+    const auto widgets = dialog.findChildren<QWidget*>();
+    for (const QWidget* pWidget : widgets) {
+        if (pWidget->window() == &dialog && pWidget->isVisible() && pWidget->focusPolicy() != Qt::NoFocus) {
+            controls.append({pWidget->mapToGlobal(QPoint()), pWidget->size()});
+        }
+    }
+    return controls;
+}
+
+qint64 Overlap(const QRect& place, const QVector<QRect>& obstacles)
+{
+    qint64 nPixels = 0;
+    for (const QRect& obstacle : obstacles) {
+        const QRect common = place & obstacle;
+        nPixels += qint64(common.width()) * common.height();
+    }
+    return nPixels;
+}
+
+/// The four corners of an area from inside, the lower right one first.
+QVector<QRect> Corners(const QRect& area, const QSize& size)
+{
+    QVector<QRect> corners(4, QRect(QPoint(), size));
+    corners[0].moveBottomRight(area.bottomRight());
+    corners[1].moveBottomLeft(area.bottomLeft());
+    corners[2].moveTopRight(area.topRight());
+    corners[3].moveTopLeft(area.topLeft());
+    return corners;
+}
+
+/// The places beside the lower right corner of a dialog and its other sides.
+QVector<QRect> Beside(const QRect& dialog, const QSize& size)
+{
+    const QRect around = dialog.adjusted(-kSpacing, -kSpacing, kSpacing, kSpacing);
+    QVector<QRect> places(4, QRect(QPoint(), size));
+    places[0].moveBottomLeft({around.right() + 1, dialog.bottom()});
+    places[1].moveBottomRight({around.left() - 1, dialog.bottom()});
+    places[2].moveTopRight({dialog.right(), around.bottom() + 1});
+    places[3].moveBottomRight({dialog.right(), around.top() - 1});
+    return places;
 }
 
 }  // namespace
@@ -77,6 +136,11 @@ ToastStack::~ToastStack()
 
 void ToastStack::Add(const ToastContent& content)
 {
+    if (CountWithLatest(content)) {
+        Arrange();
+        return;
+    }
+    m_latest = content;
     if (content.bStayOpen) {
         m_staying.push_back(content);
     } else {
@@ -89,6 +153,28 @@ void ToastStack::Add(const ToastContent& content)
     }
 }
 
+/// Whether it equals the one before it, which then stands for both.
+bool ToastStack::CountWithLatest(const ToastContent& content)
+{
+    if (!content.Equals(m_latest)) {
+        return false;
+    }
+    if (content.bStayOpen && !m_staying.empty()) {
+        ++m_staying.back().nCount;
+        return true;
+    }
+    if (!content.bStayOpen && !m_passing.empty()) {
+        ++m_passing.back().content.nCount;
+        m_passing.back().goneBy = QDeadlineTimer(kGoneByMs);
+        return true;
+    }
+    const QVector<Toast*> open = OpenToasts();
+    const auto shown = std::find_if(open.crbegin(), open.crend(),
+                                    [&](const Toast* pToast) { return pToast->Content().Equals(content); });
+    return shown != open.crend() && (*shown)->Repeat();
+}
+
+/// Installed at the application while toasts are open.
 bool ToastStack::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     switch (pEvent->type()) {
@@ -97,7 +183,9 @@ bool ToastStack::eventFilter(QObject* pWatched, QEvent* pEvent)
     case QEvent::Show:
     case QEvent::Hide:
     case QEvent::WindowStateChange:
-        Arrange();
+        if (pWatched == m_pAnchor || qobject_cast<QDialog*>(pWatched) != nullptr) {
+            Arrange();
+        }
         break;
     default:
         break;
@@ -135,31 +223,33 @@ void ToastStack::ShowWaiting()
         m_passing.pop_front();
         const auto nLeftMs = static_cast<int>(next.goneBy.remainingTime());
         if (nLeftMs >= kReadableMs) {
-            Show(next.content, std::min(kLifetimeMs, nLeftMs));
+            Show(next.content)->CloseAfter(std::min(kLifetimeMs, nLeftMs), next.goneBy);
         }
     }
     while (!m_staying.empty() && HasRoom(true)) {
         const ToastContent next = m_staying.front();
         m_staying.pop_front();
-        Show(next, 0);
+        Show(next);
     }
     Arrange();
+    if (OpenToasts().isEmpty()) {
+        qApp->removeEventFilter(this);
+    }
 }
 
-void ToastStack::Show(const ToastContent& content, int nLifetimeMs)
+Toast* ToastStack::Show(const ToastContent& content)
 {
+    qApp->installEventFilter(this);
     auto* pToast = new Toast(content);
     m_toasts.removeAll(nullptr);
     m_toasts.append(pToast);
     connect(pToast, &Toast::Closed, pToast, &QObject::deleteLater);
     connect(pToast, &Toast::Closed, this, &ToastStack::ShowWaiting, Qt::QueuedConnection);
-    if (!content.bStayOpen) {
-        QTimer::singleShot(nLifetimeMs, pToast, &QWidget::close);
-    }
     pToast->winId();  // makes the window
     pToast->windowHandle()->setTransientParent(m_pAnchor ? m_pAnchor->windowHandle() : nullptr);
     Arrange();
     pToast->show();
+    return pToast;
 }
 
 /// The stack stays where it is while another application is active.
@@ -169,15 +259,7 @@ void ToastStack::FollowActiveWindow()
     if (pActive == nullptr && IsOnScreen(m_pAnchor)) {
         return;
     }
-    if (pActive != m_pAnchor) {
-        if (m_pAnchor) {
-            m_pAnchor->removeEventFilter(this);
-        }
-        m_pAnchor = pActive;
-        if (m_pAnchor) {
-            m_pAnchor->installEventFilter(this);
-        }
-    }
+    m_pAnchor = pActive;
     Arrange();
 }
 
@@ -188,24 +270,62 @@ QRect ToastStack::Area() const
     return pScreen != nullptr ? pScreen->availableGeometry() : QRect();
 }
 
+/// The lower right corner of the active window or of the screen; where that would cover a dialog, the next place that
+/// does not. On a screen full of dialogs, the place that covers the least of their controls.
+QRect ToastStack::Place(const QSize& size) const
+{
+    const QRect area = Area().adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    QVector<QRect> dialogs;
+    QVector<QRect> controls;
+    QVector<QRect> besideDialogs;
+    const QVector<QDialog*> open = Dialogs();
+    for (const QDialog* pDialog : open) {
+        const QRect frame = pDialog->frameGeometry();
+        dialogs.append(frame);
+        controls += ControlsOf(*pDialog);
+        besideDialogs =
+            pDialog == m_pAnchor ? Beside(frame, size) + besideDialogs : besideDialogs + Beside(frame, size);
+    }
+    QVector<QRect> places;
+    if (IsOnScreen(m_pAnchor) && qobject_cast<QDialog*>(m_pAnchor) == nullptr) {
+        const QRect window(m_pAnchor->mapToGlobal(QPoint()), m_pAnchor->size());
+        places = Corners(window.adjusted(kMargin, kMargin, -kMargin, -kMargin), size);
+    } else if (!IsOnScreen(m_pAnchor)) {
+        places = Corners(area, size);
+    }
+    places += besideDialogs + Corners(area, size);
+
+    QRect best;
+    qint64 nLeast = -1;
+    for (QRect& place : places) {
+        place.moveRight(qBound(area.left() + size.width() - 1, place.right(), area.right()));
+        place.moveBottom(qBound(area.top() + size.height() - 1, place.bottom(), area.bottom()));
+        if (Overlap(place, dialogs) == 0) {
+            return place;
+        }
+        const qint64 nCovered = Overlap(place, controls);
+        if (nLeast < 0 || nCovered < nLeast) {
+            nLeast = nCovered;
+            best = place;
+        }
+    }
+    return best;
+}
+
 /// From the lower right corner upwards, the oldest first.
 void ToastStack::Arrange()
 {
     const QVector<Toast*> open = OpenToasts();
-    const QRect area = Area().adjusted(kMargin, kMargin, -kMargin, -kMargin);
-    QPoint corner = area.bottomRight();
-    if (IsOnScreen(m_pAnchor)) {
-        corner = m_pAnchor->mapToGlobal(m_pAnchor->rect().bottomRight()) - QPoint(kMargin, kMargin);
+    if (open.isEmpty()) {
+        return;
     }
-
-    int nHeight = 0;
+    QSize size(open.first()->width(), -kSpacing);
     for (const Toast* pToast : open) {
-        nHeight += pToast->height() + kSpacing;
+        size.rheight() += pToast->height() + kSpacing;
     }
-    corner.setY(qBound(area.top() + nHeight, corner.y(), area.bottom()));
+    QPoint corner = Place(size).bottomRight();
     for (Toast* pToast : open) {
-        const int nRight = qBound(area.left() + pToast->width(), corner.x(), area.right());
-        pToast->move(nRight - pToast->width() + 1, corner.y() - pToast->height() + 1);
+        pToast->move(corner - QPoint(pToast->width() - 1, pToast->height() - 1));
         corner.ry() -= pToast->height() + kSpacing;
     }
 }

@@ -37,8 +37,11 @@ private:
     [[nodiscard]] bool HasRoom(bool bStayOpen) const;
     [[nodiscard]] QRect Area() const;
 
+    [[nodiscard]] QRect Place(const QSize& size) const;
+
+    [[nodiscard]] bool CountWithLatest(const ToastContent& content);
     void ShowWaiting();
-    void Show(const ToastContent& content, int nLifetimeMs);
+    Toast* Show(const ToastContent& content);
     void FollowActiveWindow();
     void Arrange();
     void CloseAll();
@@ -46,6 +49,7 @@ private:
     QVector<QPointer<Toast>> m_toasts;
     std::deque<Waiting> m_passing;
     std::deque<ToastContent> m_staying;
+    ToastContent m_latest;
     QPointer<QWidget> m_pAnchor;
 };
 
