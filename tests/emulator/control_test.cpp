@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <regex>
+#include <thread>
 
 namespace {
 
@@ -22,11 +24,14 @@ TEST_F(ControlTest, FaultsAreAddedListedAndCleared)
     const Json fault = {{"path", "/brms"}, {"method", "GET"}, {"kind", "status"},
                         {"times", 0},      {"status", 503},   {"headers", {{"Retry-After", "9"}}},
                         {"body", "later"}, {"delayMs", 1},    {"code", 0},
-                        {"desc", ""},      {"size", 0},       {"bytesPerSecond", 7}};
+                        {"desc", ""},      {"size", 0},       {"bytesPerSecond", 7},
+                        {"skip", 0},       {"operation", ""}};
     const Reply added = m_control->post(kFaults, fault);
     EXPECT_EQ(added.status, 201);
-    EXPECT_EQ(added.json(), fault);
-    EXPECT_EQ(m_control->get(kFaults).json(), Json::array({fault}));
+    Json numbered = fault;
+    numbered["number"] = 1;
+    EXPECT_EQ(added.json(), numbered);
+    EXPECT_EQ(m_control->get(kFaults).json(), Json::array({numbered}));
     const Reply hit = m_client->get(kTimeSync);
     EXPECT_EQ(hit.status, 503);
     EXPECT_EQ(hit.body, "later");
@@ -34,6 +39,68 @@ TEST_F(ControlTest, FaultsAreAddedListedAndCleared)
     EXPECT_EQ(m_control->remove(kFaults).status, 204);
     EXPECT_EQ(m_control->get(kFaults).json(), Json::array());
     EXPECT_EQ(m_client->get(kTimeSync).code(), 1000);
+}
+
+TEST_F(ControlTest, OneFaultIsRemoved)
+{
+    for (const int status : {501, 502, 503}) {
+        m_control->post(kFaults, Json{{"kind", "status"}, {"status", status}});
+    }
+    EXPECT_EQ(m_control->remove(std::string(kFaults) + "/2").status, 204);
+    EXPECT_EQ(m_control->remove(std::string(kFaults) + "/2").status, 404);
+    for (const char* number : {"/0", "/4", "/-1", "/1x", "/"}) {
+        EXPECT_EQ(m_control->remove(kFaults + std::string(number)).status, 404) << number;
+    }
+    EXPECT_EQ(m_client->get(kTimeSync).status, 501);
+    EXPECT_EQ(m_client->get(kTimeSync).status, 503);
+
+    emulator::Fault fault;
+    fault.times = 0;
+    const std::size_t number = m_platform.addFault(fault);
+    EXPECT_EQ(m_control->get(kFaults).json().at(0).at("number"), number);
+    EXPECT_TRUE(m_platform.removeFault(number));
+    EXPECT_FALSE(m_platform.removeFault(number));
+    EXPECT_TRUE(m_platform.faults().empty());
+}
+
+TEST_F(ControlTest, RequestsAreListedFromANumberOn)
+{
+    for (int i = 0; i < 3; ++i) {
+        m_client->get(kTimeSync);
+    }
+    const Json requests = m_control->get("/emulator/v1/requests?after=1").json();
+    ASSERT_EQ(requests.size(), 2U);
+    EXPECT_EQ(requests.at(0).at("number"), 2);
+    EXPECT_EQ(m_control->get("/emulator/v1/requests?after=3").json(), Json::array());
+    EXPECT_EQ(m_control->get("/emulator/v1/requests?after=0").json().size(), 3U);
+    for (const char* query : {"after=x", "after=", "after=-1", "before=1", "after=1&after=1x"}) {
+        EXPECT_EQ(m_control->get(std::string("/emulator/v1/requests?") + query).status, 400) << query;
+    }
+}
+
+TEST_F(ControlTest, RequestsHaveTheirTimeAndWhetherTheyEnded)
+{
+    m_control->post(kFaults, Json{{"kind", "silent"}});
+    m_control->post(kFaults, Json{{"kind", "closeBefore"}});
+    const auto before = std::chrono::system_clock::now();
+    std::thread silent([this] { ClientOf(m_platform)->get(kTimeSync); });
+    ASSERT_TRUE(m_platform.waitForRequests(1, std::chrono::seconds(20)));
+    m_client->get(kTimeSync);
+    m_client->get(kTimeSync);
+    const auto after = std::chrono::system_clock::now();
+    const Json requests = m_control->get("/emulator/v1/requests").json();
+    ASSERT_EQ(requests.size(), 3U);
+    EXPECT_FALSE(requests.at(0).at("ended").get<bool>());
+    EXPECT_TRUE(requests.at(1).at("ended").get<bool>());
+    EXPECT_EQ(requests.at(1).at("status"), 0);
+    EXPECT_TRUE(requests.at(2).at("ended").get<bool>());
+    const std::string time = requests.at(2).at("time");
+    EXPECT_TRUE(std::regex_match(time, std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z)"))) << time;
+    const auto recorded = m_platform.requests().back().time;
+    EXPECT_GE(recorded, before);
+    EXPECT_LE(recorded, after);
+    m_platform.stop();
+    silent.join();
 }
 
 struct RefusedFault {
@@ -53,23 +120,25 @@ TEST_P(RefusedFaultTest, IsRejectedWithReason)
 
 INSTANTIATE_TEST_SUITE_P(
     Faults, RefusedFaultTest,
-    testing::Values(RefusedFault{"NotJson", "{", "not JSON"}, RefusedFault{"NotObject", "[]", "kind"},
-                    RefusedFault{"NoKind", "{}", "kind"},
-                    RefusedFault{"UnknownKind", R"({"kind":"slower"})", "'slower'"},
-                    RefusedFault{"KindNotString", R"({"kind":1})", "kind: expected a string"},
-                    RefusedFault{"UnknownKey", R"({"kind":"empty","tims":1})", "tims: not expected"},
-                    RefusedFault{"TimesNegative", R"({"kind":"empty","times":-1})", "times"},
-                    RefusedFault{"TimesNotNumber", R"({"kind":"empty","times":"1"})", "times"},
-                    RefusedFault{"StatusTooLow", R"({"kind":"status","status":199})", "status"},
-                    RefusedFault{"StatusTooHigh", R"({"kind":"status","status":600})", "status"},
-                    RefusedFault{"DelayNegative", R"({"kind":"delay","delayMs":-5})", "delayMs"},
-                    RefusedFault{"MethodUnknown", R"({"kind":"empty","method":"put"})", "method: unknown 'put'"},
-                    RefusedFault{"MethodNotString", R"({"kind":"empty","method":["PUT"]})",
-                                 "method: expected a string"},
-                    RefusedFault{"SpeedZero", R"({"kind":"slow","bytesPerSecond":0})", "bytesPerSecond"},
-                    RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
-                    RefusedFault{"HeadersNotObject", R"({"kind":"status","headers":[]})", "headers"},
-                    RefusedFault{"HeaderNotString", R"({"kind":"status","headers":{"A":1}})", "headers"}),
+    testing::Values(
+        RefusedFault{"NotJson", "{", "not JSON"}, RefusedFault{"NotObject", "[]", "kind"},
+        RefusedFault{"NoKind", "{}", "kind"}, RefusedFault{"UnknownKind", R"({"kind":"slower"})", "'slower'"},
+        RefusedFault{"KindNotString", R"({"kind":1})", "kind: expected a string"},
+        RefusedFault{"UnknownKey", R"({"kind":"empty","tims":1})", "tims: not expected"},
+        RefusedFault{"TimesNegative", R"({"kind":"empty","times":-1})", "times"},
+        RefusedFault{"TimesNotNumber", R"({"kind":"empty","times":"1"})", "times"},
+        RefusedFault{"StatusTooLow", R"({"kind":"status","status":199})", "status"},
+        RefusedFault{"StatusTooHigh", R"({"kind":"status","status":600})", "status"},
+        RefusedFault{"DelayNegative", R"({"kind":"delay","delayMs":-5})", "delayMs"},
+        RefusedFault{"MethodUnknown", R"({"kind":"empty","method":"put"})", "method: unknown 'put'"},
+        RefusedFault{"MethodNotString", R"({"kind":"empty","method":["PUT"]})", "method: expected a string"},
+        RefusedFault{"SkipNegative", R"({"kind":"empty","skip":-1})", "skip"},
+        RefusedFault{"OperationNotString", R"({"kind":"empty","operation":1})", "operation: expected a string"},
+        RefusedFault{"OperationUnknown", R"({"kind":"empty","operation":"BRMS.Get"})", "operation: unknown 'BRMS.Get'"},
+        RefusedFault{"SpeedZero", R"({"kind":"slow","bytesPerSecond":0})", "bytesPerSecond"},
+        RefusedFault{"SizeNegative", R"({"kind":"large","size":-5})", "size"},
+        RefusedFault{"HeadersNotObject", R"({"kind":"status","headers":[]})", "headers"},
+        RefusedFault{"HeaderNotString", R"({"kind":"status","headers":{"A":1}})", "headers"}),
     RowName());
 
 TEST_F(ControlTest, RequestsAreReturnedAsReceived)

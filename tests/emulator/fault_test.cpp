@@ -354,6 +354,51 @@ TEST_F(FaultListTest, HitsOnlyItsMethod)
     EXPECT_EQ(m_client->put(kPrivacy, {{"enable", 1}}).code(), 1000);
 }
 
+TEST_F(FaultListTest, HitsRequestsOfItsOperation)
+{
+    Fault fault = FaultOf(Fault::Kind::Envelope, "");
+    fault.code = 5;
+    fault.times = 0;
+    fault.operation = "BRMS.GetTimeSyncConfig";
+    m_platform.addFault(fault);
+    EXPECT_EQ(codeOf(kTimeSync), 5);
+    EXPECT_EQ(codeOf(std::string(kTimeSync) + "?x=1"), 5);
+    EXPECT_EQ(codeOf(kPrivacy), 1000);
+    EXPECT_EQ(codeOf("/nowhere"), 1001);
+    EXPECT_NE(m_client->put(kTimeSync, Json::object()).code(), 5);
+    EXPECT_EQ(m_client->post(std::string(kTimeSync) + "/immediate", {}).code(), 1000);
+
+    fault.operation = "BRMS.GetTimeSync";
+    EXPECT_THROW(m_platform.addFault(fault), std::invalid_argument);
+}
+
+TEST_F(FaultListTest, SkipsRequestsThatFitBeforeItHits)
+{
+    Fault fault = FaultOf(Fault::Kind::Envelope, kTimeSync);
+    fault.code = 5;
+    fault.skip = 2;
+    fault.times = 2;
+    m_platform.addFault(fault);
+    EXPECT_EQ(codeOf(kTimeSync), 1000);
+    EXPECT_EQ(codeOf(kPrivacy), 1000) << "does not fit and is not counted";
+    EXPECT_EQ(codeOf(kTimeSync), 1000);
+    EXPECT_EQ(codeOf(kTimeSync), 5);
+    EXPECT_EQ(codeOf(kTimeSync), 5);
+    EXPECT_EQ(codeOf(kTimeSync), 1000);
+}
+
+TEST_F(FaultListTest, AFaultThatSkipsLeavesTheRequestToTheNextOne)
+{
+    Fault fault = FaultOf(Fault::Kind::Envelope, kTimeSync);
+    fault.code = 5;
+    fault.skip = 1;
+    m_platform.addFault(fault);
+    addEnvelope(kTimeSync, 6, 1);
+    EXPECT_EQ(codeOf(kTimeSync), 6);
+    EXPECT_EQ(codeOf(kTimeSync), 5);
+    EXPECT_EQ(codeOf(kTimeSync), 1000);
+}
+
 TEST_F(FaultListTest, AppliesBeforeTokenAndPathAreChecked)
 {
     addEnvelope("/nowhere", 5, 1);

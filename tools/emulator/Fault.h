@@ -42,6 +42,8 @@ struct Fault {
     std::string body;                                          ///< of Kind::Status and Kind::Text
     std::size_t size = 0;                                      ///< of Kind::Large, in bytes
     std::size_t bytesPerSecond = 1024;                         ///< of Kind::Slow
+    std::string operation;  ///< of the contract, such as "BRMS.GetTimeSyncConfig"; empty fits all
+    int skip = 0;           ///< how many requests that fit pass before the first one is hit
 
     /// Reads a fault in the control path's format.
     /// @param json an object with "kind" and the members for that kind

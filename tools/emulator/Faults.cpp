@@ -94,6 +94,10 @@ void SetMember(Fault& fault, const std::string& name, const Json& value)
         fault.size = static_cast<std::size_t>(NumberIn(value, name, 0, kLargestReply));
     } else if (name == "bytesPerSecond") {
         fault.bytesPerSecond = static_cast<std::size_t>(NumberIn(value, name, 1, kLargestReply));
+    } else if (name == "operation") {
+        fault.operation = TextIn(value, name);
+    } else if (name == "skip") {
+        fault.skip = NumberIn(value, name, 0, INT_MAX);
     } else {
         throw std::invalid_argument(name + ": not expected");
     }
@@ -127,7 +131,9 @@ Json Fault::toJson() const
               {"desc", desc},
               {"body", body},
               {"size", size},
-              {"bytesPerSecond", bytesPerSecond}};
+              {"bytesPerSecond", bytesPerSecond},
+              {"operation", operation},
+              {"skip", skip}};
     json["headers"] = Json::object();
     for (const auto& [name, value] : headers) {
         json["headers"][name] = value;
@@ -135,16 +141,23 @@ Json Fault::toJson() const
     return json;
 }
 
-void Faults::add(Fault fault)
+std::size_t Faults::add(Fault fault)
 {
     const std::lock_guard lock(m_mutex);
-    m_faults.push_back(std::move(fault));
+    m_faults.emplace(++m_lastNumber, std::move(fault));
+    return m_lastNumber;
 }
 
-std::vector<Fault> Faults::list() const
+std::map<std::size_t, Fault> Faults::list() const
 {
     const std::lock_guard lock(m_mutex);
     return m_faults;
+}
+
+bool Faults::remove(std::size_t number)
+{
+    const std::lock_guard lock(m_mutex);
+    return m_faults.erase(number) > 0;
 }
 
 void Faults::clear()
@@ -153,20 +166,27 @@ void Faults::clear()
     m_faults.clear();
 }
 
-std::optional<Fault> Faults::take(const std::string& method, std::string_view target)
+std::optional<Fault> Faults::take(const std::string& method, std::string_view target,
+                                  const std::function<std::string()>& operation)
 {
     const std::lock_guard lock(m_mutex);
-    const auto found = std::find_if(m_faults.begin(), m_faults.end(), [&](const Fault& fault) {
-        return (fault.method.empty() || fault.method == method) && StartsWith(target, fault.path);
-    });
-    if (found == m_faults.end()) {
-        return std::nullopt;
+    for (auto entry = m_faults.begin(); entry != m_faults.end(); ++entry) {
+        Fault& fault = entry->second;
+        if (!(fault.method.empty() || fault.method == method) || !StartsWith(target, fault.path) ||
+            !(fault.operation.empty() || fault.operation == operation())) {
+            continue;
+        }
+        if (fault.skip > 0) {
+            --fault.skip;
+            continue;
+        }
+        Fault taken = fault;
+        if (fault.times > 0 && --fault.times == 0) {
+            m_faults.erase(entry);
+        }
+        return taken;
     }
-    Fault fault = *found;
-    if (found->times > 0 && --found->times == 0) {
-        m_faults.erase(found);
-    }
-    return fault;
+    return std::nullopt;
 }
 
 }  // namespace emulator

@@ -107,6 +107,18 @@ HttpResponse Platform::answer(const HttpRequest& request)
     }
 }
 
+std::string Platform::operationOf(const HttpRequest& request) const
+{
+    const Operation* const operation = m_contract.find(request.method, PathOf(request.target)).operation;
+    return operation == nullptr ? std::string() : operation->id;
+}
+
+bool Platform::knows(const std::string& operation) const
+{
+    const auto& known = m_contract.operations();
+    return std::any_of(known.begin(), known.end(), [&](const Operation& entry) { return entry.id == operation; });
+}
+
 Json Platform::envelopeFor(const HttpRequest& request)
 {
     const std::string path = PathOf(request.target);

@@ -23,6 +23,11 @@ public:
     /// Thread-safe; executes one call at a time.
     HttpResponse answer(const HttpRequest& request);
 
+    /// The identifier of the operation that a request asks for; empty for none.
+    [[nodiscard]] std::string operationOf(const HttpRequest& request) const;
+    /// Whether the contract has an operation of this identifier.
+    [[nodiscard]] bool knows(const std::string& operation) const;
+
     [[nodiscard]] Json state();
     void setState(Json state);
     /// @throws std::invalid_argument when the patch is not an object.

@@ -9,6 +9,7 @@
 #include "Text.h"
 
 #include <atomic>
+#include <charconv>
 #include <iostream>
 #include <mutex>
 #include <utility>
@@ -39,6 +40,26 @@ Json ListOf(const List& list)
         json.push_back(element.toJson());
     }
     return json;
+}
+
+Json Numbered(std::size_t number, const Fault& fault)
+{
+    Json json = fault.toJson();
+    json["number"] = number;
+    return json;
+}
+
+std::optional<std::size_t> NumberIn(const std::string& text)
+{
+    std::size_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+/// 0 for none.
+std::size_t NumberBehind(const std::string& path, std::string_view prefix)
+{
+    return StartsWith(path, prefix) ? NumberIn(path.substr(prefix.size())).value_or(0) : 0;
 }
 
 /// Extends the envelope's "desc" until the body has the size.
@@ -148,6 +169,14 @@ public:
     std::atomic<int> m_httpsPort = 0;
     HttpServer m_server;
 
+    std::size_t addFault(Fault fault)
+    {
+        if (!fault.operation.empty() && !m_platform.knows(fault.operation)) {
+            throw std::invalid_argument("operation: unknown '" + fault.operation + "'");
+        }
+        return m_faults.add(std::move(fault));
+    }
+
 private:
     HttpHandler handler()
     {
@@ -159,7 +188,8 @@ private:
     HttpReply serve(const HttpRequest& request)
     {
         // Taken before the request is recorded: a test that waits for the record may then add the next fault.
-        std::optional<Fault> fault = m_faults.take(request.method, OriginForm(request.target));
+        std::optional<Fault> fault =
+            m_faults.take(request.method, OriginForm(request.target), [&] { return m_platform.operationOf(request); });
         const std::size_t number = m_log.add(request);
         if (!fault) {
             return logged(m_platform.answer(request), request, number);
@@ -224,11 +254,11 @@ private:
         const std::string path = PathOf(request.target).substr(std::string_view(kControlPath).size());
         const std::map<std::string, std::map<std::string, std::function<HttpResponse()>>> routes = {
             {"v1/faults",
-             {{"GET", [this] { return Plain(200, ListOf(m_faults.list())); }},
+             {{"GET", [this] { return Plain(200, listFaults()); }},
               {"POST", [this, &request] { return addFault(request.body); }},
               {"DELETE", [this] { return done([this] { m_faults.clear(); }); }}}},
             {"v1/requests",
-             {{"GET", [this] { return Plain(200, ListOf(m_log.list())); }},
+             {{"GET", [this, &request] { return listRequests(request); }},
               {"DELETE", [this] { return done([this] { m_log.clear(); }); }}}},
             {"v1/state",
              {{"GET", [this] { return Plain(200, m_platform.state()); }},
@@ -237,6 +267,9 @@ private:
             {"v1/connections", {{"GET", [this] {
                                      return Plain(200, Json{{"connections", m_server.connections()}});
                                  }}}}};
+        if (const std::size_t number = NumberBehind(path, "v1/faults/"); number > 0 && request.method == "DELETE") {
+            return m_faults.remove(number) ? done([] {}) : PlainError(404, "no such fault");
+        }
         const auto route = routes.find(path);
         if (route == routes.end()) {
             return PlainError(404, "unknown control path");
@@ -248,11 +281,31 @@ private:
     HttpResponse addFault(const std::string& text)
     {
         return withJson(text, [this](const Json& json) {
-            Fault fault = Fault::FromJson(json);
-            const Json added = fault.toJson();
-            m_faults.add(std::move(fault));
-            return Plain(201, added);
+            const Fault fault = Fault::FromJson(json);
+            return Plain(201, Numbered(addFault(fault), fault));
         });
+    }
+
+    HttpResponse listRequests(const HttpRequest& request)
+    {
+        std::size_t after = 0;
+        for (const auto& [name, value] : QueryOf(request.target)) {
+            const std::optional<std::size_t> number = NumberIn(value);
+            if (name != "after" || !number) {
+                return PlainError(400, "query '" + name + "': expected after=NUMBER");
+            }
+            after = *number;
+        }
+        return Plain(200, ListOf(m_log.list(after)));
+    }
+
+    Json listFaults()
+    {
+        Json list = Json::array();
+        for (const auto& [number, fault] : m_faults.list()) {
+            list.push_back(Numbered(number, fault));
+        }
+        return list;
     }
 
     HttpResponse mergeState(const std::string& text)
@@ -310,14 +363,23 @@ int PlatformEmulator::httpsPort() const
     return m_private->m_httpsPort;
 }
 
-void PlatformEmulator::addFault(Fault fault)
+std::size_t PlatformEmulator::addFault(Fault fault)
 {
-    m_private->m_faults.add(std::move(fault));
+    return m_private->addFault(std::move(fault));
+}
+
+bool PlatformEmulator::removeFault(std::size_t number)
+{
+    return m_private->m_faults.remove(number);
 }
 
 std::vector<Fault> PlatformEmulator::faults() const
 {
-    return m_private->m_faults.list();
+    std::vector<Fault> faults;
+    for (const auto& [number, fault] : m_private->m_faults.list()) {
+        faults.push_back(fault);
+    }
+    return faults;
 }
 
 void PlatformEmulator::clearFaults()

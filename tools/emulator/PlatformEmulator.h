@@ -73,7 +73,13 @@ public:
 
     /// Adds a fault. If several match a request, the oldest applies.
     /// @param fault the fault
-    void addFault(Fault fault);
+    /// @return the number of the fault, for removeFault()
+    /// @throws std::invalid_argument for an operation that the contract does not have.
+    std::size_t addFault(Fault fault);
+    /// Removes a fault.
+    /// @param number as addFault() returned it
+    /// @return false when the fault is not active
+    bool removeFault(std::size_t number);
     /// @return the active faults, with their remaining times
     [[nodiscard]] std::vector<Fault> faults() const;
     /// Removes all faults.

@@ -2,6 +2,7 @@
 
 #include "Json.h"
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -22,6 +23,8 @@ struct RecordedRequest {
     std::size_t connection = 0;                                ///< number of its TCP connection
     int status = 0;                                            ///< of the reply; 0 without a reply, or before it
     std::optional<int> code;                                   ///< of the reply's envelope
+    std::chrono::system_clock::time_point time;                ///< of its arrival
+    bool ended = false;                                        ///< false while the reply is due
 
     /// Looks up a header.
     /// @param name name of the header, case-insensitive

@@ -3,6 +3,9 @@
 #include "Text.h"
 
 #include <algorithm>
+#include <ctime>
+#include <iomanip>
+#include <sstream>
 #include <strings.h>
 
 namespace emulator {
@@ -18,6 +21,18 @@ Json PairsOf(const std::vector<std::pair<std::string, std::string>>& pairs)
         json.push_back(Json{{"name", name}, {"value", value}});
     }
     return json;
+}
+
+/// "2026-01-31T23:59:59.123Z"
+std::string TextOf(std::chrono::system_clock::time_point time)
+{
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
+    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch()).count();
+    std::tm parts{};
+    ::gmtime_r(&seconds, &parts);
+    std::ostringstream text;
+    text << std::put_time(&parts, "%FT%T.") << std::setw(3) << std::setfill('0') << milliseconds % 1000 << 'Z';
+    return text.str();
 }
 
 }  // namespace
@@ -41,7 +56,9 @@ Json RecordedRequest::toJson() const
                 {"body", body},
                 {"connection", connection},
                 {"status", status},
-                {"code", code ? Json(*code) : Json()}};
+                {"code", code ? Json(*code) : Json()},
+                {"time", TextOf(time)},
+                {"ended", ended}};
 }
 
 std::size_t RequestLog::add(const HttpRequest& request)
@@ -54,6 +71,7 @@ std::size_t RequestLog::add(const HttpRequest& request)
     record.headers = request.headers;
     record.body = request.body;
     record.connection = request.connection;
+    record.time = std::chrono::system_clock::now();
 
     const std::lock_guard lock(m_mutex);
     record.number = ++m_lastNumber;
@@ -72,13 +90,16 @@ void RequestLog::answered(std::size_t number, int status, std::optional<int> cod
     if (found != m_requests.rend()) {
         found->status = status;
         found->code = code;
+        found->ended = true;
     }
 }
 
-std::vector<RecordedRequest> RequestLog::list() const
+std::vector<RecordedRequest> RequestLog::list(std::size_t after) const
 {
     const std::lock_guard lock(m_mutex);
-    return {m_requests.begin(), m_requests.end()};
+    const auto first = std::find_if(m_requests.begin(), m_requests.end(),
+                                    [after](const RecordedRequest& request) { return request.number > after; });
+    return {first, m_requests.end()};
 }
 
 void RequestLog::clear()

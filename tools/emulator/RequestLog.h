@@ -23,7 +23,8 @@ public:
     std::size_t add(const HttpRequest& request);
     void answered(std::size_t number, int status, std::optional<int> code);
 
-    [[nodiscard]] std::vector<RecordedRequest> list() const;
+    /// @param after only those with a higher number
+    [[nodiscard]] std::vector<RecordedRequest> list(std::size_t after = 0) const;
     void clear();
 
     /// Waits until @p count requests are recorded.
