@@ -152,7 +152,8 @@ INSTANTIATE_TEST_SUITE_P(Places, PlaceTest,
                          testing::Values(Place{"Calls", Qt::Key_1, -1, -1}, Place{"Arguments", Qt::Key_2, -1, -1},
                                          Place{"Result", Qt::Key_3, 0, -1}, Place{"Request", Qt::Key_4, 1, -1},
                                          Place{"Timing", Qt::Key_5, 2, -1}, Place{"Log", Qt::Key_6, -1, 0},
-                                         Place{"History", Qt::Key_8, -1, 2}, Place{"Notifications", Qt::Key_7, -1, 1}),
+                                         Place{"History", Qt::Key_8, -1, 2}, Place{"Notifications", Qt::Key_7, -1, 1},
+                                         Place{"Emulator", Qt::Key_9, 3, -1}),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(KeyboardTest, ACallWithoutArgumentsLeadsToItsRun)

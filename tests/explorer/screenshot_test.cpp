@@ -5,18 +5,22 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QImage>
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
+#include <QTableView>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeWidget>
 
 namespace {
 
@@ -153,6 +157,57 @@ INSTANTIATE_TEST_SUITE_P(Looks, OverwritingTest,
                          testing::Values(std::tuple("en", Appearance::Light), std::tuple("de", Appearance::Dark),
                                          std::tuple("zh", Appearance::Light)),
                          [](const auto& row) { return std::string(std::get<0>(row.param)); });
+
+class EmulatorPanelTest : public ScreenshotTest,
+                          public testing::WithParamInterface<std::tuple<const char*, Appearance>> {};
+
+TEST_P(EmulatorPanelTest, EachPage)
+{
+    const auto [language, appearance] = GetParam();
+    explorer::StoreLanguage(*settings, QLatin1String(language));
+    Close();
+    Start();
+    explorer::ApplyAppearance(appearance);
+    Window().resize(kSmall);
+    UseEmulator();
+    Find<QTabWidget>("results").setCurrentIndex(3);
+    auto& tabs = Find<QTabWidget>("emulatorTabs");
+    for (const char* call : {"BRMS.GetTimeSyncConfig", "BRMS.SetTimeSyncConfig", "OMMS.GetAlertTypes"}) {
+        Run(call);
+    }
+    Find<QTabWidget>("feeds").setCurrentIndex(1);
+    auto& requests = Find<QTableView>("emulatorRequests");
+    ASSERT_TRUE(Await([&] { return requests.model()->rowCount() == 3; }));
+    requests.selectRow(1);
+    const std::string suffix = std::string("-") + language + (appearance == Appearance::Dark ? "-dark" : "");
+    Shoot(Window(), ("emulator-requests" + suffix).c_str());
+    tabs.setCurrentIndex(1);
+    auto& kinds = Find<QComboBox>("faultKind");
+    kinds.setCurrentIndex(kinds.findData(QStringLiteral("status")));
+    for (int fault = 0; fault < 2; ++fault) {
+        QTest::mouseClick(&Find<QPushButton>("addFault"), Qt::LeftButton);
+        ASSERT_TRUE(Await([&] { return Find<QTreeWidget>("faults").topLevelItemCount() == fault + 1; }));
+        Find<QSpinBox>("faultTimes").setValue(0);
+    }
+    Shoot(Window(), ("emulator-faults" + suffix).c_str());
+    tabs.setCurrentIndex(2);
+    ASSERT_TRUE(Await([this] { return !Find<QPlainTextEdit>("stateText").toPlainText().isEmpty(); }));
+    Shoot(Window(), ("emulator-state" + suffix).c_str());
+    tabs.setCurrentIndex(3);
+    Find<QSpinBox>("timeout").setValue(4000);
+    Shoot(Window(), ("emulator-start" + suffix).c_str());
+    Find<QSpinBox>("timeout").setValue(0);
+    explorer::ApplyAppearance(Appearance::Light);
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, EmulatorPanelTest,
+                         testing::Values(std::tuple("en", Appearance::Light), std::tuple("en", Appearance::Dark),
+                                         std::tuple("de", Appearance::Light), std::tuple("zh", Appearance::Light)),
+                         [](const auto& row) {
+                             return std::string(std::get<0>(row.param)) +
+                                    (std::get<1>(row.param) == Appearance::Dark ? "Dark" : "Light");
+                         });
 
 TEST_F(ScreenshotTest, Failure)
 {

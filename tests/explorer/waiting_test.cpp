@@ -71,6 +71,36 @@ protected:
     }
 };
 
+TEST_F(WaitingTest, ATimeOutAboveTheLongestIsRefused)
+{
+    const HoldingServer server("nowhere");
+    Use(server.Port());
+    Choose(kCall);
+    auto& timeout = Find<QSpinBox>("timeout");
+    auto& run = Find<QPushButton>("run");
+    SetTimeout(3600);
+    EXPECT_EQ(Run(kCall).timeoutSeconds, 3600);
+    EXPECT_FALSE(Find<QLabel>("timeoutProblem").isVisible());
+
+    ASSERT_TRUE(Activate());
+    timeout.setFocus();
+    timeout.selectAll();
+    QTest::keyClicks(&timeout, QStringLiteral("36000"));
+    EXPECT_EQ(timeout.value(), 36000) << "what was typed stays";
+    EXPECT_TRUE(Find<QLabel>("timeoutProblem").isVisible());
+    EXPECT_EQ(TextOf("timeoutProblem"), QStringLiteral("The longest time-out is 3600 s."));
+    EXPECT_FALSE(run.isEnabled());
+    EXPECT_EQ(run.toolTip(), TextOf("timeoutProblem"));
+    Find<QWidget>("callTree").setFocus();
+    Press(Qt::Key_F5);
+    EXPECT_EQ(session->runner.Pending(), 0);
+    EXPECT_TRUE(timeout.hasFocus()) << "leads to what is wrong";
+
+    Close();
+    Start();
+    EXPECT_EQ(Find<QSpinBox>("timeout").value(), 3600) << "the last one that could be used";
+}
+
 TEST_F(WaitingTest, ATimeOutIsShown)
 {
     const HoldingServer server;

@@ -8,6 +8,8 @@
 #include <explorer/window/CallPanel.h>
 #include <explorer/window/ResultHeader.h>
 
+#include <OrnGui/OrnMessageNotify.h>
+
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
@@ -23,6 +25,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <QTreeView>
+
+#include <atomic>
 
 namespace {
 
@@ -190,6 +194,40 @@ INSTANTIATE_TEST_SUITE_P(
                     Failure{"KeyMissing", 200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}", 3101,
                             "failed: ", "HTTP 200"}),
     [](const auto& row) { return row.param.name; });
+
+TEST_F(WindowTest, NotificationsShowWhetherTheirCallSucceeded)
+{
+    std::atomic<bool> succeeds{true};
+    RawServer server([&](const RawRequest&) { return succeeds ? Success("{}") : HttpAnswer(200, "{\"code\": 1002}"); });
+    Use(server.Port());
+    for (const explorer::Way way : kWays) {
+        Use(way);
+        succeeds = true;
+        Run(kCall);
+        succeeds = false;
+        Run(kCall);
+    }
+    ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance().AddTextNotification(QStringLiteral("of another part"),
+                                                                                   false, {}, {}, false);
+    Find<QTabWidget>("feeds").setCurrentIndex(1);
+    const QTableView& table = Find<QTableView>("notificationTable");
+    EXPECT_FALSE(table.isColumnHidden(explorer::Feed::LevelColumn));
+    const QAbstractItemModel& lines = *table.model();
+    ASSERT_EQ(lines.rowCount(), 7);
+    const auto pictureOf = [&lines](int row) {
+        const QVariant icon = lines.index(row, explorer::Feed::LevelColumn).data(Qt::DecorationRole);
+        return icon.value<QIcon>().pixmap(16, 16).toImage();
+    };
+    for (int row = 0; row < 6; ++row) {
+        const bool succeeded = row % 2 == 0;
+        EXPECT_EQ(lines.index(row, explorer::Feed::LevelColumn).data().toString(),
+                  succeeded ? QStringLiteral("Success") : QStringLiteral("Failure"));
+        EXPECT_FALSE(pictureOf(row).isNull());
+        EXPECT_EQ(pictureOf(row) == pictureOf(0), succeeded);
+    }
+    EXPECT_EQ(lines.index(6, explorer::Feed::LevelColumn).data().toString(), QString());
+    EXPECT_TRUE(pictureOf(6).isNull());
+}
 
 TEST_F(WindowTest, ARecordIsShownAsFarAsItWasRead)
 {

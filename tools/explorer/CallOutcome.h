@@ -19,6 +19,9 @@ namespace explorer {
 /// What stands where the session token stood.
 constexpr const char* kTokenMask = "**********";
 
+/// What stands where the port of a server is not known yet.
+constexpr const char* kUnknownPort = "$PORT";
+
 struct Header {
     QString name;
     QString value;

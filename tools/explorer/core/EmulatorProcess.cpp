@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <utility>
 
 namespace explorer {
 namespace {
@@ -87,11 +88,26 @@ void EmulatorProcess::Start()
     environment.insert(QStringLiteral("PLATFORM_EMULATOR_TOKEN"), m_token);
     environment.insert(QStringLiteral("PLATFORM_EMULATOR_CONTROL_TOKEN"), m_token);
     m_process->setProcessEnvironment(environment);
-    m_process->start(m_program, {}, QIODevice::ReadOnly);
+    QStringList arguments{QStringLiteral("--scale"), QString::number(m_options.scale)};
+    if (!m_options.seedFolder.isEmpty()) {
+        arguments << QStringLiteral("--seed") << m_options.seedFolder;
+    }
+    m_process->start(m_program, arguments, QIODevice::ReadOnly);
+}
+
+void EmulatorProcess::Restart()
+{
+    if (m_process->state() == QProcess::NotRunning) {
+        Start();
+    } else {
+        Stop();
+        m_restarting = true;
+    }
 }
 
 void EmulatorProcess::Stop()
 {
+    m_restarting = false;
     m_stopping = true;
     m_process->terminate();
 }
@@ -124,7 +140,9 @@ void EmulatorProcess::Ended()
     m_httpPort = 0;
     m_httpsPort = 0;
     SetState(Stopped);
-    if (!m_stopping) {
+    if (std::exchange(m_restarting, false)) {
+        Start();
+    } else if (!m_stopping) {
         emit Failed(lastWords.isEmpty() ? m_process->errorString() : lastWords);
     }
 }

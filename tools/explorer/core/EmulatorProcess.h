@@ -9,6 +9,12 @@ class QProcess;
 
 namespace explorer {
 
+/// What an emulator starts with.
+struct EmulatorOptions {
+    int scale = 1;       ///< its lists are so many times as long
+    QString seedFolder;  ///< empty for its own
+};
+
 /// The platform emulator as a child of this program, on free ports of the loopback address.
 class EmulatorProcess : public QObject {
     Q_OBJECT
@@ -30,6 +36,12 @@ public:
 
     void Start();
     void Stop();
+    /// Stops, and starts with the options of now.
+    void Restart();
+
+    [[nodiscard]] const EmulatorOptions& Options() const { return m_options; }
+    /// From the next start on.
+    void SetOptions(const EmulatorOptions& options) { m_options = options; }
 
     [[nodiscard]] State GetState() const { return m_state; }
     [[nodiscard]] int HttpPort() const { return m_httpPort; }
@@ -49,11 +61,13 @@ private:
 
     const QString m_program;
     const std::unique_ptr<QProcess> m_process;
+    EmulatorOptions m_options;
     QString m_token;
     State m_state = Stopped;
     int m_httpPort = 0;
     int m_httpsPort = 0;
     bool m_stopping = false;
+    bool m_restarting = false;
 };
 
 }  // namespace explorer

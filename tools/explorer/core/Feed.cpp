@@ -3,6 +3,8 @@
 #include <libornl/TalPrintLog.h>
 #include <OrnGui/OrnMessageNotify.h>
 
+#include <utility>
+
 namespace explorer {
 
 void Feed::Append(const Line& line)
@@ -117,8 +119,35 @@ NotificationFeed::NotificationFeed(QObject* parent) : Feed(parent)
 {
     connect(&ORNGUI::OrnSingleton<ORNGUI::OrnMessageNotify>::Instance(),
             &ORNGUI::OrnMessageNotify::TextNotificationAdded, this, [this](const QString& text) {
-                Append({QTime::currentTime(), 0, text, {}});
+                Append({QTime::currentTime(), std::exchange(m_nextLevel, 0), text, {}});
             });
+}
+
+void NotificationFeed::ExpectOutcome(bool succeeded)
+{
+    m_nextLevel = succeeded ? kInformation : kFailure;
+}
+
+QVariant NotificationFeed::data(const QModelIndex& index, int role) const
+{
+    const bool isName = role == Qt::DisplayRole || role == Qt::ToolTipRole;
+    if (index.column() != LevelColumn || !isName) {
+        return Feed::data(index, role);
+    }
+    switch (Feed::data(index, kLevelRole).toInt()) {
+    case kInformation:
+        return tr("Success");
+    case kFailure:
+        return tr("Failure");
+    default:
+        return {};
+    }
+}
+
+QVariant NotificationFeed::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isLevel = orientation == Qt::Horizontal && section == LevelColumn && role == Qt::DisplayRole;
+    return isLevel ? tr("Outcome") : Feed::headerData(section, orientation, role);
 }
 
 }  // namespace explorer

@@ -20,6 +20,8 @@ public:
     };
     static constexpr int kLevelRole = Qt::UserRole;  ///< the level's number
     static constexpr int kMostLines = 5000;
+    static constexpr int kInformation = 4;
+    static constexpr int kFailure = 6;
 
     struct Line {
         QTime time;
@@ -60,6 +62,15 @@ class NotificationFeed : public Feed {
 
 public:
     explicit NotificationFeed(QObject* parent = nullptr);
+
+    /// The next notification is that of an outcome.
+    void ExpectOutcome(bool succeeded);
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    int m_nextLevel = 0;
 };
 
 }  // namespace explorer

@@ -49,6 +49,18 @@ SentRequest RequestOf(const ObservedExchange& exchange, const QString& token)
             exchange.requestBody};
 }
 
+/// In the place of port 0.
+void NameUnknownPort(SentRequest& request, const Server& server)
+{
+    const int path = request.url.indexOf(QLatin1Char('/'), request.url.indexOf(QLatin1String("://")) + 3);
+    request.url.replace(0, path, server.Address());
+    for (Header& header : request.headers) {
+        if (header.name.compare(QLatin1String("Host"), Qt::CaseInsensitive) == 0) {
+            header.value = server.host + QLatin1Char(':') + QLatin1String(kUnknownPort);
+        }
+    }
+}
+
 void Take(CallOutcome& outcome, const ObservedExchange& exchange, const QString& token)
 {
     outcome.request = RequestOf(exchange, token);
@@ -177,11 +189,13 @@ void Runner::Begin(const RunOrder& order)
     m_running[number] = {order, pCourse, {}};
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-        m_running[number].handle =
-            catalogue::Start(*order.call, arguments, Course::Settings(pCourse, order), this,
-                             [this, number](const catalogue::Outcome& ended) {
-                                 End(number, [&ended](Course& course) { return course.Concluded(ended); });
-                             });
+        m_running[number].handle = catalogue::Start(*order.call, arguments, Course::Settings(pCourse, order), this,
+                                                    [this, number](const catalogue::Outcome& ended) {
+                                                        End(number, [this, &ended](Course& course) {
+                                                            emit Notifying(bool(ended));
+                                                            return course.Concluded(ended);
+                                                        });
+                                                    });
         emit WithoutWaitingChanged();
     } catch (const catalogue::Mismatch& mismatch) {
         End(number, [&mismatch](Course& course) { return course.Refused(mismatch); });
@@ -202,6 +216,9 @@ RequestDraft Runner::Draft(const RunOrder& order)
     const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
     if (const auto preview = catalogue::Preview(*order.call, arguments, Course::Settings(pCourse, order))) {
         draft.request = RequestOf(*preview, pCourse->token);
+        if (server.port == 0) {
+            NameUnknownPort(draft.request, server);
+        }
     }
     return draft;
 }
@@ -287,8 +304,10 @@ CallOutcome Runner::Run(const RunOrder& order)
     const auto pCourse = std::make_shared<Course>(order);
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-        CallOutcome outcome =
-            pCourse->Concluded(catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent));
+        catalogue::Outcome ended =
+            catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent);
+        emit Notifying(bool(ended));
+        CallOutcome outcome = pCourse->Concluded(std::move(ended));
         Check(order, outcome, pCourse->token);
         return outcome;
     } catch (const catalogue::Mismatch& mismatch) {

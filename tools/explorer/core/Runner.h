@@ -62,6 +62,8 @@ public:
 Q_SIGNALS:
     void Started(const catalogue::Call* call);
     void Finished(const explorer::CallOutcome& outcome);
+    /// The library is about to notify the user of an outcome.
+    void Notifying(bool succeeded);
     /// The server knows no session of the token that a call was made with.
     void TokenRefused(const QString& serverId, const QString& token);
     /// WithoutWaiting() has changed.

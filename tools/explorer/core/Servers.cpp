@@ -1,5 +1,7 @@
 #include "Servers.h"
 
+#include "../CallOutcome.h"
+
 #include <QSettings>
 #include <QUuid>
 
@@ -23,7 +25,9 @@ QString Key(const char* name)
 
 QString Server::Address() const
 {
-    return QStringLiteral("%1://%2:%3").arg(https ? QStringLiteral("https") : QStringLiteral("http"), host).arg(port);
+    return QStringLiteral("%1://%2:%3")
+        .arg(https ? QStringLiteral("https") : QStringLiteral("http"), host,
+             port > 0 ? QString::number(port) : QString::fromLatin1(kUnknownPort));
 }
 
 bool operator==(const Server& left, const Server& right)

@@ -19,7 +19,7 @@ struct Server {
     QString language = QStringLiteral("en");
     QByteArray pin = {};  ///< SHA-256 digest of the only certificate that calls trust; empty to trust any
 
-    /// "https://host:port"
+    /// "https://host:port", with kUnknownPort for the port of an emulator that does not run
     [[nodiscard]] QString Address() const;
 };
 

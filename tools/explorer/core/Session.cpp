@@ -6,17 +6,26 @@
 #include <QSettings>
 
 namespace explorer {
+namespace {
+
+constexpr const char* kScaleKey = "emulator/scale";
+constexpr const char* kSeedKey = "emulator/seedFolder";
+
+}  // namespace
 
 Session::Session(QSettings& allSettings, Tokens::Vault* vault, const QString& emulatorProgram, QObject* parent)
     : QObject(parent), settings(allSettings), servers(allSettings), tokens(vault), emulator(emulatorProgram),
       history(allSettings)
 {
+    emulator.SetOptions(
+        {settings.value(QLatin1String(kScaleKey), 1).toInt(), settings.value(QLatin1String(kSeedKey)).toString()});
     connect(&servers, &Servers::Changed, this, &Session::UseCurrentServer);
     connect(&tokens, &Tokens::Changed, this, &Session::UseCurrentServer);
     connect(&emulator, &EmulatorProcess::StateChanged, this,
             [this] { servers.SetEmulatorPorts(emulator.HttpPort(), emulator.HttpsPort()); });
     connect(&runner, &Runner::Finished, &history, &History::Add);
     connect(&runner, &Runner::Finished, &identifiers, &Identifiers::Add);
+    connect(&runner, &Runner::Notifying, &notifications, &NotificationFeed::ExpectOutcome);
     connect(&runner, &Runner::TokenRefused, &tokens, &Tokens::Refuse);
     UseCurrentServer();
     APIModule::CAPIModule::GetInstance().Init(&m_users);
@@ -31,6 +40,13 @@ Session::~Session()
 std::optional<QString> Session::CurrentToken() const
 {
     return servers.IsEmulator() ? emulator.Token() : tokens.Find(servers.Current().id);
+}
+
+void Session::SetEmulatorOptions(const EmulatorOptions& options)
+{
+    settings.setValue(QLatin1String(kScaleKey), options.scale);
+    settings.setValue(QLatin1String(kSeedKey), options.seedFolder);
+    emulator.SetOptions(options);
 }
 
 bool Session::IsReady() const

@@ -43,6 +43,9 @@ public:
     /// The current server's token, nothing while it is not known.
     [[nodiscard]] std::optional<QString> CurrentToken() const;
 
+    /// Keeps them, for the next start of the emulator and of the program.
+    void SetEmulatorOptions(const EmulatorOptions& options);
+
     /// Whether calls can be made: always but for an emulator that does not run.
     [[nodiscard]] bool IsReady() const;
 

@@ -217,6 +217,265 @@
     </message>
 </context>
 <context>
+    <name>explorer::EmulatorControl</name>
+    <message>
+        <source>The emulator is not running.</source>
+        <translation>Der Emulator läuft nicht.</translation>
+    </message>
+    <message>
+        <source>%1 are too much to show here.</source>
+        <translation>%1 sind zu viel, um sie hier zu zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::EmulatorPanel</name>
+    <message>
+        <source>Re&amp;quests</source>
+        <translation>Anfra&amp;gen</translation>
+    </message>
+    <message>
+        <source>&amp;Faults</source>
+        <translation>&amp;Fehler</translation>
+    </message>
+    <message>
+        <source>St&amp;ate</source>
+        <translation>&amp;Zustand</translation>
+    </message>
+    <message>
+        <source>Sta&amp;rt</source>
+        <translation>Sta&amp;rt</translation>
+    </message>
+    <message>
+        <source>The emulator is starting</source>
+        <translation>Der Emulator startet</translation>
+    </message>
+    <message>
+        <source>The emulator is not running. It starts with its button or with the first call.</source>
+        <translation>Der Emulator läuft nicht. Er startet mit seinem Knopf oder mit dem ersten Aufruf.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::EmulatorRequests</name>
+    <message>
+        <source>No reply</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Ausstehend</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FaultForm</name>
+    <message>
+        <source>Late reply</source>
+        <translation>Späte Antwort</translation>
+    </message>
+    <message>
+        <source>HTTP status</source>
+        <translation>HTTP-Status</translation>
+    </message>
+    <message>
+        <source>Envelope with a code</source>
+        <translation>Umschlag mit einem Code</translation>
+    </message>
+    <message>
+        <source>Empty reply</source>
+        <translation>Leere Antwort</translation>
+    </message>
+    <message>
+        <source>Half of the body</source>
+        <translation>Halber Rumpf</translation>
+    </message>
+    <message>
+        <source>Reply that is not JSON</source>
+        <translation>Antwort, die kein JSON ist</translation>
+    </message>
+    <message>
+        <source>Reply with this body</source>
+        <translation>Antwort mit diesem Rumpf</translation>
+    </message>
+    <message>
+        <source>Large reply</source>
+        <translation>Große Antwort</translation>
+    </message>
+    <message>
+        <source>Slow reply</source>
+        <translation>Langsame Antwort</translation>
+    </message>
+    <message>
+        <source>Connection closed without a reply</source>
+        <translation>Verbindung ohne Antwort geschlossen</translation>
+    </message>
+    <message>
+        <source>Connection closed within the reply</source>
+        <translation>Verbindung mitten in der Antwort geschlossen</translation>
+    </message>
+    <message>
+        <source>Connection reset</source>
+        <translation>Verbindung zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>No reply</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Every call</source>
+        <translation>Jeder Aufruf</translation>
+    </message>
+    <message>
+        <source>Every method</source>
+        <translation>Jede Methode</translation>
+    </message>
+    <message>
+        <source>Every path</source>
+        <translation>Jeder Pfad</translation>
+    </message>
+    <message>
+        <source>How the path of a request begins, its query included</source>
+        <translation>Womit der Pfad einer Anfrage samt Abfrageteil beginnt</translation>
+    </message>
+    <message>
+        <source>2 lets the first call that fits pass</source>
+        <translation>2 lässt den ersten passenden Aufruf durch</translation>
+    </message>
+    <message>
+        <source>Until removed</source>
+        <translation>Bis entfernt</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Starts at match</source>
+        <translation>Ab Treffer</translation>
+    </message>
+    <message>
+        <source>How often</source>
+        <translation>Wie oft</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source> bytes</source>
+        <translation> Byte</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source> bytes/s</source>
+        <translation> Byte/s</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Headers</source>
+        <translation>Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Rumpf</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FaultsPage</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove a&amp;ll</source>
+        <translation>A&amp;lle entfernen</translation>
+    </message>
+    <message>
+        <source>A&amp;dd</source>
+        <translation>Hinz&amp;ufügen</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Aufrufe</translation>
+    </message>
+    <message>
+        <source>Skips left</source>
+        <translation>Noch durchlassen</translation>
+    </message>
+    <message>
+        <source>Times left</source>
+        <translation>Noch</translation>
+    </message>
+    <message>
+        <source>Until removed</source>
+        <translation>Bis entfernt</translation>
+    </message>
+</context>
+<context>
     <name>explorer::Feed</name>
     <message>
         <source>Time</source>
@@ -670,6 +929,14 @@
         <source>An argument holds no valid value</source>
         <translation>Ein Argument hat keinen gültigen Wert</translation>
     </message>
+    <message>
+        <source>Emulator</source>
+        <translation>Emulator</translation>
+    </message>
+    <message>
+        <source>&amp;Emulator</source>
+        <translation>E&amp;mulator</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NameLabel</name>
@@ -680,6 +947,21 @@
     <message>
         <source>Example: %1</source>
         <translation>Beispiel: %1</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::NotificationFeed</name>
+    <message>
+        <source>Success</source>
+        <translation>Erfolg</translation>
+    </message>
+    <message>
+        <source>Failure</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Ausgang</translation>
     </message>
 </context>
 <context>
@@ -900,6 +1182,25 @@
     </message>
 </context>
 <context>
+    <name>explorer::RequestsPage</name>
+    <message>
+        <source>No requests</source>
+        <translation>Keine Anfragen</translation>
+    </message>
+    <message>
+        <source>Choose a request to see its headers and its body.</source>
+        <translation>Wählen Sie eine Anfrage, um ihre Kopfzeilen und ihren Rumpf zu sehen.</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Anfragen</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+</context>
+<context>
     <name>explorer::ResultHeader</name>
     <message>
         <source>Result %1</source>
@@ -1033,6 +1334,10 @@
     <message>
         <source>Not at all, several at once</source>
         <translation>Gar nicht, mehrere zugleich</translation>
+    </message>
+    <message>
+        <source>The longest time-out is %1 s.</source>
+        <translation>Die längste Zeitgrenze ist %1 s.</translation>
     </message>
 </context>
 <context>
@@ -1233,6 +1538,104 @@
     <message>
         <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
         <translation>Das Zertifikat hat sich geändert: Vielleicht antwortet jemand anstelle des Servers. Vergleichen Sie den Fingerabdruck mit dem am Server.</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::StartPage</name>
+    <message>
+        <source>Makes the seeded lists so many times as long</source>
+        <translation>Macht die vorbelegten Listen so viel Mal so lang</translation>
+    </message>
+    <message>
+        <source>The built-in seed data</source>
+        <translation>Die eingebauten Anfangsdaten</translation>
+    </message>
+    <message>
+        <source>Cho&amp;ose…</source>
+        <translation>&amp;Ordner …</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Vielfaches</translation>
+    </message>
+    <message>
+        <source>Seed folder</source>
+        <translation>Ordner der Anfangsdaten</translation>
+    </message>
+    <message>
+        <source>Folder of the seed data</source>
+        <translation>Ordner der Anfangsdaten</translation>
+    </message>
+    <message>
+        <source>Restar&amp;t with this</source>
+        <translation>Damit neu s&amp;tarten</translation>
+    </message>
+    <message>
+        <source>Star&amp;t with this</source>
+        <translation>Damit s&amp;tarten</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::StatePage</name>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Teil</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Changes the state by what was edited, as a JSON merge patch</source>
+        <translation>Ändert den Zustand um das Bearbeitete, als JSON Merge Patch</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Neu la&amp;den</translation>
+    </message>
+    <message>
+        <source>Shows the state of now; what was edited is lost</source>
+        <translation>Zeigt den jetzigen Zustand; das Bearbeitete geht verloren</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t</source>
+        <translation>Zurückse&amp;tzen</translation>
+    </message>
+    <message>
+        <source>Back to the seed data</source>
+        <translation>Zurück zu den Anfangsdaten</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>This part is too long to edit. Choose a smaller one.</source>
+        <translation>Dieser Teil ist zu lang zum Bearbeiten. Wählen Sie einen kleineren.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not JSON.</source>
+        <translation>Zeile %1 ist kein JSON.</translation>
+    </message>
+    <message>
+        <source>A merge patch cannot make a member null.</source>
+        <translation>Ein Merge Patch kann kein Element auf null setzen.</translation>
+    </message>
+    <message>
+        <source>The state was changed.</source>
+        <translation>Der Zustand ist geändert.</translation>
+    </message>
+    <message>
+        <source>The state is that of the seed data.</source>
+        <translation>Der Zustand ist der der Anfangsdaten.</translation>
+    </message>
+    <message>
+        <source>The emulator refuses this: %1</source>
+        <translation>Der Emulator lehnt das ab: %1</translation>
     </message>
 </context>
 <context>

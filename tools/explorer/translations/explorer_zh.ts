@@ -215,6 +215,265 @@
     </message>
 </context>
 <context>
+    <name>explorer::EmulatorControl</name>
+    <message>
+        <source>The emulator is not running.</source>
+        <translation>模拟器未运行。</translation>
+    </message>
+    <message>
+        <source>%1 are too much to show here.</source>
+        <translation>%1 太大，无法在此显示。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::EmulatorPanel</name>
+    <message>
+        <source>Re&amp;quests</source>
+        <translation>请求(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Faults</source>
+        <translation>故障(&amp;F)</translation>
+    </message>
+    <message>
+        <source>St&amp;ate</source>
+        <translation>状态(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Sta&amp;rt</source>
+        <translation>启动(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The emulator is starting</source>
+        <translation>模拟器正在启动</translation>
+    </message>
+    <message>
+        <source>The emulator is not running. It starts with its button or with the first call.</source>
+        <translation>模拟器未运行。可用其按钮启动，或在首次调用时自动启动。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::EmulatorRequests</name>
+    <message>
+        <source>No reply</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态码</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FaultForm</name>
+    <message>
+        <source>Late reply</source>
+        <translation>延迟应答</translation>
+    </message>
+    <message>
+        <source>HTTP status</source>
+        <translation>HTTP 状态码</translation>
+    </message>
+    <message>
+        <source>Envelope with a code</source>
+        <translation>带代码的信封</translation>
+    </message>
+    <message>
+        <source>Empty reply</source>
+        <translation>空应答</translation>
+    </message>
+    <message>
+        <source>Half of the body</source>
+        <translation>一半的正文</translation>
+    </message>
+    <message>
+        <source>Reply that is not JSON</source>
+        <translation>非 JSON 应答</translation>
+    </message>
+    <message>
+        <source>Reply with this body</source>
+        <translation>指定正文的应答</translation>
+    </message>
+    <message>
+        <source>Large reply</source>
+        <translation>大应答</translation>
+    </message>
+    <message>
+        <source>Slow reply</source>
+        <translation>慢速应答</translation>
+    </message>
+    <message>
+        <source>Connection closed without a reply</source>
+        <translation>未应答即关闭连接</translation>
+    </message>
+    <message>
+        <source>Connection closed within the reply</source>
+        <translation>应答中途关闭连接</translation>
+    </message>
+    <message>
+        <source>Connection reset</source>
+        <translation>连接被重置</translation>
+    </message>
+    <message>
+        <source>No reply</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> 毫秒</translation>
+    </message>
+    <message>
+        <source>Every call</source>
+        <translation>所有调用</translation>
+    </message>
+    <message>
+        <source>Every method</source>
+        <translation>所有方法</translation>
+    </message>
+    <message>
+        <source>Every path</source>
+        <translation>所有路径</translation>
+    </message>
+    <message>
+        <source>How the path of a request begins, its query included</source>
+        <translation>请求路径（含查询部分）的开头</translation>
+    </message>
+    <message>
+        <source>2 lets the first call that fits pass</source>
+        <translation>2 表示放行第一个匹配的调用</translation>
+    </message>
+    <message>
+        <source>Until removed</source>
+        <translation>直到移除</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+    <message>
+        <source>Starts at match</source>
+        <translation>从第几次匹配起</translation>
+    </message>
+    <message>
+        <source>How often</source>
+        <translation>次数</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>延迟</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态码</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source> bytes</source>
+        <translation> 字节</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source> bytes/s</source>
+        <translation> 字节/秒</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Headers</source>
+        <translation>头部</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>正文</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::FaultsPage</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>移除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Remove a&amp;ll</source>
+        <translation>全部移除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>A&amp;dd</source>
+        <translation>添加(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Skips left</source>
+        <translation>剩余放行</translation>
+    </message>
+    <message>
+        <source>Times left</source>
+        <translation>剩余次数</translation>
+    </message>
+    <message>
+        <source>Until removed</source>
+        <translation>直到移除</translation>
+    </message>
+</context>
+<context>
     <name>explorer::Feed</name>
     <message>
         <source>Time</source>
@@ -668,6 +927,14 @@
         <source>An argument holds no valid value</source>
         <translation>有参数的值无效</translation>
     </message>
+    <message>
+        <source>Emulator</source>
+        <translation>模拟器</translation>
+    </message>
+    <message>
+        <source>&amp;Emulator</source>
+        <translation>模拟器(&amp;E)</translation>
+    </message>
 </context>
 <context>
     <name>explorer::NameLabel</name>
@@ -678,6 +945,21 @@
     <message>
         <source>Example: %1</source>
         <translation>示例：%1</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::NotificationFeed</name>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Failure</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
     </message>
 </context>
 <context>
@@ -898,6 +1180,25 @@
     </message>
 </context>
 <context>
+    <name>explorer::RequestsPage</name>
+    <message>
+        <source>No requests</source>
+        <translation>没有请求</translation>
+    </message>
+    <message>
+        <source>Choose a request to see its headers and its body.</source>
+        <translation>选择一个请求以查看其头部和正文。</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清空(&amp;L)</translation>
+    </message>
+</context>
+<context>
     <name>explorer::ResultHeader</name>
     <message>
         <source>Result %1</source>
@@ -1030,6 +1331,10 @@
     <message>
         <source>Not at all, several at once</source>
         <translation>不等待，可同时运行多个</translation>
+    </message>
+    <message>
+        <source>The longest time-out is %1 s.</source>
+        <translation>超时最长为 %1 秒。</translation>
     </message>
 </context>
 <context>
@@ -1230,6 +1535,104 @@
     <message>
         <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
         <translation>证书已更改：可能有人冒充服务器应答。请与服务器上的摘要进行比较。</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::StartPage</name>
+    <message>
+        <source>Makes the seeded lists so many times as long</source>
+        <translation>将初始数据中的列表放大相应倍数</translation>
+    </message>
+    <message>
+        <source>The built-in seed data</source>
+        <translation>内置初始数据</translation>
+    </message>
+    <message>
+        <source>Cho&amp;ose…</source>
+        <translation>选择(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>倍数</translation>
+    </message>
+    <message>
+        <source>Seed folder</source>
+        <translation>初始数据文件夹</translation>
+    </message>
+    <message>
+        <source>Folder of the seed data</source>
+        <translation>初始数据文件夹</translation>
+    </message>
+    <message>
+        <source>Restar&amp;t with this</source>
+        <translation>以此重新启动(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Star&amp;t with this</source>
+        <translation>以此启动(&amp;T)</translation>
+    </message>
+</context>
+<context>
+    <name>explorer::StatePage</name>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>应用(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>部分</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Changes the state by what was edited, as a JSON merge patch</source>
+        <translation>以 JSON 合并补丁的形式提交所作的修改</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>重新加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Shows the state of now; what was edited is lost</source>
+        <translation>显示当前状态；未提交的修改将丢失</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t</source>
+        <translation>重置(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Back to the seed data</source>
+        <translation>恢复为初始数据</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>This part is too long to edit. Choose a smaller one.</source>
+        <translation>该部分过长，无法编辑。请选择较小的部分。</translation>
+    </message>
+    <message>
+        <source>Line %1 is not JSON.</source>
+        <translation>第 %1 行不是 JSON。</translation>
+    </message>
+    <message>
+        <source>A merge patch cannot make a member null.</source>
+        <translation>合并补丁无法将成员设为 null。</translation>
+    </message>
+    <message>
+        <source>The state was changed.</source>
+        <translation>状态已修改。</translation>
+    </message>
+    <message>
+        <source>The state is that of the seed data.</source>
+        <translation>状态已恢复为初始数据。</translation>
+    </message>
+    <message>
+        <source>The emulator refuses this: %1</source>
+        <translation>模拟器拒绝了该修改：%1</translation>
     </message>
 </context>
 <context>

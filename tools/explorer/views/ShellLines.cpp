@@ -30,6 +30,19 @@ QString QuotedWithToken(const QString& text)
     return words.join(QLatin1String("\"$TOKEN\""));
 }
 
+/// An address as one word, with the shell's variable in the place of a port that is not known.
+QString QuotedAddress(const QString& text)
+{
+    const QString port = QLatin1Char(':') + QLatin1String(kUnknownPort);
+    const int place = text.indexOf(port);
+    if (place < 0) {
+        return QuotedWithToken(text);
+    }
+    const QString behind = text.mid(place + port.size());
+    return Quoted(text.left(place + 1)) + QLatin1String("\"$PORT\"") +
+           (behind.isEmpty() ? QString() : QuotedWithToken(behind));
+}
+
 /// Whether curl finds the value of the header itself, and better.
 bool IsOfTheConnection(const Header& header)
 {
@@ -76,7 +89,7 @@ QString CurlLine(const SentRequest& request)
 {
     // As the library, it accepts the certificates that the servers make themselves and changes nothing in the URL.
     QStringList parts{QLatin1String("curl --insecure --globoff --path-as-is --request ") + request.method,
-                      QuotedWithToken(request.url)};
+                      QuotedAddress(request.url)};
     for (const Header& header : request.headers) {
         if (!IsOfTheConnection(header)) {
             parts.append(HeaderOption(header));
@@ -92,7 +105,7 @@ QString ApicallLine(const RequestDraft& draft)
 {
     QStringList options{QStringLiteral("APICALL_TOKEN=\"$TOKEN\" apicall")};
     for (const QString& option : draft.apicallOptions) {
-        options.append(Quoted(option));
+        options.append(QuotedAddress(option));
     }
     options.append(QString::fromStdString(draft.call->name));
     return OnLines(QStringList{options.join(QLatin1Char(' '))} + ApicallArguments(draft));

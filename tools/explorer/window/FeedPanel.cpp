@@ -12,16 +12,17 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
+#include <QStyle>
 #include <QTableView>
 #include <QToolButton>
 
 namespace explorer {
 namespace {
 
-/// Lines of a level, or a worse one, that hold a text anywhere.
+/// Lines of a level, or a worse one, that hold a text anywhere; outcomes have icons.
 class LineFilter : public QSortFilterProxyModel {
 public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
+    LineFilter(bool withIcons, QObject* pParent) : QSortFilterProxyModel(pParent), m_withIcons(withIcons) {}
 
     void SetText(const QString& text)
     {
@@ -37,9 +38,12 @@ public:
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
     {
-        constexpr int kFailure = 6;
-        if (role == Qt::ForegroundRole && QSortFilterProxyModel::data(index, Feed::kLevelRole).toInt() >= kFailure) {
+        const int level = QSortFilterProxyModel::data(index, Feed::kLevelRole).toInt();
+        if (role == Qt::ForegroundRole && level >= Feed::kFailure) {
             return theme::Error(QApplication::palette());
+        }
+        if (role == Qt::DecorationRole && m_withIcons && index.column() == Feed::LevelColumn && level > 0) {
+            return level >= Feed::kFailure ? m_failure : m_success;
         }
         return QSortFilterProxyModel::data(index, role);
     }
@@ -56,6 +60,9 @@ protected:
     }
 
 private:
+    const bool m_withIcons;
+    const QIcon m_success = Icon("success");
+    const QIcon m_failure = Icon("failure");
     QString m_text;
     int m_lowestLevel = 0;
 };
@@ -64,7 +71,7 @@ private:
 
 FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
 {
-    auto* const pLines = new LineFilter(this);
+    auto* const pLines = new LineFilter(kind == Notifications, this);
     pLines->setSourceModel(&feed);
 
     QTableView* const pTable =
@@ -73,9 +80,9 @@ FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
     pTable->horizontalHeader()->setSectionResizeMode(Feed::TextColumn, QHeaderView::Stretch);
     const auto widthOf = [pTable](const QString& text) { return pTable->fontMetrics().horizontalAdvance(text) + 24; };
     pTable->setColumnWidth(Feed::TimeColumn, widthOf(QStringLiteral("00:00:00.000")));
-    pTable->setColumnWidth(Feed::LevelColumn, widthOf(Feed::LevelName(4)));
+    const int iconWidth = kind == Notifications ? pTable->style()->pixelMetric(QStyle::PM_SmallIconSize) : 0;
+    pTable->setColumnWidth(Feed::LevelColumn, widthOf(Feed::LevelName(Feed::kInformation)) + iconWidth);
     pTable->setColumnWidth(Feed::SourceColumn, widthOf(QString(44, QLatin1Char('n'))));
-    pTable->setColumnHidden(Feed::LevelColumn, kind != Log);
     pTable->setColumnHidden(Feed::SourceColumn, kind != Log);
 
     QLineEdit* const pSearch = NewSearch();
@@ -85,7 +92,7 @@ FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
     pLevel->setObjectName(QStringLiteral("level"));
     pLevel->setAccessibleName(tr("Level"));
     pLevel->addItem(tr("All levels"), 0);
-    for (const int level : {4, 5, 6}) {
+    for (const int level : {Feed::kInformation, 5, Feed::kFailure}) {
         pLevel->addItem(tr("%1 and worse").arg(Feed::LevelName(level)), level);
     }
     pLevel->setVisible(kind == Log);

@@ -105,7 +105,8 @@ QWidget* HistoryPanel::MakeKeeping()
 
     auto* const pKeeping = new QWidget;
     auto* const pLayout = new QHBoxLayout(pKeeping);
-    pLayout->setContentsMargins(0, 0, 0, 0);
+    constexpr int kApart = 12;  // from the buttons
+    pLayout->setContentsMargins(kApart, 0, 0, 0);
     pLayout->addWidget(m_pBytes);
     pLayout->addWidget(pLimit);
     pLayout->addWidget(pKept);

@@ -3,6 +3,7 @@
 #include "Appearance.h"
 #include "CallHeader.h"
 #include "CallPanel.h"
+#include "emulator/EmulatorPanel.h"
 #include "FeedPanel.h"
 #include "HistoryPanel.h"
 #include "ResultHeader.h"
@@ -236,6 +237,7 @@ QWidget* MainWindow::MakeResultPane()
     m_pResults->addTab(m_pResult, tr("Result"));
     m_pResults->addTab(m_pRequest, tr("Request"));
     m_pResults->addTab(m_pTiming, tr("Timing"));
+    m_pResults->addTab(new EmulatorPanel(m_session), tr("Emulator"));
     auto* const pPane = new QWidget;
     auto* const pLayout = PaneLayout(pPane);
     pLayout->addWidget(m_pResultHeader);
@@ -331,7 +333,8 @@ void MainWindow::MakeGoToMenu(QMenu* pMenu)
                                                             {tr("&Timing"), toTab(m_pResults, 2)},
                                                             {tr("&Log"), toTab(m_pFeeds, 0)},
                                                             {tr("&Notifications"), toTab(m_pFeeds, 1)},
-                                                            {tr("&History"), toTab(m_pFeeds, 2)}};
+                                                            {tr("&History"), toTab(m_pFeeds, 2)},
+                                                            {tr("&Emulator"), toTab(m_pResults, 3)}};
     int key = Qt::Key_1;
     for (const auto& place : places) {
         pMenu->addAction(place.first, this, place.second)->setShortcut(QKeySequence(int(Qt::CTRL) + key));
@@ -606,7 +609,7 @@ bool MainWindow::IsReadyFor(void (MainWindow::*step)())
 std::optional<RunOrder> MainWindow::Order()
 {
     m_runsAt.clear();
-    if (m_pCall == nullptr || !m_pForm->IsValid()) {
+    if (m_pCall == nullptr || !m_pForm->IsValid() || !m_pRunBar->Check()) {
         return std::nullopt;
     }
     if (!IsReadyFor(&MainWindow::Run)) {

@@ -2,6 +2,9 @@
 
 #include "Icons.h"
 
+#include "../views/Theme.h"
+#include "../views/TintedLabel.h"
+
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -15,12 +18,13 @@ namespace {
 constexpr const char* kWayKey = "run/way";
 constexpr const char* kTimeoutKey = "run/timeoutSeconds";
 constexpr int kLongestTimeout = 3600;
+constexpr int kLongestTyped = 9999999;  // a longer time-out is refused as it was typed
 
 }  // namespace
 
 RunBar::RunBar(QSettings& settings, QWidget* pParent)
     : QWidget(pParent), m_pRun(new QPushButton(tr("Run"))), m_pWay(new QComboBox), m_pTimeout(new QSpinBox),
-      m_pState(new QLabel)
+      m_pState(new QLabel), m_pProblem(new TintedLabel(theme::Error))
 {
     m_pRun->setObjectName(QStringLiteral("run"));
     m_pRun->setToolTip(tr("Run the call (F5)"));
@@ -37,7 +41,7 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pWayLabel->setBuddy(m_pWay);
 
     m_pTimeout->setObjectName(QStringLiteral("timeout"));
-    m_pTimeout->setRange(0, kLongestTimeout);
+    m_pTimeout->setRange(0, kLongestTyped);
     m_pTimeout->setSpecialValueText(tr("The call's own"));
     m_pTimeout->setSuffix(tr(" s"));
     m_pTimeout->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);  // never narrower than its text
@@ -48,12 +52,18 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pState->setObjectName(QStringLiteral("runState"));
     m_pState->setForegroundRole(QPalette::PlaceholderText);
     m_pState->setWordWrap(true);
+    m_pProblem->setObjectName(QStringLiteral("timeoutProblem"));
+    m_pProblem->setWordWrap(true);
 
     // At once, for a window in another language.
     connect(m_pWay, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [&settings, this] { settings.setValue(QLatin1String(kWayKey), int(ChosenWay())); });
-    connect(m_pTimeout, qOverload<int>(&QSpinBox::valueChanged), this,
-            [&settings](int seconds) { settings.setValue(QLatin1String(kTimeoutKey), seconds); });
+    connect(m_pTimeout, qOverload<int>(&QSpinBox::valueChanged), this, [&settings, this](int seconds) {
+        if (Problem().isEmpty()) {
+            settings.setValue(QLatin1String(kTimeoutKey), seconds);
+        }
+        Update();
+    });
 
     auto* const pLayout = new QGridLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -65,10 +75,11 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->addWidget(m_pTimeout, 1, 1);
     pLayout->addWidget(m_pRun, 1, 2);
     pLayout->addWidget(m_pState, 2, 0, 1, 3);
+    pLayout->addWidget(m_pProblem, 2, 0, 1, 3);  // which takes the place of the state
     QSizePolicy kept = m_pState->sizePolicy();
     kept.setRetainSizeWhenHidden(true);  // nothing moves under the mouse
     m_pState->setSizePolicy(kept);
-    ShowPending(0);
+    Update();
     setTabOrder(m_pWay, m_pTimeout);
     setTabOrder(m_pTimeout, m_pRun);
 }
@@ -83,16 +94,45 @@ std::optional<int> RunBar::TimeoutSeconds() const
     return m_pTimeout->value() == 0 ? std::nullopt : std::optional<int>(m_pTimeout->value());
 }
 
+QString RunBar::Problem() const
+{
+    return m_pTimeout->value() > kLongestTimeout ? tr("The longest time-out is %1 s.").arg(kLongestTimeout) : QString();
+}
+
+bool RunBar::Check()
+{
+    if (Problem().isEmpty()) {
+        return true;
+    }
+    m_pTimeout->setFocus();
+    m_pTimeout->selectAll();
+    return false;
+}
+
 void RunBar::SetReady(bool ready, const QString& why)
 {
-    m_pRun->setEnabled(ready);
-    m_pRun->setToolTip(ready ? tr("Run the call (F5)") : why);
+    m_bReady = ready;
+    m_notReadyWhy = why;
+    Update();
 }
 
 void RunBar::ShowPending(int calls)
 {
-    m_pState->setText(tr("%n call(s) waiting for the server", nullptr, calls));
-    m_pState->setVisible(calls > 0);
+    m_pending = calls;
+    Update();
+}
+
+void RunBar::Update()
+{
+    const QString problem = Problem();
+    m_pProblem->setText(problem);
+    m_pProblem->setVisible(!problem.isEmpty());
+    m_pTimeout->setAccessibleDescription(problem);
+    m_pState->setText(tr("%n call(s) waiting for the server", nullptr, m_pending));
+    m_pState->setVisible(m_pending > 0 && problem.isEmpty());
+    m_pRun->setEnabled(m_bReady && problem.isEmpty());
+    const QString why = problem.isEmpty() ? m_notReadyWhy : problem;
+    m_pRun->setToolTip(m_pRun->isEnabled() ? tr("Run the call (F5)") : why);
 }
 
 }  // namespace explorer

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] Way ChosenWay() const;
     /// Nothing for the call's own.
     [[nodiscard]] std::optional<int> TimeoutSeconds() const;
+    /// Leads the user to a choice that cannot be used.
+    /// @return false when there is one
+    [[nodiscard]] bool Check();
 
     void SetReady(bool ready, const QString& why);
     void ShowPending(int calls);
@@ -33,10 +36,17 @@ signals:
     void RunRequested();
 
 private:
+    [[nodiscard]] QString Problem() const;
+    void Update();
+
+    bool m_bReady = false;
+    QString m_notReadyWhy;
+    int m_pending = 0;
     QPushButton* m_pRun;
     QComboBox* m_pWay;
     QSpinBox* m_pTimeout;
     QLabel* m_pState;
+    QLabel* m_pProblem;
 };
 
 }  // namespace explorer

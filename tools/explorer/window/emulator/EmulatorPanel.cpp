@@ -1,0 +1,85 @@
+#include "EmulatorPanel.h"
+
+#include "FaultsPage.h"
+#include "RequestsPage.h"
+#include "StartPage.h"
+#include "StatePage.h"
+
+#include "../../core/Session.h"
+#include "../../views/Theme.h"
+#include "../../views/TintedLabel.h"
+
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace explorer {
+
+EmulatorPanel::EmulatorPanel(Session& session, QWidget* pParent)
+    : QWidget(pParent), m_session(session), m_control(session.emulator), m_pStopped(new TintedLabel(theme::Hint)),
+      m_pTabs(new QTabWidget), m_pRequests(new RequestsPage(m_control)), m_pFaults(new FaultsPage(m_control)),
+      m_pState(new StatePage(m_control)), m_pTimer(new QTimer(this))
+{
+    m_pStopped->setObjectName(QStringLiteral("emulatorStopped"));
+    m_pStopped->setWordWrap(true);
+    constexpr int kMargin = 9;
+    m_pStopped->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    m_pTabs->setObjectName(QStringLiteral("emulatorTabs"));
+    m_pTabs->setDocumentMode(true);
+    m_pTabs->addTab(m_pRequests, tr("Re&quests"));
+    m_pTabs->addTab(m_pFaults, tr("&Faults"));
+    m_pTabs->addTab(m_pState, tr("St&ate"));
+    m_pTabs->addTab(new StartPage(session), tr("Sta&rt"));
+    auto* const pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pStopped);
+    pLayout->addWidget(m_pTabs, 1);
+
+    constexpr int kInterval = 500;  // milliseconds; a person takes longer to look
+    m_pTimer->setInterval(kInterval);
+    m_pTimer->start();
+    connect(m_pTimer, &QTimer::timeout, this, &EmulatorPanel::Refresh);
+    connect(m_pTabs, &QTabWidget::currentChanged, this, &EmulatorPanel::Refresh);
+    connect(&session.emulator, &EmulatorProcess::StateChanged, this, &EmulatorPanel::StateChanged);
+    StateChanged();
+}
+
+void EmulatorPanel::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    Refresh();
+}
+
+void EmulatorPanel::StateChanged()
+{
+    const EmulatorProcess::State state = m_session.emulator.GetState();
+    const bool isRunning = state == EmulatorProcess::Running;
+    m_pStopped->setText(state == EmulatorProcess::Starting
+                            ? tr("The emulator is starting")
+                            : tr("The emulator is not running. It starts with its button or with the first call."));
+    m_pStopped->setVisible(!isRunning);
+    m_pFaults->setEnabled(isRunning);
+    m_pState->setEnabled(isRunning);
+    if (isRunning) {  // another one, with nothing of the last
+        m_pRequests->Clear();
+        m_pState->Clear();
+        Refresh();
+    }
+}
+
+void EmulatorPanel::Refresh()
+{
+    if (!isVisible() || m_session.emulator.GetState() != EmulatorProcess::Running) {
+        return;
+    }
+    const QWidget* const pPage = m_pTabs->currentWidget();
+    if (pPage == m_pRequests) {
+        m_pRequests->Refresh();
+    } else if (pPage == m_pFaults) {
+        m_pFaults->Refresh();
+    } else if (pPage == m_pState) {
+        m_pState->LoadOnce();
+    }
+}
+
+}  // namespace explorer
