@@ -12,7 +12,7 @@ namespace explorer {
 namespace {
 
 constexpr const char* kTooLarge = "tooLarge";       // property of a reply: its size
-constexpr qint64 kLargestReply = 32 * 1024 * 1024;  // the state of a large scale takes many times its text
+constexpr qint64 kLargestReply = qint64(32) << 20;  // the state of a large scale takes many times its text
 
 nlohmann::json Parsed(const QByteArray& text)
 {

@@ -6,7 +6,7 @@ namespace explorer {
 namespace {
 
 constexpr std::size_t kMost = 10000;
-constexpr qint64 kMostBodyBytes = 64 * 1024 * 1024;
+constexpr qint64 kMostBodyBytes = qint64(64) << 20;
 
 QString TextOf(const nlohmann::json& object, const char* key)
 {

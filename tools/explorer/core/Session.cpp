@@ -5,6 +5,8 @@
 
 #include <QSettings>
 
+#include <malloc.h>
+
 namespace explorer {
 namespace {
 
@@ -25,6 +27,7 @@ Session::Session(QSettings& allSettings, Tokens::Vault* vault, const QString& em
             [this] { servers.SetEmulatorPorts(emulator.HttpPort(), emulator.HttpsPort()); });
     connect(&runner, &Runner::Finished, &history, &History::Add);
     connect(&runner, &Runner::Finished, &identifiers, &Identifiers::Add);
+    connect(&runner, &Runner::Finished, this, &Session::ReleaseMemory);
     connect(&runner, &Runner::Notifying, &notifications, &NotificationFeed::ExpectOutcome);
     connect(&runner, &Runner::TokenRefused, &tokens, &Tokens::Refuse);
     UseCurrentServer();
@@ -63,6 +66,16 @@ void Session::UseCurrentServer()
     TrustCurrentServer();
     if (!servers.IsEmulator()) {
         tokens.Fetch(server.id);
+    }
+}
+
+/// Large replies and records pass through many small pieces of memory, which the C library would keep.
+void Session::ReleaseMemory(const CallOutcome& outcome)
+{
+    constexpr int kLarge = 1 << 20;
+    if (outcome.reply && outcome.reply->body.size() > kLarge) {
+        QMetaObject::invokeMethod(
+            this, [] { malloc_trim(0); }, Qt::QueuedConnection);  // when the outcome itself is deleted
     }
 }
 

@@ -52,6 +52,7 @@ public:
 private:
     void UseCurrentServer();
     void TrustCurrentServer();
+    void ReleaseMemory(const CallOutcome& outcome);
 
     catalogue::OneServer m_users;
     QByteArray m_pin;  // that the library has
