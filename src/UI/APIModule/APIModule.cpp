@@ -271,7 +271,7 @@ QString CAPIModule::GetErroCodeInfor(const QString& strUIError, int errorCode, b
 {
     std::string strText;
     if (ErrorLexicon::ErrorLexiconQuery(errorCode, strText) == 0) {
-        const QString codeText = QString::fromStdString(strText);
+        QString codeText = QString::fromStdString(strText);
         if (bAppend && !strUIError.isEmpty()) {
             //: Separates the description of the failure from the text of its code; a blank follows
             return strUIError + tr(":") + QLatin1Char(' ') + codeText;

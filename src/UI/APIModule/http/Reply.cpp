@@ -34,7 +34,7 @@ QByteArray HostOf(const QUrl& url)
     if (!address.setAddress(url.host())) {
         return QUrl::toAce(url.host());
     }
-    const QByteArray text = url.host().toLatin1();
+    QByteArray text = url.host().toLatin1();
     if (address.protocol() == QAbstractSocket::IPv6Protocol) {
         return '[' + text + ']';
     }
