@@ -16,10 +16,10 @@
 /// A desktop host of the library: every call from a window.
 namespace explorer {
 
-/// What stands where the session token stood.
+/// Replaces the session token in everything that is shown.
 constexpr const char* kTokenMask = "**********";
 
-/// What stands where the port of a server is not known yet.
+/// Replaces the port of a server while it is unknown.
 constexpr const char* kUnknownPort = "$PORT";
 
 struct Header {
@@ -28,32 +28,32 @@ struct Header {
 };
 using Headers = QVector<Header>;
 
-/// The request of a call. No session token is in it: the mask stands in its place.
+/// The request of a call, with the session token masked.
 struct SentRequest {
-    QString method;   ///< "GET", "PUT", "POST" or "DELETE"; empty when there was none to send
+    QString method;   ///< "GET", "PUT", "POST" or "DELETE"; empty if there is no request
     QString url;      ///< scheme, host, port, path and query
-    Headers headers;  ///< in the order in which they went; empty when nothing was sent
+    Headers headers;  ///< in the order sent; empty if nothing was sent
     QByteArray body;  ///< UTF-8, empty for none
 };
 
-/// A call that could be made, and the request that it would send.
+/// A call that can be made, and the request that it would send.
 struct RequestDraft {
     const catalogue::Call* call = nullptr;
     QJsonObject arguments;
     SentRequest request;         ///< without a method when the call cannot be packed
-    QStringList apicallOptions;  ///< that lead apicall to the same server
+    QStringList apicallOptions;  ///< that select the same server
 };
 
-/// The answer of a server.
+/// The reply of a server.
 struct RawReply {
     int status = -1;
     Headers headers;
     QByteArray body;  ///< decompressed
 };
 
-/// When an exchange came how far, in milliseconds since its call was packed.
+/// The times of an exchange, in milliseconds since its call was packed.
 struct ExchangeTimes {
-    double sent = 0;  ///< the call had its turn
+    double sent = 0;  ///< passed to the network
     std::optional<double> firstByte;
     double finished = 0;
 };
@@ -61,36 +61,36 @@ struct ExchangeTimes {
 /// How a call is run.
 enum class Way {
     WaitDialog,      ///< waits behind the wait dialog
-    EventLoop,       ///< waits in the event loop, input goes on
-    WithoutWaiting,  ///< begins it; others may be under way at the same time
+    EventLoop,       ///< waits in the event loop, which delivers input
+    WithoutWaiting,  ///< starts the call; several can run at the same time
 };
 
-/// What one run of a call left behind, all but the record.
+/// The outcome of one run of a call, without the record.
 struct RunSummary {
     const catalogue::Call* call = nullptr;
     QJsonObject arguments;
-    QString server;  ///< the name of the server that was asked
+    QString server;  ///< name of the server
     QDateTime started;
-    double elapsedMilliseconds = 0;      ///< until the end of the exchange, or of the run when there was none
-    std::optional<ExchangeTimes> times;  ///< nothing without an exchange
+    double elapsedMilliseconds = 0;      ///< to the end of the exchange, or of the run without one
+    std::optional<ExchangeTimes> times;  ///< empty without an exchange
 
     int result = -1;  ///< APIModule::OutcomeBase::Code()
     bool succeeded = false;
-    QString resultText;  ///< the result in the user's words
+    QString resultText;  ///< the result as text for the user
     Way way = Way::EventLoop;
-    int timeoutSeconds = 0;  ///< longest wait
+    int timeoutSeconds = 0;  ///< time-out of the call
 
     SentRequest request;
-    std::optional<RawReply> reply;  ///< when a complete answer came
-    QString connectionError;        ///< why none came
+    std::optional<RawReply> reply;  ///< if a complete reply arrived
+    QString connectionError;        ///< why no reply arrived
 };
 
-/// What one run of a call left behind.
+/// The outcome of one run of a call.
 struct CallOutcome : RunSummary {
-    nlohmann::json record;  ///< as far as the Parse filled it; null when it did not run
+    nlohmann::json record;  ///< as far as the Parse filled it; null if it did not run
 };
 
-/// Whether the reply brings a token, which goes into no file.
+/// Whether the reply contains a token. Such a reply is never written to a file.
 inline bool BringsToken(const catalogue::Call& call)
 {
     return call.name == "BRMS.GetDeriveToken" || call.name == "BRMS.GetChannelWebAuthorization";

@@ -10,25 +10,25 @@
 
 namespace explorer {
 
-/// What the contract says about a value that is sent.
+/// What the contract states about a value that is sent.
 struct FieldFacts {
     QString description;
     QString example;
-    QStringList values;  ///< the only ones that the server takes; empty for any
+    QStringList values;  ///< the only values that the server accepts; empty for any
     std::optional<double> minimum;
     std::optional<double> maximum;
 };
 
-/// By name; the facts of a field inside of another one by "<the other one>/<name>", where they differ.
+/// By name; a field inside another one is "<outer>/<name>" where its facts differ.
 using FactsByName = QHash<QString, FieldFacts>;
 
-/// A value that can be entered, and what it stands for.
+/// A value that can be entered, and its meaning.
 struct Completion {
     QString value;
     QString meaning;  ///< may be empty
 };
 
-/// The values that are known for an argument or a field of that name.
+/// The known values of an argument or field with that name.
 using Completions = std::function<QVector<Completion>(const QString& name)>;
 
 }  // namespace explorer

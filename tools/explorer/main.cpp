@@ -23,7 +23,7 @@ class CommandLine {
     Q_DECLARE_TR_FUNCTIONS(explorer::CommandLine)
 };
 
-/// Tells when the window is on the screen for the first time, and ends the program.
+/// Reports when the window is first painted, and ends the program.
 class FirstPaint : public QObject {
 public:
     explicit FirstPaint(const QElapsedTimer& sinceStart) : m_sinceStart(sinceStart) {}
@@ -32,7 +32,7 @@ public:
     {
         if (pEvent->type() == QEvent::Paint) {
             pWatched->removeEventFilter(this);
-            // Behind the paint event and what it asks for.
+            // After the paint event and those that it posts.
             QTimer::singleShot(0, this, [this] {
                 QTextStream(stdout) << "first window after " << m_sinceStart.elapsed() << " ms\n";
                 QApplication::quit();

@@ -12,7 +12,7 @@
 
 namespace explorer {
 
-/// Where a call goes, which keys travel and what they mean, as the contract describes it.
+/// Endpoint, keys and descriptions of a call, from the contract.
 struct Endpoint {
     QString method;
     QString path;  ///< with its placeholders, "/brms/api/v1.1/user/group/{groupId}"
@@ -24,16 +24,16 @@ struct Endpoint {
 /// By the name of the call.
 using Endpoints = QHash<QString, Endpoint>;
 
-/// Where the build places the contract.
+/// The contract in the build folder.
 std::filesystem::path DefaultContract();
 
-/// Reads the contract of that folder; empty when it cannot be read. May be called from any thread.
+/// Reads the contract in that folder; empty if it cannot be read. Callable on any thread.
 Endpoints ReadEndpoints(const std::filesystem::path& contract);
 
-/// What a user may look for to find the call: its name, summary and subject, its functions, arguments and fields.
+/// The words that find the call: its name, summary, subject, functions, arguments and fields.
 QString SearchText(const catalogue::Call& call);
 
-/// The call's name without its family.
+/// The name of the call without its family.
 QString ShortName(const catalogue::Call& call);
 
 }  // namespace explorer

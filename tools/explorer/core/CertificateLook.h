@@ -7,7 +7,7 @@
 
 namespace explorer {
 
-/// Looks at the certificate that a server presents. Nothing is sent to it but the handshake of TLS.
+/// Retrieves the certificate that a server presents. Sends nothing but the TLS handshake.
 class CertificateLook : public QObject {
     Q_OBJECT
 

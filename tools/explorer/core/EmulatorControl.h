@@ -12,13 +12,13 @@ namespace explorer {
 
 class EmulatorProcess;
 
-/// What the control path of the emulator replied.
+/// A reply of the control path of the emulator.
 struct ControlReply {
-    QString error;        ///< why nothing was done; empty for a success
+    QString error;        ///< why the request failed; empty on success
     nlohmann::json body;  ///< null without one
 };
 
-/// The control path of the emulator that the program starts: its faults, its requests, its state.
+/// Client of the control path of the emulator that this program starts.
 class EmulatorControl : public QObject {
     Q_OBJECT
 
@@ -28,9 +28,9 @@ public:
     /// @param emulator must outlive the object
     explicit EmulatorControl(const EmulatorProcess& emulator, QObject* pParent = nullptr);
 
-    /// @param path behind /emulator/v1/, with its query
+    /// @param path path and query below /emulator/v1/
     /// @param body null for none
-    /// @param done is called later, unless @p pContext is deleted before
+    /// @param done called with the reply, unless @p pContext was deleted
     void Ask(const char* method, const QString& path, const nlohmann::json& body, QObject* pContext, const Done& done);
 
 private:

@@ -9,10 +9,10 @@ class QProcess;
 
 namespace explorer {
 
-/// What an emulator starts with.
+/// Start options of the emulator.
 struct EmulatorOptions {
-    int scale = 1;       ///< its lists are so many times as long
-    QString seedFolder;  ///< empty for its own
+    int scale = 1;       ///< multiplies the length of the seeded lists
+    QString seedFolder;  ///< empty for the bundled one
 };
 
 /// The platform emulator as a child of this program, on free ports of the loopback address.
@@ -28,30 +28,30 @@ public:
 
     /// @param program path of platform-emulator
     explicit EmulatorProcess(QString program, QObject* parent = nullptr);
-    /// Stops.
+    /// Stops the emulator.
     ~EmulatorProcess() override;
 
-    /// The program as the build places it, beside this one.
+    /// The emulator beside this program.
     static QString DefaultProgram();
 
     void Start();
     void Stop();
-    /// Stops, and starts with the options of now.
+    /// Restarts with the current options.
     void Restart();
 
     [[nodiscard]] const EmulatorOptions& Options() const { return m_options; }
-    /// From the next start on.
+    /// Takes effect at the next start.
     void SetOptions(const EmulatorOptions& options) { m_options = options; }
 
     [[nodiscard]] State GetState() const { return m_state; }
     [[nodiscard]] int HttpPort() const { return m_httpPort; }
     [[nodiscard]] int HttpsPort() const { return m_httpsPort; }
-    /// For calls and for the control path; fresh for each start.
+    /// Token of calls and of the control path; a new one for each start.
     [[nodiscard]] const QString& Token() const { return m_token; }
 
 Q_SIGNALS:
     void StateChanged();
-    /// It ended by itself or could not be started.
+    /// The emulator ended unexpectedly or could not be started.
     void Failed(const QString& why);
 
 private:

@@ -11,7 +11,7 @@
 
 namespace explorer {
 
-/// The requests that the emulator got, the oldest first: as many of the latest as it keeps itself.
+/// The requests that the emulator received, oldest first; as many as the emulator keeps.
 class EmulatorRequests : public QAbstractTableModel {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ public:
         QDateTime time;
         QString method;
         QString target;
-        Headers headers;  ///< the token masked
+        Headers headers;  ///< with the token masked
         QByteArray body;
         int status = 0;           ///< 0 for none
         std::optional<int> code;  ///< of the envelope
@@ -39,11 +39,11 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Adds requests as the control path lists them, and completes those that had no reply yet.
+    /// Adds requests from the list of the control path, and completes those without a reply.
     void Take(const nlohmann::json& list);
     void Clear();
 
-    /// The number after which requests are missing or incomplete here.
+    /// All requests up to this number are complete here.
     [[nodiscard]] std::size_t CompleteTo() const;
 
     [[nodiscard]] const Entry& At(int row) const { return m_entries.at(std::size_t(row)); }

@@ -6,7 +6,7 @@
 
 namespace explorer {
 
-/// Lines as they come, the oldest first; the oldest go when there are too many.
+/// Lines in the order of arrival. The oldest are removed when there are too many.
 class Feed : public QAbstractTableModel {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
         SourceColumn,
         ColumnCount
     };
-    static constexpr int kLevelRole = Qt::UserRole;  ///< the level's number
+    static constexpr int kLevelRole = Qt::UserRole;  ///< number of the level
     static constexpr int kMostLines = 5000;
     static constexpr int kInformation = 4;
     static constexpr int kFailure = 6;
@@ -40,14 +40,14 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// "Information", "Failure" and so on.
+    /// "Information", "Failure", ...
     static QString LevelName(int level);
 
 private:
     QVector<Line> m_lines;
 };
 
-/// The lines that the library and others log in this process, for as long as it lives.
+/// The log lines of this process, for the lifetime of the object.
 class LogFeed : public Feed {
     Q_OBJECT
 
@@ -56,14 +56,14 @@ public:
     ~LogFeed() override;
 };
 
-/// What the user was notified of.
+/// The notifications that the user received.
 class NotificationFeed : public Feed {
     Q_OBJECT
 
 public:
     explicit NotificationFeed(QObject* parent = nullptr);
 
-    /// The next notification is that of an outcome.
+    /// The next notification belongs to this outcome.
     void ExpectOutcome(bool succeeded);
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;

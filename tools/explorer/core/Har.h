@@ -8,8 +8,8 @@
 
 namespace explorer {
 
-/// The exchanges of runs as an HTTP archive (HAR 1.2); runs that made no request are left out, and so are replies that
-/// bring tokens.
+/// The exchanges of runs as an HTTP archive (HAR 1.2), without runs that sent no request and without replies that
+/// contain tokens.
 nlohmann::json Har(const std::vector<const RunSummary*>& runs);
 
 }  // namespace explorer

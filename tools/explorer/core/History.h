@@ -13,14 +13,14 @@ class QSettings;
 
 namespace explorer {
 
-/// A run that is over, with its record packed: unpacked, a large one takes many times the bytes of its reply.
+/// A finished run. Its record is packed, because a large one takes many times the size of its reply otherwise.
 class PastRun {
 public:
     explicit PastRun(const CallOutcome& outcome);
 
     [[nodiscard]] const RunSummary& Summary() const { return m_summary; }
     [[nodiscard]] CallOutcome Outcome() const;
-    /// What it takes in memory, about.
+    /// Approximate size in memory.
     [[nodiscard]] qint64 Bytes() const { return m_bytes; }
 
 private:
@@ -32,8 +32,8 @@ private:
 using PastRunPtr = std::shared_ptr<const PastRun>;
 using PastRuns = std::vector<PastRunPtr>;
 
-/// The runs of the session, the oldest first. When they take more bytes than the limit allows, the oldest go; the last
-/// one always stays.
+/// The runs of the session, oldest first. Above the limit in bytes, the oldest are removed; the last one always
+/// stays.
 class History : public QAbstractTableModel {
     Q_OBJECT
 
@@ -48,24 +48,24 @@ public:
         ColumnCount
     };
 
-    /// @param settings keeps the limit; must outlive the history
+    /// @param settings stores the limit; must outlive the history
     explicit History(QSettings& settings, QObject* parent = nullptr);
 
     void Add(const CallOutcome& outcome);
     void Clear();
 
     [[nodiscard]] const PastRunPtr& At(int row) const { return m_runs.at(std::size_t(row)); }
-    /// The last runs of a call, at most so many, the oldest first.
+    /// The most recent runs of a call, oldest first.
     [[nodiscard]] PastRuns RunsOf(const catalogue::Call& call, std::size_t most) const;
-    /// Null when it has not been run.
+    /// Null if the call has not been run.
     [[nodiscard]] PastRunPtr LastOf(const catalogue::Call& call) const;
 
     [[nodiscard]] qint64 Bytes() const { return m_bytes; }
     [[nodiscard]] int LimitInMegabytes() const { return m_limit; }
     void SetLimitInMegabytes(int limit);
 
-    /// Whether the runs are kept in a file beside the settings, which only the user may read: without session tokens,
-    /// and without the replies that bring any.
+    /// Whether the runs are saved in a file beside the settings that only the user can read, without session tokens
+    /// and without replies that contain tokens.
     [[nodiscard]] bool IsKept() const { return m_bKept; }
     void SetKept(bool kept);
 

@@ -10,7 +10,7 @@
 
 namespace explorer {
 
-/// The identifiers that the reads of the session brought, with the names beside them.
+/// The identifiers that reads of this session returned, with their names.
 class Identifiers : public QObject {
     Q_OBJECT
 
@@ -18,8 +18,8 @@ public:
     using QObject::QObject;
 
     void Add(const CallOutcome& outcome);
-    /// Those for an argument or a field of that name: "channelId" for "channelId" and "channelIds", the "id" of a
-    /// parking lot for "parkingLotId" and, in a call about parking lots, for "id".
+    /// The identifiers for an argument or field: "channelId" for "channelId" and "channelIds", the "id" of a parking
+    /// lot for "parkingLotId" and, in a call about parking lots, for "id".
     [[nodiscard]] QVector<Completion> For(const catalogue::Call& call, const QString& name) const;
 
 signals:
@@ -28,10 +28,10 @@ signals:
 private:
     struct Source {
         QString field;
-        QString record;  ///< type of the record around it, in lower case
+        QString record;  ///< type of the enclosing record, in lower case
         [[nodiscard]] bool operator<(const Source& other) const;
     };
-    using Known = QMap<QString, QString>;  ///< names by identifiers
+    using Known = QMap<QString, QString>;  ///< names by identifier
 
     bool AddInside(const catalogue::Type& type, const nlohmann::json& value);
     bool AddRecord(const catalogue::Type& type, const nlohmann::json& record);

@@ -6,8 +6,8 @@
 
 namespace explorer {
 
-/// The JSON merge patch (RFC 7396) that makes one value into another.
-/// @return nothing when none does, because a member is to become null
+/// The JSON merge patch (RFC 7396) that turns one value into the other.
+/// @return nothing if no patch does, because a member becomes null
 std::optional<nlohmann::json> MergePatch(const nlohmann::json& from, const nlohmann::json& to);
 
 }  // namespace explorer

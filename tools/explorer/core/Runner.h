@@ -18,20 +18,20 @@
 
 namespace explorer {
 
-/// A call that is to be made.
+/// A call to make.
 struct RunOrder {
     const catalogue::Call* call = nullptr;
     QJsonObject arguments;
-    Server server;                           ///< that the user manager knows as the current one
-    std::optional<int> timeoutSeconds = {};  ///< instead of the call's own
+    Server server;                           ///< the current server of the user manager
+    std::optional<int> timeoutSeconds = {};  ///< replaces that of the call
     Way way = Way::EventLoop;
     QPointer<QWidget> parent = {};                          ///< under the wait dialog
-    std::function<void(const CallOutcome&)> finished = {};  ///< after Runner::Finished
+    std::function<void(const CallOutcome&)> finished = {};  ///< called after Runner::Finished
 };
 
-/// Makes calls through the library, each from the event loop, so that nothing of a window is on the stack while a call
-/// waits. Calls may be ordered while others wait: those that wait run inside the wait of the others, those without
-/// waiting beside them.
+/// Makes calls through the library, each from the event loop, so that no code of a window is on the stack while a call
+/// waits. Calls can be ordered while others wait. A call that waits then runs inside the wait of the other one; a call
+/// without waiting runs beside it.
 class Runner : public QObject {
     Q_OBJECT
 
@@ -41,22 +41,22 @@ public:
 
     void Order(const RunOrder& order);
 
-    /// Makes the call so many times, one after the other. Input goes on meanwhile. One repetition is made at a time.
+    /// Repeats the call, one run after the other, while input is processed. Only one repetition runs at a time.
     void Repeat(const RunOrder& order, int count);
-    /// No further repetition begins.
+    /// Stops after the current run.
     void CancelRepeat();
 
-    /// What an order would send. Nothing is sent.
+    /// The request that an order would send. Sends nothing.
     [[nodiscard]] static RequestDraft Draft(const RunOrder& order);
 
-    /// Ends a call that runs without waiting, which has its outcome at once. Nothing happens when it has ended.
+    /// Cancels a call that runs without waiting. Its outcome follows at once. Ignored if the call has ended.
     void Cancel(int number);
 
-    /// Calls that were ordered and have not ended.
+    /// The number of calls that were ordered and have not ended.
     [[nodiscard]] int Pending() const { return m_pending; }
     [[nodiscard]] bool IsRepeating() const { return m_bRepeats; }
 
-    /// The orders of the calls that run without waiting, by their numbers.
+    /// The calls that run without waiting, by number.
     [[nodiscard]] std::map<int, RunOrder> WithoutWaiting() const;
 
 Q_SIGNALS:
@@ -64,7 +64,7 @@ Q_SIGNALS:
     void Finished(const explorer::CallOutcome& outcome);
     /// The library is about to notify the user of an outcome.
     void Notifying(bool succeeded);
-    /// The server knows no session of the token that a call was made with.
+    /// The server did not accept the session token of a call.
     void TokenRefused(const QString& serverId, const QString& token);
     /// WithoutWaiting() has changed.
     void WithoutWaitingChanged();
@@ -93,7 +93,7 @@ private:
     int m_lastNumber = 0;
     int m_pending = 0;
     bool m_bRepeats = false;
-    int m_repeats = 0;  // asked for
+    int m_repeats = 0;  // requested
 };
 
 }  // namespace explorer

@@ -9,9 +9,9 @@ class QSettings;
 
 namespace explorer {
 
-/// How a server is reached. Its token is not here: that is the token store's.
+/// Address of a server. Its token is in the token store.
 struct Server {
-    QString id;  ///< names the server in settings and token store
+    QString id;  ///< key of the server in settings and token store
     QString name;
     QString host;
     int port = 443;
@@ -19,17 +19,17 @@ struct Server {
     QString language = QStringLiteral("en");
     QByteArray pin = {};  ///< SHA-256 digest of the only certificate that calls trust; empty to trust any
 
-    /// "https://host:port", with kUnknownPort for the port of an emulator that does not run
+    /// "https://host:port", with kUnknownPort as the port of a stopped emulator
     [[nodiscard]] QString Address() const;
 };
 
 bool operator==(const Server& left, const Server& right);
 
-/// The identifier of the entry that stands for the emulator that the program itself starts.
+/// The identifier of the entry for the emulator that this program starts.
 extern const QString kEmulatorId;
 
-/// The named servers, kept in the settings. The emulator's entry is always the first; its address comes and goes with
-/// it.
+/// The named servers, stored in the settings. The entry of the emulator is always the first; it has an address while
+/// the emulator runs.
 class Servers : public QObject {
     Q_OBJECT
 
@@ -44,16 +44,16 @@ public:
 
     void SetCurrent(int index);
 
-    /// Takes the place of every entry but the emulator's own, of which scheme and language are taken over.
+    /// Replaces all entries except that of the emulator, which only takes scheme and language.
     void Replace(const QVector<Server>& servers);
 
-    /// Where the emulator listens; the port is 0 while it does not.
+    /// Sets the address of the emulator; port 0 while it is stopped.
     void SetEmulatorPorts(int http, int https);
 
-    /// Names the emulator's entry in the language of now.
+    /// Renames the entry of the emulator after a change of language.
     void Retranslate();
 
-    /// A server with a fresh identifier.
+    /// A server with a new identifier.
     static Server Fresh(const QString& name);
 
 Q_SIGNALS:

@@ -18,15 +18,15 @@ class QSettings;
 
 namespace explorer {
 
-/// The host of the library without its windows: servers and tokens, the emulator, runs, and what is told of them. It
-/// lives as long as the program, while windows come and go.
+/// The host of the library without its windows: servers, tokens, emulator, runs, notifications and log. It lives as
+/// long as the program, while windows come and go.
 class Session : public QObject {
     Q_OBJECT
 
 public:
     /// @param settings and @p vault (null for none) must outlive the session
     Session(QSettings& settings, Tokens::Vault* vault, const QString& emulatorProgram, QObject* parent = nullptr);
-    /// Ends the use of the library.
+    /// Detaches from the library.
     ~Session() override;
 
     QSettings& settings;
@@ -38,15 +38,15 @@ public:
     Identifiers identifiers;
     LogFeed log;
     NotificationFeed notifications;
-    QHash<QString, QJsonObject> drafts;  ///< arguments of calls that were left without a run, by name
+    QHash<QString, QJsonObject> drafts;  ///< arguments that were entered but not run, by call
 
-    /// The current server's token, nothing while it is not known.
+    /// The token of the current server; nothing while it is unknown.
     [[nodiscard]] std::optional<QString> CurrentToken() const;
 
-    /// Keeps them, for the next start of the emulator and of the program.
+    /// Stores the options for the next start of emulator and program.
     void SetEmulatorOptions(const EmulatorOptions& options);
 
-    /// Whether calls can be made: always but for an emulator that does not run.
+    /// Whether calls can be made: always, except to a stopped emulator.
     [[nodiscard]] bool IsReady() const;
 
 private:
@@ -55,7 +55,7 @@ private:
     void ReleaseMemory(const CallOutcome& outcome);
 
     catalogue::OneServer m_users;
-    QByteArray m_pin;  // that the library has
+    QByteArray m_pin;  // that the library uses
 };
 
 }  // namespace explorer

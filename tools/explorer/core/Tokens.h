@@ -10,14 +10,14 @@
 
 namespace explorer {
 
-/// The session tokens of the servers: in memory while the program runs, and between its runs in the desktop's secret
-/// service where there is one. They are never written to a file.
+/// The session tokens of the servers: in memory while the program runs, and between runs in the secret service of the
+/// desktop if it has one. They are never written to a file.
 class Tokens : public QObject {
     Q_OBJECT
 
 public:
-    /// Where tokens are kept between runs; does nothing where there is no such place. @p done is told the token, or
-    /// nothing when none was kept, or whether it worked.
+    /// Stores tokens between runs, where the desktop can. @p done receives the token, or nothing if none is stored, or
+    /// whether the operation succeeded.
     class Vault {
     public:
         virtual ~Vault() = default;
@@ -26,19 +26,19 @@ public:
         virtual void Remove(const QString& serverId) = 0;
     };
 
-    /// @param vault must outlive the tokens; null keeps nothing between runs
+    /// @param vault must outlive the tokens; null stores nothing between runs
     explicit Tokens(Vault* vault, QObject* parent = nullptr);
 
-    /// Nothing while it is not known: it was not given in this run and has not come from the vault.
+    /// The token; nothing if it was not entered in this run and the vault has not returned it.
     [[nodiscard]] std::optional<QString> Find(const QString& serverId) const;
 
     /// Asks the vault, once for each server.
     void Fetch(const QString& serverId);
 
-    /// @param keep between the runs of the program, too; Kept() tells whether that worked
+    /// @param keep store it between runs, too; Kept() reports whether that succeeded
     void Set(const QString& serverId, const QString& token, bool keep);
     void Forget(const QString& serverId);
-    /// The server does not accept the token: it is not known any more, unless another one has taken its place.
+    /// Forgets a token that the server did not accept, unless another one has replaced it.
     void Refuse(const QString& serverId, const QString& token);
 
 Q_SIGNALS:
