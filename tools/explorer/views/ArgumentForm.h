@@ -24,46 +24,46 @@ struct Call;
 
 namespace explorer {
 
-/// The arguments of a call as a form made of the call's description, or as JSON; checked as they are typed.
+/// The arguments of a call as a form built from its description, or as JSON. Input is checked as it is typed.
 class ArgumentForm : public QWidget {
     Q_OBJECT
 
 public:
     explicit ArgumentForm(QWidget* pParent = nullptr);
 
-    /// Shows the arguments of a call with the values of fresh ones.
+    /// Shows the arguments of a call with default values.
     void SetCall(const catalogue::Call& call);
 
     [[nodiscard]] const catalogue::Call* Call() const { return m_pCall; }
 
-    /// Shows what is known of arguments and fields, those of list elements that are still to be added included. Values
-    /// that the server would refuse are not valid.
+    /// Shows facts of arguments and fields, including those of list elements that are added later. Values that the
+    /// server would refuse are invalid.
     void Describe(const FactsByName& facts, const Completions& completions = {});
 
-    /// Each argument under its name. Fields that are not valid count as 0.
+    /// The arguments by name. Invalid fields count as 0.
     [[nodiscard]] QJsonObject Arguments() const;
-    /// Takes over what fits the call; everything else stays as it is.
+    /// Sets the values that fit the call; all others stay.
     void SetArguments(const QJsonObject& arguments, Origin origin = Origin::Unseen);
-    /// What the user has not entered since the call was set. A place begins with the name of the argument.
+    /// The values that the user has not entered since the call was set. A path begins with the name of the argument.
     [[nodiscard]] Unentered NotEntered() const;
-    /// Offers to take what a read returns; without a name it does not.
+    /// Offers to fill the form from this read; an empty name hides the offer.
     void OfferRead(const QString& name);
 
-    /// Whether there is a call and each field holds a value of its type.
+    /// Whether there is a call and every field holds a valid value.
     [[nodiscard]] bool IsValid() const;
 
-    /// Puts the form on the clipboard as a JSON object.
+    /// Copies the arguments to the clipboard as a JSON object.
     void Copy();
-    /// Fills the form from the clipboard. What is wrong with it is shown, and then nothing changes.
+    /// Fills the form from the clipboard. If the JSON is invalid, shows why and changes nothing.
     void Paste();
 
 signals:
     void Changed();
-    /// The values of the server are wanted.
+    /// The user asked for the values of the server.
     void ReadRequested();
 
 private:
-    /// Puts what does not fit into words of %1.
+    /// Shows the problem as a text with %1.
     bool Take(const QString& text, const QString& problem);
     void TakeJson();
     void ShowRefusal();

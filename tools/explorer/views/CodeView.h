@@ -10,8 +10,8 @@ namespace explorer {
 
 class FindBar;
 
-/// A text to read, to search and to copy. Of a very long one a part is shown at first; the search and the copy have all
-/// of it.
+/// Shows a text that can be searched and copied. Of a very long text it shows a part at first; search and copy cover
+/// all of it.
 class CodeView : public QWidget {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
         Text  ///< with lines of any length, which are wrapped
     };
 
-    /// @p hint stands there while there is no text.
+    /// @param hint shown while there is no text
     CodeView(Kind kind, const QString& hint, QWidget* pParent = nullptr);
 
     void SetText(const QString& text);
@@ -37,7 +37,7 @@ private:
     void ShowMatch(int position, int length);
 
     QString m_text;
-    int m_from = 0;  // of the part that is shown
+    int m_from = 0;  // start of the visible part
     int m_length = 0;
     QPlainTextEdit* m_pEdit;
     QLabel* m_pShortened;

@@ -6,7 +6,7 @@
 
 namespace explorer {
 
-/// Completes a value from any part of it or of its meaning.
+/// Completes a value from any part of the value or its meaning.
 class Completer : public QCompleter {
     Q_OBJECT
 

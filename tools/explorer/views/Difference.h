@@ -8,10 +8,10 @@
 
 namespace explorer {
 
-/// A place where two values differ.
+/// A path at which two values differ.
 struct Difference {
-    QString path;  ///< JSON pointer; empty for the whole
-    QString left;  ///< compact JSON; empty when it is not there
+    QString path;  ///< JSON pointer; empty for the root
+    QString left;  ///< compact JSON; empty if missing
     QString right;
 };
 

@@ -12,17 +12,17 @@ class QToolButton;
 
 namespace explorer {
 
-/// Searches a text, ignoring case: a field, the number of matches, and the steps between them.
+/// Searches a text, ignoring case: a field, the number of matches, and buttons for the next and previous match.
 class FindBar : public QWidget {
     Q_OBJECT
 
 public:
     explicit FindBar(QWidget* pParent = nullptr);
 
-    /// The text to search; the current match is the first one again.
+    /// Sets the text to search. The first match becomes the current one.
     void SetText(const QString& text);
     void FocusField();
-    /// The keys that search: Find, FindNext and FindPrevious. False for any other key.
+    /// Handles the keys Find, FindNext and FindPrevious. @return false for any other key
     bool Press(const QKeyEvent& event);
     [[nodiscard]] static bool IsFindKey(const QKeyEvent& event);
 

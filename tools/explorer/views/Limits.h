@@ -4,10 +4,10 @@
 
 namespace explorer {
 
-/// The values that the server takes, such as "1, 2" or "\u2265 0"; empty for any.
+/// The values that the server accepts, such as "1, 2" or "\u2265 0"; empty for any.
 QString LimitsText(const FieldFacts& facts);
 
-/// Why the server refuses a text; empty when it does not.
+/// Why the server would refuse a text; empty if it would not.
 QString LimitProblem(const FieldFacts& facts, const QString& text);
 
 }  // namespace explorer

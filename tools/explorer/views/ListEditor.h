@@ -11,7 +11,7 @@ class QVBoxLayout;
 
 namespace explorer {
 
-/// The elements of a list under each other, to add, to remove and to move.
+/// Edits a list: its elements can be added, removed and moved.
 class ListEditor : public ValueEditor {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
         QToolButton* pDown;
         QToolButton* pRemove;
         bool isAdded = false;       // by the user
-        std::size_t untouched = 0;  // values in an element that was just added
+        std::size_t untouched = 0;  // untouched values of an element that was just added
     };
 
     void Append();
@@ -49,7 +49,7 @@ private:
     const catalogue::Type& m_element;
     const QString m_name;
     std::vector<Row> m_rows;
-    bool m_bEntered = false;  // which elements there are
+    bool m_bEntered = false;  // whether the user added, removed or moved elements
     QVBoxLayout* m_pLayout;
     QLabel* m_pHint;
     QPushButton* m_pAdd;

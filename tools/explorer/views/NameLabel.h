@@ -11,10 +11,10 @@ class NameLabel : public QLabel {
     Q_OBJECT
 
 public:
-    /// @param typeName of the value, shown in the tool tip
+    /// @param typeName type of the value, shown in the tool tip
     explicit NameLabel(const QString& name, const QString& typeName = QString());
 
-    /// Adds what is known of the value to the tool tip, and gives it to screen readers at the field.
+    /// Adds the facts of the value to the tool tip, and to the description of the field for screen readers.
     void Describe(const FieldFacts& facts);
 
 private:

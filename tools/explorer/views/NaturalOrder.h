@@ -5,7 +5,7 @@
 
 namespace explorer {
 
-/// Sorts texts as people do: whatever their case, in the order of the language, and 9 before 10.
+/// Sorts texts in the order of the language, ignoring case, and 9 before 10.
 class NaturalOrder : public QSortFilterProxyModel {
     Q_OBJECT
 

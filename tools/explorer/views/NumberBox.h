@@ -8,7 +8,7 @@
 
 namespace explorer {
 
-/// Edits a number of the catalogue. Whatever is typed stays; Problem() says what is wrong with it.
+/// Edits a number of the catalogue. Keeps any text that is typed; Problem() reports why it is invalid.
 class NumberBox : public QAbstractSpinBox {
     Q_OBJECT
 
@@ -16,12 +16,12 @@ public:
     /// @p kind is Int, Int64 or Double.
     explicit NumberBox(catalogue::Kind kind, QWidget* pParent = nullptr);
 
-    /// Empty when the text is a number of the kind.
+    /// Empty if the text is a number of the kind.
     [[nodiscard]] QString Problem() const;
-    /// 0 while there is a problem.
+    /// The number; 0 while the text is invalid.
     [[nodiscard]] nlohmann::json Value() const;
     void SetValue(const nlohmann::json& value);
-    /// The field that is typed in.
+    /// The line edit.
     [[nodiscard]] QLineEdit* Line() const { return lineEdit(); }
 
     void stepBy(int steps) override;

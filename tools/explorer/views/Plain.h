@@ -4,7 +4,7 @@
 
 namespace explorer {
 
-/// Whether a value of the type stands in one field.
+/// Whether a value of the type is edited in one field.
 inline bool IsPlain(const catalogue::Type& type)
 {
     return type.kind != catalogue::Kind::Record && type.kind != catalogue::Kind::List;

@@ -12,7 +12,7 @@ namespace explorer {
 
 class NumberBox;
 
-/// A value in one field.
+/// Edits a value in one field.
 class PlainEditor : public ValueEditor {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
 
 protected:
     virtual void Put(const nlohmann::json& value) = 0;
-    /// The field has another value.
+    /// The value of the field has changed.
     void Edited();
 
 private:
@@ -49,25 +49,25 @@ private:
     QCheckBox* m_pBox;
 };
 
-/// A field of text whose value the server may refuse. Says under the field what is wrong with it.
+/// A text field whose value the server may refuse. Shows the reason below the field.
 class CheckedEditor : public PlainEditor {
     Q_OBJECT
 
 public:
     [[nodiscard]] bool IsValid() const override;
-    /// Why the value is not valid; empty when it is.
+    /// Why the value is invalid; empty if it is valid.
     [[nodiscard]] QString Problem() const;
     [[nodiscard]] QString Name() const { return m_name; }
-    /// Shows and checks what is known of the value.
+    /// Shows the facts of the value and checks it against them.
     void SetFacts(const FieldFacts& facts, const QVector<Completion>& completions);
 
 protected:
     CheckedEditor(const QString& name, QWidget* pParent);
 
-    /// The field, with the line that is edited in it.
+    /// The field and its line edit.
     void Show(QWidget* pField, QLineEdit* pLine, Qt::Alignment alignment);
     void TextEdited();
-    /// What is wrong with the text whatever the facts are; empty for nothing.
+    /// Why the text is invalid regardless of the facts; empty if it is valid.
     [[nodiscard]] virtual QString OwnProblem() const { return {}; }
 
 private:

@@ -12,7 +12,7 @@ class QVBoxLayout;
 
 namespace explorer {
 
-/// The members of a record, or the arguments of a call, under each other.
+/// Edits the members of a record or the arguments of a call.
 class RecordEditor : public ValueEditor {
     Q_OBJECT
 
@@ -29,13 +29,13 @@ private:
     std::vector<std::pair<std::string, ValueEditor*>> m_members;
 };
 
-/// Adds a value to a form: plain ones behind their label, others in a box of their own.
+/// Adds a value to a form: plain values beside their label, others in a box.
 ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QString& name);
 
-/// A form whose labels and fields stand alike wherever it is.
+/// A form with the same alignment in every place.
 QFormLayout* MakeForm(QWidget* pWidget);
 
-/// Makes a frame the box of what belongs together; the layout takes it.
+/// Turns a frame into a box around related fields, and adds it to the layout.
 QVBoxLayout* MakeBox(QFrame* pFrame);
 
 }  // namespace explorer

@@ -11,7 +11,7 @@
 
 namespace explorer {
 
-/// A record as a tree: the name, the value and the type of each field. Its nodes are made when they are asked for.
+/// A record as a tree with name, value and type of each field. Creates its nodes on demand.
 class RecordModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -26,20 +26,20 @@ public:
     explicit RecordModel(QObject* pParent = nullptr);
     ~RecordModel() override;
 
-    /// @p record fits the type.
+    /// @param record fits the type
     void SetRecord(const catalogue::Type& type, const SharedRecord& pRecord,
                    const catalogue::MissingFields& missing = {});
     void Clear();
 
-    /// Shows what contains the text in its name or its value, in upper or lower case, with all that is around and in
-    /// it.
+    /// Shows the nodes whose name or value contains the text, ignoring case, with their parents and everything inside
+    /// them.
     void Filter(const QString& text);
-    /// How many names and values contain the text of the filter.
+    /// The number of nodes that match the filter.
     [[nodiscard]] int Matches() const { return m_matches; }
 
     /// The value of a node; null for an invalid index.
     [[nodiscard]] const nlohmann::json* Value(const QModelIndex& index) const;
-    /// The place of a node in the record, a JSON pointer.
+    /// The JSON pointer of a node.
     [[nodiscard]] QString Path(const QModelIndex& index) const;
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -60,7 +60,7 @@ private:
     [[nodiscard]] const Node& Opened(const QModelIndex& index) const;
     [[nodiscard]] bool IsMissing(const Node& node) const;
     [[nodiscard]] bool Contains(const QString& name, const catalogue::Type& type, const nlohmann::json& value) const;
-    /// Whether it, or anything in it, contains the text of the filter.
+    /// Whether the node or anything in it matches the filter.
     [[nodiscard]] bool ContainsInside(const QString& name, const catalogue::Type& type,
                                       const nlohmann::json& value) const;
     [[nodiscard]] int Count(const QString& name, const catalogue::Type& type, const nlohmann::json& value) const;
@@ -71,7 +71,7 @@ private:
     catalogue::MissingFields m_missing;
     QString m_filter;
     int m_matches = 0;
-    std::unique_ptr<Node> m_pRoot;  // above the record itself
+    std::unique_ptr<Node> m_pRoot;  // parent of the record
 };
 
 }  // namespace explorer

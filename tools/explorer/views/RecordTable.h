@@ -16,19 +16,19 @@ namespace explorer {
 
 class TotalsRow;
 
-/// The lists of a record as tables to sort, to filter and to export, with the totals of their counts.
+/// The lists of a record as tables that can be sorted, filtered and exported, with the totals of their counts.
 class RecordTable : public QWidget {
     Q_OBJECT
 
 public:
     explicit RecordTable(QWidget* pParent = nullptr);
 
-    /// False, and then it is empty, when there is no list in the record.
+    /// @return false, with an empty table, if the record has no list
     bool SetRecord(const catalogue::Type& type, const SharedRecord& pRecord);
 
-    /// What the table shows, in its order, with a row of titles above.
+    /// The visible rows in their order, below a row of titles.
     [[nodiscard]] QByteArray ToCsv() const;
-    /// False when the file cannot be written.
+    /// @return false if the file cannot be written
     [[nodiscard]] bool ExportTo(const QString& fileName) const;
 
 private:

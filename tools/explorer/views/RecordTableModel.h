@@ -19,28 +19,28 @@ struct ListInRecord {
     const nlohmann::json* list;
 };
 
-/// The lists of a record that do not stand in another list. @p record outlives the result.
+/// The lists of a record outside other lists. @param record must outlive the result
 std::vector<ListInRecord> ListsIn(const catalogue::Type& type, const nlohmann::json& record);
 
-/// A list as a table with a row for each element. Fields of records inside an element have columns of their own.
+/// A list as a table with a row for each element. Fields of nested records have their own columns.
 class RecordTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    /// The value to sort by: a number, a truth value or a text.
+    /// The value to sort by: a number, a Boolean or a text.
     static constexpr int kSortRole = Qt::UserRole;
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// @param list must outlive its use here
+    /// @param list must outlive the model
     void SetList(const catalogue::Type& type, const nlohmann::json& list);
     void Clear();
 
-    /// Whether the column holds counts, which have a total: numbers that are named so, and lists.
+    /// Whether the column holds counts, which have a total: numbers with such a name, and lists.
     [[nodiscard]] bool IsCount(int column) const;
     /// The count in a cell of such a column.
     [[nodiscard]] qint64 Count(int row, int column) const;
-    /// The text of a cell in full: lists are JSON.
+    /// The complete text of a cell: lists are JSON.
     [[nodiscard]] QString Exported(int row, int column) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

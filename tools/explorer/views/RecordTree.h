@@ -12,14 +12,14 @@ class QTreeView;
 
 namespace explorer {
 
-/// A record as a tree to filter and to copy from.
+/// A record as a tree that can be filtered and copied from.
 class RecordTree : public QWidget {
     Q_OBJECT
 
 public:
     explicit RecordTree(QWidget* pParent = nullptr);
 
-    /// @param textLength of the record, by which it is opened
+    /// @param textLength length of the record as text; decides how far the tree is expanded
     void SetRecord(const catalogue::Type& type, const SharedRecord& pRecord, const catalogue::MissingFields& missing,
                    int textLength);
     void Clear();
@@ -41,7 +41,7 @@ private:
     QTreeView* m_pTree;
     QLineEdit* m_pFilter;
     QLabel* m_pMatches;
-    QTimer* m_pTimer;  // one search for what is typed at once
+    QTimer* m_pTimer;  // combines key strokes into one search
 };
 
 }  // namespace explorer

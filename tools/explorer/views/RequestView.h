@@ -13,7 +13,7 @@ struct RequestDraft;
 struct SentRequest;
 class CodeView;
 
-/// The request of a call, and the same as a curl command, as C++ lines and as an apicall command.
+/// The request of a call, also as a curl command, as C++ and as an apicall command.
 class RequestView : public QWidget {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     explicit RequestView(QWidget* pParent = nullptr);
 
     void Show(const RequestDraft& draft);
-    /// Says why there is no request.
+    /// Shows why there is no request.
     void ShowHint(const QString& text);
 
 private:

@@ -21,7 +21,7 @@ class CodeView;
 class RecordTable;
 class RecordTree;
 
-/// What came back from a call: the record as a tree, as JSON and as a table, and the exchange as it went.
+/// The result of a call: the record as a tree, as JSON and as a table, and the exchange.
 class ResultView : public QWidget {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ public:
 
     void Show(CallOutcome outcome);
     void Clear();
-    /// Takes away what an earlier run has left while the call runs again.
+    /// Clears the result of the previous run while the call runs again.
     void ShowWaiting(const catalogue::Call& call);
 
 private:

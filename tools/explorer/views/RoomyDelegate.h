@@ -4,7 +4,7 @@
 
 namespace explorer {
 
-/// Rows with some air between their texts.
+/// Paints rows with padding.
 class RoomyDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

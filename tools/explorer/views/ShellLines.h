@@ -4,10 +4,10 @@
 
 namespace explorer {
 
-/// A command line for a POSIX shell that sends the same request. The session token stands in it as $TOKEN.
+/// A command line for a POSIX shell that sends the same request. It contains the session token as $TOKEN.
 QString CurlLine(const SentRequest& request);
 
-/// A command line for a POSIX shell with which apicall makes the same call. The session token stands in it as $TOKEN.
+/// A command line for a POSIX shell that makes the same call with apicall. It contains the session token as $TOKEN.
 QString ApicallLine(const RequestDraft& draft);
 
 }  // namespace explorer

@@ -5,7 +5,7 @@
 
 class QPalette;
 
-/// Colours that the palette has no role for, legible on the light and on the dark ones, and fonts.
+/// Fonts, and colours without a role in the palette, legible in light and dark palettes.
 namespace explorer::theme {
 
 QColor Error(const QPalette& palette);
@@ -21,7 +21,7 @@ QColor Median(const QPalette& palette);
 QColor Percentile(const QPalette& palette);
 QColor Grid(const QPalette& palette);
 
-/// The font of the desktop in which all letters are of one width.
+/// The monospaced font of the desktop.
 QFont FixedFont();
 
 }  // namespace explorer::theme

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// Where Qt 5 has its charts.
+/// The namespace of the charts in Qt 5.
 namespace QtCharts {}
 
 namespace explorer {
@@ -20,7 +20,7 @@ class TimingChart : public QChartView {
 
 public:
     struct Call {
-        QString name;  ///< shown at its point
+        QString name;  ///< shown at the point
         double milliseconds;
         bool succeeded;
     };

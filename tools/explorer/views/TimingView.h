@@ -17,17 +17,17 @@ namespace explorer {
 struct RunSummary;
 class TimingChart;
 
-/// How long the runs of a call took, and what repeats the current call.
+/// The times of the runs of a call, and the controls that repeat the current call.
 class TimingView : public QWidget {
     Q_OBJECT
 
 public:
     explicit TimingView(QWidget* pParent = nullptr);
 
-    /// The figures of these runs, and the parts of one of them, which may be null.
+    /// Shows the figures of these runs and the phases of one of them, which may be null.
     void Show(const std::vector<const RunSummary*>& runs, const RunSummary* pShown);
 
-    /// Shows how far a repeated run is; it is over when all is done.
+    /// Shows the progress of a repetition, which is over when all runs are done.
     void SetProgress(int done, int total);
     /// Whether there is a call to repeat.
     void SetRepeatEnabled(bool enabled);

@@ -5,7 +5,7 @@
 
 namespace explorer {
 
-/// A plain text in a colour of the theme, which follows the palette.
+/// A plain text in a colour of the theme that follows the palette.
 class TintedLabel : public QLabel {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private:
     const Tint m_tint;
 };
 
-/// A hint that stands in the middle of what is empty.
+/// A hint in the middle of an empty view.
 TintedLabel* MakeHint(const QString& text = {});
 
 }  // namespace explorer

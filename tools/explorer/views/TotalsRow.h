@@ -10,14 +10,14 @@ class QTableView;
 
 namespace explorer {
 
-/// A row under a table, with a cell under each of its columns that moves and grows with it.
+/// A row below a table whose cells follow the columns of the table.
 class TotalsRow : public QWidget {
     Q_OBJECT
 
 public:
     explicit TotalsRow(QTableView& table, QWidget* pParent = nullptr);
 
-    /// The text of each cell, empty for none.
+    /// The texts of the cells; empty for none.
     void SetTotals(const QStringList& totals);
     [[nodiscard]] QString Total(int column) const;
 

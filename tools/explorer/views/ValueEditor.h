@@ -12,17 +12,17 @@
 
 namespace explorer {
 
-/// Where a value of a form comes from.
+/// The origin of a value in a form.
 enum class Origin {
-    Unseen,   ///< a fresh value, or one of an earlier use: the user has not entered it
-    Entered,  ///< given by the user: what differs from the value before has been entered
+    Unseen,   ///< a default or an earlier value that the user has not entered
+    Entered,  ///< given by the user: parts that differ from the previous value count as entered
     Known     ///< each value in it is meant as it is
 };
 
-/// What the user has not entered, as JSON pointers.
+/// JSON pointers of the values that the user has not entered.
 struct Unentered {
-    std::vector<std::string> values;    ///< plain values, and lists that are as they came
-    std::vector<std::string> elements;  ///< elements that were added, and in which nothing was entered
+    std::vector<std::string> values;    ///< plain values, and unchanged lists
+    std::vector<std::string> elements;  ///< added elements in which nothing was entered
 };
 
 /// Edits a value of a type of the catalogue.
@@ -33,21 +33,21 @@ public:
     using QWidget::QWidget;
 
     [[nodiscard]] virtual nlohmann::json Value() const = 0;
-    /// @p value fits the type.
+    /// @param value fits the type
     virtual void SetValue(const nlohmann::json& value, Origin origin) = 0;
     [[nodiscard]] virtual bool IsValid() const = 0;
-    /// Adds what is in it; @p place is its own place.
+    /// Adds the values in this editor, whose own path is @p place.
     virtual void Collect(const std::string& place, Unentered& unentered) const = 0;
-    /// What the keyboard reaches in it, in the order in which it stands on the screen.
+    /// Its focusable widgets, in the order on the screen.
     [[nodiscard]] virtual QList<QWidget*> TabStops() const = 0;
 
 signals:
     void Changed();
-    /// Elements came, went or changed places.
+    /// Elements were added, removed or moved.
     void Rearranged();
 };
 
-/// Made of the description alone; @p name is what the value is called.
+/// Creates an editor from the description. @param name name of the value
 ValueEditor* MakeEditor(const catalogue::Type& type, const QString& name, QWidget* pParent);
 
 }  // namespace explorer

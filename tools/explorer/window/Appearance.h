@@ -6,7 +6,7 @@ class QSettings;
 
 namespace explorer {
 
-/// How the program looks and in which language it speaks.
+/// Style, palette and language of the program.
 enum class Appearance {
     System,
     Light,
@@ -18,10 +18,11 @@ void StoreAppearance(QSettings& settings, Appearance appearance);
 /// Style and palette of the application.
 void ApplyAppearance(Appearance appearance);
 
-/// "en", "de" or "zh": as stored, else the system's, else English.
+/// "en", "de" or "zh": the stored language, else that of the system, else English.
 QString StoredLanguage(const QSettings& settings);
 void StoreLanguage(QSettings& settings, const QString& language);
-/// Translations of program and toolkit, and the language of the error texts. Windows made from now on speak it.
+/// Installs the translations of program and toolkit, and sets the language of the error texts, for windows created
+/// later.
 void ApplyLanguage(const QString& language);
 
 }  // namespace explorer

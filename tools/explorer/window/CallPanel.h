@@ -16,32 +16,32 @@ class QTreeView;
 
 namespace explorer {
 
-/// The calls by family and subject, with those used last and the favourites before them, and a box to filter them by.
+/// The calls by family and subject, below the recent calls and the favourites, with a filter.
 class CallPanel : public QWidget {
     Q_OBJECT
 
 public:
-    /// @param settings keeps favourites and the calls used last; must outlive the panel
+    /// @param settings stores favourites and recent calls; must outlive the panel
     explicit CallPanel(QSettings& settings, QWidget* pParent = nullptr);
 
-    /// Paths, methods and keys, as soon as they are known.
+    /// Sets paths, methods and keys when they are known.
     void SetEndpoints(const Endpoints& endpoints);
 
     [[nodiscard]] const catalogue::Call* Current() const { return m_pCurrent; }
     void Select(const catalogue::Call& call);
     void FocusFilter();
-    /// Of calls, the one that is chosen, else the first that is shown.
+    /// The selected call, else the first visible one.
     void FocusTree();
 
     [[nodiscard]] bool IsFavourite(const catalogue::Call& call) const;
     void SetFavourite(const catalogue::Call& call, bool favourite);
 
-    /// The call was made: it is the first of those used last.
+    /// The call was made: it becomes the first recent call.
     void Used(const catalogue::Call& call);
 
 signals:
     void Chosen(const catalogue::Call& call);
-    /// It was chosen to be filled in and run.
+    /// The user selected a call.
     void Activated(const catalogue::Call& call);
 
 private:
@@ -50,7 +50,7 @@ private:
     void Fill();
     void FillGroup(QStandardItem* pGroup, const QStringList& names);
     void Filter(const QString& text);
-    /// Where it stands in the tree of families; not valid while the filter hides it.
+    /// Its index in the tree of families; invalid while the filter hides it.
     [[nodiscard]] QModelIndex IndexOf(const catalogue::Call& call) const;
     void ShowCount();
     void CurrentChanged(const QModelIndex& index);

@@ -10,7 +10,7 @@ namespace explorer {
 
 struct CallOutcome;
 
-/// Where two runs differ: arguments, record, and the exchange as it went.
+/// The differences of two runs: arguments, record and exchange.
 class CompareDialog : public QDialog {
     Q_OBJECT
 

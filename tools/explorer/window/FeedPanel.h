@@ -8,7 +8,7 @@ namespace explorer {
 
 class Feed;
 
-/// A feed's lines with a box to search them, and to choose their levels where it has any.
+/// The lines of a feed with a search field, and a choice of levels if it has any.
 class FeedPanel : public QWidget {
     Q_OBJECT
 

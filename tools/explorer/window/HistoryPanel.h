@@ -11,7 +11,7 @@ class QTableView;
 
 namespace explorer {
 
-/// The runs of the session: to search, to show, to run again, to compare and to export.
+/// The runs of the session, which can be searched, shown, repeated, compared and exported.
 class HistoryPanel : public QWidget {
     Q_OBJECT
 
@@ -19,12 +19,12 @@ public:
     /// @param history must outlive the panel
     explicit HistoryPanel(History& history, QWidget* pParent = nullptr);
 
-    /// The chosen runs, the oldest first.
+    /// The selected runs, oldest first.
     [[nodiscard]] PastRuns Chosen() const;
 
 signals:
     void ChosenChanged();
-    /// Shall be loaded into the form.
+    /// The user asked to load the run into the form.
     void LoadRequested(const explorer::PastRunPtr& pRun);
     void RunRequested(const explorer::PastRunPtr& pRun);
 

@@ -4,8 +4,8 @@
 
 namespace explorer {
 
-/// An icon of the program in the palette's text colour, whatever that is when it is painted. @p name is a file of
-/// resources/icons without its ending.
+/// An icon of the program, painted in the current text colour of the palette. @param name a file of resources/icons
+/// without its extension
 QIcon Icon(const char* name);
 
 }  // namespace explorer

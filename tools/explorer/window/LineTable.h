@@ -8,12 +8,12 @@ class QTableView;
 
 namespace explorer {
 
-/// A table of lines that come at its end, which stays in sight until the user scrolls back. The chosen ones can be
+/// A table to which lines are appended. It shows the last line unless the user scrolls back. Selected lines can be
 /// copied.
-/// @param hint stands there while there are no lines
+/// @param hint shown while there are no lines
 QTableView* NewLineTable(const QString& objectName, QAbstractItemModel& lines, const QString& hint);
 
-/// A field for what lines are searched for.
+/// A field to search the lines.
 QLineEdit* NewSearch();
 
 }  // namespace explorer

@@ -32,7 +32,7 @@ class Session;
 class TimingView;
 class WriteGuard;
 
-/// Every call of the library: choose it, fill it in, run it, see what came.
+/// The window: select a call, enter its arguments, run it and see the result.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -42,13 +42,13 @@ public:
     ~MainWindow() override;
 
     void SelectCall(const catalogue::Call& call);
-    /// Runs the call that is shown with the arguments that are filled in.
+    /// Runs the selected call with the arguments of the form.
     void Run();
-    /// Places and sizes, for the next window.
+    /// Stores positions and sizes for the next window.
     void SaveState();
 
 signals:
-    /// Takes a new window.
+    /// Requires a new window.
     void LanguageChosen(const QString& language);
 
 private:
@@ -78,26 +78,26 @@ private:
     void FormChanged();
     void EditServers();
     void AskForToken();
-    /// The call that is filled in, for the current server.
+    /// The selected call with its arguments, for the current server.
     [[nodiscard]] RunOrder FilledIn() const;
     [[nodiscard]] RunOrder InTheChosenWay(RunOrder order);
-    /// Nothing while something is missing that was asked for, or that is about to come.
+    /// Nothing while a required value is missing or still loading.
     [[nodiscard]] std::optional<RunOrder> Order();
     void ShowRequest();
     void RepeatRun(int count);
-    /// Fills the form with what the matching read of its call returns.
+    /// Fills the form from the read that matches its call.
     void Fill();
-    /// Whether the current server can be asked now. If not, @p step is taken as soon as it can.
+    /// Whether the current server is ready. If not, @p step runs as soon as it is.
     [[nodiscard]] bool IsReadyFor(void (MainWindow::*step)());
-    /// What was asked for, as soon as its server can be asked.
+    /// Runs the pending step when its server is ready.
     void RunWhenReady();
     void ShowFacts();
     void RunFinished(const CallOutcome& outcome);
-    /// Null for none.
+    /// Null if there is none.
     void ShowRun(const PastRunPtr& pRun);
     void ShowTimes();
     void ShowChosenRuns();
-    /// Its call and its arguments.
+    /// Shows its call and its arguments.
     void Load(const PastRunPtr& pRun);
     void KeepDraft();
     void ToggleFavourite(bool favourite);
@@ -107,10 +107,10 @@ private:
     QFutureWatcher<Endpoints> m_contract;
     const catalogue::Call* m_pCall = nullptr;
     PastRunPtr m_pShown;
-    PastRuns m_timed;      // those that were chosen to be timed; empty for the last ones of the call
-    QString m_runsAt;      // the server of a run that waits for the emulator or a token
-    QString m_enteredFor;  // the server for which the form was filled in
-    void (MainWindow::*m_pStepThen)() = nullptr;  // that was asked for
+    PastRuns m_timed;      // runs selected for the figures; empty for the recent ones of the call
+    QString m_runsAt;      // server of a run that waits for the emulator or a token
+    QString m_enteredFor;  // server for which the form was filled in
+    void (MainWindow::*m_pStepThen)() = nullptr;  // the pending step
     ServerBar* m_pServerBar;
     CallPanel* m_pCalls;
     CallHeader* m_pHeader;
@@ -123,7 +123,7 @@ private:
     RequestView* m_pRequest;
     TimingView* m_pTiming;
     QTabWidget* m_pResults = nullptr;
-    QTimer* m_pRequestTimer;  // one request for all that changes at once
+    QTimer* m_pRequestTimer;  // combines changes into one request
     QTabWidget* m_pFeeds = nullptr;
     HistoryPanel* m_pHistory = nullptr;
     QAction* m_pShowFeeds = nullptr;

@@ -8,7 +8,7 @@ class QLabel;
 
 namespace explorer {
 
-/// How a run ended: in words, with its number and the time it took. Longer texts scroll.
+/// The outcome of a run as text, with its code and duration. Long texts scroll.
 class ResultHeader : public QScrollArea {
     Q_OBJECT
 

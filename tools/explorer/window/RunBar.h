@@ -14,19 +14,19 @@ class QSpinBox;
 
 namespace explorer {
 
-/// How a call is run, and the button that runs it.
+/// The options of a run, and the button that starts it.
 class RunBar : public QWidget {
     Q_OBJECT
 
 public:
-    /// @param settings keeps the choices; must outlive the bar
+    /// @param settings stores the options; must outlive the bar
     explicit RunBar(QSettings& settings, QWidget* pParent = nullptr);
 
     [[nodiscard]] Way ChosenWay() const;
-    /// Nothing for the call's own.
+    /// Nothing for the time-out of the call.
     [[nodiscard]] std::optional<int> TimeoutSeconds() const;
-    /// Leads the user to a choice that cannot be used.
-    /// @return false when there is one
+    /// Shows the user an option that is invalid.
+    /// @return false if there is one
     [[nodiscard]] bool Check();
 
     void SetReady(bool ready, const QString& why);

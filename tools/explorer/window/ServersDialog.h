@@ -19,7 +19,7 @@ namespace explorer {
 
 class Tokens;
 
-/// Edits the named servers and their tokens. Nothing changes until it is accepted.
+/// Edits the named servers and their tokens. Changes take effect when the dialog is accepted.
 class ServersDialog : public QDialog {
     Q_OBJECT
 
@@ -48,8 +48,8 @@ private:
     QVector<Server> m_edited;
     QHash<QString, QString> m_newTokens;
     int m_shown = -1;
-    QPointer<QObject> m_pLook;  // at the certificate of the server that is shown
-    QByteArray m_presented;     // digest that it found
+    QPointer<QObject> m_pLook;  // retrieves the certificate of the selected server
+    QByteArray m_presented;     // digest of that certificate
     QString m_whyNotPresented;
     QListWidget* m_pList;
     QToolButton* m_pRemove;

@@ -12,10 +12,10 @@ namespace explorer {
 
 class Session;
 
-/// Names and attributes of the application, before its object is made.
+/// Sets names and attributes of the application. Call it before its object is created.
 void PrepareApplication();
 
-/// The program's window, in the appearance and language that are stored. Another language takes a new window.
+/// Shows the window of the program in the stored appearance and language. A change of language requires a new window.
 class Windows : public QObject {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private:
 
     Session& m_session;
     std::unique_ptr<MainWindow> m_window;
-    std::vector<QPointer<MainWindow>> m_left;  // until the event loop deletes them
+    std::vector<QPointer<MainWindow>> m_left;  // deleted by the event loop
 };
 
 }  // namespace explorer

@@ -15,7 +15,7 @@ public:
     explicit TokenDialog(const QString& serverName, QWidget* pParent = nullptr);
 
     [[nodiscard]] QString Token() const;
-    /// Whether the desktop's secret service is to keep it.
+    /// Whether to store it in the secret service of the desktop.
     [[nodiscard]] bool Keep() const;
 
 private:

@@ -15,34 +15,34 @@ namespace explorer {
 class ArgumentForm;
 struct Unentered;
 
-/// Reads what a write replaces: to fill the form with it, and to show it before values are sent that the user has not
-/// entered.
+/// Reads the values that a write replaces, to fill the form with them, and to show them before values are sent that the
+/// user has not entered.
 class WriteGuard : public QObject {
     Q_OBJECT
 
 public:
-    /// @param form that the orders come from; it and @p runner must outlive the guard
+    /// @param form the source of the orders; it and @p runner must outlive the guard
     WriteGuard(ArgumentForm& form, Runner& runner, QWidget* pWindow);
 
     /// The name of the read that can fill in a call; empty for none.
     [[nodiscard]] static QString ReadFor(const catalogue::Call& call);
 
-    /// Runs the matching read of a write, and fills the form with what it returns.
+    /// Runs the read that matches a write, and fills the form with its record.
     void Fill(const RunOrder& write);
 
-    /// Calls @p proceed at once when nothing is sent that the user has not entered; otherwise when the user agrees.
+    /// Calls @p proceed at once if the user has entered all values to be sent; otherwise when the user agrees.
     void Check(const RunOrder& write, const std::function<void()>& proceed);
 
-    /// Values were entered for another server: nothing has been entered for this one.
+    /// The server has changed: all values count as not entered.
     void Forget();
 
 signals:
     void Message(const QString& text);
 
 private:
-    /// What a write replaces, or why that is not known.
+    /// The values that a write replaces, or why they are unknown.
     struct Present {
-        nlohmann::json value;  ///< null when it is not known
+        nlohmann::json value;  ///< null if unknown
         QString why;
     };
 
@@ -54,7 +54,7 @@ private:
     ArgumentForm& m_form;
     Runner& m_runner;
     QWidget* m_pWindow;
-    bool m_bBusy = false;  // reads or asks
+    bool m_bBusy = false;  // is reading or asking
 };
 
 }  // namespace explorer

@@ -15,7 +15,7 @@ class RequestsPage;
 class Session;
 class StatePage;
 
-/// The emulator that the program starts: the requests that it got, its faults, its state, and what it starts with.
+/// The emulator that this program starts: its requests, faults, state and start options.
 class EmulatorPanel : public QWidget {
     Q_OBJECT
 

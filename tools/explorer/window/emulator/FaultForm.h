@@ -12,17 +12,17 @@ class QSpinBox;
 
 namespace explorer {
 
-/// A kind of faults as the user reads it; its name on the control path for one that is not known here.
+/// The name of a kind of fault for the user; that of the control path for an unknown kind.
 QString FaultTitle(const QString& kind);
 
-/// What a fault is: its kind, which calls it hits, when and how often.
+/// Edits a fault: its kind, the calls that it affects, when and how often.
 class FaultForm : public QWidget {
     Q_OBJECT
 
 public:
     explicit FaultForm(QWidget* pParent = nullptr);
 
-    /// The fault as the control path takes it.
+    /// The fault in the format of the control path.
     [[nodiscard]] nlohmann::json Fault() const;
 
 private:

@@ -21,7 +21,7 @@ public:
     /// @param control must outlive the page
     explicit FaultsPage(EmulatorControl& control, QWidget* pParent = nullptr);
 
-    /// Asks which faults are active.
+    /// Loads the active faults.
     void Refresh();
 
 private:

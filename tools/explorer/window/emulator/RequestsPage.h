@@ -12,7 +12,7 @@ namespace explorer {
 class CodeView;
 class EmulatorControl;
 
-/// The requests that the emulator got, and the chosen one in full.
+/// The requests that the emulator received, with details of the selected one.
 class RequestsPage : public QWidget {
     Q_OBJECT
 
@@ -20,9 +20,9 @@ public:
     /// @param control must outlive the page
     explicit RequestsPage(EmulatorControl& control, QWidget* pParent = nullptr);
 
-    /// Asks for what is new.
+    /// Loads new requests.
     void Refresh();
-    /// Forgets those of an emulator that has ended.
+    /// Clears the requests of an emulator that has ended.
     void Clear();
 
 private:
@@ -35,7 +35,7 @@ private:
     QTableView* m_pTable;
     CodeView* m_pDetails;
     bool m_bAsking = false;
-    int m_age = 0;  // of the list: a reply that was asked for before it was cleared is dropped
+    int m_age = 0;  // counts how often the list was cleared: replies to earlier requests are ignored
 };
 
 }  // namespace explorer

@@ -11,7 +11,7 @@ namespace explorer {
 
 class Session;
 
-/// What the emulator starts with: how long its lists are, and its seed data.
+/// The start options of the emulator: the length of its lists and its seed data.
 class StartPage : public QWidget {
     Q_OBJECT
 

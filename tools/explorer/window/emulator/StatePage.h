@@ -14,7 +14,7 @@ namespace explorer {
 struct ControlReply;
 class EmulatorControl;
 
-/// The emulator's state as JSON to edit, all of it or a part.
+/// Edits the state of the emulator as JSON, as a whole or in part.
 class StatePage : public QWidget {
     Q_OBJECT
 
@@ -22,9 +22,9 @@ public:
     /// @param control must outlive the page
     explicit StatePage(EmulatorControl& control, QWidget* pParent = nullptr);
 
-    /// Loads the state unless it is loaded.
+    /// Loads the state if it is not loaded.
     void LoadOnce();
-    /// Forgets the state of an emulator that has ended.
+    /// Clears the state of an emulator that has ended.
     void Clear();
 
 private:
@@ -39,7 +39,7 @@ private:
 
     EmulatorControl& m_control;
     nlohmann::json m_state;
-    bool m_bLoaded = false;  // or asked for
+    bool m_bLoaded = false;  // or loading
     QComboBox* m_pPart;
     QPlainTextEdit* m_pText;
     QPushButton* m_pApply;
