@@ -95,7 +95,7 @@ Endpoints ReadEndpoints(const std::filesystem::path& contract)
             endpoints.insert(QString::fromStdString(operation.id), Describe(operation));
         }
     } catch (const std::exception&) {
-        return {};  // the calls are found by their names and fields all the same
+        return {};  // calls are still found by name and field
     }
     return endpoints;
 }

@@ -11,8 +11,8 @@
 namespace explorer {
 namespace {
 
-constexpr const char* kTooLarge = "tooLarge";       // property of a reply: its size
-constexpr qint64 kLargestReply = qint64(32) << 20;  // the state of a large scale takes many times its text
+constexpr const char* kTooLarge = "tooLarge";       // property of a reply that holds its size
+constexpr qint64 kLargestReply = qint64(32) << 20;  // a parsed state takes many times the size of its text
 
 nlohmann::json Parsed(const QByteArray& text)
 {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kPatience = 3000;  // milliseconds until an emulator that does not end is killed
 
-/// Ends with this program, however that ends.
+/// Ends the child with this program, even after a crash.
 class Child : public QProcess {
 #if QT_VERSION_MAJOR == 5
 protected:
@@ -83,7 +83,7 @@ void EmulatorProcess::Start()
     m_token = FreshToken();
     m_stopping = false;
     SetState(Starting);
-    // Other users of the machine can read the command line, and the recorded requests on an open control path.
+    // Other users of the machine could read a token on the command line, and the requests on an open control path.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("PLATFORM_EMULATOR_TOKEN"), m_token);
     environment.insert(QStringLiteral("PLATFORM_EMULATOR_CONTROL_TOKEN"), m_token);

@@ -101,7 +101,7 @@ QString Feed::LevelName(int level)
 
 LogFeed::LogFeed(QObject* parent) : Feed(parent)
 {
-    // Any thread may log.
+    // Log lines come from any thread.
     ornl::TalPrintLog::instance().SetObserver([this](const ornl::LogRecord& record) {
         const Line line{QTime::currentTime(), record.nLevel, QString::fromStdString(record.strMessage),
                         QString::fromStdString(record.strFunction)};

@@ -59,7 +59,7 @@ json RequestOf(const SentRequest& sent)
     return request;
 }
 
-/// Status 0 stands for no answer.
+/// Status 0 means no reply.
 json ResponseOf(const RunSummary& run)
 {
     const RawReply reply = run.reply.value_or(RawReply{0, {}, {}});

@@ -43,7 +43,7 @@ qint64 BytesOf(const RunSummary& run)
     return bytes;
 }
 
-// A run as a line of the file
+// Format of a run in the file
 
 QJsonArray ToJson(const Headers& headers)
 {
@@ -108,7 +108,7 @@ QByteArray Line(const CallOutcome& run)
     return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
 }
 
-/// Without a call when the line is of another version of the program.
+/// A run without a call if the line is from an incompatible version of the program.
 CallOutcome FromLine(const QByteArray& text)
 {
     const QJsonObject line = QJsonDocument::fromJson(text).object();
@@ -247,14 +247,14 @@ void History::Load()
         }
     }
     file.close();
-    Write(true, PastRuns(m_runs.begin(), m_runs.end()));  // without those that are over the limit
+    Write(true, PastRuns(m_runs.begin(), m_runs.end()));  // without those above the limit
 }
 
 void History::Write(bool anew, const PastRuns& runs) const
 {
     QFile file(FileName());
     if (!file.open(QIODevice::WriteOnly | (anew ? QIODevice::Truncate : QIODevice::Append))) {
-        return;  // the runs of the session are there all the same
+        return;  // the runs of this session are kept in memory
     }
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     for (const PastRunPtr& run : runs) {

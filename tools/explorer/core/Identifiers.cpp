@@ -15,7 +15,7 @@ namespace {
 using catalogue::Kind;
 using nlohmann::json;
 
-constexpr int kMost = 500;  // of one source or list; more would be no help
+constexpr int kMost = 500;  // per source or list
 
 /// "channelId" of "channelIds".
 QString Single(const QString& name)
@@ -24,7 +24,7 @@ QString Single(const QString& name)
     return several.match(name).hasMatch() ? name.chopped(1) : name;
 }
 
-/// What a call is about, in lower case: "quickcommand" of "DelQuickCommand".
+/// The subject of a call, in lower case: "quickcommand" of "DelQuickCommand".
 QString SubjectOf(const catalogue::Call& call)
 {
     static const QRegularExpression verb(QStringLiteral("^[A-Z][a-z]+"));

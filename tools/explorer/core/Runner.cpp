@@ -17,7 +17,7 @@ using APIModule::ObservedExchange;
 constexpr const char* kTokenHeader = "X-Subject-Token";
 constexpr int kCancelled = -101;
 
-/// Puts the mask in the place of every token, one that the library has masked in part included.
+/// Masks every token, including those that the library has masked in part.
 QString Masked(QString text, const QString& token)
 {
     const QString mask = QString::fromLatin1(kTokenMask);
@@ -49,7 +49,7 @@ SentRequest RequestOf(const ObservedExchange& exchange, const QString& token)
             exchange.requestBody};
 }
 
-/// In the place of port 0.
+/// Replaces port 0.
 void NameUnknownPort(SentRequest& request, const Server& server)
 {
     const int path = request.url.indexOf(QLatin1Char('/'), request.url.indexOf(QLatin1String("://")) + 3);
@@ -81,7 +81,7 @@ nlohmann::json ToJson(const QJsonObject& object)
 
 }  // namespace
 
-/// A run of a call: what is known of it so far.
+/// A run of a call in progress.
 struct Runner::Course {
     explicit Course(const RunOrder& order)
     {

@@ -69,13 +69,13 @@ void Session::UseCurrentServer()
     }
 }
 
-/// Large replies and records pass through many small pieces of memory, which the C library would keep.
+/// Large replies and records consist of many small allocations, whose memory the C library would keep.
 void Session::ReleaseMemory(const CallOutcome& outcome)
 {
     constexpr int kLarge = 1 << 20;
     if (outcome.reply && outcome.reply->body.size() > kLarge) {
         QMetaObject::invokeMethod(
-            this, [] { malloc_trim(0); }, Qt::QueuedConnection);  // when the outcome itself is deleted
+            this, [] { malloc_trim(0); }, Qt::QueuedConnection);  // after the outcome has been deleted
     }
 }
 
@@ -83,7 +83,7 @@ void Session::TrustCurrentServer()
 {
     const Server& server = servers.Current();
     if (server.pin == m_pin) {
-        return;  // connections are kept
+        return;  // keeps the connections
     }
     m_pin = server.pin;
     APIModule::ServerTrust trust;

@@ -11,7 +11,7 @@
 namespace explorer {
 namespace {
 
-/// Jobs delete themselves when they are done.
+/// Jobs delete themselves when they have finished.
 template <typename Job>
 Job* NewJob(const QString& serverId)
 {
@@ -70,7 +70,7 @@ void Tokens::Forget(const QString& serverId)
 
 void Tokens::Refuse(const QString& serverId, const QString& token)
 {
-    m_fetched.insert(serverId);  // the vault may hold the same one
+    m_fetched.insert(serverId);  // the vault may hold the refused one
     if (Find(serverId) == token) {
         m_tokens.remove(serverId);
         emit Changed();

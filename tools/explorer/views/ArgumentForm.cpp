@@ -183,7 +183,7 @@ void ArgumentForm::SetArguments(const QJsonObject& arguments, Origin origin)
             value.Assign(FromQt(*given), "/" + name);
             pEditor->SetValue(value.ToJson(), origin);
         } catch (const catalogue::Mismatch&) {
-            continue;  // of an earlier form of the call, perhaps
+            continue;  // may be from an older version of the call
         }
     }
 }
@@ -229,7 +229,7 @@ bool ArgumentForm::Take(const QString& text, const QString& problem)
 
 void ArgumentForm::TakeJson()
 {
-    m_bTakesJson = true;  // the text stays as it is typed
+    m_bTakesJson = true;  // keeps the text as typed
     m_bJsonFits = Take(m_pJson->toPlainText(), tr("The text does not fit: %1"));
     m_bTakesJson = false;
     if (m_bJsonFits) {
@@ -239,7 +239,7 @@ void ArgumentForm::TakeJson()
     emit Changed();
 }
 
-/// The text has the types of the call, but a value that the server would refuse.
+/// The types are right, but the server would refuse a value.
 void ArgumentForm::ShowRefusal()
 {
     const QList<CheckedEditor*> editors = m_pArea->findChildren<CheckedEditor*>();
@@ -280,7 +280,7 @@ void ArgumentForm::ShowHint(const QString& text)
 
 void ArgumentForm::FillArea(QWidget* pContent)
 {
-    // The old content may be the one whose signal brought us here.
+    // The old content may be the sender of the current signal.
     if (QWidget* pOld = m_pArea->takeWidget()) {
         pOld->deleteLater();
     }
@@ -291,7 +291,7 @@ void ArgumentForm::OnChanged()
 {
     m_pProblem->hide();
     if (m_bTakesJson) {
-        return;  // and says it once
+        return;  // reports it once
     }
     ShowJson();
     emit Changed();

@@ -87,7 +87,7 @@ void CodeView::ShowMatch(int position, int length)
     if (position < m_from || position + length > m_from + m_length) {
         ShowPart(qMax(0, position - kLongestShown / 2), kLongestShown);
     }
-    // The document has one character for the two that end a line on the wire.
+    // The document has one character for the CR LF of the wire.
     const QString before = m_text.mid(m_from, position - m_from);
     const QString match = m_text.mid(position, length);
     const int start = before.size() - before.count(QLatin1String("\r\n"));
@@ -98,7 +98,7 @@ void CodeView::ShowMatch(int position, int length)
     m_pEdit->centerCursor();
 }
 
-/// Here the keys of the window that find a call find a text.
+/// In this view the keys that find a call in the window search the text.
 bool CodeView::event(QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::ShortcutOverride && FindBar::IsFindKey(*static_cast<QKeyEvent*>(pEvent))) {

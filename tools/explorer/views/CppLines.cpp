@@ -86,7 +86,7 @@ QString PlainList(const Type& type, const json& list)
     return QLatin1Char('{') + literals.join(QLatin1String(", ")) + QLatin1Char('}');
 }
 
-/// The statements that give a fresh object its value, element by element and field by field.
+/// The statements that assign the value to a new object, element by element and field by field.
 void AddFilling(QStringList& lines, const QString& place, const Type& type, const json& value)
 {
     if (type.kind == Kind::Record) {
@@ -135,7 +135,7 @@ QString ConstantName(const catalogue::Call& call)
     return QString::fromStdString(call.name.substr(call.name.find('.') + 1));
 }
 
-/// Namespace and name of the call, applied to the variables.
+/// The call with the variables as its arguments.
 QString Request(const catalogue::Call& call, int serverId)
 {
     QStringList arguments;
@@ -185,7 +185,7 @@ constexpr const char* kTestBegin = R"(#include <emulator/PlatformEmulator.h>
 
 namespace {
 
-/// The user manager of the test: one server, which is the emulator.
+/// The user manager of the test, with the emulator as its only server.
 class EmulatedServer : public UserLogical::IServer, public UserLogical::IUserManager {
 public:
     explicit EmulatedServer(int port) : m_port(port) {}
@@ -242,7 +242,7 @@ constexpr const char* kTestEnd = R"(}
 int main(int argc, char** argv)
 {
     try {
-        qputenv("QT_QPA_PLATFORM", "offscreen");  // no display; before the application object
+        qputenv("QT_QPA_PLATFORM", "offscreen");  // before the application object
         const QApplication application(argc, argv);
         emulator::PlatformEmulator platform;
         platform.start();
@@ -264,7 +264,7 @@ QString TargetOf(const QString& url)
     return afterScheme.mid(afterScheme.indexOf(QLatin1Char('/')));
 }
 
-/// The statements that play a run once more.
+/// The statements that repeat a run.
 QString Checks(const RunSummary& run, int number)
 {
     const auto line = [](const QString& text) { return QLatin1String("    ") + text + QLatin1Char('\n'); };
@@ -279,7 +279,7 @@ QString Checks(const RunSummary& run, int number)
 
 QString EscapedByte(char byte)
 {
-    // Three octal digits, so that a digit that follows is not taken for a part of it.
+    // Three octal digits, so that a following digit is not part of it.
     return QStringLiteral("\\%1").arg(uint(uchar(byte)), 3, 8, QLatin1Char('0'));
 }
 
@@ -297,7 +297,7 @@ QString Escaped(QChar letter)
     case '\\':
         return QStringLiteral("\\\\");
     case '?':
-        return QStringLiteral("\\?");  // two of them begin what older compilers take for another character
+        return QStringLiteral("\\?");  // two question marks begin a trigraph
     default:
         return letter;
     }
@@ -352,7 +352,7 @@ QString CppTest(const std::vector<const RunSummary*>& runs)
     }
     includes.sort();
     includes.removeDuplicates();
-    // Not by arg(): the texts hold what comes from servers.
+    // Not with arg(): the texts contain data of servers.
     return QLatin1String("#include <APIModule.h>\n") + includes.join(QString()) + QLatin1String(kTestBegin) +
            functions + QLatin1String(kTestMain) + checks + QLatin1String(kTestEnd);
 }

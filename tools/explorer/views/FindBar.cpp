@@ -93,7 +93,7 @@ bool FindBar::Press(const QKeyEvent& event)
     return true;
 }
 
-/// Enter steps on, Shift+Enter back.
+/// Enter moves to the next match, Shift+Enter to the previous one.
 bool FindBar::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::KeyPress) {

@@ -54,7 +54,7 @@ json FromQt(const QJsonValue& value)
 
 QJsonObject ToQt(const json& object)
 {
-    // Its parser keeps whole numbers as they are; a value that is put into an object is a double on the way.
+    // Its parser keeps integers exact; a value that is inserted into an object becomes a double.
     return QJsonDocument::fromJson(
                QByteArray::fromStdString(object.dump(-1, ' ', false, json::error_handler_t::replace)))
         .object();

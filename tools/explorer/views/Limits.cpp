@@ -6,7 +6,7 @@
 namespace explorer {
 namespace {
 
-/// The texts of limits.
+/// Translation context of the limits.
 struct Limits {
     Q_DECLARE_TR_FUNCTIONS(explorer::Limits)
 };

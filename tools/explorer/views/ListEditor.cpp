@@ -130,11 +130,11 @@ void ListEditor::Append()
             MakeArrow(Qt::UpArrow, m_name + QLatin1String(".up"), tr("Move up")),
             MakeArrow(Qt::DownArrow, m_name + QLatin1String(".down"), tr("Move down")),
             MakeButton(m_name + QLatin1String(".remove"), tr("Remove"))};
-    row.pRemove->setText(QString(QChar(0x00D7)));  // a multiplication sign looks like a cross in every font
+    row.pRemove->setText(QString(QChar(0x00D7)));  // every font has the multiplication sign
     row.pNumber->setWordWrap(false);
     row.pNumber->setMinimumWidth(row.pNumber->fontMetrics().horizontalAdvance(QStringLiteral("000.")));
 
-    // A plain value stands between its number and its buttons, anything larger in a frame under them.
+    // A plain value is between its number and its buttons, anything larger in a frame below them.
     auto* pHead = new QHBoxLayout;
     pHead->addWidget(row.pNumber);
     if (IsPlain(m_element)) {

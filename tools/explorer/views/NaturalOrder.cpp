@@ -3,7 +3,7 @@
 namespace explorer {
 namespace {
 
-/// Without a language texts would be compared byte by byte.
+/// Without a language, texts would be compared byte by byte.
 QLocale Language()
 {
     const QLocale locale;

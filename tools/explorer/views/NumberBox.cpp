@@ -18,13 +18,13 @@ using nlohmann::json;
 
 namespace {
 
-constexpr int kMostSeen = 24;  // characters; more scroll
+constexpr int kMostSeen = 24;  // characters; longer texts scroll
 
 }  // namespace
 
 NumberBox::NumberBox(Kind kind, QWidget* pParent) : QAbstractSpinBox(pParent), m_kind(kind)
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // narrow panes have room for it, too
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // fits into narrow panes
     setFocusPolicy(Qt::StrongFocus);
     lineEdit()->setText(QStringLiteral("0"));
     connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
@@ -48,7 +48,7 @@ QString NumberBox::Problem() const
     if (isNumber && number >= Smallest() && number <= Largest()) {
         return {};
     }
-    // A number too long for any integer type is out of the range, too.
+    // A number that is too long for any integer type is out of range, too.
     QLocale::c().toDouble(typed, &isNumber);
     const bool isWhole = isNumber && !typed.contains(QLatin1Char('.')) && !typed.contains(u'e', Qt::CaseInsensitive);
     return isWhole ? tr("Must be from %1 to %2").arg(Smallest()).arg(Largest()) : tr("Not a whole number");
@@ -75,7 +75,7 @@ void NumberBox::stepBy(int steps)
         SetValue(value.get<double>() + steps);
         return;
     }
-    // Held at the ends of the range.
+    // Limited to the range.
     const auto number = value.get<qint64>();
     if (steps > 0) {
         SetValue(number > Largest() - steps ? Largest() : number + steps);
@@ -86,7 +86,7 @@ void NumberBox::stepBy(int steps)
 
 QSize NumberBox::sizeHint() const
 {
-    // One width for all kinds, so that fields under each other are aligned.
+    // One width for all kinds, so that fields align.
     return SizeFor(QString::number(std::numeric_limits<qint64>::min()));
 }
 
@@ -120,7 +120,7 @@ QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const
 
 void NumberBox::wheelEvent(QWheelEvent* pEvent)
 {
-    // Who turns the wheel over a form means to scroll it.
+    // The wheel scrolls the form.
     if (hasFocus()) {
         QAbstractSpinBox::wheelEvent(pEvent);
     } else {

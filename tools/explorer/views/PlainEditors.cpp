@@ -139,7 +139,7 @@ void CheckedEditor::ShowProblem()
     m_pProblem->setVisible(!problem.isEmpty());
 }
 
-/// The key that goes down lists all that can be entered.
+/// The Down key lists all known values.
 bool CheckedEditor::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     QCompleter* const pCompleter = m_pLine->completer();

@@ -91,13 +91,13 @@ QFormLayout* MakeForm(QWidget* pWidget)
     auto* pForm = new QFormLayout(pWidget);
     pForm->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     pForm->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    pForm->setRowWrapPolicy(QFormLayout::WrapLongRows);  // names stay whole
+    pForm->setRowWrapPolicy(QFormLayout::WrapLongRows);  // names are not elided
     return pForm;
 }
 
 QVBoxLayout* MakeBox(QFrame* pFrame)
 {
-    constexpr int kMargin = 6;  // boxes stand in boxes, in a narrow pane
+    constexpr int kMargin = 6;  // boxes are nested in a narrow pane
     auto* pLayout = new QVBoxLayout(pFrame);
     pLayout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     pFrame->setFrameShape(QFrame::StyledPanel);

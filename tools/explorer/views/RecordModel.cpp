@@ -26,7 +26,7 @@ struct RecordModel::Node {
     const Node* parent;
     int row;
     bool isOpened = false;
-    bool isWhole;  // shown with all that is in it, whatever the filter
+    bool isWhole;  // shown with all its children, whatever the filter
     QString name;
     const Type* type;
     const json* value;
@@ -55,7 +55,7 @@ bool ForEachInside(const Type& type, const json& value, const Visit& visit)
     return true;
 }
 
-/// Types stand back behind names and values.
+/// Types are dimmed.
 QVariant TypeData(const Type& type, int role)
 {
     switch (role) {
@@ -77,7 +77,7 @@ QVariant TypeData(const Type& type, int role)
     }
 }
 
-/// Name and identifier of an element of a list; without them its first value.
+/// Name and identifier of a list element, or its first value if it has neither.
 QString TellingValue(const Type& type, const json& value)
 {
     const catalogue::Identity identity = catalogue::IdentityOf(type, value);

@@ -88,7 +88,7 @@ RecordTable::RecordTable(QWidget* pParent)
 
 bool RecordTable::SetRecord(const catalogue::Type& type, const SharedRecord& pRecord)
 {
-    m_model.Clear();  // it looks into the record
+    m_model.Clear();  // it refers to the record
     m_pRecord = pRecord;
     m_lists = ListsIn(type, *m_pRecord);
     {

@@ -15,7 +15,7 @@ QString Joined(const QString& path, std::string_view name)
     return path.isEmpty() ? last : path + QLatin1Char('.') + last;
 }
 
-/// Figures stand to the right, a list as its number of elements.
+/// Numbers are right-aligned; a list shows its number of elements.
 int AlignmentOf(Kind kind)
 {
     const bool isText = kind == Kind::Text || kind == Kind::Bool;

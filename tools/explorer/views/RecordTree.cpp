@@ -22,7 +22,7 @@
 namespace explorer {
 namespace {
 
-/// Opens rows level by level, as long as there are not too many to look at.
+/// Expands rows level by level, up to a readable number.
 void OpenUpTo(QTreeView& tree, int most)
 {
     const QAbstractItemModel& model = *tree.model();
@@ -58,7 +58,7 @@ RecordTree::RecordTree(QWidget* pParent)
     m_pTree->setItemDelegate(new RoomyDelegate(m_pTree));
     constexpr int kIndentation = 14;
     m_pTree->setIndentation(kIndentation);
-    // The values have all that names and types leave.
+    // The values get the remaining width.
     m_pTree->header()->setStretchLastSection(false);
     m_pTree->header()->setSectionResizeMode(RecordModel::ValueColumn, QHeaderView::Stretch);
 
@@ -123,7 +123,7 @@ void RecordTree::Filter()
     ShowRows();
 }
 
-/// Opens all that fits on a screen or two; of a record with a longer text, its first level.
+/// Expands what fits on a screen or two; of a larger record, the first level.
 void RecordTree::ShowRows()
 {
     constexpr int kLongest = 8000;
@@ -166,7 +166,7 @@ QAction* RecordTree::AddCopy(const QString& title, const char* objectName, Text 
     return pAction;
 }
 
-/// Here the key of the window that finds a call filters the record.
+/// In this view the key that finds a call in the window filters the record.
 bool RecordTree::event(QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Find)) {

@@ -44,7 +44,7 @@ RequestView::RequestView(QWidget* pParent)
     m_pTarget->setWordWrapMode(QTextOption::WrapAnywhere);
     m_pTarget->setTabChangesFocus(true);
     m_pTarget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    constexpr int kLines = 2;  // longer ones scroll
+    constexpr int kLines = 2;  // longer texts scroll
     const double around = 2 * (m_pTarget->document()->documentMargin() + m_pTarget->frameWidth() + 1);
     m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + int(around));
     m_pTarget->setPlaceholderText(tr("No request can be made."));
@@ -98,7 +98,7 @@ void RequestView::ShowHint(const QString& text)
 void RequestView::Show(const RequestDraft& draft)
 {
     ShowRequest(draft.request);
-    // The current server, whatever the number under which the client knows it.
+    // The current server, whatever its number in the client.
     constexpr int kCurrentServer = -1;
     m_pCpp->SetText(CppLines(*draft.call, FromQt(draft.arguments), kCurrentServer));
     m_pApicall->SetText(ApicallLine(draft));

@@ -44,7 +44,7 @@ QString ExchangeText(const RunSummary& outcome)
     return text;
 }
 
-/// Fields of the record that its reply did not bring.
+/// The fields of the record that were missing in the reply.
 catalogue::MissingFields MissingIn(const CallOutcome& outcome)
 {
     if (!outcome.reply) {

@@ -12,14 +12,14 @@
 namespace explorer {
 namespace {
 
-/// A text as one word of the shell.
+/// Quotes a text as one word of the shell.
 QString Quoted(QString text)
 {
     text.replace(QLatin1Char('\''), QLatin1String("'\\''"));
     return QLatin1Char('\'') + text + QLatin1Char('\'');
 }
 
-/// The same, with the shell's variable in the place of the mask.
+/// The same, with the variable of the shell instead of the mask.
 QString QuotedWithToken(const QString& text)
 {
     QStringList words;
@@ -30,7 +30,7 @@ QString QuotedWithToken(const QString& text)
     return words.join(QLatin1String("\"$TOKEN\""));
 }
 
-/// An address as one word, with the shell's variable in the place of a port that is not known.
+/// An address as one word, with the variable of the shell instead of an unknown port.
 QString QuotedAddress(const QString& text)
 {
     const QString port = QLatin1Char(':') + QLatin1String(kUnknownPort);
@@ -43,7 +43,7 @@ QString QuotedAddress(const QString& text)
            (behind.isEmpty() ? QString() : QuotedWithToken(behind));
 }
 
-/// Whether curl finds the value of the header itself, and better.
+/// Whether curl determines the value of the header itself.
 bool IsOfTheConnection(const Header& header)
 {
     static const QStringList names{QStringLiteral("host"), QStringLiteral("connection"), QStringLiteral("user-agent"),
@@ -53,19 +53,19 @@ bool IsOfTheConnection(const Header& header)
 
 QString HeaderOption(const Header& header)
 {
-    // curl takes a name with a colon and nothing behind it for one that it shall not send.
+    // curl does not send a header that is given as a name and a colon.
     const QString text =
         header.value.isEmpty() ? header.name + QLatin1Char(';') : header.name + QLatin1String(": ") + header.value;
     return QLatin1String("-H ") + QuotedWithToken(text);
 }
 
-/// A command of which each part has a line.
+/// A command with one part per line.
 QString OnLines(const QStringList& parts)
 {
     return parts.join(QLatin1String(" \\\n    "));
 }
 
-/// name=value for each where all are plain, otherwise one JSON object.
+/// name=value for each if all are plain, otherwise one JSON object.
 QStringList ApicallArguments(const RequestDraft& draft)
 {
     const auto& arguments = draft.call->arguments;
@@ -87,7 +87,7 @@ QStringList ApicallArguments(const RequestDraft& draft)
 
 QString CurlLine(const SentRequest& request)
 {
-    // As the library, it accepts the certificates that the servers make themselves and changes nothing in the URL.
+    // Like the library, it accepts self-signed certificates and does not change the URL.
     QStringList parts{QLatin1String("curl --insecure --globoff --path-as-is --request ") + request.method,
                       QuotedAddress(request.url)};
     for (const Header& header : request.headers) {

@@ -92,7 +92,7 @@ QColor Grid(const QPalette& palette)
 QFont FixedFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    if (!QFontInfo(font).fixedPitch()) {  // no desktop that names one
+    if (!QFontInfo(font).fixedPitch()) {  // the desktop names none
         font.setFamily(QStringLiteral("monospace"));
         font.setStyleHint(QFont::TypeWriter);
     }

@@ -17,7 +17,7 @@ namespace explorer {
 
 namespace {
 
-/// Between the labels of so many numbers.
+/// The step between the labels for a number of runs.
 double IntervalFor(int numbers)
 {
     constexpr int kFewLabels = 12;
@@ -55,7 +55,7 @@ TimingChart::TimingChart(QWidget* pParent)
         pSeries->setMarkerSize(kPoint);
         connect(pSeries, &QScatterSeries::hovered, this, &TimingChart::Tell);
     }
-    m_pFailed->setMarkerShape(QScatterSeries::MarkerShapeRectangle);  // told apart without the colour, too
+    m_pFailed->setMarkerShape(QScatterSeries::MarkerShapeRectangle);  // distinguishable without colour
 
     chart()->legend()->setAlignment(Qt::AlignBottom);
     chart()->legend()->setMarkerShape(QLegend::MarkerShapeFromSeries);

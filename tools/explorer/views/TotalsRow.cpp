@@ -9,7 +9,7 @@
 
 namespace explorer {
 
-// A header is the one view that scrolls to any offset, whatever the width of the view.
+// A header is the only view that scrolls to any offset, whatever the width of the view.
 TotalsRow::TotalsRow(QTableView& table, QWidget* pParent)
     : QWidget(pParent), m_table(table), m_pTitle(new QLabel(tr("Total"))), m_pCells(new QHeaderView(Qt::Horizontal))
 {

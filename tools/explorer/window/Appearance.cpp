@@ -76,7 +76,7 @@ QPalette Painted(const Colours& colours)
     return palette;
 }
 
-/// What the style leaves plain: fine lines, tabs of the panes underlined, one button that stands out.
+/// Adds to the style: thin lines, underlined tabs of the panes, one prominent button.
 constexpr const char* kStyleSheet = R"(
     QSplitter::handle { background: palette(mid); }
     QToolBar { border: none; border-bottom: 1px solid palette(mid); padding: 0; spacing: 0; }
@@ -96,7 +96,7 @@ constexpr const char* kStyleSheet = R"(
                                border-color: palette(midlight); }
 )";
 
-/// Installed ones go with those that take their place.
+/// Installed translators are deleted when others replace them.
 std::vector<std::unique_ptr<QTranslator>>& Translators()
 {
     static std::vector<std::unique_ptr<QTranslator>> translators;
@@ -140,10 +140,10 @@ void StoreAppearance(QSettings& settings, Appearance appearance)
 
 void ApplyAppearance(Appearance appearance)
 {
-    // The palette of a desktop may be a dark one; one without a say of its own gets the light one.
+    // The palette of a desktop may be dark; without a desktop palette the light one is used.
     static const bool systemIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     const bool dark = appearance == Appearance::Dark || (appearance == Appearance::System && systemIsDark);
-    // A style sheet keeps the colours of the palette that it was set with.
+    // A style sheet keeps the colours of the palette at the time it was set.
     qApp->setStyleSheet(QString());
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette palette = Painted(dark ? kDark : kLight);
@@ -173,7 +173,7 @@ void ApplyLanguage(const QString& language)
     Translators().clear();
     const QString toolkit = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
     Install(QStringLiteral("qtbase_") + toolkit, ToolkitTranslations());
-    // What no other language says is English, of which the files hold the plural forms.
+    // The fallback is English, whose files contain only the plural forms.
     for (const QString& spoken : {QStringLiteral("en"), language}) {
         for (const char* name : {"apimodule", "orngui", "tools", "explorer"}) {
             Install(QLatin1String(name) + QLatin1Char('_') + spoken, translation::Folder());

@@ -53,7 +53,7 @@ CallHeader::CallHeader(QWidget* pParent)
 
 void CallHeader::Show(const catalogue::Call& call, const Endpoint& endpoint, bool favourite)
 {
-    // A long path may break behind a slash.
+    // A long path may wrap after a slash.
     QString path = endpoint.path;
     path.replace(QLatin1Char('/'), QStringLiteral("/\u200b"));
     m_pName->setText(ShortName(call));

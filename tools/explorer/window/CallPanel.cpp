@@ -23,15 +23,15 @@ namespace {
 
 using catalogue::Call;
 
-constexpr int kNameRole = Qt::UserRole;        // of a call, with its family
-constexpr int kSearchRole = Qt::UserRole + 1;  // what the filter looks at
+constexpr int kNameRole = Qt::UserRole;        // family and name of a call
+constexpr int kSearchRole = Qt::UserRole + 1;  // text that the filter searches
 constexpr int kMethodRole = Qt::UserRole + 2;
 
 constexpr int kMostRecent = 8;
 constexpr const char* kFavouritesKey = "favouriteCalls";
 constexpr const char* kRecentKey = "recentCalls";
 
-/// Each word must be there, in upper or lower case.
+/// Requires every word, ignoring case.
 class WordFilter : public QSortFilterProxyModel {
 public:
     explicit WordFilter(QObject* pParent) : QSortFilterProxyModel(pParent) { setRecursiveFilteringEnabled(true); }
@@ -56,7 +56,7 @@ private:
     QStringList m_words;
 };
 
-/// Puts the method behind the name of a call.
+/// Paints the method after the name of a call.
 class CallDelegate : public RoomyDelegate {
 public:
     using RoomyDelegate::RoomyDelegate;
@@ -114,7 +114,7 @@ QStandardItem* NewGroup(const QString& text)
     return pItem;
 }
 
-/// What is known of a call, in its item.
+/// Stores the facts of a call in its item.
 void Describe(QStandardItem* pItem, const Call& call, const Endpoint& endpoint)
 {
     const QString summary = QString::fromStdString(catalogue::Translated(call.summary));
@@ -238,7 +238,7 @@ void CallPanel::FillGroup(QStandardItem* pGroup, const QStringList& names)
     const QModelIndex current = m_pTree->currentIndex();
     const bool holdsCurrent = current.isValid() && m_pShown->mapToSource(current).parent() == pGroup->index();
     const QString currentName = current.data(kNameRole).toString();
-    m_bFilling = true;  // the current item goes, the current call stays
+    m_bFilling = true;  // the current item is removed, the current call stays
     pGroup->removeRows(0, pGroup->rowCount());
     for (const QString& name : names) {
         if (const Call* pCall = catalogue::FindCall(name.toStdString())) {
@@ -263,7 +263,7 @@ void CallPanel::SetEndpoints(const Endpoints& endpoints)
 
 void CallPanel::Filter(const QString& text)
 {
-    m_bFilling = true;  // the chosen call stays chosen, also while it is not shown
+    m_bFilling = true;  // the selected call stays selected while it is hidden
     static_cast<WordFilter*>(m_pShown)->SetText(text);
     if (CallOf(m_pTree->currentIndex()) != m_pCurrent) {
         m_pTree->setCurrentIndex(m_pCurrent == nullptr ? QModelIndex() : IndexOf(*m_pCurrent));
@@ -306,7 +306,7 @@ QModelIndex CallPanel::IndexOf(const Call& call) const
 {
     const QString name = QString::fromStdString(call.name);
     QModelIndex found;
-    for (int row = 2; row < m_pModel->rowCount(); ++row) {  // behind favourites and used last
+    for (int row = 2; row < m_pModel->rowCount(); ++row) {  // after favourites and recent calls
         ForEachCall(m_pModel->item(row), [this, &found, &name](const QStandardItem* pItem) {
             if (pItem->data(kNameRole).toString() == name) {
                 found = m_pShown->mapFromSource(m_pModel->indexFromItem(pItem));

@@ -16,7 +16,7 @@ namespace {
 
 using nlohmann::json;
 
-/// A body is compared key by key where it is JSON.
+/// A body that is JSON is compared key by key.
 json BodyOf(const QByteArray& body)
 {
     json parsed = json::parse(body.begin(), body.end(), nullptr, false);
@@ -48,7 +48,7 @@ json ReplyOf(const CallOutcome& run)
                      : json(run.connectionError.toStdString());
 }
 
-/// A long text in part, with what is missing.
+/// A long text is cut, with a note of how much is missing.
 QString Tip(const QString& text)
 {
     constexpr int kLongest = 2000;

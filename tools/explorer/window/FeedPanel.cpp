@@ -19,7 +19,7 @@
 namespace explorer {
 namespace {
 
-/// Lines of a level, or a worse one, that hold a text anywhere; outcomes have icons.
+/// The lines of at least a given level that contain a text. Outcomes have icons.
 class LineFilter : public QSortFilterProxyModel {
 public:
     LineFilter(bool withIcons, QObject* pParent) : QSortFilterProxyModel(pParent), m_withIcons(withIcons) {}

@@ -18,7 +18,7 @@
 namespace explorer {
 namespace {
 
-/// Copies the chosen lines; says what it is for while it is empty.
+/// Copies the selected lines; shows a hint while it is empty.
 class LineTable : public QTableView {
 public:
     explicit LineTable(QString hint) : m_hint(std::move(hint)) {}
@@ -58,7 +58,7 @@ private:
     const QString m_hint;
 };
 
-/// Keeps the end in sight until the user scrolls back to read undisturbed.
+/// Scrolls to the last line unless the user has scrolled back.
 void FollowEnd(QTableView* pTable)
 {
     pTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

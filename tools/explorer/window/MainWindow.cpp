@@ -51,7 +51,7 @@ constexpr const char* kRowsKey = "window/rows";
 constexpr const char* kFeedsKey = "window/feeds";
 constexpr const char* kCallKey = "window/call";
 
-constexpr int kPaneWidths[] = {320, 360, 600};  // at first; any width is shared like this
+constexpr int kPaneWidths[] = {320, 360, 600};  // initially; other widths are divided in proportion
 constexpr int kNarrowestList = 240;
 
 constexpr int kStatusTime = 6000;  // milliseconds
@@ -66,7 +66,7 @@ QKeySequence EditServersKey()
     return {int(Qt::CTRL) + Qt::Key_E};
 }
 
-/// A pane of a splitter with the margins that all panes have.
+/// A pane of a splitter with the common margins.
 QVBoxLayout* PaneLayout(QWidget* pPane)
 {
     auto* const pLayout = new QVBoxLayout(pPane);
@@ -76,7 +76,7 @@ QVBoxLayout* PaneLayout(QWidget* pPane)
     return pLayout;
 }
 
-/// False when nothing in it takes the keyboard.
+/// @return false if nothing in it takes the keyboard focus
 bool FocusFirst(QWidget* pPane)
 {
     for (QWidget* pWidget = pPane->nextInFocusChain(); pWidget != pPane; pWidget = pWidget->nextInFocusChain()) {
@@ -164,7 +164,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
     connect(&session.emulator, &EmulatorProcess::StateChanged, this, &MainWindow::RunWhenReady);
     connect(&session.servers, &Servers::Changed, this, [this] {
         if (m_session.servers.Current().id != m_runsAt) {
-            m_runsAt.clear();  // another server was not meant
+            m_runsAt.clear();  // the run was meant for the previous server
         }
         if (m_session.servers.Current().id != m_enteredFor) {
             m_enteredFor = m_session.servers.Current().id;
@@ -424,7 +424,7 @@ void MainWindow::MakeHelpMenu()
 void MainWindow::ReadState()
 {
     constexpr QSize kSize(1280, 800);
-    constexpr QSize kFrame(16, 48);  // which the window manager puts around it
+    constexpr QSize kFrame(16, 48);  // frame of the window manager
     resize(kSize.boundedTo(QGuiApplication::primaryScreen()->availableSize() - kFrame));
     m_pPanes->setSizes({kPaneWidths[0], kPaneWidths[1], kPaneWidths[2]});
     m_pRows->setSizes({560, 180});
@@ -440,7 +440,7 @@ void MainWindow::ReadState()
 
 void MainWindow::ReadContract()
 {
-    // After the window is on the screen; the calls can be used meanwhile.
+    // After the window was painted; calls can be used meanwhile.
     QMetaObject::invokeMethod(
         this, [this] { m_contract.setFuture(QtConcurrent::run([] { return ReadEndpoints(DefaultContract()); })); },
         Qt::QueuedConnection);
@@ -455,7 +455,7 @@ void MainWindow::SaveState()
     KeepDraft();
 }
 
-/// A field of text would take Ctrl+E to its own end.
+/// A text field would use Ctrl+E to move to its end.
 bool MainWindow::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     if (pEvent->type() != QEvent::ShortcutOverride) {
@@ -486,7 +486,7 @@ void MainWindow::Choose(const catalogue::Call& call)
     m_pCall = &call;
     const QString name = QString::fromStdString(call.name);
     if (isOther) {
-        m_runsAt.clear();  // another call was not meant
+        m_runsAt.clear();  // the run was meant for the previous call
         m_session.settings.setValue(QLatin1String(kCallKey), name);
         m_pForm->SetCall(call);
         m_pForm->OfferRead(WriteGuard::ReadFor(call));

@@ -19,7 +19,7 @@ namespace {
 
 using nlohmann::json;
 
-/// Whether one place is in the other one, or the same.
+/// Whether one path contains the other or equals it.
 bool Contains(const std::string& outer, const std::string& inner)
 {
     return inner == outer || inner.rfind(outer + '/', 0) == 0;
@@ -32,7 +32,7 @@ bool IsUnentered(const std::string& path, const Unentered& unentered)
            std::any_of(unentered.elements.begin(), unentered.elements.end(), overlaps);
 }
 
-/// What is sent without having been entered, when nothing is known of the server's values.
+/// The values that are sent without having been entered, if those of the server are unknown.
 std::vector<Difference> SentUnentered(const json& sent, const Unentered& unentered)
 {
     std::vector<Difference> differences;

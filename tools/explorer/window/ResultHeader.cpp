@@ -13,7 +13,7 @@
 namespace explorer {
 namespace {
 
-/// What the server said of the failure, in its own words.
+/// The text of the server about the failure.
 QString ServersWords(const RunSummary& outcome)
 {
     if (!outcome.reply || outcome.succeeded) {
@@ -80,7 +80,7 @@ void ResultHeader::Show(const QString& words, const QString& details)
     Fit();
 }
 
-/// As high as its texts, up to a few lines.
+/// Its height fits the texts, up to a few lines.
 void ResultHeader::Fit()
 {
     constexpr int kLines = 8;

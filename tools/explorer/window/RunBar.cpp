@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kWayKey = "run/way";
 constexpr const char* kTimeoutKey = "run/timeoutSeconds";
 constexpr int kLongestTimeout = 3600;
-constexpr int kLongestTyped = 9999999;  // a longer time-out is refused as it was typed
+constexpr int kLongestTyped = 9999999;  // longer time-outs stay visible and are refused
 
 }  // namespace
 
@@ -55,7 +55,7 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pProblem->setObjectName(QStringLiteral("timeoutProblem"));
     m_pProblem->setWordWrap(true);
 
-    // At once, for a window in another language.
+    // Stored at once, for a window in another language.
     connect(m_pWay, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [&settings, this] { settings.setValue(QLatin1String(kWayKey), int(ChosenWay())); });
     connect(m_pTimeout, qOverload<int>(&QSpinBox::valueChanged), this, [&settings, this](int seconds) {
@@ -75,9 +75,9 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->addWidget(m_pTimeout, 1, 1);
     pLayout->addWidget(m_pRun, 1, 2);
     pLayout->addWidget(m_pState, 2, 0, 1, 3);
-    pLayout->addWidget(m_pProblem, 2, 0, 1, 3);  // which takes the place of the state
+    pLayout->addWidget(m_pProblem, 2, 0, 1, 3);  // replaces the state
     QSizePolicy kept = m_pState->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);  // nothing moves under the mouse
+    kept.setRetainSizeWhenHidden(true);  // so that nothing moves under the mouse
     m_pState->setSizePolicy(kept);
     Update();
     setTabOrder(m_pWay, m_pTimeout);

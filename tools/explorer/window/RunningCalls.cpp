@@ -34,7 +34,7 @@ void RunningCalls::Update()
         if (orders.count(row->first) == 0) {
             row->second->hide();
             m_pLayout->removeWidget(row->second);
-            row->second->deleteLater();  // its button may just be clicked
+            row->second->deleteLater();  // its button may be the sender of the current signal
             row = m_rows.erase(row);
         } else {
             ++row;
@@ -71,12 +71,12 @@ bool RunningCalls::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const bool handled = QScrollArea::eventFilter(pWatched, pEvent);
     if (pWatched == widget() && pEvent->type() == QEvent::LayoutRequest) {
-        Fit();  // only now the rows have the sizes of the style
+        Fit();  // rows have their final sizes only now
     }
     return handled;
 }
 
-/// As high as its rows, of which a few are seen at a time.
+/// Its height fits its rows, up to a few.
 void RunningCalls::Fit()
 {
     constexpr int kSeen = 4;

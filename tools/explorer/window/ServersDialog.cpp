@@ -28,7 +28,7 @@ constexpr int kHttpsPort = 443;
 constexpr int kHttpPort = 80;
 constexpr int kHighestPort = 65535;
 
-/// An IPv6 address stands in brackets, in requests as here.
+/// IPv6 addresses are in brackets, as in requests.
 bool IsHost(const QString& text)
 {
     const QUrl url(QStringLiteral("http://%1:80/").arg(text), QUrl::StrictMode);
@@ -36,7 +36,7 @@ bool IsHost(const QString& text)
            url.port() == kHttpPort;
 }
 
-/// As tools print it, on two lines.
+/// The format of common tools, on two lines.
 QString DigestText(const QByteArray& digest)
 {
     const QByteArray first = digest.left(digest.size() / 2);
@@ -280,7 +280,7 @@ void ServersDialog::Remove()
     const int index = m_shown;
     m_newTokens.remove(m_edited.at(index).id);
     m_edited.remove(index);
-    m_shown = -1;  // its row goes
+    m_shown = -1;  // its row is removed
     delete m_pList->takeItem(index);
     ShowServer(m_pList->currentRow());
 }
@@ -290,7 +290,7 @@ void ServersDialog::ShowServer(int index)
     if (index < 0 || index >= m_edited.size()) {
         return;
     }
-    m_shown = -1;  // what the fields tell meanwhile is no edit
+    m_shown = -1;  // changes of the fields are no edits meanwhile
     const Server server = m_edited.at(index);
     const bool isEmulator = server.id == kEmulatorId;
     m_pName->setText(server.name);
@@ -312,7 +312,7 @@ void ServersDialog::ShowServer(int index)
     Check();
 }
 
-/// Shares out an address as it is copied from a browser.
+/// Distributes a pasted URL over the fields.
 void ServersDialog::TakeUrl(const QString& text)
 {
     const QUrl url(text);

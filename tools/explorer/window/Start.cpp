@@ -8,7 +8,7 @@
 #include <QApplication>
 #include <QIcon>
 
-// Outside of any namespace, as the resource compiler wants it; a static library takes them in by hand.
+// Outside any namespace, as the resource compiler requires. Resources of a static library need this call.
 static void TakeInResources()
 {
     Q_INIT_RESOURCE(explorer);
@@ -57,7 +57,7 @@ void Windows::ChangeLanguage(const QString& language)
     StoreLanguage(m_session.settings, language);
     ApplyLanguage(language);
     m_session.servers.Retranslate();
-    MainWindow* const pOld = m_window.release();  // it is on the stack
+    MainWindow* const pOld = m_window.release();  // its code is on the stack
     pOld->SaveState();
     Open();
     pOld->hide();

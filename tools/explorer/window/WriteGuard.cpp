@@ -15,7 +15,7 @@ namespace {
 
 using nlohmann::json;
 
-/// The arguments of the read, which the form must hold already. Throws Mismatch.
+/// The arguments of the read, taken from the form. Throws Mismatch if they are missing.
 json AskedOf(const catalogue::MatchingRead& read, const RunOrder& write)
 {
     json asked = catalogue::ArgumentsOfRead(read, *write.call, FromQt(write.arguments));
@@ -29,7 +29,7 @@ json AskedOf(const catalogue::MatchingRead& read, const RunOrder& write)
     return asked;
 }
 
-/// An object with the one member.
+/// An object with this member only.
 json Alone(const std::string& name, const json& value)
 {
     json object = json::object();
@@ -37,7 +37,7 @@ json Alone(const std::string& name, const json& value)
     return object;
 }
 
-/// Of these places, those in one argument.
+/// The paths within one argument.
 Unentered In(const std::string& argument, const Unentered& unentered)
 {
     const std::string begin = '/' + argument;

@@ -35,7 +35,7 @@ EmulatorPanel::EmulatorPanel(Session& session, QWidget* pParent)
     pLayout->addWidget(m_pStopped);
     pLayout->addWidget(m_pTabs, 1);
 
-    constexpr int kInterval = 500;  // milliseconds; a person takes longer to look
+    constexpr int kInterval = 500;  // milliseconds
     m_pTimer->setInterval(kInterval);
     m_pTimer->start();
     connect(m_pTimer, &QTimer::timeout, this, &EmulatorPanel::Refresh);
@@ -60,7 +60,7 @@ void EmulatorPanel::StateChanged()
     m_pStopped->setVisible(!isRunning);
     m_pFaults->setEnabled(isRunning);
     m_pState->setEnabled(isRunning);
-    if (isRunning) {  // another one, with nothing of the last
+    if (isRunning) {  // a new emulator has none of the old data
         m_pRequests->Clear();
         m_pState->Clear();
         Refresh();

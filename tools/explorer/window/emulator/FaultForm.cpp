@@ -18,7 +18,7 @@ namespace {
 struct Kind {
     const char* name;
     const char* title;
-    std::array<const char*, 3> details;  ///< the keys that belong to it
+    std::array<const char*, 3> details;  ///< the keys of its details
 };
 
 constexpr std::array kKinds{
@@ -71,7 +71,7 @@ QComboBox* NewChoice(const char* objectName)
     return pChoice;
 }
 
-/// "Retry-After: 9; Content-Type: text/html; charset=utf-8" has two.
+/// Parses headers such as "Retry-After: 9; Content-Type: text/html; charset=utf-8", which has two.
 nlohmann::json HeadersIn(const QString& text)
 {
     static const QRegularExpression betweenHeaders(QStringLiteral(";(?=[^;=]+:)"));
@@ -166,7 +166,7 @@ QLabel* FaultForm::AddField(const QString& text, QWidget* pEditor, int row, int 
     return pLabel;
 }
 
-/// Numbers stand beside the delay, texts on lines of their own.
+/// Numbers are beside the delay, texts on separate lines.
 void FaultForm::AddDetail(const char* key, const QString& text, QWidget* pEditor)
 {
     const bool isNumber = qobject_cast<QSpinBox*>(pEditor) != nullptr;

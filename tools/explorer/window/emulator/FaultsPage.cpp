@@ -33,7 +33,7 @@ QString TextOf(const nlohmann::json& fault, const char* key)
     return QString::fromStdString(fault.at(key).get<std::string>());
 }
 
-/// "503", "3000 ms" and so on.
+/// Details such as "503" or "3000 ms".
 QString KindText(const nlohmann::json& fault)
 {
     const QString kind = TextOf(fault, "kind");
@@ -121,7 +121,7 @@ void FaultsPage::Add()
 
 void FaultsPage::Remove(const QString& path)
 {
-    // One that has used up its times meanwhile is gone all the same.
+    // A fault that has expired meanwhile is gone anyway.
     m_control.Ask("DELETE", path, nullptr, this, [this](const ControlReply&) { Refresh(); });
 }
 

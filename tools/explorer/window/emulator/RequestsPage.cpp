@@ -45,7 +45,7 @@ RequestsPage::RequestsPage(EmulatorControl& control, QWidget* pParent)
     m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_pTable->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pTable->setAccessibleName(tr("Requests"));
-    m_pTable->setTextElideMode(Qt::ElideMiddle);  // paths begin alike
+    m_pTable->setTextElideMode(Qt::ElideMiddle);  // paths have common beginnings
     const auto widthOf = [this](const QString& text) {
         constexpr int kRoom = 24;
         return m_pTable->fontMetrics().horizontalAdvance(text) + kRoom;

@@ -128,7 +128,7 @@ void StatePage::Load()
     });
 }
 
-/// The families and their members, the chosen one as before.
+/// Lists the families and their members, and keeps the selection.
 void StatePage::ShowParts()
 {
     const QSignalBlocker blocker(m_pPart);
