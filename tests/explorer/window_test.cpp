@@ -578,7 +578,7 @@ TEST_F(WindowTest, ARefusedPasteIsExplainedInTheUsersLanguage)
 {
     const std::pair<const char*, const char*> languages[] = {
         {"en", "The clipboard does not fit: /settingType: expected int, got text"},
-        {"de", "Die Zwischenablage passt nicht: /settingType: "},
+        {"de", "Der Inhalt der Zwischenablage passt nicht: /settingType: "},
         {"zh", "/settingType"}};
     QStringList problems;
     for (const auto& [language, problem] : languages) {

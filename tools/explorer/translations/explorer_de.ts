@@ -21,11 +21,11 @@
     </message>
     <message>
         <source>it is no JSON, %1 at byte %2</source>
-        <translation>es ist kein JSON, %1 bei Byte %2</translation>
+        <translation>kein gültiges JSON, %1 bei Byte %2</translation>
     </message>
     <message>
         <source>The clipboard does not fit: %1</source>
-        <translation>Die Zwischenablage passt nicht: %1</translation>
+        <translation>Der Inhalt der Zwischenablage passt nicht: %1</translation>
     </message>
     <message>
         <source>Edit as JSON</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Runs %1 and takes over what it returns</source>
-        <translation>Führt %1 aus und übernimmt, was der Aufruf liefert</translation>
+        <translation>Führt %1 aus und übernimmt das Ergebnis</translation>
     </message>
     <message>
         <source>Fill fro&amp;m the server</source>
@@ -75,7 +75,7 @@
     <name>explorer::CallPanel</name>
     <message>
         <source>Basic resources</source>
-        <translation>Grundressourcen</translation>
+        <translation>Basisressourcen</translation>
     </message>
     <message>
         <source>PTZ</source>
@@ -111,11 +111,11 @@
     </message>
     <message>
         <source>Used last</source>
-        <translation>Zuletzt benutzt</translation>
+        <translation>Zuletzt verwendet</translation>
     </message>
     <message>
         <source>No call matches</source>
-        <translation>Kein Aufruf passt</translation>
+        <translation>Kein passender Aufruf</translation>
     </message>
     <message numerus="yes">
         <source>%n call(s)</source>
@@ -147,27 +147,27 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation>Alles zeigen</translation>
+        <translation>Alles anzeigen</translation>
     </message>
     <message>
         <source>Characters %1 to %2 of %3; search and copy have all of them.</source>
         <extracomment>%1 and %2 are the first and the last character shown, %3 is the number of all</extracomment>
-        <translation>Zeichen %1 bis %2 von %3; Suche und Kopie umfassen alle.</translation>
+        <translation>Zeichen %1 bis %2 von %3; Suchen und Kopieren erfassen den ganzen Text.</translation>
     </message>
 </context>
 <context>
     <name>explorer::CommandLine</name>
     <message>
         <source>Every call of the library from a window.</source>
-        <translation>Jeder Aufruf der Bibliothek aus einem Fenster.</translation>
+        <translation>Alle Aufrufe der Bibliothek in einer grafischen Oberfläche.</translation>
     </message>
     <message>
         <source>Choose and start the emulator.</source>
-        <translation>Den Emulator wählen und starten.</translation>
+        <translation>Den Emulator auswählen und starten.</translation>
     </message>
     <message>
         <source>Show this call, such as BRMS.GetLocalSetting.</source>
-        <translation>Diesen Aufruf zeigen, etwa BRMS.GetLocalSetting.</translation>
+        <translation>Diesen Aufruf anzeigen, zum Beispiel BRMS.GetLocalSetting.</translation>
     </message>
     <message>
         <source>name</source>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Tell when the window is painted first, and end.</source>
-        <translation>Sagen, wann das Fenster zum ersten Mal gezeichnet ist, und enden.</translation>
+        <translation>Die Zeit bis zum ersten Zeichnen des Fensters ausgeben und beenden.</translation>
     </message>
 </context>
 <context>
@@ -224,7 +224,7 @@
     </message>
     <message>
         <source>%1 are too much to show here.</source>
-        <translation>%1 sind zu viel, um sie hier zu zeigen.</translation>
+        <translation>%1 sind zu viel für die Anzeige.</translation>
     </message>
 </context>
 <context>
@@ -251,7 +251,7 @@
     </message>
     <message>
         <source>The emulator is not running. It starts with its button or with the first call.</source>
-        <translation>Der Emulator läuft nicht. Er startet mit seinem Knopf oder mit dem ersten Aufruf.</translation>
+        <translation>Der Emulator läuft nicht. Er startet über seine Schaltfläche oder mit dem ersten Aufruf.</translation>
     </message>
 </context>
 <context>
@@ -289,7 +289,7 @@
     <name>explorer::FaultForm</name>
     <message>
         <source>Late reply</source>
-        <translation>Späte Antwort</translation>
+        <translation>Verzögerte Antwort</translation>
     </message>
     <message>
         <source>HTTP status</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Envelope with a code</source>
-        <translation>Umschlag mit einem Code</translation>
+        <translation>Envelope mit Code</translation>
     </message>
     <message>
         <source>Empty reply</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Half of the body</source>
-        <translation>Halber Rumpf</translation>
+        <translation>Erste Hälfte des Rumpfs</translation>
     </message>
     <message>
         <source>Reply that is not JSON</source>
@@ -345,19 +345,19 @@
     </message>
     <message>
         <source>Every call</source>
-        <translation>Jeder Aufruf</translation>
+        <translation>Alle Aufrufe</translation>
     </message>
     <message>
         <source>Every method</source>
-        <translation>Jede Methode</translation>
+        <translation>Alle Methoden</translation>
     </message>
     <message>
         <source>Every path</source>
-        <translation>Jeder Pfad</translation>
+        <translation>Alle Pfade</translation>
     </message>
     <message>
         <source>How the path of a request begins, its query included</source>
-        <translation>Womit der Pfad einer Anfrage samt Abfrageteil beginnt</translation>
+        <translation>Anfang des Anfragepfads, einschließlich Query-String</translation>
     </message>
     <message>
         <source>2 lets the first call that fits pass</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Until removed</source>
-        <translation>Bis entfernt</translation>
+        <translation>Unbegrenzt</translation>
     </message>
     <message>
         <source>Kind</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>How often</source>
-        <translation>Wie oft</translation>
+        <translation>Anzahl</translation>
     </message>
     <message>
         <source>Delay</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Speed</source>
-        <translation>Tempo</translation>
+        <translation>Datenrate</translation>
     </message>
     <message>
         <source> bytes/s</source>
@@ -468,11 +468,11 @@
     </message>
     <message>
         <source>Times left</source>
-        <translation>Noch</translation>
+        <translation>Verbleibend</translation>
     </message>
     <message>
         <source>Until removed</source>
-        <translation>Bis entfernt</translation>
+        <translation>Unbegrenzt</translation>
     </message>
 </context>
 <context>
@@ -499,7 +499,7 @@
     </message>
     <message>
         <source>Debug</source>
-        <translation>Fehlersuche</translation>
+        <translation>Debug</translation>
     </message>
     <message>
         <source>Information</source>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>%1 and worse</source>
-        <translation>%1 und schwerer</translation>
+        <translation>Ab %1</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -553,7 +553,7 @@
     <name>explorer::FindBar</name>
     <message>
         <source>Previous match (Shift+F3)</source>
-        <translation>Voriger Treffer (Umschalt+F3)</translation>
+        <translation>Vorheriger Treffer (Umschalt+F3)</translation>
     </message>
     <message>
         <source>Next match (F3)</source>
@@ -606,7 +606,7 @@
     </message>
     <message>
         <source>End</source>
-        <translation>Ende</translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -649,11 +649,11 @@
     </message>
     <message>
         <source>Limit of the history</source>
-        <translation>Grenze des Verlaufs</translation>
+        <translation>Maximale Größe des Verlaufs</translation>
     </message>
     <message>
         <source>When the runs take more, the oldest go</source>
-        <translation>Brauchen die Läufe mehr, gehen die ältesten</translation>
+        <translation>Belegen die Läufe mehr Speicher, werden die ältesten entfernt</translation>
     </message>
     <message>
         <source> MB</source>
@@ -661,11 +661,11 @@
     </message>
     <message>
         <source>In a file</source>
-        <translation>In einer Datei</translation>
+        <translation>In Datei sichern</translation>
     </message>
     <message>
         <source>Keeps the runs for the next start, without tokens</source>
-        <translation>Behält die Läufe für den nächsten Start, ohne Tokens</translation>
+        <translation>Speichert die Läufe ohne Tokens für den nächsten Start</translation>
     </message>
     <message>
         <source>%1 of</source>
@@ -735,15 +735,15 @@
     </message>
     <message>
         <source>The emulator ended: %1</source>
-        <translation>Der Emulator hat sich beendet: %1</translation>
+        <translation>Der Emulator wurde beendet: %1</translation>
     </message>
     <message>
         <source>The token is in the desktop&apos;s secret service.</source>
-        <translation>Das Token liegt im Geheimnisdienst des Desktops.</translation>
+        <translation>Das Token liegt im Schlüsselbund des Desktops.</translation>
     </message>
     <message>
         <source>There is no secret service here: the token is kept until the program ends.</source>
-        <translation>Hier gibt es keinen Geheimnisdienst: Das Token wird bis zum Programmende behalten.</translation>
+        <translation>Kein Schlüsselbund verfügbar: Das Token wird nur bis zum Programmende behalten.</translation>
     </message>
     <message>
         <source>Server</source>
@@ -783,7 +783,7 @@
     </message>
     <message>
         <source>Favourite &amp;on or off</source>
-        <translation>Fa&amp;vorit ein oder aus</translation>
+        <translation>Fa&amp;vorit setzen oder entfernen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -803,7 +803,7 @@
     </message>
     <message>
         <source>Give the &amp;token…</source>
-        <translation>&amp;Token angeben …</translation>
+        <translation>&amp;Token eingeben …</translation>
     </message>
     <message>
         <source>&amp;Start the emulator</source>
@@ -811,7 +811,7 @@
     </message>
     <message>
         <source>St&amp;op the emulator</source>
-        <translation>E&amp;mulator anhalten</translation>
+        <translation>E&amp;mulator stoppen</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -855,7 +855,7 @@
     </message>
     <message>
         <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;APIModule-Explorer %1&lt;/h3&gt;&lt;p&gt;Jeder Aufruf der Bibliothek aus einem Fenster: ein Host mit Benutzerverwaltung, Wartedialog, Benachrichtigungen und Protokoll.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;APIModule-Explorer %1&lt;/h3&gt;&lt;p&gt;Alle Aufrufe der Bibliothek in einer grafischen Oberfläche: ein Host mit Benutzerverwaltung, Wartedialog, Benachrichtigungen und Protokoll.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
@@ -879,7 +879,7 @@
     </message>
     <message>
         <source>&amp;Previous pane</source>
-        <translation>&amp;Voriger Bereich</translation>
+        <translation>&amp;Vorheriger Bereich</translation>
     </message>
     <message>
         <source>&amp;Calls</source>
@@ -911,7 +911,7 @@
     </message>
     <message>
         <source>The call runs as soon as the emulator has started.</source>
-        <translation>Der Aufruf beginnt, sobald der Emulator gestartet ist.</translation>
+        <translation>Der Aufruf wird ausgeführt, sobald der Emulator gestartet ist.</translation>
     </message>
     <message>
         <source>Choose a call to see its request here.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Outcome</source>
-        <translation>Ausgang</translation>
+        <translation>Ergebnis</translation>
     </message>
 </context>
 <context>
@@ -972,11 +972,11 @@
     </message>
     <message>
         <source>Not a number, such as 0.5</source>
-        <translation>Keine Zahl wie 0.5</translation>
+        <translation>Muss eine Zahl sein, zum Beispiel 0.5</translation>
     </message>
     <message>
         <source>Must be from %1 to %2</source>
-        <translation>Muss von %1 bis %2 sein</translation>
+        <translation>Muss zwischen %1 und %2 liegen</translation>
     </message>
     <message>
         <source>Not a whole number</source>
@@ -1073,7 +1073,7 @@
     </message>
     <message>
         <source>Text in any column</source>
-        <translation>Text in einer Spalte</translation>
+        <translation>Text in beliebiger Spalte</translation>
     </message>
     <message>
         <source>&amp;Filter:</source>
@@ -1131,7 +1131,7 @@
     </message>
     <message>
         <source>Copy as &amp;JSON, with all inside</source>
-        <translation>Als &amp;JSON kopieren, mit allem darin</translation>
+        <translation>Als &amp;JSON mit allen Unterelementen kopieren</translation>
     </message>
     <message>
         <source>Matches: %1</source>
@@ -1174,7 +1174,7 @@
     </message>
     <message>
         <source>No request can be made.</source>
-        <translation>Es lässt sich keine Anfrage bilden.</translation>
+        <translation>Die Anfrage kann nicht erzeugt werden.</translation>
     </message>
     <message>
         <source>a&amp;picall</source>
@@ -1216,7 +1216,7 @@
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation>Der Server sagt: %1</translation>
+        <translation>Der Server meldet: %1</translation>
     </message>
     <message>
         <source>%1 is running</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>time-out %1 s</source>
-        <translation>Zeitgrenze %1 s</translation>
+        <translation>Zeitlimit %1 s</translation>
     </message>
     <message>
         <source>The connection: %1</source>
@@ -1267,7 +1267,7 @@
     </message>
     <message>
         <source>There is no list in this record.</source>
-        <translation>In diesem Datensatz ist keine Liste.</translation>
+        <translation>Dieser Datensatz enthält keine Liste.</translation>
     </message>
     <message>
         <source>There is no record.</source>
@@ -1275,19 +1275,19 @@
     </message>
     <message>
         <source>No data came for a record.</source>
-        <translation>Es kamen keine Daten für einen Datensatz.</translation>
+        <translation>Es wurden keine Daten für einen Datensatz empfangen.</translation>
     </message>
     <message>
         <source>Nothing was sent.</source>
-        <translation>Nichts wurde gesendet.</translation>
+        <translation>Es wurde nichts gesendet.</translation>
     </message>
     <message>
         <source>No request was made.</source>
-        <translation>Es ging keine Anfrage hinaus.</translation>
+        <translation>Es wurde keine Anfrage gestellt.</translation>
     </message>
     <message>
         <source>Raw e&amp;xchange</source>
-        <translation>R&amp;oher Austausch</translation>
+        <translation>R&amp;ohdaten</translation>
     </message>
 </context>
 <context>
@@ -1302,11 +1302,11 @@
     </message>
     <message>
         <source>Behind the wait dialog</source>
-        <translation>Hinter dem Wartedialog</translation>
+        <translation>Mit Wartedialog</translation>
     </message>
     <message>
         <source>In the event loop, input goes on</source>
-        <translation>In der Ereignisschleife, Eingaben laufen weiter</translation>
+        <translation>In der Ereignisschleife, Eingaben möglich</translation>
     </message>
     <message>
         <source>&amp;Wait</source>
@@ -1314,7 +1314,7 @@
     </message>
     <message>
         <source>The call&apos;s own</source>
-        <translation>Die des Aufrufs</translation>
+        <translation>Vorgabe</translation>
     </message>
     <message>
         <source> s</source>
@@ -1322,7 +1322,7 @@
     </message>
     <message>
         <source>T&amp;ime-out</source>
-        <translation>Ze&amp;itgrenze</translation>
+        <translation>Ze&amp;itlimit</translation>
     </message>
     <message numerus="yes">
         <source>%n call(s) waiting for the server</source>
@@ -1333,11 +1333,11 @@
     </message>
     <message>
         <source>Not at all, several at once</source>
-        <translation>Gar nicht, mehrere zugleich</translation>
+        <translation>Gar nicht, mehrere gleichzeitig</translation>
     </message>
     <message>
         <source>The longest time-out is %1 s.</source>
-        <translation>Die längste Zeitgrenze ist %1 s.</translation>
+        <translation>Das Zeitlimit beträgt höchstens %1 s.</translation>
     </message>
 </context>
 <context>
@@ -1348,7 +1348,7 @@
     </message>
     <message>
         <source>%1 succeeded</source>
-        <translation>%1 gelungen</translation>
+        <translation>%1 erfolgreich</translation>
     </message>
     <message>
         <source>Success</source>
@@ -1383,7 +1383,7 @@
     </message>
     <message>
         <source>Stop the emulator</source>
-        <translation>Emulator anhalten</translation>
+        <translation>Emulator stoppen</translation>
     </message>
     <message>
         <source>Start the emulator</source>
@@ -1461,7 +1461,7 @@
     </message>
     <message>
         <source>any free one</source>
-        <translation>ein freier</translation>
+        <translation>freier Port</translation>
     </message>
     <message>
         <source>A fresh one for each start</source>
@@ -1469,19 +1469,19 @@
     </message>
     <message>
         <source>Asked for when it is needed</source>
-        <translation>Wird bei Bedarf erfragt</translation>
+        <translation>Wird bei Bedarf abgefragt</translation>
     </message>
     <message>
         <source>A server needs a name.</source>
-        <translation>Ein Server braucht einen Namen.</translation>
+        <translation>Der Server benötigt einen Namen.</translation>
     </message>
     <message>
         <source>“%1” needs a host name or an IP address (IPv6 in brackets).</source>
-        <translation>„%1“ braucht einen Rechnernamen oder eine IP-Adresse (IPv6 in Klammern).</translation>
+        <translation>„%1“ benötigt einen Rechnernamen oder eine IP-Adresse (IPv6 in eckigen Klammern).</translation>
     </message>
     <message>
         <source>“%1” needs a language.</source>
-        <translation>„%1“ braucht eine Sprache.</translation>
+        <translation>„%1“ benötigt eine Sprache.</translation>
     </message>
     <message>
         <source>To&amp;ken</source>
@@ -1489,7 +1489,7 @@
     </message>
     <message>
         <source>Show the server’s</source>
-        <translation>Das des Servers zeigen</translation>
+        <translation>Vom Server abrufen</translation>
     </message>
     <message>
         <source>Trust this certificate</source>
@@ -1505,7 +1505,7 @@
     </message>
     <message>
         <source>None: everything travels in the clear.</source>
-        <translation>Keines: alles wird unverschlüsselt übertragen.</translation>
+        <translation>Keines: Alles wird unverschlüsselt übertragen.</translation>
     </message>
     <message>
         <source>Only this one is trusted (SHA-256):
@@ -1515,15 +1515,15 @@
     </message>
     <message>
         <source>Any is trusted: who intercepts the connection reads the token.</source>
-        <translation>Jedem wird vertraut: wer die Verbindung abfängt, liest das Token.</translation>
+        <translation>Jedem wird vertraut: Wer die Verbindung abfängt, kann das Token lesen.</translation>
     </message>
     <message>
         <source>The server is asked…</source>
-        <translation>Der Server wird gefragt …</translation>
+        <translation>Das Zertifikat wird abgerufen …</translation>
     </message>
     <message>
         <source>The server shows none: %1</source>
-        <translation>Der Server zeigt keines: %1</translation>
+        <translation>Der Server hat kein Zertifikat vorgelegt: %1</translation>
     </message>
     <message>
         <source>The server presents this certificate.</source>
@@ -1532,23 +1532,23 @@
     <message>
         <source>The server presents (SHA-256):
 %1</source>
-        <translation>Der Server legt vor (SHA-256):
+        <translation>Vom Server vorgelegt (SHA-256):
 %1</translation>
     </message>
     <message>
         <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
-        <translation>Das Zertifikat hat sich geändert: Vielleicht antwortet jemand anstelle des Servers. Vergleichen Sie den Fingerabdruck mit dem am Server.</translation>
+        <translation>Das Zertifikat hat sich geändert: Möglicherweise antwortet ein anderer anstelle des Servers. Vergleichen Sie den Fingerabdruck mit dem auf dem Server.</translation>
     </message>
 </context>
 <context>
     <name>explorer::StartPage</name>
     <message>
         <source>Makes the seeded lists so many times as long</source>
-        <translation>Macht die vorbelegten Listen so viel Mal so lang</translation>
+        <translation>Faktor für die Länge der Listen in den Anfangsdaten</translation>
     </message>
     <message>
         <source>The built-in seed data</source>
-        <translation>Die eingebauten Anfangsdaten</translation>
+        <translation>Eingebaute Anfangsdaten</translation>
     </message>
     <message>
         <source>Cho&amp;ose…</source>
@@ -1556,23 +1556,23 @@
     </message>
     <message>
         <source>Scale</source>
-        <translation>Vielfaches</translation>
+        <translation>Faktor</translation>
     </message>
     <message>
         <source>Seed folder</source>
-        <translation>Ordner der Anfangsdaten</translation>
+        <translation>Ordner mit Anfangsdaten</translation>
     </message>
     <message>
         <source>Folder of the seed data</source>
-        <translation>Ordner der Anfangsdaten</translation>
+        <translation>Ordner mit den Anfangsdaten</translation>
     </message>
     <message>
         <source>Restar&amp;t with this</source>
-        <translation>Damit neu s&amp;tarten</translation>
+        <translation>Neu s&amp;tarten</translation>
     </message>
     <message>
         <source>Star&amp;t with this</source>
-        <translation>Damit s&amp;tarten</translation>
+        <translation>S&amp;tarten</translation>
     </message>
 </context>
 <context>
@@ -1591,7 +1591,7 @@
     </message>
     <message>
         <source>Changes the state by what was edited, as a JSON merge patch</source>
-        <translation>Ändert den Zustand um das Bearbeitete, als JSON Merge Patch</translation>
+        <translation>Überträgt die Änderungen als JSON Merge Patch in den Zustand</translation>
     </message>
     <message>
         <source>Re&amp;load</source>
@@ -1599,7 +1599,7 @@
     </message>
     <message>
         <source>Shows the state of now; what was edited is lost</source>
-        <translation>Zeigt den jetzigen Zustand; das Bearbeitete geht verloren</translation>
+        <translation>Zeigt den aktuellen Zustand; nicht übernommene Änderungen gehen verloren</translation>
     </message>
     <message>
         <source>Rese&amp;t</source>
@@ -1607,7 +1607,7 @@
     </message>
     <message>
         <source>Back to the seed data</source>
-        <translation>Zurück zu den Anfangsdaten</translation>
+        <translation>Stellt die Anfangsdaten wieder her</translation>
     </message>
     <message>
         <source>All</source>
@@ -1623,19 +1623,19 @@
     </message>
     <message>
         <source>A merge patch cannot make a member null.</source>
-        <translation>Ein Merge Patch kann kein Element auf null setzen.</translation>
+        <translation>Ein Merge Patch kann keinen Wert auf null setzen.</translation>
     </message>
     <message>
         <source>The state was changed.</source>
-        <translation>Der Zustand ist geändert.</translation>
+        <translation>Der Zustand wurde geändert.</translation>
     </message>
     <message>
         <source>The state is that of the seed data.</source>
-        <translation>Der Zustand ist der der Anfangsdaten.</translation>
+        <translation>Der Zustand entspricht den Anfangsdaten.</translation>
     </message>
     <message>
         <source>The emulator refuses this: %1</source>
-        <translation>Der Emulator lehnt das ab: %1</translation>
+        <translation>Der Emulator lehnt dies ab: %1</translation>
     </message>
 </context>
 <context>
@@ -1650,7 +1650,7 @@
     </message>
     <message>
         <source>Succeeded</source>
-        <translation>Gelungen</translation>
+        <translation>Erfolgreich</translation>
     </message>
     <message>
         <source>Failed</source>
@@ -1717,18 +1717,18 @@
     </message>
     <message>
         <source>This run: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
-        <translation>Dieser Lauf: gesendet nach %1 ms, erstes Byte nach %2 ms, alles nach %3 ms</translation>
+        <translation>Dieser Lauf: gesendet nach %1 ms, erstes Byte nach %2 ms, vollständig nach %3 ms</translation>
     </message>
     <message>
         <source>This run: sent after %1 ms, no byte until %2 ms</source>
-        <translation>Dieser Lauf: gesendet nach %1 ms, kein Byte bis %2 ms</translation>
+        <translation>Dieser Lauf: gesendet nach %1 ms, bis %2 ms kein Byte empfangen</translation>
     </message>
 </context>
 <context>
     <name>explorer::TokenDialog</name>
     <message>
         <source>Keep it in the desktop&apos;s secret service</source>
-        <translation>Im Geheimnisdienst des Desktops aufbewahren</translation>
+        <translation>Im Schlüsselbund des Desktops speichern</translation>
     </message>
     <message>
         <source>Session token</source>
@@ -1740,7 +1740,7 @@
     </message>
     <message>
         <source>Without a secret service the token is kept until the program ends. It is never written to a file.</source>
-        <translation>Ohne Geheimnisdienst wird das Token bis zum Programmende behalten. Es wird nie in eine Datei geschrieben.</translation>
+        <translation>Ohne Schlüsselbund wird das Token nur bis zum Programmende behalten. Es wird nie in eine Datei geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -1754,7 +1754,7 @@
     <name>explorer::WriteGuard</name>
     <message>
         <source>%1 needs &quot;%2&quot;</source>
-        <translation>%1 braucht „%2“</translation>
+        <translation>%1 benötigt „%2“</translation>
     </message>
     <message>
         <source>The form has the values of the server.</source>
@@ -1767,7 +1767,7 @@
     </message>
     <message>
         <source>%1 returned no data</source>
-        <translation>%1 lieferte keine Daten</translation>
+        <translation>%1 hat keine Daten geliefert</translation>
     </message>
 </context>
 </TS>
