@@ -21,11 +21,11 @@
     </message>
     <message>
         <source>it is no JSON, %1 at byte %2</source>
-        <translation>不是 JSON，%1，位于第 %2 字节</translation>
+        <translation>不是有效的 JSON：第 %2 个字节处有错误（%1）</translation>
     </message>
     <message>
         <source>The clipboard does not fit: %1</source>
-        <translation>剪贴板内容不符：%1</translation>
+        <translation>剪贴板内容不适用：%1</translation>
     </message>
     <message>
         <source>Edit as JSON</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>The text does not fit: %1</source>
-        <translation>文本不符：%1</translation>
+        <translation>文本不适用：%1</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Runs %1 and takes over what it returns</source>
-        <translation>运行 %1 并采用其返回的内容</translation>
+        <translation>运行 %1 并采用其返回的结果</translation>
     </message>
     <message>
         <source>Fill fro&amp;m the server</source>
@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>Parking</source>
-        <translation>停车</translation>
+        <translation>停车场</translation>
     </message>
     <message>
         <source>Access control</source>
@@ -128,7 +128,7 @@
     <name>explorer::CertificateLook</name>
     <message>
         <source>The server does not answer</source>
-        <translation>服务器没有应答</translation>
+        <translation>服务器没有响应</translation>
     </message>
 </context>
 <context>
@@ -158,7 +158,7 @@
     <name>explorer::CommandLine</name>
     <message>
         <source>Every call of the library from a window.</source>
-        <translation>在窗口中运行库的每个调用。</translation>
+        <translation>通过图形界面运行库的所有调用。</translation>
     </message>
     <message>
         <source>Choose and start the emulator.</source>
@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>Tell when the window is painted first, and end.</source>
-        <translation>报告窗口首次绘制的时间，然后退出。</translation>
+        <translation>输出窗口首次绘制完成的时间，然后退出。</translation>
     </message>
 </context>
 <context>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Reply</source>
-        <translation>应答</translation>
+        <translation>响应</translation>
     </message>
     <message>
         <source>No difference</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>%1 are too much to show here.</source>
-        <translation>%1 太大，无法在此显示。</translation>
+        <translation>内容过大（%1），无法在此显示。</translation>
     </message>
 </context>
 <context>
@@ -249,14 +249,14 @@
     </message>
     <message>
         <source>The emulator is not running. It starts with its button or with the first call.</source>
-        <translation>模拟器未运行。可用其按钮启动，或在首次调用时自动启动。</translation>
+        <translation>模拟器未运行。可通过按钮启动，也会在首次调用时自动启动。</translation>
     </message>
 </context>
 <context>
     <name>explorer::EmulatorRequests</name>
     <message>
         <source>No reply</source>
-        <translation>无应答</translation>
+        <translation>无响应</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -287,7 +287,7 @@
     <name>explorer::FaultForm</name>
     <message>
         <source>Late reply</source>
-        <translation>延迟应答</translation>
+        <translation>延迟响应</translation>
     </message>
     <message>
         <source>HTTP status</source>
@@ -295,39 +295,39 @@
     </message>
     <message>
         <source>Envelope with a code</source>
-        <translation>带代码的信封</translation>
+        <translation>指定代码的响应</translation>
     </message>
     <message>
         <source>Empty reply</source>
-        <translation>空应答</translation>
+        <translation>空响应</translation>
     </message>
     <message>
         <source>Half of the body</source>
-        <translation>一半的正文</translation>
+        <translation>只有前一半正文</translation>
     </message>
     <message>
         <source>Reply that is not JSON</source>
-        <translation>非 JSON 应答</translation>
+        <translation>非 JSON 响应</translation>
     </message>
     <message>
         <source>Reply with this body</source>
-        <translation>指定正文的应答</translation>
+        <translation>指定正文的响应</translation>
     </message>
     <message>
         <source>Large reply</source>
-        <translation>大应答</translation>
+        <translation>超大响应</translation>
     </message>
     <message>
         <source>Slow reply</source>
-        <translation>慢速应答</translation>
+        <translation>慢速响应</translation>
     </message>
     <message>
         <source>Connection closed without a reply</source>
-        <translation>未应答即关闭连接</translation>
+        <translation>未响应即关闭连接</translation>
     </message>
     <message>
         <source>Connection closed within the reply</source>
-        <translation>应答中途关闭连接</translation>
+        <translation>响应中途关闭连接</translation>
     </message>
     <message>
         <source>Connection reset</source>
@@ -335,7 +335,7 @@
     </message>
     <message>
         <source>No reply</source>
-        <translation>无应答</translation>
+        <translation>无响应</translation>
     </message>
     <message>
         <source> ms</source>
@@ -355,7 +355,7 @@
     </message>
     <message>
         <source>How the path of a request begins, its query included</source>
-        <translation>请求路径（含查询部分）的开头</translation>
+        <translation>请求路径（含查询字符串）的开头部分</translation>
     </message>
     <message>
         <source>2 lets the first call that fits pass</source>
@@ -363,7 +363,7 @@
     </message>
     <message>
         <source>Until removed</source>
-        <translation>直到移除</translation>
+        <translation>不限次数</translation>
     </message>
     <message>
         <source>Kind</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Speed</source>
-        <translation>速度</translation>
+        <translation>速率</translation>
     </message>
     <message>
         <source> bytes/s</source>
@@ -419,11 +419,11 @@
     </message>
     <message>
         <source>Text</source>
-        <translation>内容</translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>Headers</source>
-        <translation>头部</translation>
+        <translation>标头</translation>
     </message>
     <message>
         <source>Body</source>
@@ -462,7 +462,7 @@
     </message>
     <message>
         <source>Skips left</source>
-        <translation>剩余放行</translation>
+        <translation>剩余放行次数</translation>
     </message>
     <message>
         <source>Times left</source>
@@ -470,7 +470,7 @@
     </message>
     <message>
         <source>Until removed</source>
-        <translation>直到移除</translation>
+        <translation>不限次数</translation>
     </message>
 </context>
 <context>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Failure</source>
-        <translation>失败</translation>
+        <translation>错误</translation>
     </message>
     <message>
         <source>Fatal</source>
@@ -608,7 +608,7 @@
     </message>
     <message>
         <source>Duration</source>
-        <translation>用时</translation>
+        <translation>耗时</translation>
     </message>
 </context>
 <context>
@@ -643,15 +643,15 @@
     </message>
     <message>
         <source>The chosen runs as an HTTP archive (HAR) or as a C++ test</source>
-        <translation>将所选运行导出为 HTTP 存档 (HAR) 或 C++ 测试</translation>
+        <translation>将所选运行记录导出为 HTTP 存档 (HAR) 或 C++ 测试</translation>
     </message>
     <message>
         <source>Limit of the history</source>
-        <translation>历史记录上限</translation>
+        <translation>历史记录大小上限</translation>
     </message>
     <message>
         <source>When the runs take more, the oldest go</source>
-        <translation>超出上限时删除最早的运行</translation>
+        <translation>超出上限时删除最早的运行记录</translation>
     </message>
     <message>
         <source> MB</source>
@@ -672,7 +672,7 @@
     </message>
     <message>
         <source>Export the chosen runs</source>
-        <translation>导出所选运行</translation>
+        <translation>导出所选运行记录</translation>
     </message>
     <message>
         <source>HTTP archive</source>
@@ -737,11 +737,11 @@
     </message>
     <message>
         <source>The token is in the desktop&apos;s secret service.</source>
-        <translation>令牌已存入桌面的密钥服务。</translation>
+        <translation>令牌已存入桌面的密钥环。</translation>
     </message>
     <message>
         <source>There is no secret service here: the token is kept until the program ends.</source>
-        <translation>此处没有密钥服务：令牌仅保留到程序结束。</translation>
+        <translation>没有可用的密钥环：令牌仅保留到程序结束。</translation>
     </message>
     <message>
         <source>Server</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;APIModule 浏览器 %1&lt;/h3&gt;&lt;p&gt;在窗口中调用库的每个接口：带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;APIModule 浏览器 %1&lt;/h3&gt;&lt;p&gt;通过图形界面运行库的所有调用：一个带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>The emulator gets a fresh token with each start.</source>
-        <translation>模拟器每次启动都会得到新的令牌。</translation>
+        <translation>模拟器每次启动都会使用新的令牌。</translation>
     </message>
     <message>
         <source>Log and n&amp;otifications</source>
@@ -970,7 +970,7 @@
     </message>
     <message>
         <source>Not a number, such as 0.5</source>
-        <translation>不是数字，例如 0.5</translation>
+        <translation>必须是数字，例如 0.5</translation>
     </message>
     <message>
         <source>Must be from %1 to %2</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>%1 sends values that you have not entered. What they replace is not known.</source>
-        <translation>%1 将发送您未输入的值。它们会替换什么尚不清楚。</translation>
+        <translation>%1 将发送您未输入的值。无法确定它们会替换哪些值。</translation>
     </message>
     <message>
         <source>Values that change</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>Entered</source>
-        <translation>已输入</translation>
+        <translation>是否输入</translation>
     </message>
     <message>
         <source>not known</source>
@@ -1056,7 +1056,7 @@
     </message>
     <message>
         <source>not in the reply</source>
-        <translation>应答中没有</translation>
+        <translation>响应中不存在</translation>
     </message>
 </context>
 <context>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>Copy as &amp;JSON, with all inside</source>
-        <translation>复制为 JSON，含全部内容(&amp;J)</translation>
+        <translation>复制为 JSON（含所有子元素）(&amp;J)</translation>
     </message>
     <message>
         <source>Matches: %1</source>
@@ -1187,7 +1187,7 @@
     </message>
     <message>
         <source>Choose a request to see its headers and its body.</source>
-        <translation>选择一个请求以查看其头部和正文。</translation>
+        <translation>选择一个请求后，此处显示其标头和正文。</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1214,7 +1214,7 @@
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation>服务器说明：%1</translation>
+        <translation>服务器返回信息：%1</translation>
     </message>
     <message>
         <source>%1 is running</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>No data came for a record.</source>
-        <translation>没有收到用于记录的数据。</translation>
+        <translation>未收到记录的数据。</translation>
     </message>
     <message>
         <source>Nothing was sent.</source>
@@ -1281,11 +1281,11 @@
     </message>
     <message>
         <source>No request was made.</source>
-        <translation>没有发出请求。</translation>
+        <translation>未发出请求。</translation>
     </message>
     <message>
         <source>Raw e&amp;xchange</source>
-        <translation>原始交互(&amp;X)</translation>
+        <translation>原始报文(&amp;X)</translation>
     </message>
 </context>
 <context>
@@ -1304,7 +1304,7 @@
     </message>
     <message>
         <source>In the event loop, input goes on</source>
-        <translation>在事件循环中，可继续输入</translation>
+        <translation>在事件循环中等待，可继续操作</translation>
     </message>
     <message>
         <source>&amp;Wait</source>
@@ -1312,7 +1312,7 @@
     </message>
     <message>
         <source>The call&apos;s own</source>
-        <translation>调用自身的</translation>
+        <translation>调用默认值</translation>
     </message>
     <message>
         <source> s</source>
@@ -1334,7 +1334,7 @@
     </message>
     <message>
         <source>The longest time-out is %1 s.</source>
-        <translation>超时最长为 %1 秒。</translation>
+        <translation>超时时间最长为 %1 秒。</translation>
     </message>
 </context>
 <context>
@@ -1430,7 +1430,7 @@
     </message>
     <message>
         <source>Language that the server is asked to answer in</source>
-        <translation>请求服务器使用的语言</translation>
+        <translation>要求服务器响应时使用的语言</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -1462,7 +1462,7 @@
     </message>
     <message>
         <source>A fresh one for each start</source>
-        <translation>每次启动时更新</translation>
+        <translation>每次启动时重新生成</translation>
     </message>
     <message>
         <source>Asked for when it is needed</source>
@@ -1470,15 +1470,15 @@
     </message>
     <message>
         <source>A server needs a name.</source>
-        <translation>服务器需要名称。</translation>
+        <translation>必须填写服务器名称。</translation>
     </message>
     <message>
         <source>“%1” needs a host name or an IP address (IPv6 in brackets).</source>
-        <translation>“%1”需要主机名或 IP 地址（IPv6 加方括号）。</translation>
+        <translation>必须为“%1”填写主机名或 IP 地址（IPv6 地址加方括号）。</translation>
     </message>
     <message>
         <source>“%1” needs a language.</source>
-        <translation>“%1”需要语言。</translation>
+        <translation>必须为“%1”选择语言。</translation>
     </message>
     <message>
         <source>To&amp;ken</source>
@@ -1512,11 +1512,11 @@
     </message>
     <message>
         <source>Any is trusted: who intercepts the connection reads the token.</source>
-        <translation>信任任何证书：截获连接的人可以读取令牌。</translation>
+        <translation>信任任何证书：能截获连接的人可以读取令牌。</translation>
     </message>
     <message>
         <source>The server is asked…</source>
-        <translation>正在询问服务器…</translation>
+        <translation>正在获取证书…</translation>
     </message>
     <message>
         <source>The server shows none: %1</source>
@@ -1529,19 +1529,19 @@
     <message>
         <source>The server presents (SHA-256):
 %1</source>
-        <translation>服务器出示（SHA-256）：
+        <translation>服务器出示的证书（SHA-256）：
 %1</translation>
     </message>
     <message>
         <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
-        <translation>证书已更改：可能有人冒充服务器应答。请与服务器上的摘要进行比较。</translation>
+        <translation>证书已更改：可能有人冒充服务器。请与服务器上的摘要进行核对。</translation>
     </message>
 </context>
 <context>
     <name>explorer::StartPage</name>
     <message>
         <source>Makes the seeded lists so many times as long</source>
-        <translation>将初始数据中的列表放大相应倍数</translation>
+        <translation>初始数据中列表长度的倍数</translation>
     </message>
     <message>
         <source>The built-in seed data</source>
@@ -1565,11 +1565,11 @@
     </message>
     <message>
         <source>Restar&amp;t with this</source>
-        <translation>以此重新启动(&amp;T)</translation>
+        <translation>按此设置重新启动(&amp;T)</translation>
     </message>
     <message>
         <source>Star&amp;t with this</source>
-        <translation>以此启动(&amp;T)</translation>
+        <translation>按此设置启动(&amp;T)</translation>
     </message>
 </context>
 <context>
@@ -1588,7 +1588,7 @@
     </message>
     <message>
         <source>Changes the state by what was edited, as a JSON merge patch</source>
-        <translation>以 JSON 合并补丁的形式提交所作的修改</translation>
+        <translation>以 JSON 合并补丁的形式应用所作的修改</translation>
     </message>
     <message>
         <source>Re&amp;load</source>
@@ -1596,7 +1596,7 @@
     </message>
     <message>
         <source>Shows the state of now; what was edited is lost</source>
-        <translation>显示当前状态；未提交的修改将丢失</translation>
+        <translation>显示当前状态；未应用的修改将丢失</translation>
     </message>
     <message>
         <source>Rese&amp;t</source>
@@ -1628,11 +1628,11 @@
     </message>
     <message>
         <source>The state is that of the seed data.</source>
-        <translation>状态已恢复为初始数据。</translation>
+        <translation>状态与初始数据一致。</translation>
     </message>
     <message>
         <source>The emulator refuses this: %1</source>
-        <translation>模拟器拒绝了该修改：%1</translation>
+        <translation>模拟器拒绝了该操作：%1</translation>
     </message>
 </context>
 <context>
@@ -1714,7 +1714,7 @@
     </message>
     <message>
         <source>This run: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
-        <translation>本次运行：%1 毫秒后发送，%2 毫秒后收到首字节，%3 毫秒后全部收到</translation>
+        <translation>本次运行：%1 毫秒后发送，%2 毫秒后收到首字节，%3 毫秒后接收完毕</translation>
     </message>
     <message>
         <source>This run: sent after %1 ms, no byte until %2 ms</source>
@@ -1725,7 +1725,7 @@
     <name>explorer::TokenDialog</name>
     <message>
         <source>Keep it in the desktop&apos;s secret service</source>
-        <translation>保存到桌面的密钥服务</translation>
+        <translation>保存到桌面的密钥环</translation>
     </message>
     <message>
         <source>Session token</source>
@@ -1737,7 +1737,7 @@
     </message>
     <message>
         <source>Without a secret service the token is kept until the program ends. It is never written to a file.</source>
-        <translation>没有密钥服务时，令牌仅保留到程序结束。它不会写入任何文件。</translation>
+        <translation>没有密钥环时，令牌仅保留到程序结束，且不会写入任何文件。</translation>
     </message>
 </context>
 <context>
