@@ -40,7 +40,7 @@ protected:
     QPalette m_palette;
 };
 
-TEST_P(ColoursTest, TextsCanBeRead)
+TEST_P(ColoursTest, TextsHaveEnoughContrast)
 {
     static constexpr double kReadable = 4.5;  // the least for texts of this size
     const auto expectReadable = [this](const QColor& text, QPalette::ColorRole ground) {

@@ -88,7 +88,7 @@ protected:
     }
 };
 
-TEST_F(EmulatorPanelTest, AFaultIsChosenFromListsAndHitsItsCallAtItsTime)
+TEST_F(EmulatorPanelTest, FaultAffectsOnlyItsCallAndOnlyAsOftenAsChosen)
 {
     UseEmulator();
     Show(Faults);
@@ -109,7 +109,7 @@ TEST_F(EmulatorPanelTest, AFaultIsChosenFromListsAndHitsItsCallAtItsTime)
     AwaitFaults({});
 }
 
-TEST_F(EmulatorPanelTest, EveryKindIsAcceptedWithWhatBelongsToIt)
+TEST_F(EmulatorPanelTest, EveryKindOfFaultIsAcceptedWithItsValues)
 {
     UseEmulator();
     Show(Faults);
@@ -134,7 +134,7 @@ TEST_F(EmulatorPanelTest, EveryKindIsAcceptedWithWhatBelongsToIt)
     EXPECT_TRUE(TextOf("resultDetails").contains(QLatin1String("busy")));
 }
 
-TEST_F(EmulatorPanelTest, HeadersAndBodyOfAStatusAreSent)
+TEST_F(EmulatorPanelTest, StatusFaultSendsItsHeadersAndBody)
 {
     UseEmulator();
     Show(Faults);
@@ -155,7 +155,7 @@ TEST_F(EmulatorPanelTest, HeadersAndBodyOfAStatusAreSent)
     EXPECT_TRUE(headers.contains(QLatin1String("Content-Type=text/html; charset=utf-8")));
 }
 
-TEST_F(EmulatorPanelTest, OneFaultIsRemoved)
+TEST_F(EmulatorPanelTest, RemovesOnlyTheSelectedFault)
 {
     UseEmulator();
     Show(Faults);
@@ -171,7 +171,7 @@ TEST_F(EmulatorPanelTest, OneFaultIsRemoved)
     AwaitFaults({QStringLiteral("Empty reply|Every call|0|1"), QStringLiteral("Connection reset|Every call|0|1")});
 }
 
-TEST_F(EmulatorPanelTest, RequestsAppearAsTheyCome)
+TEST_F(EmulatorPanelTest, ListsRequestsAsTheyArrive)
 {
     UseEmulator();
     Show(Requests);
@@ -198,7 +198,7 @@ TEST_F(EmulatorPanelTest, RequestsAppearAsTheyCome)
     ASSERT_TRUE(Await([this] { return RequestRows().rowCount() == 1; }));
 }
 
-TEST_F(EmulatorPanelTest, ARequestIsCompletedWhenItsReplyComes)
+TEST_F(EmulatorPanelTest, ListsARequestAsWaitingUntilItEnds)
 {
     UseEmulator();
     Show(Faults);
@@ -220,7 +220,7 @@ TEST_F(EmulatorPanelTest, ARequestIsCompletedWhenItsReplyComes)
     EXPECT_EQ(RequestRows().rowCount(), 2);
 }
 
-TEST_F(EmulatorPanelTest, TheStateIsEditedByParts)
+TEST_F(EmulatorPanelTest, OnePartOfTheStateCanBeEditedAndReset)
 {
     UseEmulator();
     ShowState("/brms/remoteLog");
@@ -242,7 +242,7 @@ TEST_F(EmulatorPanelTest, TheStateIsEditedByParts)
     EXPECT_NE(Run(kRead).record.at("ip"), "192.0.2.77");
 }
 
-TEST_F(EmulatorPanelTest, WhatTheStateCannotBecomeIsSaid)
+TEST_F(EmulatorPanelTest, ExplainsAnInvalidStateAndKeepsTheEdit)
 {
     UseEmulator();
     ShowState("");
@@ -261,7 +261,7 @@ TEST_F(EmulatorPanelTest, WhatTheStateCannotBecomeIsSaid)
     EXPECT_TRUE(Run(kRead).succeeded);
 }
 
-TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectWithAStart)
+TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectAtARestart)
 {
     const QDir seeds(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/apimodule/seed"));
     const QDir own(folder.path());
@@ -332,7 +332,7 @@ TEST_F(EmulatorPanelTest, ShowsThatTheEmulatorIsNotRunning)
     AwaitFaults({});
 }
 
-TEST_F(EmulatorPanelTest, TheRequestOfAnEmulatorThatIsNotRunningHasAPortToFillIn)
+TEST_F(EmulatorPanelTest, RequestHasAPortPlaceholderWhileTheEmulatorIsStopped)
 {
     session->servers.SetCurrent(0);
     Choose(kRead);
@@ -354,7 +354,7 @@ TEST_F(EmulatorPanelTest, TheRequestOfAnEmulatorThatIsNotRunningHasAPortToFillIn
         [&] { return target.toPlainText().contains(QStringLiteral(":%1/").arg(session->emulator.HttpsPort())); }));
 }
 
-TEST(MergePatch, MakesOneValueIntoTheOther)
+TEST(MergePatch, TurnsTheFirstValueIntoTheSecond)
 {
     const json from{{"kept", 1}, {"changed", {{"a", 1}, {"b", {1, 2}}}}, {"gone", true}};
     const json to{{"kept", 1}, {"changed", {{"a", 1}, {"b", {2}}}}, {"added", {{"x", 1}}}};
@@ -368,7 +368,7 @@ TEST(MergePatch, MakesOneValueIntoTheOther)
     EXPECT_EQ(explorer::MergePatch(from, json(5)), json(5));
 }
 
-TEST(MergePatch, DoesNotMakeMembersNull)
+TEST(MergePatch, ReturnsNoPatchWhenAMemberWouldBecomeNull)
 {
     EXPECT_FALSE(explorer::MergePatch({{"a", 1}}, {{"a", nullptr}}));
     EXPECT_FALSE(explorer::MergePatch({{"a", 1}}, {{"a", {{"b", nullptr}}}}));

@@ -25,7 +25,7 @@ protected:
 
 class ExchangeOfASchemeTest : public ExchangeTest, public testing::WithParamInterface<bool> {};
 
-TEST_P(ExchangeOfASchemeTest, RequestAndReplyAreShownAsTheServerSawThem)
+TEST_P(ExchangeOfASchemeTest, OutcomeHoldsRequestAndReplyAsTransferredExceptTheToken)
 {
     const QByteArray reply = "{\"code\": 1000, \"desc\": \"Fine\", \"data\": {\"enable\": \"1\"}}";
     RawServer server([&reply](const RawRequest&) { return HttpAnswer(200, reply, "X-Of-The-Server: yes\r\n"); },
@@ -58,7 +58,7 @@ TEST_P(ExchangeOfASchemeTest, RequestAndReplyAreShownAsTheServerSawThem)
     EXPECT_EQ(ValueOf(outcome.reply->headers, "X-Of-The-Server"), QStringLiteral("yes"));
 }
 
-TEST_P(ExchangeOfASchemeTest, CallsShareAConnectionAndEachHasItsOwnReply)
+TEST_P(ExchangeOfASchemeTest, CallsShareAConnectionAndEachOutcomeHoldsItsReply)
 {
     int count = 0;
     RawServer server(
@@ -79,7 +79,7 @@ TEST_P(ExchangeOfASchemeTest, CallsShareAConnectionAndEachHasItsOwnReply)
 INSTANTIATE_TEST_SUITE_P(Schemes, ExchangeOfASchemeTest, testing::Bool(),
                          [](const auto& row) { return row.param ? "Https" : "Http"; });
 
-TEST_F(ExchangeTest, ABodyIsShown)
+TEST_F(ExchangeTest, OutcomeHoldsTheRequestBody)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -90,7 +90,7 @@ TEST_F(ExchangeTest, ABodyIsShown)
     EXPECT_EQ(outcome.request.body, requests.front().body);
 }
 
-TEST_F(ExchangeTest, AnAnswerThatIsNoEnvelopeIsThereToBeRead)
+TEST_F(ExchangeTest, OutcomeHoldsAReplyThatIsNotAnEnvelope)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(200, "<html>proxy login</html>"); });
     Use(server.Port());
@@ -100,7 +100,7 @@ TEST_F(ExchangeTest, AnAnswerThatIsNoEnvelopeIsThereToBeRead)
     EXPECT_EQ(outcome.reply->body, "<html>proxy login</html>");
 }
 
-TEST_F(ExchangeTest, AnAnswerThatIsCutShortIsNoReply)
+TEST_F(ExchangeTest, TruncatedReplyIsReportedAsAConnectionError)
 {
     RawServer server([](const RawRequest&) {
         testing_support::RawAnswer answer{"HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"code\""};
@@ -115,7 +115,7 @@ TEST_F(ExchangeTest, AnAnswerThatIsCutShortIsNoReply)
     EXPECT_TRUE(TextOf("resultDetails").contains(outcome.connectionError)) << TextOf("resultDetails").toStdString();
 }
 
-TEST_F(ExchangeTest, OfARefusedConnectionNothingWasSent)
+TEST_F(ExchangeTest, OutcomeOfARefusedConnectionHasAUrlButNoHeadersAndNoReply)
 {
     QTcpServer nobody;
     ASSERT_TRUE(nobody.listen(QHostAddress::LocalHost));
@@ -133,7 +133,7 @@ TEST_F(ExchangeTest, OfARefusedConnectionNothingWasSent)
     EXPECT_FALSE(outcome.times->firstByte);
 }
 
-TEST_F(ExchangeTest, ATokenInTheUrlOrTheReplysHeadersIsMasked)
+TEST_F(ExchangeTest, MasksTheTokenInTheUrlAndInReplyHeaders)
 {
     RawServer server([](const RawRequest&) {
         return HttpAnswer(200, "{\"code\": 1000, \"data\": {}}", QByteArray("X-Echo: ") + kToken + "\r\n");

@@ -74,7 +74,7 @@ private:
     RawServer m_server;
 };
 
-TEST_F(HistoryTest, EveryRunIsKeptAsItWas)
+TEST_F(HistoryTest, KeepsArgumentsRecordAndReplyOfEveryRun)
 {
     const CallOutcome first = RunWith(3);
     content = "second";
@@ -91,7 +91,7 @@ TEST_F(HistoryTest, EveryRunIsKeptAsItWas)
     EXPECT_EQ(TextOf("calls"), QStringLiteral("2"));
 }
 
-TEST_F(HistoryTest, AboveTheLimitTheOldestRunsGo)
+TEST_F(HistoryTest, DropsTheOldestRunsAboveTheLimit)
 {
     content = QByteArray(600000, 'x');
     session->history.SetLimitInMegabytes(2);
@@ -112,7 +112,7 @@ TEST_F(HistoryTest, AboveTheLimitTheOldestRunsGo)
     EXPECT_EQ(session->history.LimitInMegabytes(), 2);
 }
 
-TEST_F(HistoryTest, ARunIsLoadedAndRunAgain)
+TEST_F(HistoryTest, LoadsARunIntoTheFormAndRunsItAgain)
 {
     RunWith(3);
     Choose("BRMS.GetTimeSyncConfig");
@@ -127,7 +127,7 @@ TEST_F(HistoryTest, ARunIsLoadedAndRunAgain)
     EXPECT_EQ(outcomes.back().arguments, outcomes.front().arguments);
 }
 
-TEST_F(HistoryTest, TwoRunsAreCompared)
+TEST_F(HistoryTest, ComparesTwoRuns)
 {
     RunWith(3);
     content = "second";
@@ -150,7 +150,7 @@ TEST_F(HistoryTest, TwoRunsAreCompared)
     EXPECT_TRUE(rows.contains(QStringLiteral("/body/data/settingContent|\"first\"|\"second\""))) << all.toStdString();
 }
 
-TEST_F(HistoryTest, RunsAreSearched)
+TEST_F(HistoryTest, SearchMatchesArgumentsResultAndCallName)
 {
     RunWith(3);
     Run("BRMS.SetRemoteLogConfig");
@@ -161,7 +161,7 @@ TEST_F(HistoryTest, RunsAreSearched)
     }
 }
 
-TEST_F(HistoryTest, AFileKeepsTheRunsWithoutTokens)
+TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
 {
     const CallOutcome before = RunWith(3);
     EXPECT_FALSE(QFile::exists(FileOfRuns()));
@@ -193,7 +193,7 @@ TEST_F(HistoryTest, AFileKeepsTheRunsWithoutTokens)
     EXPECT_FALSE(QFile::exists(FileOfRuns()));
 }
 
-TEST_F(HistoryTest, AnArchiveHoldsTheExchanges)
+TEST_F(HistoryTest, HarHoldsTheExchangesWithoutTokens)
 {
     RunWith(3);
     Run("BRMS.SetRemoteLogConfig");
@@ -218,7 +218,7 @@ TEST_F(HistoryTest, AnArchiveHoldsTheExchanges)
     EXPECT_FALSE(log.dump().find(kToken) != std::string::npos);
 }
 
-TEST_F(HistoryTest, ATestOfTheChosenRunsIsTheOneThatIsBuiltHere)
+TEST_F(HistoryTest, ExportedCppTestEqualsTheOneInTheSources)
 {
     RunWith(3);
     Run("BRMS.SetRemoteLogConfig");

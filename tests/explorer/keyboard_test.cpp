@@ -29,7 +29,7 @@ protected:
     [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
 };
 
-TEST_F(KeyboardTest, EveryPaneIsReachedForwardsAndBackwards)
+TEST_F(KeyboardTest, F6AndShiftF6MoveBetweenThePanes)
 {
     Choose("BRMS.SetRemoteLogConfig");
     ASSERT_TRUE(Activate());
@@ -52,7 +52,7 @@ TEST_F(KeyboardTest, EveryPaneIsReachedForwardsAndBackwards)
     EXPECT_TRUE(HasFocus(*panes[1]));
 }
 
-TEST_F(KeyboardTest, TheTabKeyReachesAllInTheOrderOfTheScreen)
+TEST_F(KeyboardTest, TabReachesWidgetsInScreenOrder)
 {
     Choose("BRMS.SetRemoteLogConfig");
     ASSERT_TRUE(Activate());
@@ -73,7 +73,7 @@ TEST_F(KeyboardTest, TheTabKeyReachesAllInTheOrderOfTheScreen)
     }
 }
 
-TEST_F(KeyboardTest, AFieldOfTextLeavesTheKeyOfTheServersDialogToTheWindow)
+TEST_F(KeyboardTest, CtrlEInATextFieldOpensTheServersDialog)
 {
     Choose("BRMS.SetRemoteLogConfig");
     ASSERT_TRUE(Activate());
@@ -87,7 +87,7 @@ TEST_F(KeyboardTest, AFieldOfTextLeavesTheKeyOfTheServersDialogToTheWindow)
     EXPECT_NE(Window().findChild<QDialog*>(QStringLiteral("serversDialog")), nullptr);
 }
 
-TEST_F(KeyboardTest, TheKeyThatFindsACallSearchesTheResultWhereThatHasTheFocus)
+TEST_F(KeyboardTest, CtrlFSearchesTheResultWhenItHasFocusAndTheCallsOtherwise)
 {
     testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("{\"results\": []}"); });
     Use(server.Port());
@@ -128,7 +128,7 @@ protected:
     }
 };
 
-TEST_P(PlaceTest, HasAKeyThatLeadsThere)
+TEST_P(PlaceTest, ShortcutMovesTheFocusToIt)
 {
     Choose("BRMS.SetRemoteLogConfig");
     ASSERT_TRUE(Activate());
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(Places, PlaceTest,
                                          Place{"Emulator", Qt::Key_9, 3, -1}),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(KeyboardTest, ACallWithoutArgumentsLeadsToItsRun)
+TEST_F(KeyboardTest, ReturnOnACallWithoutArgumentsFocusesTheRunControls)
 {
     Choose("BRMS.GetTimeSyncConfig");
     ASSERT_TRUE(Activate());
@@ -218,7 +218,7 @@ protected:
     }
 };
 
-TEST_P(MnemonicTest, EachLetterLeadsToOnePlace)
+TEST_P(MnemonicTest, MnemonicsAreUnique)
 {
     testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("[]"); });
     Use(server.Port());

@@ -71,7 +71,7 @@ protected:
     }
 };
 
-TEST_F(OverwritingTest, TheFormIsFilledFromTheMatchingRead)
+TEST_F(OverwritingTest, FillsTheFormFromTheMatchingRead)
 {
     UseEmulator();
     const json present = RecordOf("BRMS.GetTimeSyncConfig");
@@ -82,7 +82,7 @@ TEST_F(OverwritingTest, TheFormIsFilledFromTheMatchingRead)
     EXPECT_EQ(TextOf("callName"), QStringLiteral("SetTimeSyncConfig"));
 }
 
-TEST_F(OverwritingTest, WhatTheReadWasAskedWithStays)
+TEST_F(OverwritingTest, FillingKeepsTheArgumentsOfTheRead)
 {
     UseEmulator();
     Choose("BRMS.UpdateImageConfig");
@@ -93,7 +93,7 @@ TEST_F(OverwritingTest, WhatTheReadWasAskedWithStays)
     EXPECT_NE(config.at("brightness"), 0);
 }
 
-TEST_F(OverwritingTest, FieldsOfAnotherRecordAreFilledByTheirNames)
+TEST_F(OverwritingTest, FillsFieldsByNameFromAnotherRecordType)
 {
     UseEmulator();
     const json groups = RecordOf("BRMS.GetUserGroupList");
@@ -104,7 +104,7 @@ TEST_F(OverwritingTest, FieldsOfAnotherRecordAreFilledByTheirNames)
     EXPECT_EQ(group, (json{{"groupName", groups.at(0).at("groupName")}, {"memo", groups.at(0).at("memo")}}));
 }
 
-TEST_F(OverwritingTest, AReadThatNeedsAnArgumentIsNotMadeWithoutIt)
+TEST_F(OverwritingTest, DoesNotReadWithoutARequiredArgument)
 {
     UseEmulator();
     Choose("BRMS.UpdateImageConfig");
@@ -113,7 +113,7 @@ TEST_F(OverwritingTest, AReadThatNeedsAnArgumentIsNotMadeWithoutIt)
     EXPECT_TRUE(outcomes.empty());
 }
 
-TEST_F(OverwritingTest, OnlyCallsWithAMatchingReadOfferIt)
+TEST_F(OverwritingTest, OffersFillingOnlyForCallsWithAMatchingRead)
 {
     Choose("BRMS.SetTimeSyncConfig");
     EXPECT_TRUE(Find<QPushButton>("fillFromServer").isVisible());
@@ -121,7 +121,7 @@ TEST_F(OverwritingTest, OnlyCallsWithAMatchingReadOfferIt)
     EXPECT_FALSE(Find<QPushButton>("fillFromServer").isVisible());
 }
 
-TEST_F(OverwritingTest, AWriteOfUntouchedFieldsShowsWhatItReplaces)
+TEST_F(OverwritingTest, AsksBeforeUntouchedFieldsReplaceOtherValues)
 {
     UseEmulator();
     const json present = RecordOf("BRMS.GetTimeSyncConfig");
@@ -150,7 +150,7 @@ TEST_F(OverwritingTest, AWriteOfUntouchedFieldsShowsWhatItReplaces)
     EXPECT_EQ(RecordOf("BRMS.GetTimeSyncConfig").at("interval"), 0);
 }
 
-TEST_F(OverwritingTest, NothingIsAskedWhenNothingUnseenChanges)
+TEST_F(OverwritingTest, DoesNotAskWhenNoUnseenValueChanges)
 {
     UseEmulator();
     Choose("BRMS.SetTimeSyncConfig");
@@ -168,7 +168,7 @@ TEST_F(OverwritingTest, NothingIsAskedWhenNothingUnseenChanges)
     EXPECT_EQ(RunsOf("BRMS.GetTimeSyncConfig"), 3);
 }
 
-TEST_F(OverwritingTest, APlainValueIsComparedToo)
+TEST_F(OverwritingTest, AsksBeforeReplacingAPlainValue)
 {
     UseEmulator();
     ASSERT_NE(RecordOf("BRMS.GetDeviceLoginModel"), 0);
@@ -179,7 +179,7 @@ TEST_F(OverwritingTest, APlainValueIsComparedToo)
     EXPECT_EQ(RowsOf(*pQuestion), QStringList{QStringLiteral("/model|1|0|no")});
 }
 
-TEST_F(OverwritingTest, AnUntouchedListReplacesTheOneOfTheServerAfterAQuestion)
+TEST_F(OverwritingTest, AsksBeforeAnUntouchedListReplacesTheServersList)
 {
     UseEmulator();
     Choose("BRMS.UpdateEncodeConfig");
@@ -190,7 +190,7 @@ TEST_F(OverwritingTest, AnUntouchedListReplacesTheOneOfTheServerAfterAQuestion)
     EXPECT_TRUE(RowsOf(*pQuestion).join(u'\n').startsWith(QLatin1String("/configs/")));
 }
 
-TEST_F(OverwritingTest, ANewElementThatWasNotFilledInIsAskedAbout)
+TEST_F(OverwritingTest, AsksAboutANewElementThatIsNotFilledIn)
 {
     UseEmulator();
     Choose("BRMS.AddQuickCommand");
@@ -211,7 +211,7 @@ TEST_F(OverwritingTest, ANewElementThatWasNotFilledInIsAskedAbout)
     EXPECT_TRUE(outcomes.front().succeeded);
 }
 
-TEST_F(OverwritingTest, AReadThatFailsIsExplainedInTheQuestion)
+TEST_F(OverwritingTest, QuestionExplainsAFailedRead)
 {
     testing_support::RawServer server([](const testing_support::RawRequest&) {
         return testing_support::HttpAnswer(200, R"({"code": 1003, "desc": "busy"})");
@@ -226,7 +226,7 @@ TEST_F(OverwritingTest, AReadThatFailsIsExplainedInTheQuestion)
     EXPECT_EQ(RunsOf("BRMS.SetRemoteLogConfig"), 0);
 }
 
-TEST_F(OverwritingTest, AReadWithoutDataIsExplainedInTheQuestion)
+TEST_F(OverwritingTest, QuestionExplainsAReadWithoutData)
 {
     testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -236,7 +236,7 @@ TEST_F(OverwritingTest, AReadWithoutDataIsExplainedInTheQuestion)
     EXPECT_EQ(TextOf("overwriteReason"), QStringLiteral("BRMS.GetRemoteLogConfig returned no data"));
 }
 
-TEST_F(OverwritingTest, ValuesOfAnotherServerAreNotKnownOnThisOne)
+TEST_F(OverwritingTest, AsksBeforeWritingValuesReadFromAnotherServer)
 {
     testing_support::RawServer other([](const testing_support::RawRequest&) {
         return Success(R"({"enable": true, "ip": "10.0.0.1", "port": 514, "platformId": "other"})");
@@ -252,7 +252,7 @@ TEST_F(OverwritingTest, ValuesOfAnotherServerAreNotKnownOnThisOne)
     EXPECT_EQ(RunsOf("BRMS.SetRemoteLogConfig"), 0);
 }
 
-TEST_F(OverwritingTest, ARepetitionAsksOnce)
+TEST_F(OverwritingTest, RepeatedWriteAsksOnce)
 {
     UseEmulator();
     Choose("BRMS.SetDeviceLoginModel");
@@ -265,7 +265,7 @@ TEST_F(OverwritingTest, ARepetitionAsksOnce)
     ASSERT_TRUE(Await([this] { return !session->runner.IsRepeating() && RunsOf("BRMS.SetDeviceLoginModel") > 1; }));
 }
 
-TEST_F(OverwritingTest, IdentifiersOfAReadAreOffered)
+TEST_F(OverwritingTest, OffersIdentifiersThatAReadReturned)
 {
     UseEmulator();
     const json groups = RecordOf("BRMS.GetUserGroupList");
@@ -292,7 +292,7 @@ TEST_F(OverwritingTest, IdentifiersOfAReadAreOffered)
     EXPECT_EQ(Find<QLineEdit>("groupName").completer(), nullptr);
 }
 
-TEST_F(OverwritingTest, AValueOutsideTheContractsRangeIsNotRun)
+TEST_F(OverwritingTest, ValueOutsideTheContractsRangeDisablesRun)
 {
     Choose("OBMS.GetPageConfigDesfireFailInfo");
     const auto& limits = Find<QLabel>("page.limits");

@@ -16,7 +16,7 @@ using testing_support::RawServer;
 
 class QuittingTest : public ExplorerTest, public testing::WithParamInterface<Way> {};
 
-TEST_P(QuittingTest, TheLastWindowWhileACallWaitsEndsTheProgram)
+TEST_P(QuittingTest, ClosingTheLastWindowDuringACallEndsTheCallAndTheProgram)
 {
     std::atomic<int> requests{0};
     const RawServer server([&requests](const RawRequest&) {

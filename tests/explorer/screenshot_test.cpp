@@ -65,14 +65,14 @@ protected:
     }
 };
 
-TEST_F(ScreenshotTest, Empty)
+TEST_F(ScreenshotTest, PaintsTheEmptyWindow)
 {
     Shoot(Window(), "empty");
 }
 
 class MainStateTest : public ScreenshotTest, public testing::WithParamInterface<std::tuple<QSize, Appearance>> {};
 
-TEST_P(MainStateTest, ResultRequestAndTiming)
+TEST_P(MainStateTest, PaintsResultRequestAndTiming)
 {
     const auto [size, appearance] = GetParam();
     const std::string suffix =
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(Sizes, MainStateTest,
 
 class LanguageTest : public ScreenshotTest, public testing::WithParamInterface<const char*> {};
 
-TEST_P(LanguageTest, WindowAndServers)
+TEST_P(LanguageTest, PaintsTheWindowAndTheServersDialog)
 {
     explorer::StoreLanguage(*settings, QLatin1String(GetParam()));
     Close();
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, testing::Values("en", "de", "z
 class OverwritingTest : public ScreenshotTest,
                         public testing::WithParamInterface<std::tuple<const char*, Appearance>> {};
 
-TEST_P(OverwritingTest, QuestionAndForm)
+TEST_P(OverwritingTest, PaintsTheQuestionAndTheForm)
 {
     const auto [language, appearance] = GetParam();
     const std::string suffix = std::string("-") + language + (appearance == Appearance::Dark ? "-dark" : "-light");
@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(Looks, OverwritingTest,
 class EmulatorPanelTest : public ScreenshotTest,
                           public testing::WithParamInterface<std::tuple<const char*, Appearance>> {};
 
-TEST_P(EmulatorPanelTest, EachPage)
+TEST_P(EmulatorPanelTest, PaintsEachPage)
 {
     const auto [language, appearance] = GetParam();
     explorer::StoreLanguage(*settings, QLatin1String(language));
@@ -209,7 +209,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, EmulatorPanelTest,
                                     (std::get<1>(row.param) == Appearance::Dark ? "Dark" : "Light");
                          });
 
-TEST_F(ScreenshotTest, Failure)
+TEST_F(ScreenshotTest, PaintsAFailure)
 {
     RawServer server([](const RawRequest&) {
         return testing_support::HttpAnswer(200,
@@ -220,7 +220,7 @@ TEST_F(ScreenshotTest, Failure)
     Shoot(Window(), "failure");
 }
 
-TEST_F(ScreenshotTest, NestedArguments)
+TEST_F(ScreenshotTest, PaintsNestedArguments)
 {
     Choose("BRMS.AddQuickCommand");
     Window().findChild<explorer::ArgumentForm*>()->SetArguments(
@@ -233,7 +233,7 @@ TEST_F(ScreenshotTest, NestedArguments)
     Shoot(Window(), "nested-arguments");
 }
 
-TEST_F(ScreenshotTest, Waiting)
+TEST_F(ScreenshotTest, PaintsTheWindowWhileACallWaits)
 {
     RawServer server([](const RawRequest&) { return RawAnswer{}; });
     Use(server.Port());
@@ -254,7 +254,7 @@ TEST_F(ScreenshotTest, Waiting)
 
 class WithoutWaitingTest : public ScreenshotTest, public testing::WithParamInterface<Appearance> {};
 
-TEST_P(WithoutWaitingTest, CallsUnderWay)
+TEST_P(WithoutWaitingTest, PaintsTheRunningCalls)
 {
     RawServer server([](const RawRequest&) { return RawAnswer{}; });
     explorer::ApplyAppearance(GetParam());
@@ -272,7 +272,7 @@ TEST_P(WithoutWaitingTest, CallsUnderWay)
 INSTANTIATE_TEST_SUITE_P(Appearances, WithoutWaitingTest, testing::Values(Appearance::Light, Appearance::Dark),
                          [](const auto& row) { return row.param == Appearance::Dark ? "Dark" : "Light"; });
 
-TEST_F(ScreenshotTest, FilteredCalls)
+TEST_F(ScreenshotTest, PaintsFilteredCalls)
 {
     ASSERT_TRUE(Await([this] {
         Find<QLineEdit>("callFilter").setText(QStringLiteral("/config/time-sync"));

@@ -36,7 +36,7 @@ private:
     explorer::SecretService m_service;
 };
 
-TEST_F(SecretServiceTest, KeepsATokenBetweenTheRunsOfTheProgram)
+TEST_F(SecretServiceTest, KeepsATokenAcrossRestarts)
 {
     Use(1);
     const QSignalSpy kept(&session->tokens, &explorer::Tokens::Kept);
@@ -55,7 +55,7 @@ TEST_F(SecretServiceTest, KeepsATokenBetweenTheRunsOfTheProgram)
     EXPECT_TRUE(Await([this, &id] { return !Read(id); }));
 }
 
-TEST_F(SecretServiceTest, NoFileHoldsTheTokenInClear)
+TEST_F(SecretServiceTest, WritesNoTokenInPlainText)
 {
     const QSignalSpy kept(&session->tokens, &explorer::Tokens::Kept);
     session->tokens.Set(QStringLiteral("a-server"), QLatin1String(kSecret), true);

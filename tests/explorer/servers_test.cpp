@@ -77,7 +77,7 @@ protected:
     }
 };
 
-TEST_F(ServersTest, AreKeptBetweenRunsAndTheirTokensInTheSecretService)
+TEST_F(ServersTest, AreKeptAcrossRestartsWithTheirTokensInTheSecretService)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     AddServer(QStringLiteral("Night shift"), QStringLiteral("127.0.0.1"), server.Port(),
@@ -95,7 +95,7 @@ TEST_F(ServersTest, AreKeptBetweenRunsAndTheirTokensInTheSecretService)
     EXPECT_EQ(requests.back().Value("X-Subject-Token"), "s3cret-t0ken");
 }
 
-TEST_F(ServersTest, NoTokenIsWrittenToAFile)
+TEST_F(ServersTest, WritesNoTokenToAFile)
 {
     RawServer server(
         [](const RawRequest& request) { return Success("{\"echo\": \"" + request.Value("X-Subject-Token") + "\"}"); });
@@ -112,7 +112,7 @@ TEST_F(ServersTest, NoTokenIsWrittenToAFile)
     EXPECT_FALSE(written.contains(QByteArray("s3cret-t0ken").toHex()));
 }
 
-TEST_F(ServersTest, WithoutASecretServiceTheTokenIsAskedForInEachRunOfTheProgram)
+TEST_F(ServersTest, AsksForTheTokenOncePerStartWithoutASecretService)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     AddServer(QStringLiteral("Night shift"), QStringLiteral("127.0.0.1"), server.Port(), QStringLiteral("first"));
@@ -134,7 +134,7 @@ TEST_F(ServersTest, WithoutASecretServiceTheTokenIsAskedForInEachRunOfTheProgram
     EXPECT_EQ(requests.back().Value("X-Subject-Token"), "second");
 }
 
-TEST_F(ServersTest, ATokenThatIsRefusedIsNotSentAgain)
+TEST_F(ServersTest, DoesNotSendARefusedTokenAgain)
 {
     RawServer server([](const RawRequest& request) {
         return request.Value("X-Subject-Token") == "right" ? Success("{}") : testing_support::HttpAnswer(401, "");
@@ -155,7 +155,7 @@ TEST_F(ServersTest, ATokenThatIsRefusedIsNotSentAgain)
     EXPECT_EQ(session->tokens.Find(id), QStringLiteral("right"));
 }
 
-TEST_F(ServersTest, ARefusedTokenOfTheVaultIsNotFetchedAgain)
+TEST_F(ServersTest, DoesNotFetchARefusedTokenFromTheVaultAgain)
 {
     vault.tokens.insert(QStringLiteral("id"), QStringLiteral("old"));
     session->tokens.Fetch(QStringLiteral("id"));
@@ -172,7 +172,7 @@ struct Url {
     int port;
 };
 
-TEST_F(ServersTest, AUrlInTheHostsFieldFillsSchemeHostAndPort)
+TEST_F(ServersTest, UrlPastedAsTheHostFillsSchemeHostAndPort)
 {
     QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
     QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
@@ -194,7 +194,7 @@ TEST_F(ServersTest, AUrlInTheHostsFieldFillsSchemeHostAndPort)
     EXPECT_EQ(session->servers.Current().Address(), QStringLiteral("https://10.0.0.7:8443"));
 }
 
-TEST_F(ServersTest, ANewServerIsTheCurrentOne)
+TEST_F(ServersTest, NewServerBecomesTheCurrentOne)
 {
     AddServer(QStringLiteral("First"), QStringLiteral("first.example"), 80, QStringLiteral("t"));
     EXPECT_EQ(session->servers.Current().name, QStringLiteral("First"));
@@ -204,7 +204,7 @@ TEST_F(ServersTest, ANewServerIsTheCurrentOne)
     EXPECT_TRUE(session->servers.IsEmulator()) << "nothing is new";
 }
 
-TEST_F(ServersTest, WithoutAnAnswerAboutTheTokenNothingRuns)
+TEST_F(ServersTest, CancellingTheTokenDialogCancelsTheRun)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -217,7 +217,7 @@ TEST_F(ServersTest, WithoutAnAnswerAboutTheTokenNothingRuns)
     EXPECT_TRUE(server.TakeRequests().empty());
 }
 
-TEST_F(ServersTest, AServerThatIsRemovedTakesItsTokenAlong)
+TEST_F(ServersTest, RemovingAServerRemovesItsToken)
 {
     AddServer(QStringLiteral("Old"), QStringLiteral("old.example"), 80, QStringLiteral("gone"));
     ASSERT_EQ(vault.tokens.size(), 1);
@@ -229,7 +229,7 @@ TEST_F(ServersTest, AServerThatIsRemovedTakesItsTokenAlong)
     EXPECT_TRUE(vault.tokens.isEmpty());
 }
 
-TEST_F(ServersTest, ACancelledDialogChangesNothing)
+TEST_F(ServersTest, CancellingTheServersDialogChangesNothing)
 {
     QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
     QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
@@ -295,7 +295,7 @@ private:
     const QSslConfiguration m_configuration;
 };
 
-TEST_F(CertificateTest, IsShownAndTrustedAndKeptWithTheServer)
+TEST_F(CertificateTest, IsStoredWithTheServerOnceTheUserTrustsIt)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -316,7 +316,7 @@ TEST_F(CertificateTest, IsShownAndTrustedAndKeptWithTheServer)
     EXPECT_EQ(session->servers.Current().pin, Digest());
 }
 
-TEST_F(CertificateTest, ThatHasChangedIsWarnedOf)
+TEST_F(CertificateTest, WarnsWhenItHasChanged)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -335,7 +335,7 @@ TEST_F(CertificateTest, ThatHasChangedIsWarnedOf)
     EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
 }
 
-TEST_F(CertificateTest, IsNoLongerTrustedAloneWhenAnyIs)
+TEST_F(CertificateTest, TrustingAnyCertificateRemovesThePin)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -347,7 +347,7 @@ TEST_F(CertificateTest, IsNoLongerTrustedAloneWhenAnyIs)
     EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
 }
 
-TEST_F(CertificateTest, OfAServerThatDoesNotAnswerIsSaidToBeMissing)
+TEST_F(CertificateTest, ReportsThatAnUnreachableServerShowsNone)
 {
     Use(1, true);
     Edit();
@@ -356,7 +356,7 @@ TEST_F(CertificateTest, OfAServerThatDoesNotAnswerIsSaidToBeMissing)
     EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled());
 }
 
-TEST_F(CertificateTest, OfAnotherAddressIsNotTrustedByMistake)
+TEST_F(CertificateTest, ChangingTheAddressDiscardsTheShownCertificate)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -370,7 +370,7 @@ TEST_F(CertificateTest, OfAnotherAddressIsNotTrustedByMistake)
 
 class CallToAPinnedServerTest : public CertificateTest {};
 
-TEST_F(CallToAPinnedServerTest, SucceedsWithItsCertificate)
+TEST_F(CallToAPinnedServerTest, SucceedsWithThePinnedCertificate)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -381,7 +381,7 @@ TEST_F(CallToAPinnedServerTest, SucceedsWithItsCertificate)
     EXPECT_EQ(server.TakeRequests().size(), 1U);
 }
 
-TEST_F(CallToAPinnedServerTest, SendsNothingToAnotherCertificate)
+TEST_F(CallToAPinnedServerTest, SendsNothingToAServerWithAnotherCertificate)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -389,7 +389,7 @@ TEST_F(CallToAPinnedServerTest, SendsNothingToAnotherCertificate)
     ExpectRefused(server);
 }
 
-TEST_F(CallToAPinnedServerTest, DoesNotUseAConnectionThatWasMadeBeforeThePin)
+TEST_F(CallToAPinnedServerTest, DoesNotReuseAConnectionMadeBeforeThePinChanged)
 {
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
@@ -401,7 +401,7 @@ TEST_F(CallToAPinnedServerTest, DoesNotUseAConnectionThatWasMadeBeforeThePin)
 
 class HostTest : public ServersTest, public testing::WithParamInterface<std::pair<const char*, bool>> {};
 
-TEST_P(HostTest, IsCheckedAsItIsTyped)
+TEST_P(HostTest, OnlyAValidOneEnablesOk)
 {
     QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
     QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
@@ -416,7 +416,7 @@ INSTANTIATE_TEST_SUITE_P(Hosts, HostTest,
                                          std::pair("host:80", false), std::pair("user@host", false),
                                          std::pair("host/path", false), std::pair("ftp://host", false)));
 
-TEST_F(ServersTest, TheEmulatorIsStartedAndStopped)
+TEST_F(ServersTest, ButtonStartsAndStopsTheEmulator)
 {
     auto& button = Find<QPushButton>("emulator");
     EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
@@ -429,13 +429,13 @@ TEST_F(ServersTest, TheEmulatorIsStartedAndStopped)
     EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
 }
 
-TEST_F(ServersTest, ARunStartsTheEmulatorThatIsChosen)
+TEST_F(ServersTest, RunStartsTheEmulatorWhenItIsTheCurrentServer)
 {
     EXPECT_TRUE(Run("BRMS.GetTimeSyncConfig").succeeded);
     EXPECT_EQ(session->emulator.GetState(), explorer::EmulatorProcess::Running);
 }
 
-TEST_F(ServersTest, ARunThatWaitsForTheEmulatorDoesNotGoToAnotherServer)
+TEST_F(ServersTest, ChangingTheServerCancelsARunThatWaitsForTheEmulator)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Choose("BRMS.GetTimeSyncConfig");
@@ -449,7 +449,7 @@ TEST_F(ServersTest, ARunThatWaitsForTheEmulatorDoesNotGoToAnotherServer)
     EXPECT_TRUE(server.TakeRequests().empty());
 }
 
-TEST_F(ServersTest, ARunThatWaitsForTheEmulatorIsNotMadeOfAnotherCall)
+TEST_F(ServersTest, ChoosingAnotherCallCancelsARunThatWaitsForTheEmulator)
 {
     Choose("BRMS.GetTimeSyncConfig");
     ClickRun();
@@ -461,7 +461,7 @@ TEST_F(ServersTest, ARunThatWaitsForTheEmulatorIsNotMadeOfAnotherCall)
     EXPECT_TRUE(outcomes.empty());
 }
 
-TEST_F(ServersTest, TokenOfTheEmulatorIsInNoProcessList)
+TEST_F(ServersTest, TokenOfTheEmulatorIsInNoCommandLine)
 {
     UseEmulator();
     bool isListed = false;
@@ -475,7 +475,7 @@ TEST_F(ServersTest, TokenOfTheEmulatorIsInNoProcessList)
     EXPECT_TRUE(isListed);
 }
 
-TEST_F(ServersTest, AnEmulatorThatIsNotThereIsSaid)
+TEST_F(ServersTest, ReportsAMissingEmulatorProgram)
 {
     explorer::EmulatorProcess emulator(folder.filePath(QStringLiteral("no-such-program")));
     QString why;
@@ -486,7 +486,7 @@ TEST_F(ServersTest, AnEmulatorThatIsNotThereIsSaid)
     EXPECT_EQ(emulator.GetState(), explorer::EmulatorProcess::Stopped);
 }
 
-TEST(SecretServiceTest, SaysAtOnceThatItHasNoSuchToken)
+TEST(SecretServiceTest, ReturnsNoTokenForAnUnknownServer)
 {
     explorer::SecretService service;
     bool answered = false;

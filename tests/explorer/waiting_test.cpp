@@ -71,7 +71,7 @@ protected:
     }
 };
 
-TEST_F(WaitingTest, ATimeOutAboveTheLongestIsRefused)
+TEST_F(WaitingTest, RefusesATimeOutAboveTheMaximum)
 {
     const HoldingServer server("nowhere");
     Use(server.Port());
@@ -101,7 +101,7 @@ TEST_F(WaitingTest, ATimeOutAboveTheLongestIsRefused)
     EXPECT_EQ(Find<QSpinBox>("timeout").value(), 3600) << "the last one that could be used";
 }
 
-TEST_F(WaitingTest, ATimeOutIsShown)
+TEST_F(WaitingTest, ReportsATimeOut)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -114,7 +114,7 @@ TEST_F(WaitingTest, ATimeOutIsShown)
     EXPECT_TRUE(TextOf("resultWords").contains(QStringLiteral("in time"))) << TextOf("resultWords").toStdString();
 }
 
-TEST_F(WaitingTest, TheWaitDialogIsOverTheWindowAndPaintingGoesOn)
+TEST_F(WaitingTest, WaitDialogIsModalAndTheEventLoopKeepsRunning)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -134,7 +134,7 @@ TEST_F(WaitingTest, TheWaitDialogIsOverTheWindowAndPaintingGoesOn)
     EXPECT_EQ(outcomes.front().way, Way::WaitDialog);
 }
 
-TEST_F(WaitingTest, InTheEventLoopInputGoesOn)
+TEST_F(WaitingTest, WindowTakesInputDuringACallInTheEventLoop)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -149,7 +149,7 @@ TEST_F(WaitingTest, InTheEventLoopInputGoesOn)
     EXPECT_FALSE(Find<QLabel>("runState").isVisible());
 }
 
-TEST_F(WaitingTest, ASecondRunEndsInsideTheFirst)
+TEST_F(WaitingTest, SecondRunCanEndWhileTheFirstWaits)
 {
     const HoldingServer server("remote-log");
     Use(server.Port());
@@ -170,7 +170,7 @@ TEST_F(WaitingTest, ASecondRunEndsInsideTheFirst)
     EXPECT_TRUE(TextOf("resultWords").contains(QStringLiteral("in time")));
 }
 
-TEST_F(WaitingTest, TheSameCallTwiceAtOnceHasTwoResults)
+TEST_F(WaitingTest, SimultaneousRunsOfOneCallHaveSeparateResults)
 {
     std::atomic<int> count{0};
     RawServer server([&count](const RawRequest&) {
@@ -195,7 +195,7 @@ TEST_F(WaitingTest, TheSameCallTwiceAtOnceHasTwoResults)
     EXPECT_EQ(outcomes.at(1).reply->status, 200);
 }
 
-TEST_F(WaitingTest, ChangingTheServerLeavesTheRunToItsOwn)
+TEST_F(WaitingTest, ChangingTheServerDoesNotAffectARunningCall)
 {
     const HoldingServer holding;
     RawServer other([](const RawRequest&) { return Success("{}"); });
@@ -215,7 +215,7 @@ TEST_F(WaitingTest, ChangingTheServerLeavesTheRunToItsOwn)
 
 class ClosingTest : public WaitingTest, public testing::WithParamInterface<Way> {};
 
-TEST_P(ClosingTest, TheWindowWhileACallWaitsDoesNoHarm)
+TEST_P(ClosingTest, CallStillTimesOutAfterTheWindowIsClosed)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -229,7 +229,7 @@ TEST_P(ClosingTest, TheWindowWhileACallWaitsDoesNoHarm)
     EXPECT_EQ(outcomes.front().result, -101);
 }
 
-TEST_P(ClosingTest, ALanguageThatTakesANewWindowWhileACallWaitsDoesNoHarm)
+TEST_P(ClosingTest, CallStillTimesOutAfterALanguageChangeReplacesTheWindow)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -248,7 +248,7 @@ TEST_P(ClosingTest, ALanguageThatTakesANewWindowWhileACallWaitsDoesNoHarm)
 
 INSTANTIATE_TEST_SUITE_P(Ways, ClosingTest, testing::ValuesIn(kWays), WayName);
 
-TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
+TEST_F(WaitingTest, StoppingTheEmulatorEndsTheWait)
 {
     UseEmulator();
     QNetworkAccessManager network;
@@ -280,7 +280,7 @@ TEST_F(WaitingTest, TheEmulatorThatStopsEndsTheWait)
     EXPECT_EQ(TextOf("serverAddress"), QStringLiteral("The emulator is not running"));
 }
 
-TEST_F(WaitingTest, TheParentThatIsDeletedEndsTheWait)
+TEST_F(WaitingTest, DeletingTheParentEndsTheWait)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -331,7 +331,7 @@ protected:
     }
 };
 
-TEST_F(WithoutWaitingTest, SeveralCallsAreUnderWayAndEachResultAppearsWhenItComes)
+TEST_F(WithoutWaitingTest, ShowsTheResultOfEachConcurrentCallWhenItEnds)
 {
     const HoldingServer server("remote-log");
     Use(server.Port());
@@ -353,7 +353,7 @@ TEST_F(WithoutWaitingTest, SeveralCallsAreUnderWayAndEachResultAppearsWhenItCome
     EXPECT_EQ(CancelButtons().size(), 2);
 }
 
-TEST_F(WithoutWaitingTest, EachCallIsCancelledByItsButton)
+TEST_F(WithoutWaitingTest, CancelButtonCancelsOnlyItsCall)
 {
     const HoldingServer server("remote-log");
     Use(server.Port());
@@ -381,7 +381,7 @@ TEST_F(WithoutWaitingTest, EachCallIsCancelledByItsButton)
     EXPECT_FALSE(Find<QWidget>("runningCalls").isVisible());
 }
 
-TEST_F(WithoutWaitingTest, TheNextWindowListsTheCallsUnderWay)
+TEST_F(WithoutWaitingTest, NewWindowListsTheRunningCalls)
 {
     const HoldingServer server;
     Use(server.Port());
@@ -394,7 +394,7 @@ TEST_F(WithoutWaitingTest, TheNextWindowListsTheCallsUnderWay)
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
-TEST_F(WithoutWaitingTest, ArgumentsThatDoNotFitAreRefused)
+TEST_F(WithoutWaitingTest, RefusesACallWithAMissingArgument)
 {
     explorer::RunOrder order;
     order.call = catalogue::FindCall("BRMS.GetLocalSetting");

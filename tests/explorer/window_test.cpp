@@ -66,7 +66,7 @@ protected:
     void TypeInFocus(const QString& text) const { QTest::keyClicks(QApplication::focusWidget(), text); }
 };
 
-TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
+TEST_F(WindowTest, CallCanBeChosenFilledInAndRunByKeyboardAlone)
 {
     UseEmulator();
     ASSERT_TRUE(Activate());
@@ -92,7 +92,7 @@ TEST_F(WindowTest, ACallIsPickedFilledInRunAndReadWithTheKeyboardAlone)
     EXPECT_TRUE(shown.contains(QStringLiteral("settingContent"))) << shown.toStdString();
 }
 
-TEST_F(WindowTest, TheContractDescribesTheCallAndItsArguments)
+TEST_F(WindowTest, DescribesTheCallAndItsArgumentsFromTheContract)
 {
     ASSERT_TRUE(Activate());
     Press(Qt::Key_F, Qt::ControlModifier);
@@ -112,7 +112,7 @@ TEST_F(WindowTest, TheContractDescribesTheCallAndItsArguments)
     EXPECT_TRUE(tip.contains(QLatin1String("Example: 1"))) << tip.toStdString();
 }
 
-TEST_F(WindowTest, TheRequestFollowsTheForm)
+TEST_F(WindowTest, RequestTabFollowsTheForm)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -165,7 +165,7 @@ struct Failure {
 
 class FailureTest : public WindowTest, public testing::WithParamInterface<Failure> {};
 
-TEST_P(FailureTest, IsToldInWords)
+TEST_P(FailureTest, IsShownInWordsAndAsANotification)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(GetParam().status, GetParam().body); });
     Use(server.Port());
@@ -229,7 +229,7 @@ TEST_F(WindowTest, NotificationsShowWhetherTheirCallSucceeded)
     EXPECT_TRUE(pictureOf(6).isNull());
 }
 
-TEST_F(WindowTest, ARecordIsShownAsFarAsItWasRead)
+TEST_F(WindowTest, OutcomeHoldsTheFieldsReadBeforeTheError)
 {
     RawServer server(
         [](const RawRequest&) { return HttpAnswer(200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}"); });
@@ -239,7 +239,7 @@ TEST_F(WindowTest, ARecordIsShownAsFarAsItWasRead)
     EXPECT_EQ(outcome.record.at("ip").get<std::string>(), "");
 }
 
-TEST_F(WindowTest, CallsAreFoundByNamePathAndKeyInAnyCase)
+TEST_F(WindowTest, FilterFindsCallsByNamePathAndKeyInAnyCase)
 {
     ASSERT_TRUE(Await([this] { return HasEndpoints(); }));
     const std::pair<const char*, const char*> finds[] = {
@@ -263,7 +263,7 @@ TEST_F(WindowTest, CallsAreFoundByNamePathAndKeyInAnyCase)
     EXPECT_EQ(calls, static_cast<int>(catalogue::Calls().size()));
 }
 
-TEST_F(WindowTest, TheFilterLeavesTheChosenCallAndItsArguments)
+TEST_F(WindowTest, FilterKeepsTheChosenCallAndItsArguments)
 {
     Choose("BRMS.GetLocalSetting");
     auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
@@ -277,7 +277,7 @@ TEST_F(WindowTest, TheFilterLeavesTheChosenCallAndItsArguments)
     EXPECT_EQ(pForm->Arguments().value(QLatin1String("settingType")).toInt(), 7);
 }
 
-TEST_F(WindowTest, ArgumentsOfACallThatIsLeftAreThereAgain)
+TEST_F(WindowTest, RestoresTheArgumentsWhenACallIsChosenAgain)
 {
     Choose("BRMS.GetLocalSetting");
     auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
@@ -287,7 +287,7 @@ TEST_F(WindowTest, ArgumentsOfACallThatIsLeftAreThereAgain)
     EXPECT_EQ(pForm->Arguments().value(QLatin1String("settingType")).toInt(), 7);
 }
 
-TEST_F(WindowTest, FavouritesAndTheCallsUsedLastAreKept)
+TEST_F(WindowTest, KeepsFavouritesAndRecentlyUsedCallsAcrossRestarts)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -305,7 +305,7 @@ TEST_F(WindowTest, FavouritesAndTheCallsUsedLastAreKept)
     EXPECT_EQ(TextOf("callName"), QStringLiteral("GetRemoteLogConfig"));
 }
 
-TEST_F(WindowTest, RunningACallOfTheGroupOfThoseUsedLastKeepsItChosen)
+TEST_F(WindowTest, RunningARecentlyUsedCallKeepsItChosen)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -323,7 +323,7 @@ TEST_F(WindowTest, RunningACallOfTheGroupOfThoseUsedLastKeepsItChosen)
     EXPECT_EQ(tree.currentIndex().row(), 0);
 }
 
-TEST_F(WindowTest, ArgumentsOfTheLastUseAreFilledIn)
+TEST_F(WindowTest, RestoresTheLastArgumentsAfterARestart)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -338,7 +338,7 @@ TEST_F(WindowTest, ArgumentsOfTheLastUseAreFilledIn)
               7);
 }
 
-TEST_F(WindowTest, AnArgumentOfTheWrongTypeIsNotRun)
+TEST_F(WindowTest, ArgumentOfTheWrongTypeDisablesRun)
 {
     Choose("BRMS.GetLocalSetting");
     auto* const pNumber = Window().findChild<explorer::ArgumentForm*>()->findChild<explorer::NumberBox*>();
@@ -352,7 +352,7 @@ TEST_F(WindowTest, AnArgumentOfTheWrongTypeIsNotRun)
     EXPECT_TRUE(Find<QPushButton>("run").isEnabled());
 }
 
-TEST_F(WindowTest, ARepetitionRunsSoOftenAndCanBeCancelled)
+TEST_F(WindowTest, RepetitionRunsTheGivenNumberOfTimesAndCanBeCancelled)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -377,7 +377,7 @@ TEST_F(WindowTest, ARepetitionRunsSoOftenAndCanBeCancelled)
     EXPECT_EQ(session->runner.Pending(), 0);
 }
 
-TEST_F(WindowTest, ARepetitionThatIsCancelledIsNotTakenUpByTheNext)
+TEST_F(WindowTest, IgnoresANewRepetitionUntilACancelledOneHasEnded)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -397,7 +397,7 @@ TEST_F(WindowTest, ARepetitionThatIsCancelledIsNotTakenUpByTheNext)
     EXPECT_EQ(ends.count(), 1);
 }
 
-TEST_F(WindowTest, LogLinesCanBeSearchedAndChosenByLevel)
+TEST_F(WindowTest, LogLinesCanBeSearchedAndFilteredByLevel)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(500, ""); });
     Use(server.Port());
@@ -423,7 +423,7 @@ TEST_F(WindowTest, LogLinesCanBeSearchedAndChosenByLevel)
     EXPECT_EQ(texts(), QStringList({QStringLiteral("PacketGetRemoteLogConfig success.")}));
 }
 
-TEST_F(WindowTest, TheTokenIsNowhereToBeSeen)
+TEST_F(WindowTest, TokenIsInNeitherTheRequestNorTheLog)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -438,7 +438,7 @@ TEST_F(WindowTest, TheTokenIsNowhereToBeSeen)
     }
 }
 
-TEST_F(WindowTest, SpeaksTheLanguagesOfTheErrorTexts)
+TEST_F(WindowTest, HasATranslationForEachLanguageOfTheErrorTexts)
 {
     RawServer server([](const RawRequest&) { return HttpAnswer(404, ""); });
     Use(server.Port());
@@ -458,7 +458,7 @@ TEST_F(WindowTest, SpeaksTheLanguagesOfTheErrorTexts)
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
-TEST_F(WindowTest, AnotherLanguageKeepsResultsArgumentsAndTheWayToWait)
+TEST_F(WindowTest, ChangingTheLanguageKeepsResultsArgumentsAndWaitMode)
 {
     RawServer server([](const RawRequest&) { return Success("{\"enable\": \"1\"}"); });
     Use(server.Port());
@@ -480,7 +480,7 @@ TEST_F(WindowTest, AnotherLanguageKeepsResultsArgumentsAndTheWayToWait)
     EXPECT_EQ(TextOf("calls"), QStringLiteral("1"));
 }
 
-TEST_F(WindowTest, TheTimesAreThoseOfTheChosenCall)
+TEST_F(WindowTest, ShowsOnlyTheTimesOfTheChosenCall)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });
     Use(server.Port());
@@ -497,7 +497,7 @@ TEST_F(WindowTest, TheTimesAreThoseOfTheChosenCall)
     EXPECT_EQ(TextOf("parts"), QString());
 }
 
-TEST_F(WindowTest, NothingMovesAndNothingOldIsShownWhileACallRuns)
+TEST_F(WindowTest, RunningCallClearsTheOldResultAndKeepsTheRunButtonInPlace)
 {
     int count = 0;
     RawServer server([&count](const RawRequest&) {
@@ -527,7 +527,7 @@ TEST_F(WindowTest, NothingMovesAndNothingOldIsShownWhileACallRuns)
     EXPECT_EQ(run.mapTo(&Window(), QPoint()), place);
 }
 
-TEST_F(WindowTest, ALongTextOfTheServerScrolls)
+TEST_F(WindowTest, LongServerTextScrolls)
 {
     const QByteArray words = QByteArray(4000, 'w').replace('w', "so ");
     RawServer server(
@@ -540,7 +540,7 @@ TEST_F(WindowTest, ALongTextOfTheServerScrolls)
     EXPECT_GT(Find<QTabWidget>("results").height(), header.height());
 }
 
-TEST_F(WindowTest, ASmallWindowShowsEveryPane)
+TEST_F(WindowTest, SmallWindowShowsEveryPane)
 {
     Choose("BRMS.AddQuickCommand");
     Window().resize(800, 600);
@@ -550,7 +550,7 @@ TEST_F(WindowTest, ASmallWindowShowsEveryPane)
     EXPECT_GE(Find<QSpinBox>("timeout").width(), Find<QSpinBox>("timeout").sizeHint().width());
 }
 
-TEST_F(WindowTest, LeavesRoomForTheFrameOnTheScreen)
+TEST_F(WindowTest, LeavesRoomForTheWindowFrameOnTheScreen)
 {
     constexpr int kFrame = 40;
     const int shortest = Window().minimumSizeHint().height();
@@ -558,7 +558,7 @@ TEST_F(WindowTest, LeavesRoomForTheFrameOnTheScreen)
     EXPECT_LE(Window().height(), qMax(shortest, Window().screen()->availableSize().height() - kFrame));
 }
 
-TEST_F(WindowTest, SpeaksEnglishWhereThereIsNoTranslation)
+TEST_F(WindowTest, FallsBackToEnglishWithoutATranslation)
 {
     const auto plural = [](int count) {
         return QCoreApplication::translate("explorer::CallPanel", "%n call(s)", nullptr, count);
@@ -574,7 +574,7 @@ TEST_F(WindowTest, SpeaksEnglishWhereThereIsNoTranslation)
     EXPECT_EQ(TextOf("callCount"), QStringLiteral("%1 calls").arg(catalogue::Calls().size()));
 }
 
-TEST_F(WindowTest, ARefusedPasteIsExplainedInTheUsersLanguage)
+TEST_F(WindowTest, ExplainsARefusedPasteInTheUsersLanguage)
 {
     const std::pair<const char*, const char*> languages[] = {
         {"en", "The clipboard does not fit: /settingType: expected int, got text"},

@@ -173,7 +173,7 @@ std::string NameOf(const testing::TestParamInfo<Row>& info)
 
 INSTANTIATE_TEST_SUITE_P(EveryCall, CppLines, testing::ValuesIn(Rows()), NameOf);
 
-TEST(Completeness, EveryCallOfTheCatalogueHasLinesThatAreCompiled)
+TEST(Completeness, LinesOfEveryCallAreCompiled)
 {
     for (const catalogue::Call& call : catalogue::Calls()) {
         EXPECT_NE(GeneratedCalls::Instance().Find(Row{call.name, {}}.Name()), nullptr) << call.name;

@@ -96,14 +96,14 @@ protected:
     }
 };
 
-TEST_P(ShellLines, OfCurlSendTheSameRequest)
+TEST_P(ShellLines, CurlSendsTheSameRequest)
 {
     const RecordedRequest sent = Sent(GetParam().call, GetParam().arguments);
     const std::string printed = ExpectTheSame(explorer::CurlLine(WithoutToken(sent)), sent);
     EXPECT_TRUE(Json::parse(printed, nullptr, false).contains("code")) << printed;
 }
 
-TEST_P(ShellLines, OfApicallSendTheSameRequest)
+TEST_P(ShellLines, ApicallSendsTheSameRequest)
 {
     const RecordedRequest sent = Sent(GetParam().call, GetParam().arguments);
     const QString server = QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort());

@@ -34,7 +34,7 @@ struct LiteralRow {
 
 class CppTexts : public testing::TestWithParam<LiteralRow> {};
 
-TEST_P(CppTexts, AreLiterals)
+TEST_P(CppTexts, AreWrittenAsLiterals)
 {
     EXPECT_EQ(CppText(GetParam().text).toStdString(), GetParam().literal);
 }
@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, CppTexts,
                                          LiteralRow{"ZeroByte", std::string("a\0b", 3), R"(std::string("a\000b", 3))"}),
                          RowName());
 
-TEST(CppLines, AreWhatAClientEngineerWrites)
+TEST(CppLines, FillTheArgumentsAndRunTheCall)
 {
     const json arguments = {{"channelId", "1000021$1$0$0"},
                             {"configs", json::array({{{"channelId", ""},
@@ -99,7 +99,7 @@ APIModule::Outcome<APIModule::NoRecord> UpdateEncodeConfig(QWidget* pParent)
 )");
 }
 
-TEST(CppLines, NameTheRecord)
+TEST(CppLines, NameTheRecordType)
 {
     const QString lines = CppLines(*catalogue::FindCall("DMS.BatchWashOpen"), {{"channelIds", {"a", "b"}}}, 7);
     EXPECT_EQ(lines.toStdString(), R"(#include <DMS/DMSCalls.h>
@@ -122,7 +122,7 @@ TEST(CppLines, NameTheServer)
 
 // curl
 
-TEST(CurlLines, AreTheRequestWithoutTheToken)
+TEST(CurlLines, SendTheRequestWithTheTokenFromTheEnvironment)
 {
     const SentRequest request{QStringLiteral("PUT"),
                               QStringLiteral("https://127.0.0.1:8443/a?token=**********&b='1'"),
@@ -138,14 +138,14 @@ TEST(CurlLines, AreTheRequestWithoutTheToken)
     --data-raw '{"a":'\''$1'\''}')");
 }
 
-TEST(CurlLines, OfAGetHaveNoBody)
+TEST(CurlLines, HaveNoBodyForAGet)
 {
     const SentRequest request{QStringLiteral("GET"), QStringLiteral("http://h:1/"), {}, "body"};
     EXPECT_EQ(CurlLine(request).toStdString(),
               "curl --insecure --globoff --path-as-is --request GET \\\n    'http://h:1/'");
 }
 
-TEST(CurlLines, OfAPostWithoutABodySayThatItIsEmpty)
+TEST(CurlLines, HaveAnEmptyBodyForAPostWithoutABody)
 {
     const SentRequest request{QStringLiteral("POST"), QStringLiteral("http://h:1/"), {}, {}};
     EXPECT_EQ(CurlLine(request).toStdString(),
@@ -162,7 +162,7 @@ struct CsvRow {
 
 class CsvTexts : public testing::TestWithParam<CsvRow> {};
 
-TEST_P(CsvTexts, AreQuotedWhereTheyMustBe)
+TEST_P(CsvTexts, AreQuotedOnlyWhereNecessary)
 {
     EXPECT_EQ(Csv(GetParam().rows).toStdString(), GetParam().text);
 }
@@ -191,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // JSON
 
-TEST(Json, WholeNumbersKeepAllTheirBits)
+TEST(Json, IntegersKeepAllTheirBits)
 {
     const json numbers = {{"a", std::numeric_limits<long long>::max()},
                           {"b", {std::numeric_limits<long long>::min(), 9007199254740993LL, 0, -1}}};
@@ -199,7 +199,7 @@ TEST(Json, WholeNumbersKeepAllTheirBits)
     EXPECT_EQ(CompactJsonText(FromQt(ToQt(numbers))).toStdString(), numbers.dump());
 }
 
-TEST(Json, EveryKindOfValueComesBack)
+TEST(Json, EveryKindOfValueSurvivesARoundTrip)
 {
     const json value = {{"text", "a \xC3\xBC \" b"}, {"flag", true},
                         {"null", nullptr},           {"number", 0.25},
@@ -207,7 +207,7 @@ TEST(Json, EveryKindOfValueComesBack)
     EXPECT_EQ(FromQt(ToQt(value)), value);
 }
 
-TEST(Json, BytesThatAreNoUtf8AreShown)
+TEST(Json, InvalidUtf8IsReplaced)
 {
     EXPECT_EQ(CompactJsonText(json("\xFC")).toStdString(), "\"\xEF\xBF\xBD\"");
     EXPECT_EQ(JsonText({{"a", 1}}).toStdString(), "{\n    \"a\": 1\n}");
@@ -224,7 +224,7 @@ struct FigureRow {
 
 class Figures : public testing::TestWithParam<FigureRow> {};
 
-TEST_P(Figures, AreThoseOfTheValues)
+TEST_P(Figures, AreMedianAnd95thPercentileOfTheValues)
 {
     EXPECT_DOUBLE_EQ(Median(GetParam().values), GetParam().median);
     EXPECT_DOUBLE_EQ(Percentile(GetParam().values, 0.95), GetParam().percentile95);
@@ -247,7 +247,7 @@ INSTANTIATE_TEST_SUITE_P(Values, Figures,
                                          FigureRow{"Hundred", From1To(100), 50.5, 95}),
                          RowName());
 
-TEST(Percentile, TakesTheEndsOfTheShare)
+TEST(Percentile, ReturnsMinimumAndMaximumForSharesOf0And1)
 {
     EXPECT_DOUBLE_EQ(Percentile({3, 1, 2}, 0), 1);
     EXPECT_DOUBLE_EQ(Percentile({3, 1, 2}, 1), 3);
