@@ -14,11 +14,11 @@ namespace {
 
 using explorer::Appearance;
 
-/// As a screen sends it out, from 0 to 1.
+/// The relative luminance that WCAG 2 defines, from 0 to 1.
 double Luminance(const QColor& colour)
 {
-    const auto linear = [](double share) {
-        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    const auto linear = [](double channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
@@ -42,18 +42,18 @@ protected:
 
 TEST_P(ColoursTest, TextsHaveEnoughContrast)
 {
-    static constexpr double kReadable = 4.5;  // the least for texts of this size
-    const auto expectReadable = [this](const QColor& text, QPalette::ColorRole ground) {
-        EXPECT_GE(Contrast(text, m_palette.color(ground)), kReadable)
-            << text.name().toStdString() << " on " << static_cast<int>(ground);
+    static constexpr double kReadable = 4.5;  // the minimum of WCAG 2 for texts of this size
+    const auto expectReadable = [this](const QColor& text, QPalette::ColorRole background) {
+        EXPECT_GE(Contrast(text, m_palette.color(background)), kReadable)
+            << text.name().toStdString() << " on " << static_cast<int>(background);
     };
-    for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
+    for (const auto background : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
         for (const auto text : {QPalette::WindowText, QPalette::Text, QPalette::PlaceholderText, QPalette::Link}) {
-            expectReadable(m_palette.color(text), ground);
+            expectReadable(m_palette.color(text), background);
         }
         for (const auto tint : {explorer::theme::Error, explorer::theme::Hint, explorer::theme::JsonKey,
                                 explorer::theme::JsonText, explorer::theme::JsonNumber, explorer::theme::JsonWord}) {
-            expectReadable(tint(m_palette), ground);
+            expectReadable(tint(m_palette), background);
         }
     }
     expectReadable(m_palette.color(QPalette::ButtonText), QPalette::Button);

@@ -49,7 +49,7 @@ protected:
 
     void Click(const char* button) const { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
 
-    /// The faults that the page lists, a text for each.
+    /// The rows of the fault list, with their cells joined by '|'.
     [[nodiscard]] QStringList FaultRows() const
     {
         QStringList rows;
@@ -253,7 +253,7 @@ TEST_F(EmulatorPanelTest, ExplainsAnInvalidStateAndKeepsTheEdit)
             return Find<QLabel>("stateProblem").isVisible() && TextOf("stateProblem").contains(QLatin1String(problem));
         })) << text
             << ": " << TextOf("stateProblem").toStdString();
-        EXPECT_EQ(StateText().toPlainText(), QLatin1String(text)) << "the edit stays";
+        EXPECT_EQ(StateText().toPlainText(), QLatin1String(text)) << "the edit must be kept";
     };
     expectProblem("{\n  \"brms\": {,}\n}", "Line 2 is not JSON.");
     expectProblem("[]", "The emulator refuses this: expected an object");
@@ -264,13 +264,13 @@ TEST_F(EmulatorPanelTest, ExplainsAnInvalidStateAndKeepsTheEdit)
 TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectAtARestart)
 {
     const QDir seeds(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/apimodule/seed"));
-    const QDir own(folder.path());
+    const QDir seedFolder(folder.path());
     const QStringList files = seeds.entryList({QStringLiteral("*.json")}, QDir::Files);
     ASSERT_FALSE(files.isEmpty());
     for (const QString& file : files) {
-        ASSERT_TRUE(QFile::copy(seeds.filePath(file), own.filePath(file)));
+        ASSERT_TRUE(QFile::copy(seeds.filePath(file), seedFolder.filePath(file)));
     }
-    QFile brms(own.filePath(QStringLiteral("brms.json")));
+    QFile brms(seedFolder.filePath(QStringLiteral("brms.json")));
     ASSERT_TRUE(brms.open(QIODevice::ReadOnly));
     json seed = json::parse(brms.readAll().toStdString());
     brms.close();
@@ -288,8 +288,8 @@ TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectAtARestart)
     const QString address = TextOf("emulatorAddresses");
     EXPECT_TRUE(address.contains(QString::number(session->emulator.HttpsPort())));
     Find<QSpinBox>("emulatorScale").setValue(3);
-    Find<QLineEdit>("emulatorSeed").setText(own.path());
-    EXPECT_NE(Run(kRead).record.at("ip"), "192.0.2.99") << "not before the next start";
+    Find<QLineEdit>("emulatorSeed").setText(seedFolder.path());
+    EXPECT_NE(Run(kRead).record.at("ip"), "192.0.2.99") << "the seed folder took effect before the restart";
     Click("restartEmulator");
     ASSERT_TRUE(Await([&] {
         return session->emulator.GetState() == EmulatorProcess::Running && TextOf("emulatorAddresses") != address;
@@ -300,7 +300,7 @@ TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectAtARestart)
     Close();
     Start();
     EXPECT_EQ(session->emulator.Options().scale, 3);
-    EXPECT_EQ(Find<QLineEdit>("emulatorSeed").text(), own.path());
+    EXPECT_EQ(Find<QLineEdit>("emulatorSeed").text(), seedFolder.path());
 
     seed["remoteLog"]["ip"] = 5;
     write(seed);

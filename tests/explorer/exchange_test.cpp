@@ -117,10 +117,10 @@ TEST_F(ExchangeTest, TruncatedReplyIsReportedAsAConnectionError)
 
 TEST_F(ExchangeTest, OutcomeOfARefusedConnectionHasAUrlButNoHeadersAndNoReply)
 {
-    QTcpServer nobody;
-    ASSERT_TRUE(nobody.listen(QHostAddress::LocalHost));
-    const int port = nobody.serverPort();
-    nobody.close();
+    QTcpServer closedServer;
+    ASSERT_TRUE(closedServer.listen(QHostAddress::LocalHost));
+    const int port = closedServer.serverPort();
+    closedServer.close();
     Use(port);
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
     EXPECT_EQ(outcome.result, -18);

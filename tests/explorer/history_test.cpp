@@ -104,7 +104,7 @@ TEST_F(HistoryTest, DropsTheOldestRunsAboveTheLimit)
               QJsonObject({{QStringLiteral("settingType"), 4}}));
     content = QByteArray(3 << 20, 'x');
     RunWith(9);
-    EXPECT_EQ(session->history.rowCount(), 1) << "the last one stays";
+    EXPECT_EQ(session->history.rowCount(), 1) << "the latest run must be kept";
     session->history.Clear();
     EXPECT_EQ(session->history.Bytes(), 0);
     Close();
@@ -186,7 +186,7 @@ TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
     EXPECT_EQ(after.request.headers.size(), before.request.headers.size());
     EXPECT_EQ(after.started.toMSecsSinceEpoch(), before.started.toMSecsSinceEpoch());
     EXPECT_EQ(after.times->firstByte.has_value(), before.times->firstByte.has_value());
-    EXPECT_FALSE(session->history.At(1)->Summary().reply) << "it brought a token";
+    EXPECT_FALSE(session->history.At(1)->Summary().reply) << "the reply contained a token";
     EXPECT_TRUE(session->history.At(1)->Outcome().record.is_null());
 
     Find<QCheckBox>("historyKept").click();
@@ -223,9 +223,9 @@ TEST_F(HistoryTest, ExportedCppTestEqualsTheOneInTheSources)
     RunWith(3);
     Run("BRMS.SetRemoteLogConfig");
     Run("BRMS.GetDeriveToken");
-    QFile built(QStringLiteral(EXPORTED_TEST));
-    ASSERT_TRUE(built.open(QIODevice::ReadOnly));
-    EXPECT_EQ(explorer::CppTest(Summaries()).toStdString(), built.readAll().toStdString());
+    QFile expected(QStringLiteral(EXPORTED_TEST));
+    ASSERT_TRUE(expected.open(QIODevice::ReadOnly));
+    EXPECT_EQ(explorer::CppTest(Summaries()).toStdString(), expected.readAll().toStdString());
 }
 
 }  // namespace

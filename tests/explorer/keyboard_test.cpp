@@ -45,7 +45,7 @@ TEST_F(KeyboardTest, F6AndShiftF6MoveBetweenThePanes)
         EXPECT_TRUE(HasFocus(*panes[pane])) << pane;
     }
 
-    // Past a pane that is hidden.
+    // A hidden pane is skipped.
     Press(Qt::Key_F8);
     EXPECT_FALSE(Find<QTabWidget>("feeds").isVisible());
     Press(Qt::Key_F6, Qt::ShiftModifier);
@@ -67,9 +67,9 @@ TEST_F(KeyboardTest, TabReachesWidgetsInScreenOrder)
     int last = -1;
     for (const char* name : {"servers", "editServers", "emulator", "callFilter", "callTree", "enable", "ip", "wait",
                              "timeout", "run", "logTable"}) {
-        const int place = reached.indexOf(&Find<QWidget>(name));
-        EXPECT_GT(place, last) << name;
-        last = place;
+        const int position = reached.indexOf(&Find<QWidget>(name));
+        EXPECT_GT(position, last) << name;
+        last = position;
     }
 }
 
@@ -79,10 +79,10 @@ TEST_F(KeyboardTest, CtrlEInATextFieldOpensTheServersDialog)
     ASSERT_TRUE(Activate());
     auto& field = Find<QLineEdit>("ip");
     field.setFocus();
-    QKeyEvent asks(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
-    asks.ignore();
-    QApplication::sendEvent(&field, &asks);
-    EXPECT_FALSE(asks.isAccepted());
+    QKeyEvent shortcutOverride(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
+    shortcutOverride.ignore();
+    QApplication::sendEvent(&field, &shortcutOverride);
+    EXPECT_FALSE(shortcutOverride.isAccepted());
     Press(Qt::Key_E, Qt::ControlModifier);
     EXPECT_NE(Window().findChild<QDialog*>(QStringLiteral("serversDialog")), nullptr);
 }
@@ -110,7 +110,7 @@ TEST_F(KeyboardTest, CtrlFSearchesTheResultWhenItHasFocusAndTheCallsOtherwise)
 struct Place {
     std::string name;
     Qt::Key key;
-    int results;  // the tab that is shown then, -1 for any
+    int results;  // the tab that the key shows, -1 if the test does not check it
     int feeds;
 };
 
@@ -167,14 +167,14 @@ TEST_F(KeyboardTest, ReturnOnACallWithoutArgumentsFocusesTheRunControls)
 
 class MnemonicTest : public KeyboardTest, public testing::WithParamInterface<const char*> {
 protected:
-    /// The letter behind the &, nothing without one.
+    /// The letter after the &, empty if there is none.
     static QString Letter(const QString& text)
     {
         const QKeySequence mnemonic = QKeySequence::mnemonic(text);
         return mnemonic.isEmpty() ? QString() : mnemonic.toString(QKeySequence::PortableText);
     }
 
-    /// The keys that letters of the window lead to just now.
+    /// The texts of all visible parts of the window that can have a mnemonic.
     [[nodiscard]] QStringList Shown() const
     {
         QStringList texts = TextsOf(Window().menuBar()->actions());

@@ -1,4 +1,4 @@
-// Writes that start with what the server has, or ask before they replace it.
+// Writes that start with the server's current values, or ask before they replace them.
 #include "support/ExplorerTest.h"
 
 #include <explorer/views/ArgumentForm.h>
@@ -33,7 +33,7 @@ protected:
         ASSERT_TRUE(AwaitRuns(int(runs) + 1));
     }
 
-    /// Waits for the question before a write.
+    /// Waits for the dialog that asks before a write.
     [[nodiscard]] QDialog* Question() const
     {
         QDialog* pDialog = nullptr;
@@ -44,7 +44,7 @@ protected:
         return pDialog;
     }
 
-    /// The rows of the question, "place|on the server|will be sent|entered".
+    /// The rows of that dialog, "path|on the server|will be sent|entered".
     [[nodiscard]] static QStringList RowsOf(const QDialog& question)
     {
         const auto& tree = *question.findChild<QTreeWidget*>();
@@ -56,7 +56,7 @@ protected:
         return rows;
     }
 
-    /// How often a call has been run.
+    /// The number of runs of a call that have ended.
     [[nodiscard]] int RunsOf(const char* call) const
     {
         return int(std::count_if(outcomes.begin(), outcomes.end(),
@@ -74,11 +74,11 @@ protected:
 TEST_F(OverwritingTest, FillsTheFormFromTheMatchingRead)
 {
     UseEmulator();
-    const json present = RecordOf("BRMS.GetTimeSyncConfig");
+    const json current = RecordOf("BRMS.GetTimeSyncConfig");
     Choose("BRMS.SetTimeSyncConfig");
-    ASSERT_NE(explorer::FromQt(Form().Arguments()).at("config"), present);
+    ASSERT_NE(explorer::FromQt(Form().Arguments()).at("config"), current);
     Fill();
-    EXPECT_EQ(explorer::FromQt(Form().Arguments()).at("config"), present);
+    EXPECT_EQ(explorer::FromQt(Form().Arguments()).at("config"), current);
     EXPECT_EQ(TextOf("callName"), QStringLiteral("SetTimeSyncConfig"));
 }
 
@@ -124,8 +124,8 @@ TEST_F(OverwritingTest, OffersFillingOnlyForCallsWithAMatchingRead)
 TEST_F(OverwritingTest, AsksBeforeUntouchedFieldsReplaceOtherValues)
 {
     UseEmulator();
-    const json present = RecordOf("BRMS.GetTimeSyncConfig");
-    ASSERT_EQ(present.at("interval"), 24);
+    const json current = RecordOf("BRMS.GetTimeSyncConfig");
+    ASSERT_EQ(current.at("interval"), 24);
     Choose("BRMS.SetTimeSyncConfig");
     Find<QLineEdit>("ntpIp").setText(QStringLiteral("10.0.0.9"));
     ClickRun();
@@ -134,11 +134,11 @@ TEST_F(OverwritingTest, AsksBeforeUntouchedFieldsReplaceOtherValues)
     const QStringList rows = RowsOf(*pQuestion);
     EXPECT_TRUE(rows.contains(QStringLiteral("/config/interval|24|0|no"))) << rows.join(u'\n').toStdString();
     EXPECT_TRUE(rows.contains(
-        QStringLiteral("/config/ntpIp|%1|\"10.0.0.9\"|yes").arg(QString::fromStdString(present.at("ntpIp").dump()))))
+        QStringLiteral("/config/ntpIp|%1|\"10.0.0.9\"|yes").arg(QString::fromStdString(current.at("ntpIp").dump()))))
         << rows.join(u'\n').toStdString();
 
     pQuestion->findChild<QPushButton*>(QStringLiteral("cancelOverwrite"))->click();
-    EXPECT_EQ(RecordOf("BRMS.GetTimeSyncConfig"), present);
+    EXPECT_EQ(RecordOf("BRMS.GetTimeSyncConfig"), current);
     EXPECT_EQ(RunsOf("BRMS.SetTimeSyncConfig"), 0);
 
     Choose("BRMS.SetTimeSyncConfig");
@@ -158,10 +158,10 @@ TEST_F(OverwritingTest, DoesNotAskWhenNoUnseenValueChanges)
     Find<explorer::NumberBox>("interval").SetValue(30);
     ClickRun();
     ASSERT_TRUE(Await([this] { return RunsOf("BRMS.SetTimeSyncConfig") == 1; }));
-    EXPECT_EQ(outcomes.size(), 2U) << "the values of the server are known";
+    EXPECT_EQ(outcomes.size(), 2U) << "the server's values were already known";
     EXPECT_EQ(RecordOf("BRMS.GetTimeSyncConfig").at("interval"), 30);
 
-    // The same values, after another call had been chosen: they are compared again.
+    // Once another call has been chosen, a write compares even unchanged values with those of the server.
     Choose("BRMS.SetTimeSyncConfig");
     ClickRun();
     ASSERT_TRUE(Await([this] { return RunsOf("BRMS.SetTimeSyncConfig") == 2; }));
@@ -281,7 +281,7 @@ TEST_F(OverwritingTest, OffersIdentifiersThatAReadReturned)
     QTest::keyClick(pList, Qt::Key_Return);
     EXPECT_EQ(field.text().toStdString(), groups.at(0).at("id").get<std::string>());
 
-    // All of them without a text.
+    // An empty field offers all of them.
     field.clear();
     QTest::keyClick(&field, Qt::Key_Down);
     ASSERT_TRUE(Await([pList] { return pList->isVisible(); }));

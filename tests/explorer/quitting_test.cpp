@@ -1,4 +1,4 @@
-// One end of the program in each process: after it nothing waits any more.
+// Each test case runs in a separate process: once the application has quit, calls no longer wait.
 #include "support/ExplorerTest.h"
 
 #include <QSpinBox>

@@ -33,14 +33,14 @@ using testing_support::RawServer;
 constexpr QSize kSmall(1280, 800);
 constexpr QSize kLarge(1920, 1080);
 
-/// Writes pictures of the window; they differ by density, too.
+/// Saves screenshots of the window. The file name shows whether the pixel density is high.
 class ScreenshotTest : public ExplorerTest {
 protected:
     ScreenshotTest() { Window().resize(kSmall); }
 
     void Shoot(QWidget& widget, const char* name) const
     {
-        QTest::qWait(100);  // layouts and animations of the style
+        QTest::qWait(100);  // until layouts and style animations are done
         const QPixmap picture = widget.grab();
         const QImage image = picture.toImage();
         QImage blank = image;

@@ -1,4 +1,4 @@
-// With the desktop's secret service of a session of its own; what the program is without one, servers_test tells.
+// Runs with the secret service of a private desktop session. servers_test covers the program without one.
 #include "support/ExplorerTest.h"
 
 #include <QDirIterator>
@@ -69,7 +69,7 @@ TEST_F(SecretServiceTest, WritesNoTokenInPlainText)
         EXPECT_FALSE(file.readAll().contains(kSecret)) << file.fileName().toStdString();
         ++files;
     }
-    EXPECT_GT(files, 0);  // those of the secret service
+    EXPECT_GT(files, 0);  // the secret service writes at least one
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ using testing_support::RawServer;
 
 class ServersTest : public ExplorerTest {
 protected:
-    /// Opens the dialog and adds a server with it.
+    /// Opens the servers dialog and adds a server.
     void AddServer(const QString& name, const QString& host, int port, const QString& token)
     {
         QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
@@ -62,7 +62,7 @@ protected:
         emit servers.activated(index);
     }
 
-    /// Everything that the program has written.
+    /// The contents of all files that the program has written.
     QByteArray WrittenBytes()
     {
         settings->sync();
@@ -149,7 +149,7 @@ TEST_F(ServersTest, DoesNotSendARefusedTokenAgain)
     EXPECT_TRUE(outcomes.back().succeeded);
     EXPECT_EQ(server.TakeRequests().size(), 2U);
 
-    // One that was given meanwhile stays.
+    // Refusing the old token keeps the one that was entered in the meantime.
     const QString id = session->servers.Current().id;
     session->tokens.Refuse(id, QLatin1String(kToken));
     EXPECT_EQ(session->tokens.Find(id), QStringLiteral("right"));
@@ -201,7 +201,7 @@ TEST_F(ServersTest, NewServerBecomesTheCurrentOne)
     session->servers.SetCurrent(0);
     QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
     Press("serversDialog", QDialogButtonBox::Ok);
-    EXPECT_TRUE(session->servers.IsEmulator()) << "nothing is new";
+    EXPECT_TRUE(session->servers.IsEmulator()) << "no server was added";
 }
 
 TEST_F(ServersTest, CancellingTheTokenDialogCancelsTheRun)
@@ -244,13 +244,13 @@ protected:
           m_configuration(testing_support::ServerConfiguration(m_certificate))
     {}
 
-    /// The server with its certificate; another certificate makes a false one.
+    /// The TLS configuration of a server that presents the test's certificate.
     [[nodiscard]] const QSslConfiguration& Configuration() const { return m_configuration; }
     [[nodiscard]] QByteArray Digest() const { return m_certificate.certificate.digest(QCryptographicHash::Sha256); }
 
     static testing_support::RawAnswer Answer(const RawRequest&) { return Success("{}"); }
 
-    /// Opens the dialog at the last server.
+    /// Opens the servers dialog and selects the last server.
     void Edit()
     {
         QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
@@ -265,7 +265,7 @@ protected:
 
     void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
 
-    /// A digest as a label shows it.
+    /// The digest that a label shows.
     [[nodiscard]] QByteArray DigestIn(const char* label) const
     {
         const QString text = TextOf(label);
@@ -287,7 +287,7 @@ protected:
         EXPECT_EQ(outcome.result, -18);
         EXPECT_TRUE(outcome.request.headers.isEmpty());
         EXPECT_FALSE(outcome.reply);
-        EXPECT_TRUE(server.TakeRequests().empty()) << "nothing is sent to a server that is not trusted";
+        EXPECT_TRUE(server.TakeRequests().empty()) << "an untrusted server received a request";
     }
 
 private:
@@ -300,7 +300,7 @@ TEST_F(CertificateTest, IsStoredWithTheServerOnceTheUserTrustsIt)
     RawServer server(Answer, Configuration());
     Use(server.Port(), true);
     Edit();
-    EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled()) << "nothing to trust was shown";
+    EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled()) << "no certificate has been shown yet";
     LookAtCertificate();
     EXPECT_EQ(DigestIn("presentedCertificate"), Digest());
     EXPECT_TRUE(TextOf("changedCertificate").isEmpty());

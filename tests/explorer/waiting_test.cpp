@@ -26,7 +26,7 @@ using testing_support::RawServer;
 
 constexpr const char* kCall = "BRMS.GetRemoteLogConfig";
 
-/// Answers a request of one path only when it is let go.
+/// Never replies to requests whose path contains a given text, and replies to all others.
 class HoldingServer {
 public:
     explicit HoldingServer(QByteArray heldPath = "/")
@@ -50,8 +50,8 @@ class WaitingTest : public ExplorerTest {
 protected:
     void SetTimeout(int seconds) { Find<QSpinBox>("timeout").setValue(seconds); }
 
-    /// Runs the call that is not answered to its end. What is to happen while it waits happens as soon as the server
-    /// has its request.
+    /// Runs a call that the server does not answer, and returns when the call has ended. Calls meanwhile() as soon as
+    /// the server has received the request.
     void RunAnd(const HoldingServer& server, const std::function<void()>& meanwhile)
     {
         Choose(kCall);
@@ -86,7 +86,7 @@ TEST_F(WaitingTest, RefusesATimeOutAboveTheMaximum)
     timeout.setFocus();
     timeout.selectAll();
     QTest::keyClicks(&timeout, QStringLiteral("36000"));
-    EXPECT_EQ(timeout.value(), 36000) << "what was typed stays";
+    EXPECT_EQ(timeout.value(), 36000) << "the typed value must be kept";
     EXPECT_TRUE(Find<QLabel>("timeoutProblem").isVisible());
     EXPECT_EQ(TextOf("timeoutProblem"), QStringLiteral("The longest time-out is 3600 s."));
     EXPECT_FALSE(run.isEnabled());
@@ -94,11 +94,11 @@ TEST_F(WaitingTest, RefusesATimeOutAboveTheMaximum)
     Find<QWidget>("callTree").setFocus();
     Press(Qt::Key_F5);
     EXPECT_EQ(session->runner.Pending(), 0);
-    EXPECT_TRUE(timeout.hasFocus()) << "leads to what is wrong";
+    EXPECT_TRUE(timeout.hasFocus()) << "F5 must move the focus to the invalid value";
 
     Close();
     Start();
-    EXPECT_EQ(Find<QSpinBox>("timeout").value(), 3600) << "the last one that could be used";
+    EXPECT_EQ(Find<QSpinBox>("timeout").value(), 3600) << "the last valid time-out must be restored";
 }
 
 TEST_F(WaitingTest, ReportsATimeOut)
@@ -164,7 +164,7 @@ TEST_F(WaitingTest, SecondRunCanEndWhileTheFirstWaits)
     EXPECT_TRUE(outcomes.at(0).succeeded);
     EXPECT_EQ(outcomes.at(1).call->name, kCall);
     EXPECT_EQ(outcomes.at(1).result, -101);
-    // Shown is what belongs to the call that is chosen.
+    // The window shows the result of the chosen call.
     EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
     Choose(kCall);
     EXPECT_TRUE(TextOf("resultWords").contains(QStringLiteral("in time")));
@@ -341,7 +341,7 @@ TEST_F(WithoutWaitingTest, ShowsTheResultOfEachConcurrentCallWhenItEnds)
     ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
     ASSERT_EQ(CancelButtons().size(), 2);
     const QScrollBar& scrollBar = *Find<QScrollArea>("runningCalls").verticalScrollBar();
-    EXPECT_TRUE(Await([&scrollBar] { return scrollBar.maximum() == 0; })) << "all are seen";
+    EXPECT_TRUE(Await([&scrollBar] { return scrollBar.maximum() == 0; })) << "all running calls must be visible";
     EXPECT_EQ(TextOf("runState").toStdString(), "2 calls waiting for the server");
     EXPECT_EQ(Window().findChild<ORNGUI::OrnWaitDialog*>(), nullptr);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -371,7 +371,7 @@ TEST_F(WithoutWaitingTest, CancelButtonCancelsOnlyItsCall)
     EXPECT_EQ(outcomes.front().result, -101);
     EXPECT_EQ(outcomes.front().request.method, QStringLiteral("PUT"));
     EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Cancelled"));
-    EXPECT_EQ(session->notifications.rowCount(), 0) << "who cancels knows";
+    EXPECT_EQ(session->notifications.rowCount(), 0) << "a cancelled call needs no notification";
     ASSERT_EQ(CancelButtons().size(), 1);
 
     QTest::mouseClick(CancelButtons().constFirst(), Qt::LeftButton);

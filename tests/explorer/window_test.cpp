@@ -39,7 +39,7 @@ constexpr const char* kCall = "BRMS.GetRemoteLogConfig";
 
 class WindowTest : public ExplorerTest {
 protected:
-    /// The texts of a tree's rows, those inside others too.
+    /// The texts of all rows of a tree, nested rows included.
     static QStringList RowsOf(const QAbstractItemModel& model, const QModelIndex& parent = {})
     {
         QStringList rows;
@@ -138,7 +138,7 @@ TEST_F(WindowTest, RequestTabFollowsTheForm)
     Find<QLineEdit>("ip").setText(QStringLiteral("10.0.0.9"));
     EXPECT_TRUE(Await([&] { return text("body").contains(QStringLiteral("10.0.0.9")); })) << text("body").toStdString();
     const QString shown = target();
-    EXPECT_TRUE(server.TakeRequests().empty()) << "nothing is sent";
+    EXPECT_TRUE(server.TakeRequests().empty()) << "editing the form sent a request";
     EXPECT_EQ(session->log.rowCount(), lines);
 
     MeanAll();
@@ -175,10 +175,10 @@ TEST_P(FailureTest, IsShownInWordsAndAsANotification)
     EXPECT_TRUE(TextOf("resultWords").contains(QLatin1String(GetParam().words))) << TextOf("resultWords").toStdString();
     EXPECT_TRUE(TextOf("resultDetails").contains(QLatin1String(GetParam().details)))
         << TextOf("resultDetails").toStdString();
-    // The user was told.
-    const auto& told = session->notifications;
-    ASSERT_EQ(told.rowCount(), 1);
-    EXPECT_EQ(told.index(0, explorer::Feed::TextColumn).data().toString(), TextOf("resultWords"));
+    // A notification shows the same text.
+    const auto& notifications = session->notifications;
+    ASSERT_EQ(notifications.rowCount(), 1);
+    EXPECT_EQ(notifications.index(0, explorer::Feed::TextColumn).data().toString(), TextOf("resultWords"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -386,7 +386,7 @@ TEST_F(WindowTest, IgnoresANewRepetitionUntilACancelledOneHasEnded)
     order.server = session->servers.Current();
     const QSignalSpy ends(&session->runner, &explorer::Runner::RepeatEnded);
     QObject::connect(&session->runner, &explorer::Runner::Started, session.get(), [this, order] {
-        if (outcomes.size() == 2) {  // inside of the third
+        if (outcomes.size() == 2) {  // during the third run
             session->runner.CancelRepeat();
             session->runner.Repeat(order, 5);
         }
@@ -517,14 +517,14 @@ TEST_F(WindowTest, RunningCallClearsTheOldResultAndKeepsTheRunButtonInPlace)
     };
     ASSERT_TRUE(texts().contains(QStringLiteral("enable")));
     auto& run = Find<QPushButton>("run");
-    const QPoint place = run.mapTo(&Window(), QPoint());
+    const QPoint position = run.mapTo(&Window(), QPoint());
     ClickRun();
     ASSERT_TRUE(Await([this] { return TextOf("resultWords") == QStringLiteral("GetRemoteLogConfig is running"); }));
     EXPECT_EQ(texts(), QString());
     EXPECT_FALSE(TextOf("runState").isEmpty());
-    Find<QWidget>("runningCalls").hide();  // its row is another matter
+    Find<QWidget>("runningCalls").hide();  // the row of the running call may move the button
     QTest::qWait(0);
-    EXPECT_EQ(run.mapTo(&Window(), QPoint()), place);
+    EXPECT_EQ(run.mapTo(&Window(), QPoint()), position);
 }
 
 TEST_F(WindowTest, LongServerTextScrolls)

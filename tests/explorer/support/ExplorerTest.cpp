@@ -147,7 +147,7 @@ CallOutcome ExplorerTest::Run(const char* call)
     const int runs = static_cast<int>(outcomes.size());
     ClickRun();
     if (!AwaitRuns(runs + 1)) {
-        ADD_FAILURE() << call << " does not end";
+        ADD_FAILURE() << call << " has not ended";
         return {};
     }
     return outcomes.back();

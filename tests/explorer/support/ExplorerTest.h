@@ -20,13 +20,13 @@ namespace explorer_test {
 
 using explorer::CallOutcome;
 
-/// The ways to run a call, and their names in those of tests.
+/// The ways to run a call. WayName() returns the name of one for the name of a test.
 constexpr explorer::Way kWays[] = {explorer::Way::WaitDialog, explorer::Way::EventLoop, explorer::Way::WithoutWaiting};
 std::string WayName(const testing::TestParamInfo<explorer::Way>& row);
 
 constexpr int kPatience = 20000;  // milliseconds until a test gives up
 
-/// Waits until it holds, while the event loop runs.
+/// Runs the event loop until holds() returns true. Returns false after kPatience.
 bool Await(const std::function<bool()>& holds);
 
 /// A secret service in memory.
@@ -39,10 +39,10 @@ public:
     QHash<QString, QString> tokens;
 };
 
-/// The answer of a server that succeeds with these data.
+/// A reply that reports success and contains this data.
 testing_support::RawAnswer Success(const QByteArray& data, int delayMilliseconds = 0);
 
-/// The program with its settings in a folder of its own.
+/// Runs the program with its settings in a temporary folder.
 class ExplorerTest : public testing::Test {
 protected:
     static constexpr const char* kToken = "t0ken-of-the-test-0123456789";
@@ -50,22 +50,22 @@ protected:
     ExplorerTest();
     ~ExplorerTest() override;
 
-    /// Starts the program; a second time after Close(), with what the first has kept.
+    /// Starts the program. After Close(), starts it again with the settings that it has stored.
     void Start();
     void Close();
 
     [[nodiscard]] explorer::MainWindow& Window() const { return m_windows->Current(); }
 
-    /// Waits until keys go to the window.
+    /// Activates the window and waits until it receives key events.
     [[nodiscard]] bool Activate() const;
-    /// A key for what has the focus.
+    /// Sends a key to the focused widget, or to the window if no widget has the focus.
     void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
-    /// Makes a server the current one, with a token.
+    /// Adds a server on loopback with a token and makes it the current one.
     void Use(int port, bool https = false);
     void UseEmulator();
 
-    /// A widget of the window or of a dialog over it; the test fails without one.
+    /// Finds a widget in the window or in one of its dialogs. The test fails if there is none.
     template <typename Widget>
     Widget& Find(const char* name) const
     {
@@ -80,13 +80,13 @@ protected:
     [[nodiscard]] QString TextOf(const char* label) const;
 
     void Choose(const char* call);
-    /// Means all values of the form as they are, so that a write of them asks nothing.
+    /// Marks all values of the form as known, so that a write sends them without asking.
     void MeanAll();
     void Use(explorer::Way way);
     void ClickRun();
-    /// Waits until so many runs have ended since the start.
+    /// Waits until this many runs have ended since the test began.
     [[nodiscard]] bool AwaitRuns(int count) const;
-    /// Chooses a call, runs it with the values of the form and waits for its end.
+    /// Chooses a call, runs it with the values of the form and returns its outcome.
     CallOutcome Run(const char* call);
 
     QTemporaryDir folder;
@@ -94,7 +94,7 @@ protected:
     explorer::Tokens::Vault* usedVault = &vault;
     std::unique_ptr<QSettings> settings;
     std::unique_ptr<explorer::Session> session;
-    std::vector<CallOutcome> outcomes;  ///< of all runs, in the order of their ends
+    std::vector<CallOutcome> outcomes;  ///< of all runs, in the order in which they ended
 
 private:
     std::unique_ptr<explorer::Windows> m_windows;

@@ -39,7 +39,7 @@ Widget& Child(const QWidget& form, const char* name, int index = 0)
     return *found[index];
 }
 
-/// Replaces what stands in a field, key by key.
+/// Replaces the text of a field by typing.
 void Type(QWidget& field, const char* text)
 {
     QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
@@ -144,7 +144,7 @@ void ArgumentFormTest::EveryCallHasAFormWithFreshValues()
 
 namespace {
 
-/// A value of the type in which nothing is as in a fresh one; lists have two elements.
+/// A value of the type that differs from a default value in every field. Lists have two elements.
 json Distinct(const catalogue::Type& type, int& next)
 {
     switch (type.kind) {
@@ -290,7 +290,7 @@ void ArgumentFormTest::ElementsAreAddedRemovedAndMoved()
     Child<QToolButton>(form, "channelIds.down", 0).click();
     QCOMPARE(channels(), (json{"c", "a", "b"}));
 
-    // Who is first cannot go up, who is last cannot go down: the buttons are found in the order of their making.
+    // The first element cannot move up, the last cannot move down. Buttons are found in the order of their creation.
     QVERIFY(!Child<QToolButton>(form, "channelIds.up", 2).isEnabled());
     QVERIFY(!Child<QToolButton>(form, "channelIds.down", 1).isEnabled());
 
@@ -312,7 +312,7 @@ void ArgumentFormTest::TheTabKeyFollowsTheScreen()
     form.resize(900, 700);
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
-    Child<QToolButton>(form, "httpUrls.up", 2).click();  // the third element is the second now
+    Child<QToolButton>(form, "httpUrls.up", 2).click();  // the third element becomes the second
     QCoreApplication::processEvents();
 
     auto& first = Child<QLineEdit>(form, "id");
@@ -322,14 +322,14 @@ void ArgumentFormTest::TheTabKeyFollowsTheScreen()
     const auto* const pContent = form.findChild<QScrollArea*>()->widget();
     do {
         const QWidget* pFocus = QApplication::focusWidget();
-        const QPoint place = pFocus->mapTo(pContent, QPoint(0, 0));
-        QVERIFY2(place.y() > last.y() || place.x() > last.x(), qPrintable(pFocus->objectName()));
-        last = place;
+        const QPoint position = pFocus->mapTo(pContent, QPoint(0, 0));
+        QVERIFY2(position.y() > last.y() || position.x() > last.x(), qPrintable(pFocus->objectName()));
+        last = position;
         ++stops;
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     } while (pContent->isAncestorOf(QApplication::focusWidget()) && stops < 100);
 
-    // Six fields, three elements of four fields and three buttons of which the ends lack one, and the button that adds.
+    // Six fields, three elements of four fields and three buttons (one fewer at either end), and the add button.
     QCOMPARE(stops, 6 + 3 * 7 - 2 + 1);
     QCOMPARE(QApplication::focusWidget(), &Child<QPushButton>(form, "copyArguments"));
 }
@@ -358,7 +358,7 @@ explorer::FieldFacts Described(const char* description)
     return facts;
 }
 
-/// The facts of a field that takes these texts alone, or a range.
+/// The facts of a field that accepts only these texts or this range.
 explorer::FieldFacts Limited(const QStringList& values, std::optional<double> minimum = {},
                              std::optional<double> maximum = {})
 {
@@ -466,7 +466,7 @@ void ArgumentFormTest::KnownValuesAreCompleted()
                                                    {QStringLiteral("8$1"), QString()}}
                    : QVector<explorer::Completion>();
     });
-    Child<QPushButton>(form, "channelIds.add").click();  // an element that came later
+    Child<QPushButton>(form, "channelIds.add").click();  // an element added after Describe()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     auto& field = Child<QLineEdit>(form, "channelIds");
@@ -491,7 +491,7 @@ void ArgumentFormTest::WhatWasNotEnteredIsKnown()
     Type(Child<QLineEdit>(form, "memo"), "x");
     QCOMPARE(form.NotEntered().values, (Places{"/groupId", "/group/groupName"}));
 
-    // Of JSON, what differs from before has been entered.
+    // Values that the edited JSON changes count as entered.
     Child<QPushButton>(form, "argumentsAsJson").click();
     Child<QPlainTextEdit>(form, "argumentsJson")
         .setPlainText(QStringLiteral(R"({"groupId": "7", "group": {"groupName": "", "memo": "x"}})"));
@@ -533,7 +533,7 @@ void ArgumentFormTest::ANarrowPaneShowsWholeForms()
         form.SetCall(call);
         form.SetArguments(explorer::ToQt(arguments));
         QCoreApplication::processEvents();
-        QCoreApplication::processEvents();  // layouts of the layouts inside
+        QCoreApplication::processEvents();  // nested layouts need a second pass
         QCOMPARE(form.size(), kPaneOfASmallWindow);
         const auto& area = *form.findChild<QScrollArea*>();
         QVERIFY2(area.widget()->width() <= area.viewport()->width(), call.name.c_str());
@@ -682,7 +682,7 @@ void ArgumentFormTest::JsonThatDoesNotFitStaysAsItIsTyped()
     QCOMPARE(ArgumentsOf(form), json({{"settingType", 3}}));
 
     edit.setPlainText(QStringLiteral("{"));
-    form.SetCall(Call("BRMS.UpdateUserGroup"));  // begins anew
+    form.SetCall(Call("BRMS.UpdateUserGroup"));  // discards the edit
     QVERIFY(form.IsValid());
     QCOMPARE(Problem(form), QString());
 }

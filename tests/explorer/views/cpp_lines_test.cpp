@@ -1,4 +1,4 @@
-// The C++ lines of every call: they compile as client code does, without a warning, and make the same call.
+// The C++ lines of every call compile without warnings, as client code does, and make the same call.
 #include "e2e/rows/Rows.h"
 #include "e2e/support/EndToEnd.h"
 
@@ -24,7 +24,7 @@ struct Ended {
     QString output;
 };
 
-/// All rows as functions of a library that is compiled when a test first asks for it, a source for each family.
+/// A library with a function for each row and a source file for each family, compiled on first use.
 class GeneratedCalls {
 public:
     static GeneratedCalls& Instance()
@@ -45,7 +45,7 @@ private:
         for (const Row& row : Rows()) {
             const catalogue::Call& call = *catalogue::FindCall(row.call);
             QString& source = sources[call.family];
-            // The first function brings the includes of all: below them, those of the others have nothing to add.
+            // The first function includes the headers at file scope, so later includes, in namespaces, add nothing.
             source += source.isEmpty() ? First(call, row) : Wrapped(call, row);
         }
         m_compiled = Compile(sources);
@@ -56,12 +56,12 @@ private:
         return explorer::CppLines(call, row.arguments.is_null() ? Json::object() : row.arguments, -1);
     }
 
-    static QString Entry(const QString& place, const catalogue::Call& call, const Row& row)
+    static QString Entry(const QString& scope, const catalogue::Call& call, const Row& row)
     {
         const QString function = QString::fromStdString(call.name.substr(call.family.size() + 1));
         return QStringLiteral(
                    "extern \"C\" int %1(void* pRecord)\n{\n    return Take(%2::%3(nullptr), pRecord);\n}\n\n")
-            .arg(QString::fromStdString(row.Name()), place, function);
+            .arg(QString::fromStdString(row.Name()), scope, function);
     }
 
     static QString First(const catalogue::Call& call, const Row& row)
@@ -85,8 +85,8 @@ template <typename Record>
 
     static QString Wrapped(const catalogue::Call& call, const Row& row)
     {
-        const QString place = QStringLiteral("of_%1").arg(QString::fromStdString(row.Name()));
-        return QStringLiteral("namespace %1 {\n%2}\n\n").arg(place, Lines(call, row)) + Entry(place, call, row);
+        const QString scope = QStringLiteral("of_%1").arg(QString::fromStdString(row.Name()));
+        return QStringLiteral("namespace %1 {\n%2}\n\n").arg(scope, Lines(call, row)) + Entry(scope, call, row);
     }
 
     Ended Compile(const std::map<std::string, QString>& sources)
@@ -122,13 +122,13 @@ protected:
         ASSERT_EQ(compiled.status, 0) << compiled.output.toStdString();
     }
 
-    /// The row's state, and no request so far.
+    /// Sets the row's state and clears the recorded requests.
     static void Prepare()
     {
         Platform().reset();
         Json state = Platform().state();
-        for (const auto& [place, value] : GetParam().state.items()) {
-            state[Json::json_pointer(place)] = value;
+        for (const auto& [path, value] : GetParam().state.items()) {
+            state[Json::json_pointer(path)] = value;
         }
         Platform().setState(state);
         Platform().clearRequests();

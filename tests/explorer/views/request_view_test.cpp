@@ -1,4 +1,4 @@
-// The request of a call, and commands that make it.
+// The request of a call, and the commands that send it.
 #include "support/Samples.h"
 #include "support/Screenshots.h"
 #include "support/ViewTest.h"
@@ -109,7 +109,7 @@ void RequestViewTest::ACallThatCannotBePackedHasNoRequest()
     RequestDraft draft = EncodeUpdate();
     view.Show(draft);
     draft.request = {};
-    draft.arguments = {};  // the lines are then those of a fresh call
+    draft.arguments = {};  // the C++ lines then contain default values
     view.Show(draft);
     QCOMPARE(Target(view), QString());
     QVERIFY(HeadersOf(view).isEmpty());

@@ -144,7 +144,7 @@ QString TextOf(const QAbstractItemModel& model, const QModelIndex& parent, int r
     return cells.join(QLatin1Char('|'));
 }
 
-/// The text of the hint that is on top of a tab, empty where there is content.
+/// The text of the hint that covers a tab, empty if the tab shows content.
 QString HintOn(const ResultView& view, int tab)
 {
     const auto* pTabs = view.findChild<QTabWidget*>();
@@ -231,7 +231,7 @@ void ResultViewTest::TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch()
     const CallOutcome outcome = view_test::ParkingLots();
     model.SetRecord(*outcome.call->result, Shared(outcome.record));
     model.Filter(QStringLiteral("MAIN gate"));
-    QCOMPARE(model.Matches(), 3);  // a position, its point, and the point on the other side
+    QCOMPARE(model.Matches(), 3);  // a position, its point and its reference point
     const QModelIndex root = model.index(0, 0);
     QCOMPARE(model.rowCount(root), 1);
     const QModelIndex lot = model.index(0, 0, root);
@@ -245,7 +245,7 @@ void ResultViewTest::TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch()
     model.Filter(QStringLiteral("positions"));
     QCOMPARE(model.rowCount(model.index(0, 0)), 3);
     const QModelIndex all = model.index(0, 0, model.index(0, 0, model.index(0, 0)));
-    QCOMPARE(model.rowCount(all), 2);  // whole, although nothing in it matches
+    QCOMPARE(model.rowCount(all), 2);  // complete, although none of its children matches
     QVERIFY(model.rowCount(model.index(1, 0, all)) > 1);
 
     model.Filter(QStringLiteral("no such text"));
@@ -292,7 +292,7 @@ void ResultViewTest::ValuePathAndSubtreeAreCopied()
 
 namespace {
 
-/// Places of the tree whose values are marked as missing in the reply.
+/// Appends the paths of the values that the tree marks as missing in the reply.
 void AddMarked(const RecordModel& model, const QModelIndex& parent, QStringList& marked)
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
@@ -345,7 +345,7 @@ void ResultViewTest::FieldsThatTheReplyDidNotBringAreMarked_data()
 
 namespace {
 
-/// The outcome of a read whose reply has these data.
+/// The outcome of a read whose reply contains this data.
 CallOutcome Replied(const QString& call, const QString& data)
 {
     CallOutcome outcome = view_test::Succeeded(call.toLatin1().constData(), "{}", "null");
@@ -430,7 +430,7 @@ void ResultViewTest::TheJsonIsCopiedWhole()
 
 namespace {
 
-/// The lines of numbers from 0 up, "line 0" and so on.
+/// Numbered lines: "line 0", "line 1" and so on.
 QString Lines(int count)
 {
     QString text;
@@ -480,7 +480,7 @@ void ResultViewTest::TheJsonIsSearchedByKeyboard()
     QCOMPARE(CountOf(view), QStringLiteral("No match"));
     QVERIFY(!view.findChild<QToolButton*>(QStringLiteral("findNext"))->isEnabled());
 
-    // Another text is searched for the same.
+    // A new text is searched for the same pattern.
     view.SetText(QStringLiteral("a gatex"));
     QCOMPARE(CountOf(view), QStringLiteral("0 of 1"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
@@ -540,7 +540,7 @@ void ResultViewTest::JsonHasColoursThatFollowThePalette()
     };
     edit.setPlainText(QStringLiteral(R"({"a": "b: 1", "c": -1.5e3, "d": null})"));
     const QList<QRgb> light = colours();
-    QCOMPARE(light.size(), 6);  // three keys, a text, a number and a word
+    QCOMPARE(light.size(), 6);  // three keys, a string, a number and null
     QCOMPARE(light[0], light[2]);
     QCOMPARE(light[0], light[4]);
     QVERIFY(light[0] != light[1] && light[1] != light[3] && light[3] != light[5]);
@@ -576,7 +576,7 @@ void ResultViewTest::ColumnsSortByValue()
     view.sortByColumn(1, Qt::DescendingOrder);
     QCOMPARE(ColumnOf(view, "deviceCount").constFirst(), QStringLiteral("1250"));
 
-    // Another record stands in its own order.
+    // A new record is shown in its original order.
     Set(table, view_test::ParkingLots());
     QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
     view.sortByColumn(ColumnNamed(view, "positions"), Qt::AscendingOrder);
@@ -627,7 +627,7 @@ void ResultViewTest::TotalsAreThoseOfTheRowsShown()
     QCOMPARE(total("totalParkingSpaceCount"), QStringLiteral("329"));
     QCOMPARE(total("idleParkingSpaceCount"), QStringLiteral("66"));
     QCOMPARE(total("positions"), QStringLiteral("3"));
-    QCOMPARE(total("parkingLotMode"), QString());  // a code, no count
+    QCOMPARE(total("parkingLotMode"), QString());  // a code, not a count
     QCOMPARE(total("id"), QString());
 
     table.findChild<QLineEdit*>(QStringLiteral("filter"))->setText(QStringLiteral("car park"));
@@ -708,13 +708,13 @@ void ResultViewTest::WhatIsShownIsExported()
     table.findChild<QLineEdit*>(QStringLiteral("filter"))->setText(QStringLiteral("Speaker"));
     QCOMPARE(table.ToCsv().count("\r\n"), 2);
 
-    Set(table, view_test::ParkingLots());  // a list in a list is JSON
+    Set(table, view_test::ParkingLots());  // nested lists are exported as JSON
     QVERIFY(table.ToCsv().contains(R"("[{""id"":""31"",""points"":[],""positionName"":""Ramp"",""remark"":""""}]")"));
 }
 
 namespace {
 
-/// Answers the file dialog that comes next with a name.
+/// Enters a name in the next file dialog and confirms it.
 void AnswerFileDialog(RecordTable& table, const QString& fileName)
 {
     QTimer::singleShot(0, &table, [fileName] {

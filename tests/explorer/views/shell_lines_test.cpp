@@ -1,4 +1,4 @@
-// The commands of a call, of curl and of apicall, send the request that the library sends.
+// The curl and apicall commands of a call send the same request as the library.
 #include "e2e/rows/Rows.h"
 #include "e2e/support/EndToEnd.h"
 #include "support/Program.h"
@@ -16,29 +16,29 @@ namespace {
 using emulator::RecordedRequest;
 using testing_support::Ended;
 
-/// Runs the command as a user with the token in the environment does.
+/// Runs the command in a shell, with the token in the environment as a user has it.
 Ended RunInShell(const QString& command)
 {
     return testing_support::RunProgram(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command},
                                        {{QStringLiteral("TOKEN"), QString::fromLatin1(emulator::kDefaultToken)}});
 }
 
-/// The server adds the addresses of both ends to the headers that came.
+/// The server adds the addresses of both ends to the received headers, under names with underscores.
 bool IsOfTheServer(const std::string& name)
 {
     return name.find('_') != std::string::npos;
 }
 
-/// The headers that say something about the call.
+/// The headers that depend on the call, without those of the connection and the client.
 std::multimap<std::string, std::string> HeadersOf(const RecordedRequest& request)
 {
-    static const QStringList ofTheConnection{QStringLiteral("host"), QStringLiteral("connection"),
+    static const QStringList connectionNames{QStringLiteral("host"), QStringLiteral("connection"),
                                              QStringLiteral("user-agent"), QStringLiteral("accept-encoding"),
                                              QStringLiteral("accept")};
     std::multimap<std::string, std::string> headers;
     for (const auto& [name, value] : request.headers) {
         const QString lower = QString::fromStdString(name).toLower();
-        if (!IsOfTheServer(name) && !ofTheConnection.contains(lower)) {
+        if (!IsOfTheServer(name) && !connectionNames.contains(lower)) {
             headers.emplace(lower.toStdString(), value);
         }
     }
@@ -47,7 +47,7 @@ std::multimap<std::string, std::string> HeadersOf(const RecordedRequest& request
 
 class ShellLines : public EndToEnd, public testing::WithParamInterface<Row> {
 protected:
-    /// What the library sends for a call.
+    /// The request that the library sends for a call.
     static RecordedRequest Sent(const std::string& call, const Json& arguments)
     {
         Platform().clearRequests();
@@ -74,7 +74,7 @@ protected:
         return masked;
     }
 
-    /// @return what the command printed
+    /// @return the standard output of the command
     static std::string ExpectTheSame(const QString& command, const RecordedRequest& sent)
     {
         EXPECT_FALSE(command.contains(QLatin1String(emulator::kDefaultToken))) << command.toStdString();
@@ -85,7 +85,7 @@ protected:
         EXPECT_EQ(ended.status, 0) << ended.err << "\n" << command.toStdString();
         const std::vector<RecordedRequest> requests = Platform().requests();
         if (requests.size() != 1U) {
-            ADD_FAILURE() << requests.size() << " requests of " << command.toStdString();
+            ADD_FAILURE() << requests.size() << " requests instead of 1 from " << command.toStdString();
             return {};
         }
         EXPECT_EQ(requests.front().method, sent.method);

@@ -1,4 +1,4 @@
-// What the views write without a window: C++ literals, CSV, JSON, figures.
+// Texts and figures that the views produce without a window: C++ literals, CSV, JSON, statistics.
 #include "support/Rows.h"
 
 #include <explorer/views/CppLines.h>

@@ -1,4 +1,4 @@
-// The times of the runs of a call, and repeated runs.
+// The times of a call's runs, and the controls that repeat the call.
 #include "support/Samples.h"
 #include "support/Screenshots.h"
 #include "support/ViewTest.h"

@@ -4,18 +4,18 @@
 
 namespace view_test {
 
-/// A call that ended well with this record.
+/// A successful call that returned this record.
 explorer::CallOutcome Succeeded(const char* call, const char* arguments, const char* record);
 
-/// Records with counts: the devices of each category.
+/// A list of records with counts: the number of devices in each category.
 explorer::CallOutcome DeviceCategories();
-/// Records in records: parking lots with positions, points and channels.
+/// Nested records: parking lots with positions, points and channels.
 explorer::CallOutcome ParkingLots();
-/// Three lists in one record.
+/// A record with three lists.
 explorer::CallOutcome AlarmLinkage();
-/// A write with a body.
+/// A write whose request has a body.
 explorer::CallOutcome EncodeUpdate();
-/// A call whose connection ended in the middle of the reply.
+/// A call whose connection closed before the reply was complete.
 explorer::CallOutcome CutShort();
 
 }  // namespace view_test

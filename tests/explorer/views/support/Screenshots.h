@@ -11,8 +11,8 @@ namespace view_test {
 QPalette LightPalette();
 QPalette DarkPalette();
 
-/// Shows the widget in the light, then in the dark palette, and writes a picture of each to the build folder. The
-/// application has the light palette afterwards.
+/// Shows the widget in the dark palette, then in the light one, and saves a screenshot of each in the build folder.
+/// The application keeps the light palette.
 void TakeScreenshots(QWidget& widget, const QString& name, QSize size);
 
 }  // namespace view_test

@@ -6,7 +6,7 @@
 
 #include <string>
 
-/// Shows a text where a comparison fails.
+/// Lets QCOMPARE print a std::string when it fails.
 inline char* toString(const std::string& text)
 {
     return QTest::toString(QString::fromStdString(text));
