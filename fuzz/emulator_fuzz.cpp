@@ -130,6 +130,7 @@ void ExpectValidReply(const HttpRequest& request)
 }
 
 constexpr const char* kMethod = "PUT";
+constexpr const char* kOperation = "BRMS.SetTimeSyncConfig";
 
 /// Checks that an accepted fault is reported unchanged and applies to exactly the requests that it selects.
 void ExpectFaultToApply(const std::string& text, const std::string& target)
@@ -142,12 +143,13 @@ void ExpectFaultToApply(const std::string& text, const std::string& target)
         emulator::Fault fault = emulator::Fault::FromJson(json);
         const Json reported = fault.toJson();
         fuzz::Require(emulator::Fault::FromJson(reported).toJson() == reported, reported.dump());
-        const bool bHits =
-            (fault.method.empty() || fault.method == kMethod) && target.compare(0, fault.path.size(), fault.path) == 0;
+        const bool bHits = fault.skip == 0 && (fault.method.empty() || fault.method == kMethod) &&
+                           (fault.operation.empty() || fault.operation == kOperation) &&
+                           target.compare(0, fault.path.size(), fault.path) == 0;
         SharedServer().faults.clear();
         SharedServer().faults.add(std::move(fault));
-        fuzz::Require(SharedServer().faults.take(kMethod, target).has_value() == bHits,
-                      reported.dump() + " for " + target);
+        const bool bTaken = SharedServer().faults.take(kMethod, target, [] { return kOperation; }).has_value();
+        fuzz::Require(bTaken == bHits, reported.dump() + " for " + target);
     } catch (const std::invalid_argument&) {
         return;
     }
