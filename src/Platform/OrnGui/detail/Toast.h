@@ -54,7 +54,7 @@ private:
 
     ToastContent m_content;
     QLabel* m_pCount = nullptr;
-    QTimer m_lifetime;
+    QTimer m_lifetime{this};
     QDeadlineTimer m_goneBy{QDeadlineTimer::Forever};
     bool m_bOpen = true;
 };
