@@ -42,6 +42,7 @@ Function* Next(const char* pName)
 }  // namespace
 
 /// Replaces the resolver of the C library for the names above, so that the test needs no name server.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): those of the C library are reserved names
 extern "C" Q_DECL_EXPORT int getaddrinfo(const char* pNode, const char* pService, const addrinfo* pHints,
                                          addrinfo** ppResult)
 {
