@@ -20,8 +20,8 @@ namespace {
 
 QString BodyText(const QByteArray& body)
 {
-    const auto json = nlohmann::json::parse(body.cbegin(), body.cend(), nullptr, false);
-    return json.is_discarded() ? QString::fromUtf8(body) : JsonText(json);
+    const auto parsed = nlohmann::json::parse(body.cbegin(), body.cend(), nullptr, false);
+    return parsed.is_discarded() ? QString::fromUtf8(body) : JsonText(parsed);
 }
 
 QString TextOf(const EmulatorRequests::Entry& entry)
