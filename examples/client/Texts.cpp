@@ -43,9 +43,8 @@ QString FailureText(const APIModule::OutcomeBase& outcome, Access access)
         return MainWindow::tr("%1 (HTTP status %2)").arg(text).arg(outcome.Code());
     case CallEnd::NoConnection:
     case CallEnd::TimedOut:  // a write is not repeated, and may have reached the server
-        return access == Access::Read
-                   ? text
-                   : MainWindow::tr("%1. Check whether it was saved before you try again.").arg(text);
+        return access == Access::Read ? text
+                                      : MainWindow::tr("%1. Check whether it was saved before you retry.").arg(text);
     case CallEnd::InvalidRequest:
     case CallEnd::NotAuthenticated:
         break;

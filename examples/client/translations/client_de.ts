@@ -88,7 +88,7 @@
         <translation>%1 (HTTP-Status %2)</translation>
     </message>
     <message>
-        <source>%1. Check whether it was saved before you try again.</source>
+        <source>%1. Check whether it was saved before you retry.</source>
         <translation>%1. Prüfen Sie, ob gespeichert wurde, bevor Sie es erneut versuchen.</translation>
     </message>
 </context>

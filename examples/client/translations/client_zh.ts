@@ -88,7 +88,7 @@
         <translation>%1（HTTP 状态 %2）</translation>
     </message>
     <message>
-        <source>%1. Check whether it was saved before you try again.</source>
+        <source>%1. Check whether it was saved before you retry.</source>
         <translation>%1。重试前请先确认是否已保存。</translation>
     </message>
 </context>
