@@ -11,7 +11,7 @@ namespace emulator {
 
 constexpr const char* kWrongToken = "X-Subject-Token is missing or wrong";
 
-/// Whether the request has this session token.
+/// Whether the request carries this token.
 bool HasToken(const HttpRequest& request, const std::string& token);
 
 /// Checks calls against the contract, executes them on the state and replies with envelopes.

@@ -254,7 +254,7 @@ void History::Write(bool anew, const PastRuns& runs) const
 {
     QFile file(FileName());
     if (!file.open(QIODevice::WriteOnly | (anew ? QIODevice::Truncate : QIODevice::Append))) {
-        return;  // the runs of this session are kept in memory
+        return;  // the runs are kept in memory
     }
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     for (const PastRunPtr& run : runs) {

@@ -10,7 +10,7 @@
 
 namespace explorer {
 
-/// The identifiers that reads of this session returned, with their names.
+/// The identifiers that earlier reads returned, with their names.
 class Identifiers : public QObject {
     Q_OBJECT
 
