@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The user manager of the test: one server, which is the emulator.
+/// The user manager of the test, with the emulator as its only server.
 class EmulatedServer : public UserLogical::IServer, public UserLogical::IUserManager {
 public:
     explicit EmulatedServer(int port) : m_port(port) {}
