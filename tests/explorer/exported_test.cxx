@@ -97,7 +97,7 @@ void Test(emulator::PlatformEmulator& platform)
 int main(int argc, char** argv)
 {
     try {
-        qputenv("QT_QPA_PLATFORM", "offscreen");  // no display; before the application object
+        qputenv("QT_QPA_PLATFORM", "offscreen");  // before the application object
         const QApplication application(argc, argv);
         emulator::PlatformEmulator platform;
         platform.start();
