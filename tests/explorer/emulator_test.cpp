@@ -160,11 +160,13 @@ TEST_F(EmulatorPanelTest, RemovesOnlyTheSelectedFault)
     UseEmulator();
     Show(Faults);
     EXPECT_FALSE(Find<QPushButton>("removeFault").isEnabled());
+    int nAdded = 0;
     for (const char* kind : {"empty", "notJson", "reset"}) {
         Choose("faultKind", kind);
         Click("addFault");
+        ++nAdded;
+        ASSERT_TRUE(Await([&] { return FaultRows().size() == nAdded; }));
     }
-    ASSERT_TRUE(Await([this] { return FaultRows().size() == 3; }));
     auto& list = Find<QTreeWidget>("faults");
     list.setCurrentItem(list.topLevelItem(1));
     Click("removeFault");
