@@ -9,6 +9,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -126,6 +127,7 @@ void WriteCall(std::ostream& page, const Call& call, const Operation& operation)
     }
 }
 
+/// The description of the contract's tag that has the name of the subject.
 std::string DescriptionOf(const YAML::Node& tags, std::string_view subject)
 {
     for (const YAML::Node& tag : tags) {
@@ -133,7 +135,7 @@ std::string DescriptionOf(const YAML::Node& tags, std::string_view subject)
             return tag["description"].as<std::string>();
         }
     }
-    return {};
+    throw std::runtime_error("the contract has no tag named " + std::string(subject));
 }
 
 /// Writes the page of one family.

@@ -729,7 +729,7 @@
     <name>explorer::MainWindow</name>
     <message>
         <source>APIModule Explorer</source>
-        <translation>APIModule 浏览器</translation>
+        <translation>APIModule 接口调试工具</translation>
     </message>
     <message>
         <source>The emulator ended: %1</source>
@@ -849,11 +849,11 @@
     </message>
     <message>
         <source>About APIModule Explorer</source>
-        <translation>关于 APIModule 浏览器</translation>
+        <translation>关于 APIModule 接口调试工具</translation>
     </message>
     <message>
         <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;APIModule 浏览器 %1&lt;/h3&gt;&lt;p&gt;通过图形界面运行库的所有调用：一个带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;APIModule 接口调试工具 %1&lt;/h3&gt;&lt;p&gt;通过图形界面运行库的所有调用：一个带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
