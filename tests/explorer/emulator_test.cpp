@@ -258,7 +258,7 @@ TEST_F(EmulatorPanelTest, ExplainsAnInvalidStateAndKeepsTheEdit)
         EXPECT_EQ(StateText().toPlainText(), QLatin1String(text)) << "the edit must be kept";
     };
     expectProblem("{\n  \"brms\": {,}\n}", "Line 2 is not JSON.");
-    expectProblem("[]", "The emulator refuses this: expected an object");
+    expectProblem("[]", "The emulator rejected the change: expected an object");
     expectProblem("{\"brms\": null}", "A merge patch cannot make a member null.");
     EXPECT_TRUE(Run(kRead).succeeded);
 }

@@ -352,7 +352,7 @@ TEST_F(CertificateTest, ReportsThatAnUnreachableServerShowsNone)
     Use(1, true);
     Edit();
     LookAtCertificate();
-    EXPECT_TRUE(TextOf("presentedCertificate").startsWith(QStringLiteral("The server shows none: ")));
+    EXPECT_TRUE(TextOf("presentedCertificate").startsWith(QStringLiteral("The server presented no certificate: ")));
     EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled());
 }
 

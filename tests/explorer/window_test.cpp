@@ -187,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Failure{"NotFound", 404, "", 404, "did not find", "Result 404"},
                     Failure{"SignedOut", 401, "", 7000, "sign in", "HTTP 401"},
                     Failure{"EnvelopeCode", 200, "{\"code\": 1002, \"desc\": \"/port: too large\", \"data\": {}}", 1002,
-                            "GetRemoteLogConfig failed: ", "The server says: /port: too large"},
+                            "GetRemoteLogConfig failed: ", "The server reports: /port: too large"},
                     Failure{"UnknownCode", 200, "{\"code\": 77123, \"desc\": \"?\"}", 77123,
                             "GetRemoteLogConfig failed", "Result 77123"},
                     Failure{"NoEnvelope", 200, "<html>", -1, "GetRemoteLogConfig failed", "HTTP 200"},
@@ -300,7 +300,7 @@ TEST_F(WindowTest, KeepsFavouritesAndRecentlyUsedCallsAcrossRestarts)
     const QStringList rows = Calls();
     ASSERT_GE(rows.size(), 5);
     EXPECT_EQ(rows.mid(0, 5), QStringList({QStringLiteral("Favourites"), QStringLiteral("GetRemoteLogConfig"),
-                                           QStringLiteral("Used last"), QStringLiteral("GetRemoteLogConfig"),
+                                           QStringLiteral("Recently used"), QStringLiteral("GetRemoteLogConfig"),
                                            QStringLiteral("GetTimeSyncConfig")}));
     EXPECT_EQ(TextOf("callName"), QStringLiteral("GetRemoteLogConfig"));
 }
@@ -313,7 +313,7 @@ TEST_F(WindowTest, RunningARecentlyUsedCallKeepsItChosen)
     Run(kCall);
     auto& tree = Find<QTreeView>("callTree");
     const QModelIndex group = tree.model()->index(0, 0);
-    ASSERT_EQ(group.data().toString(), QStringLiteral("Used last"));
+    ASSERT_EQ(group.data().toString(), QStringLiteral("Recently used"));
     tree.setCurrentIndex(tree.model()->index(1, 0, group));
     ASSERT_EQ(TextOf("callName"), QStringLiteral("GetTimeSyncConfig"));
     ClickRun();
@@ -577,8 +577,8 @@ TEST_F(WindowTest, FallsBackToEnglishWithoutATranslation)
 TEST_F(WindowTest, ExplainsARefusedPasteInTheUsersLanguage)
 {
     const std::pair<const char*, const char*> languages[] = {
-        {"en", "The clipboard does not fit: /settingType: expected int, got text"},
-        {"de", "Der Inhalt der Zwischenablage passt nicht: /settingType: "},
+        {"en", "Cannot paste the clipboard: /settingType: expected int, got text"},
+        {"de", "Der Inhalt der Zwischenablage kann nicht eingefügt werden: /settingType: "},
         {"zh", "/settingType"}};
     QStringList problems;
     for (const auto& [language, problem] : languages) {

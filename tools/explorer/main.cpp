@@ -73,15 +73,15 @@ int main(int argc, char** argv)
     QSettings settings;
     explorer::ApplyLanguage(explorer::StoredLanguage(settings));
     QCommandLineParser options;
-    options.setApplicationDescription(CommandLine::tr("Every call of the library from a window."));
+    options.setApplicationDescription(CommandLine::tr("Makes any APIModule call from a graphical interface."));
     options.addHelpOption();
     options.addVersionOption();
-    const QCommandLineOption emulator(QStringLiteral("emulator"), CommandLine::tr("Choose and start the emulator."));
+    const QCommandLineOption emulator(QStringLiteral("emulator"), CommandLine::tr("Select and start the emulator."));
     const QCommandLineOption call(QStringLiteral("call"),
                                   CommandLine::tr("Show this call, such as BRMS.GetLocalSetting."),
                                   CommandLine::tr("name"));
     const QCommandLineOption measure(QStringLiteral("measure-start"),
-                                     CommandLine::tr("Tell when the window is painted first, and end."));
+                                     CommandLine::tr("Print the time until the window is first painted, then exit."));
     options.addOptions({emulator, call, measure});
     options.process(*application);
 

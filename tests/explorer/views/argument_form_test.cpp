@@ -217,7 +217,7 @@ void ArgumentFormTest::NumbersAreCheckedAsTyped_data()
     add("int: too small", Kind::Int, "-2147483649", intRange, "0");
     add("int: too large", Kind::Int, "2147483648", intRange, "0");
     add("int: beyond all integers", Kind::Int, "99999999999999999999", intRange, "0");
-    add("int: empty", Kind::Int, "", "A number is missing", "0");
+    add("int: empty", Kind::Int, "", "Enter a number", "0");
     add("int: minus alone", Kind::Int, "-", "Not a whole number", "0");
     add("int: a fraction", Kind::Int, "1.5", "Not a whole number", "0");
     add("int: letters", Kind::Int, "twelve", "Not a whole number", "0");
@@ -228,9 +228,9 @@ void ArgumentFormTest::NumbersAreCheckedAsTyped_data()
     add("int64: too small", Kind::Int64, "-9223372036854775809", int64Range, "0");
     add("double: a fraction", Kind::Double, "-0.25", "", "-0.25");
     add("double: an exponent", Kind::Double, "1e3", "", "1000.0");
-    add("double: a comma", Kind::Double, "1,5", "Not a number, such as 0.5", "0");
-    add("double: not finite", Kind::Double, "inf", "Not a number, such as 0.5", "0");
-    add("double: empty", Kind::Double, "", "A number is missing", "0");
+    add("double: a comma", Kind::Double, "1,5", "Must be a number, such as 0.5", "0");
+    add("double: not finite", Kind::Double, "inf", "Must be a number, such as 0.5", "0");
+    add("double: empty", Kind::Double, "", "Enter a number", "0");
 }
 
 void ArgumentFormTest::NumbersAreCheckedAsTyped()
@@ -589,8 +589,8 @@ void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing_data()
     const auto add = [](const char* name, const char* text, const char* reason) {
         QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(reason);
     };
-    add("nothing", "", "it is no JSON");
-    add("no JSON", "{\"groupId\": ", "it is no JSON");
+    add("nothing", "", "not valid JSON");
+    add("no JSON", "{\"groupId\": ", "not valid JSON");
     add("a list", "[]", "must be a JSON object");
     add("an argument is missing", R"({"groupId": "7"})", "requires the argument \"group\"");
     add("an unknown argument", R"({"groupId": "7", "group": {}, "x": 1})", "has no argument \"x\"");
@@ -671,7 +671,7 @@ void ArgumentFormTest::JsonThatDoesNotFitStaysAsItIsTyped()
     for (const char* typed : {"{\"settingType\": 3", "{\"settingType\": \"3\"}", "[]"}) {
         edit.setPlainText(QString::fromUtf8(typed));
         QVERIFY2(!form.IsValid(), typed);
-        QVERIFY(Problem(form).startsWith(QStringLiteral("The text does not fit: ")));
+        QVERIFY(Problem(form).startsWith(QStringLiteral("Invalid arguments: ")));
         QCOMPARE(edit.toPlainText(), QString::fromUtf8(typed));
         QVERIFY(!button.isEnabled());
     }

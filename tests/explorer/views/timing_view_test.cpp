@@ -105,10 +105,10 @@ void TimingViewTest::ARunIsShownInItsParts()
     outcome.times = explorer::ExchangeTimes{0.5, 11.5, 12.5};
     Show(view, {outcome});
     QCOMPARE(Figure(view, "parts"),
-             QStringLiteral("This run: sent after 0.5 ms, first byte after 11.5 ms, all after 12.5 ms"));
+             QStringLiteral("This run: sent after 0.5 ms, first byte after 11.5 ms, complete after 12.5 ms"));
     outcome.times->firstByte.reset();
     Show(view, {outcome});
-    QCOMPARE(Figure(view, "parts"), QStringLiteral("This run: sent after 0.5 ms, no byte until 12.5 ms"));
+    QCOMPARE(Figure(view, "parts"), QStringLiteral("This run: sent after 0.5 ms, no byte within 12.5 ms"));
     outcome.times.reset();
     Show(view, {outcome});
     QCOMPARE(Figure(view, "parts"), QString());

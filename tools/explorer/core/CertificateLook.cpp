@@ -24,7 +24,7 @@ CertificateLook::CertificateLook(const QString& host, int port, QObject* parent)
         if (!m_socket.isEncrypted() && m_socket.state() != QAbstractSocket::UnconnectedState) {
             m_socket.disconnect(this);
             m_socket.abort();
-            emit Failed(tr("The server does not answer"));
+            emit Failed(tr("The server does not respond"));
         }
     });
     QString bare = host;

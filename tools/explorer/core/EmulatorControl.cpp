@@ -26,7 +26,7 @@ QString ErrorOf(const QNetworkReply& reply, const nlohmann::json& body)
         return {};
     }
     if (const QVariant size = reply.property(kTooLarge); size.isValid()) {
-        return EmulatorControl::tr("%1 are too much to show here.").arg(QLocale().formattedDataSize(size.toLongLong()));
+        return EmulatorControl::tr("%1 is too much to show here.").arg(QLocale().formattedDataSize(size.toLongLong()));
     }
     return body.is_object() && body.contains("error") && body.at("error").is_string()
                ? QString::fromStdString(body.at("error").get<std::string>())

@@ -20,12 +20,12 @@
         <translation>Dieser Aufruf hat keine Argumente.</translation>
     </message>
     <message>
-        <source>it is no JSON, %1 at byte %2</source>
-        <translation>kein gültiges JSON, %1 bei Byte %2</translation>
+        <source>not valid JSON: %1 at byte %2</source>
+        <translation>kein gültiges JSON: %1 bei Byte %2</translation>
     </message>
     <message>
-        <source>The clipboard does not fit: %1</source>
-        <translation>Der Inhalt der Zwischenablage passt nicht: %1</translation>
+        <source>Cannot paste the clipboard: %1</source>
+        <translation>Der Inhalt der Zwischenablage kann nicht eingefügt werden: %1</translation>
     </message>
     <message>
         <source>Edit as JSON</source>
@@ -36,8 +36,8 @@
         <translation>Argumente als JSON</translation>
     </message>
     <message>
-        <source>The text does not fit: %1</source>
-        <translation>Der Text passt nicht: %1</translation>
+        <source>Invalid arguments: %1</source>
+        <translation>Ungültige Argumente: %1</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -48,7 +48,7 @@
         <translation>Einfügen</translation>
     </message>
     <message>
-        <source>Runs %1 and takes over what it returns</source>
+        <source>Runs %1 and fills in its result</source>
         <translation>Führt %1 aus und übernimmt das Ergebnis</translation>
     </message>
     <message>
@@ -59,7 +59,7 @@
 <context>
     <name>explorer::CallHeader</name>
     <message>
-        <source>No call chosen</source>
+        <source>No call selected</source>
         <translation>Kein Aufruf gewählt</translation>
     </message>
     <message>
@@ -110,11 +110,11 @@
         <translation>Favoriten</translation>
     </message>
     <message>
-        <source>Used last</source>
+        <source>Recently used</source>
         <translation>Zuletzt verwendet</translation>
     </message>
     <message>
-        <source>No call matches</source>
+        <source>No matching calls</source>
         <translation>Kein passender Aufruf</translation>
     </message>
     <message numerus="yes">
@@ -128,7 +128,7 @@
 <context>
     <name>explorer::CertificateLook</name>
     <message>
-        <source>The server does not answer</source>
+        <source>The server does not respond</source>
         <translation>Der Server antwortet nicht</translation>
     </message>
 </context>
@@ -158,11 +158,11 @@
 <context>
     <name>explorer::CommandLine</name>
     <message>
-        <source>Every call of the library from a window.</source>
-        <translation>Alle Aufrufe der Bibliothek in einer grafischen Oberfläche.</translation>
+        <source>Makes any APIModule call from a graphical interface.</source>
+        <translation>Führt beliebige APIModule-Aufrufe in einer grafischen Oberfläche aus.</translation>
     </message>
     <message>
-        <source>Choose and start the emulator.</source>
+        <source>Select and start the emulator.</source>
         <translation>Den Emulator auswählen und starten.</translation>
     </message>
     <message>
@@ -174,8 +174,8 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Tell when the window is painted first, and end.</source>
-        <translation>Die Zeit bis zum ersten Zeichnen des Fensters ausgeben und beenden.</translation>
+        <source>Print the time until the window is first painted, then exit.</source>
+        <translation>Die Zeit bis zum ersten Zeichnen des Fensters ausgeben und das Programm beenden.</translation>
     </message>
 </context>
 <context>
@@ -185,8 +185,8 @@
         <translation>Zwei Läufe vergleichen</translation>
     </message>
     <message>
-        <source>Place</source>
-        <translation>Stelle</translation>
+        <source>Path</source>
+        <translation>Pfad</translation>
     </message>
     <message>
         <source>Arguments</source>
@@ -223,7 +223,7 @@
         <translation>Der Emulator läuft nicht.</translation>
     </message>
     <message>
-        <source>%1 are too much to show here.</source>
+        <source>%1 is too much to show here.</source>
         <translation>%1 sind zu viel für die Anzeige.</translation>
     </message>
 </context>
@@ -250,7 +250,7 @@
         <translation>Der Emulator startet</translation>
     </message>
     <message>
-        <source>The emulator is not running. It starts with its button or with the first call.</source>
+        <source>The emulator is not running. Press its button to start it, or make a call.</source>
         <translation>Der Emulator läuft nicht. Er startet über seine Schaltfläche oder mit dem ersten Aufruf.</translation>
     </message>
 </context>
@@ -288,7 +288,7 @@
 <context>
     <name>explorer::FaultForm</name>
     <message>
-        <source>Late reply</source>
+        <source>Delayed reply</source>
         <translation>Verzögerte Antwort</translation>
     </message>
     <message>
@@ -304,7 +304,7 @@
         <translation>Leere Antwort</translation>
     </message>
     <message>
-        <source>Half of the body</source>
+        <source>First half of the body</source>
         <translation>Erste Hälfte des Rumpfs</translation>
     </message>
     <message>
@@ -328,7 +328,7 @@
         <translation>Verbindung ohne Antwort geschlossen</translation>
     </message>
     <message>
-        <source>Connection closed within the reply</source>
+        <source>Connection closed mid-reply</source>
         <translation>Verbindung mitten in der Antwort geschlossen</translation>
     </message>
     <message>
@@ -356,11 +356,11 @@
         <translation>Alle Pfade</translation>
     </message>
     <message>
-        <source>How the path of a request begins, its query included</source>
+        <source>Beginning of the request path, including the query</source>
         <translation>Anfang des Anfragepfads, einschließlich Query-String</translation>
     </message>
     <message>
-        <source>2 lets the first call that fits pass</source>
+        <source>With 2, the first matching call passes</source>
         <translation>2 lässt den ersten passenden Aufruf durch</translation>
     </message>
     <message>
@@ -388,7 +388,7 @@
         <translation>Ab Treffer</translation>
     </message>
     <message>
-        <source>How often</source>
+        <source>Times</source>
         <translation>Anzahl</translation>
     </message>
     <message>
@@ -541,7 +541,7 @@
         <translation>Alle Stufen</translation>
     </message>
     <message>
-        <source>%1 and worse</source>
+        <source>%1 and above</source>
         <translation>Ab %1</translation>
     </message>
     <message>
@@ -644,23 +644,23 @@
         <translation>Lädt die Argumente ins Formular</translation>
     </message>
     <message>
-        <source>The chosen runs as an HTTP archive (HAR) or as a C++ test</source>
-        <translation>Die gewählten Läufe als HTTP-Archiv (HAR) oder als C++-Test</translation>
+        <source>Exports the selected runs as an HTTP archive (HAR) or as a C++ test</source>
+        <translation>Exportiert die ausgewählten Läufe als HTTP-Archiv (HAR) oder als C++-Test</translation>
     </message>
     <message>
-        <source>Limit of the history</source>
+        <source>History size limit</source>
         <translation>Maximale Größe des Verlaufs</translation>
     </message>
     <message>
-        <source>When the runs take more, the oldest go</source>
-        <translation>Belegen die Läufe mehr Speicher, werden die ältesten entfernt</translation>
+        <source>Above this size, the oldest runs are dropped</source>
+        <translation>Oberhalb dieser Größe werden die ältesten Läufe entfernt</translation>
     </message>
     <message>
         <source> MB</source>
         <translation> MB</translation>
     </message>
     <message>
-        <source>In a file</source>
+        <source>Save to file</source>
         <translation>In Datei sichern</translation>
     </message>
     <message>
@@ -673,8 +673,8 @@
         <translation>%1 von</translation>
     </message>
     <message>
-        <source>Export the chosen runs</source>
-        <translation>Die gewählten Läufe exportieren</translation>
+        <source>Export the selected runs</source>
+        <translation>Die ausgewählten Läufe exportieren</translation>
     </message>
     <message>
         <source>HTTP archive</source>
@@ -734,7 +734,7 @@
         <translation>APIModule-Explorer</translation>
     </message>
     <message>
-        <source>The emulator ended: %1</source>
+        <source>The emulator exited: %1</source>
         <translation>Der Emulator wurde beendet: %1</translation>
     </message>
     <message>
@@ -742,7 +742,7 @@
         <translation>Das Token liegt im Schlüsselbund des Desktops.</translation>
     </message>
     <message>
-        <source>There is no secret service here: the token is kept until the program ends.</source>
+        <source>No secret service is available: the token is kept until the program exits.</source>
         <translation>Kein Schlüsselbund verfügbar: Das Token wird nur bis zum Programmende behalten.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Aufruf &amp;suchen</translation>
     </message>
     <message>
-        <source>Favourite &amp;on or off</source>
+        <source>T&amp;oggle favourite</source>
         <translation>Fa&amp;vorit setzen oder entfernen</translation>
     </message>
     <message>
@@ -802,7 +802,7 @@
         <translation>&amp;Bearbeiten …</translation>
     </message>
     <message>
-        <source>Give the &amp;token…</source>
+        <source>Enter the &amp;token…</source>
         <translation>&amp;Token eingeben …</translation>
     </message>
     <message>
@@ -830,7 +830,7 @@
         <translation>&amp;Nächster Bereich</translation>
     </message>
     <message>
-        <source>As the &amp;desktop</source>
+        <source>Follow the &amp;desktop</source>
         <translation>Wie der &amp;Desktop</translation>
     </message>
     <message>
@@ -854,8 +854,8 @@
         <translation>Über APIModule-Explorer</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;APIModule-Explorer %1&lt;/h3&gt;&lt;p&gt;Alle Aufrufe der Bibliothek in einer grafischen Oberfläche: ein Host mit Benutzerverwaltung, Wartedialog, Benachrichtigungen und Protokoll.&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Makes any APIModule call from a graphical interface. It is a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;APIModule-Explorer %1&lt;/h3&gt;&lt;p&gt;Führt beliebige APIModule-Aufrufe in einer grafischen Oberfläche aus. Er ist ein Host mit Benutzerverwaltung, Wartedialog, Benachrichtigungen und Protokoll.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
@@ -866,7 +866,7 @@
         <translation>Wählen Sie zuerst einen Aufruf</translation>
     </message>
     <message>
-        <source>The emulator gets a fresh token with each start.</source>
+        <source>The emulator gets a new token at each start.</source>
         <translation>Der Emulator bekommt bei jedem Start ein neues Token.</translation>
     </message>
     <message>
@@ -926,8 +926,8 @@
         <translation>&amp;Verlauf</translation>
     </message>
     <message>
-        <source>An argument holds no valid value</source>
-        <translation>Ein Argument hat keinen gültigen Wert</translation>
+        <source>An argument has an invalid value</source>
+        <translation>Ein Argument hat einen ungültigen Wert</translation>
     </message>
     <message>
         <source>Emulator</source>
@@ -967,11 +967,11 @@
 <context>
     <name>explorer::NumberBox</name>
     <message>
-        <source>A number is missing</source>
-        <translation>Eine Zahl fehlt</translation>
+        <source>Enter a number</source>
+        <translation>Geben Sie eine Zahl ein</translation>
     </message>
     <message>
-        <source>Not a number, such as 0.5</source>
+        <source>Must be a number, such as 0.5</source>
         <translation>Muss eine Zahl sein, zum Beispiel 0.5</translation>
     </message>
     <message>
@@ -986,24 +986,24 @@
 <context>
     <name>explorer::OverwriteDialog</name>
     <message>
-        <source>Overwrite values of the server?</source>
-        <translation>Werte des Servers überschreiben?</translation>
+        <source>Overwrite values on the server?</source>
+        <translation>Werte auf dem Server überschreiben?</translation>
     </message>
     <message>
-        <source>%1 sends values that you have not entered. They replace those of the server.</source>
-        <translation>%1 sendet Werte, die Sie nicht eingegeben haben. Sie ersetzen die des Servers.</translation>
+        <source>%1 sends values that you have not entered. They replace those on the server.</source>
+        <translation>%1 sendet Werte, die Sie nicht eingegeben haben. Sie ersetzen die Werte auf dem Server.</translation>
     </message>
     <message>
-        <source>%1 sends values that you have not entered. What they replace is not known.</source>
-        <translation>%1 sendet Werte, die Sie nicht eingegeben haben. Was sie ersetzen, ist nicht bekannt.</translation>
+        <source>%1 sends values that you have not entered. The values they replace are unknown.</source>
+        <translation>%1 sendet Werte, die Sie nicht eingegeben haben. Welche Werte sie ersetzen, ist nicht bekannt.</translation>
     </message>
     <message>
-        <source>Values that change</source>
+        <source>Changed values</source>
         <translation>Werte, die sich ändern</translation>
     </message>
     <message>
-        <source>Place</source>
-        <translation>Stelle</translation>
+        <source>Field</source>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>On the server</source>
@@ -1018,7 +1018,7 @@
         <translation>Eingegeben</translation>
     </message>
     <message>
-        <source>not known</source>
+        <source>unknown</source>
         <translation>nicht bekannt</translation>
     </message>
     <message>
@@ -1130,7 +1130,7 @@
         <translation>&amp;Pfad kopieren</translation>
     </message>
     <message>
-        <source>Copy as &amp;JSON, with all inside</source>
+        <source>Copy as &amp;JSON, with children</source>
         <translation>Als &amp;JSON mit allen Unterelementen kopieren</translation>
     </message>
     <message>
@@ -1173,7 +1173,7 @@
         <translation>Ko&amp;pfzeilen</translation>
     </message>
     <message>
-        <source>No request can be made.</source>
+        <source>The request cannot be built.</source>
         <translation>Die Anfrage kann nicht erzeugt werden.</translation>
     </message>
     <message>
@@ -1215,7 +1215,7 @@
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>The server reports: %1</source>
         <translation>Der Server meldet: %1</translation>
     </message>
     <message>
@@ -1239,7 +1239,7 @@
         <translation>Zeitlimit %1 s</translation>
     </message>
     <message>
-        <source>The connection: %1</source>
+        <source>Connection: %1</source>
         <translation>Verbindung: %1</translation>
     </message>
 </context>
@@ -1305,7 +1305,7 @@
         <translation>Mit Wartedialog</translation>
     </message>
     <message>
-        <source>In the event loop, input goes on</source>
+        <source>In the event loop, input allowed</source>
         <translation>In der Ereignisschleife, Eingaben möglich</translation>
     </message>
     <message>
@@ -1313,7 +1313,7 @@
         <translation>&amp;Warten</translation>
     </message>
     <message>
-        <source>The call&apos;s own</source>
+        <source>Call&apos;s default</source>
         <translation>Vorgabe</translation>
     </message>
     <message>
@@ -1362,7 +1362,7 @@
 <context>
     <name>explorer::RunningCalls</name>
     <message>
-        <source>Calls under way</source>
+        <source>Running calls</source>
         <translation>Laufende Aufrufe</translation>
     </message>
     <message>
@@ -1432,8 +1432,8 @@
         <translation>Unverändert</translation>
     </message>
     <message>
-        <source>Language that the server is asked to answer in</source>
-        <translation>Sprache, in der der Server antworten soll</translation>
+        <source>Language for the server&apos;s replies</source>
+        <translation>Sprache für die Antworten des Servers</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -1460,15 +1460,15 @@
         <translation>Neuer Server</translation>
     </message>
     <message>
-        <source>any free one</source>
+        <source>any free port</source>
         <translation>freier Port</translation>
     </message>
     <message>
-        <source>A fresh one for each start</source>
+        <source>New at each start</source>
         <translation>Bei jedem Start ein neues</translation>
     </message>
     <message>
-        <source>Asked for when it is needed</source>
+        <source>Asked for when needed</source>
         <translation>Wird bei Bedarf abgefragt</translation>
     </message>
     <message>
@@ -1488,7 +1488,7 @@
         <translation>To&amp;ken</translation>
     </message>
     <message>
-        <source>Show the server’s</source>
+        <source>Fetch from the server</source>
         <translation>Vom Server abrufen</translation>
     </message>
     <message>
@@ -1496,33 +1496,33 @@
         <translation>Diesem Zertifikat vertrauen</translation>
     </message>
     <message>
-        <source>Trust any</source>
-        <translation>Jedem vertrauen</translation>
+        <source>Trust any certificate</source>
+        <translation>Jedem Zertifikat vertrauen</translation>
     </message>
     <message>
         <source>Certificate</source>
         <translation>Zertifikat</translation>
     </message>
     <message>
-        <source>None: everything travels in the clear.</source>
+        <source>None: everything is sent unencrypted.</source>
         <translation>Keines: Alles wird unverschlüsselt übertragen.</translation>
     </message>
     <message>
-        <source>Only this one is trusted (SHA-256):
+        <source>Only this certificate is trusted (SHA-256):
 %1</source>
-        <translation>Nur diesem wird vertraut (SHA-256):
+        <translation>Nur diesem Zertifikat wird vertraut (SHA-256):
 %1</translation>
     </message>
     <message>
-        <source>Any is trusted: who intercepts the connection reads the token.</source>
-        <translation>Jedem wird vertraut: Wer die Verbindung abfängt, kann das Token lesen.</translation>
+        <source>Any certificate is trusted: anyone who intercepts the connection can read the token.</source>
+        <translation>Jedem Zertifikat wird vertraut: Wer die Verbindung abfängt, kann das Token lesen.</translation>
     </message>
     <message>
-        <source>The server is asked…</source>
+        <source>Fetching the certificate…</source>
         <translation>Das Zertifikat wird abgerufen …</translation>
     </message>
     <message>
-        <source>The server shows none: %1</source>
+        <source>The server presented no certificate: %1</source>
         <translation>Der Server hat kein Zertifikat vorgelegt: %1</translation>
     </message>
     <message>
@@ -1536,15 +1536,15 @@
 %1</translation>
     </message>
     <message>
-        <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
-        <translation>Das Zertifikat hat sich geändert: Möglicherweise antwortet ein anderer anstelle des Servers. Vergleichen Sie den Fingerabdruck mit dem auf dem Server.</translation>
+        <source>The certificate has changed: someone may be impersonating the server. Compare the digest with the one on the server.</source>
+        <translation>Das Zertifikat hat sich geändert: Möglicherweise gibt sich jemand als der Server aus. Vergleichen Sie den Fingerabdruck mit dem auf dem Server.</translation>
     </message>
 </context>
 <context>
     <name>explorer::StartPage</name>
     <message>
-        <source>Makes the seeded lists so many times as long</source>
-        <translation>Faktor für die Länge der Listen in den Anfangsdaten</translation>
+        <source>Multiplies the length of the seeded lists</source>
+        <translation>Vervielfacht die Länge der Listen in den Anfangsdaten</translation>
     </message>
     <message>
         <source>The built-in seed data</source>
@@ -1567,11 +1567,11 @@
         <translation>Ordner mit den Anfangsdaten</translation>
     </message>
     <message>
-        <source>Restar&amp;t with this</source>
+        <source>Restar&amp;t with these settings</source>
         <translation>Neu s&amp;tarten</translation>
     </message>
     <message>
-        <source>Star&amp;t with this</source>
+        <source>Star&amp;t with these settings</source>
         <translation>S&amp;tarten</translation>
     </message>
 </context>
@@ -1590,15 +1590,15 @@
         <translation>Zustand</translation>
     </message>
     <message>
-        <source>Changes the state by what was edited, as a JSON merge patch</source>
-        <translation>Überträgt die Änderungen als JSON Merge Patch in den Zustand</translation>
+        <source>Applies your changes as a JSON merge patch</source>
+        <translation>Übernimmt Ihre Änderungen als JSON Merge Patch</translation>
     </message>
     <message>
         <source>Re&amp;load</source>
         <translation>Neu la&amp;den</translation>
     </message>
     <message>
-        <source>Shows the state of now; what was edited is lost</source>
+        <source>Shows the current state; unapplied changes are lost</source>
         <translation>Zeigt den aktuellen Zustand; nicht übernommene Änderungen gehen verloren</translation>
     </message>
     <message>
@@ -1606,7 +1606,7 @@
         <translation>Zurückse&amp;tzen</translation>
     </message>
     <message>
-        <source>Back to the seed data</source>
+        <source>Restores the seed data</source>
         <translation>Stellt die Anfangsdaten wieder her</translation>
     </message>
     <message>
@@ -1630,12 +1630,12 @@
         <translation>Der Zustand wurde geändert.</translation>
     </message>
     <message>
-        <source>The state is that of the seed data.</source>
-        <translation>Der Zustand entspricht den Anfangsdaten.</translation>
+        <source>The seed data was restored.</source>
+        <translation>Die Anfangsdaten wurden wiederhergestellt.</translation>
     </message>
     <message>
-        <source>The emulator refuses this: %1</source>
-        <translation>Der Emulator lehnt dies ab: %1</translation>
+        <source>The emulator rejected the change: %1</source>
+        <translation>Der Emulator hat die Änderung abgelehnt: %1</translation>
     </message>
 </context>
 <context>
@@ -1716,18 +1716,18 @@
         <translation>Läufe</translation>
     </message>
     <message>
-        <source>This run: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
+        <source>This run: sent after %1 ms, first byte after %2 ms, complete after %3 ms</source>
         <translation>Dieser Lauf: gesendet nach %1 ms, erstes Byte nach %2 ms, vollständig nach %3 ms</translation>
     </message>
     <message>
-        <source>This run: sent after %1 ms, no byte until %2 ms</source>
+        <source>This run: sent after %1 ms, no byte within %2 ms</source>
         <translation>Dieser Lauf: gesendet nach %1 ms, bis %2 ms kein Byte empfangen</translation>
     </message>
 </context>
 <context>
     <name>explorer::TokenDialog</name>
     <message>
-        <source>Keep it in the desktop&apos;s secret service</source>
+        <source>Store it in the desktop&apos;s secret service</source>
         <translation>Im Schlüsselbund des Desktops speichern</translation>
     </message>
     <message>
@@ -1735,11 +1735,11 @@
         <translation>Sitzungstoken</translation>
     </message>
     <message>
-        <source>&amp;Token of the session at “%1”:</source>
-        <translation>&amp;Token der Sitzung bei „%1“:</translation>
+        <source>Session &amp;token for “%1”:</source>
+        <translation>Sitzungs&amp;token für „%1“:</translation>
     </message>
     <message>
-        <source>Without a secret service the token is kept until the program ends. It is never written to a file.</source>
+        <source>Without a secret service, the token is kept until the program exits. It is never written to a file.</source>
         <translation>Ohne Schlüsselbund wird das Token nur bis zum Programmende behalten. Es wird nie in eine Datei geschrieben.</translation>
     </message>
 </context>
@@ -1757,8 +1757,8 @@
         <translation>%1 benötigt „%2“</translation>
     </message>
     <message>
-        <source>The form has the values of the server.</source>
-        <translation>Das Formular enthält die Werte des Servers.</translation>
+        <source>The form now has the values from the server.</source>
+        <translation>Das Formular enthält jetzt die Werte vom Server.</translation>
     </message>
     <message>
         <source>%1 failed: %2</source>

@@ -20,12 +20,12 @@
         <translation>此调用没有参数。</translation>
     </message>
     <message>
-        <source>it is no JSON, %1 at byte %2</source>
+        <source>not valid JSON: %1 at byte %2</source>
         <translation>不是有效的 JSON：第 %2 个字节处有错误（%1）</translation>
     </message>
     <message>
-        <source>The clipboard does not fit: %1</source>
-        <translation>剪贴板内容不适用：%1</translation>
+        <source>Cannot paste the clipboard: %1</source>
+        <translation>无法粘贴剪贴板内容：%1</translation>
     </message>
     <message>
         <source>Edit as JSON</source>
@@ -36,8 +36,8 @@
         <translation>JSON 形式的参数</translation>
     </message>
     <message>
-        <source>The text does not fit: %1</source>
-        <translation>文本不适用：%1</translation>
+        <source>Invalid arguments: %1</source>
+        <translation>参数无效：%1</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -48,8 +48,8 @@
         <translation>粘贴</translation>
     </message>
     <message>
-        <source>Runs %1 and takes over what it returns</source>
-        <translation>运行 %1 并采用其返回的结果</translation>
+        <source>Runs %1 and fills in its result</source>
+        <translation>运行 %1 并填入其返回的结果</translation>
     </message>
     <message>
         <source>Fill fro&amp;m the server</source>
@@ -59,7 +59,7 @@
 <context>
     <name>explorer::CallHeader</name>
     <message>
-        <source>No call chosen</source>
+        <source>No call selected</source>
         <translation>未选择调用</translation>
     </message>
     <message>
@@ -110,11 +110,11 @@
         <translation>收藏</translation>
     </message>
     <message>
-        <source>Used last</source>
+        <source>Recently used</source>
         <translation>最近使用</translation>
     </message>
     <message>
-        <source>No call matches</source>
+        <source>No matching calls</source>
         <translation>没有匹配的调用</translation>
     </message>
     <message numerus="yes">
@@ -127,7 +127,7 @@
 <context>
     <name>explorer::CertificateLook</name>
     <message>
-        <source>The server does not answer</source>
+        <source>The server does not respond</source>
         <translation>服务器没有响应</translation>
     </message>
 </context>
@@ -157,11 +157,11 @@
 <context>
     <name>explorer::CommandLine</name>
     <message>
-        <source>Every call of the library from a window.</source>
-        <translation>通过图形界面运行库的所有调用。</translation>
+        <source>Makes any APIModule call from a graphical interface.</source>
+        <translation>在图形界面中调用 APIModule 的任意接口。</translation>
     </message>
     <message>
-        <source>Choose and start the emulator.</source>
+        <source>Select and start the emulator.</source>
         <translation>选择并启动模拟器。</translation>
     </message>
     <message>
@@ -173,8 +173,8 @@
         <translation>名称</translation>
     </message>
     <message>
-        <source>Tell when the window is painted first, and end.</source>
-        <translation>输出窗口首次绘制完成的时间，然后退出。</translation>
+        <source>Print the time until the window is first painted, then exit.</source>
+        <translation>输出窗口首次绘制所需的时间，然后退出。</translation>
     </message>
 </context>
 <context>
@@ -184,8 +184,8 @@
         <translation>比较两次运行</translation>
     </message>
     <message>
-        <source>Place</source>
-        <translation>位置</translation>
+        <source>Path</source>
+        <translation>路径</translation>
     </message>
     <message>
         <source>Arguments</source>
@@ -221,7 +221,7 @@
         <translation>模拟器未运行。</translation>
     </message>
     <message>
-        <source>%1 are too much to show here.</source>
+        <source>%1 is too much to show here.</source>
         <translation>内容过大（%1），无法在此显示。</translation>
     </message>
 </context>
@@ -248,7 +248,7 @@
         <translation>模拟器正在启动</translation>
     </message>
     <message>
-        <source>The emulator is not running. It starts with its button or with the first call.</source>
+        <source>The emulator is not running. Press its button to start it, or make a call.</source>
         <translation>模拟器未运行。可通过按钮启动，也会在首次调用时自动启动。</translation>
     </message>
 </context>
@@ -286,7 +286,7 @@
 <context>
     <name>explorer::FaultForm</name>
     <message>
-        <source>Late reply</source>
+        <source>Delayed reply</source>
         <translation>延迟响应</translation>
     </message>
     <message>
@@ -302,7 +302,7 @@
         <translation>空响应</translation>
     </message>
     <message>
-        <source>Half of the body</source>
+        <source>First half of the body</source>
         <translation>只有前一半正文</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>未响应即关闭连接</translation>
     </message>
     <message>
-        <source>Connection closed within the reply</source>
+        <source>Connection closed mid-reply</source>
         <translation>响应中途关闭连接</translation>
     </message>
     <message>
@@ -354,11 +354,11 @@
         <translation>所有路径</translation>
     </message>
     <message>
-        <source>How the path of a request begins, its query included</source>
+        <source>Beginning of the request path, including the query</source>
         <translation>请求路径（含查询字符串）的开头部分</translation>
     </message>
     <message>
-        <source>2 lets the first call that fits pass</source>
+        <source>With 2, the first matching call passes</source>
         <translation>2 表示放行第一个匹配的调用</translation>
     </message>
     <message>
@@ -386,7 +386,7 @@
         <translation>从第几次匹配起</translation>
     </message>
     <message>
-        <source>How often</source>
+        <source>Times</source>
         <translation>次数</translation>
     </message>
     <message>
@@ -539,7 +539,7 @@
         <translation>所有级别</translation>
     </message>
     <message>
-        <source>%1 and worse</source>
+        <source>%1 and above</source>
         <translation>%1及以上</translation>
     </message>
     <message>
@@ -642,15 +642,15 @@
         <translation>将参数载入表单</translation>
     </message>
     <message>
-        <source>The chosen runs as an HTTP archive (HAR) or as a C++ test</source>
+        <source>Exports the selected runs as an HTTP archive (HAR) or as a C++ test</source>
         <translation>将所选运行记录导出为 HTTP 存档 (HAR) 或 C++ 测试</translation>
     </message>
     <message>
-        <source>Limit of the history</source>
+        <source>History size limit</source>
         <translation>历史记录大小上限</translation>
     </message>
     <message>
-        <source>When the runs take more, the oldest go</source>
+        <source>Above this size, the oldest runs are dropped</source>
         <translation>超出上限时删除最早的运行记录</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation> MB</translation>
     </message>
     <message>
-        <source>In a file</source>
+        <source>Save to file</source>
         <translation>存入文件</translation>
     </message>
     <message>
@@ -671,7 +671,7 @@
         <translation>%1 /</translation>
     </message>
     <message>
-        <source>Export the chosen runs</source>
+        <source>Export the selected runs</source>
         <translation>导出所选运行记录</translation>
     </message>
     <message>
@@ -732,7 +732,7 @@
         <translation>APIModule 接口调试工具</translation>
     </message>
     <message>
-        <source>The emulator ended: %1</source>
+        <source>The emulator exited: %1</source>
         <translation>模拟器已退出：%1</translation>
     </message>
     <message>
@@ -740,7 +740,7 @@
         <translation>令牌已存入桌面的密钥环。</translation>
     </message>
     <message>
-        <source>There is no secret service here: the token is kept until the program ends.</source>
+        <source>No secret service is available: the token is kept until the program exits.</source>
         <translation>没有可用的密钥环：令牌仅保留到程序结束。</translation>
     </message>
     <message>
@@ -780,7 +780,7 @@
         <translation>查找调用(&amp;F)</translation>
     </message>
     <message>
-        <source>Favourite &amp;on or off</source>
+        <source>T&amp;oggle favourite</source>
         <translation>切换收藏(&amp;O)</translation>
     </message>
     <message>
@@ -800,7 +800,7 @@
         <translation>编辑(&amp;E)…</translation>
     </message>
     <message>
-        <source>Give the &amp;token…</source>
+        <source>Enter the &amp;token…</source>
         <translation>输入令牌(&amp;T)…</translation>
     </message>
     <message>
@@ -828,7 +828,7 @@
         <translation>下一个窗格(&amp;N)</translation>
     </message>
     <message>
-        <source>As the &amp;desktop</source>
+        <source>Follow the &amp;desktop</source>
         <translation>跟随桌面(&amp;D)</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>关于 APIModule 接口调试工具</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Every call of the library from a window: a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;APIModule 接口调试工具 %1&lt;/h3&gt;&lt;p&gt;通过图形界面运行库的所有调用：一个带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;APIModule Explorer %1&lt;/h3&gt;&lt;p&gt;Makes any APIModule call from a graphical interface. It is a host with a user manager, wait dialog, notifications and logs.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;APIModule 接口调试工具 %1&lt;/h3&gt;&lt;p&gt;在图形界面中调用 APIModule 的任意接口，是一个带有用户管理、等待对话框、通知和日志的宿主程序。&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
@@ -864,7 +864,7 @@
         <translation>请先选择调用</translation>
     </message>
     <message>
-        <source>The emulator gets a fresh token with each start.</source>
+        <source>The emulator gets a new token at each start.</source>
         <translation>模拟器每次启动都会使用新的令牌。</translation>
     </message>
     <message>
@@ -924,7 +924,7 @@
         <translation>历史(&amp;H)</translation>
     </message>
     <message>
-        <source>An argument holds no valid value</source>
+        <source>An argument has an invalid value</source>
         <translation>有参数的值无效</translation>
     </message>
     <message>
@@ -965,11 +965,11 @@
 <context>
     <name>explorer::NumberBox</name>
     <message>
-        <source>A number is missing</source>
-        <translation>缺少数字</translation>
+        <source>Enter a number</source>
+        <translation>请输入数字</translation>
     </message>
     <message>
-        <source>Not a number, such as 0.5</source>
+        <source>Must be a number, such as 0.5</source>
         <translation>必须是数字，例如 0.5</translation>
     </message>
     <message>
@@ -984,24 +984,24 @@
 <context>
     <name>explorer::OverwriteDialog</name>
     <message>
-        <source>Overwrite values of the server?</source>
+        <source>Overwrite values on the server?</source>
         <translation>覆盖服务器上的值？</translation>
     </message>
     <message>
-        <source>%1 sends values that you have not entered. They replace those of the server.</source>
+        <source>%1 sends values that you have not entered. They replace those on the server.</source>
         <translation>%1 将发送您未输入的值。它们会替换服务器上的值。</translation>
     </message>
     <message>
-        <source>%1 sends values that you have not entered. What they replace is not known.</source>
+        <source>%1 sends values that you have not entered. The values they replace are unknown.</source>
         <translation>%1 将发送您未输入的值。无法确定它们会替换哪些值。</translation>
     </message>
     <message>
-        <source>Values that change</source>
+        <source>Changed values</source>
         <translation>将要更改的值</translation>
     </message>
     <message>
-        <source>Place</source>
-        <translation>位置</translation>
+        <source>Field</source>
+        <translation>字段</translation>
     </message>
     <message>
         <source>On the server</source>
@@ -1016,7 +1016,7 @@
         <translation>是否输入</translation>
     </message>
     <message>
-        <source>not known</source>
+        <source>unknown</source>
         <translation>未知</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>复制路径(&amp;P)</translation>
     </message>
     <message>
-        <source>Copy as &amp;JSON, with all inside</source>
+        <source>Copy as &amp;JSON, with children</source>
         <translation>复制为 JSON（含所有子元素）(&amp;J)</translation>
     </message>
     <message>
@@ -1171,7 +1171,7 @@
         <translation>标头(&amp;D)</translation>
     </message>
     <message>
-        <source>No request can be made.</source>
+        <source>The request cannot be built.</source>
         <translation>无法生成请求。</translation>
     </message>
     <message>
@@ -1213,7 +1213,7 @@
         <translation>%1 毫秒</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>The server reports: %1</source>
         <translation>服务器返回信息：%1</translation>
     </message>
     <message>
@@ -1237,7 +1237,7 @@
         <translation>超时 %1 秒</translation>
     </message>
     <message>
-        <source>The connection: %1</source>
+        <source>Connection: %1</source>
         <translation>连接：%1</translation>
     </message>
 </context>
@@ -1303,7 +1303,7 @@
         <translation>显示等待对话框</translation>
     </message>
     <message>
-        <source>In the event loop, input goes on</source>
+        <source>In the event loop, input allowed</source>
         <translation>在事件循环中等待，可继续操作</translation>
     </message>
     <message>
@@ -1311,7 +1311,7 @@
         <translation>等待方式(&amp;W)</translation>
     </message>
     <message>
-        <source>The call&apos;s own</source>
+        <source>Call&apos;s default</source>
         <translation>调用默认值</translation>
     </message>
     <message>
@@ -1359,7 +1359,7 @@
 <context>
     <name>explorer::RunningCalls</name>
     <message>
-        <source>Calls under way</source>
+        <source>Running calls</source>
         <translation>正在运行的调用</translation>
     </message>
     <message>
@@ -1429,8 +1429,8 @@
         <translation>不变</translation>
     </message>
     <message>
-        <source>Language that the server is asked to answer in</source>
-        <translation>要求服务器响应时使用的语言</translation>
+        <source>Language for the server&apos;s replies</source>
+        <translation>服务器响应所用的语言</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -1457,15 +1457,15 @@
         <translation>新服务器</translation>
     </message>
     <message>
-        <source>any free one</source>
+        <source>any free port</source>
         <translation>任意空闲端口</translation>
     </message>
     <message>
-        <source>A fresh one for each start</source>
+        <source>New at each start</source>
         <translation>每次启动时重新生成</translation>
     </message>
     <message>
-        <source>Asked for when it is needed</source>
+        <source>Asked for when needed</source>
         <translation>需要时询问</translation>
     </message>
     <message>
@@ -1485,15 +1485,15 @@
         <translation>令牌(&amp;K)</translation>
     </message>
     <message>
-        <source>Show the server’s</source>
-        <translation>显示服务器的证书</translation>
+        <source>Fetch from the server</source>
+        <translation>从服务器获取</translation>
     </message>
     <message>
         <source>Trust this certificate</source>
         <translation>信任此证书</translation>
     </message>
     <message>
-        <source>Trust any</source>
+        <source>Trust any certificate</source>
         <translation>信任任何证书</translation>
     </message>
     <message>
@@ -1501,25 +1501,25 @@
         <translation>证书</translation>
     </message>
     <message>
-        <source>None: everything travels in the clear.</source>
+        <source>None: everything is sent unencrypted.</source>
         <translation>无：所有内容都以明文传输。</translation>
     </message>
     <message>
-        <source>Only this one is trusted (SHA-256):
+        <source>Only this certificate is trusted (SHA-256):
 %1</source>
         <translation>只信任此证书（SHA-256）：
 %1</translation>
     </message>
     <message>
-        <source>Any is trusted: who intercepts the connection reads the token.</source>
-        <translation>信任任何证书：能截获连接的人可以读取令牌。</translation>
+        <source>Any certificate is trusted: anyone who intercepts the connection can read the token.</source>
+        <translation>信任任何证书：截获连接的人可以读取令牌。</translation>
     </message>
     <message>
-        <source>The server is asked…</source>
+        <source>Fetching the certificate…</source>
         <translation>正在获取证书…</translation>
     </message>
     <message>
-        <source>The server shows none: %1</source>
+        <source>The server presented no certificate: %1</source>
         <translation>服务器没有出示证书：%1</translation>
     </message>
     <message>
@@ -1533,14 +1533,14 @@
 %1</translation>
     </message>
     <message>
-        <source>The certificate has changed: somebody may answer in the server’s place. Compare the digest with the one at the server.</source>
-        <translation>证书已更改：可能有人冒充服务器。请与服务器上的摘要进行核对。</translation>
+        <source>The certificate has changed: someone may be impersonating the server. Compare the digest with the one on the server.</source>
+        <translation>证书已更改：可能有人冒充服务器。请与服务器上的摘要核对。</translation>
     </message>
 </context>
 <context>
     <name>explorer::StartPage</name>
     <message>
-        <source>Makes the seeded lists so many times as long</source>
+        <source>Multiplies the length of the seeded lists</source>
         <translation>初始数据中列表长度的倍数</translation>
     </message>
     <message>
@@ -1564,11 +1564,11 @@
         <translation>初始数据文件夹</translation>
     </message>
     <message>
-        <source>Restar&amp;t with this</source>
+        <source>Restar&amp;t with these settings</source>
         <translation>按此设置重新启动(&amp;T)</translation>
     </message>
     <message>
-        <source>Star&amp;t with this</source>
+        <source>Star&amp;t with these settings</source>
         <translation>按此设置启动(&amp;T)</translation>
     </message>
 </context>
@@ -1587,15 +1587,15 @@
         <translation>状态</translation>
     </message>
     <message>
-        <source>Changes the state by what was edited, as a JSON merge patch</source>
-        <translation>以 JSON 合并补丁的形式应用所作的修改</translation>
+        <source>Applies your changes as a JSON merge patch</source>
+        <translation>以 JSON 合并补丁的形式应用您的修改</translation>
     </message>
     <message>
         <source>Re&amp;load</source>
         <translation>重新加载(&amp;L)</translation>
     </message>
     <message>
-        <source>Shows the state of now; what was edited is lost</source>
+        <source>Shows the current state; unapplied changes are lost</source>
         <translation>显示当前状态；未应用的修改将丢失</translation>
     </message>
     <message>
@@ -1603,7 +1603,7 @@
         <translation>重置(&amp;T)</translation>
     </message>
     <message>
-        <source>Back to the seed data</source>
+        <source>Restores the seed data</source>
         <translation>恢复为初始数据</translation>
     </message>
     <message>
@@ -1627,12 +1627,12 @@
         <translation>状态已修改。</translation>
     </message>
     <message>
-        <source>The state is that of the seed data.</source>
-        <translation>状态与初始数据一致。</translation>
+        <source>The seed data was restored.</source>
+        <translation>已恢复初始数据。</translation>
     </message>
     <message>
-        <source>The emulator refuses this: %1</source>
-        <translation>模拟器拒绝了该操作：%1</translation>
+        <source>The emulator rejected the change: %1</source>
+        <translation>模拟器拒绝了该修改：%1</translation>
     </message>
 </context>
 <context>
@@ -1713,18 +1713,18 @@
         <translation>运行次数</translation>
     </message>
     <message>
-        <source>This run: sent after %1 ms, first byte after %2 ms, all after %3 ms</source>
+        <source>This run: sent after %1 ms, first byte after %2 ms, complete after %3 ms</source>
         <translation>本次运行：%1 毫秒后发送，%2 毫秒后收到首字节，%3 毫秒后接收完毕</translation>
     </message>
     <message>
-        <source>This run: sent after %1 ms, no byte until %2 ms</source>
+        <source>This run: sent after %1 ms, no byte within %2 ms</source>
         <translation>本次运行：%1 毫秒后发送，至 %2 毫秒未收到任何字节</translation>
     </message>
 </context>
 <context>
     <name>explorer::TokenDialog</name>
     <message>
-        <source>Keep it in the desktop&apos;s secret service</source>
+        <source>Store it in the desktop&apos;s secret service</source>
         <translation>保存到桌面的密钥环</translation>
     </message>
     <message>
@@ -1732,11 +1732,11 @@
         <translation>会话令牌</translation>
     </message>
     <message>
-        <source>&amp;Token of the session at “%1”:</source>
+        <source>Session &amp;token for “%1”:</source>
         <translation>“%1”的会话令牌(&amp;T)：</translation>
     </message>
     <message>
-        <source>Without a secret service the token is kept until the program ends. It is never written to a file.</source>
+        <source>Without a secret service, the token is kept until the program exits. It is never written to a file.</source>
         <translation>没有密钥环时，令牌仅保留到程序结束，且不会写入任何文件。</translation>
     </message>
 </context>
@@ -1754,7 +1754,7 @@
         <translation>%1 需要“%2”</translation>
     </message>
     <message>
-        <source>The form has the values of the server.</source>
+        <source>The form now has the values from the server.</source>
         <translation>表单已填入服务器上的值。</translation>
     </message>
     <message>

@@ -159,7 +159,7 @@ Unentered ArgumentForm::NotEntered() const
 void ArgumentForm::OfferRead(const QString& name)
 {
     m_pRead->setVisible(!name.isEmpty());
-    m_pRead->setToolTip(tr("Runs %1 and takes over what it returns").arg(name));
+    m_pRead->setToolTip(tr("Runs %1 and fills in its result").arg(name));
 }
 
 QJsonObject ArgumentForm::Arguments() const
@@ -201,7 +201,7 @@ void ArgumentForm::Copy()
 
 void ArgumentForm::Paste()
 {
-    Take(QGuiApplication::clipboard()->text(), tr("The clipboard does not fit: %1"));
+    Take(QGuiApplication::clipboard()->text(), tr("Cannot paste the clipboard: %1"));
 }
 
 bool ArgumentForm::Take(const QString& text, const QString& problem)
@@ -212,7 +212,7 @@ bool ArgumentForm::Take(const QString& text, const QString& problem)
     try {
         if (error.error != QJsonParseError::NoError) {
             throw catalogue::Mismatch(
-                tr("it is no JSON, %1 at byte %2").arg(error.errorString()).arg(error.offset).toStdString());
+                tr("not valid JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset).toStdString());
         }
         const json given = document.isArray() ? json::array() : FromQt(document.object());
         const std::vector<catalogue::Value> values = ReadArguments(*m_pCall, given);
@@ -230,7 +230,7 @@ bool ArgumentForm::Take(const QString& text, const QString& problem)
 void ArgumentForm::TakeJson()
 {
     m_bTakesJson = true;  // keeps the text as typed
-    m_bJsonFits = Take(m_pJson->toPlainText(), tr("The text does not fit: %1"));
+    m_bJsonFits = Take(m_pJson->toPlainText(), tr("Invalid arguments: %1"));
     m_bTakesJson = false;
     if (m_bJsonFits) {
         ShowRefusal();

@@ -37,12 +37,12 @@ QString NumberBox::Problem() const
 {
     const QString typed = text().trimmed();
     if (typed.isEmpty()) {
-        return tr("A number is missing");
+        return tr("Enter a number");
     }
     bool isNumber = false;
     if (m_kind == Kind::Double) {
         const double number = QLocale::c().toDouble(typed, &isNumber);
-        return isNumber && std::isfinite(number) ? QString() : tr("Not a number, such as 0.5");
+        return isNumber && std::isfinite(number) ? QString() : tr("Must be a number, such as 0.5");
     }
     const qint64 number = typed.toLongLong(&isNumber);
     if (isNumber && number >= Smallest() && number <= Largest()) {

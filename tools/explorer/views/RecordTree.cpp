@@ -77,7 +77,7 @@ RecordTree::RecordTree(QWidget* pParent)
         return value.is_structured() ? CompactJsonText(value) : QString::fromStdString(catalogue::PlainText(value));
     })->setShortcut(QKeySequence::Copy);
     AddCopy(tr("Copy the &path"), "copyPath", [this](const QModelIndex& index) { return m_model.Path(index); });
-    AddCopy(tr("Copy as &JSON, with all inside"), "copySubtree",
+    AddCopy(tr("Copy as &JSON, with children"), "copySubtree",
             [this](const QModelIndex& index) { return JsonText(*m_model.Value(index)); });
     m_pTree->setContextMenuPolicy(Qt::CustomContextMenu);
 

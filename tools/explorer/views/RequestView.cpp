@@ -35,7 +35,7 @@ QString Pretty(const QByteArray& body)
 RequestView::RequestView(QWidget* pParent)
     : QWidget(pParent), m_pPages(new QStackedWidget), m_pHint(MakeHint()), m_pTarget(new QPlainTextEdit),
       m_pHeaders(new QTreeWidget), m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
-      m_pCurl(new CodeView(CodeView::Kind::Text, tr("No request can be made."))),
+      m_pCurl(new CodeView(CodeView::Kind::Text, tr("The request cannot be built."))),
       m_pCpp(new CodeView(CodeView::Kind::Code, QString())), m_pApicall(new CodeView(CodeView::Kind::Text, QString()))
 {
     m_pTarget->setObjectName(QStringLiteral("target"));
@@ -47,7 +47,7 @@ RequestView::RequestView(QWidget* pParent)
     constexpr int kLines = 2;  // longer texts scroll
     const double around = 2 * (m_pTarget->document()->documentMargin() + m_pTarget->frameWidth() + 1);
     m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + int(around));
-    m_pTarget->setPlaceholderText(tr("No request can be made."));
+    m_pTarget->setPlaceholderText(tr("The request cannot be built."));
     m_pHeaders->setObjectName(QStringLiteral("headers"));
     m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
     m_pHeaders->setRootIsDecorated(false);

@@ -175,10 +175,10 @@ void TimingView::ShowParts(const RunSummary* pShown)
     m_pParts->setText(
         times.firstByte
             //: Times in milliseconds
-            ? tr("This run: sent after %1 ms, first byte after %2 ms, all after %3 ms")
+            ? tr("This run: sent after %1 ms, first byte after %2 ms, complete after %3 ms")
                   .arg(time(times.sent), time(*times.firstByte), time(times.finished))
             //: Times in milliseconds
-            : tr("This run: sent after %1 ms, no byte until %2 ms").arg(time(times.sent), time(times.finished)));
+            : tr("This run: sent after %1 ms, no byte within %2 ms").arg(time(times.sent), time(times.finished)));
 }
 
 void TimingView::UpdateRepeat()

@@ -11,7 +11,7 @@
 namespace explorer {
 
 CallHeader::CallHeader(QWidget* pParent)
-    : QWidget(pParent), m_pName(new QLabel(tr("No call chosen"))), m_pEndpoint(new QLabel), m_pSummary(new QLabel),
+    : QWidget(pParent), m_pName(new QLabel(tr("No call selected"))), m_pEndpoint(new QLabel), m_pSummary(new QLabel),
       m_pFavourite(new QToolButton)
 {
     m_pName->setObjectName(QStringLiteral("callName"));

@@ -214,7 +214,7 @@ CallPanel::CallPanel(QSettings& settings, QWidget* pParent)
 void CallPanel::Fill()
 {
     m_pFavouriteGroup = NewGroup(tr("Favourites"));
-    m_pRecentGroup = NewGroup(tr("Used last"));
+    m_pRecentGroup = NewGroup(tr("Recently used"));
     m_pModel->appendRow(m_pFavouriteGroup);
     m_pModel->appendRow(m_pRecentGroup);
     QStandardItem* pFamily = nullptr;
@@ -290,7 +290,7 @@ void CallPanel::ShowCount()
             count += m_pShown->rowCount(m_pShown->index(subject, 0, group));
         }
     }
-    m_pCount->setText(count == 0 ? tr("No call matches") : tr("%n call(s)", nullptr, count));
+    m_pCount->setText(count == 0 ? tr("No matching calls") : tr("%n call(s)", nullptr, count));
 }
 
 void CallPanel::CurrentChanged(const QModelIndex& index)

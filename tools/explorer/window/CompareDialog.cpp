@@ -72,7 +72,7 @@ CompareDialog::CompareDialog(const CallOutcome& left, const CallOutcome& right, 
     setWindowTitle(tr("Compare two runs"));
     setObjectName(QStringLiteral("compareDialog"));
     m_pTree->setObjectName(QStringLiteral("differences"));
-    m_pTree->setHeaderLabels({tr("Place"), TitleOf(left), TitleOf(right)});
+    m_pTree->setHeaderLabels({tr("Path"), TitleOf(left), TitleOf(right)});
     m_pTree->setAlternatingRowColors(true);
     m_pTree->setUniformRowHeights(true);
     m_pTree->setItemDelegate(new RoomyDelegate(m_pTree));

@@ -93,7 +93,7 @@ FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
     pLevel->setAccessibleName(tr("Level"));
     pLevel->addItem(tr("All levels"), 0);
     for (const int level : {Feed::kInformation, 5, Feed::kFailure}) {
-        pLevel->addItem(tr("%1 and worse").arg(Feed::LevelName(level)), level);
+        pLevel->addItem(tr("%1 and above").arg(Feed::LevelName(level)), level);
     }
     pLevel->setVisible(kind == Log);
     connect(pLevel, qOverload<int>(&QComboBox::currentIndexChanged), pLines,

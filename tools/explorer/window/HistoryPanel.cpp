@@ -43,7 +43,7 @@ HistoryPanel::HistoryPanel(History& history, QWidget* pParent)
     }
     m_pTable->horizontalHeader()->setSectionResizeMode(History::ArgumentsColumn, QHeaderView::Stretch);
     m_pLoad->setToolTip(tr("Load the arguments into the form"));
-    m_pExport->setToolTip(tr("The chosen runs as an HTTP archive (HAR) or as a C++ test"));
+    m_pExport->setToolTip(tr("Exports the selected runs as an HTTP archive (HAR) or as a C++ test"));
     m_pBytes->setForegroundRole(QPalette::PlaceholderText);
 
     QLineEdit* const pSearch = NewSearch();
@@ -90,14 +90,14 @@ QWidget* HistoryPanel::MakeKeeping()
 {
     auto* const pLimit = new QSpinBox;
     pLimit->setObjectName(QStringLiteral("historyLimit"));
-    pLimit->setAccessibleName(tr("Limit of the history"));
-    pLimit->setToolTip(tr("When the runs take more, the oldest go"));
+    pLimit->setAccessibleName(tr("History size limit"));
+    pLimit->setToolTip(tr("Above this size, the oldest runs are dropped"));
     constexpr int kMost = 1024;
     pLimit->setRange(1, kMost);
     pLimit->setSuffix(tr(" MB"));
     pLimit->setValue(m_history.LimitInMegabytes());
     connect(pLimit, qOverload<int>(&QSpinBox::valueChanged), &m_history, &History::SetLimitInMegabytes);
-    auto* const pKept = new QCheckBox(tr("In a file"));
+    auto* const pKept = new QCheckBox(tr("Save to file"));
     pKept->setObjectName(QStringLiteral("historyKept"));
     pKept->setToolTip(tr("Keeps the runs for the next start, without tokens"));
     pKept->setChecked(m_history.IsKept());
@@ -158,7 +158,7 @@ void HistoryPanel::Export()
         summaries.push_back(&pRun->Summary());
     }
     const QString name =
-        QFileDialog::getSaveFileName(this, tr("Export the chosen runs"), QStringLiteral("runs.har"),
+        QFileDialog::getSaveFileName(this, tr("Export the selected runs"), QStringLiteral("runs.har"),
                                      QStringLiteral("%1 (*.har);;%2 (*.cpp)").arg(tr("HTTP archive"), tr("C++ test")));
     if (name.isEmpty()) {
         return;
@@ -166,7 +166,7 @@ void HistoryPanel::Export()
     const QString text = name.endsWith(QLatin1String(".cpp")) ? CppTest(summaries) : JsonText(Har(summaries));
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit()) {
-        QMessageBox::warning(this, tr("Export the chosen runs"), file.errorString());
+        QMessageBox::warning(this, tr("Export the selected runs"), file.errorString());
     }
 }
 

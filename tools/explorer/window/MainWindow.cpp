@@ -159,7 +159,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
     });
     connect(&session.emulator, &EmulatorProcess::Failed, this, [this](const QString& why) {
         m_runsAt.clear();
-        statusBar()->showMessage(tr("The emulator ended: %1").arg(why));
+        statusBar()->showMessage(tr("The emulator exited: %1").arg(why));
     });
     connect(&session.emulator, &EmulatorProcess::StateChanged, this, &MainWindow::RunWhenReady);
     connect(&session.servers, &Servers::Changed, this, [this] {
@@ -174,7 +174,7 @@ MainWindow::MainWindow(Session& session, QWidget* pParent)
     connect(&session.tokens, &Tokens::Kept, this, [this](const QString& /*serverId*/, bool worked) {
         statusBar()->showMessage(worked
                                      ? tr("The token is in the desktop's secret service.")
-                                     : tr("There is no secret service here: the token is kept until the program ends."),
+                                     : tr("No secret service is available: the token is kept until the program exits."),
                                  kStatusTime);
     });
     connect(&m_contract, &QFutureWatcher<Endpoints>::finished, this, [this] {
@@ -275,7 +275,7 @@ void MainWindow::MakeCallMenu()
     QAction* const pRun = pMenu->addAction(tr("&Run"), this, &MainWindow::Run);
     pRun->setShortcuts({Qt::Key_F5, QKeySequence(int(Qt::CTRL) + Qt::Key_Return)});
     pMenu->addAction(tr("&Find a call"), m_pCalls, &CallPanel::FocusFilter)->setShortcut(QKeySequence::Find);
-    QAction* const pFavourite = pMenu->addAction(tr("Favourite &on or off"), this, [this] {
+    QAction* const pFavourite = pMenu->addAction(tr("T&oggle favourite"), this, [this] {
         if (m_pCall != nullptr) {
             ToggleFavourite(!m_pCalls->IsFavourite(*m_pCall));
         }
@@ -292,7 +292,7 @@ void MainWindow::MakeServerMenu()
         ->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_L));
     pMenu->addAction(tr("&Edit…"), this, &MainWindow::EditServers)->setShortcut(EditServersKey());
     qApp->installEventFilter(this);
-    pMenu->addAction(tr("Give the &token…"), this, &MainWindow::AskForToken);
+    pMenu->addAction(tr("Enter the &token…"), this, &MainWindow::AskForToken);
     pMenu->addSeparator();
     pMenu->addAction(tr("&Start the emulator"), &m_session.emulator, &EmulatorProcess::Start);
     pMenu->addAction(tr("St&op the emulator"), &m_session.emulator, &EmulatorProcess::Stop);
@@ -377,7 +377,7 @@ void MainWindow::MakeAppearanceMenu(QMenu* pMenu)
 {
     auto* const pGroup = new QActionGroup(this);
     const Appearance stored = StoredAppearance(m_session.settings);
-    const QPair<Appearance, QString> choices[] = {{Appearance::System, tr("As the &desktop")},
+    const QPair<Appearance, QString> choices[] = {{Appearance::System, tr("Follow the &desktop")},
                                                   {Appearance::Light, tr("&Light")},
                                                   {Appearance::Dark, tr("D&ark")}};
     for (const auto& choice : choices) {
@@ -413,10 +413,11 @@ void MainWindow::MakeHelpMenu()
 {
     QMenu* const pMenu = menuBar()->addMenu(tr("&Help"));
     pMenu->addAction(tr("&About"), this, [this] {
-        QMessageBox::about(this, tr("About APIModule Explorer"),
-                           tr("<h3>APIModule Explorer %1</h3><p>Every call of the library from a window: a host with a "
-                              "user manager, wait dialog, notifications and logs.</p>")
-                               .arg(QApplication::applicationVersion()));
+        QMessageBox::about(
+            this, tr("About APIModule Explorer"),
+            tr("<h3>APIModule Explorer %1</h3><p>Makes any APIModule call from a graphical interface. It is "
+               "a host with a user manager, wait dialog, notifications and logs.</p>")
+                .arg(QApplication::applicationVersion()));
     });
     pMenu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
 }
@@ -534,7 +535,7 @@ void MainWindow::FormChanged()
     m_pRequestTimer->start();
     m_pTiming->SetRepeatEnabled(m_pForm->IsValid());
     m_pRunBar->SetReady(m_pForm->IsValid(),
-                        m_pCall == nullptr ? tr("Choose a call first") : tr("An argument holds no valid value"));
+                        m_pCall == nullptr ? tr("Choose a call first") : tr("An argument has an invalid value"));
 }
 
 void MainWindow::EditServers()
@@ -548,7 +549,7 @@ void MainWindow::AskForToken()
 {
     const Server server = m_session.servers.Current();
     if (m_session.servers.IsEmulator()) {
-        statusBar()->showMessage(tr("The emulator gets a fresh token with each start."), kStatusTime);
+        statusBar()->showMessage(tr("The emulator gets a new token at each start."), kStatusTime);
         return;
     }
     auto* const pDialog = new TokenDialog(server.name, this);
@@ -570,7 +571,7 @@ void MainWindow::ShowRequest()
         m_pRequest->Show(Runner::Draft(FilledIn()));
     } else {
         m_pRequest->ShowHint(m_pCall == nullptr ? tr("Choose a call to see its request here.")
-                                                : tr("An argument holds no valid value"));
+                                                : tr("An argument has an invalid value"));
     }
 }
 

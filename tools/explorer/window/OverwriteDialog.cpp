@@ -59,12 +59,12 @@ OverwriteDialog::OverwriteDialog(const QString& call, const json& present, const
                                  const QString& why, QWidget* pParent)
     : QDialog(pParent)
 {
-    setWindowTitle(tr("Overwrite values of the server?"));
+    setWindowTitle(tr("Overwrite values on the server?"));
     setObjectName(QStringLiteral("overwriteDialog"));
-    auto* const pWords =
-        new QLabel(why.isEmpty() && !present.is_null()
-                       ? tr("%1 sends values that you have not entered. They replace those of the server.").arg(call)
-                       : tr("%1 sends values that you have not entered. What they replace is not known.").arg(call));
+    auto* const pWords = new QLabel(
+        why.isEmpty() && !present.is_null()
+            ? tr("%1 sends values that you have not entered. They replace those on the server.").arg(call)
+            : tr("%1 sends values that you have not entered. The values they replace are unknown.").arg(call));
     pWords->setObjectName(QStringLiteral("overwriteWords"));
     pWords->setTextFormat(Qt::PlainText);
     pWords->setWordWrap(true);
@@ -76,8 +76,8 @@ OverwriteDialog::OverwriteDialog(const QString& call, const json& present, const
 
     auto* const pTree = new QTreeWidget;
     pTree->setObjectName(QStringLiteral("overwritten"));
-    pTree->setAccessibleName(tr("Values that change"));
-    pTree->setHeaderLabels({tr("Place"), tr("On the server"), tr("Will be sent"), tr("Entered")});
+    pTree->setAccessibleName(tr("Changed values"));
+    pTree->setHeaderLabels({tr("Field"), tr("On the server"), tr("Will be sent"), tr("Entered")});
     pTree->setRootIsDecorated(false);
     pTree->setAlternatingRowColors(true);
     pTree->setUniformRowHeights(true);
@@ -86,7 +86,7 @@ OverwriteDialog::OverwriteDialog(const QString& call, const json& present, const
         present.is_null() ? SentUnentered(sent, unentered) : Differences(present, sent);
     for (const Difference& row : rows) {
         const bool isEntered = !IsUnentered(row.path.toStdString(), unentered);
-        auto* const pItem = new QTreeWidgetItem(pTree, {row.path, present.is_null() ? tr("not known") : row.left,
+        auto* const pItem = new QTreeWidgetItem(pTree, {row.path, present.is_null() ? tr("unknown") : row.left,
                                                         row.right, isEntered ? tr("yes") : tr("no")});
         for (int column = 0; column < pTree->columnCount(); ++column) {
             pItem->setToolTip(column, pItem->text(column));

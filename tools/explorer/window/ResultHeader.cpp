@@ -122,10 +122,10 @@ void ResultHeader::Show(const RunSummary& outcome)
     QString text = details.join(between) + QLatin1Char('\n') + circumstances.join(between);
     const QString words = ServersWords(outcome);
     if (!words.isEmpty()) {
-        text += QLatin1Char('\n') + tr("The server says: %1").arg(words);
+        text += QLatin1Char('\n') + tr("The server reports: %1").arg(words);
     }
     if (!outcome.connectionError.isEmpty()) {
-        text += QLatin1Char('\n') + tr("The connection: %1").arg(outcome.connectionError);
+        text += QLatin1Char('\n') + tr("Connection: %1").arg(outcome.connectionError);
     }
     Show(outcome.resultText, text);
 }

@@ -33,7 +33,7 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
 
     m_pWay->setObjectName(QStringLiteral("wait"));
     m_pWay->addItem(tr("Behind the wait dialog"), int(Way::WaitDialog));
-    m_pWay->addItem(tr("In the event loop, input goes on"), int(Way::EventLoop));
+    m_pWay->addItem(tr("In the event loop, input allowed"), int(Way::EventLoop));
     m_pWay->addItem(tr("Not at all, several at once"), int(Way::WithoutWaiting));
     m_pWay->setCurrentIndex(qMax(0, m_pWay->findData(settings.value(QLatin1String(kWayKey)).toInt())));
     m_pWay->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -42,7 +42,7 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
 
     m_pTimeout->setObjectName(QStringLiteral("timeout"));
     m_pTimeout->setRange(0, kLongestTyped);
-    m_pTimeout->setSpecialValueText(tr("The call's own"));
+    m_pTimeout->setSpecialValueText(tr("Call's default"));
     m_pTimeout->setSuffix(tr(" s"));
     m_pTimeout->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);  // never narrower than its text
     m_pTimeout->setValue(settings.value(QLatin1String(kTimeoutKey), 0).toInt());

@@ -14,7 +14,7 @@ RunningCalls::RunningCalls(Runner& runner, QWidget* pParent)
     : QScrollArea(pParent), m_runner(runner), m_pLayout(new QVBoxLayout)
 {
     setObjectName(QStringLiteral("runningCalls"));
-    setAccessibleName(tr("Calls under way"));
+    setAccessibleName(tr("Running calls"));
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -59,8 +59,8 @@ ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
       m_pPort(new QSpinBox), m_pToken(new QLineEdit), m_pLanguage(new QComboBox),
       m_pTrusted(Named(new QLabel, "trustedCertificate")), m_pPresented(Named(new QLabel, "presentedCertificate")),
       m_pChanged(Named(new TintedLabel(theme::Error), "changedCertificate")),
-      m_pLookAt(new QPushButton(tr("Show the server’s"))), m_pTrust(new QPushButton(tr("Trust this certificate"))),
-      m_pTrustAny(new QPushButton(tr("Trust any"))), m_pProblem(new TintedLabel(theme::Error)),
+      m_pLookAt(new QPushButton(tr("Fetch from the server"))), m_pTrust(new QPushButton(tr("Trust this certificate"))),
+      m_pTrustAny(new QPushButton(tr("Trust any certificate"))), m_pProblem(new TintedLabel(theme::Error)),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle(tr("Servers"));
@@ -131,7 +131,7 @@ QWidget* ServersDialog::MakeForm()
     m_pLanguage->setObjectName(QStringLiteral("serverLanguage"));
     m_pLanguage->setEditable(true);
     m_pLanguage->addItems({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh")});
-    m_pLanguage->setToolTip(tr("Language that the server is asked to answer in"));
+    m_pLanguage->setToolTip(tr("Language for the server's replies"));
 
     connect(m_pName, &QLineEdit::textEdited, this, [this](const QString& name) {
         m_pList->currentItem()->setText(name);
@@ -231,20 +231,20 @@ void ServersDialog::ShowCertificate()
     const bool isEmulator = server.id == kEmulatorId;
     const bool isPinned = !server.pin.isEmpty();
     if (isEmulator) {
-        m_pTrusted->setText(tr("A fresh one for each start"));
+        m_pTrusted->setText(tr("New at each start"));
     } else if (!server.https) {
-        m_pTrusted->setText(tr("None: everything travels in the clear."));
+        m_pTrusted->setText(tr("None: everything is sent unencrypted."));
     } else if (isPinned) {
-        m_pTrusted->setText(tr("Only this one is trusted (SHA-256):\n%1").arg(DigestText(server.pin)));
+        m_pTrusted->setText(tr("Only this certificate is trusted (SHA-256):\n%1").arg(DigestText(server.pin)));
     } else {
-        m_pTrusted->setText(tr("Any is trusted: who intercepts the connection reads the token."));
+        m_pTrusted->setText(tr("Any certificate is trusted: anyone who intercepts the connection can read the token."));
     }
 
     QString presented;
     if (m_pLook) {
-        presented = tr("The server is asked…");
+        presented = tr("Fetching the certificate…");
     } else if (!m_whyNotPresented.isEmpty()) {
-        presented = tr("The server shows none: %1").arg(m_whyNotPresented);
+        presented = tr("The server presented no certificate: %1").arg(m_whyNotPresented);
     } else if (!m_presented.isEmpty() && m_presented == server.pin) {
         presented = tr("The server presents this certificate.");
     } else if (!m_presented.isEmpty()) {
@@ -255,8 +255,8 @@ void ServersDialog::ShowCertificate()
 
     const bool isOther = !m_presented.isEmpty() && m_presented != server.pin;
     m_pChanged->setText(isPinned && isOther
-                            ? tr("The certificate has changed: somebody may answer in the server’s place. "
-                                 "Compare the digest with the one at the server.")
+                            ? tr("The certificate has changed: someone may be impersonating the server. "
+                                 "Compare the digest with the one on the server.")
                             : QString());
     m_pChanged->setVisible(isPinned && isOther);
 
@@ -296,14 +296,14 @@ void ServersDialog::ShowServer(int index)
     m_pName->setText(server.name);
     m_pHost->setText(server.host);
     m_pPort->setMinimum(isEmulator ? 0 : 1);
-    m_pPort->setSpecialValueText(isEmulator ? tr("any free one") : QString());
+    m_pPort->setSpecialValueText(isEmulator ? tr("any free port") : QString());
     m_pPort->setValue(server.port);
     m_pScheme->setCurrentIndex(server.https ? 0 : 1);
     m_pLanguage->setEditText(server.language);
     m_pToken->setText(m_newTokens.value(server.id));
-    m_pToken->setPlaceholderText(isEmulator                 ? tr("A fresh one for each start")
+    m_pToken->setPlaceholderText(isEmulator                 ? tr("New at each start")
                                  : m_tokens.Find(server.id) ? tr("Unchanged")
-                                                            : tr("Asked for when it is needed"));
+                                                            : tr("Asked for when needed"));
     for (QWidget* const pWidget : std::initializer_list<QWidget*>{m_pName, m_pHost, m_pPort, m_pToken, m_pRemove}) {
         pWidget->setEnabled(!isEmulator);
     }

@@ -9,17 +9,17 @@
 namespace explorer {
 
 TokenDialog::TokenDialog(const QString& serverName, QWidget* pParent)
-    : QDialog(pParent), m_pToken(new QLineEdit), m_pKeep(new QCheckBox(tr("Keep it in the desktop's secret service")))
+    : QDialog(pParent), m_pToken(new QLineEdit), m_pKeep(new QCheckBox(tr("Store it in the desktop's secret service")))
 {
     setWindowTitle(tr("Session token"));
     setObjectName(QStringLiteral("tokenDialog"));
     m_pToken->setObjectName(QStringLiteral("token"));
     m_pToken->setEchoMode(QLineEdit::Password);
     m_pKeep->setChecked(true);
-    auto* const pLabel = new QLabel(tr("&Token of the session at “%1”:").arg(serverName));
+    auto* const pLabel = new QLabel(tr("Session &token for “%1”:").arg(serverName));
     pLabel->setBuddy(m_pToken);
-    auto* const pHint = new QLabel(tr("Without a secret service the token is kept until the program ends. It is never "
-                                      "written to a file."));
+    auto* const pHint = new QLabel(tr("Without a secret service, the token is kept until the program exits. It is "
+                                      "never written to a file."));
     pHint->setWordWrap(true);
     pHint->setForegroundRole(QPalette::PlaceholderText);
     auto* const pButtons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

@@ -73,7 +73,7 @@ void WriteGuard::Fill(const RunOrder& write)
             emit Message(present.why);
         } else if (m_form.Call() == write.call) {
             m_form.SetArguments(ToQt(Alone(name, present.value)), Origin::Known);
-            emit Message(tr("The form has the values of the server."));
+            emit Message(tr("The form now has the values from the server."));
         }
     });
 }

@@ -56,7 +56,7 @@ void EmulatorPanel::StateChanged()
     const bool isRunning = state == EmulatorProcess::Running;
     m_pStopped->setText(state == EmulatorProcess::Starting
                             ? tr("The emulator is starting")
-                            : tr("The emulator is not running. It starts with its button or with the first call."));
+                            : tr("The emulator is not running. Press its button to start it, or make a call."));
     m_pStopped->setVisible(!isRunning);
     m_pFaults->setEnabled(isRunning);
     m_pState->setEnabled(isRunning);

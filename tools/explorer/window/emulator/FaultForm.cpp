@@ -22,17 +22,17 @@ struct Kind {
 };
 
 constexpr std::array kKinds{
-    Kind{"delay", QT_TRANSLATE_NOOP("explorer::FaultForm", "Late reply"), {}},
+    Kind{"delay", QT_TRANSLATE_NOOP("explorer::FaultForm", "Delayed reply"), {}},
     Kind{"status", QT_TRANSLATE_NOOP("explorer::FaultForm", "HTTP status"), {"status", "headers", "body"}},
     Kind{"envelope", QT_TRANSLATE_NOOP("explorer::FaultForm", "Envelope with a code"), {"code", "desc"}},
     Kind{"empty", QT_TRANSLATE_NOOP("explorer::FaultForm", "Empty reply"), {}},
-    Kind{"cut", QT_TRANSLATE_NOOP("explorer::FaultForm", "Half of the body"), {}},
+    Kind{"cut", QT_TRANSLATE_NOOP("explorer::FaultForm", "First half of the body"), {}},
     Kind{"notJson", QT_TRANSLATE_NOOP("explorer::FaultForm", "Reply that is not JSON"), {}},
     Kind{"text", QT_TRANSLATE_NOOP("explorer::FaultForm", "Reply with this body"), {"body"}},
     Kind{"large", QT_TRANSLATE_NOOP("explorer::FaultForm", "Large reply"), {"size"}},
     Kind{"slow", QT_TRANSLATE_NOOP("explorer::FaultForm", "Slow reply"), {"bytesPerSecond"}},
     Kind{"closeBefore", QT_TRANSLATE_NOOP("explorer::FaultForm", "Connection closed without a reply"), {}},
-    Kind{"closeMiddle", QT_TRANSLATE_NOOP("explorer::FaultForm", "Connection closed within the reply"), {}},
+    Kind{"closeMiddle", QT_TRANSLATE_NOOP("explorer::FaultForm", "Connection closed mid-reply"), {}},
     Kind{"reset", QT_TRANSLATE_NOOP("explorer::FaultForm", "Connection reset"), {}},
     Kind{"silent", QT_TRANSLATE_NOOP("explorer::FaultForm", "No reply"), {}}};
 
@@ -121,8 +121,8 @@ FaultForm::FaultForm(QWidget* pParent)
         m_pMethod->addItem(QLatin1String(method), QLatin1String(method));
     }
     m_pPath->setPlaceholderText(tr("Every path"));
-    m_pPath->setToolTip(tr("How the path of a request begins, its query included"));
-    m_pFirst->setToolTip(tr("2 lets the first call that fits pass"));
+    m_pPath->setToolTip(tr("Beginning of the request path, including the query"));
+    m_pFirst->setToolTip(tr("With 2, the first matching call passes"));
     m_pTimes->setSpecialValueText(tr("Until removed"));
 
     m_pLayout->setContentsMargins(0, 0, 0, 0);
@@ -130,7 +130,7 @@ FaultForm::FaultForm(QWidget* pParent)
     m_pLayout->setColumnStretch(3, 1);
     AddRow(tr("Kind"), m_pKind, tr("Call"), m_pCall);
     AddRow(tr("Method"), m_pMethod, tr("Path"), m_pPath);
-    AddRow(tr("Starts at match"), m_pFirst, tr("How often"), m_pTimes);
+    AddRow(tr("Starts at match"), m_pFirst, tr("Times"), m_pTimes);
     AddField(tr("Delay"), m_pDelay, m_pLayout->rowCount(), 0);
     constexpr int kLargest = 1024 * 1024 * 1024;
     constexpr int kServiceUnavailable = 503;

@@ -22,7 +22,7 @@ StartPage::StartPage(Session& session, QWidget* pParent)
     m_pScale->setRange(1, kLargestScale);
     m_pScale->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     m_pScale->setValue(session.emulator.Options().scale);
-    m_pScale->setToolTip(tr("Makes the seeded lists so many times as long"));
+    m_pScale->setToolTip(tr("Multiplies the length of the seeded lists"));
     m_pSeed->setObjectName(QStringLiteral("emulatorSeed"));
     m_pSeed->setPlaceholderText(tr("The built-in seed data"));
     m_pSeed->setClearButtonEnabled(true);
@@ -75,7 +75,7 @@ void StartPage::Update()
 {
     const EmulatorProcess& emulator = m_session.emulator;
     const bool isRunning = emulator.GetState() == EmulatorProcess::Running;
-    m_pRestart->setText(isRunning ? tr("Restar&t with this") : tr("Star&t with this"));
+    m_pRestart->setText(isRunning ? tr("Restar&t with these settings") : tr("Star&t with these settings"));
     m_pRestart->setEnabled(emulator.GetState() != EmulatorProcess::Starting);
     m_pAddresses->setText(isRunning ? QStringLiteral("http://127.0.0.1:%1\nhttps://127.0.0.1:%2")
                                           .arg(emulator.HttpPort())

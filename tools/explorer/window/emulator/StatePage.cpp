@@ -63,11 +63,11 @@ StatePage::StatePage(EmulatorControl& control, QWidget* pParent)
     constexpr int kLowest = 80;
     m_pText->setMinimumHeight(kLowest);
     new JsonHighlighter(*m_pText);
-    m_pApply->setToolTip(tr("Changes the state by what was edited, as a JSON merge patch"));
+    m_pApply->setToolTip(tr("Applies your changes as a JSON merge patch"));
     auto* const pReload = NewButton(tr("Re&load"), "reloadState");
-    pReload->setToolTip(tr("Shows the state of now; what was edited is lost"));
+    pReload->setToolTip(tr("Shows the current state; unapplied changes are lost"));
     auto* const pReset = NewButton(tr("Rese&t"), "resetState");
-    pReset->setToolTip(tr("Back to the seed data"));
+    pReset->setToolTip(tr("Restores the seed data"));
     m_pProblem->setObjectName(QStringLiteral("stateProblem"));
     m_pMessage->setObjectName(QStringLiteral("stateMessage"));
     for (QLabel* pLabel : {m_pProblem, m_pMessage}) {
@@ -192,13 +192,13 @@ void StatePage::Apply()
 void StatePage::Reset()
 {
     m_control.Ask("POST", QStringLiteral("reset"), nullptr, this,
-                  [this](const ControlReply& reply) { Applied(reply, tr("The state is that of the seed data.")); });
+                  [this](const ControlReply& reply) { Applied(reply, tr("The seed data was restored.")); });
 }
 
 void StatePage::Applied(const ControlReply& reply, const QString& success)
 {
     if (!reply.error.isEmpty()) {
-        ShowProblem(tr("The emulator refuses this: %1").arg(reply.error));
+        ShowProblem(tr("The emulator rejected the change: %1").arg(reply.error));
         return;
     }
     m_control.Ask("GET", QStringLiteral("state"), nullptr, this, [this, success](const ControlReply& state) {
