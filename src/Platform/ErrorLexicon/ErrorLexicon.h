@@ -4,14 +4,14 @@
 
 #include <string>
 
-/// The user's words for error codes. Every function may be called from any thread, and before an application object
+/// User-visible texts of error codes. Every function may be called from any thread, and before an application object
 /// exists.
 namespace ErrorLexicon {
 
-/// Looks up the text of an error code in the language that is set.
+/// Looks up the text of an error code in the current language.
 ///
 /// Known are the results of the request library (-1, -4, -18, -101, 3101, 7000), the HTTP statuses 400 to 599 (one
-/// without its own text has that of its class, 400 or 500) and the codes of the platform emulator (1001 to 1006).
+/// without a text has that of its class, 400 or 500) and the codes of the platform emulator (1001 to 1006).
 ///
 /// @param nErrorCode the code
 /// @param strText receives the text as UTF-8; untouched when the code is unknown

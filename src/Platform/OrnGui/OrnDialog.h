@@ -11,8 +11,8 @@ class ORNGUI_EXPORT OrnDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Makes a dialog.
-    /// @param pParent widget under the dialog, or null for one on its own
+    /// Creates a dialog.
+    /// @param pParent parent widget, or null for a dialog without one
     explicit OrnDialog(QWidget* pParent = nullptr);
 };
 

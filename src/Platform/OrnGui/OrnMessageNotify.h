@@ -18,9 +18,9 @@ class ORNGUI_EXPORT OrnMessageNotify : public QObject {
 public:
     /// Shows a toast. A click closes it; otherwise it closes after about five seconds.
     ///
-    /// Toasts for which there is no room wait. One that could not close within ten seconds of its call is dropped,
-    /// unless it stays open. A text too long for a toast is truncated. Without a QApplication nothing is shown; nor is
-    /// a toast with neither a text nor a button.
+    /// A toast for which there is no room waits. It is dropped if it could not be shown and closed within ten seconds
+    /// of the call, unless it stays open. A text too long for a toast is truncated. Nothing is shown without a
+    /// QApplication, or with neither a text nor a button.
     ///
     /// @param strText the message, shown as plain text
     /// @param bWithButton add a button that opens @p strLink and closes the toast

@@ -18,7 +18,7 @@ namespace ORNGUI {
 /// focus from the window under it, and does not keep the application running after its last window.
 ///
 /// The creator owns the dialog. @p pParent is its Qt parent while both exist; when the parent is destroyed, the dialog
-/// ends as by OnStopWaitImmediately() and remains hidden, without a parent, until its owner deletes it. GUI thread
+/// ends as if by OnStopWaitImmediately() and remains hidden, without a parent, until its owner deletes it. GUI thread
 /// only.
 class ORNGUI_EXPORT OrnWaitDialog : public OrnDialog {
     Q_OBJECT

@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 
-/// What the client's user management offers to the libraries that call servers.
+/// The interface of the client's user management to the libraries that call servers.
 namespace UserLogical {
 
-/// Where a server is reached.
+/// The address of a server.
 struct ServerConnection {
     std::string strHost;  ///< host name or IP address
     int nPort = 80;       ///< TCP port
@@ -18,7 +18,7 @@ public:
     virtual ~IServer() = default;
 
     /// Returns the address of the server.
-    /// @param connection takes host and port
+    /// @param connection receives host and port
     virtual void GetConnection(ServerConnection& connection) = 0;
 
     /// @return the token of the session, empty when there is none

@@ -21,7 +21,7 @@ struct LogRecord {
 
 /// The log of the process: writes records to standard error and, once SetFile() named one, to a rotating file.
 ///
-/// Every function may be called from any thread, from static constructors and destructors too, and throws nothing.
+/// Every function may be called from any thread, even from static constructors and destructors, and throws nothing.
 class ORNL_EXPORT TalPrintLog {
 public:
     /// @return the log of the process, which is never destroyed

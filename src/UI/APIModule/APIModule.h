@@ -60,9 +60,9 @@ class OutcomeBase;
 /// A host calls Init() once with its user manager and then makes calls: typed ones with Run() and Start() (Call.h), or
 /// pairs of a Pack and a Parse with ExecuteFuncs(). A Pack describes the request, a Parse reads the data of the reply.
 ///
-/// The object belongs to the thread of the application object, and only that thread may make calls. No exception
-/// crosses this interface. There is no call without an event loop, and none on another thread; a host posts the work to
-/// the application's thread instead.
+/// The object belongs to the thread of the application object. No exception crosses this interface. Not supported are
+/// blocking calls without an event loop, and calls on other threads: a host posts the work to the application's thread
+/// instead.
 ///
 /// A Pack describes its request in the RequestParam behind `pReqParamData`. Where it takes a server `nServerId`, -1
 /// selects the user manager's current one. It returns 0, or the -1 of GetRequestParam() with the record untouched, and
@@ -102,8 +102,8 @@ public:
     /// Limits the size of replies for all calls that begin from now on. A larger reply ends its call at once as a
     /// network error, -18.
     ///
-    /// @param nBytes largest size in bytes, counted as received and again after decompression; 512 MiB by default. It
-    ///        is limited to the range from 1 to 2,000,000,000.
+    /// @param nBytes largest size in bytes, counted as received and again after decompression; 512 MiB by
+    ///        default. Values outside the range from 1 to 2,000,000,000 are clamped to it.
     void SetMaximumReplySize(qint64 nBytes);
 
     /// Names the trusted servers for calls over HTTPS from now on. By default every server is trusted.
@@ -162,12 +162,12 @@ public:
 
     /// Runs one call: packs the request, sends it, waits, judges the reply, parses its data and notifies the user.
     ///
-    /// The event loop keeps running meanwhile, so timers and paint events are delivered: the call waits behind a modal
-    /// wait dialog over @p pParent, or in a local event loop without a parent. Whatever happens during the wait (the
+    /// The call waits behind a modal wait dialog over @p pParent, or in a local event loop without a parent. The event
+    /// loop keeps running, so timers and paint events are delivered. The call returns whatever happens meanwhile: the
     /// parent or the dialog is deleted, somebody else stops the dialog, UnInit(), another call, the end of the
-    /// application), the call returns; if the wait ended without a reply, with the result of a time-out. From quit()
-    /// until aboutToQuit() Qt runs no nested event loop, so calls return at once with the result of a time-out; before
-    /// and after that they work.
+    /// application. If the wait ends without a reply, the result is that of a time-out. From quit() until aboutToQuit()
+    /// Qt runs no nested event loop, so calls return at once with the result of a time-out; before and after that they
+    /// work.
     ///
     /// @warning A refusal whose code is 0, missing, a fraction or a text is returned as 0, like a success, unless
     /// @p bNotifyOnFailure is set; the record keeps its values. Run() and Start() (Call.h) distinguish the two.
@@ -176,7 +176,7 @@ public:
     /// @param parseFunc reads the "data" object of the reply into the caller's record; empty (`{}`) if there is
     ///        nothing to read. `nullptr` does not compile.
     /// @param strUIError description of the failure for notifications; may be empty
-    /// @param pParent widget under the wait dialog, or null to wait without one
+    /// @param pParent parent of the wait dialog, or null to wait without one
     /// @param strSuccessTip notified after success unless empty; not if the reply has data and @p parseFunc is empty
     /// @param bShowErrorCode add the text of the failure's code to the notification
     /// @param bNotifyOnFailure notify a failing HTTP status or envelope code and return -1, instead of returning the

@@ -23,10 +23,10 @@ public:
     /// Shows the wait dialog. If the parent is destroyed first, the dialog disappears and this object stays valid.
     /// Without a QApplication nothing is shown.
     ///
-    /// @param parent widget under the dialog, or null for a dialog without a parent
+    /// @param parent widget that the dialog covers, or null for a dialog without a parent
     explicit CAPIWaitDialog(QWidget* parent);
 
-    /// Hides the wait dialog, takes it from its parent and deletes it.
+    /// Hides the wait dialog and deletes it.
     ~CAPIWaitDialog() override;
 
 private:

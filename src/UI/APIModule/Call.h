@@ -21,7 +21,7 @@ class QWidget;
 /// const Outcome<TimeSyncConfig> settings = Run(BRMS::GetTimeSyncConfig(), this);
 /// Start(IPMS::GetDetailParkingLots("", "001", 0), this, [this](const auto& lots) { Show(lots); });
 /// @endcode
-/// A call cannot be made on another thread than the application object's.
+/// Make calls on the thread of the application object only.
 
 namespace APIModule {
 
@@ -106,7 +106,7 @@ Outcome<Record> Run(const FixedRequest<Record>& request, QWidget* pParent = null
 /// sent. UnInit() ends calls as CallEnd::Cancelled, the end of the application as CallEnd::ApplicationEnding. Large
 /// replies are read as by Run().
 ///
-/// Only the thread of the application object may call it; on another one it writes a log line and calls nothing.
+/// Only the thread of the application object may call it; on another one it only writes a log line.
 ///
 /// @param request made by a Call from its arguments
 /// @param pContext an object on the application object's thread. When it is destroyed, the call ends without calling

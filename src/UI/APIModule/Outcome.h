@@ -15,7 +15,7 @@ namespace APIModule {
 
 /// Why a call has ended.
 enum class CallEnd {
-    Success,           ///< the record is there
+    Success,           ///< the call succeeded
     NotPacked,         ///< the Pack failed, or the calling thread is not the application object's; code -1
     InvalidRequest,    ///< the Pack's request cannot be sent; code -4
     NoConnection,      ///< no complete reply arrived; code -18

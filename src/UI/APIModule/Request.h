@@ -32,7 +32,7 @@ struct RequestParts {
 
 /// A call with its arguments: a value that can be stored, copied and run any number of times.
 ///
-/// The call determines its server; most calls return a Request, which can be sent to any server.
+/// The call determines the server. Most calls return a Request instead, which can be sent to any server.
 template <typename Record>
 class FixedRequest {
 public:

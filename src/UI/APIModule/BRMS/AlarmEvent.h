@@ -9,8 +9,8 @@ namespace APIModule {
 
 /// The requested page of alarm plans. All fields are part of the URL.
 struct GetPageSummaryAlarmPlansParam {
-    int page = 0;         ///< "page": number of the page, counted from 1; 0 is the first page, too
-    int pageSize = 0;     ///< "pageSize": plans on a page
+    int page = 0;         ///< "page": page number, counted from 1; 0 also means the first page
+    int pageSize = 0;     ///< "pageSize": plans per page
     std::string keyword;  ///< "keyword": part of the plan's name, empty for all plans; inserted into the URL unencoded
 };
 
@@ -20,35 +20,35 @@ struct SummaryAlarmPlan {
     std::string planName;  ///< "planName": display name
 };
 
-/// A channel that an alarm sets off.
+/// A channel that an alarm triggers.
 struct AlarmLinkChannel {
     std::string channelId;    ///< "channelId": the channel
     std::string channelName;  ///< "channelName": its display name
 };
 
-/// An audio channel that an alarm sets off.
+/// An audio channel that an alarm triggers.
 struct AlarmLinkAudioChannel {
     std::string channelId;    ///< "channelId": the channel
     std::string channelName;  ///< "channelName": its display name
     std::string fileIds;      ///< "fileIds": the audio files to play in the server's format, such as "12,13"
 };
 
-/// What an alarm sets off.
+/// The channels that an alarm triggers.
 struct AlarmLinkControl {
     std::vector<AlarmLinkChannel> linkAlarmOutputChannels;  ///< "linkAlarmOutputChannels": alarm outputs
     std::vector<AlarmLinkChannel> linkAudioLightChannels;   ///< "linkAudioLightChannels": audio-light alarms
     std::vector<AlarmLinkAudioChannel> linkAudioChannels;   ///< "linkAudioChannels": audio channels
 };
 
-/// A map layer with the place of an alarm resource on it, in the server's units. In the contract's example the picture
-/// is 1920 wide and 1080 high, the resource lies at 412.5 and 233.25 and is rotated by 90.
+/// A map layer and the position of an alarm resource on it, in the server's units. In the contract's example the
+/// picture is 1920 wide and 1080 high; the resource is at 412.5, 233.25 and rotated by 90.
 struct AlarmLayerInfo {
     std::string layerId;       ///< "layerId": the layer
     std::string layerName;     ///< "layerName": its display name
-    std::string layerPicture;  ///< "layerPicture": reference to its picture as the server gives it, such as
+    std::string layerPicture;  ///< "layerPicture": its picture as the server refers to it, such as
                                ///< "/layers/21/plan.png"
-    double locationX = 0.0;    ///< "locationX": horizontal place of the resource on the layer
-    double locationY = 0.0;    ///< "locationY": vertical place of the resource on the layer
+    double locationX = 0.0;    ///< "locationX": horizontal position of the resource on the layer
+    double locationY = 0.0;    ///< "locationY": vertical position of the resource on the layer
     double width = 0.0;        ///< "width": width of the picture
     double height = 0.0;       ///< "height": height of the picture
     double angle = 0.0;        ///< "angle": rotation of the resource on the layer
@@ -73,30 +73,30 @@ struct AlarmHostFileInfo {
 
 /// The state of an audio file task.
 struct AudioFileInfo {
-    std::string taskProgress;  ///< "taskProgress": how far the task is, as the server's text, such as "100"
-    std::string fileUrl;       ///< "fileUrl": where the file is, such as "/audio/files/12.wav"
+    std::string taskProgress;  ///< "taskProgress": progress of the task as a string, such as "100"
+    std::string fileUrl;       ///< "fileUrl": location of the file, such as "/audio/files/12.wav"
 };
 
-/// A type of event that plug-in logs know.
+/// An event type of plug-in logs.
 struct PluginLogEventType {
     std::string eventType;      ///< "eventType": code of the type
     std::string eventTypeName;  ///< "eventTypeName": its display name
-    int sort = 0;               ///< "sort": its place within the group
+    int sort = 0;               ///< "sort": its position within the group
 };
 
 /// A group of event types of plug-in logs.
 struct PluginLogTypeGroupInfo {
     std::string groupId;                         ///< "groupId": the group
     std::string groupName;                       ///< "groupName": its display name
-    int sort = 0;                                ///< "sort": its place among the groups
-    std::vector<PluginLogEventType> eventTypes;  ///< "eventTypes": the types in it
+    int sort = 0;                                ///< "sort": its position among the groups
+    std::vector<PluginLogEventType> eventTypes;  ///< "eventTypes": its event types
 };
 
-/// Which general events are asked for. The server does not see it: a GET travels without its body.
+/// Filter of the general events. The server never receives it: a GET is sent without a body.
 struct GetGeneralEventsParam {
     std::string transportType;  ///< "transportType": the server's code of the transport
-    std::string matchType;      ///< "matchType": the server's code of how to match
-    std::string keyword;        ///< "keyword": what to match
+    std::string matchType;      ///< "matchType": the server's code of the match mode
+    std::string keyword;        ///< "keyword": text to match
 };
 
 /// A general event.

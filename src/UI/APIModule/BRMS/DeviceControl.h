@@ -7,17 +7,17 @@
 
 namespace APIModule {
 
-/// What one IP speaker is to play. All three travel as texts.
+/// The files that one IP speaker plays. All three fields are sent as strings.
 struct IPSpeakerChannel {
     std::string channelId;  ///< "channelId": the speaker's channel
     std::string fileIds;    ///< "fileIds": identifiers of the audio files in the server's format, such as "12,13"
-    std::string playCount;  ///< "playCount": how often to play, kept as text, such as "3"
+    std::string playCount;  ///< "playCount": number of repetitions, as a string, such as "3"
 };
 
 /// A command to IP speakers.
 struct IPSpeakerControl {
     std::vector<IPSpeakerChannel> channels;  ///< "channels": the speakers
-    int command = 0;                         ///< "command": what they are to do, the server's code, such as 1
+    int command = 0;                         ///< "command": the server's code, such as 1
 };
 
 /// A channel on which a command failed.

@@ -9,7 +9,7 @@ namespace APIModule {
 
 /// A switch-over to the hot-spare server.
 struct CheckHostSpareWarning {
-    bool warningHappened = false;  ///< "warningHappened": a switch-over happened and is to be reported
+    bool warningHappened = false;  ///< "warningHappened": a switch-over happened that the client must report
     int64 warningTime = 0;         ///< "warningTime": when it happened, in the server's unit, such as 1718093400000
     std::string warningContent;    ///< "warningContent": the server's description
 };
@@ -27,13 +27,13 @@ struct DiskWarmParam {
     std::vector<WarnDisk> warnDisks;  ///< "warnDisks": the disks
 };
 
-/// A network that is known to the system.
+/// A network known to the system.
 struct NetWorkItem {
     std::string netWorkName;  ///< "netWorkName": name
     int netWorkValue = 0;     ///< "netWorkValue": the server's code, such as 0 and 1
 };
 
-/// The networks that are known to the system.
+/// The networks known to the system.
 struct NetWorksParam {
     std::vector<NetWorkItem> netWorks;  ///< "results": the networks
 };

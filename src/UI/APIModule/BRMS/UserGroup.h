@@ -14,15 +14,15 @@ struct UserConfigUserGroups {
     std::string memo;       ///< "memo": free description
 };
 
-/// What a user group is created with or changed to.
+/// Name and description of a user group to create or change.
 struct AddUserGroupsParam {
     std::string groupName;  ///< "groupName": display name
-    std::string memo;       ///< "memo": free description, sent when it is empty, too
+    std::string memo;       ///< "memo": free description, sent even when empty
 };
 
-/// Users that are to move into one group.
+/// Users to move to one group.
 struct MoveUserGroupsParam {
-    std::string groupId;               ///< "groupId": the group that they move to
+    std::string groupId;               ///< "groupId": their new group
     std::vector<std::string> userIds;  ///< "userIds": the users, sent in this order
 };
 

@@ -6,27 +6,27 @@
 
 namespace APIModule {
 
-/// What came of the wash command of one channel, and who holds the lock of its PTZ control. In the contract's examples
-/// "result" is "0" when nobody holds it and "1" when somebody does.
+/// Result of the wash command of one channel, and the user who holds the lock of its PTZ control. In the contract's
+/// examples "result" is "0" when the channel is not locked and "1" when it is.
 struct PtzWashStatus {
-    std::string result;       ///< "result": the server's text or code, kept as text
-    std::string userName;     ///< "lockUser"/"userName": who holds the lock, where someone does
-    std::string userLevel;    ///< "lockUser"/"userLevel": level of that user, kept as text
+    std::string result;       ///< "result": the server's text or code, as a string
+    std::string userName;     ///< "lockUser"/"userName": the user who holds the lock, if any
+    std::string userLevel;    ///< "lockUser"/"userLevel": level of that user, as a string
     std::string lowerDomain;  ///< "lockUser"/"lowerDomain": the lower domain of that user
 };
 
-/// What came of the wash command of several channels.
+/// Result of the wash command of several channels.
 struct PtzBatchWashStatus {
-    std::string result;  ///< "result": the server's text or code, kept as text
-    std::string msg;     ///< "msg": the server's text or code, kept as text
+    std::string result;  ///< "result": the server's text or code, as a string
+    std::string msg;     ///< "msg": the server's text or code, as a string
 };
 
-/// What came of a home position command, and who holds the lock of the channel's PTZ control. In the contract's
-/// examples "result" is "0" when nobody holds it and "1" when somebody does.
+/// Result of a home position command, and the user who holds the lock of the channel's PTZ control. In the contract's
+/// examples "result" is "0" when the channel is not locked and "1" when it is.
 struct PtzPositionResetReq {
-    std::string result;       ///< "result": the server's text or code, kept as text
-    std::string userName;     ///< "lockUser"/"userName": who holds the lock, where someone does
-    std::string userLevel;    ///< "lockUser"/"userLevel": level of that user, kept as text
+    std::string result;       ///< "result": the server's text or code, as a string
+    std::string userName;     ///< "lockUser"/"userName": the user who holds the lock, if any
+    std::string userLevel;    ///< "lockUser"/"userLevel": level of that user, as a string
     std::string lowerDomain;  ///< "lockUser"/"lowerDomain": the lower domain of that user
 };
 

@@ -19,8 +19,8 @@ public:
     /// Marks the file uploads of stream analysis tasks as failed:
     /// POST /iams/api/v1.1/stream-analyse/task/file/upload/failed/update/batch
     ///
-    /// Body: "ids", a list of texts in the given order, empty for no @p taskIds. There is no Parse: a caller that wants
-    /// the reply reads it with its own function.
+    /// Body: "ids", a list of strings in the given order; empty if @p taskIds is empty. There is no Parse: a caller
+    /// that needs the reply reads it itself.
     /// @param taskIds the tasks
     static int PacketSetAnalysisTaskUploadFailed(void* pReqParamData, const std::vector<std::string>& taskIds,
                                                  int nServerId);

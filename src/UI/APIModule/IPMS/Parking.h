@@ -31,8 +31,8 @@ struct SimpleParkingLotInfoRsp {
     std::string parkingLotName;            ///< "parkingLotName": display name
     std::string orgCode;                   ///< "orgCode": the organisation that it belongs to
     std::string orgName;                   ///< "orgName": name of that organisation
-    std::string parentParkingLotId;        ///< "parentParkingLotId": the parking lot around it
-    std::string parentParkingLotName;      ///< "parentParkingLotName": name of the parking lot around it
+    std::string parentParkingLotId;        ///< "parentParkingLotId": the parent parking lot
+    std::string parentParkingLotName;      ///< "parentParkingLotName": name of the parent parking lot
     int parkingLotMode = 0;                ///< "parkingLotMode": the server's code
     int enableParkingSpaceStatistics = 0;  ///< "enableParkingSpaceStatistics": the number as sent by the server
     int parkingSpaceStatisticsType = 0;    ///< "parkingSpaceStatisticsType": the server's code
@@ -55,7 +55,7 @@ struct DetailParkingPointInfo {
     int direction = 0;                            ///< "direction": the server's code
     int mode = 0;                                 ///< "mode": the server's code
     std::vector<ParkingChannelInfo> channels;     ///< "channels": the video channels of the point
-    std::vector<ParkingChannelInfo> refChannels;  ///< "refChannels": the video channels of the point it refers to
+    std::vector<ParkingChannelInfo> refChannels;  ///< "refChannels": the channels of the point it refers to
 };
 
 /// One position of a parking lot in the detailed list.
@@ -72,15 +72,15 @@ struct DatailParkingLotInfoRsp {
     std::string parkingLotName;            ///< "parkingLotName": display name
     std::string orgCode;                   ///< "orgCode": the organisation that it belongs to
     std::string orgName;                   ///< "orgName": name of that organisation
-    std::string parentParkingLotId;        ///< "parentParkingLotId": the parking lot around it
-    std::string parentParkingLotName;      ///< "parentParkingLotName": name of the parking lot around it
+    std::string parentParkingLotId;        ///< "parentParkingLotId": the parent parking lot
+    std::string parentParkingLotName;      ///< "parentParkingLotName": name of the parent parking lot
     int parkingLotMode = 0;                ///< "parkingLotMode": the server's code
     int enableParkingSpaceStatistics = 0;  ///< "enableParkingSpaceStatistics": the number as sent by the server
     int parkingSpaceStatisticsType = 0;    ///< "parkingSpaceStatisticsType": the server's code
     int issueVehicles = 0;                 ///< "issueVehicles": the number as sent by the server
     int issueStatus = 0;                   ///< "issueStatus": the server's code
-    int totalParkingSpaceCount = 0;        ///< "totalParkingSpaceCount": parking spaces in all
-    int idleParkingSpaceCount = 0;         ///< "idleParkingSpaceCount": free parking spaces
+    int totalParkingSpaceCount = 0;        ///< "totalParkingSpaceCount": total number of parking spaces
+    int idleParkingSpaceCount = 0;         ///< "idleParkingSpaceCount": number of free parking spaces
     std::vector<DetailParkingPositionInfo> positions;  ///< "positions": the positions of the parking lot
 };
 
@@ -88,7 +88,7 @@ struct DatailParkingLotInfoRsp {
 struct OrganizationInfoRsp {
     std::string orgCode;        ///< "orgCode": code of the organisation, such as "001"
     std::string orgName;        ///< "orgName": display name
-    std::string parentOrgCode;  ///< "parentOrgCode": the organisation above it, empty at the root
+    std::string parentOrgCode;  ///< "parentOrgCode": the parent organisation, empty at the root
     int hasChild = 0;           ///< "hasChild": whether it has child organisations, the number as sent by the server
     int hasAuthority = 0;       ///< "hasAuthority": whether the user has rights in it, the number as sent by the server
 };

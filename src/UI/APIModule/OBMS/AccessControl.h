@@ -7,12 +7,12 @@
 
 namespace APIModule {
 
-/// Which authorised persons to list, and which page of them.
+/// The requested page of the authorised persons, and their filter.
 struct GetPageAccessAuthorizePersonsReq {
-    int page = 0;                       ///< "page": page counted from 1, 0 is the first, too; sent as a decimal text
-    int pageSize = 0;                   ///< "pageSize": persons of a page; sent as a decimal text
-    bool containChild = false;          ///< "containChild": with the organisations below; sent as "1" or "0"
-    std::string keyword;                ///< "keyword": what to search for, empty for all persons
+    int page = 0;                       ///< "page": page number from 1, 0 also means 1; sent as a decimal string
+    int pageSize = 0;                   ///< "pageSize": persons per page; sent as a decimal string
+    bool containChild = false;          ///< "containChild": include child organisations; sent as "1" or "0"
+    std::string keyword;                ///< "keyword": search text, empty for all persons
     std::string deviceCode;             ///< "deviceCode": the access control device, empty for all
     std::string orgCode;                ///< "orgCode": the organisation, empty for all
     std::vector<std::string> pointIds;  ///< "pointIds": the access points
@@ -50,28 +50,28 @@ struct ManagePersonInfo {
     std::string personName;               ///< "personName": the person's name
     std::string orgCode;                  ///< "orgCode": the person's organisation
     std::string orgName;                  ///< "orgName": name of that organisation
-    std::string errorCode;                ///< "errorCode": the server's code, kept as text, such as "0"
+    std::string errorCode;                ///< "errorCode": the server's code, as a string, such as "0"
     std::vector<PersonOrgInfo> orgInfos;  ///< "orgInfos": the organisations of the person
 };
 
-/// The persons whom an access control device is to manage.
+/// The persons to manage on an access control device.
 struct SetManagePersonReq {
     std::string deviceCode;              ///< the device
     std::vector<std::string> personIds;  ///< "personIds": the persons
 };
 
-/// Which access rules to list.
+/// Filter of the listed access rules.
 struct GetPointAccessRules {
     std::string pointId;      ///< the access point
-    std::string ruleType;     ///< "ruleType": kind of rule, the server's code as text, such as "1"
-    int hasOfflinePoint = 0;  ///< "hasOfflinePoint": a number in the query, such as 0, and a flag in the reply
+    std::string ruleType;     ///< "ruleType": kind of rule, the server's code as a string, such as "1"
+    int hasOfflinePoint = 0;  ///< "hasOfflinePoint": a number in the query, such as 0; a flag in the reply
 };
 
 /// One access rule of a point.
 struct RuleInfo {
     std::string ruleId;            ///< "ruleId": identifier of the rule
     std::string ruleName;          ///< "ruleName": display name
-    std::string ruleType;          ///< "ruleType": kind of rule, the server's code as text
+    std::string ruleType;          ///< "ruleType": kind of rule, the server's code as a string
     bool hasOfflinePoint = false;  ///< "hasOfflinePoint": a point of the rule is offline
 };
 

@@ -9,15 +9,15 @@ namespace APIModule {
 
 /// The DESFire card configuration of the whole service.
 struct AcsCardConfigParam {
-    bool enableDesfire = false;             ///< "enableDesfire": sent as the text "1" or "0", read as a flag
-    bool enableReadEncryptContent = false;  ///< "enableReadEncryptContent": sent as the text "1" or "0", read as a flag
+    bool enableDesfire = false;             ///< "enableDesfire": sent as "1" or "0", read as a flag
+    bool enableReadEncryptContent = false;  ///< "enableReadEncryptContent": sent as "1" or "0", read as a flag
 };
 
-/// Which page of the devices without the card configuration to list.
+/// The requested page of the devices where issuing the card configuration failed.
 struct ConfigDesFireFailureReq {
-    int page = 0;         ///< "page": number of the page, counted from 1; 0 is the first page, too
-    int pageSize = 0;     ///< "pageSize": devices of a page
-    std::string keyword;  ///< "keyword": what to search for, empty for all devices; inserted into the URL unencoded
+    int page = 0;         ///< "page": page number, counted from 1; 0 also means the first page
+    int pageSize = 0;     ///< "pageSize": devices per page
+    std::string keyword;  ///< "keyword": search text, empty for all devices; inserted into the URL unencoded
 };
 
 /// One device to which the card configuration could not be issued.
@@ -35,10 +35,10 @@ struct GetPageConfigDesfireFailureResp {
     std::vector<DesfireFailureInfo> pageData;  ///< "pageData": the devices of the page
 };
 
-/// Which intercom contacts of an outdoor station to delete.
+/// The intercom contacts of an outdoor station to delete.
 struct DeleteAddressBookParam {
-    bool deleteAll = false;                   ///< "mode": all of them, sent as "1"; else the listed ones, sent as "2"
-    std::string vtoDeviceCode;                ///< "vtoDeviceCode": the outdoor station
+    bool deleteAll = false;     ///< "mode": all contacts, sent as "1"; otherwise the listed ones, sent as "2"
+    std::string vtoDeviceCode;  ///< "vtoDeviceCode": the outdoor station
     std::vector<std::string> vthDeviceCodes;  ///< "vthDeviceCodes": the indoor stations; not sent when all are deleted
 };
 

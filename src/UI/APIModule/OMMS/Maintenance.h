@@ -24,18 +24,18 @@ struct ChannelInfoResp {
     std::string orgCode;                      ///< "orgCode": the organisation
     std::string orgName;                      ///< "orgName": name of the organisation
     int onlineStatus = 0;                     ///< "onlineStatus": the server's code
-    std::string channelStatus;                ///< "channelStatus": the server's code as text
-    std::string abnormalReason;               ///< "abnormalReason": why the channel is not well
+    std::string channelStatus;                ///< "channelStatus": the server's code as a string
+    std::string abnormalReason;               ///< "abnormalReason": reason for an abnormal channel status
     std::string channelIp;                    ///< "channelIp": address of the channel
     std::string channelMac;                   ///< "channelMac": hardware address of the channel
     std::string deviceIp;                     ///< "deviceIp": address of the device
     std::string macAddress;                   ///< "macAddress": hardware address of the device
-    std::string deviceRecordDays;             ///< "deviceRecordDays": days of recordings, as text, such as "28"
-    std::string configRecordDays;             ///< "configRecordDays": days that are configured, as text, such as "30"
+    std::string deviceRecordDays;             ///< "deviceRecordDays": days recorded, as a string, such as "28"
+    std::string configRecordDays;             ///< "configRecordDays": days configured, as a string, such as "30"
     std::string deviceRecordWholenessStatus;  ///< "deviceRecordWholenessStatus": whether recordings are complete
-    std::string motionDetectPlan;             ///< "motionDetectPlan": plan of motion detection
-    std::string patchPlan;                    ///< "patchPlan": plan of fetching missed recordings
-    std::string recordPlan;                   ///< "recordPlan": plan of recording
+    std::string motionDetectPlan;             ///< "motionDetectPlan": motion detection plan
+    std::string patchPlan;                    ///< "patchPlan": plan for fetching missed recordings
+    std::string recordPlan;                   ///< "recordPlan": recording plan
     int64 updateDate = 0;                     ///< "updateDate": last update in the server's unit, such as 1718094600000
 };
 
@@ -52,15 +52,15 @@ struct DeviceInfoResp {
     std::string deviceCategoryName;  ///< "deviceCategoryName": name of the category
     int deviceType = 0;              ///< "deviceType": the server's code
     std::string deviceTypeName;      ///< "deviceTypeName": name of the type
-    std::string manufacturer;        ///< "manufacturer": the server's code as text
+    std::string manufacturer;        ///< "manufacturer": the server's code as a string
     std::string manufacturerName;    ///< "manufacturerName": name of the manufacturer
-    std::string faultStatus;         ///< "faultStatus": the server's code as text
+    std::string faultStatus;         ///< "faultStatus": the server's code as a string
     std::string faultStatusName;     ///< "faultStatusName": name of the fault status
-    std::string updateTime;          ///< "updateTime": last update as text, such as "2024-06-11 08:30:00"
+    std::string updateTime;          ///< "updateTime": last update as a string, such as "2024-06-11 08:30:00"
     int addType = 0;                 ///< "addType": how the device was added, the server's code
     std::string orgCode;             ///< "orgCode": the organisation
     std::string orgName;             ///< "orgName": name of the organisation
-    std::string faultReason;         ///< "faultReason": what the fault is
+    std::string faultReason;         ///< "faultReason": reason for the fault
     std::string mac;                 ///< "mac": hardware address
     std::string softwareVersion;     ///< "softwareVersion": version of the device's software
     std::string subnetMask;          ///< "subnetMask": mask of the device's network

@@ -15,20 +15,20 @@ namespace APIModule {
 /// A Pack describes its request in the RequestParam behind @p pReqParamData, for the server @p nServerId (-1: the user
 /// manager's current one). It returns 0, or -1 with the RequestParam untouched, and writes one log line either way.
 ///
-/// A Parse reads the "data" object of the reply, @p data. It returns 0, or -1 at the first key that is missing: what it
-/// read before that key stays filled. It appends to lists without clearing them, each element once all of it was read,
-/// its inner lists included. It does not run for a reply without data.
+/// A Parse reads the "data" object of the reply, @p data. It returns 0, or stops with -1 at the first missing key;
+/// fields read before that key keep their new values. It appends complete elements to lists, with their inner lists,
+/// and does not clear the lists first. It does not run for a reply without data.
 ///
-/// "In the URL as given": the Pack escapes nothing there. The caller passes a text that may hold `%`, `&`, `#`, `?` or
-/// `/` through QUrl::toPercentEncoding(); QUrl itself encodes blanks and letters beyond ASCII.
+/// "Inserted unencoded": the Pack inserts the string into the URL unchanged. If it may contain `%`, `&`, `#`, `?` or
+/// `/`, the caller encodes it by QUrl::toPercentEncoding() first. QUrl itself encodes blanks and letters beyond ASCII.
 ///
-/// Codes, units and text formats that the server defines pass through unchanged; the comments name the value in the
+/// Codes, units and formats that the server defines are passed through unchanged; the comments give the value in the
 /// contract's example. A list in "results" is complete and has no total.
 class APIMODULE_EXPORT COMMSModule {
 public:
     /// @name Maintenance
-    /// Alert types, and what maintenance shows of one channel or device: status, fault, health of recordings and
-    /// network identity.
+    /// Alert types, and the maintenance view of one channel or device: status, faults, recording health and network
+    /// identity.
     /// @{
 
     /// Lists the types of alerts that alert rules can use: GET /omms/api/v1.1/alert/rule/alert-type/list
@@ -37,15 +37,15 @@ public:
     static int ParseGetAlertTypes(const QJsonObject& data, std::vector<AlertInfoResp>& alertTypes);
 
     /// Reads the maintenance view of a channel: GET /omms/api/v1.1/channel/{channelId}
-    /// @param channelId the channel, in the URL as given
+    /// @param channelId the channel, inserted unencoded
     static int PacketGetChannelInfo(void* pReqParamData, std::string channelId, int nServerId);
     /// Fills the fields of @p channel in their order.
     static int ParseGetChannelInfo(const QJsonObject& data, ChannelInfoResp& channel);
 
     /// Reads the maintenance view of a device: GET /omms/api/v1.1/device/{deviceCode}
-    /// @param deviceCode the device, in the URL as given
+    /// @param deviceCode the device, inserted unencoded
     static int PacketGetDeviceInfo(void* pReqParamData, std::string deviceCode, int nServerId);
-    /// Fills the fields of @p device in their order, with the exception of "deviceSn", which is read last.
+    /// Fills the fields of @p device in their order, except for "deviceSn", which is read last.
     static int ParseGetDeviceInfo(const QJsonObject& data, DeviceInfoResp& device);
     /// @}
 
