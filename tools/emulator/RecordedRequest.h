@@ -15,7 +15,7 @@ namespace emulator {
 struct RecordedRequest {
     std::size_t number = 0;                                    ///< counted from 1, in order of arrival
     std::string method;                                        ///< HTTP verb
-    std::string target;                                        ///< as received, query included, nothing decoded
+    std::string target;                                        ///< as received, including the query, not decoded
     std::string path;                                          ///< decoded
     std::vector<std::pair<std::string, std::string>> query;    ///< decoded
     std::vector<std::pair<std::string, std::string>> headers;  ///< names and values in the order received

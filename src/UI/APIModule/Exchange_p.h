@@ -36,7 +36,7 @@ public:
     Exchange(const QNetworkRequest& request, const char* pFunction);
     ~Exchange() override;
 
-    /// Makes a large reply, and its data by @p read, be read on a thread of Qt's pool. @p read is destroyed there.
+    /// Parses a large reply, and runs @p read on its data, on a thread of Qt's pool. @p read is destroyed there.
     void ReadInBackground(const detail::ReadData& read);
 
     /// Adds an observer; null is ignored.

@@ -115,7 +115,7 @@ void LogNoValue(const Object& object, const QString& key)
     }
 }
 
-/// Remembers the last key without a value on its thread during its lifetime.
+/// Records the last key without a value on its thread during its lifetime.
 class UnreadableKey {
 public:
     explicit UnreadableKey(QString& key);

@@ -9,16 +9,16 @@ class QLabel;
 
 namespace ORNGUI::detail {
 
-/// What a toast is to show.
+/// The content of a toast.
 struct ToastContent {
     QString strText;
     bool bWithButton = false;
     QString strButtonText;
     QString strLink;
     bool bStayOpen = false;
-    int nCount = 1;  ///< equal notifications in a row that it stands for
+    int nCount = 1;  ///< number of consecutive equal notifications
 
-    /// Whether both notify of the same, however often.
+    /// Whether both show the same notification, regardless of their counts.
     [[nodiscard]] bool Equals(const ToastContent& other) const;
 };
 
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] const ToastContent& Content() const { return m_content; }
     [[nodiscard]] bool IsOpen() const { return m_bOpen; }
 
-    /// Closes about so long after it was shown or has counted another one, whatever it counts at the end of @p goneBy.
+    /// Closes @p nLifetimeMs after this call or the last Repeat(), but at the latest when @p goneBy expires.
     void CloseAfter(int nLifetimeMs, const QDeadlineTimer& goneBy);
     /// Counts another notification that equals this one.
     /// @return false when it closes too soon to be read

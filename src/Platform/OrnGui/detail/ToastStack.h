@@ -12,7 +12,7 @@
 
 namespace ORNGUI::detail {
 
-/// The toasts on the screen and those that wait for room. It lives as long as the QApplication that it was made under.
+/// The toasts on the screen and those that wait for room. It is destroyed with the QApplication.
 class ToastStack : public QObject {
     Q_OBJECT
 

@@ -6,8 +6,8 @@
 
 namespace ornl::detail {
 
-/// While it lives, a write of this thread to a closed pipe fails, and does not end the process with SIGPIPE. The signal
-/// mask is as before afterwards, and a SIGPIPE that waited before still waits.
+/// During its lifetime, a write by this thread to a closed pipe fails instead of ending the process with SIGPIPE.
+/// Afterwards the signal mask is restored, and a SIGPIPE that was pending before is still pending.
 class WithoutSigpipe {
 public:
     WithoutSigpipe()

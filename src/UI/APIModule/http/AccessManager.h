@@ -34,7 +34,7 @@ public:
     qint64 MaximumReplySize() const { return m_nMaximumReplySize; }
     void SetMaximumReplySize(qint64 nBytes) { m_nMaximumReplySize = nBytes; }
 
-    /// Which servers may be talked to; null for all.
+    /// The trusted servers; null trusts all.
     const std::shared_ptr<const ServerTrust>& GetServerTrust() const { return m_pServerTrust; }
     void SetServerTrust(const std::shared_ptr<const ServerTrust>& pTrust) { m_pServerTrust = pTrust; }
 
@@ -43,7 +43,7 @@ public:
     /// Closes the connections that carry no request.
     void CloseIdleConnections();
 
-    /// Takes a reply out of line, or closes the connection that carries its request.
+    /// Removes a reply from the queue, or closes the connection that carries its request.
     void Forget(const Reply& reply);
 
     /// Sends the request of @p reply again, on a new connection.
