@@ -168,6 +168,8 @@ TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
     Find<QCheckBox>("historyKept").click();
     Run("BRMS.GetDeriveToken");
     ASSERT_TRUE(session->history.At(1)->Summary().reply->body.contains("secret"));
+    const CallOutcome incomplete = Run("BRMS.GetRemoteLogConfig");
+    ASSERT_FALSE(incomplete.missing.empty());
     Close();
 
     QFile file(FileOfRuns());
@@ -176,7 +178,8 @@ TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
     EXPECT_EQ(file.permissions() & others, QFile::Permissions());
     EXPECT_FALSE(file.readAll().contains(kToken));
     Start();
-    ASSERT_EQ(session->history.rowCount(), 2);
+    ASSERT_EQ(session->history.rowCount(), 3);
+    EXPECT_EQ(session->history.At(2)->Summary().missing, incomplete.missing);
     const CallOutcome after = session->history.At(0)->Outcome();
     EXPECT_EQ(after.call, before.call);
     EXPECT_EQ(after.arguments, before.arguments);

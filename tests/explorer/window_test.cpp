@@ -112,6 +112,15 @@ TEST_F(WindowTest, DescribesTheCallAndItsArgumentsFromTheContract)
     EXPECT_TRUE(tip.contains(QLatin1String("Example: 1"))) << tip.toStdString();
 }
 
+TEST_F(WindowTest, CopiedPathHasNoInvisibleCharacters)
+{
+    Choose("BRMS.GetTimeSyncConfig");
+    const auto& endpoint = Find<QLabel>("callEndpoint");
+    ASSERT_TRUE(Await([&] { return endpoint.text().contains(QLatin1String("time-sync")); }));
+    endpoint.actions().constFirst()->trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("/brms/api/v1.1/config/time-sync"));
+}
+
 TEST_F(WindowTest, RequestTabFollowsTheForm)
 {
     RawServer server([](const RawRequest&) { return Success("{}"); });

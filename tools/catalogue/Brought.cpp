@@ -4,45 +4,48 @@
 
 #include <nlohmann/json.hpp>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace catalogue {
 namespace {
 
 using nlohmann::json;
 
-/// Parses no more than the first elements of each list: what a Parse reads from one element it reads from all.
-class FirstElements {
-public:
-    bool operator()(int /*depth*/, json::parse_event_t event, json& /*parsed*/)
-    {
-        switch (event) {
-        case json::parse_event_t::object_start:
-            m_around.push_back(kObject);
-            return true;
-        case json::parse_event_t::array_start:
-            m_around.push_back(0);
-            return true;
-        case json::parse_event_t::object_end:
-        case json::parse_event_t::array_end:
-            m_around.pop_back();
-            return IsKept();
-        case json::parse_event_t::value:
-            return IsKept();
-        default:
-            return true;
+/// The value with no more than the first elements of each list: what a Parse reads from one element it reads from all.
+json FirstElements(const QJsonValue& value)
+{
+    switch (value.type()) {
+    case QJsonValue::Object: {
+        const QJsonObject object = value.toObject();
+        json members = json::object();
+        for (auto member = object.begin(); member != object.end(); ++member) {
+            members[member.key().toStdString()] = FirstElements(member.value());
         }
+        return members;
     }
-
-private:
-    static constexpr int kObject = -1;
-    static constexpr int kMost = 20;
-
-    bool IsKept() { return m_around.empty() || m_around.back() == kObject || ++m_around.back() <= kMost; }
-
-    std::vector<int> m_around;  // elements of each open list
-};
+    case QJsonValue::Array: {
+        constexpr int kMost = 20;
+        const QJsonArray array = value.toArray();
+        json elements = json::array();
+        for (int index = 0; index < std::min(kMost, int(array.size())); ++index) {
+            elements.push_back(FirstElements(array.at(index)));
+        }
+        return elements;
+    }
+    case QJsonValue::Bool:
+        return value.toBool();
+    case QJsonValue::Double:
+        return value.toDouble();
+    case QJsonValue::String:
+        return value.toString().toStdString();
+    default:
+        return nullptr;
+    }
+}
 
 /// The same structure with each value replaced by one that reads as 0, empty or false, or as 1, "1" or true.
 json Uniform(const json& value, bool set)
@@ -113,22 +116,19 @@ MissingFields FieldsNotReached(const Call& call, const json& data, const json& r
 
 }  // namespace
 
-MissingFields FieldsNotBrought(const Call& call, std::string_view body, const json& record, bool complete)
+MissingFields FieldsNotBrought(const Call& call, const QJsonObject& data, const json& record, bool complete)
 {
     if (call.result == nullptr || record.is_null()) {
         return {};
     }
-    const json reply = json::parse(body.begin(), body.end(), FirstElements(), false);
-    const json data = reply.is_object() ? reply.value("data", json::object()) : json::object();
-    if (!data.is_object()) {
-        return {};
-    }
+    const json first = FirstElements(data);
     if (!complete) {
-        return FieldsNotReached(call, data, record);
+        return FieldsNotReached(call, first, record);
     }
     MissingFields missing;
     MissingFields brought;
-    AddEqual(*call.result, Parsed(call, Uniform(data, false)), Parsed(call, Uniform(data, true)), {}, missing, brought);
+    AddEqual(*call.result, Parsed(call, Uniform(first, false)), Parsed(call, Uniform(first, true)), {}, missing,
+             brought);
     for (const std::string& path : brought) {
         missing.erase(path);
     }

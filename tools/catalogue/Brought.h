@@ -6,7 +6,6 @@
 
 #include <set>
 #include <string>
-#include <string_view>
 
 namespace catalogue {
 
@@ -14,9 +13,9 @@ namespace catalogue {
 /// the type: "/info/channelId", and with a "-" in the place of every index, "/-/channelId".
 using MissingFields = std::set<std::string>;
 
-/// @param body of the reply that the record was read from
+/// @param data of the reply that the record was read from
 /// @param record as far as the Parse read it
 /// @param complete whether the Parse read it to the end
-MissingFields FieldsNotBrought(const Call& call, std::string_view body, const nlohmann::json& record, bool complete);
+MissingFields FieldsNotBrought(const Call& call, const QJsonObject& data, const nlohmann::json& record, bool complete);
 
 }  // namespace catalogue

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <catalogue/Brought.h>
 #include <catalogue/Call.h>
 
 #include <QByteArray>
@@ -81,8 +82,9 @@ struct RunSummary {
     int timeoutSeconds = 0;  ///< time-out of the call
 
     SentRequest request;
-    std::optional<RawReply> reply;  ///< if a complete reply arrived
-    QString connectionError;        ///< why no reply arrived
+    std::optional<RawReply> reply;     ///< if a complete reply arrived
+    QString connectionError;           ///< why no reply arrived
+    catalogue::MissingFields missing;  ///< fields of the record
 };
 
 /// The outcome of one run of a call.

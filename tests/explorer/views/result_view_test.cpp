@@ -350,9 +350,10 @@ CallOutcome Replied(const QString& call, const QString& data)
 {
     CallOutcome outcome = view_test::Succeeded(call.toLatin1().constData(), "{}", "null");
     const catalogue::Value record(*outcome.call->result);
-    outcome.succeeded = outcome.call->parse(QJsonDocument::fromJson(data.toUtf8()).object(), record.Data()) == 0;
+    const QJsonObject object = QJsonDocument::fromJson(data.toUtf8()).object();
+    outcome.succeeded = outcome.call->parse(object, record.Data()) == 0;
     outcome.record = record.ToJson();
-    outcome.reply->body = R"({"code": 1000, "desc": "Success", "data": )" + data.toUtf8() + "}";
+    outcome.missing = FieldsNotBrought(*outcome.call, object, outcome.record, outcome.succeeded);
     return outcome;
 }
 

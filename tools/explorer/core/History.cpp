@@ -101,6 +101,11 @@ QByteArray Line(const CallOutcome& run)
                     QJsonArray{run.reply->status, ToJson(run.reply->headers), Packed(run.reply->body)});
     }
     if (!run.record.is_null() && isWhole) {
+        QJsonArray missing;
+        for (const std::string& path : run.missing) {
+            missing.append(QString::fromStdString(path));
+        }
+        line.insert(QStringLiteral("missing"), missing);
         const std::vector<std::uint8_t> record = nlohmann::json::to_cbor(run.record);
         line.insert(QStringLiteral("record"),
                     Packed(QByteArray(reinterpret_cast<const char*>(record.data()), int(record.size()))));
@@ -139,6 +144,10 @@ CallOutcome FromLine(const QByteArray& text)
     if (value("record").isString()) {
         const QByteArray record = Unpacked(value("record"));
         run.record = nlohmann::json::from_cbor(record.begin(), record.end(), true, false);
+        const QJsonArray missing = value("missing").toArray();
+        for (const QJsonValue& path : missing) {
+            run.missing.insert(path.toString().toStdString());
+        }
     }
     return run;
 }

@@ -121,6 +121,7 @@ struct Runner::Course {
         outcome.result = ended.Code();
         outcome.succeeded = bool(ended);
         outcome.record = ended.Data().isEmpty() ? nlohmann::json() : std::move(ended.record);
+        outcome.missing = FieldsNotBrought(*outcome.call, ended.Data(), outcome.record, outcome.succeeded);
         outcome.resultText =
             outcome.succeeded ? Runner::tr("Success") : CAPIModule::GetErroCodeInfor(caption, outcome.result, true);
         CAPIModule::GetInstance().NotifyOutcome(ended, caption, Runner::tr("%1 succeeded").arg(name));

@@ -59,6 +59,10 @@
 <context>
     <name>explorer::CallHeader</name>
     <message>
+        <source>Copy the &amp;path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
         <source>No call selected</source>
         <translation>Kein Aufruf gewählt</translation>
     </message>

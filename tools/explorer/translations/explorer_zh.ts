@@ -59,6 +59,10 @@
 <context>
     <name>explorer::CallHeader</name>
     <message>
+        <source>Copy the &amp;path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
         <source>No call selected</source>
         <translation>未选择调用</translation>
     </message>

@@ -44,17 +44,6 @@ QString ExchangeText(const RunSummary& outcome)
     return text;
 }
 
-/// The fields of the record that were missing in the reply.
-catalogue::MissingFields MissingIn(const CallOutcome& outcome)
-{
-    if (!outcome.reply) {
-        return {};
-    }
-    const QByteArray& body = outcome.reply->body;
-    return FieldsNotBrought(*outcome.call, {body.constData(), std::size_t(body.size())}, outcome.record,
-                            outcome.succeeded);
-}
-
 }  // namespace
 
 ResultView::ResultView(QWidget* pParent)
@@ -81,8 +70,8 @@ void ResultView::Show(CallOutcome outcome)
     } else if (outcome.record.is_null()) {
         ShowNoRecord(tr("No data came for a record."));
     } else {
-        const catalogue::MissingFields missing = MissingIn(outcome);
-        ShowRecord(*outcome.call->result, std::make_shared<const nlohmann::json>(std::move(outcome.record)), missing);
+        ShowRecord(*outcome.call->result, std::make_shared<const nlohmann::json>(std::move(outcome.record)),
+                   outcome.missing);
     }
     m_pExchange->SetText(ExchangeText(outcome));
 }

@@ -2,8 +2,11 @@
 
 #include "Icons.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QFontDatabase>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QTextDocument>
 #include <QToolButton>
@@ -23,7 +26,11 @@ CallHeader::CallHeader(QWidget* pParent)
 
     m_pEndpoint->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_pEndpoint->setTextFormat(Qt::PlainText);
-    m_pEndpoint->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pEndpoint->setObjectName(QStringLiteral("callEndpoint"));
+    m_pEndpoint->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* const pCopy = new QAction(tr("Copy the &path"), m_pEndpoint);
+    m_pEndpoint->addAction(pCopy);
+    connect(pCopy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(m_path); });
     m_pEndpoint->setForegroundRole(QPalette::Link);
     m_pEndpoint->setWordWrap(true);
     m_pSummary->setObjectName(QStringLiteral("callSummary"));
@@ -53,8 +60,9 @@ CallHeader::CallHeader(QWidget* pParent)
 
 void CallHeader::Show(const catalogue::Call& call, const Endpoint& endpoint, bool favourite)
 {
-    // A long path may wrap after a slash.
-    QString path = endpoint.path;
+    m_path = endpoint.path;
+    // A long path may wrap after a slash. The invisible spaces must not be copied, so the text cannot be selected.
+    QString path = m_path;
     path.replace(QLatin1Char('/'), QStringLiteral("/\u200b"));
     m_pName->setText(ShortName(call));
     m_pEndpoint->setText(endpoint.method + QLatin1Char(' ') + path);

@@ -26,6 +26,7 @@ private:
     QLabel* m_pEndpoint;
     QLabel* m_pSummary;
     QToolButton* m_pFavourite;
+    QString m_path;
 };
 
 }  // namespace explorer
