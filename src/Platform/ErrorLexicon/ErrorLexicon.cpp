@@ -40,10 +40,10 @@ Languages ReadLanguages()
     return languages;
 }
 
-/// All texts of all languages, and the choice among them. Any thread may ask and choose.
+/// The texts of all languages, and the current language. Thread-safe.
 class Lexicon {
 public:
-    /// Never destroyed, so that texts can be asked for until the very end of the process.
+    /// Never destroyed, so that texts are available until the process ends.
     static Lexicon& Instance()
     {
         static auto* const pLexicon = new Lexicon;
@@ -70,7 +70,7 @@ private:
     std::atomic<const Texts*> m_pChosen = &m_languages.at(kDefaultLanguage);
 };
 
-/// A status without its own text is treated as the first one of its class, as HTTP demands.
+/// A status without its own text is treated as the first one of its class, as HTTP requires.
 int StatusClass(int nErrorCode)
 {
     return nErrorCode >= 400 && nErrorCode <= 599 ? nErrorCode / 100 * 100 : nErrorCode;

@@ -260,7 +260,7 @@ void OrnWaitDialog::Cover(const QRect& area)
 void OrnWaitDialog::Uncover()
 {
     if (m_pVeil) {
-        // Not deleted here: its window may just be going through its children.
+        // Not deleted here, because its window may be iterating over its children.
         m_pVeil->hide();
         m_pVeil->deleteLater();
         m_pVeil.clear();

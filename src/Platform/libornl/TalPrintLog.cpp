@@ -60,7 +60,7 @@ std::string Head(const char* file, int line, const char* function, std::string_v
     return text;
 }
 
-/// Writes a line that is complete already.
+/// Writes a line that is already formatted.
 class CompleteLine : public spdlog::formatter {
 public:
     void format(const spdlog::details::log_msg& line, spdlog::memory_buf_t& written) override
@@ -70,7 +70,7 @@ public:
     std::unique_ptr<spdlog::formatter> clone() const override { return std::make_unique<CompleteLine>(); }
 };
 
-/// Completes each line once for all sinks.
+/// Formats each line once for all sinks.
 class Sinks : public spdlog::sinks::dist_sink_mt {
 public:
     /// Standard error and, when it is not null, a second sink.
@@ -148,7 +148,7 @@ try {
     std::string text = Head(OrEmpty(file), line, OrEmpty(function), OrEmpty(tag));
     const std::size_t head = text.size();
     if (format) {
-        // Nothing throws while the arguments are being read: they are read again when the first room is too small.
+        // The arguments are read again if the first buffer is too small. Nothing may throw before va_end().
         constexpr std::size_t kUsualSize = 128;
         text.resize(head + kUsualSize);
         std::va_list arguments;
@@ -164,7 +164,7 @@ try {
         }
         text.resize(head + size);
         if (length < 0) {
-            text.append(format);  // one that cannot be carried out gives its own text
+            text.append(format);  // an invalid format is logged as its text
         }
     }
 

@@ -70,7 +70,7 @@ int IntOf(const QString& text)
 {
     constexpr int kBase = 10;
     constexpr int kMostDigits = std::numeric_limits<int>::digits10;
-    int digits = 0;  // what the text consists of, as a rule; QString takes ten times as long
+    int digits = 0;  // most texts contain only digits; QString takes ten times as long
     for (const QChar character : text) {
         const int digit = character.unicode() - '0';
         if (digit < 0 || digit >= kBase || text.size() > kMostDigits) {

@@ -158,7 +158,7 @@ void Exchange::OnFinished()
         Report(MaskToken(finished.errorString()));
     }
     if (!self || m_bClosed) {
-        return;  // by an observer
+        return;  // an observer closed it
     }
     if (m_reply.nHttpStatus != kStatusOk) {
         m_reply.byteBody.clear();

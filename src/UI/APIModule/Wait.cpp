@@ -77,7 +77,7 @@ void Wait::MakeDialog(QWidget& parent)
 {
     m_pDialog = new ORNGUI::OrnWaitDialog(&parent, true);
     QObject::connect(m_pDialog, &QObject::destroyed, &m_loop, [this] {
-        m_pDialog.clear();  // no dialog any more, but a mere widget
+        m_pDialog.clear();  // its dialog part is already destroyed
         m_bBroken = true;
         End();
     });

@@ -25,10 +25,10 @@ constexpr int kMaxLines = 4;
 constexpr int kMaxLaidOutLength = 4000;
 constexpr int kCrossSize = 8;
 
-/// The lines of a text at the width of a toast, each with its first character's place in the text.
+/// The lines of a text at the width of a toast, as the positions of their first characters.
 struct Lines {
     QVector<int> starts;
-    bool bFit = true;  ///< no more of them than a toast has room for, none too wide
+    bool bFit = true;  ///< whether a toast has room for their number and width
 };
 
 Lines Broken(const QString& strText, const QFont& font, QTextOption::WrapMode wrapMode)
@@ -53,7 +53,7 @@ Lines Broken(const QString& strText, const QFont& font, QTextOption::WrapMode wr
     return lines;
 }
 
-/// The text itself where a label can show all of it; otherwise broken within long words and cut short.
+/// The unchanged text if a label can show all of it; otherwise the text with breaks inside long words, elided.
 QString Fitted(const QString& strText, const QFont& font)
 {
     QString strLaidOut = strText.left(kMaxLaidOutLength);

@@ -22,8 +22,7 @@ struct ToastContent {
     [[nodiscard]] bool Equals(const ToastContent& other) const;
 };
 
-/// A notification on the screen, or several equal ones with their number. It closes when it is clicked; whoever shows
-/// it deletes it.
+/// A notification on the screen, or several equal ones with their number. A click closes it; its owner deletes it.
 class Toast : public QWidget {
     Q_OBJECT
 
@@ -36,7 +35,7 @@ public:
     /// Closes @p nLifetimeMs after this call or the last Repeat(), but at the latest when @p goneBy expires.
     void CloseAfter(int nLifetimeMs, const QDeadlineTimer& goneBy);
     /// Counts another notification that equals this one.
-    /// @return false when it closes too soon to be read
+    /// @return false when the toast closes too soon for the new count to be read
     bool Repeat();
 
 signals:
@@ -59,6 +58,6 @@ private:
     bool m_bOpen = true;
 };
 
-constexpr int kReadableMs = 1500;  ///< a toast is not worth showing for less
+constexpr int kReadableMs = 1500;  ///< the shortest time in which a toast can be read
 
 }  // namespace ORNGUI::detail

@@ -14,11 +14,11 @@ namespace ORNGUI::detail {
 namespace {
 
 constexpr int kLifetimeMs = 5000;
-constexpr int kGoneByMs = 9500;  ///< a timer may be late, and ten seconds are promised
+constexpr int kGoneByMs = 9500;  ///< toasts must close within ten seconds, and a timer may be late
 constexpr int kMaxShown = 6;
 constexpr int kMaxStaying = 4;
 constexpr int kTallest = 160;
-constexpr std::size_t kMaxPassing = 6;  ///< no more of those that wait can have their turn in time
+constexpr std::size_t kMaxPassing = 6;  ///< more queued toasts could not be shown in time
 constexpr int kMargin = 16;
 constexpr int kSpacing = 8;
 
@@ -35,7 +35,7 @@ bool IsOnScreen(const QWidget* pWindow)
     return pWindow != nullptr && pWindow->isVisible() && !pWindow->isMinimized();
 }
 
-/// The window that counts as active: below a wait dialog, that of its parent.
+/// The active window; for a wait dialog, the window of its parent.
 QWidget* ActiveWindow()
 {
     QWidget* pWindow = QApplication::activeWindow();
@@ -60,7 +60,7 @@ QVector<QDialog*> Dialogs()
     return dialogs;
 }
 
-/// What of a dialog the user can reach with mouse or keyboard.
+/// The areas of a dialog that the user can reach with mouse or keyboard.
 QVector<QRect> ControlsOf(const QDialog& dialog)
 {
     QVector<QRect> controls;
@@ -83,7 +83,7 @@ qint64 Overlap(const QRect& place, const QVector<QRect>& obstacles)
     return nPixels;
 }
 
-/// The four corners of an area from inside, the lower right one first.
+/// The places inside the four corners of an area, the lower right one first.
 QVector<QRect> Corners(const QRect& area, const QSize& size)
 {
     QVector<QRect> corners(4, QRect(QPoint(), size));
@@ -153,7 +153,7 @@ void ToastStack::Add(const ToastContent& content)
     }
 }
 
-/// Whether it equals the one before it, which then stands for both.
+/// Counts the notification with the previous one if both are equal. @return false if they differ
 bool ToastStack::CountWithLatest(const ToastContent& content)
 {
     if (!content.Equals(m_latest)) {
@@ -174,7 +174,7 @@ bool ToastStack::CountWithLatest(const ToastContent& content)
     return shown != open.crend() && (*shown)->Repeat();
 }
 
-/// Installed at the application while toasts are open.
+/// Installed on the application while toasts are open.
 bool ToastStack::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     switch (pEvent->type()) {
@@ -204,7 +204,7 @@ QVector<Toast*> ToastStack::OpenToasts() const
     return open;
 }
 
-/// Toasts that stay leave room for those that pass.
+/// Persistent toasts leave room for transient ones.
 bool ToastStack::HasRoom(bool bStayOpen) const
 {
     const QVector<Toast*> open = OpenToasts();
@@ -245,14 +245,14 @@ Toast* ToastStack::Show(const ToastContent& content)
     m_toasts.append(pToast);
     connect(pToast, &Toast::Closed, pToast, &QObject::deleteLater);
     connect(pToast, &Toast::Closed, this, &ToastStack::ShowWaiting, Qt::QueuedConnection);
-    pToast->winId();  // makes the window
+    pToast->winId();  // creates the window
     pToast->windowHandle()->setTransientParent(m_pAnchor ? m_pAnchor->windowHandle() : nullptr);
     Arrange();
     pToast->show();
     return pToast;
 }
 
-/// The stack stays where it is while another application is active.
+/// While another application is active, the stack does not move.
 void ToastStack::FollowActiveWindow()
 {
     QWidget* pActive = ActiveWindow();
@@ -270,8 +270,8 @@ QRect ToastStack::Area() const
     return pScreen != nullptr ? pScreen->availableGeometry() : QRect();
 }
 
-/// The lower right corner of the active window or of the screen; where that would cover a dialog, the next place that
-/// does not. On a screen full of dialogs, the place that covers the least of their controls.
+/// The lower right corner of the active window or of the screen; if that covers a dialog, the next place that covers
+/// none. If every place covers a dialog, the one that covers the least of their controls.
 QRect ToastStack::Place(const QSize& size) const
 {
     const QRect area = Area().adjusted(kMargin, kMargin, -kMargin, -kMargin);

@@ -22,7 +22,7 @@ FileSink::FileSink(std::string strFileName) : m_strFileName(std::move(strFileNam
 
 void FileSink::Open()
 {
-    m_file.reset();  // a file that cannot be opened is tried again with the next line
+    m_file.reset();  // if opening fails, the next line tries again
     m_file = std::make_unique<spdlog::sinks::rotating_file_sink_st>(m_strFileName, kMaxFileSize, kRotatedFiles);
     m_file->set_formatter(formatter_->clone());
     (void)stat(m_strFileName.c_str(), &m_opened);
@@ -31,7 +31,7 @@ void FileSink::Open()
 void FileSink::sink_it_(const spdlog::details::log_msg& message)
 {
     struct stat now {};
-    // After a rotation the file is another one, too.
+    // A rotation replaces the file, too.
     if (!m_file || stat(m_strFileName.c_str(), &now) != 0 || !IsSameFile(now, m_opened)) {
         Open();
     }

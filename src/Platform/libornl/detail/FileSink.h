@@ -11,7 +11,7 @@
 
 namespace ornl::detail {
 
-/// A rotating file that is opened again when somebody deletes or replaces it. For use behind a sink that locks.
+/// A rotating file that is opened again after it was deleted or replaced. The caller must lock.
 class FileSink : public spdlog::sinks::base_sink<spdlog::details::null_mutex> {
 public:
     /// Opens the file; throws spdlog::spdlog_ex when that fails.

@@ -94,7 +94,7 @@ int CBRMSModule::ParseGetPluginLogType(const QJsonObject& data, std::vector<Plug
 
 int CBRMSModule::PacketGetGeneralEvents(void* pReqParamData, GetGeneralEventsParam& query, int nServerId)
 {
-    // A GET travels without its body; the filter is part of the request all the same.
+    // A GET is sent without its body, but the request still contains the filter.
     return Pack(pReqParamData, kBrms, Method_Get, QStringLiteral("/brms/api/v1.1/alarm/general/event/list"), nServerId,
                 Body({{"transportType", Text(query.transportType)},
                       {"matchType", Text(query.matchType)},

@@ -30,7 +30,7 @@ int CBRMSModule::PacketAudioLightControl(void* pReqParamData, const std::vector<
                 nServerId, Body({{"channelIds", TextList(channelIds)}, {"command", FlagNumber(on)}}));
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int CBRMSModule::PacketIPSpeakerControl(void* pReqParamData, IPSpeakerControl control, int nServerId)
 {
     return Pack(pReqParamData, kBrms, Method_Post,

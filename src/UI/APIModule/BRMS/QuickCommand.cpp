@@ -31,7 +31,7 @@ int CBRMSModule::PacketUpdateQuickCommand(void* pReqParamData, const QuickComman
                 QuickCommandBody(command));
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int CBRMSModule::PacketDelQuickCommand(void* pReqParamData, std::vector<std::string> ids, int nServerId)
 {
     return Pack(pReqParamData, kBrms, Method_Delete,

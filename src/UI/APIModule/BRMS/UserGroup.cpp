@@ -62,7 +62,7 @@ int CBRMSModule::PacketClearUserGroup(void* pReqParamData, const std::string& gr
 
 int CBRMSModule::PacketDeleteUserGroup(void* pReqParamData, const std::vector<std::string>& groupIds, int nServerId)
 {
-    // A deletion logs the lines of the clear call: that is part of the interface.
+    // The public interface requires the log lines of the clear call here.
     return Pack(pReqParamData, kBrms, Method_Delete,
                 Url(QStringLiteral("/brms/api/v1.1/user/group?ids=%1"), JoinedTexts(groupIds)), nServerId, QString(),
                 LogTexts{"PacketClearUserGroup failed.", "PacketClearUserGroup success."});

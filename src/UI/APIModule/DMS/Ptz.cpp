@@ -3,7 +3,7 @@
 
 namespace APIModule {
 
-/// The administration interface is asked on this server, whichever one the user works on.
+/// Calls of the administration interface always use this server, not the user's current one.
 static constexpr int kWashServerId = 1;
 static constexpr int kWashCommand = 1;
 
@@ -12,7 +12,7 @@ static QJsonObject WashCommand(const std::string& channelId)
     return Object({{"channelId", Text(channelId)}, {"command", Number(kWashCommand)}});
 }
 
-/// PtzWashStatus and PtzPositionResetReq are read alike.
+/// Reads PtzWashStatus and PtzPositionResetReq.
 template <typename Status>
 static int ReadStatus(const JsonObject& data, Status& status)
 {
@@ -30,7 +30,7 @@ static int ReadStatus(const JsonObject& data, Status& status)
                                 });
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int CDMSModule::PackeWashOpen(void* pReqParamData, std::string channelId)
 {
     return Pack(pReqParamData, kDms, Method_Post, QStringLiteral("/admin/API/DMS/Ptz/AuxControl"), kWashServerId,
@@ -53,7 +53,7 @@ int CDMSModule::ParseBatchWashOpen(const QJsonObject& data, PtzBatchWashStatus& 
     return ReadRecord(data, status);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int CDMSModule::PackeSetHomePosition(void* pReqParamData, std::string channelId, int nServerId)
 {
     return Pack(pReqParamData, kDms, Method_Post,
@@ -66,7 +66,7 @@ int CDMSModule::ParseSetHomePosition(const QJsonObject& data, PtzPositionResetRe
     return ReadStatus(data, status);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int CDMSModule::PackeGotoHomePosition(void* pReqParamData, std::string channelId, int nServerId)
 {
     return Pack(pReqParamData, kDms, Method_Post,

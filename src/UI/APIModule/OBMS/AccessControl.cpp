@@ -3,7 +3,7 @@
 
 namespace APIModule {
 
-/// The managed persons are always asked from the user manager's current server.
+/// Managed persons are always read from the user manager's current server.
 static constexpr int kCurrentServerId = -1;
 
 int COBMSModule::PacketGetPageAccessAuthorizePersons(void* pReqParamData, const GetPageAccessAuthorizePersonsReq& req,

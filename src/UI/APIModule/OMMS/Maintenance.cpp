@@ -14,7 +14,7 @@ int COMMSModule::ParseGetAlertTypes(const QJsonObject& data, std::vector<AlertIn
     return ReadFields(data, {{"results", alertTypes}});
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int COMMSModule::PacketGetChannelInfo(void* pReqParamData, std::string channelId, int nServerId)
 {
     return Pack(pReqParamData, kOmms, Method_Get, Url(QStringLiteral("/omms/api/v1.1/channel/%1"), Text(channelId)),
@@ -26,7 +26,7 @@ int COMMSModule::ParseGetChannelInfo(const QJsonObject& data, ChannelInfoResp& c
     return ReadRecord(data, channel);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
+// NOLINTNEXTLINE(performance-unnecessary-value-param): required by the signature
 int COMMSModule::PacketGetDeviceInfo(void* pReqParamData, std::string deviceCode, int nServerId)
 {
     return Pack(pReqParamData, kOmms, Method_Get, Url(QStringLiteral("/omms/api/v1.1/device/%1"), Text(deviceCode)),
@@ -35,7 +35,7 @@ int COMMSModule::PacketGetDeviceInfo(void* pReqParamData, std::string deviceCode
 
 int COMMSModule::ParseGetDeviceInfo(const QJsonObject& data, DeviceInfoResp& device)
 {
-    // The serial number comes last, behind fields that are declared after it.
+    // The serial number is read last, although other fields are declared after it.
     return ReadFields(data, {
                                 {"deviceCode", device.deviceCode},
                                 {"deviceName", device.deviceName},

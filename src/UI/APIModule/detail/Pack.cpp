@@ -23,7 +23,7 @@ public:
     [[nodiscard]] const char* Text() const { return m_text.data(); }
 
 private:
-    std::array<char, 160> m_text;  // filled as far as it is read
+    std::array<char, 160> m_text;  // only the part up to the zero byte is initialised
 };
 
 }  // namespace

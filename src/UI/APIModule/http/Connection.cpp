@@ -146,7 +146,7 @@ void Connection::Dial(QAbstractSocket::NetworkLayerProtocol protocol)
     QNetworkProxy proxy = m_proxy;
     QString host = m_origin.host;
     auto nPort = quint16(m_origin.nPort);
-    if (m_bThroughCache) {  // which the connection leads to
+    if (m_bThroughCache) {  // connect to the proxy itself
         proxy = QNetworkProxy::NoProxy;
         host = m_proxy.hostName();
         nPort = m_proxy.port();
@@ -330,7 +330,7 @@ void Connection::EndReply()
 void Connection::OnSocketError(QTcpSocket& socket, QAbstractSocket::SocketError error)
 {
     if (m_bProbing && error == QAbstractSocket::SocketTimeoutError) {
-        return;  // nothing has come
+        return;  // no bytes arrived
     }
     if (!m_pSocket && m_dialled.size() == 1 && m_second) {
         m_timer.start(0);
@@ -344,7 +344,7 @@ void Connection::OnSocketError(QTcpSocket& socket, QAbstractSocket::SocketError 
     }
 
     if (m_reader && error == QAbstractSocket::RemoteHostClosedError) {
-        Receive();  // what came before the end
+        Receive();  // the bytes that arrived before the end
         if (m_bClosed || !m_reader) {
             Close();
             return;
