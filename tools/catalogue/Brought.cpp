@@ -47,7 +47,7 @@ json FirstElements(const QJsonValue& value)
     }
 }
 
-/// The same structure with each value replaced by one that reads as 0, empty or false, or as 1, "1" or true.
+/// The same structure with each value replaced by one that converts to 0 or false, or if @p set to 1 or true.
 json Uniform(const json& value, bool set)
 {
     switch (value.type()) {
@@ -76,7 +76,7 @@ json Parsed(const Call& call, const json& data)
     return record.ToJson();
 }
 
-/// The fields that two records have alike: no value of the reply had an influence on them.
+/// Sorts the fields of two records: those that are equal in both do not depend on the reply, so they are missing.
 void AddEqual(const Type& type, const json& left, const json& right, const std::string& path, MissingFields& missing,
               MissingFields& brought)
 {
@@ -98,7 +98,7 @@ void AddEqual(const Type& type, const json& left, const json& right, const std::
     }
 }
 
-/// Where the Parse stopped, the fields without a key of their name, and those that did not get its value.
+/// After an incomplete Parse: the fields with their default value whose key is missing or has another value.
 MissingFields FieldsNotReached(const Call& call, const json& data, const json& record)
 {
     MissingFields missing;

@@ -9,8 +9,8 @@
 
 namespace catalogue {
 
-/// Fields of a record that have the values of a fresh one because the reply did not bring them. A field is a path in
-/// the type: "/info/channelId", and with a "-" in the place of every index, "/-/channelId".
+/// Fields of a record that have their default values because the reply did not contain them, as paths in the type:
+/// "/info/channelId", or with "-" instead of every index, "/-/channelId".
 using MissingFields = std::set<std::string>;
 
 /// @param data of the reply that the record was read from

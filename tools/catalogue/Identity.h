@@ -11,17 +11,18 @@ namespace catalogue {
 
 /// What distinguishes a record from others of its type.
 struct Identity {
-    std::string name;        ///< its first text that is named so; empty for none
-    std::string identifier;  ///< its first identifier; empty for none
+    std::string name;        ///< the first field called "name" or "...Name"; empty for none
+    std::string identifier;  ///< the first identifier; empty for none
 };
 
-/// @p record is a value of the type, which is a record.
+/// @param type a record type
+/// @param record a value of the type
 Identity IdentityOf(const Type& type, const nlohmann::json& record);
 
-/// Whether values of that name identify something on the server: "id", "channelId", "orgCode" and the like.
+/// Whether a field of that name identifies an object on the server: "id", "channelId", "orgCode" and the like.
 bool IsIdentifier(std::string_view name);
 
-/// A plain value as a text: a text as it is, anything else as JSON.
+/// A plain value as text: a string unchanged, any other value as JSON.
 std::string PlainText(const nlohmann::json& value);
 
 }  // namespace catalogue

@@ -23,10 +23,10 @@ std::optional<MatchingRead> FindMatchingRead(const Call& write);
 /// of the same name in the record. Throws Mismatch when one is missing.
 nlohmann::json ArgumentsOfRead(const MatchingRead& read, const Call& write, const nlohmann::json& given);
 
-/// Returns the value with which that argument of the write changes nothing. Fields that the read was asked with keep
-/// the value that was asked for.
+/// Returns the value of that argument with which the write changes nothing. Fields that are also arguments of the read
+/// get the values of these arguments.
 /// @param asked arguments of the read
-/// @param record that it returned
+/// @param record that the read returned
 nlohmann::json PresentValue(const MatchingRead& read, const nlohmann::json& asked, const nlohmann::json& record);
 
 /// The type at a path such as "configs/0/bitRate" in the arguments of a call. Throws Mismatch when the path does not

@@ -24,7 +24,7 @@ struct RunSettings {
 
 /// The outcome of a call with its record as JSON.
 struct Outcome : APIModule::OutcomeBase {
-    nlohmann::json record;  ///< as far as it was read; null for a call without a Parse
+    nlohmann::json record;  ///< the fields read so far; null for a call without a Parse
 };
 
 /// Runs a call and waits until it ends: behind a wait dialog over @p parent, or in the event loop when it is null.
