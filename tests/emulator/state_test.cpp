@@ -6,7 +6,7 @@ constexpr const char* kChannel = "/brms/api/v1.1/device/channel/1000001$1$0$0";
 
 struct ReadBack {
     const char* name;
-    std::string target;     ///< of both write and read
+    std::string target;     ///< of the write and the read
     const char* body;       ///< of the write
     const char* data;       ///< of the read
     std::string untouched;  ///< a target that the write must not change; may be empty

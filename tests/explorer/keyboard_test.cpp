@@ -110,7 +110,7 @@ TEST_F(KeyboardTest, CtrlFSearchesTheResultWhenItHasFocusAndTheCallsOtherwise)
 struct Place {
     std::string name;
     Qt::Key key;
-    int results;  // the tab that the key shows, -1 if the test does not check it
+    int results;  // index of the tab that the key shows; -1 for none
     int feeds;
 };
 

@@ -44,7 +44,7 @@ std::string NameOf(const CallMode& mode);
 /// What a call returns to the host, and the log line about it.
 struct Outcome {
     int code;           ///< the result, or the code that is notified instead
-    bool answered;      ///< whether a reply arrived: its failure is notified only on request
+    bool answered;      ///< whether a reply arrived; its failure is notified only on request
     int level;          ///< level of the log line
     std::string line;   ///< text of the log line, "%1" for the URL; empty when there is none
     bool isComplete;    ///< whether the text is the complete line or its beginning

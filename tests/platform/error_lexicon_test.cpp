@@ -25,7 +25,7 @@ std::string Text(int nErrorCode)
     return strText;
 }
 
-/// Queried before main() runs, when no application object exists.
+/// Read before main() runs, when no application object exists.
 const std::string g_beforeMain = [] {
     std::string strText;
     (void)ErrorLexiconQuery(-18, strText);

@@ -60,7 +60,7 @@ QString TextOf(const QWidget* pToast)
     return pToast->findChild<QLabel*>()->text();
 }
 
-/// What the toast says about how many notifications it stands for; empty for one.
+/// The text that a toast shows for the number of its notifications; empty for one.
 QString CountOf(const QWidget* pToast)
 {
     const auto* pCount = pToast->findChild<QLabel*>(QStringLiteral("count"));
@@ -82,7 +82,7 @@ QAbstractButton* ButtonOf(const QWidget* pToast)
     return pToast->findChild<QAbstractButton*>();
 }
 
-/// Stands in for the desktop, which opens links.
+/// Replaces the desktop, which opens links.
 class Desktop : public QObject {
     Q_OBJECT
 

@@ -31,21 +31,21 @@ const files = readdirSync(site).filter(file => file.endsWith('.html') && !file.e
 const guides = files.filter(file => /^(index|md_|calls)/.test(file));
 assert(guides.length > 20, 'guides are missing');
 
-// What a reader looks for is found, in guides and in classes.
+// The search finds common topics in guides and in classes.
 const finder = await open(1280, 'index.html');
 for (const words of ['timeout', '401', 'paging', 'certificate', 'log file']) {
     const found = await search(finder, words);
-    console.log(`${words}: ${found.length} places, the first: ${found.slice(0, 3).join(' ')}`);
+    console.log(`${words}: ${found.length} matches, starting with ${found.slice(0, 3).join(' ')}`);
     assert(found.some(file => /^(index|md_|calls)/.test(file)), `no guide for "${words}"`);
     for (const place of found) {
         const [file, anchor] = place.split('#');
-        assert(!anchor || readFileSync(join(site, file), 'utf8').includes(`id="${anchor}"`), `${place} is nowhere`);
+        assert(!anchor || readFileSync(join(site, file), 'utf8').includes(`id="${anchor}"`), `${place} does not exist`);
     }
 }
 assert((await search(finder, 'timeout')).some(file => /^(class|struct)/.test(file)), 'no class for "timeout"');
 await finder.screenshot({path: join(pictures, 'search.png')});
 await finder.keyboard.press('Escape');
-assert(await finder.$eval('#site-search ol', list => list.hidden), 'the list of what was found stays');
+assert(await finder.$eval('#site-search ol', list => list.hidden), 'Escape does not close the search results');
 
 for (const width of [1280, 390]) {
     const page = await open(width, 'index.html');
@@ -54,7 +54,7 @@ for (const width of [1280, 390]) {
         await page.goto(address(file));
         const seen = await page.evaluate(() => {
             const right = element => element.getBoundingClientRect().right;
-            // The width of 90 characters of prose, with room for the last word.
+            // The width of 90 characters of prose, plus some space for the last word.
             const measure = document.createElement('canvas').getContext('2d');
             measure.font = getComputedStyle(document.querySelector('.contents')).font;
             const sample = 'The host gives the library a user manager, and decides where calls wait and what is shown. ';
@@ -79,7 +79,7 @@ for (const width of [1280, 390]) {
         assert.equal(seen.broken, 0, `${file} breaks code inside words`);
         assert.equal(seen.small, 0, `${file} has a diagram that cannot be read at ${width} pixels`);
         if (guides.includes(file)) {
-            assert(seen.turns > 0, `${file} leads to no other guide`);
+            assert(seen.turns > 0, `${file} does not link to another guide`);
             assert(seen.contents > 0 || seen.sections < 2, `${file} has no list of contents`);
         }
         if (/^(index|md_docs_2?host|md_docs_2?architecture|calls_brms|classAPIModule_1_1CBRMSModule)\.html/.test(file)) {
@@ -89,7 +89,7 @@ for (const width of [1280, 390]) {
     await page.close();
 }
 
-// From the first guide one gets to the last.
+// The "Next" links lead from the first guide through all others.
 let place = 'index.html';
 const read = new Set();
 for (const page = await open(1280, place); place && !read.has(place);) {
@@ -98,9 +98,9 @@ for (const page = await open(1280, place); place && !read.has(place);) {
     place = await page.$$eval('.turn', lines => lines.find(line => line.textContent.startsWith('Next'))
         ?.querySelector('a').href.replace(/.*\//, ''));
 }
-assert.equal(read.size, guides.length, 'not every guide is on the way');
+assert.equal(read.size, guides.length, 'the "Next" links skip a guide');
 
-// The tree of the desktop, the menu of the phone.
+// Navigation: a tree on the desktop, a menu on the phone.
 const desktop = await open(1280, guides.at(-1));
 await desktop.waitForSelector('#nav-tree a[href*="calls"]');
 const phone = await open(390, 'index.html');
@@ -115,7 +115,7 @@ await phone.touchscreen.tap(200, 790);  // beside the menu
 await becomes(false);
 assert(!await menuShown());
 
-// A family's page: what it is for, a table of its calls, and for each a block that leads on and back.
+// The page of a family: its purpose, a table of its calls, and for each call links to the contract and back.
 const family = await open(1280, 'calls_ipms.html');
 const calls = await family.$$eval('.contents table:first-of-type td:first-child a', links => links.map(link => link.hash.slice(1)));
 assert(calls.length >= 4, 'the family has no table of its calls');
@@ -125,8 +125,8 @@ for (const file of guides.filter(name => /^calls_/.test(name))) {
     const html = readFileSync(join(site, file), 'utf8');
     for (const [, anchor, name] of html.matchAll(/id="(call_(\w+))"/g)) {
         const operation = name.replace('_', '.');
-        assert(html.includes(`contract/index.html#operation/${operation}"`), `${operation} does not lead to the contract`);
-        assert(contract.includes(`../${file}#${anchor}`), `the contract does not lead back to ${operation}`);
+        assert(html.includes(`contract/index.html#operation/${operation}"`), `${operation} does not link to the contract`);
+        assert(contract.includes(`../${file}#${anchor}`), `the contract does not link back to ${operation}`);
     }
 }
 for (const file of files.filter(name => /^classAPIModule_1_1C(BRMS|DMS|IAMS|IPMS|OBMS|OMMS)Module\.html$/.test(name))) {
@@ -134,18 +134,18 @@ for (const file of files.filter(name => /^classAPIModule_1_1C(BRMS|DMS|IAMS|IPMS
     assert(html.indexOf('operator=') > html.indexOf('Packet'), `${file} begins with operator=`);
 }
 
-// A link to a section of another guide leads to that section.
+// The target sections of links between guides exist.
 const security = readFileSync(join(site, files.find(name => /^md_docs_2?security/.test(name))), 'utf8');
 const sections = [...security.matchAll(/href="(md_[^"#]+)#([^"]+)"/g)];
-assert(sections.length >= 4, 'the guide to security links to no section');
+assert(sections.length >= 4, 'the security guide has too few links to sections');
 for (const [, file, anchor] of sections) {
     assert(readFileSync(join(site, file), 'utf8').includes(`id="${anchor}"`), `${file} has no section ${anchor}`);
 }
 
-// No link is dead.
+// The target files of all links exist.
 for (const file of files) {
     for (const [, link] of readFileSync(join(site, file), 'utf8').matchAll(/(?:href|src|data)="([^"#:?]+)["#?]/g)) {
-        assert(existsSync(join(site, decodeURI(link))), `${file} leads to ${link}`);
+        assert(existsSync(join(site, decodeURI(link))), `${file} has a dead link to ${link}`);
     }
 }
 

@@ -15,7 +15,7 @@ using Random = std::mt19937_64;
 /// The expected end of a call.
 enum class Ending {
     Success,
-    Judged,  ///< with a code that is returned, or notified if the caller asked for that
+    Judged,  ///< with a code that is returned, or notified on request
     Broken   ///< with a code that is always notified
 };
 

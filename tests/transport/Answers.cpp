@@ -10,13 +10,13 @@ constexpr const char* kBody = R"({"code":1000,"data":{"a":1}})";
 constexpr int kBodySize = 28;
 const QByteArray kLength = "Content-Length: 28\r\n";
 
-/// Everything from the first byte to the last.
+/// A reply of exactly these bytes.
 RawAnswer Raw(const QByteArray& bytes, RawAnswer::Then then = RawAnswer::KeepOpen)
 {
     return {bytes, 0, then};
 }
 
-/// Status 200 with these lines, and this body.
+/// A reply with status 200, these headers and this body.
 RawAnswer Ok(const QByteArray& headers, const QByteArray& body = kBody, RawAnswer::Then then = RawAnswer::KeepOpen)
 {
     return Raw("HTTP/1.1 200 OK\r\n" + headers + "\r\n" + body, then);

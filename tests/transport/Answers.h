@@ -6,7 +6,7 @@
 
 namespace testing_support {
 
-/// The bytes of a reply, ordinary or odd.
+/// The bytes of a reply, valid or not.
 struct Answer {
     const char* name;
     RawAnswer answer;

@@ -1,4 +1,4 @@
-// The library's HTTP against Qt's: what the one makes of an answer, the other makes of it too, but for a list of
+// Compares the library's HTTP implementation with Qt's: both give the same result for a reply, except for a list of
 // intended differences.
 #include "Answers.h"
 #include "support/Watchdog.h"
@@ -26,7 +26,7 @@ namespace {
 
 using Pairs = QList<QNetworkReply::RawHeaderPair>;
 
-/// A complete reply with any status but 401, or the error instead.
+/// The result of a request: a complete reply with any status but 401, or the error.
 struct Read {
     bool answered = false;
     int status = 0;
@@ -36,7 +36,7 @@ struct Read {
     QByteArray text;
 };
 
-/// One line that shows all of it.
+/// The result on one line.
 std::string Shown(const Read& read)
 {
     QByteArray shown =
@@ -109,8 +109,8 @@ std::string ByQt(const RawServer& server, RawServer::Scheme scheme)
     return WaitFor(*pReply) ? Shown(Taken(*pReply, pReply->rawHeaderPairs())) : "no end";
 }
 
-/// What Qt makes of an answer can depend on how its bytes fall into packets and on the moment at which a second thread
-/// notices the end. @return the first of a few results that is @p wanted, or the last one
+/// Qt's result can depend on packet boundaries and on when its second thread notices the end of the connection.
+/// @return the first of a few results that is @p wanted, or the last one
 std::string ByQt(const RawServer& server, RawServer::Scheme scheme,
                  const std::function<bool(const std::string&)>& wanted)
 {
@@ -130,7 +130,7 @@ std::string ByLibrary(const RawServer& server, RawServer::Scheme scheme)
     return WaitFor(*pReply) ? Shown(Taken(*pReply, static_cast<Reply&>(*pReply).Headers())) : "no end";
 }
 
-/// What the library makes of an answer otherwise than Qt, and why.
+/// The library's result for a reply, where it differs from Qt's, and the reason.
 struct Difference {
     const char* library;
     const char* reason;
@@ -141,13 +141,11 @@ constexpr const char* kClosed = "error 2 Connection closed";
 constexpr const char* kCorrupt = "error 399 Data corrupted";
 
 constexpr const char* kNoFinalStatus =
-    "what follows a status below 200 is not known: the call ends, and its connection";
-constexpr const char* kFirstPlace =
-    "the values of a repeated header stand where it came first, in Qt where it came last";
-constexpr const char* kSeesTheEnd =
-    "an answer that is cut short is an error, in Qt only where it notices the end in time";
+    "after an invalid status below 200 the call and its connection end, because what follows is unknown";
+constexpr const char* kFirstPlace = "a repeated header is listed at its first position, by Qt at its last";
+constexpr const char* kSeesTheEnd = "a truncated reply is an error, with Qt only if it notices the end in time";
 constexpr const char* kKeepsLength = "Qt removes the length of a compressed body";
-constexpr const char* kNotWhole = "a compressed body that does not end is an error, in Qt only one that is garbled";
+constexpr const char* kNotWhole = "an incomplete compressed body is an error, with Qt only a corrupt one";
 
 const std::map<std::string, Difference>& Differences()
 {
@@ -157,26 +155,26 @@ const std::map<std::string, Difference>& Differences()
         {"status_0", {R"(0 [Content-Length: 28] )", kNoFinalStatus}},
         {"header_folded_first",
          {R"(200 [Content-Length: 28] {"code":1000,"data":{"a":1}})",
-          "a folded line without a line before it is none"}},
+          "a folded line without a line before it is ignored"}},
         {"header_without_colon",
          {R"(200 [Content-Length: 28] {"code":1000,"data":{"a":1}})",
-          "Qt takes the line after it for its value, loses the length and never ends"}},
+          "Qt reads the next line as its value, so the length is lost and the reply never ends"}},
         {"header_with_empty_name",
          {R"(200 [: one] [Content-Length: 28] {"code":1000,"data":{"a":1}})",
-          "Qt leaves the line out; nobody asks for it"}},
+          "Qt omits the header, which no caller reads"}},
         {"header_twice",
          {R"(200 [X-A: one, two] [X-B: b] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kFirstPlace}},
         {"header_twice_of_different_case",
          {R"(200 [X-A: one, two] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kFirstPlace}},
         {"header_twice_one_empty",
          {R"(200 [X-A: , two] [Content-Length: 28] {"code":1000,"data":{"a":1}})",
-          "Qt forgets an empty value before another one"}},
+          "Qt drops an empty value before another one"}},
         {"chunked_with_line_feeds",
          {R"(200 [Transfer-Encoding: chunked] {"code":1000,"data":{"a":1}})",
-          "line feeds end the lines of a head in both, those of chunks here alone"}},
+          "both accept bare line feeds in the head, only the library accepts them in chunks"}},
         {"length_beyond_63_bits",
          {R"(200 [Content-Length: 9223372036854775808] {"code":1000,"data":{"a":1}})",
-          "a length that is too large is ignored, by Qt only when the reply and its end arrive together", false}},
+          "a length that is too large is ignored, by Qt only if the reply and its end arrive together", false}},
         {"401_cut", {kClosed, kSeesTheEnd, false}},
         {"length_of_more_404", {kClosed, kSeesTheEnd, false}},
         {"chunked_last_line_missing", {kClosed, kSeesTheEnd, false}},
@@ -208,8 +206,8 @@ const std::map<std::string, Difference>& Differences()
         {"gzip_of_something_else", {kCorrupt, kNotWhole}},
         {"deflate_of_something_else", {kCorrupt, kNotWhole}},
         {"deflate_cut", {kCorrupt, kNotWhole}},
-        {"gzip_cut_by_the_end", {kClosed, "Qt removes the length, and so does not miss what is not there"}},
-        {"gzip_cut_by_the_end_404", {kClosed, "Qt removes the length, and so does not miss what is not there"}},
+        {"gzip_cut_by_the_end", {kClosed, "Qt removes the length, so it does not notice the missing bytes"}},
+        {"gzip_cut_by_the_end_404", {kClosed, "Qt removes the length, so it does not notice the missing bytes"}},
     };
     return differences;
 }
@@ -243,8 +241,8 @@ int ThreadCount()
 
 class Differential : public testing::TestWithParam<Row> {
 protected:
-    /// The thread of Qt's network manager keeps running for a moment after its manager. At the end of the process it
-    /// would release what OpenSSL releases then.
+    /// Waits for the thread of Qt's network manager, which outlives the manager for a moment. At the end of the process
+    /// it would free memory that OpenSSL frees as well.
     ~Differential() override
     {
         QElapsedTimer elapsed;
@@ -271,7 +269,7 @@ TEST_P(Differential, ReadsRepliesLikeQtExceptForTheListedDifferences)
     EXPECT_EQ(library, difference->second.library) << difference->second.reason;
     if (difference->second.always) {
         EXPECT_NE(library, ByQt(server, scheme, [&](const std::string& qt) { return qt != library; }))
-            << "is no difference any more: " << difference->second.reason;
+            << "no longer differs: " << difference->second.reason;
     }
 }
 
@@ -279,7 +277,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, Differential, testing::ValuesIn(Rows()), [](co
     return std::string(row.param.answer.name) + (row.param.scheme == RawServer::Http ? "_http" : "_https");
 });
 
-/// Every row of the list is of an answer that is asked for.
+/// The list contains no difference for a reply that is not tested.
 TEST(Differences, AreOfAnswers)
 {
     for (const auto& [name, difference] : Differences()) {

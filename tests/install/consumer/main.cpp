@@ -1,5 +1,4 @@
-// Reads a client's first records from a platform emulator in this process, with the calls at the beginning of the
-// manual.
+// Makes the first calls of the manual to a platform emulator in this process.
 #include "typed_calls.h"
 
 #include <APIModule.h>
