@@ -32,7 +32,7 @@ private:
 /// Adds a value to a form: plain values beside their label, others in a box.
 ValueEditor* AddMember(QFormLayout* pForm, const catalogue::Type& type, const QString& name);
 
-/// A form with the same alignment in every place.
+/// Creates a form layout with the alignment that all editors share.
 QFormLayout* MakeForm(QWidget* pWidget);
 
 /// Turns a frame into a box around related fields, and adds it to the layout.

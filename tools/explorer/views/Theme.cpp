@@ -92,7 +92,7 @@ QColor Grid(const QPalette& palette)
 QFont FixedFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    if (!QFontInfo(font).fixedPitch()) {  // the desktop names none
+    if (!QFontInfo(font).fixedPitch()) {  // the desktop defines no monospaced font
         font.setFamily(QStringLiteral("monospace"));
         font.setStyleHint(QFont::TypeWriter);
     }

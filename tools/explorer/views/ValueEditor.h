@@ -16,7 +16,7 @@ namespace explorer {
 enum class Origin {
     Unseen,   ///< a default or an earlier value that the user has not entered
     Entered,  ///< given by the user: parts that differ from the previous value count as entered
-    Known     ///< each value in it is meant as it is
+    Known     ///< every part of it counts as entered
 };
 
 /// JSON pointers of the values that the user has not entered.

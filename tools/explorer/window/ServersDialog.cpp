@@ -290,7 +290,7 @@ void ServersDialog::ShowServer(int index)
     if (index < 0 || index >= m_edited.size()) {
         return;
     }
-    m_shown = -1;  // changes of the fields are no edits meanwhile
+    m_shown = -1;  // the changes below are not edits by the user
     const Server server = m_edited.at(index);
     const bool isEmulator = server.id == kEmulatorId;
     m_pName->setText(server.name);
