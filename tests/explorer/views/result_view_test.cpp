@@ -516,7 +516,7 @@ void ResultViewTest::AllOfALongTextIsShownOnDemand()
     view.SetText(text);
     const auto& shortened = *view.findChild<QLabel*>(QStringLiteral("shortened"));
     auto& all = *view.findChild<QPushButton*>(QStringLiteral("showAll"));
-    QCOMPARE(shortened.text(), QStringLiteral("Characters 1 to %1 of %2; search and copy have all of them.")
+    QCOMPARE(shortened.text(), QStringLiteral("Characters 1 to %1 of %2; search and copy cover the whole text.")
                                    .arg(QLocale().toString(200000), QLocale().toString(text.size())));
     QVERIFY(shortened.isVisibleTo(&view) && all.isVisibleTo(&view));
     all.click();

@@ -154,7 +154,7 @@
         <translation>Alles anzeigen</translation>
     </message>
     <message>
-        <source>Characters %1 to %2 of %3; search and copy have all of them.</source>
+        <source>Characters %1 to %2 of %3; search and copy cover the whole text.</source>
         <extracomment>%1 and %2 are the first and the last character shown, %3 is the number of all</extracomment>
         <translation>Zeichen %1 bis %2 von %3; Suchen und Kopieren erfassen den ganzen Text.</translation>
     </message>
@@ -1278,8 +1278,8 @@
         <translation>Es gibt keinen Datensatz.</translation>
     </message>
     <message>
-        <source>No data came for a record.</source>
-        <translation>Es wurden keine Daten für einen Datensatz empfangen.</translation>
+        <source>The reply contained no data for a record.</source>
+        <translation>Die Antwort enthielt keine Daten für einen Datensatz.</translation>
     </message>
     <message>
         <source>Nothing was sent.</source>

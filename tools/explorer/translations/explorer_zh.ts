@@ -153,7 +153,7 @@
         <translation>显示全部</translation>
     </message>
     <message>
-        <source>Characters %1 to %2 of %3; search and copy have all of them.</source>
+        <source>Characters %1 to %2 of %3; search and copy cover the whole text.</source>
         <extracomment>%1 and %2 are the first and the last character shown, %3 is the number of all</extracomment>
         <translation>第 %1 至 %2 个字符，共 %3 个；搜索和复制涵盖全部。</translation>
     </message>
@@ -1276,8 +1276,8 @@
         <translation>没有记录。</translation>
     </message>
     <message>
-        <source>No data came for a record.</source>
-        <translation>未收到记录的数据。</translation>
+        <source>The reply contained no data for a record.</source>
+        <translation>响应中没有记录的数据。</translation>
     </message>
     <message>
         <source>Nothing was sent.</source>

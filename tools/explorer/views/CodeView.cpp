@@ -76,7 +76,7 @@ void CodeView::ShowPart(int from, int length)
     const QLocale locale;
     //: %1 and %2 are the first and the last character shown, %3 is the number of all
     m_pShortened->setText(
-        tr("Characters %1 to %2 of %3; search and copy have all of them.")
+        tr("Characters %1 to %2 of %3; search and copy cover the whole text.")
             .arg(locale.toString(m_from + 1), locale.toString(m_from + m_length), locale.toString(m_text.size())));
     m_pShortened->setVisible(isShortened);
     m_pAll->setVisible(isShortened);

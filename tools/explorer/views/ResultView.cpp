@@ -68,7 +68,7 @@ void ResultView::Show(CallOutcome outcome)
     if (outcome.call == nullptr || outcome.call->result == nullptr) {
         ShowNoRecord(tr("This call returns no record."));
     } else if (outcome.record.is_null()) {
-        ShowNoRecord(tr("No data came for a record."));
+        ShowNoRecord(tr("The reply contained no data for a record."));
     } else {
         ShowRecord(*outcome.call->result, std::make_shared<const nlohmann::json>(std::move(outcome.record)),
                    outcome.missing);
