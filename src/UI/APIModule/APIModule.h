@@ -164,7 +164,7 @@ public:
     ///
     /// The call waits behind a modal wait dialog over @p pParent, or in a local event loop without a parent. The event
     /// loop keeps running, so timers and paint events are delivered. The call returns whatever happens meanwhile: the
-    /// parent or the dialog is deleted, somebody else stops the dialog, UnInit(), another call, the end of the
+    /// parent or the dialog is deleted, other code stops the dialog, UnInit(), another call, the end of the
     /// application. If the wait ends without a reply, the result is that of a time-out. From quit() until aboutToQuit()
     /// Qt runs no nested event loop, so calls return at once with the result of a time-out; before and after that they
     /// work.

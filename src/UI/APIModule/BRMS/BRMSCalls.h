@@ -3,12 +3,12 @@
 #include "../Call.h"
 #include "BRMSModule.h"
 
-/// The calls of CBRMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
+/// The calls of CBRMSModule as values: each pairs a Pack, which documents the arguments, with its Parse.
 namespace APIModule::BRMS {
 
-using Module = CBRMSModule;  ///< whose Packs and Parses the calls are made of
+using Module = CBRMSModule;  ///< the class of their Packs and Parses
 
-// A call, a line.
+// One call per line.
 // clang-format off
 
 /// @name System configuration

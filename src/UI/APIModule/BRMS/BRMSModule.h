@@ -28,7 +28,7 @@ namespace APIModule {
 ///
 /// "Inserted unencoded": the Pack inserts the string into the URL unchanged. If it may contain `%`, `&`, `#`, `?` or
 /// `/`, the caller encodes it by QUrl::toPercentEncoding() first: the keyword `R&D` would end at its ampersand, and the
-/// server would refuse the call with code 1003. QUrl itself encodes blanks and letters beyond ASCII.
+/// server would refuse the call with code 1003. QUrl itself encodes spaces and non-ASCII letters.
 ///
 /// Codes, units and formats that the server defines are passed through unchanged; the comments give the value in the
 /// contract's example. A list in "results" is complete and has no total.

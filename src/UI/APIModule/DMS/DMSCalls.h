@@ -3,12 +3,12 @@
 #include "../Call.h"
 #include "DMSModule.h"
 
-/// The calls of CDMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
+/// The calls of CDMSModule as values: each pairs a Pack, which documents the arguments, with its Parse.
 namespace APIModule::DMS {
 
-using Module = CDMSModule;  ///< whose Packs and Parses the calls are made of
+using Module = CDMSModule;  ///< the class of their Packs and Parses
 
-// A call, a line.
+// One call per line.
 // clang-format off
 
 /// @name PTZ

@@ -20,7 +20,7 @@ namespace APIModule {
 /// and does not clear the lists first. It does not run for a reply without data.
 ///
 /// "Inserted unencoded": the Pack inserts the bytes up to the first zero byte into the URL unchanged, as Latin-1
-/// characters. If the string may contain `%`, `&`, `#`, `?`, `/` or letters beyond ASCII, the caller encodes it by
+/// characters. If the string may contain `%`, `&`, `#`, `?`, `/` or non-ASCII letters, the caller encodes it by
 /// QUrl::toPercentEncoding() first.
 ///
 /// Codes, units and formats that the server defines are passed through unchanged; the comments give the value in the

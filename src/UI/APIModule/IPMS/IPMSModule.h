@@ -20,7 +20,7 @@ namespace APIModule {
 /// and does not clear the lists first. It does not run for a reply without data.
 ///
 /// "Inserted unencoded": the Pack inserts the string into the URL unchanged. If it may contain `%`, `&`, `#`, `?` or
-/// `/`, the caller encodes it by QUrl::toPercentEncoding() first. QUrl itself encodes blanks and letters beyond ASCII.
+/// `/`, the caller encodes it by QUrl::toPercentEncoding() first. QUrl itself encodes spaces and non-ASCII letters.
 ///
 /// Codes, units and formats that the server defines are passed through unchanged; the comments give the value in the
 /// contract's example. A list in "results" is complete and has no total.

@@ -3,12 +3,12 @@
 #include "../Call.h"
 #include "OBMSModule.h"
 
-/// The calls of COBMSModule as values: each one is a Pack, which describes its arguments, with its Parse.
+/// The calls of COBMSModule as values: each pairs a Pack, which documents the arguments, with its Parse.
 namespace APIModule::OBMS {
 
-using Module = COBMSModule;  ///< whose Packs and Parses the calls are made of
+using Module = COBMSModule;  ///< the class of their Packs and Parses
 
-// A call, a line.
+// One call per line.
 // clang-format off
 
 /// @name Access-control persons and rules
@@ -17,7 +17,7 @@ using Module = COBMSModule;  ///< whose Packs and Parses the calls are made of
 /// @copybrief COBMSModule::PacketGetPageAccessAuthorizePersons
 inline constexpr Call<&Module::PacketGetPageAccessAuthorizePersons, &Module::ParseGetPageAccessAuthorizePersons> GetPageAccessAuthorizePersons;
 /// @copybrief COBMSModule::PacketGetManagePersons
-/// OnServer() is without effect: the request always goes to the current server.
+/// OnServer() has no effect: the request always goes to the current server.
 inline constexpr Call<&Module::PacketGetManagePersons, &Module::ParseGetManagePersons> GetManagePersons;
 /// @copybrief COBMSModule::PacketSetManagePersons
 inline constexpr Call<&Module::PacketSetManagePersons> SetManagePersons;
