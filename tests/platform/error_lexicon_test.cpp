@@ -119,7 +119,7 @@ TEST_F(ErrorLexiconTest, LanguageIsMatchedByItsFirstPartIgnoringCase)
         const char* language;
         const char* textOf3101;
     };
-    const char* const english = "The answer of the server could not be read";
+    const char* const english = "The reply of the server could not be read";
     const char* const german = "Die Antwort des Servers konnte nicht gelesen werden";
     const char* const chinese = "无法解析服务器的响应";
     const Row rows[] = {{"en", english},    {"de", german},       {"DE", german},          {"de_AT", german},

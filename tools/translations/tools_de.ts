@@ -391,7 +391,7 @@ Rückgabewert: 0 Erfolg, 1 Aufruf fehlgeschlagen, 2 falsche Verwendung.</transla
     </message>
     <message>
         <source>cannot listen on %1: %2</source>
-        <translation>%1 kann nicht zum Lauschen geöffnet werden: %2</translation>
+        <translation>auf %1 können keine Verbindungen angenommen werden: %2</translation>
     </message>
     <message>
         <source>platform-emulator: a stateful platform server for development and tests. It serves the contract over both HTTP and HTTPS and prints each address when it starts to listen.</source>
@@ -444,7 +444,7 @@ Rückgabewert: 0 Erfolg, 1 Aufruf fehlgeschlagen, 2 falsche Verwendung.</transla
     </message>
     <message>
         <source>Seconds before an idle connection or an incomplete request is closed</source>
-        <translation>Sekunden, nach denen eine untätige Verbindung oder eine unvollständige Anfrage beendet wird</translation>
+        <translation>Sekunden, nach denen eine inaktive Verbindung oder eine unvollständige Anfrage beendet wird</translation>
     </message>
     <message>
         <source>Disable the control path /emulator/v1/</source>
