@@ -33,7 +33,7 @@ if(APIMODULE_BUILD_TOOLS)
 
     # The manual pages are generated from --help.
     set(title_of_apicall "make calls to a platform server from a shell")
-    set(title_of_apimodule-explorer "make calls to a platform server from a window")
+    set(title_of_apimodule-explorer "make calls to a platform server from a graphical interface")
     set(title_of_platform-emulator "platform server for development and tests")
     find_program(HELP2MAN help2man)
     if(HELP2MAN)

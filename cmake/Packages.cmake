@@ -68,9 +68,9 @@ that use APIModule.")
     apimodule_package(tools apimodule-tools devel
         PACKAGE_DEPENDS "${library_package} ${at_least}, apimodule-data ${at_least}"
         PACKAGE_SUGGESTS "apimodule-doc"
-        DESCRIPTION "calls to a security platform from a shell or a window
-A server for development and tests, and programs that run any call of
-APIModule from a shell (apicall) or from a window (apimodule-explorer).")
+        DESCRIPTION "command-line and graphical tools for a security platform
+A server for development and tests, and programs that make any call of
+APIModule from a shell (apicall) or in a window (apimodule-explorer).")
 endif()
 if(APIMODULE_INSTALL_DOCS)
     apimodule_package(documentation apimodule-doc doc
