@@ -467,6 +467,28 @@ TEST_F(WindowTest, HasATranslationForEachLanguageOfTheErrorTexts)
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
+TEST_F(WindowTest, ResultHeaderShowsEveryLine)
+{
+    const auto awaitLines = [this](const char* when) {
+        for (const char* name : {"resultWords", "resultDetails"}) {
+            EXPECT_TRUE(Await([&] {
+                const auto& label = Find<QLabel>(name);
+                return label.visibleRegion().boundingRect() == label.rect() &&
+                       label.height() >= label.heightForWidth(label.width());
+            })) << name
+                << ' ' << when;
+        }
+    };
+    awaitLines("at start");
+    RawServer server([](const RawRequest&) { return HttpAnswer(401, "{\"code\": 7000, \"desc\": \"token\"}"); });
+    Use(server.Port());
+    Run(kCall);
+    awaitLines("after a failure");
+    emit Window().LanguageChosen(QStringLiteral("de"));
+    awaitLines("in another language");
+    emit Window().LanguageChosen(QStringLiteral("en"));
+}
+
 TEST_F(WindowTest, ChangingTheLanguageKeepsResultsArgumentsAndWaitMode)
 {
     RawServer server([](const RawRequest&) { return Success("{\"enable\": \"1\"}"); });

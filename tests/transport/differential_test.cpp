@@ -19,6 +19,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 using namespace testing_support;
 
@@ -48,7 +49,7 @@ std::string Shown(const Read& read)
         shown += ' ' + read.body;
     }
     std::string line;
-    for (const char c : qAsConst(shown)) {
+    for (const char c : std::as_const(shown)) {
         const bool bPlain = c >= ' ' && c <= '~';
         line += bPlain ? std::string(1, c) : '<' + QByteArray(1, c).toHex().toStdString() + '>';
     }

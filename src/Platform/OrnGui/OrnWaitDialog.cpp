@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <utility>
+
 namespace ORNGUI {
 namespace {
 
@@ -202,7 +204,7 @@ void OrnWaitDialog::WatchParent()
 /// The parent moves on the screen when any widget up to its window moves.
 void OrnWaitDialog::WatchAncestors()
 {
-    for (const QPointer<QWidget>& pWidget : qAsConst(m_watched)) {
+    for (const QPointer<QWidget>& pWidget : std::as_const(m_watched)) {
         if (pWidget) {
             pWidget->removeEventFilter(this);
         }

@@ -167,7 +167,7 @@ void CAPIModulePrivate::ForgetConnections()
 
 void CAPIModulePrivate::RetireManagers()
 {
-    for (const QPointer<http::AccessManager>& pManager : qAsConst(m_networkManagers)) {
+    for (const QPointer<http::AccessManager>& pManager : std::as_const(m_networkManagers)) {
         if (pManager != m_pNetworkManager && !pManager->HasReplies()) {
             delete pManager;
         }
@@ -182,7 +182,7 @@ void CAPIModulePrivate::DetachFromApplication()
     EndStarted(&StartedCall::DeliverAsApplicationEnding);
     EndStarted(&StartedCall::Drop);
     m_lines.clear();
-    for (const QPointer<http::AccessManager>& pManager : qAsConst(m_networkManagers)) {
+    for (const QPointer<http::AccessManager>& pManager : std::as_const(m_networkManagers)) {
         delete pManager;
     }
     m_networkManagers.clear();

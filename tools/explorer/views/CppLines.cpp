@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace explorer {
 namespace {
@@ -167,7 +168,7 @@ QString Function(const catalogue::Call& call, const json& arguments, int serverI
     }
 
     QString text = Signature(call) + QLatin1String("\n{\n");
-    for (const QString& line : qAsConst(lines)) {
+    for (const QString& line : std::as_const(lines)) {
         text += line.isEmpty() ? QStringLiteral("\n") : QLatin1String("    ") + line + QLatin1Char('\n');
     }
     return text + QStringLiteral("    return APIModule::Run(%1, pParent);\n}\n").arg(Request(call, serverId));

@@ -23,6 +23,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace explorer {
 
@@ -122,7 +123,7 @@ PastRuns HistoryPanel::Chosen() const
     }
     std::sort(rows.begin(), rows.end());
     PastRuns runs;
-    for (const int row : qAsConst(rows)) {
+    for (const int row : std::as_const(rows)) {
         runs.push_back(m_history.At(row));
     }
     return runs;

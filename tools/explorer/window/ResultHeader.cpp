@@ -3,7 +3,7 @@
 #include "../views/Theme.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLocale>
@@ -39,18 +39,17 @@ ResultHeader::ResultHeader(QWidget* pParent)
     m_pDetails->setTextFormat(Qt::PlainText);
     m_pDetails->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto* const pTexts = new QVBoxLayout;
-    pTexts->setSpacing(4);
-    pTexts->addWidget(m_pWords);
-    pTexts->addWidget(m_pDetails);
     auto* const pContent = new QWidget;
-    auto* const pLayout = new QHBoxLayout(pContent);
+    auto* const pLayout = new QGridLayout(pContent);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->setSpacing(8);
+    pLayout->setHorizontalSpacing(8);
+    pLayout->setVerticalSpacing(4);
+    pLayout->setColumnStretch(1, 1);
     constexpr int kToTheMiddleOfTheLine = 4;
     m_pLight->setContentsMargins(0, kToTheMiddleOfTheLine, 0, 0);
-    pLayout->addWidget(m_pLight, 0, Qt::AlignTop);
-    pLayout->addLayout(pTexts, 1);
+    pLayout->addWidget(m_pLight, 0, 0, Qt::AlignTop);
+    pLayout->addWidget(m_pWords, 0, 1);
+    pLayout->addWidget(m_pDetails, 1, 1);
     setWidget(pContent);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -73,11 +72,19 @@ void ResultHeader::resizeEvent(QResizeEvent* pEvent)
     Fit();
 }
 
+bool ResultHeader::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    const bool handled = QScrollArea::eventFilter(pWatched, pEvent);
+    if (pWatched == widget() && pEvent->type() == QEvent::LayoutRequest) {
+        Fit();  // the sizes of new texts are known only now
+    }
+    return handled;
+}
+
 void ResultHeader::Show(const QString& words, const QString& details)
 {
     m_pWords->setText(words);
     m_pDetails->setText(details);
-    Fit();
 }
 
 /// Its height fits the texts, up to a few lines.

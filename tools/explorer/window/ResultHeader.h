@@ -22,6 +22,7 @@ public:
 private:
     using Tint = QColor (*)(const QPalette& palette);
 
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
     void Show(const QString& words, const QString& details);

@@ -20,6 +20,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace explorer {
 namespace {
@@ -86,7 +87,7 @@ QWidget* ServersDialog::MakeList()
 {
     m_pList->setObjectName(QStringLiteral("serverList"));
     m_pList->setAccessibleName(tr("Servers"));
-    for (const Server& server : qAsConst(m_edited)) {
+    for (const Server& server : std::as_const(m_edited)) {
         m_pList->addItem(server.name);
     }
     connect(m_pList, &QListWidget::currentRowChanged, this, &ServersDialog::ShowServer);
@@ -347,7 +348,7 @@ void ServersDialog::TakeOver()
 void ServersDialog::Check()
 {
     QString problem;
-    for (const Server& server : qAsConst(m_edited)) {
+    for (const Server& server : std::as_const(m_edited)) {
         if (server.name.isEmpty()) {
             problem = tr("A server needs a name.");
         } else if (!IsHost(server.host)) {

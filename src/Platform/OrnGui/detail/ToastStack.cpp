@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace ORNGUI::detail {
 namespace {
@@ -129,7 +130,7 @@ ToastStack::ToastStack()
 
 ToastStack::~ToastStack()
 {
-    for (const QPointer<Toast>& pToast : qAsConst(m_toasts)) {
+    for (const QPointer<Toast>& pToast : std::as_const(m_toasts)) {
         delete pToast;
     }
 }

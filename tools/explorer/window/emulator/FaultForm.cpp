@@ -11,6 +11,7 @@
 
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace explorer {
 namespace {
@@ -178,7 +179,7 @@ void FaultForm::AddDetail(const char* key, const QString& text, QWidget* pEditor
 void FaultForm::ShowDetails()
 {
     const Kind& kind = *FindKind(m_pKind->currentData().toString());
-    for (const Field& field : qAsConst(m_details)) {
+    for (const Field& field : std::as_const(m_details)) {
         bool isShown = false;
         for (const char* key : kind.details) {
             isShown = isShown || (key != nullptr && QLatin1String(key) == QLatin1String(field.key));
