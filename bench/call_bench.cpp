@@ -1,7 +1,7 @@
 // Complete calls on loopback: the library compared with a plain exchange through Qt and with blocking clients.
 #include "Bench.h"
+#include "transport/Alternation.h"
 #include "transport/Clients.h"
-#include "transport/InTurns.h"
 #include "transport/Probe.h"
 #include "transport/Server.h"
 
@@ -54,8 +54,8 @@ const Clients& SharedClients()
     return clients;
 }
 
-/// The first two, the library and its reference, are measured in turns. For a large reply the reference also reads the
-/// JSON text, because the exchange itself takes little of the time.
+/// The first two, the library and its reference, are measured alternately. For a large reply the reference also reads
+/// the JSON text, because the exchange itself takes little of the time.
 std::vector<NamedClient> InOrder(bool bLarge)
 {
     const Clients& all = SharedClients();
@@ -85,15 +85,15 @@ void RegisterCall(const std::string& work, int nRounds, const std::vector<NamedC
                   const Exchange& exchange)
 {
     const auto pCompare = std::make_shared<std::once_flag>();
-    std::vector<Turn> turns;
-    turns.reserve(clients.size());
+    std::vector<Contender> contenders;
+    contenders.reserve(clients.size());
     for (const NamedClient& named : clients) {
-        turns.push_back({named.name, [=] {
-                             std::call_once(*pCompare, [&] { Compare(clients, exchange); });
-                             return Time(*named.client, exchange);
-                         }});
+        contenders.push_back({named.name, [=] {
+                                  std::call_once(*pCompare, [&] { Compare(clients, exchange); });
+                                  return Time(*named.client, exchange);
+                              }});
     }
-    RegisterInTurns(work, nRounds, std::move(turns));
+    RegisterAlternating(work, nRounds, std::move(contenders));
 }
 
 struct Size {
@@ -130,13 +130,13 @@ void RegisterCalls(const Server& server)
 void RegisterFirstCall(const Server& server)
 {
     constexpr int kRounds = 3;
-    std::vector<Turn> turns;
+    std::vector<Contender> contenders;
     for (const char* const contender : {kQt, kLibrary}) {
-        turns.push_back({contender, [=, &server] {
-                             return Values{{kSeconds, Probe(kFirstCall, contender, server.Port(true))}};
-                         }});
+        contenders.push_back({contender, [=, &server] {
+                                  return Values{{kSeconds, Probe(kFirstCall, contender, server.Port(true))}};
+                              }});
     }
-    RegisterInTurns("first call, HTTPS", kRounds, std::move(turns));
+    RegisterAlternating("first call, HTTPS", kRounds, std::move(contenders));
 }
 
 double ConnectionsOfAThousandCalls()
@@ -154,9 +154,10 @@ double ConnectionsOfAThousandCalls()
 
 void RegisterConnections()
 {
-    RegisterInTurns("1000 calls in sequence", 1, {{kLibrary, [] {
-                                                       return Values{{"connections", ConnectionsOfAThousandCalls()}};
-                                                   }}});
+    RegisterAlternating("1000 calls in sequence", 1,
+                        {{kLibrary, [] {
+                              return Values{{"connections", ConnectionsOfAThousandCalls()}};
+                          }}});
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 // Typed calls compared with ExecuteFuncs and Qt: their overhead, the gain of concurrent calls, the stall of a large
 // record.
 #include "Bench.h"
+#include "transport/Alternation.h"
 #include "transport/Clients.h"
-#include "transport/InTurns.h"
 #include "transport/Server.h"
 
 #include <Call.h>
@@ -59,9 +59,9 @@ void RegisterSmall(const Server& server, const std::shared_ptr<Client>& pLibrary
     constexpr int kRounds = 400;
     for (const bool bHttps : {false, true}) {
         const Exchange exchange = Get(bHttps, server.Port(bHttps));
-        RegisterInTurns(std::string("typed call, ") + (bHttps ? "HTTPS" : "HTTP"), kRounds,
-                        {{"ExecuteFuncs", TimeOf([=] { pLibrary->Run(exchange); })},
-                         {kLibrary, TimeOf([=] { RunOnce(exchange); })}});
+        RegisterAlternating(std::string("typed call, ") + (bHttps ? "HTTPS" : "HTTP"), kRounds,
+                            {{"ExecuteFuncs", TimeOf([=] { pLibrary->Run(exchange); })},
+                             {kLibrary, TimeOf([=] { RunOnce(exchange); })}});
     }
 }
 
@@ -104,14 +104,14 @@ void RegisterAtOnce(const Server& server)
     constexpr int kRounds = 3;
     const Exchange exchange = Get(false, server.Port(false), "/after/50");
     const auto pManager = std::make_shared<QNetworkAccessManager>();
-    RegisterInTurns("20 reads of 50 ms", kRounds,
-                    {{"one after the other", TimeOf([=] {
-                          for (int i = 0; i < kReads; ++i) {
-                              RunOnce(exchange);
-                          }
-                      })},
-                     {kLibrary, TimeOf([=] { StartAll(exchange); })}});
-    RegisterInTurns(
+    RegisterAlternating("20 reads of 50 ms", kRounds,
+                        {{"one after the other", TimeOf([=] {
+                              for (int i = 0; i < kReads; ++i) {
+                                  RunOnce(exchange);
+                              }
+                          })},
+                         {kLibrary, TimeOf([=] { StartAll(exchange); })}});
+    RegisterAlternating(
         "20 reads of 50 ms at once", kRounds,
         {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })}, {kLibrary, TimeOf([=] { StartAll(exchange); })}});
 }
@@ -161,14 +161,14 @@ void RegisterStall(const Server& server)
             loop.quit();
         });
     };
-    RegisterInTurns("records of 10 MB, longest stall", kRounds,
-                    {{std::string(kQtWithJson) + "+Parse",
-                      [=] {
-                          return Values{{"stall_ms", Stall(byQt)}};
-                      }},
-                     {kLibrary, [=] {
-                          return Values{{"stall_ms", Stall(byStart)}};
-                      }}});
+    RegisterAlternating("records of 10 MB, longest stall", kRounds,
+                        {{std::string(kQtWithJson) + "+Parse",
+                          [=] {
+                              return Values{{"stall_ms", Stall(byQt)}};
+                          }},
+                         {kLibrary, [=] {
+                              return Values{{"stall_ms", Stall(byStart)}};
+                          }}});
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Effects of a waiting call on the rest of the client: processor time, late timers, and the stall of a large reply.
 #include "Bench.h"
+#include "transport/Alternation.h"
 #include "transport/Clients.h"
-#include "transport/InTurns.h"
 #include "transport/Server.h"
 
 #include <QElapsedTimer>
@@ -102,14 +102,14 @@ void RegisterWaits(const Server& server)
 {
     const auto cost = [](const std::function<void()>& wait) { return [=] { return Cost(wait); }; };
     const Exchange exchange = Waiting(server);
-    RegisterInTurns("wait of 2 s", 1,
-                    {{kLibrary, cost(RunOf(MakeLibrary(), exchange))},
-                     {"event loop", cost([] { Idle(kWaitMilliseconds); })},
-                     {kQt, cost(RunOf(MakeQt(), exchange))}});
-    RegisterInTurns("wait of 2 s with a dialog", 1, {{kLibrary, [=] {
-                                                          Window window;
-                                                          return Cost(RunOf(MakeLibrary(&window), exchange));
-                                                      }}});
+    RegisterAlternating("wait of 2 s", 1,
+                        {{kLibrary, cost(RunOf(MakeLibrary(), exchange))},
+                         {"event loop", cost([] { Idle(kWaitMilliseconds); })},
+                         {kQt, cost(RunOf(MakeQt(), exchange))}});
+    RegisterAlternating("wait of 2 s with a dialog", 1, {{kLibrary, [=] {
+                                                              Window window;
+                                                              return Cost(RunOf(MakeLibrary(&window), exchange));
+                                                          }}});
 }
 
 void RegisterStall(const Server& server)
@@ -124,8 +124,8 @@ void RegisterStall(const Server& server)
         };
         return [=] { return Values{{"stall_ms", Lateness(kTick, run).back()}}; };
     };
-    RegisterInTurns("reply of 10 MB, longest stall", kRounds,
-                    {{kQtWithJson, stall(MakeQtWithJson())}, {kLibrary, stall(MakeLibrary())}});
+    RegisterAlternating("reply of 10 MB, longest stall", kRounds,
+                        {{kQtWithJson, stall(MakeQtWithJson())}, {kLibrary, stall(MakeLibrary())}});
 }
 
 }  // namespace

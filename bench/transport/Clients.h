@@ -31,19 +31,19 @@ inline Exchange Get(bool bHttps, int nPort, const QByteArray& path = "/small")
 }
 
 /// The result of an exchange: the text, or the "data" object from clients that read the envelope.
-struct Answer {
+struct Reply {
     QByteArray text;
     QJsonObject data;
 };
 
 /// The "data" object, read from the text if the client did not read it.
-QJsonObject DataOf(const Answer& answer);
+QJsonObject DataOf(const Reply& reply);
 
 /// A client that carries out exchanges and keeps connections open for the next ones.
 class Client {
 public:
     virtual ~Client() = default;
-    virtual Answer Run(const Exchange& exchange) = 0;
+    virtual Reply Run(const Exchange& exchange) = 0;
 
     /// Runs the exchange and passes its data to @p parse. @return the result of @p parse
     using Parse = std::function<int(const QJsonObject& data)>;

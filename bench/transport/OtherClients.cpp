@@ -43,9 +43,9 @@ public:
     Curl(const Curl&) = delete;
     Curl& operator=(const Curl&) = delete;
 
-    Answer Run(const Exchange& exchange) override
+    Reply Run(const Exchange& exchange) override
     {
-        Answer answer;
+        Reply reply;
         const bool bPost = exchange.eMethod == APIModule::Method_Post;
         curl_easy_setopt(m_pCurl, CURLOPT_URL, (Origin(exchange) + exchange.path.toStdString()).c_str());
         curl_easy_setopt(m_pCurl, bPost ? CURLOPT_POST : CURLOPT_HTTPGET, 1L);
@@ -53,9 +53,9 @@ public:
             curl_easy_setopt(m_pCurl, CURLOPT_POSTFIELDSIZE, long(exchange.body.size()));
             curl_easy_setopt(m_pCurl, CURLOPT_POSTFIELDS, exchange.body.constData());
         }
-        curl_easy_setopt(m_pCurl, CURLOPT_WRITEDATA, &answer.text);
+        curl_easy_setopt(m_pCurl, CURLOPT_WRITEDATA, &reply.text);
         Require(curl_easy_perform(m_pCurl) == CURLE_OK, "a call of libcurl succeeds");
-        return answer;
+        return reply;
     }
 
 private:
@@ -71,9 +71,9 @@ private:
 
 class Httplib : public Client {
 public:
-    Answer Run(const Exchange& exchange) override
+    Reply Run(const Exchange& exchange) override
     {
-        Answer answer;
+        Reply reply;
         httplib::Request request;
         request.method = exchange.eMethod == APIModule::Method_Post ? "POST" : "GET";
         request.path = exchange.path.toStdString();
@@ -82,11 +82,11 @@ public:
         }
         request.body = exchange.body.toStdString();
         request.content_receiver = [&](const char* pData, std::size_t nSize, uint64_t /*nOffset*/, uint64_t /*nAll*/) {
-            answer.text.append(pData, int(nSize));
+            reply.text.append(pData, int(nSize));
             return true;
         };
         Require(bool(To(exchange).send(request)), "a call of cpp-httplib succeeds");
-        return answer;
+        return reply;
     }
 
 private:

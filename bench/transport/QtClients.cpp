@@ -50,7 +50,7 @@ QNetworkRequest Request(const Exchange& exchange)
 
 class Qt : public Client {
 public:
-    Answer Run(const Exchange& exchange) override
+    Reply Run(const Exchange& exchange) override
     {
         QEventLoop loop;
         const std::unique_ptr<QNetworkReply> pReply(SendByQt(m_manager, exchange));
@@ -65,7 +65,7 @@ private:
 
 class QtWithJson : public Qt {
 public:
-    Answer Run(const Exchange& exchange) override
+    Reply Run(const Exchange& exchange) override
     {
         const QJsonObject envelope = QJsonDocument::fromJson(Qt::Run(exchange).text).object();
         return {{}, envelope.value(QLatin1String("data")).toObject()};
@@ -128,15 +128,15 @@ class Library : public Client {
 public:
     explicit Library(QWidget* pParent) : m_pParent(pParent) {}
 
-    Answer Run(const Exchange& exchange) override
+    Reply Run(const Exchange& exchange) override
     {
-        Answer answer;
+        Reply reply;
         const auto take = [&](const QJsonObject& data) {
-            answer.data = data;
+            reply.data = data;
             return 0;
         };
         Require(Read(exchange, take) == 0, "a call of the library succeeds");
-        return answer;
+        return reply;
     }
 
     int Read(const Exchange& exchange, const Parse& parse) override
@@ -181,11 +181,10 @@ int Client::Read(const Exchange& exchange, const Parse& parse)
     return parse(DataOf(Run(exchange)));
 }
 
-QJsonObject DataOf(const Answer& answer)
+QJsonObject DataOf(const Reply& reply)
 {
-    return answer.text.isEmpty()
-               ? answer.data
-               : QJsonDocument::fromJson(answer.text).object().value(QLatin1String("data")).toObject();
+    return reply.text.isEmpty() ? reply.data
+                                : QJsonDocument::fromJson(reply.text).object().value(QLatin1String("data")).toObject();
 }
 
 std::unique_ptr<Client> MakeQt()

@@ -78,14 +78,14 @@ private:
         for (;;) {
             http::request<http::string_body> request;
             http::read(stream, buffer, request);
-            Answer(stream, std::string(request.target()));
+            SendReply(stream, std::string(request.target()));
         }
     } catch (const boost::system::system_error&) {
         // The client has closed the connection.
     }
 
     template <typename Stream>
-    void Answer(Stream& stream, const std::string& target)
+    void SendReply(Stream& stream, const std::string& target)
     {
         const std::size_t slash = target.rfind('/');
         const std::string what = target.substr(0, slash);

@@ -1,4 +1,4 @@
-#include "InTurns.h"
+#include "Alternation.h"
 
 #include <benchmark/benchmark.h>
 
@@ -31,15 +31,15 @@ Values Medians(const std::vector<Values>& rounds)
     return medians;
 }
 
-class InTurns {
+class Alternation {
 public:
-    InTurns(int nRounds, std::vector<Turn> turns)
-        : m_nRounds(nRounds), m_turns(std::move(turns)), m_progress(m_turns.size())
+    Alternation(int nRounds, std::vector<Contender> contenders)
+        : m_nRounds(nRounds), m_contenders(std::move(contenders)), m_progress(m_contenders.size())
     {}
 
-    void Report(benchmark::State& state, std::size_t nTurn)
+    void Report(benchmark::State& state, std::size_t nContender)
     {
-        Values values = MediansOf(nTurn, state.max_iterations);
+        Values values = MediansOf(nContender, state.max_iterations);
         constexpr double kLongEnough = 1;  // for benchmarks that do not measure time
         const auto time = values.extract(kSeconds);
         const double seconds = time ? time.mapped() * double(state.max_iterations) : kLongEnough;
@@ -58,9 +58,9 @@ private:
     };
 
     /// A growing number of iterations means that Google Benchmark still calibrates the same repetition.
-    Values MediansOf(std::size_t nTurn, benchmark::IterationCount nIterations)
+    Values MediansOf(std::size_t nContender, benchmark::IterationCount nIterations)
     {
-        Progress& progress = m_progress[nTurn];
+        Progress& progress = m_progress[nContender];
         if (progress.nIterations == nIterations) {
             ++progress.nRepetition;
         }
@@ -68,17 +68,17 @@ private:
         while (m_medians.size() <= progress.nRepetition) {
             Measure();
         }
-        return m_medians[progress.nRepetition][nTurn];
+        return m_medians[progress.nRepetition][nContender];
     }
 
     void Measure()
     {
-        std::vector<std::vector<Values>> values(m_turns.size());
-        for (std::size_t nFirst = 0; nFirst < m_turns.size(); nFirst += kAtATime) {
-            const std::size_t nEnd = std::min(nFirst + kAtATime, m_turns.size());
+        std::vector<std::vector<Values>> values(m_contenders.size());
+        for (std::size_t nFirst = 0; nFirst < m_contenders.size(); nFirst += kAtATime) {
+            const std::size_t nEnd = std::min(nFirst + kAtATime, m_contenders.size());
             for (int i = 0; i < m_nRounds; ++i) {
-                for (std::size_t nTurn = nFirst; nTurn < nEnd; ++nTurn) {
-                    values[nTurn].push_back(m_turns[nTurn].measure());
+                for (std::size_t nContender = nFirst; nContender < nEnd; ++nContender) {
+                    values[nContender].push_back(m_contenders[nContender].measure());
                 }
             }
         }
@@ -87,24 +87,24 @@ private:
     }
 
     const int m_nRounds;
-    const std::vector<Turn> m_turns;
+    const std::vector<Contender> m_contenders;
     std::vector<Progress> m_progress;
     std::vector<std::vector<Values>> m_medians;  // one row for each repetition
 };
 
 }  // namespace
 
-void RegisterInTurns(const std::string& work, int nRounds, std::vector<Turn> turns)
+void RegisterAlternating(const std::string& work, int nRounds, std::vector<Contender> contenders)
 {
-    std::vector<std::string> contenders;
-    contenders.reserve(turns.size());
-    for (const Turn& turn : turns) {
-        contenders.push_back(turn.contender);
+    std::vector<std::string> names;
+    names.reserve(contenders.size());
+    for (const Contender& contender : contenders) {
+        names.push_back(contender.name);
     }
-    const auto pInTurns = std::make_shared<InTurns>(nRounds, std::move(turns));
-    for (std::size_t nTurn = 0; nTurn < contenders.size(); ++nTurn) {
-        benchmark::RegisterBenchmark((work + '/' + contenders[nTurn]).c_str(), [=](benchmark::State& state) {
-            pInTurns->Report(state, nTurn);
+    const auto pAlternation = std::make_shared<Alternation>(nRounds, std::move(contenders));
+    for (std::size_t nContender = 0; nContender < names.size(); ++nContender) {
+        benchmark::RegisterBenchmark((work + '/' + names[nContender]).c_str(), [=](benchmark::State& state) {
+            pAlternation->Report(state, nContender);
         })->UseManualTime();
     }
 }
