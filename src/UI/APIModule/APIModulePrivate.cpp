@@ -470,7 +470,7 @@ int CAPIModulePrivate::Execute(const QNetworkRequest& request, QWidget* pParent,
         eBroken = CallEnd::TimedOut;
         wait.End();
     });
-    connect(&exchange, &Exchange::Answered, &timer, &QTimer::stop);
+    connect(&exchange, &Exchange::ReplyArrived, &timer, &QTimer::stop);
     timer.start(TimeoutOf(request, *reply.pSteps));
 
     exchange.Begin(Send(request));

@@ -147,7 +147,7 @@ void Exchange::OnFinished()
 {
     const QPointer<Exchange> self(this);
     http::Reply& finished = *m_pReply;
-    emit Answered();
+    emit ReplyArrived();
     m_reply.eEnd = TakeEnd(finished, m_request, m_pFunction);
     if (m_reply.eEnd == CallEnd::Success || m_reply.eEnd == CallEnd::NotAuthenticated) {
         m_reply.nHttpStatus = finished.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();

@@ -58,7 +58,7 @@ public:
 
 signals:
     /// The reply has arrived; the time-out no longer applies.
-    void Answered();
+    void ReplyArrived();
     /// The reply was taken, or will never arrive.
     void Ended();
 

@@ -13,7 +13,7 @@ namespace APIModule {
 
 namespace {
 
-/// A result that no call has filled stands for a missing one.
+/// The result, or an empty one if there is none.
 const detail::CallResult& ResultIn(const std::shared_ptr<const detail::CallResult>& pResult)
 {
     static const detail::CallResult none;

@@ -53,7 +53,7 @@ void StartedCall::Prepare()
 void StartedCall::Begin()
 {
     m_state = State::OnItsWay;
-    connect(m_pExchange.get(), &Exchange::Answered, &m_timer, &QTimer::stop);
+    connect(m_pExchange.get(), &Exchange::ReplyArrived, &m_timer, &QTimer::stop);
     connect(m_pExchange.get(), &Exchange::Ended, this, &StartedCall::OnEnded);
     m_timer.start(m_module.TimeoutOf(m_request, m_steps));
     m_pExchange->Begin(m_module.Send(m_request));

@@ -114,16 +114,16 @@ Toast::Toast(const ToastContent& content)
     connect(&m_lifetime, &QTimer::timeout, this, &QWidget::close);
 }
 
-void Toast::CloseAfter(int nLifetimeMs, const QDeadlineTimer& goneBy)
+void Toast::CloseAfter(int nLifetimeMs, const QDeadlineTimer& deadline)
 {
-    m_goneBy = goneBy;
+    m_deadline = deadline;
     m_lifetime.start(nLifetimeMs);
 }
 
 bool Toast::Repeat()
 {
     if (m_lifetime.isActive()) {
-        const qint64 nLeftMs = m_goneBy.remainingTime();
+        const qint64 nLeftMs = m_deadline.remainingTime();
         if (nLeftMs < kReadableMs) {
             return false;
         }

@@ -32,8 +32,8 @@ public:
     [[nodiscard]] const ToastContent& Content() const { return m_content; }
     [[nodiscard]] bool IsOpen() const { return m_bOpen; }
 
-    /// Closes @p nLifetimeMs after this call or the last Repeat(), but at the latest when @p goneBy expires.
-    void CloseAfter(int nLifetimeMs, const QDeadlineTimer& goneBy);
+    /// Closes @p nLifetimeMs after this call or the last Repeat(), but at the latest when @p deadline expires.
+    void CloseAfter(int nLifetimeMs, const QDeadlineTimer& deadline);
     /// Counts another notification that equals this one.
     /// @return false when the toast closes too soon for the new count to be read
     bool Repeat();
@@ -54,7 +54,7 @@ private:
     ToastContent m_content;
     QLabel* m_pCount = nullptr;
     QTimer m_lifetime{this};
-    QDeadlineTimer m_goneBy{QDeadlineTimer::Forever};
+    QDeadlineTimer m_deadline{QDeadlineTimer::Forever};
     bool m_bOpen = true;
 };
 

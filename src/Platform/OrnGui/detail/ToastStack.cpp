@@ -15,11 +15,11 @@ namespace ORNGUI::detail {
 namespace {
 
 constexpr int kLifetimeMs = 5000;
-constexpr int kGoneByMs = 9500;  ///< toasts must close within ten seconds, and a timer may be late
+constexpr int kDeadlineMs = 9500;  ///< toasts must close within ten seconds, and a timer may be late
 constexpr int kMaxShown = 6;
-constexpr int kMaxStaying = 4;
+constexpr int kMaxPersistent = 4;
 constexpr int kTallest = 160;
-constexpr std::size_t kMaxPassing = 6;  ///< more queued toasts could not be shown in time
+constexpr std::size_t kMaxTransient = 6;  ///< more queued toasts could not be shown in time
 constexpr int kMargin = 16;
 constexpr int kSpacing = 8;
 
@@ -143,14 +143,14 @@ void ToastStack::Add(const ToastContent& content)
     }
     m_latest = content;
     if (content.bStayOpen) {
-        m_staying.push_back(content);
+        m_persistent.push_back(content);
     } else {
-        m_passing.push_back({content, QDeadlineTimer(kGoneByMs)});
+        m_transient.push_back({content, QDeadlineTimer(kDeadlineMs)});
     }
     FollowActiveWindow();
     ShowWaiting();
-    if (m_passing.size() > kMaxPassing) {
-        m_passing.pop_front();
+    if (m_transient.size() > kMaxTransient) {
+        m_transient.pop_front();
     }
 }
 
@@ -160,13 +160,13 @@ bool ToastStack::CountWithLatest(const ToastContent& content)
     if (!content.Equals(m_latest)) {
         return false;
     }
-    if (content.bStayOpen && !m_staying.empty()) {
-        ++m_staying.back().nCount;
+    if (content.bStayOpen && !m_persistent.empty()) {
+        ++m_persistent.back().nCount;
         return true;
     }
-    if (!content.bStayOpen && !m_passing.empty()) {
-        ++m_passing.back().content.nCount;
-        m_passing.back().goneBy = QDeadlineTimer(kGoneByMs);
+    if (!content.bStayOpen && !m_transient.empty()) {
+        ++m_transient.back().content.nCount;
+        m_transient.back().deadline = QDeadlineTimer(kDeadlineMs);
         return true;
     }
     const QVector<Toast*> open = OpenToasts();
@@ -213,23 +213,23 @@ bool ToastStack::HasRoom(bool bStayOpen) const
     for (const Toast* pToast : open) {
         nHeight += pToast->height() + kSpacing;
     }
-    const int nMost = bStayOpen ? kMaxStaying : kMaxShown;
+    const int nMost = bStayOpen ? kMaxPersistent : kMaxShown;
     return open.isEmpty() || (open.size() < nMost && nHeight <= Area().height());
 }
 
 void ToastStack::ShowWaiting()
 {
-    while (!m_passing.empty() && HasRoom(false)) {
-        const Waiting next = m_passing.front();
-        m_passing.pop_front();
-        const auto nLeftMs = static_cast<int>(next.goneBy.remainingTime());
+    while (!m_transient.empty() && HasRoom(false)) {
+        const Waiting next = m_transient.front();
+        m_transient.pop_front();
+        const auto nLeftMs = static_cast<int>(next.deadline.remainingTime());
         if (nLeftMs >= kReadableMs) {
-            Show(next.content)->CloseAfter(std::min(kLifetimeMs, nLeftMs), next.goneBy);
+            Show(next.content)->CloseAfter(std::min(kLifetimeMs, nLeftMs), next.deadline);
         }
     }
-    while (!m_staying.empty() && HasRoom(true)) {
-        const ToastContent next = m_staying.front();
-        m_staying.pop_front();
+    while (!m_persistent.empty() && HasRoom(true)) {
+        const ToastContent next = m_persistent.front();
+        m_persistent.pop_front();
         Show(next);
     }
     Arrange();
@@ -333,8 +333,8 @@ void ToastStack::Arrange()
 
 void ToastStack::CloseAll()
 {
-    m_passing.clear();
-    m_staying.clear();
+    m_transient.clear();
+    m_persistent.clear();
     const auto open = OpenToasts();
     for (Toast* pToast : open) {
         pToast->close();

@@ -28,7 +28,7 @@ protected:
 private:
     struct Waiting {
         ToastContent content;
-        QDeadlineTimer goneBy;
+        QDeadlineTimer deadline;
     };
 
     ToastStack();
@@ -47,8 +47,8 @@ private:
     void CloseAll();
 
     QVector<QPointer<Toast>> m_toasts;
-    std::deque<Waiting> m_passing;
-    std::deque<ToastContent> m_staying;
+    std::deque<Waiting> m_transient;
+    std::deque<ToastContent> m_persistent;
     ToastContent m_latest;
     QPointer<QWidget> m_pAnchor;
 };

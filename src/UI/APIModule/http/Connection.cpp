@@ -189,13 +189,13 @@ void Connection::OnEncrypted()
 {
     if (m_manager.GetServerTrust()) {
         // The host may be asked, and its code must not run inside a signal of a socket.
-        QMetaObject::invokeMethod(this, &Connection::LookAtServer, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Connection::VerifyServer, Qt::QueuedConnection);
     } else {
         OnReady();
     }
 }
 
-void Connection::LookAtServer()
+void Connection::VerifyServer()
 {
     if (m_bClosed) {
         return;

@@ -72,7 +72,7 @@ private:
     void Dial(QAbstractSocket::NetworkLayerProtocol protocol);
     void OnConnected(QTcpSocket& socket);
     void OnEncrypted();
-    void LookAtServer();
+    void VerifyServer();
     void OnReady();
     void OnReadyRead();
     void OnSocketError(QTcpSocket& socket, QAbstractSocket::SocketError error);
