@@ -292,7 +292,11 @@ TEST_F(WaitBase, TenFullTimeOutsDoNotBlockLaterCalls)
 }
 
 /// A call during the wait of another one, with both kinds of wait for each.
-class NestedTest : public WaitBase, public testing::WithParamInterface<std::tuple<Waiting, Waiting>> {};
+class NestedTest : public WaitBase, public testing::WithParamInterface<std::tuple<Waiting, Waiting>> {
+protected:
+    const Waiting outer = std::get<0>(GetParam());
+    const Waiting inner = std::get<1>(GetParam());
+};
 
 INSTANTIATE_TEST_SUITE_P(Waits, NestedTest,
                          testing::Combine(testing::Values(InLoop, BehindDialog), testing::Values(InLoop, BehindDialog)),
@@ -303,27 +307,24 @@ INSTANTIATE_TEST_SUITE_P(Waits, NestedTest,
 
 TEST_P(NestedTest, InnerEndsFirst)
 {
-    const auto [outer, inner] = GetParam();
     int nInner = 99;
-    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/404"))); });
+    During(50, [&] { nInner = Execute(Call(inner, QStringLiteral("/404"))); });
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/after/400"))), 0);
     EXPECT_EQ(nInner, 404);
 }
 
 TEST_P(NestedTest, OuterFinishesFirst)
 {
-    const auto [outer, inner] = GetParam();
     int nInner = 99;
-    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/after/600"))); });
+    During(50, [&] { nInner = Execute(Call(inner, QStringLiteral("/after/600"))); });
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/after/200"))), 0);
     EXPECT_EQ(nInner, 0);
 }
 
 TEST_P(NestedTest, OuterTimesOutFirst)
 {
-    const auto [outer, inner] = GetParam();
     int nInner = 99;
-    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/after/1500"))); });
+    During(50, [&] { nInner = Execute(Call(inner, QStringLiteral("/after/1500"))); });
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/silent"), 1)), -1);
     EXPECT_EQ(nInner, 0);
     EXPECT_EQ(notifications.Take(), (QStringList{QStringLiteral("Done"), TimeOutNotice()}));
@@ -331,9 +332,8 @@ TEST_P(NestedTest, OuterTimesOutFirst)
 
 TEST_P(NestedTest, BothTimeOut)
 {
-    const auto [outer, inner] = GetParam();
     int nInner = 99;
-    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/silent"), 1)); });
+    During(50, [&] { nInner = Execute(Call(inner, QStringLiteral("/silent"), 1)); });
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/silent"), 1)), -1);
     EXPECT_EQ(nInner, -1);
     EXPECT_EQ(notifications.Take(), (QStringList{TimeOutNotice(), TimeOutNotice()}));
@@ -342,9 +342,8 @@ TEST_P(NestedTest, BothTimeOut)
 
 TEST_P(NestedTest, DestroyedParentEndsBoth)
 {
-    const auto [outer, inner] = GetParam();
     int nInner = 99;
-    During(50, [&, inner = inner] { nInner = Execute(Call(inner, QStringLiteral("/after/600"))); });
+    During(50, [&] { nInner = Execute(Call(inner, QStringLiteral("/after/600"))); });
     During(200, [this] { delete m_parent; });
     EXPECT_EQ(Execute(Call(outer, QStringLiteral("/after/1500"))), outer == InLoop ? 0 : -1);
     EXPECT_EQ(nInner, inner == InLoop ? 0 : -1);

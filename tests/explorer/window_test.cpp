@@ -536,6 +536,7 @@ TEST_F(WindowTest, RunningCallClearsTheOldResultAndKeepsTheRunButtonInPlace)
     });
     Use(server.Port());
     Use(explorer::Way::WithoutWaiting);
+    Window().resize(1280, 800);
     Run(kCall);
     auto& results = *Window().findChild<explorer::ResultView*>();
     const auto texts = [&results] {
@@ -548,14 +549,17 @@ TEST_F(WindowTest, RunningCallClearsTheOldResultAndKeepsTheRunButtonInPlace)
     };
     ASSERT_TRUE(texts().contains(QStringLiteral("enable")));
     auto& run = Find<QPushButton>("run");
+    QTest::qWait(0);  // until the result is laid out
     const QPoint position = run.mapTo(&Window(), QPoint());
     ClickRun();
     ASSERT_TRUE(Await([this] { return TextOf("resultWords") == QStringLiteral("GetRemoteLogConfig is running"); }));
     EXPECT_EQ(texts(), QString());
     EXPECT_FALSE(TextOf("runState").isEmpty());
-    Find<QWidget>("runningCalls").hide();  // the row of the running call may move the button
-    QTest::qWait(0);
-    EXPECT_EQ(run.mapTo(&Window(), QPoint()), position);
+    EXPECT_TRUE(Await([&] {
+        Find<QWidget>("runningCalls").hide();  // the row of the running call may move the button
+        QTest::qWait(0);
+        return run.mapTo(&Window(), QPoint()) == position;
+    }));
 }
 
 TEST_F(WindowTest, LongServerTextScrolls)

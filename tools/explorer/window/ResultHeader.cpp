@@ -69,7 +69,8 @@ void ResultHeader::changeEvent(QEvent* pEvent)
 void ResultHeader::resizeEvent(QResizeEvent* pEvent)
 {
     QScrollArea::resizeEvent(pEvent);
-    Fit();
+    // Not yet: another size during this event would not reach the layout of the texts.
+    QMetaObject::invokeMethod(this, &ResultHeader::Fit, Qt::QueuedConnection);
 }
 
 bool ResultHeader::eventFilter(QObject* pWatched, QEvent* pEvent)
