@@ -13,20 +13,20 @@ using namespace std::string_literals;
 using namespace APIModule;
 
 /// A call whose only argument is inserted into its URL.
-struct CallOfId {
+struct IdCall {
     std::string name;
     int (*pack)(void*, const std::string&, int);
     std::string before;
     std::string after;
 };
 
-PackRow OfId(const CallOfId& call, const std::string& suffix, const std::string& id, const std::string& inUrl)
+PackRow OfId(const IdCall& call, const std::string& suffix, const std::string& id, const std::string& inUrl)
 {
     return {call.name + "_id" + suffix, "CBRMSModule::Packet" + call.name, Bind<const std::string&>(call.pack, id),
             Method_Get, call.before + inUrl + call.after};
 }
 
-std::vector<PackRow> RowsOfId(const CallOfId& call)
+std::vector<PackRow> RowsOfId(const IdCall& call)
 {
     return {
         OfId(call, "", "1000001$1$0$0", "1000001$1$0$0"),
@@ -84,7 +84,7 @@ std::vector<PackRow> PackRows()
                    {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
                    "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
     };
-    for (const CallOfId& call : std::initializer_list<CallOfId>{
+    for (const IdCall& call : std::initializer_list<IdCall>{
              {"GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",
               "/web/tunnel"},
              {"GetChannelWebAuthorization", &CBRMSModule::PacketGetChannelWebAuthorization,

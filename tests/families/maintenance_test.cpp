@@ -36,11 +36,11 @@ const Parse kChannel = MakeParse(NAMED(COMMSModule::ParseGetChannelInfo));
 const Parse kDevice = MakeParse(NAMED(COMMSModule::ParseGetDeviceInfo));
 
 const Readings kChannelKeys =
-    InTurn(Text("channelName"), Text("channelId"), Int("channelType"), Text("deviceCode"), Text("deviceName"),
-           Int("deviceCategory"), Text("deviceCategoryName"), Text("orgCode"), Text("orgName"), Int("onlineStatus"),
-           Text("channelStatus"), Text("abnormalReason"), Text("channelIp"), Text("channelMac"), Text("deviceIp"),
-           Text("macAddress"), Text("deviceRecordDays"), Text("configRecordDays"), Text("deviceRecordWholenessStatus"),
-           Text("motionDetectPlan"), Text("patchPlan"), Text("recordPlan"), Int64("updateDate"));
+    InOrder(Text("channelName"), Text("channelId"), Int("channelType"), Text("deviceCode"), Text("deviceName"),
+            Int("deviceCategory"), Text("deviceCategoryName"), Text("orgCode"), Text("orgName"), Int("onlineStatus"),
+            Text("channelStatus"), Text("abnormalReason"), Text("channelIp"), Text("channelMac"), Text("deviceIp"),
+            Text("macAddress"), Text("deviceRecordDays"), Text("configRecordDays"), Text("deviceRecordWholenessStatus"),
+            Text("motionDetectPlan"), Text("patchPlan"), Text("recordPlan"), Int64("updateDate"));
 
 const char* const kWholeChannel =
     R"({"channelName": "Gate", "channelId": "1$1", "channelType": 1, "deviceCode": "1001", "deviceName": "Camera",

@@ -64,22 +64,22 @@ const Readings kSimplePoint = {Text("id"),         Text("pointName"), Text("rema
 const Readings kSimplePosition = {Text("id"), Text("positionName"), Text("remark"),
                                   Records<SimpleParkingPointInfo>("points", kSimplePoint)};
 const Readings kSimpleLot =
-    InTurn(Text("id"), Text("parkingLotName"), Text("orgCode"), Text("orgName"), Text("parentParkingLotId"),
-           Text("parentParkingLotName"), Int("parkingLotMode"), Int("enableParkingSpaceStatistics"),
-           Int("parkingSpaceStatisticsType"), Records<SimpleParkingPositionInfo>("positions", kSimplePosition));
+    InOrder(Text("id"), Text("parkingLotName"), Text("orgCode"), Text("orgName"), Text("parentParkingLotId"),
+            Text("parentParkingLotName"), Int("parkingLotMode"), Int("enableParkingSpaceStatistics"),
+            Int("parkingSpaceStatisticsType"), Records<SimpleParkingPositionInfo>("positions", kSimplePosition));
 
 const Readings kChannel = {Text("channelId"), Int("channelType")};
 const Readings kDetailPoint =
-    InTurn(Text("id"), Text("pointName"), Text("remark"), Text("refPointId"), Text("refPointName"), Int("direction"),
-           Int("mode"), Records<ParkingChannelInfo>("channels", kChannel),
-           Records<ParkingChannelInfo>("refChannels", kChannel));
+    InOrder(Text("id"), Text("pointName"), Text("remark"), Text("refPointId"), Text("refPointName"), Int("direction"),
+            Int("mode"), Records<ParkingChannelInfo>("channels", kChannel),
+            Records<ParkingChannelInfo>("refChannels", kChannel));
 const Readings kDetailPosition = {Text("id"), Text("positionName"), Text("remark"),
                                   Records<DetailParkingPointInfo>("points", kDetailPoint)};
 const Readings kDetailLot =
-    InTurn(Text("id"), Text("parkingLotName"), Text("orgCode"), Text("orgName"), Text("parentParkingLotId"),
-           Text("parentParkingLotName"), Int("parkingLotMode"), Int("enableParkingSpaceStatistics"),
-           Int("parkingSpaceStatisticsType"), Int("issueVehicles"), Int("issueStatus"), Int("totalParkingSpaceCount"),
-           Int("idleParkingSpaceCount"), Records<DetailParkingPositionInfo>("positions", kDetailPosition));
+    InOrder(Text("id"), Text("parkingLotName"), Text("orgCode"), Text("orgName"), Text("parentParkingLotId"),
+            Text("parentParkingLotName"), Int("parkingLotMode"), Int("enableParkingSpaceStatistics"),
+            Int("parkingSpaceStatisticsType"), Int("issueVehicles"), Int("issueStatus"), Int("totalParkingSpaceCount"),
+            Int("idleParkingSpaceCount"), Records<DetailParkingPositionInfo>("positions", kDetailPosition));
 
 const char* const kTwoSimpleLots = R"({"results": [
     {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "1",

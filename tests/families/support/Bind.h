@@ -14,7 +14,7 @@ namespace family_testing {
 template <typename... Parameters>
 struct Signature {
     using Pack = int (*)(void*, Parameters..., int);
-    using PackOfNoServer = int (*)(void*, Parameters...);
+    using PackWithoutServer = int (*)(void*, Parameters...);
 };
 
 /// Calls a Pack with copies of the arguments and checks that it does not change them.
@@ -40,7 +40,7 @@ std::function<int(void*, int)> Bind(typename Signature<Parameters...>::Pack pack
 }
 
 template <typename... Parameters>
-std::function<int(void*, int)> Bind(typename Signature<Parameters...>::PackOfNoServer pack,
+std::function<int(void*, int)> Bind(typename Signature<Parameters...>::PackWithoutServer pack,
                                     std::decay_t<Parameters>... arguments)
 {
     return Bound([pack](void* pReqParamData, int /*nServerId*/, auto&... each) { return pack(pReqParamData, each...); },
@@ -56,10 +56,11 @@ struct Irregular {
 
 /// Makes rows that call the same Pack.
 template <typename... Parameters>
-class PackOfRows {
+class PackRowFactory {
 public:
     template <typename Pack>
-    PackOfRows(std::string call, Pack pack, APIModule::Method method, std::string url = {}, Irregular irregular = {})
+    PackRowFactory(std::string call, Pack pack, APIModule::Method method, std::string url = {},
+                   Irregular irregular = {})
         : m_call(std::move(call)), m_bind([pack](std::decay_t<Parameters>... arguments) {
               return Bind<Parameters...>(pack, std::move(arguments)...);
           }),
@@ -91,9 +92,9 @@ private:
 
 /// Rows consist of a name, the arguments, their part of the URL, and the body if there is one.
 template <typename... Parameters>
-class UrlPack : public PackOfRows<Parameters...> {
+class UrlPack : public PackRowFactory<Parameters...> {
 public:
-    using PackOfRows<Parameters...>::PackOfRows;
+    using PackRowFactory<Parameters...>::PackRowFactory;
     PackRow operator()(const std::string& name, std::decay_t<Parameters>... arguments, const std::string& inUrl,
                        const std::string& body = {}) const
     {
@@ -103,9 +104,9 @@ public:
 
 /// Rows consist of a name, the arguments and the body.
 template <typename... Parameters>
-class BodyPack : public PackOfRows<Parameters...> {
+class BodyPack : public PackRowFactory<Parameters...> {
 public:
-    using PackOfRows<Parameters...>::PackOfRows;
+    using PackRowFactory<Parameters...>::PackRowFactory;
     PackRow operator()(const std::string& name, std::decay_t<Parameters>... arguments, const std::string& body) const
     {
         return this->Row(name, std::move(arguments)..., {}, body);

@@ -71,7 +71,7 @@ Reading Records(const std::string& key, const Readings& inner, const FieldName& 
 
 /// A sequence of steps.
 template <typename... Steps>
-Readings InTurn(const Steps&... steps)
+Readings InOrder(const Steps&... steps)
 {
     return {steps...};
 }
