@@ -26,30 +26,30 @@ protected:
 
     static const Row& ParamRow() { return std::get<Row>(GetParam()); }
 
-    /// The current value of a trace.
-    static Json ValueOf(const Trace& trace)
+    /// The value that the effect changes, as it is now.
+    static Json ValueOf(const Effect& effect)
     {
-        if (trace.call.empty()) {
+        if (effect.call.empty()) {
             const Json state = Platform().state();
-            const Json::json_pointer pointer(trace.pointer);
+            const Json::json_pointer pointer(effect.pointer);
             return state.contains(pointer) ? state.at(pointer) : Json();
         }
-        const catalogue::Outcome outcome = Run(trace.call, trace.arguments);
+        const catalogue::Outcome outcome = Run(effect.call, effect.arguments);
         return outcome ? outcome.record : Json{{"failed", outcome.Code()}};
     }
 
-    static std::string Described(const Trace& trace)
+    static std::string Described(const Effect& effect)
     {
-        return trace.call.empty() ? trace.pointer : trace.call + " " + trace.arguments.dump();
+        return effect.call.empty() ? effect.pointer : effect.call + " " + effect.arguments.dump();
     }
 };
 
 TEST_P(EveryCall, ReadsAndChangesTheStateOfThePlatform)
 {
     const Row& row = ParamRow();
-    for (const Trace& trace : row.traces) {
-        EXPECT_NE(ValueOf(trace), trace.expected)
-            << Described(trace) << ": already has the expected value before the call";
+    for (const Effect& effect : row.effects) {
+        EXPECT_NE(ValueOf(effect), effect.expected)
+            << Described(effect) << ": already has the expected value before the call";
     }
 
     Platform().clearRequests();
@@ -65,13 +65,13 @@ TEST_P(EveryCall, ReadsAndChangesTheStateOfThePlatform)
     } else {
         EXPECT_EQ(outcome.record, Json()) << "the row expects no record";
     }
-    for (const Trace& trace : row.traces) {
-        EXPECT_EQ(ValueOf(trace), trace.expected) << Described(trace);
+    for (const Effect& effect : row.effects) {
+        EXPECT_EQ(ValueOf(effect), effect.expected) << Described(effect);
     }
 
     static const std::set<std::string> onlyRead = {"BRMS.FunctionChannelCheck", "OBMS.GetPageAccessAuthorizePersons"};
     if (requests.front().method != "GET" && onlyRead.count(row.call) == 0) {
-        EXPECT_FALSE(row.traces.empty()) << "the row does not check what the call wrote";
+        EXPECT_FALSE(row.effects.empty()) << "the row does not check what the call wrote";
     }
 }
 

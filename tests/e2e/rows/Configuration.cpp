@@ -12,25 +12,25 @@ std::vector<Row> SystemConfigRows()
     const Json readSetting = {{"settingType", 3}};
     return {
         Writes("BRMS.SetTimeSyncConfig", {{"config", timeSync}},
-               {ReadBack("BRMS.GetTimeSyncConfig", {}, timeSync), Held("/brms/timeSync", timeSync)}),
+               {ReadBack("BRMS.GetTimeSyncConfig", {}, timeSync), StateAt("/brms/timeSync", timeSync)}),
         Writes("BRMS.SetTimeSyncConfig WithNtp", {{"config", withNtp}},
-               {ReadBack("BRMS.GetTimeSyncConfig", {}, withNtp), Held("/brms/timeSync", withNtp)}),
+               {ReadBack("BRMS.GetTimeSyncConfig", {}, withNtp), StateAt("/brms/timeSync", withNtp)}),
         Writes("BRMS.ImmediatelySyncTime", {}, {Accepted("BRMS.ImmediatelySyncTime", Json::object(), {})}),
         Writes("BRMS.SetRemoteLogConfig", {{"config", remoteLog}},
-               {ReadBack("BRMS.GetRemoteLogConfig", {}, remoteLog), Held("/brms/remoteLog", remoteLog)}),
+               {ReadBack("BRMS.GetRemoteLogConfig", {}, remoteLog), StateAt("/brms/remoteLog", remoteLog)}),
         Writes("BRMS.SetDeviceLoginModel", {{"model", 2}},
-               {ReadBack("BRMS.GetDeviceLoginModel", {}, 2), Held("/brms/deviceLoginModel/deviceLoginModel", 2)}),
+               {ReadBack("BRMS.GetDeviceLoginModel", {}, 2), StateAt("/brms/deviceLoginModel/deviceLoginModel", 2)}),
         Reads("BRMS.GetPushAppMsgConfig", {}, At("/brms/pushMessage/enablePushMessage"),
               {{"/brms/pushMessage/enablePushMessage", true}}),
         Writes("BRMS.SetPushAppMsgConfig", {{"enable", true}},
-               {ReadBack("BRMS.GetPushAppMsgConfig", {}, true), Held("/brms/pushMessage/enablePushMessage", true)}),
+               {ReadBack("BRMS.GetPushAppMsgConfig", {}, true), StateAt("/brms/pushMessage/enablePushMessage", true)}),
         Reads("BRMS.GetSupportDataBaseType", {},
               [](const Json& state) {
                   return Each(state.at("brms").at("databaseTypes").at("databaseTypes"),
                               [](const Json& type) { return std::stoi(type.get<std::string>()); });
               }),
         Reads("BRMS.GetLocalSetting", readSetting, At("/brms/localSettings/3")),
-        // Writes the setting that the trace has just read, with a new version.
+        // Writes the setting that ReadBack() has just read, with a new version.
         Writes("BRMS.UpdateLocalSetting", {{"apply", false}, {"content", "<layout name=\"Halle\"/>"}},
                {ReadBack("BRMS.GetLocalSetting", readSetting,
                          {{"apply", false},
@@ -39,7 +39,7 @@ std::vector<Row> SystemConfigRows()
                           {"settingContent", "<layout name=\"Halle\"/>"}})}),
         Reads("BRMS.GetAIPrivacyConfig", {}, At("/brms/aiPrivacy/enable"), {{"/brms/aiPrivacy/enable", 1}}),
         Writes("BRMS.UpdateAIPrivacyConfig", {{"enable", true}},
-               {ReadBack("BRMS.GetAIPrivacyConfig", {}, 1), Held("/brms/aiPrivacy/enable", 1)}),
+               {ReadBack("BRMS.GetAIPrivacyConfig", {}, 1), StateAt("/brms/aiPrivacy/enable", 1)}),
     };
 }
 
@@ -74,7 +74,7 @@ std::vector<Row> DeviceConfigRows()
               }),
         Writes("BRMS.UpdateNetworkConfig", {{"config", With(network, {{"deviceCode", "1000001"}})}},
                {ReadBack("BRMS.GetNetworkConfig", {{"deviceCode", "1000001"}}, With(network, {{"deviceCode", ""}})),
-                Held("/brms/network/1000001", network)}),
+                StateAt("/brms/network/1000001", network)}),
         Reads("BRMS.GetEncodeConfig", yard,
               [](const Json& state) {
                   return Each(state.at("brms").at("encode").at("1000002$1$0$0").at("encodeConfigurations"),
@@ -82,7 +82,7 @@ std::vector<Row> DeviceConfigRows()
               }),
         Writes("BRMS.UpdateEncodeConfig", With(yard, {{"configs", encode}}),
                {ReadBack("BRMS.GetEncodeConfig", yard, Each(encode, WithoutChannel)),
-                Held("/brms/encode/1000002$1$0$0/encodeConfigurations", encode)}),
+                StateAt("/brms/encode/1000002$1$0$0/encodeConfigurations", encode)}),
         Reads("BRMS.GetEncodeCapability", With(gate, {{"streamType", 1}}),
               [](const Json& state) {
                   Json capability = state.at("brms").at("encodeCapability").at("*").at("1");
@@ -93,14 +93,14 @@ std::vector<Row> DeviceConfigRows()
               }),
         Reads("BRMS.GetImageConfig", yard,
               [](const Json& state) { return WithoutChannel(state.at("brms").at("image").at("1000002$1$0$0")); }),
-        Writes(
-            "BRMS.UpdateImageConfig", {{"config", With(image, yard)}},
-            {ReadBack("BRMS.GetImageConfig", yard, WithoutChannel(image)), Held("/brms/image/1000002$1$0$0", image)}),
+        Writes("BRMS.UpdateImageConfig", {{"config", With(image, yard)}},
+               {ReadBack("BRMS.GetImageConfig", yard, WithoutChannel(image)),
+                StateAt("/brms/image/1000002$1$0$0", image)}),
         Reads("BRMS.GetMultiCastConfig", gate,
               [](const Json& state) { return WithoutChannel(state.at("brms").at("multicast").at("1000001$1$0$0")); }),
         Writes("BRMS.SetMultiCastConfig", {{"info", With(multicast, yard)}},
                {ReadBack("BRMS.GetMultiCastConfig", yard, WithoutChannel(multicast)),
-                Held("/brms/multicast/1000002$1$0$0", multicast)}),
+                StateAt("/brms/multicast/1000002$1$0$0", multicast)}),
         Writes("BRMS.SetMultiCastStreamStatus", {{"status", With(gate, {{"streamType", 2}, {"status", true}})}},
                {ReadBack("BRMS.GetMultiCastConfig", gate, R"({"channelId": "", "status": true, "streams": [
               {"multicastIp": "239.255.0.11", "multicastPort": "36666", "streamType": 1, "status": true},

@@ -18,22 +18,22 @@ std::vector<Row> UserGroupRows()
               [](const Json& state) { return Json::array({Element(Groups()(state), "id", "15")}); }),
         WritesAndReads("BRMS.AddUserGroup", {{"group", group}},
                        {ReadBack("BRMS.GetUserGroup", {{"groupId", "17"}}, With(group, {{"id", "17"}})),
-                        Held("/brms/userGroups/5", With(group, {{"id", "17"}}))},
+                        StateAt("/brms/userGroups/5", With(group, {{"id", "17"}}))},
                        [](const Json& state) { return Groups()(state).back().at("id"); }),
         Writes("BRMS.UpdateUserGroup", {{"groupId", "13"}, {"group", group}},
                {ReadBack("BRMS.GetUserGroup", {{"groupId", "13"}}, With(group, {{"id", "13"}}))}),
         Writes("BRMS.MoveUserGroup", {{"move", {{"groupId", "13"}, {"userIds", {"38", "31"}}}}},
-               {Held("/brms/users/0/groupId", "13"), Held("/brms/users/7/groupId", "13"),
+               {StateAt("/brms/users/0/groupId", "13"), StateAt("/brms/users/7/groupId", "13"),
                 Accepted("BRMS.MoveUserGroup", Json::object(), {{"groupId", "13"}, {"userIds", {"38", "31"}}})}),
         Writes("BRMS.ClearUserGroup", {{"groupId", "12"}},
-               {Held("/brms/users/0/groupId", ""), Held("/brms/users/1/groupId", ""),
+               {StateAt("/brms/users/0/groupId", ""), StateAt("/brms/users/1/groupId", ""),
                 Accepted("BRMS.ClearUserGroup", {{"groupId", "12"}}, {})}),
         Writes("BRMS.DeleteUserGroup", {{"groupIds", {"15", "12"}}},
                {ReadBack("BRMS.GetUserGroupList", {{"keyword", ""}}, R"([
               {"id": "13", "groupName": "Guards night shift", "memo": ""},
               {"id": "14", "groupName": "Reception", "memo": "Visitors & deliveries"},
               {"id": "16", "groupName": "Administrators", "memo": "All rights"}])"_json),
-                Held("/brms/users/5/groupId", "")}),
+                StateAt("/brms/users/5/groupId", "")}),
     };
 }
 
@@ -70,7 +70,7 @@ std::vector<Row> QuickCommandRows()
     return {
         Writes("BRMS.AddQuickCommand", {{"command", added}},
                {ReadBack("BRMS.GetQuickCommands", {{"keyword", "Schranke"}}, Json::array({Summary(stored)})),
-                ReadBack("BRMS.GetQuickCommand", {{"id", "9"}}, stored), Held("/brms/quickCommands/4", stored)}),
+                ReadBack("BRMS.GetQuickCommand", {{"id", "9"}}, stored), StateAt("/brms/quickCommands/4", stored)}),
         Writes("BRMS.UpdateQuickCommand", {{"command", changed}},
                {ReadBack("BRMS.GetQuickCommand", {{"id", "6"}}, changed),
                 ReadBack("BRMS.GetAlarmPlanQuickCommands", {{"planId", "3"}},

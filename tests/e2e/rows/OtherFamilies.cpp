@@ -9,7 +9,7 @@ std::vector<Row> DmsRows()
     const Json both = R"(["1000001$1$0$0", "1000003$1$0$0"])"_json;
     const Json washBoth = R"({"data": {"ptzAuxControlXos": [{"channelId": "1000001$1$0$0", "command": 1},
                                                             {"channelId": "1000003$1$0$0", "command": 1}]}})"_json;
-    const auto obeyed = [](const Json& /*state*/) {
+    const auto succeeded = [](const Json& /*state*/) {
         return R"({"result": "0", "userName": "", "userLevel": "", "lowerDomain": ""})"_json;
     };
     const auto refused = [](const Json& state) {
@@ -17,15 +17,15 @@ std::vector<Row> DmsRows()
     };
     const auto wash = [](const Json& channel) { return Json{{"data", With(channel, {{"command", 1}})}}; };
     return {
-        WritesAndReads("DMS.WashOpen", free, {Accepted("DMS.WashOpen", Json::object(), wash(free))}, obeyed),
+        WritesAndReads("DMS.WashOpen", free, {Accepted("DMS.WashOpen", Json::object(), wash(free))}, succeeded),
         WritesAndReads("DMS.WashOpen Locked", locked, {Accepted("DMS.WashOpen", Json::object(), wash(locked))},
                        refused),
         WritesAndReads(
             "DMS.BatchWashOpen", {{"channelIds", both}}, {Accepted("DMS.BatchWashOpen", Json::object(), washBoth)},
             [](const Json& /*state*/) { return R"({"result": "1", "msg": "1 channels switched, 1 locked"})"_json; }),
-        WritesAndReads("DMS.SetHomePosition", free, {Accepted("DMS.SetHomePosition", free, {})}, obeyed),
+        WritesAndReads("DMS.SetHomePosition", free, {Accepted("DMS.SetHomePosition", free, {})}, succeeded),
         WritesAndReads("DMS.SetHomePosition Locked", locked, {Accepted("DMS.SetHomePosition", locked, {})}, refused),
-        WritesAndReads("DMS.GotoHomePosition", free, {Accepted("DMS.GotoHomePosition", free, {})}, obeyed),
+        WritesAndReads("DMS.GotoHomePosition", free, {Accepted("DMS.GotoHomePosition", free, {})}, succeeded),
         WritesAndReads("DMS.GotoHomePosition Locked", locked, {Accepted("DMS.GotoHomePosition", locked, {})}, refused),
     };
 }
@@ -33,7 +33,7 @@ std::vector<Row> DmsRows()
 std::vector<Row> IamsRows()
 {
     return {Writes("IAMS.SetAnalysisTaskUploadFailed", {{"taskIds", {"703", "701"}}},
-                   {Held("/iams/tasks/0/uploadFailed", true), Held("/iams/tasks/2/uploadFailed", true),
+                   {StateAt("/iams/tasks/0/uploadFailed", true), StateAt("/iams/tasks/2/uploadFailed", true),
                     Accepted("IAMS.SetAnalysisTaskUploadFailed", Json::object(), {{"ids", {"703", "701"}}})})};
 }
 
@@ -82,7 +82,7 @@ std::vector<Row> IpmsRows()
               }),
         Reads("IPMS.GetParkingOrganization", {}, At("/ipms/organisations")),
         Writes("IPMS.UpdateVehicleCaptureRecord", {{"info", plate}},
-               {Held("/ipms/captureRecords/1", plate),
+               {StateAt("/ipms/captureRecords/1", plate),
                 Accepted("IPMS.UpdateVehicleCaptureRecord", Json::object(), plate)}),
     };
 }
@@ -130,7 +130,7 @@ std::vector<Row> ObmsRows()
               [](const Json& state) { return ManagingPersons(state, "1000041"); }),
         Writes("OBMS.SetManagePersons", {{"req", R"({"deviceCode": "1000042", "personIds": ["5012"]})"_json}},
                {ReadBack("OBMS.GetManagePersons", {{"req", {{"deviceCode", "1000042"}}}}, manager),
-                Held("/obms/managedPersons/1000042", Json::array({"5012"}))}),
+                StateAt("/obms/managedPersons/1000042", Json::array({"5012"}))}),
         Reads("OBMS.GetPointRules", {{"req", rulesOfGate}},
               [](const Json& state) {
                   const Json rules = Element(state.at("obms").at("points"), "pointId", "61").at("rules");
@@ -141,7 +141,7 @@ std::vector<Row> ObmsRows()
         Writes("OBMS.PersonResetAntiPass", {{"personId", "5006"}},
                {Accepted("OBMS.PersonResetAntiPass", {{"personId", "5006"}}, {})}),
         Writes("OBMS.UpdateConfigDesfireInfo", {{"param", cardConfig}},
-               {ReadBack("OBMS.GetConfigDesfireInfo", {}, cardConfig), Held("/obms/desfire", cardConfig)}),
+               {ReadBack("OBMS.GetConfigDesfireInfo", {}, cardConfig), StateAt("/obms/desfire", cardConfig)}),
         Reads("OBMS.GetPageConfigDesfireFailInfo", {{"req", {{"page", 2}, {"pageSize", 3}}}},
               [](const Json& state) {
                   const Json& failures = state.at("obms").at("desfireFailures");
@@ -159,11 +159,11 @@ std::vector<Row> ObmsRows()
                 Accepted("OBMS.ReissueConfigDesfire", Json::object(), {})}),
         Writes("OBMS.DeleteAddressBooks", {{"param", R"({"deleteAll": false, "vtoDeviceCode": "1000051",
                         "vthDeviceCodes": ["1000054", "1000052"]})"_json}},
-               {Held("/obms/contacts/1000051", Json::array({"1000053"})),
+               {StateAt("/obms/contacts/1000051", Json::array({"1000053"})),
                 Accepted("OBMS.DeleteAddressBooks", Json::object(), someContacts)}),
         Writes("OBMS.DeleteAddressBooks All",
                {{"param", R"({"deleteAll": true, "vtoDeviceCode": "1000051", "vthDeviceCodes": ["1000052"]})"_json}},
-               {Held("/obms/contacts/1000051", Json::array()),
+               {StateAt("/obms/contacts/1000051", Json::array()),
                 Accepted("OBMS.DeleteAddressBooks", Json::object(), allContacts)}),
         WritesAndReads("OBMS.AlarmHostZoneSnapShot", {{"zoneId", "72"}, {"action", 4}},
                        {Accepted("OBMS.AlarmHostZoneSnapShot", {{"zoneId", "72"}}, {{"action", 4}})},

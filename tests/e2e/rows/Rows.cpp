@@ -13,7 +13,7 @@ namespace e2e {
 namespace {
 
 /// A row whose arguments, and whose record if the call reads, are the contract's examples.
-Row OfTheContract(const catalogue::Call& call)
+Row RowFromContract(const catalogue::Call& call)
 {
     static const emulator::Contract contract = emulator::Contract::Load(emulator::Options().contract);
     const emulator::Operation& operation = contract.operation(call.name);
@@ -36,20 +36,20 @@ Row OfTheContract(const catalogue::Call& call)
 
 }  // namespace
 
-Trace ReadBack(std::string call, Json arguments, Json record)
+Effect ReadBack(std::string call, Json arguments, Json record)
 {
     return {std::move(call), std::move(arguments), {}, std::move(record)};
 }
 
-Trace Held(std::string pointer, Json value)
+Effect StateAt(std::string pointer, Json value)
 {
     return {{}, {}, std::move(pointer), std::move(value)};
 }
 
-Trace Accepted(const std::string& operation, Json path, Json body)
+Effect Accepted(const std::string& operation, Json path, Json body)
 {
-    return Held("/accepted/" + operation + "/0",
-                {{"path", std::move(path)}, {"query", Json::object()}, {"body", std::move(body)}});
+    return StateAt("/accepted/" + operation + "/0",
+                   {{"path", std::move(path)}, {"query", Json::object()}, {"body", std::move(body)}});
 }
 
 Row Reads(const std::string& name, Json arguments, Expectation record, Json state)
@@ -59,16 +59,16 @@ Row Reads(const std::string& name, Json arguments, Expectation record, Json stat
     return row;
 }
 
-Row Writes(const std::string& name, Json arguments, std::vector<Trace> traces)
+Row Writes(const std::string& name, Json arguments, std::vector<Effect> effects)
 {
-    return WritesAndReads(name, std::move(arguments), std::move(traces), {});
+    return WritesAndReads(name, std::move(arguments), std::move(effects), {});
 }
 
-Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> traces, Expectation record)
+Row WritesAndReads(const std::string& name, Json arguments, std::vector<Effect> effects, Expectation record)
 {
     const std::size_t space = std::min(name.find(' '), name.size());
     return {name.substr(0, space), name.substr(std::min(space + 1, name.size())), std::move(arguments),
-            std::move(record), std::move(traces)};
+            std::move(record), std::move(effects)};
 }
 
 std::string Row::Name() const
@@ -94,7 +94,7 @@ const std::vector<Row>& Rows()
         }
         for (const catalogue::Call& call : catalogue::Calls()) {
             if (known.count(call.name) == 0) {
-                all.push_back(OfTheContract(call));
+                all.push_back(RowFromContract(call));
             }
         }
         return all;

@@ -8,8 +8,8 @@
 
 namespace e2e {
 
-/// Where a write must be visible: the value must differ before the call and be as expected after it.
-struct Trace {
+/// A change that a write must make: the value must differ before the call and be as expected after it.
+struct Effect {
     std::string call;  ///< the call that reads the value back; empty if none does
     Json arguments;
     std::string pointer;  ///< JSON pointer into the emulator's state, if no call reads the value back
@@ -17,11 +17,11 @@ struct Trace {
 };
 
 /// Read back by a call of the library.
-Trace ReadBack(std::string call, Json arguments, Json record);
+Effect ReadBack(std::string call, Json arguments, Json record);
 /// Found in the emulator's state; null if nothing is stored there.
-Trace Held(std::string pointer, Json value);
+Effect StateAt(std::string pointer, Json value);
 /// Recorded by the emulator as the first accepted request of its operation.
-Trace Accepted(const std::string& operation, Json path, Json body);
+Effect Accepted(const std::string& operation, Json path, Json body);
 
 /// A call, its expected record and its expected changes.
 struct Row {
@@ -29,7 +29,7 @@ struct Row {
     std::string variant;  ///< distinguishes further rows of the same call
     Json arguments = {};
     Expectation record = {};  ///< empty for a call without a record
-    std::vector<Trace> traces = {};
+    std::vector<Effect> effects = {};
     Json state = {};  ///< values by JSON pointer that are added to the emulator's seeds before the call
 
     [[nodiscard]] std::string Name() const;  ///< "BRMS_GetUserGroupList_Keyword"
@@ -38,8 +38,8 @@ struct Row {
 /// @name Rows of a call, named after the call and an optional variant: "BRMS.GetUserGroupList Keyword"
 /// @{
 Row Reads(const std::string& name, Json arguments, Expectation record, Json state = {});
-Row Writes(const std::string& name, Json arguments, std::vector<Trace> traces);
-Row WritesAndReads(const std::string& name, Json arguments, std::vector<Trace> traces, Expectation record);
+Row Writes(const std::string& name, Json arguments, std::vector<Effect> effects);
+Row WritesAndReads(const std::string& name, Json arguments, std::vector<Effect> effects, Expectation record);
 /// @}
 
 /// All rows below, and a row with the contract's examples for each call without one.
