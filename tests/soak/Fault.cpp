@@ -30,13 +30,13 @@ Fault Delayed(Random& random)
 Fault Status(Random& random)
 {
     const int status = OneOf(random, kStatuses);
-    return {"status", {{"kind", "status"}, {"status", status}}, Ending::Judged, status};
+    return {"status", {{"kind", "status"}, {"status", status}}, Ending::NotifiedOnRequest, status};
 }
 
 Fault Envelope(Random& random)
 {
     const int code = OneOf(random, kCodes);
-    return {"envelope", {{"kind", "envelope"}, {"code", code}, {"desc", "refused"}}, Ending::Judged, code};
+    return {"envelope", {{"kind", "envelope"}, {"code", code}, {"desc", "refused"}}, Ending::NotifiedOnRequest, code};
 }
 
 // A time-out takes a second, so these are rare.
@@ -48,24 +48,24 @@ constexpr std::array kKinds = {
     Kind{"delay", 3, false, &Delayed}, Kind{"status", 6, false, &Status},
     Kind{"unauthorised", 1, false,
          [](Random&) {
-             return Fault{"unauthorised", {{"kind", "status"}, {"status", 401}}, Ending::Broken, kUnauthorised};
+             return Fault{"unauthorised", {{"kind", "status"}, {"status", 401}}, Ending::AlwaysNotified, kUnauthorised};
          }},
     Kind{"envelope", 6, false, &Envelope},
     Kind{"empty", 2, false,
          [](Random&) {
-             return Fault{"empty", {{"kind", "empty"}}, Ending::Judged, kUnusable};
+             return Fault{"empty", {{"kind", "empty"}}, Ending::NotifiedOnRequest, kUnusable};
          }},
     Kind{"cut", 2, false,
          [](Random&) {
-             return Fault{"cut", {{"kind", "cut"}}, Ending::Judged, kUnusable};
+             return Fault{"cut", {{"kind", "cut"}}, Ending::NotifiedOnRequest, kUnusable};
          }},
     Kind{"notJson", 2, false,
          [](Random&) {
-             return Fault{"notJson", {{"kind", "notJson"}}, Ending::Judged, kUnusable};
+             return Fault{"notJson", {{"kind", "notJson"}}, Ending::NotifiedOnRequest, kUnusable};
          }},
     Kind{"array", 2, false,
          [](Random&) {
-             return Fault{"array", {{"kind", "text"}, {"body", "[{\"code\": 1000}]"}}, Ending::Judged, 0};
+             return Fault{"array", {{"kind", "text"}, {"body", "[{\"code\": 1000}]"}}, Ending::NotifiedOnRequest, 0};
          }},
     Kind{"large", 1, false,
          [](Random&) {
@@ -76,26 +76,33 @@ constexpr std::array kKinds = {
              return Fault{"slow", {{"kind", "slow"}, {"bytesPerSecond", 50'000}}};
          }},
     // Qt repeats a request whose connection closed, so these faults apply until they are cleared.
-    Kind{"closeBefore", 1.5, false,
-         [](Random&) {
-             return Fault{"closeBefore", {{"kind", "closeBefore"}, {"times", 0}}, Ending::Broken, kNetworkError};
-         }},
-    Kind{"closeMiddle", 1.5, false,
-         [](Random&) {
-             return Fault{"closeMiddle", {{"kind", "closeMiddle"}, {"times", 0}}, Ending::Broken, kNetworkError};
-         }},
+    Kind{
+        "closeBefore", 1.5, false,
+        [](Random&) {
+            return Fault{"closeBefore", {{"kind", "closeBefore"}, {"times", 0}}, Ending::AlwaysNotified, kNetworkError};
+        }},
+    Kind{
+        "closeMiddle", 1.5, false,
+        [](Random&) {
+            return Fault{"closeMiddle", {{"kind", "closeMiddle"}, {"times", 0}}, Ending::AlwaysNotified, kNetworkError};
+        }},
     Kind{"silent", 0.05, false,
          [](Random&) {
-             return Fault{"silent", {{"kind", "silent"}, {"times", 0}}, Ending::Broken, kTimedOut, 1};
+             return Fault{"silent", {{"kind", "silent"}, {"times", 0}}, Ending::AlwaysNotified, kTimedOut, 1};
          }},
     Kind{"noTime", 1, true,
          [](Random&) {
-             return Fault{
-                 "noTime", {{"kind", "delay"}, {"delayMs", 1000}, {"times", 0}}, Ending::Broken, kTimedOut, 0, false,
-                 true};
+             return Fault{"noTime",
+                          {{"kind", "delay"}, {"delayMs", 1000}, {"times", 0}},
+                          Ending::AlwaysNotified,
+                          kTimedOut,
+                          0,
+                          false,
+                          true};
          }},
     Kind{"parentDies", 0.5, true, [](Random&) {
-             return Fault{"parentDies", {{"kind", "silent"}, {"times", 0}}, Ending::Broken, kTimedOut, {}, true, true};
+             return Fault{"parentDies", {{"kind", "silent"}, {"times", 0}}, Ending::AlwaysNotified, kTimedOut, {}, true,
+                          true};
          }}};
 
 }  // namespace

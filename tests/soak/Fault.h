@@ -15,8 +15,8 @@ using Random = std::mt19937_64;
 /// The expected end of a call.
 enum class Ending {
     Success,
-    Judged,  ///< with a code that is returned, or notified on request
-    Broken   ///< with a code that is always notified
+    NotifiedOnRequest,  ///< with a code that is returned, or notified on request
+    AlwaysNotified      ///< with a code that is always notified
 };
 
 /// A fault of a call, and the expected outcome.

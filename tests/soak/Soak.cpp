@@ -227,7 +227,7 @@ const Soak::Candidate* Soak::Choose()
     return pChosen;
 }
 
-Soak::Making Soak::Draw(const Candidate& candidate)
+Soak::CallPlan Soak::Draw(const Candidate& candidate)
 {
     Fault fault = DrawFault(m_random, candidate.reads);
     // A request that is still on its way could receive this fault instead of the call.
@@ -242,12 +242,12 @@ Soak::Making Soak::Draw(const Candidate& candidate)
 
 void Soak::Make(const Candidate& candidate)
 {
-    const Making making = Draw(candidate);
+    const CallPlan plan = Draw(candidate);
     const bool isSecure = Chance(m_random, 0.5);
     m_users.servers[1].port = isSecure ? m_platform.HttpsPort() : m_platform.HttpPort();
     Library().SetHttpsMode(isSecure ? 1 : 0);
-    if (!making.fault.control.is_null()) {
-        Json fault = making.fault.control;
+    if (!plan.fault.control.is_null()) {
+        Json fault = plan.fault.control;
         fault["path"] = candidate.path;
         Control("POST", "faults", fault);
     }
@@ -256,17 +256,17 @@ void Soak::Make(const Candidate& candidate)
     std::vector<std::string> noticesOfOuter = std::exchange(m_notices, {});
     std::vector<std::string> loggedByOuter = std::exchange(m_logged, {});
     std::optional<QObject> others;
-    const bool isUndisturbed = making.fault.control.is_null() && making.fault.ending == Ending::Success;
+    const bool isUndisturbed = plan.fault.control.is_null() && plan.fault.ending == Ending::Success;
     if (isUndisturbed && m_families.size() < kMaxDepth && (!candidate.reads || Chance(m_random, kWithOthers))) {
         others.emplace();
         QTimer::singleShot(0, &*others, [this] { StartOthers(); });
     }
-    Judge(making, Execute(making));
+    Check(plan, Execute(plan));
     m_notices = std::move(noticesOfOuter);
     m_logged = std::move(loggedByOuter);
     m_families.pop_back();
 
-    if (!making.fault.control.is_null()) {
+    if (!plan.fault.control.is_null()) {
         Control("DELETE", "faults");
     }
     if (!candidate.reads) {
@@ -274,38 +274,38 @@ void Soak::Make(const Candidate& candidate)
     }
 }
 
-int Soak::Execute(const Making& making)
+int Soak::Execute(const CallPlan& plan)
 {
-    const catalogue::Call& call = *making.candidate->call;
-    const std::vector<catalogue::Value> arguments = ArgumentsOf(*making.candidate->row, call);
+    const catalogue::Call& call = *plan.candidate->call;
+    const std::vector<catalogue::Value> arguments = ArgumentsOf(*plan.candidate->row, call);
     std::optional<catalogue::Value> record;
     if (call.result != nullptr) {
         record.emplace(*call.result);
     }
     const auto pack = [&](void* pReqParamData) {
         const int result = Pack(call, arguments, pReqParamData);
-        if (making.fault.timeoutSeconds) {
-            static_cast<APIModule::RequestParam*>(pReqParamData)->nTimeout = *making.fault.timeoutSeconds;
+        if (plan.fault.timeoutSeconds) {
+            static_cast<APIModule::RequestParam*>(pReqParamData)->nTimeout = *plan.fault.timeoutSeconds;
         }
         return result;
     };
     const auto parse = [&](const QJsonObject& data) { return record ? call.parse(data, record->Data()) : 0; };
 
-    QWidget* pParent = making.withDialog ? &m_window : nullptr;
-    if (making.fault.parentDies) {
+    QWidget* pParent = plan.withDialog ? &m_window : nullptr;
+    if (plan.fault.parentDies) {
         pParent = new QWidget;
         pParent->show();
         QTimer::singleShot(kParentLivesMs, pParent, [pParent] { delete pParent; });
     }
-    const QString tip = making.withTip ? QString::fromStdString(kTip) : QString();
+    const QString tip = plan.withTip ? QString::fromStdString(kTip) : QString();
     if (Chance(m_random, kTyped)) {
         catalogue::RunSettings settings;
-        if (making.fault.timeoutSeconds) {
-            settings.timeout = std::chrono::seconds(*making.fault.timeoutSeconds);
+        if (plan.fault.timeoutSeconds) {
+            settings.timeout = std::chrono::seconds(*plan.fault.timeoutSeconds);
         }
-        return ResultOf(catalogue::Run(call, arguments, settings, pParent), tip, making.notified);
+        return ResultOf(catalogue::Run(call, arguments, settings, pParent), tip, plan.notified);
     }
-    return Library().ExecuteFuncs(pack, parse, QString::fromStdString(kCaption), pParent, tip, true, making.notified);
+    return Library().ExecuteFuncs(pack, parse, QString::fromStdString(kCaption), pParent, tip, true, plan.notified);
 }
 
 void Soak::StartOthers()
@@ -318,22 +318,23 @@ void Soak::StartOthers()
     }
 }
 
-void Soak::Judge(const Making& making, int result)
+void Soak::Check(const CallPlan& plan, int result)
 {
-    const Fault& fault = making.fault;
-    const bool isNotified = fault.ending == Ending::Broken || (fault.ending == Ending::Judged && making.notified);
+    const Fault& fault = plan.fault;
+    const bool isNotified =
+        fault.ending == Ending::AlwaysNotified || (fault.ending == Ending::NotifiedOnRequest && plan.notified);
     int expected = isNotified ? -1 : fault.code;
     std::vector<std::string> expectedNotices;
     if (isNotified) {
         expectedNotices.push_back(
             APIModule::CAPIModule::GetErroCodeInfor(QString::fromStdString(kCaption), fault.code, true).toStdString());
-    } else if (fault.ending == Ending::Success && making.withTip) {
+    } else if (fault.ending == Ending::Success && plan.withTip) {
         expectedNotices.push_back(kTip);
     }
-    m_tally.Count({making.candidate->call->family, making.candidate->call->name, fault.name, making.withDialog,
+    m_tally.Count({plan.candidate->call->family, plan.candidate->call->name, fault.name, plan.withDialog,
                    m_families.size(), result, fault.code});
     if (result != expected || m_notices != expectedNotices) {
-        m_tally.Fail(making.candidate->call->name + " with fault " + fault.name + " at depth " +
+        m_tally.Fail(plan.candidate->call->name + " with fault " + fault.name + " at depth " +
                      std::to_string(m_families.size()) + " returned " + std::to_string(result) + " instead of " +
                      std::to_string(expected) + ", notified: " + Listed(m_notices) + ", logged: " + Listed(m_logged));
     }

@@ -41,7 +41,7 @@ private:
     };
 
     /// How one call is made.
-    struct Making {
+    struct CallPlan {
         const Candidate* candidate;
         Fault fault;
         bool withDialog;
@@ -51,12 +51,12 @@ private:
 
     std::vector<Candidate> Candidates();
     const Candidate* Choose();
-    Making Draw(const Candidate& candidate);
+    CallPlan Draw(const Candidate& candidate);
     void Make(const Candidate& candidate);
     void Burst();
-    int Execute(const Making& making);
+    int Execute(const CallPlan& plan);
     void StartOthers();
-    void Judge(const Making& making, int result);
+    void Check(const CallPlan& plan, int result);
     void Control(const char* pMethod, const std::string& path, const Json& body = {});
 
     e2e::EmulatorProcess& m_platform;

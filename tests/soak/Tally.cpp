@@ -34,19 +34,21 @@ struct Summary {
     int objects;
 };
 
-Summary SummaryOf(std::vector<Holding> tenth)
+Summary SummaryOf(std::vector<ResourceUsage> tenth)
 {
     Summary summary{};
     if (tenth.empty()) {
         return summary;
     }
-    const auto byDescriptors = [](const Holding& a, const Holding& b) { return a.descriptors < b.descriptors; };
-    const auto byObjects = [](const Holding& a, const Holding& b) { return a.objects < b.objects; };
+    const auto byDescriptors = [](const ResourceUsage& a, const ResourceUsage& b) {
+        return a.descriptors < b.descriptors;
+    };
+    const auto byObjects = [](const ResourceUsage& a, const ResourceUsage& b) { return a.objects < b.objects; };
     summary.descriptors = std::min_element(tenth.begin(), tenth.end(), byDescriptors)->descriptors;
     summary.objects = std::min_element(tenth.begin(), tenth.end(), byObjects)->objects;
     const auto middle = std::next(tenth.begin(), static_cast<std::ptrdiff_t>(tenth.size() / 2));
     std::nth_element(tenth.begin(), middle, tenth.end(),
-                     [](const Holding& a, const Holding& b) { return a.residentKiB < b.residentKiB; });
+                     [](const ResourceUsage& a, const ResourceUsage& b) { return a.residentKiB < b.residentKiB; });
     summary.residentKiB = middle->residentKiB;
     return summary;
 }
@@ -78,16 +80,16 @@ int Objects()
 
 }  // namespace
 
-Holding Holding::Now()
+ResourceUsage ResourceUsage::Now()
 {
     return {ResidentKiB(), Descriptors(), Objects()};
 }
 
-void Tally::Count(const Made& made)
+void Tally::Count(const FinishedCall& made)
 {
     ++m_calls;
     m_withDialog += made.withDialog ? 1 : 0;
-    m_inside += made.depth > 1 ? 1 : 0;
+    m_nested += made.depth > 1 ? 1 : 0;
     ++m_byFamily[made.family];
     ++m_byCall[made.call];
     ++m_byFault[made.fault][{made.result, made.code}];
@@ -103,9 +105,9 @@ void Tally::Fail(const std::string& what)
 void Tally::Sample(double progress)
 {
     const auto tenth = std::min(kTenths - 1, static_cast<std::size_t>(progress * kTenths));
-    m_tenths.at(tenth).push_back(Holding::Now());
+    m_tenths.at(tenth).push_back(ResourceUsage::Now());
     m_callsUntil.at(tenth) = m_calls;
-    const Holding& now = m_tenths.at(tenth).back();
+    const ResourceUsage& now = m_tenths.at(tenth).back();
     std::cout << std::setw(3) << std::lround(progress * 100) << " %  " << m_calls << " calls, " << m_failures
               << " failed, " << std::lround(now.residentKiB) << " KiB, " << now.descriptors << " descriptors, "
               << now.objects << " objects" << std::endl;
@@ -119,7 +121,7 @@ void Tally::PrintTables() const
     }
     const auto fewest = std::min_element(m_byCall.begin(), m_byCall.end(),
                                          [](const auto& a, const auto& b) { return a.second < b.second; });
-    std::cout << "  all " << std::setw(10) << m_calls << ", " << m_withDialog << " with a wait dialog, " << m_inside
+    std::cout << "  all " << std::setw(10) << m_calls << ", " << m_withDialog << " with a wait dialog, " << m_nested
               << " during the wait of another\n  " << m_byCall.size() << " different calls, each made "
               << (fewest == m_byCall.end() ? 0 : fewest->second) << " times or more\n";
 

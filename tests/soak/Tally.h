@@ -11,7 +11,7 @@
 namespace soak {
 
 /// A call that was made, and how it ended.
-struct Made {
+struct FinishedCall {
     std::string family;
     std::string call;
     std::string fault;
@@ -22,18 +22,18 @@ struct Made {
 };
 
 /// What the process held at one moment.
-struct Holding {
+struct ResourceUsage {
     double residentKiB = 0;
     int descriptors = 0;
     int objects = 0;
 
-    static Holding Now();
+    static ResourceUsage Now();
 };
 
 /// Counts calls and samples the resources of the process.
 class Tally {
 public:
-    void Count(const Made& made);
+    void Count(const FinishedCall& call);
     void Fail(const std::string& what);
     /// @param progress from 0 to 1
     void Sample(double progress);
@@ -47,12 +47,12 @@ public:
 
 private:
     static constexpr std::size_t kTenths = 10;
-    using Tenth = std::vector<Holding>;
+    using Tenth = std::vector<ResourceUsage>;
 
     std::size_t m_calls = 0;
     std::size_t m_failures = 0;
     std::size_t m_withDialog = 0;
-    std::size_t m_inside = 0;
+    std::size_t m_nested = 0;
     std::map<std::string, std::size_t> m_byFamily;
     std::map<std::string, std::size_t> m_byCall;
     std::map<std::string, std::map<std::pair<int, int>, std::size_t>> m_byFault;
