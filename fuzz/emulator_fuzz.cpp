@@ -222,10 +222,10 @@ std::vector<HttpRequest> ExpectReading(std::string_view bytes)
                                                     std::string(bytes));
     }
     for (const HttpRequest& request : complete.requests) {
-        const auto came = [bytes](const std::string& text) { return bytes.find(text) != std::string_view::npos; };
-        fuzz::Require(came(request.method + ' ' + request.target + " HTTP/1."), request.target);
+        const auto isReceived = [bytes](const std::string& text) { return bytes.find(text) != std::string_view::npos; };
+        fuzz::Require(isReceived(request.method + ' ' + request.target + " HTTP/1."), request.target);
         for (const auto& [name, value] : request.headers) {
-            fuzz::Require(came(name + ':') && came(value), name);
+            fuzz::Require(isReceived(name + ':') && isReceived(value), name);
         }
     }
     return complete.requests;
