@@ -387,7 +387,7 @@ TEST_F(FaultListTest, SkipsRequestsThatFitBeforeItHits)
     EXPECT_EQ(codeOf(kTimeSync), 1000);
 }
 
-TEST_F(FaultListTest, AFaultThatSkipsLeavesTheRequestToTheNextOne)
+TEST_F(FaultListTest, SkippedRequestIsLeftToTheNextFault)
 {
     Fault fault = FaultOf(Fault::Kind::Envelope, kTimeSync);
     fault.code = 5;

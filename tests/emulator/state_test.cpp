@@ -262,7 +262,7 @@ struct RecordedWrite {
 };
 class RecordedWriteTest : public EmulatorTableTest, public testing::WithParamInterface<RecordedWrite> {};
 
-TEST_P(RecordedWriteTest, IsInTheStateThoughNoCallReadsIt)
+TEST_P(RecordedWriteTest, IsRecordedInTheState)
 {
     EXPECT_EQ(ClientOf(m_platform)->request("POST", GetParam().target, GetParam().body).code(), 1000);
     const Json accepted = m_platform.state().at("accepted").at(GetParam().operation);

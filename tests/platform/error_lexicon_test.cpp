@@ -98,7 +98,7 @@ TEST_F(ErrorLexiconTest, LanguagesHaveTheSameCodesAndNoEmptyText)
         for (auto entry = texts.begin(); entry != texts.end(); ++entry) {
             const std::string strText = entry.value().toString().toStdString();
             EXPECT_FALSE(strText.empty()) << entry.key().toStdString();
-            EXPECT_EQ(Text(entry.key().toInt()), strText) << "compiled in from " << file.fileName().toStdString();
+            EXPECT_EQ(Text(entry.key().toInt()), strText) << "differs from " << file.fileName().toStdString();
         }
     }
 }

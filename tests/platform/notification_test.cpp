@@ -31,12 +31,12 @@ OrnMessageNotify& Notify()
     return OrnSingleton<OrnMessageNotify>::Instance();
 }
 
-void Passing(const QString& strText)
+void AddTransient(const QString& strText)
 {
     Notify().AddTextNotification(strText, false, QString(), QString(), false);
 }
 
-void Staying(const QString& strText)
+void AddPersistent(const QString& strText)
 {
     Notify().AddTextNotification(strText, false, QString(), QString(), true);
 }
@@ -125,14 +125,14 @@ protected:
 TEST_F(NotificationTest, SignalIsEmittedOnceInsideTheCall)
 {
     QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
-    Passing(QStringLiteral("<i>text</i>"));
+    AddTransient(QStringLiteral("<i>text</i>"));
     ASSERT_EQ(added.count(), 1);
     EXPECT_EQ(added.first().first().toString(), QStringLiteral("<i>text</i>"));
 }
 
 TEST_F(NotificationTest, ToastIsShownAtOnceWithoutTakingFocus)
 {
-    Passing(QStringLiteral("Saved"));
+    AddTransient(QStringLiteral("Saved"));
     ASSERT_EQ(Texts(), QStringList(QStringLiteral("Saved")));
     const QWidget* pToast = Toasts().at(0);
     EXPECT_TRUE(pToast->testAttribute(Qt::WA_ShowWithoutActivating));
@@ -145,7 +145,7 @@ TEST_F(NotificationTest, ToastIsShownAtOnceWithoutTakingFocus)
 TEST_F(NotificationTest, TextIsPlain)
 {
     const QString strText = QStringLiteral("<b>bold</b> &amp; <a href=\"x\">link</a>");
-    Passing(strText);
+    AddTransient(strText);
     const auto* pLabel = Toasts().at(0)->findChild<QLabel*>();
     EXPECT_EQ(pLabel->textFormat(), Qt::PlainText);
     EXPECT_EQ(pLabel->text(), strText);
@@ -155,9 +155,9 @@ TEST_F(NotificationTest, TextIsPlain)
 TEST_F(NotificationTest, ToastsStackInTheCornerOfTheActiveWindowAndFollowIt)
 {
     for (const char* text : {"one", "two", "three"}) {
-        Staying(QString::fromUtf8(text));
+        AddPersistent(QString::fromUtf8(text));
     }
-    Passing(QStringLiteral("four"));
+    AddTransient(QStringLiteral("four"));
     const auto expectStacked = [&](const char* step) {
         const QWidgetList toasts = Toasts();
         ASSERT_GE(toasts.size(), 3) << step;
@@ -180,14 +180,14 @@ TEST_F(NotificationTest, WithoutAnActiveWindowToastsStackInTheCornerOfTheScreen)
 {
     window.hide();
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() == nullptr; }));
-    Staying(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("one"));
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(area.bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
 TEST_F(NotificationTest, ToastsMoveToTheWindowThatBecomesActive)
 {
-    Staying(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("one"));
     QWidget other;
     other.setGeometry(20, 20, 400, 300);
     other.show();
@@ -202,7 +202,7 @@ TEST_F(NotificationTest, ToastsIgnoreTheWaitDialog)
     dialog.show();
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    Staying(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("one"));
     EXPECT_EQ(window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 }
 
@@ -212,8 +212,8 @@ TEST_F(NotificationTest, ToastsStayOnTheScreenWhereverTheWindowIs)
     for (const QRect& geometry : {QRect(screen.right() - 50, screen.bottom() - 50, 300, 300),
                                   QRect(-400, -300, 420, 320), QRect(0, 0, 60, 40)}) {
         window.setGeometry(geometry);
-        Staying(QStringLiteral("one"));
-        Passing(QStringLiteral("two"));
+        AddPersistent(QStringLiteral("one"));
+        AddTransient(QStringLiteral("two"));
         ASSERT_GE(Toasts().size(), 2);
         const QWidgetList toasts = Toasts();
         for (const QWidget* pToast : toasts) {
@@ -224,8 +224,8 @@ TEST_F(NotificationTest, ToastsStayOnTheScreenWhereverTheWindowIs)
 
 TEST_F(NotificationTest, ClickClosesAPersistentToastAndTheOthersMoveUp)
 {
-    Staying(QStringLiteral("one"));
-    Staying(QStringLiteral("two"));
+    AddPersistent(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("two"));
     QTest::mouseClick(Toasts().at(0), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return Texts() == QStringList(QStringLiteral("two")) &&
@@ -235,7 +235,7 @@ TEST_F(NotificationTest, ClickClosesAPersistentToastAndTheOthersMoveUp)
 
 TEST_F(NotificationTest, ClickOnTheTextClosesTheToast)
 {
-    Staying(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("one"));
     QTest::mouseClick(Toasts().at(0)->findChild<QLabel*>(), Qt::LeftButton);
     EXPECT_TRUE(Toasts().isEmpty());
 }
@@ -244,7 +244,7 @@ TEST_F(NotificationTest, ManyPersistentToastsAreShownInTurn)
 {
     constexpr int kMany = 40;
     for (int i = 0; i < kMany; ++i) {
-        Staying(QString::number(i));
+        AddPersistent(QString::number(i));
     }
     QStringList seen;
     EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -262,9 +262,9 @@ TEST_F(NotificationTest, ManyPersistentToastsAreShownInTurn)
 TEST_F(NotificationTest, PersistentToastsLeaveRoomForTransientOnes)
 {
     for (int i = 0; i < 40; ++i) {
-        Staying(QString::number(i));
+        AddPersistent(QString::number(i));
     }
-    Passing(QStringLiteral("passing"));
+    AddTransient(QStringLiteral("passing"));
     EXPECT_TRUE(Texts().contains(QStringLiteral("passing")));
 }
 
@@ -273,7 +273,7 @@ TEST_F(NotificationTest, ButtonOpensTheLinkAndClosesItsToast)
     Desktop desktop;
     Notify().AddTextNotification(QStringLiteral("Export finished"), true, QStringLiteral("Show & tell"),
                                  QStringLiteral("vms://export/7?a=b&c=%20d"), true);
-    Staying(QStringLiteral("other"));
+    AddPersistent(QStringLiteral("other"));
     QAbstractButton* pButton = ButtonOf(Toasts().at(0));
     ASSERT_NE(pButton, nullptr);
     EXPECT_EQ(pButton->text(), QStringLiteral("Show && tell"));
@@ -304,8 +304,8 @@ TEST_F(NotificationTest, ButtonMayLackTextAndLink)
 TEST_F(NotificationTest, EmptyTextShowsNoToast)
 {
     QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
-    Staying(QString());
-    Staying(QStringLiteral(" \n\t"));
+    AddPersistent(QString());
+    AddPersistent(QStringLiteral(" \n\t"));
     EXPECT_EQ(added.count(), 2);
     EXPECT_TRUE(Toasts().isEmpty());
     Notify().AddTextNotification(QString(), true, QStringLiteral("Open"), QString(), true);
@@ -339,18 +339,18 @@ TEST_F(NotificationTest, TextOfAFewLinesIsShownCompletely)
 {
     const QString strText = QStringLiteral("A message that needs several lines of the toast to be shown completely,\n"
                                            "with its own line break.");
-    Staying(strText);
+    AddPersistent(strText);
     EXPECT_EQ(Texts(), QStringList(strText));
     EXPECT_GT(Toasts().at(0)->height(), 60);
 }
 
-TEST_F(NotificationTest, EqualOnesInARowAreOneToastWithTheirNumber)
+TEST_F(NotificationTest, ConsecutiveEqualNotificationsShareOneCountedToast)
 {
     QSignalSpy added(&Notify(), &OrnMessageNotify::TextNotificationAdded);
-    Passing(QStringLiteral("Saved"));
+    AddTransient(QStringLiteral("Saved"));
     EXPECT_EQ(CountOf(Toasts().at(0)), QString());
     for (int i = 0; i < 11; ++i) {
-        Passing(QStringLiteral("Saved"));
+        AddTransient(QStringLiteral("Saved"));
     }
     EXPECT_EQ(added.count(), 12);
     ASSERT_EQ(Texts(), QStringList(QStringLiteral("Saved")));
@@ -359,13 +359,13 @@ TEST_F(NotificationTest, EqualOnesInARowAreOneToastWithTheirNumber)
         Toasts().at(0)->rect().contains(Toasts().at(0)->findChild<QLabel*>(QStringLiteral("count"))->geometry()));
     EXPECT_EQ(window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight(), QPoint(16, 16));
 
-    Passing(QStringLiteral("other"));
-    Passing(QStringLiteral("Saved"));
+    AddTransient(QStringLiteral("other"));
+    AddTransient(QStringLiteral("Saved"));
     EXPECT_EQ(Texts(), (QStringList{QStringLiteral("Saved"), QStringLiteral("other"), QStringLiteral("Saved")}));
     EXPECT_EQ(CountOf(Toasts().at(2)), QString());
 }
 
-TEST_F(NotificationTest, OnesThatDifferInMoreThanTheirTextAreToastsOfTheirOwn)
+TEST_F(NotificationTest, NotificationsThatDifferInMoreThanTheirTextGetSeparateToasts)
 {
     const QString strText = QStringLiteral("Export finished");
     const auto add = [&](bool bWithButton, const char* button, const char* link, bool bStayOpen) {
@@ -379,19 +379,19 @@ TEST_F(NotificationTest, OnesThatDifferInMoreThanTheirTextAreToastsOfTheirOwn)
     EXPECT_EQ(Toasts().size(), 3);
     EXPECT_EQ(CountOf(Toasts().at(2)), QStringLiteral("\u00d7 2"));
     QTest::mouseClick(Toasts().at(2), Qt::LeftButton, {}, QPoint(3, 3));
-    EXPECT_EQ(Toasts().size(), 2) << "one click closes all that it stands for";
+    EXPECT_EQ(Toasts().size(), 2) << "one click closes the toast with all its notifications";
     add(true, "Open", "vms://2", true);
     EXPECT_EQ(CountOf(Toasts().at(2)), QString());
 }
 
-TEST_F(NotificationTest, OnesThatWaitForRoomAreCountedToo)
+TEST_F(NotificationTest, EqualNotificationsAreCountedWhileTheyWaitForRoom)
 {
     for (int i = 0; i < 4; ++i) {
-        Staying(QString::number(i));
+        AddPersistent(QString::number(i));
     }
     const qsizetype nShown = Toasts().size();
     for (int i = 0; i < 3; ++i) {
-        Staying(QStringLiteral("waiting"));
+        AddPersistent(QStringLiteral("waiting"));
     }
     EXPECT_EQ(Toasts().size(), nShown);
     QStringList counts;
@@ -407,21 +407,21 @@ TEST_F(NotificationTest, OnesThatWaitForRoomAreCountedToo)
     EXPECT_EQ(counts, QStringList(QStringLiteral("\u00d7 3")));
 }
 
-TEST_F(NotificationTest, AToastThatIsRepeatedWithoutEndClosesWithinTenSeconds)
+TEST_F(NotificationTest, EndlesslyRepeatedToastClosesWithinTenSeconds)
 {
-    Passing(QStringLiteral("again"));
+    AddTransient(QStringLiteral("again"));
     QPointer<QWidget> pFirst = Toasts().at(0);
     QElapsedTimer clock;
     clock.start();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
-            Passing(QStringLiteral("again"));
+            AddTransient(QStringLiteral("again"));
             return !pFirst || !pFirst->isVisible();
         },
         15000));
-    EXPECT_GE(clock.elapsed(), 6000) << "the latest one can be read";
+    EXPECT_GE(clock.elapsed(), 6000) << "the latest notification must stay long enough to be read";
     EXPECT_LE(clock.elapsed(), 10000);
-    EXPECT_EQ(Toasts().size(), 1) << "another one counts on";
+    EXPECT_EQ(Toasts().size(), 1) << "a new toast must continue the count";
 }
 
 class DialogTest : public NotificationTest {
@@ -461,7 +461,7 @@ protected:
     QDialog dialog{&window};
 };
 
-TEST_F(DialogTest, ToastsStandBesideTheActiveDialog)
+TEST_F(DialogTest, ToastsAppearBesideTheActiveDialog)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QRect places[] = {{120, 60, 300, 300},
@@ -470,8 +470,8 @@ TEST_F(DialogTest, ToastsStandBesideTheActiveDialog)
                             {screen.left() + 20, screen.top() + 20, screen.width() - 40, 200}};
     for (const QRect& place : places) {
         Open(place);
-        Staying(QStringLiteral("one"));
-        Passing(QStringLiteral("two"));
+        AddPersistent(QStringLiteral("one"));
+        AddTransient(QStringLiteral("two"));
         ASSERT_FALSE(Toasts().isEmpty());
         EXPECT_FALSE(CoversADialog()) << place.x() << ' ' << place.y();
         EXPECT_TRUE(OnScreen()) << place.x() << ' ' << place.y();
@@ -480,7 +480,7 @@ TEST_F(DialogTest, ToastsStandBesideTheActiveDialog)
 
 TEST_F(DialogTest, ToastsMakeRoomForADialogThatOpensOrMoves)
 {
-    Staying(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("one"));
     dialog.setGeometry(Toasts().at(0)->geometry());
     dialog.show();
     EXPECT_FALSE(CoversADialog()) << "shown";
@@ -494,12 +494,12 @@ TEST_F(DialogTest, ToastsMakeRoomForADialogThatOpensOrMoves)
         [&] { return window.geometry().bottomRight() - Toasts().at(0)->geometry().bottomRight() == QPoint(16, 16); }));
 }
 
-TEST_F(DialogTest, ADialogOfTheSizeOfTheScreenKeepsItsControlsInSight)
+TEST_F(DialogTest, ToastsDoNotCoverTheControlsOfAFullScreenDialog)
 {
     const auto buttons = dialog.findChildren<QAbstractButton*>();
     dialog.findChild<QPlainTextEdit*>()->setFocusPolicy(Qt::NoFocus);  // only the buttons in the corner
     Open(QGuiApplication::primaryScreen()->availableGeometry());
-    Staying(QStringLiteral("one"));
+    AddPersistent(QStringLiteral("one"));
     for (const QAbstractButton* pButton : buttons) {
         const QRect button(pButton->mapToGlobal(QPoint()), pButton->size());
         EXPECT_FALSE(Toasts().at(0)->geometry().intersects(button)) << pButton->text().toStdString();
@@ -511,8 +511,8 @@ TEST_F(NotificationTest, TransientToastClosesAfterAboutFiveSecondsAndPersistentO
 {
     QElapsedTimer clock;
     clock.start();
-    Passing(QStringLiteral("passing"));
-    Staying(QStringLiteral("staying"));
+    AddTransient(QStringLiteral("passing"));
+    AddPersistent(QStringLiteral("staying"));
     EXPECT_TRUE(QTest::qWaitFor([] { return Texts() == QStringList(QStringLiteral("staying")); }, 8000));
     EXPECT_GE(clock.elapsed(), 4000);
     EXPECT_LE(clock.elapsed(), 6500);
@@ -525,7 +525,7 @@ TEST_F(NotificationTest, ThousandsOfToastsCloseWithinTenSeconds)
     QElapsedTimer clock;
     clock.start();
     for (int i = 0; i < kMany; ++i) {
-        Passing(QString::number(i));
+        AddTransient(QString::number(i));
     }
     EXPECT_EQ(added.count(), kMany);
 
