@@ -39,7 +39,7 @@ Paths PathsOf(const catalogue::Type& type, const std::string& where = {})
 }
 
 /// Other values of the same JSON type; at least one of them is read as a different value.
-Json Others(const Json& value)
+Json OtherValues(const Json& value)
 {
     if (value.is_boolean()) {
         return Json::array({!value.get<bool>()});
@@ -61,7 +61,7 @@ Paths Differences(const Json& left, const Json& right)
 }
 
 /// Values that the platform sends but the library ignores.
-const std::set<std::pair<std::string, std::string>>& NotRead()
+const std::set<std::pair<std::string, std::string>>& IgnoredValues()
 {
     static const std::set<std::pair<std::string, std::string>> paths = {
         {"BRMS.GetPageSummaryAlarmPlans", "/totalCount"}};
@@ -112,11 +112,11 @@ TEST_P(Example, IsReadCompletely)
         EXPECT_EQ(reading.result, 0) << data;
         const Json values = data.flatten();
         for (const auto& [path, value] : values.items()) {
-            if (value.is_null() || NotRead().count({call.name, path}) != 0) {
+            if (value.is_null() || IgnoredValues().count({call.name, path}) != 0) {
                 continue;  // null stands for an empty list or object
             }
             Paths changed;
-            const Json others = Others(value);
+            const Json others = OtherValues(value);
             for (const Json& other : others) {
                 Json changedData = data;
                 changedData[Json::json_pointer(path)] = other;
@@ -155,7 +155,7 @@ TEST(Document, HasAnOperationForEveryCall)
     EXPECT_EQ(operations, calls);
 }
 
-TEST(Document, HasDataForEveryCallThatReadsThem)
+TEST(Document, HasDataExactlyForCallsThatReadIt)
 {
     for (const catalogue::Call& call : catalogue::Calls()) {
         const Json schema = Document().operation(call.name).dataSchema;

@@ -340,7 +340,7 @@ TEST(SeedTest, ListsDoNotDependOnReadingOrder)
     EXPECT_EQ(state.at("/brms/users").size(), 24U);
     EXPECT_EQ(state.at(device), "1000003-2");
     state.at("/inventory/devices").erase(0);
-    EXPECT_EQ(state[device], "1000004-2") << "multiplied once";
+    EXPECT_EQ(state[device], "1000004-2") << "must be multiplied only once";
     state["/brms/warnDisks"] = Json::array();
     EXPECT_EQ(state.families().at("brms").at("warnDisks"), Json::array());
     EXPECT_EQ(state.families().at("inventory").at("channels").size(), 78U);

@@ -63,7 +63,7 @@ TEST_F(ControlTest, OneFaultIsRemoved)
     EXPECT_TRUE(m_platform.faults().empty());
 }
 
-TEST_F(ControlTest, RequestsAreListedFromANumberOn)
+TEST_F(ControlTest, RequestsAreListedAfterANumber)
 {
     for (int i = 0; i < 3; ++i) {
         m_client->get(kTimeSync);
@@ -78,7 +78,7 @@ TEST_F(ControlTest, RequestsAreListedFromANumberOn)
     }
 }
 
-TEST_F(ControlTest, RequestsHaveTheirTimeAndWhetherTheyEnded)
+TEST_F(ControlTest, RequestsReportTheirTimeAndWhetherTheyEnded)
 {
     m_control->post(kFaults, Json{{"kind", "silent"}});
     m_control->post(kFaults, Json{{"kind", "closeBefore"}});
@@ -271,7 +271,7 @@ TEST_F(ControlTest, CallsReadWhatAPatchWrote)
     EXPECT_NE(m_client->get(kTimeSync).data().at("ntpIp"), "192.0.2.7");
 }
 
-TEST_F(ControlTest, PatchThatIsNoObjectChangesNothing)
+TEST_F(ControlTest, NonObjectPatchChangesNothing)
 {
     const Json before = m_platform.state();
     for (const char* patch : {"", "{", "[]", "null", "7"}) {

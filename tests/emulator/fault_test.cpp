@@ -305,7 +305,7 @@ protected:
     std::unique_ptr<TestClient> m_client = ClientOf(m_platform);
 };
 
-TEST_F(FaultListTest, HitsItsPathTheGivenNumberOfTimes)
+TEST_F(FaultListTest, AppliesToItsPathTheGivenNumberOfTimes)
 {
     addEnvelope("/brms/api/v1.1/config/time", 5, 2);
     EXPECT_EQ(codeOf(kPrivacy), 1000);
@@ -342,7 +342,7 @@ TEST_F(FaultListTest, PathPrefixMayIncludeQuery)
     EXPECT_EQ(codeOf("/brms/api/v1.1/config/local/setting?settingType=2"), 5);
 }
 
-TEST_F(FaultListTest, HitsOnlyItsMethod)
+TEST_F(FaultListTest, AppliesOnlyToItsMethod)
 {
     addEnvelope(kPrivacy, 5, 1);
     Fault fault = m_platform.faults().front();
@@ -354,7 +354,7 @@ TEST_F(FaultListTest, HitsOnlyItsMethod)
     EXPECT_EQ(m_client->put(kPrivacy, {{"enable", 1}}).code(), 1000);
 }
 
-TEST_F(FaultListTest, HitsRequestsOfItsOperation)
+TEST_F(FaultListTest, AppliesToRequestsOfItsOperation)
 {
     Fault fault = FaultOf(Fault::Kind::Envelope, "");
     fault.code = 5;
@@ -372,7 +372,7 @@ TEST_F(FaultListTest, HitsRequestsOfItsOperation)
     EXPECT_THROW(m_platform.addFault(fault), std::invalid_argument);
 }
 
-TEST_F(FaultListTest, SkipsRequestsThatFitBeforeItHits)
+TEST_F(FaultListTest, SkipsMatchingRequestsBeforeItApplies)
 {
     Fault fault = FaultOf(Fault::Kind::Envelope, kTimeSync);
     fault.code = 5;
@@ -380,7 +380,7 @@ TEST_F(FaultListTest, SkipsRequestsThatFitBeforeItHits)
     fault.times = 2;
     m_platform.addFault(fault);
     EXPECT_EQ(codeOf(kTimeSync), 1000);
-    EXPECT_EQ(codeOf(kPrivacy), 1000) << "does not fit and is not counted";
+    EXPECT_EQ(codeOf(kPrivacy), 1000) << "does not match and is not counted";
     EXPECT_EQ(codeOf(kTimeSync), 1000);
     EXPECT_EQ(codeOf(kTimeSync), 5);
     EXPECT_EQ(codeOf(kTimeSync), 5);

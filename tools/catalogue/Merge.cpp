@@ -22,8 +22,8 @@ std::string SubjectOf(const Call& write)
     return {};
 }
 
-/// Whether a value of the type can be taken from a record of another one.
-bool Brings(const Type& record, const Type& wanted)
+/// Whether a value of the wanted type can be taken from the record.
+bool Provides(const Type& record, const Type& wanted)
 {
     return &record == &wanted ||
            (record.kind == Kind::Record && wanted.kind == Kind::Record &&
@@ -61,7 +61,7 @@ std::optional<MatchingRead> FindMatchingRead(const Call& write)
         return std::nullopt;
     }
     for (const Argument& argument : write.arguments) {
-        if (Brings(*read->result, *argument.type)) {
+        if (Provides(*read->result, *argument.type)) {
             return MatchingRead{read, &argument};
         }
     }

@@ -18,10 +18,10 @@ using nlohmann::json;
 constexpr int kMost = 500;  // per source or list
 
 /// "channelId" of "channelIds".
-QString Single(const QString& name)
+QString Singular(const QString& name)
 {
-    static const QRegularExpression several(QStringLiteral("(?:Id|Code|^id|^code)s$"));
-    return several.match(name).hasMatch() ? name.chopped(1) : name;
+    static const QRegularExpression plural(QStringLiteral("(?:Id|Code|^id|^code)s$"));
+    return plural.match(name).hasMatch() ? name.chopped(1) : name;
 }
 
 /// The subject of a call, in lower case: "quickcommand" of "DelQuickCommand".
@@ -73,8 +73,8 @@ bool Identifiers::AddRecord(const catalogue::Type& type, const json& record)
         }
         const std::string key(field.name);
         const QString identifier = QString::fromStdString(catalogue::PlainText(record.at(key)));
-        const QString around = QString::fromUtf8(type.name.data(), int(type.name.size())).toLower();
-        Known& known = m_known[{QString::fromStdString(key), around}];
+        const QString enclosing = QString::fromUtf8(type.name.data(), int(type.name.size())).toLower();
+        Known& known = m_known[{QString::fromStdString(key), enclosing}];
         if (!identifier.isEmpty() && known.size() < kMost && !known.contains(identifier)) {
             known.insert(identifier, name);
             isNew = true;
@@ -85,7 +85,7 @@ bool Identifiers::AddRecord(const catalogue::Type& type, const json& record)
 
 QVector<Completion> Identifiers::For(const catalogue::Call& call, const QString& name) const
 {
-    const QString wanted = Single(name);
+    const QString wanted = Singular(name);
     if (!catalogue::IsIdentifier(wanted.toStdString())) {
         return {};
     }
