@@ -14,6 +14,7 @@
 #include <atomic>
 #include <functional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 using namespace testing_support;
@@ -190,15 +191,12 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Waits, EndTest, testing::Values(InLoop, BehindDialog),
                          [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
 
-TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilAboutToQuit)
+TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilExecReturns)
 {
     TestApplication application(g_argc, g_argv);
     const Server server(*this);
     int nDuring = 99;
     int nAfter = 99;
-    bool bNotifiedBefore = false;
-    bool bNotified = false;
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] { bNotified = true; });
     QElapsedTimer elapsed;
     elapsed.start();
     QTimer::singleShot(0, &application, [&] {
@@ -207,12 +205,9 @@ TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilAboutToQuit)
         EXPECT_GE(elapsed.elapsed(), 90);
         EXPECT_EQ(notifications.Take(), TimeOutNotice());
         nAfter = Run(QStringLiteral("/silent"));
-        bNotifiedBefore = bNotified;
     });
     QApplication::exec();
     EXPECT_LT(elapsed.elapsed(), 10000) << "both calls must end long before their 20 s";
-    EXPECT_TRUE(bNotified);
-    EXPECT_FALSE(bNotifiedBefore);
     EXPECT_EQ(nDuring, -1);
     EXPECT_EQ(nAfter, -1);
     EXPECT_EQ(notifications.Take(), TimeOutNotice());
@@ -299,7 +294,11 @@ TEST_P(EndTest, SecondQuitEndsACallInAnAboutToQuitSlot)
     std::vector<int> results;
     QElapsedTimer elapsed;
     elapsed.start();
+    bool bEntered = false;
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] {
+        if (std::exchange(bEntered, true)) {
+            return;  // recent versions of Qt emit the signal at every exit
+        }
         QTimer::singleShot(100, &application, [] { QCoreApplication::exit(); });
         results.push_back(Run(QStringLiteral("/silent")));
         results.push_back(Run(QStringLiteral("/silent")));

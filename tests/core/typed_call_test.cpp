@@ -641,11 +641,10 @@ TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
 TEST_F(TypedCall, CancelAfterParsingCallsNothing)
 {
     Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    g_parseMilliseconds = 300;
     bool bCalled = false;
     CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
-    while (g_parsed == 0) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-    }
+    EXPECT_TRUE(Await([] { return g_parsing.load() == 1; }));
     QThreadPool::globalInstance()->waitForDone();  // the record waits in the event queue
     handle.Cancel();
     QCoreApplication::processEvents();

@@ -201,7 +201,7 @@ TEST_F(OverwritingTest, AsksAboutANewElementThatIsNotFilledIn)
     ASSERT_NE(pQuestion, nullptr);
     const QStringList rows = RowsOf(*pQuestion);
     ASSERT_EQ(rows.size(), 1);
-    EXPECT_TRUE(rows.front().startsWith(QLatin1String("/command/httpUrls/0|not known|"))) << rows.front().toStdString();
+    EXPECT_TRUE(rows.front().startsWith(QLatin1String("/command/httpUrls/0|unknown|"))) << rows.front().toStdString();
     pQuestion->findChild<QPushButton*>(QStringLiteral("cancelOverwrite"))->click();
     EXPECT_TRUE(outcomes.empty());
 
@@ -222,7 +222,7 @@ TEST_F(OverwritingTest, QuestionExplainsAFailedRead)
     const QDialog* pQuestion = Question();
     ASSERT_NE(pQuestion, nullptr);
     EXPECT_TRUE(TextOf("overwriteReason").startsWith(QLatin1String("BRMS.GetRemoteLogConfig failed: ")));
-    EXPECT_TRUE(RowsOf(*pQuestion).contains(QStringLiteral("/config/port|not known|0|no")));
+    EXPECT_TRUE(RowsOf(*pQuestion).contains(QStringLiteral("/config/port|unknown|0|no")));
     EXPECT_EQ(RunsOf("BRMS.SetRemoteLogConfig"), 0);
 }
 

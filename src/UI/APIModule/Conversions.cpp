@@ -42,6 +42,12 @@ QString TextOf(double number)
     return QString::number(number, size >= kLowest && size < kBehind ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
+/// The minus sign of Unicode reads as a hyphen in numbers, whatever the version of Qt.
+QString WithAsciiMinus(QString number)
+{
+    return number.replace(QChar(0x2212), QLatin1Char('-'));
+}
+
 }  // namespace
 
 std::optional<long long> IntegerIn(double number)
@@ -53,12 +59,8 @@ std::optional<long long> IntegerIn(double number)
 
 long long IntegerOf(const QString& text)
 {
-    constexpr QChar kMinus(0x2212);
     constexpr char16_t kLastAscii = 0x7F;
-    QString number = text.trimmed();
-    if (number.startsWith(kMinus)) {
-        number[0] = QLatin1Char('-');
-    }
+    const QString number = WithAsciiMinus(text.trimmed());
     // Other characters beyond ASCII, and zero bytes, are handled differently by each version of Qt.
     const bool bPlain = std::all_of(number.cbegin(), number.cend(), [](QChar character) {
         return !character.isNull() && character.unicode() <= kLastAscii;
@@ -107,7 +109,7 @@ double DoubleOf(const QCborValue& value)
     case QCborValue::True:
         return 1;
     case QCborValue::String:
-        return value.toString().toDouble();
+        return WithAsciiMinus(value.toString()).toDouble();
     default:
         return 0;
     }

@@ -113,6 +113,9 @@ QVariant VariantFor(Target target, const QJsonValue& value)
     if (value.isString() && target == Target::Integer) {
         return IntegerAsInQt5(value.toString());
     }
+    if (value.isString() && target == Target::Number) {
+        return value.toString().replace(QChar(0x2212), QLatin1Char('-')).toDouble();
+    }
     return target == Target::Container ? ContainerAsInQt5(value).toVariant() : variant;
 }
 

@@ -41,6 +41,21 @@ QByteArray HostOf(const QUrl& url)
     return text;
 }
 
+/// Qt stores the names of headers in lower case from 6.8 on. Requests are the same with every version.
+QByteArray WireName(QByteArray name)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    bool bWordBegins = true;
+    for (char& character : name) {
+        if (bWordBegins && character >= 'a' && character <= 'z') {
+            character = char(character - 'a' + 'A');
+        }
+        bWordBegins = character == '-';
+    }
+#endif
+    return name;
+}
+
 }  // namespace
 
 Reply::Reply(AccessManager& manager, QNetworkAccessManager::Operation operation, const QNetworkRequest& request,
@@ -84,7 +99,7 @@ QByteArray Reply::Bytes(const QNetworkProxy* pProxy) const
     add("Host", HostOf(url) + ':' + QByteArray::number(url.port()));
     const QList<QByteArray> names = request.rawHeaderList();
     for (const QByteArray& name : names) {
-        add(name.constData(), request.rawHeader(name));
+        add(WireName(name).constData(), request.rawHeader(name));
     }
     if (m_bHasBody) {
         add("Content-Length", QByteArray::number(m_sentBody.size()));
