@@ -28,7 +28,7 @@ enum Page {
     Requests,
     Faults,
     State,
-    Beginning
+    StartOptions
 };
 
 class EmulatorPanelTest : public ExplorerTest {
@@ -209,7 +209,7 @@ TEST_F(EmulatorPanelTest, ListsARequestAsWaitingUntilItEnds)
     Click("addFault");
     ASSERT_TRUE(Await([this] { return FaultRows().size() == 1; }));
     Show(Requests);
-    Use(explorer::Way::WithoutWaiting);
+    Use(explorer::WaitMode::WithoutWaiting);
     Choose(kRead);
     ClickRun();
     ASSERT_TRUE(Await([this] { return RequestRows().rowCount() == 1; }));
@@ -286,7 +286,7 @@ TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectAtARestart)
 
     UseEmulator();
     const std::size_t disks = Run("BRMS.GetDiskWarm").record.size();
-    Show(Beginning);
+    Show(StartOptions);
     const QString address = TextOf("emulatorAddresses");
     EXPECT_TRUE(address.contains(QString::number(session->emulator.HttpsPort())));
     Find<QSpinBox>("emulatorScale").setValue(3);
@@ -306,7 +306,7 @@ TEST_F(EmulatorPanelTest, ScaleAndSeedFolderTakeEffectAtARestart)
 
     seed["remoteLog"]["ip"] = 5;
     write(seed);
-    Show(Beginning);
+    Show(StartOptions);
     Click("restartEmulator");
     ASSERT_TRUE(Await([this] { return !TextOf("emulatorProblem").isEmpty(); }));
     EXPECT_TRUE(TextOf("emulatorProblem").contains(QLatin1String("brms.json: /remoteLog/ip")))

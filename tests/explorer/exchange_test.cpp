@@ -8,7 +8,7 @@
 namespace {
 
 using namespace explorer_test;
-using testing_support::HttpAnswer;
+using testing_support::HttpReply;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
@@ -23,12 +23,12 @@ protected:
     }
 };
 
-class ExchangeOfASchemeTest : public ExchangeTest, public testing::WithParamInterface<bool> {};
+class ExchangeSchemeTest : public ExchangeTest, public testing::WithParamInterface<bool> {};
 
-TEST_P(ExchangeOfASchemeTest, OutcomeHoldsRequestAndReplyAsTransferredExceptTheToken)
+TEST_P(ExchangeSchemeTest, OutcomeHoldsRequestAndReplyAsTransferredExceptTheToken)
 {
     const QByteArray reply = "{\"code\": 1000, \"desc\": \"Fine\", \"data\": {\"enable\": \"1\"}}";
-    RawServer server([&reply](const RawRequest&) { return HttpAnswer(200, reply, "X-Of-The-Server: yes\r\n"); },
+    RawServer server([&reply](const RawRequest&) { return HttpReply(200, reply, "X-Of-The-Server: yes\r\n"); },
                      GetParam() ? RawServer::Https : RawServer::Http);
     Use(server.Port(), GetParam());
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
@@ -58,7 +58,7 @@ TEST_P(ExchangeOfASchemeTest, OutcomeHoldsRequestAndReplyAsTransferredExceptTheT
     EXPECT_EQ(ValueOf(outcome.reply->headers, "X-Of-The-Server"), QStringLiteral("yes"));
 }
 
-TEST_P(ExchangeOfASchemeTest, CallsShareAConnectionAndEachOutcomeHoldsItsReply)
+TEST_P(ExchangeSchemeTest, CallsShareAConnectionAndEachOutcomeHoldsItsReply)
 {
     int count = 0;
     RawServer server(
@@ -76,7 +76,7 @@ TEST_P(ExchangeOfASchemeTest, CallsShareAConnectionAndEachOutcomeHoldsItsReply)
     EXPECT_EQ(server.ConnectionCount(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Schemes, ExchangeOfASchemeTest, testing::Bool(),
+INSTANTIATE_TEST_SUITE_P(Schemes, ExchangeSchemeTest, testing::Bool(),
                          [](const auto& row) { return row.param ? "Https" : "Http"; });
 
 TEST_F(ExchangeTest, OutcomeHoldsTheRequestBody)
@@ -92,7 +92,7 @@ TEST_F(ExchangeTest, OutcomeHoldsTheRequestBody)
 
 TEST_F(ExchangeTest, OutcomeHoldsAReplyThatIsNotAnEnvelope)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, "<html>proxy login</html>"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, "<html>proxy login</html>"); });
     Use(server.Port());
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
     EXPECT_FALSE(outcome.succeeded);
@@ -103,9 +103,9 @@ TEST_F(ExchangeTest, OutcomeHoldsAReplyThatIsNotAnEnvelope)
 TEST_F(ExchangeTest, TruncatedReplyIsReportedAsAConnectionError)
 {
     RawServer server([](const RawRequest&) {
-        testing_support::RawAnswer answer{"HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"code\""};
-        answer.then = testing_support::RawAnswer::Close;
-        return answer;
+        testing_support::RawReply reply{"HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"code\""};
+        reply.then = testing_support::RawReply::Close;
+        return reply;
     });
     Use(server.Port());
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
@@ -136,7 +136,7 @@ TEST_F(ExchangeTest, OutcomeOfARefusedConnectionHasAUrlButNoHeadersAndNoReply)
 TEST_F(ExchangeTest, MasksTheTokenInTheUrlAndInReplyHeaders)
 {
     RawServer server([](const RawRequest&) {
-        return HttpAnswer(200, "{\"code\": 1000, \"data\": {}}", QByteArray("X-Echo: ") + kToken + "\r\n");
+        return HttpReply(200, "{\"code\": 1000, \"data\": {}}", QByteArray("X-Echo: ") + kToken + "\r\n");
     });
     Use(server.Port());
     Choose("BRMS.GetUserGroupList");

@@ -17,7 +17,7 @@ namespace {
 using namespace explorer_test;
 using explorer::History;
 using nlohmann::json;
-using testing_support::HttpAnswer;
+using testing_support::HttpReply;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
@@ -29,7 +29,7 @@ protected:
         : m_server([this](const RawRequest& request) {
               const bool isWrite = request.method == "PUT";
               return isWrite
-                         ? HttpAnswer(200, "{\"code\": 1002, \"desc\": \"/port: too large\", \"data\": {}}")
+                         ? HttpReply(200, "{\"code\": 1002, \"desc\": \"/port: too large\", \"data\": {}}")
                          : Success(
                                "{\"apply\": \"1\", \"settingType\": 1, \"settingVersion\": 7, \"settingContent\": \"" +
                                content + "\", \"token\": \"secret\"}");
@@ -66,7 +66,7 @@ protected:
         return summaries;
     }
 
-    [[nodiscard]] QString FileOfRuns() const { return folder.filePath(QStringLiteral("explorer-history.jsonl")); }
+    [[nodiscard]] QString HistoryFile() const { return folder.filePath(QStringLiteral("explorer-history.jsonl")); }
 
     QByteArray content = "first";
 
@@ -164,7 +164,7 @@ TEST_F(HistoryTest, SearchMatchesArgumentsResultAndCallName)
 TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
 {
     const CallOutcome before = RunWith(3);
-    EXPECT_FALSE(QFile::exists(FileOfRuns()));
+    EXPECT_FALSE(QFile::exists(HistoryFile()));
     Find<QCheckBox>("historyKept").click();
     Run("BRMS.GetDeriveToken");
     ASSERT_TRUE(session->history.At(1)->Summary().reply->body.contains("secret"));
@@ -172,7 +172,7 @@ TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
     ASSERT_FALSE(incomplete.missing.empty());
     Close();
 
-    QFile file(FileOfRuns());
+    QFile file(HistoryFile());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
     EXPECT_EQ(file.permissions() & others, QFile::Permissions());
@@ -193,7 +193,7 @@ TEST_F(HistoryTest, KeepsRunsInAPrivateFileWithoutTokens)
     EXPECT_TRUE(session->history.At(1)->Outcome().record.is_null());
 
     Find<QCheckBox>("historyKept").click();
-    EXPECT_FALSE(QFile::exists(FileOfRuns()));
+    EXPECT_FALSE(QFile::exists(HistoryFile()));
 }
 
 TEST_F(HistoryTest, HarHoldsTheExchangesWithoutTokens)

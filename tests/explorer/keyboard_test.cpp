@@ -107,16 +107,16 @@ TEST_F(KeyboardTest, CtrlFSearchesTheResultWhenItHasFocusAndTheCallsOtherwise)
     expectField(Find<QWidget>("servers"), "callFilter");
 }
 
-struct Place {
+struct Shortcut {
     std::string name;
     Qt::Key key;
     int results;  // index of the tab that the key shows; -1 for none
     int feeds;
 };
 
-class PlaceTest : public KeyboardTest, public testing::WithParamInterface<Place> {
+class ShortcutTest : public KeyboardTest, public testing::WithParamInterface<Shortcut> {
 protected:
-    [[nodiscard]] const QWidget& Part() const
+    [[nodiscard]] const QWidget& Pane() const
     {
         if (GetParam().name == "Calls") {
             return Find<QWidget>("callTree");
@@ -128,7 +128,7 @@ protected:
     }
 };
 
-TEST_P(PlaceTest, ShortcutMovesTheFocusToIt)
+TEST_P(ShortcutTest, FocusesItsPane)
 {
     Choose("BRMS.SetRemoteLogConfig");
     ASSERT_TRUE(Activate());
@@ -138,7 +138,7 @@ TEST_P(PlaceTest, ShortcutMovesTheFocusToIt)
     ASSERT_FALSE(feeds.isVisible());
     Find<QWidget>("servers").setFocus();
     Press(GetParam().key, Qt::ControlModifier);
-    EXPECT_TRUE(HasFocus(Part()));
+    EXPECT_TRUE(HasFocus(Pane()));
     if (GetParam().results >= 0) {
         EXPECT_EQ(results.currentIndex(), GetParam().results);
     }
@@ -148,12 +148,13 @@ TEST_P(PlaceTest, ShortcutMovesTheFocusToIt)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Places, PlaceTest,
-                         testing::Values(Place{"Calls", Qt::Key_1, -1, -1}, Place{"Arguments", Qt::Key_2, -1, -1},
-                                         Place{"Result", Qt::Key_3, 0, -1}, Place{"Request", Qt::Key_4, 1, -1},
-                                         Place{"Timing", Qt::Key_5, 2, -1}, Place{"Log", Qt::Key_6, -1, 0},
-                                         Place{"History", Qt::Key_8, -1, 2}, Place{"Notifications", Qt::Key_7, -1, 1},
-                                         Place{"Emulator", Qt::Key_9, 3, -1}),
+INSTANTIATE_TEST_SUITE_P(Shortcuts, ShortcutTest,
+                         testing::Values(Shortcut{"Calls", Qt::Key_1, -1, -1}, Shortcut{"Arguments", Qt::Key_2, -1, -1},
+                                         Shortcut{"Result", Qt::Key_3, 0, -1}, Shortcut{"Request", Qt::Key_4, 1, -1},
+                                         Shortcut{"Timing", Qt::Key_5, 2, -1}, Shortcut{"Log", Qt::Key_6, -1, 0},
+                                         Shortcut{"History", Qt::Key_8, -1, 2},
+                                         Shortcut{"Notifications", Qt::Key_7, -1, 1},
+                                         Shortcut{"Emulator", Qt::Key_9, 3, -1}),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(KeyboardTest, ReturnOnACallWithoutArgumentsFocusesTheRunControls)

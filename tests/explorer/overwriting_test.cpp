@@ -214,7 +214,7 @@ TEST_F(OverwritingTest, AsksAboutANewElementThatIsNotFilledIn)
 TEST_F(OverwritingTest, QuestionExplainsAFailedRead)
 {
     testing_support::RawServer server([](const testing_support::RawRequest&) {
-        return testing_support::HttpAnswer(200, R"({"code": 1003, "desc": "busy"})");
+        return testing_support::HttpReply(200, R"({"code": 1003, "desc": "busy"})");
     });
     Use(server.Port());
     Choose("BRMS.SetRemoteLogConfig");

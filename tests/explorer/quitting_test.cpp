@@ -9,19 +9,19 @@
 namespace {
 
 using namespace explorer_test;
-using explorer::Way;
-using testing_support::RawAnswer;
+using explorer::WaitMode;
+using testing_support::RawReply;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
-class QuittingTest : public ExplorerTest, public testing::WithParamInterface<Way> {};
+class QuittingTest : public ExplorerTest, public testing::WithParamInterface<WaitMode> {};
 
 TEST_P(QuittingTest, ClosingTheLastWindowDuringACallEndsTheCallAndTheProgram)
 {
     std::atomic<int> requests{0};
     const RawServer server([&requests](const RawRequest&) {
         ++requests;
-        return RawAnswer{};
+        return RawReply{};
     });
     Use(server.Port());
     Use(GetParam());
@@ -48,6 +48,6 @@ TEST_P(QuittingTest, ClosingTheLastWindowDuringACallEndsTheCallAndTheProgram)
     EXPECT_LT(outcomes.front().elapsedMilliseconds, kPatience / 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, QuittingTest, testing::ValuesIn(kWays), WayName);
+INSTANTIATE_TEST_SUITE_P(WaitModes, QuittingTest, testing::ValuesIn(kWaitModes), WaitModeName);
 
 }  // namespace

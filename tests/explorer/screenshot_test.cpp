@@ -26,7 +26,7 @@ namespace {
 
 using namespace explorer_test;
 using explorer::Appearance;
-using testing_support::RawAnswer;
+using testing_support::RawReply;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
@@ -38,7 +38,7 @@ class ScreenshotTest : public ExplorerTest {
 protected:
     ScreenshotTest() { Window().resize(kSmall); }
 
-    void Shoot(QWidget& widget, const char* name) const
+    void SaveScreenshot(QWidget& widget, const char* name) const
     {
         QTest::qWait(100);  // until layouts and style animations are done
         const QPixmap picture = widget.grab();
@@ -67,7 +67,7 @@ protected:
 
 TEST_F(ScreenshotTest, PaintsTheEmptyWindow)
 {
-    Shoot(Window(), "empty");
+    SaveScreenshot(Window(), "empty");
 }
 
 class MainStateTest : public ScreenshotTest, public testing::WithParamInterface<std::tuple<QSize, Appearance>> {};
@@ -81,9 +81,9 @@ TEST_P(MainStateTest, PaintsResultRequestAndTiming)
     Window().resize(size);
     FillWithResults();
     auto& results = Find<QTabWidget>("results");
-    Shoot(Window(), ("result" + suffix).c_str());
+    SaveScreenshot(Window(), ("result" + suffix).c_str());
     results.setCurrentIndex(1);
-    Shoot(Window(), ("request" + suffix).c_str());
+    SaveScreenshot(Window(), ("request" + suffix).c_str());
     explorer::RunOrder order;
     order.call = catalogue::FindCall("BRMS.GetQuickCommands");
     order.arguments = {{QStringLiteral("keyword"), QString()}};
@@ -91,7 +91,7 @@ TEST_P(MainStateTest, PaintsResultRequestAndTiming)
     session->runner.Repeat(order, 30);
     ASSERT_TRUE(AwaitRuns(34));
     results.setCurrentIndex(2);
-    Shoot(Window(), ("timing" + suffix).c_str());
+    SaveScreenshot(Window(), ("timing" + suffix).c_str());
     explorer::ApplyAppearance(Appearance::Light);
 }
 
@@ -113,9 +113,9 @@ TEST_P(LanguageTest, PaintsTheWindowAndTheServersDialog)
     Window().resize(kSmall);
     FillWithResults();
     Choose("BRMS.SetTimeSyncConfig");
-    Shoot(Window(), (std::string("language-") + GetParam()).c_str());
+    SaveScreenshot(Window(), (std::string("language-") + GetParam()).c_str());
     QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
-    Shoot(Find<QDialog>("serversDialog"), (std::string("servers-") + GetParam()).c_str());
+    SaveScreenshot(Find<QDialog>("serversDialog"), (std::string("servers-") + GetParam()).c_str());
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
@@ -140,20 +140,20 @@ TEST_P(OverwritingTest, PaintsTheQuestionAndTheForm)
     ClickRun();
     ASSERT_TRUE(Await([this] { return Window().findChild<QDialog*>(QStringLiteral("overwriteDialog")) != nullptr; }));
     auto& question = Find<QDialog>("overwriteDialog");
-    Shoot(question, ("overwrite" + suffix).c_str());
+    SaveScreenshot(question, ("overwrite" + suffix).c_str());
     question.reject();
     Run("BRMS.GetImageConfig");
     Choose("OBMS.GetPageConfigDesfireFailInfo");
     ASSERT_TRUE(Await([this] { return !Find<QLabel>("page.limits").text().isEmpty(); }));
     Find<QAbstractSpinBox>("page").stepBy(-1);
-    Shoot(Window(), ("refused" + suffix).c_str());
+    SaveScreenshot(Window(), ("refused" + suffix).c_str());
     Choose("BRMS.UpdateImageConfig");
-    Shoot(Window(), ("fill" + suffix).c_str());
+    SaveScreenshot(Window(), ("fill" + suffix).c_str());
     explorer::ApplyAppearance(Appearance::Light);
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, OverwritingTest,
+INSTANTIATE_TEST_SUITE_P(Appearances, OverwritingTest,
                          testing::Values(std::tuple("en", Appearance::Light), std::tuple("de", Appearance::Dark),
                                          std::tuple("zh", Appearance::Light)),
                          [](const auto& row) { return std::string(std::get<0>(row.param)); });
@@ -180,7 +180,7 @@ TEST_P(EmulatorPanelTest, PaintsEachPage)
     ASSERT_TRUE(Await([&] { return requests.model()->rowCount() == 3; }));
     requests.selectRow(1);
     const std::string suffix = std::string("-") + language + (appearance == Appearance::Dark ? "-dark" : "");
-    Shoot(Window(), ("emulator-requests" + suffix).c_str());
+    SaveScreenshot(Window(), ("emulator-requests" + suffix).c_str());
     tabs.setCurrentIndex(1);
     auto& kinds = Find<QComboBox>("faultKind");
     kinds.setCurrentIndex(kinds.findData(QStringLiteral("status")));
@@ -189,13 +189,13 @@ TEST_P(EmulatorPanelTest, PaintsEachPage)
         ASSERT_TRUE(Await([&] { return Find<QTreeWidget>("faults").topLevelItemCount() == fault + 1; }));
         Find<QSpinBox>("faultTimes").setValue(0);
     }
-    Shoot(Window(), ("emulator-faults" + suffix).c_str());
+    SaveScreenshot(Window(), ("emulator-faults" + suffix).c_str());
     tabs.setCurrentIndex(2);
     ASSERT_TRUE(Await([this] { return !Find<QPlainTextEdit>("stateText").toPlainText().isEmpty(); }));
-    Shoot(Window(), ("emulator-state" + suffix).c_str());
+    SaveScreenshot(Window(), ("emulator-state" + suffix).c_str());
     tabs.setCurrentIndex(3);
     Find<QSpinBox>("timeout").setValue(4000);
-    Shoot(Window(), ("emulator-start" + suffix).c_str());
+    SaveScreenshot(Window(), ("emulator-start" + suffix).c_str());
     Find<QSpinBox>("timeout").setValue(0);
     explorer::ApplyAppearance(Appearance::Light);
     emit Window().LanguageChosen(QStringLiteral("en"));
@@ -212,12 +212,12 @@ INSTANTIATE_TEST_SUITE_P(Windows, EmulatorPanelTest,
 TEST_F(ScreenshotTest, PaintsAFailure)
 {
     RawServer server([](const RawRequest&) {
-        return testing_support::HttpAnswer(200,
-                                           "{\"code\": 1002, \"desc\": \"/interval: expected integer, got string\"}");
+        return testing_support::HttpReply(200,
+                                          "{\"code\": 1002, \"desc\": \"/interval: expected integer, got string\"}");
     });
     Use(server.Port());
     Run("BRMS.SetTimeSyncConfig");
-    Shoot(Window(), "failure");
+    SaveScreenshot(Window(), "failure");
 }
 
 TEST_F(ScreenshotTest, PaintsNestedArguments)
@@ -230,12 +230,12 @@ TEST_F(ScreenshotTest, PaintsNestedArguments)
               {QStringLiteral("httpUrls"),
                QJsonArray{QJsonObject{{QStringLiteral("method"), 2},
                                       {QStringLiteral("url"), QStringLiteral("http://192.168.30.7/horn")}}}}}}});
-    Shoot(Window(), "nested-arguments");
+    SaveScreenshot(Window(), "nested-arguments");
 }
 
 TEST_F(ScreenshotTest, PaintsTheWindowWhileACallWaits)
 {
-    RawServer server([](const RawRequest&) { return RawAnswer{}; });
+    RawServer server([](const RawRequest&) { return RawReply{}; });
     Use(server.Port());
     Find<QSpinBox>("timeout").setValue(4);
     Choose("BRMS.GetTimeSyncConfig");
@@ -244,7 +244,7 @@ TEST_F(ScreenshotTest, PaintsTheWindowWhileACallWaits)
     QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer] {
         if (QApplication::activeModalWidget() != nullptr) {
             timer.stop();
-            Shoot(Window(), "waiting");
+            SaveScreenshot(Window(), "waiting");
         }
     });
     timer.start(500);
@@ -256,16 +256,16 @@ class WithoutWaitingTest : public ScreenshotTest, public testing::WithParamInter
 
 TEST_P(WithoutWaitingTest, PaintsTheRunningCalls)
 {
-    RawServer server([](const RawRequest&) { return RawAnswer{}; });
+    RawServer server([](const RawRequest&) { return RawReply{}; });
     explorer::ApplyAppearance(GetParam());
     Use(server.Port());
-    Use(explorer::Way::WithoutWaiting);
+    Use(explorer::WaitMode::WithoutWaiting);
     for (const char* call : {"BRMS.GetTimeSyncConfig", "BRMS.GetRemoteLogConfig", "IPMS.GetParkingOrganization"}) {
         Choose(call);
         ClickRun();
     }
     ASSERT_TRUE(Await([this] { return session->runner.WithoutWaiting().size() == 3; }));
-    Shoot(Window(), GetParam() == Appearance::Dark ? "without-waiting-dark" : "without-waiting-light");
+    SaveScreenshot(Window(), GetParam() == Appearance::Dark ? "without-waiting-dark" : "without-waiting-light");
     explorer::ApplyAppearance(Appearance::Light);
 }
 
@@ -278,7 +278,7 @@ TEST_F(ScreenshotTest, PaintsFilteredCalls)
         Find<QLineEdit>("callFilter").setText(QStringLiteral("/config/time-sync"));
         return !Find<QLabel>("callCount").text().startsWith(QLatin1String("No"));
     }));
-    Shoot(Window(), "filtered");
+    SaveScreenshot(Window(), "filtered");
 }
 
 }  // namespace

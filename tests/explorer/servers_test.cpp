@@ -137,7 +137,7 @@ TEST_F(ServersTest, AsksForTheTokenOncePerStartWithoutASecretService)
 TEST_F(ServersTest, DoesNotSendARefusedTokenAgain)
 {
     RawServer server([](const RawRequest& request) {
-        return request.Value("X-Subject-Token") == "right" ? Success("{}") : testing_support::HttpAnswer(401, "");
+        return request.Value("X-Subject-Token") == "right" ? Success("{}") : testing_support::HttpReply(401, "");
     });
     Use(server.Port());
     EXPECT_EQ(Run("BRMS.GetRemoteLogConfig").result, 7000);
@@ -248,7 +248,7 @@ protected:
     [[nodiscard]] const QSslConfiguration& Configuration() const { return m_configuration; }
     [[nodiscard]] QByteArray Digest() const { return m_certificate.certificate.digest(QCryptographicHash::Sha256); }
 
-    static testing_support::RawAnswer Answer(const RawRequest&) { return Success("{}"); }
+    static testing_support::RawReply Reply(const RawRequest&) { return Success("{}"); }
 
     /// Opens the servers dialog and selects the last server.
     void Edit()
@@ -257,7 +257,7 @@ protected:
         Find<QListWidget>("serverList").setCurrentRow(session->servers.All().size() - 1);
     }
 
-    void LookAtCertificate()
+    void ShowCertificate()
     {
         QTest::mouseClick(&Find<QPushButton>("showCertificate"), Qt::LeftButton);
         ASSERT_TRUE(Await([this] { return Find<QPushButton>("showCertificate").isEnabled(); }));
@@ -281,7 +281,7 @@ protected:
 
     void ExpectRefused(RawServer& server)
     {
-        server.AnswerAnything();
+        server.ReplyToAnything();
         const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
         EXPECT_FALSE(outcome.succeeded);
         EXPECT_EQ(outcome.result, -18);
@@ -297,11 +297,11 @@ private:
 
 TEST_F(CertificateTest, IsStoredWithTheServerOnceTheUserTrustsIt)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     Edit();
     EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled()) << "no certificate has been shown yet";
-    LookAtCertificate();
+    ShowCertificate();
     EXPECT_EQ(DigestIn("presentedCertificate"), Digest());
     EXPECT_TRUE(TextOf("changedCertificate").isEmpty());
     EXPECT_TRUE(server.TakeRequests().empty());
@@ -318,13 +318,13 @@ TEST_F(CertificateTest, IsStoredWithTheServerOnceTheUserTrustsIt)
 
 TEST_F(CertificateTest, WarnsWhenItHasChanged)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     const QByteArray before(Digest().size(), 'x');
     Trust(before);
     Edit();
     EXPECT_TRUE(TextOf("changedCertificate").isEmpty());
-    LookAtCertificate();
+    ShowCertificate();
     EXPECT_EQ(DigestIn("trustedCertificate"), before);
     EXPECT_EQ(DigestIn("presentedCertificate"), Digest());
     EXPECT_TRUE(TextOf("changedCertificate").contains(QStringLiteral("has changed")));
@@ -337,7 +337,7 @@ TEST_F(CertificateTest, WarnsWhenItHasChanged)
 
 TEST_F(CertificateTest, TrustingAnyCertificateRemovesThePin)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     Trust(QByteArray(Digest().size(), 'x'));
     Edit();
@@ -351,28 +351,28 @@ TEST_F(CertificateTest, ReportsThatAnUnreachableServerShowsNone)
 {
     Use(1, true);
     Edit();
-    LookAtCertificate();
+    ShowCertificate();
     EXPECT_TRUE(TextOf("presentedCertificate").startsWith(QStringLiteral("The server presented no certificate: ")));
     EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled());
 }
 
 TEST_F(CertificateTest, ChangingTheAddressDiscardsTheShownCertificate)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     Edit();
-    LookAtCertificate();
+    ShowCertificate();
     EXPECT_TRUE(Find<QPushButton>("trustCertificate").isEnabled());
     TypeInto("serverHost", QStringLiteral("other.example"));
     EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled());
     EXPECT_TRUE(TextOf("presentedCertificate").isEmpty());
 }
 
-class CallToAPinnedServerTest : public CertificateTest {};
+class PinnedServerTest : public CertificateTest {};
 
-TEST_F(CallToAPinnedServerTest, SucceedsWithThePinnedCertificate)
+TEST_F(PinnedServerTest, SucceedsWithThePinnedCertificate)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     Trust(Digest());
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
@@ -381,17 +381,17 @@ TEST_F(CallToAPinnedServerTest, SucceedsWithThePinnedCertificate)
     EXPECT_EQ(server.TakeRequests().size(), 1U);
 }
 
-TEST_F(CallToAPinnedServerTest, SendsNothingToAServerWithAnotherCertificate)
+TEST_F(PinnedServerTest, SendsNothingToAServerWithAnotherCertificate)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     Trust(QByteArray(Digest().size(), 'x'));
     ExpectRefused(server);
 }
 
-TEST_F(CallToAPinnedServerTest, DoesNotReuseAConnectionMadeBeforeThePinChanged)
+TEST_F(PinnedServerTest, DoesNotReuseAConnectionMadeBeforeThePinChanged)
 {
-    RawServer server(Answer, Configuration());
+    RawServer server(Reply, Configuration());
     Use(server.Port(), true);
     EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
     server.TakeRequests();
@@ -401,7 +401,7 @@ TEST_F(CallToAPinnedServerTest, DoesNotReuseAConnectionMadeBeforeThePinChanged)
 
 class HostTest : public ServersTest, public testing::WithParamInterface<std::pair<const char*, bool>> {};
 
-TEST_P(HostTest, OnlyAValidOneEnablesOk)
+TEST_P(HostTest, OkIsEnabledOnlyForValidHost)
 {
     QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
     QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
@@ -461,7 +461,7 @@ TEST_F(ServersTest, ChoosingAnotherCallCancelsARunThatWaitsForTheEmulator)
     EXPECT_TRUE(outcomes.empty());
 }
 
-TEST_F(ServersTest, TokenOfTheEmulatorIsInNoCommandLine)
+TEST_F(ServersTest, EmulatorTokenIsInNoCommandLine)
 {
     UseEmulator();
     bool isListed = false;

@@ -19,8 +19,8 @@
 namespace {
 
 using namespace explorer_test;
-using explorer::Way;
-using testing_support::RawAnswer;
+using explorer::WaitMode;
+using testing_support::RawReply;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
@@ -33,7 +33,7 @@ public:
         : m_heldPath(std::move(heldPath)), m_server([this](const RawRequest& request) {
               const bool holds = request.target.contains(m_heldPath);
               m_requests += 1;
-              return holds ? RawAnswer{} : Success("{}");
+              return holds ? RawReply{} : Success("{}");
           })
     {}
 
@@ -50,7 +50,7 @@ class WaitingTest : public ExplorerTest {
 protected:
     void SetTimeout(int seconds) { Find<QSpinBox>("timeout").setValue(seconds); }
 
-    /// Runs a call that the server does not answer, and returns when the call has ended. Calls meanwhile() as soon as
+    /// Runs a call to which the server does not reply, and returns when the call has ended. Calls meanwhile() once
     /// the server has received the request.
     void RunAnd(const HoldingServer& server, const std::function<void()>& meanwhile)
     {
@@ -131,14 +131,14 @@ TEST_F(WaitingTest, WaitDialogIsModalAndTheEventLoopKeepsRunning)
     RunAnd(server, [] {});
     EXPECT_TRUE(shown);
     EXPECT_GE(ticks, 5);
-    EXPECT_EQ(outcomes.front().way, Way::WaitDialog);
+    EXPECT_EQ(outcomes.front().waitMode, WaitMode::WaitDialog);
 }
 
 TEST_F(WaitingTest, WindowTakesInputDuringACallInTheEventLoop)
 {
     const HoldingServer server;
     Use(server.Port());
-    Use(Way::EventLoop);
+    Use(WaitMode::EventLoop);
     SetTimeout(1);
     RunAnd(server, [this] {
         EXPECT_EQ(Window().findChild<ORNGUI::OrnWaitDialog*>(), nullptr);
@@ -153,7 +153,7 @@ TEST_F(WaitingTest, SecondRunCanEndWhileTheFirstWaits)
 {
     const HoldingServer server("remote-log");
     Use(server.Port());
-    Use(Way::EventLoop);
+    Use(WaitMode::EventLoop);
     SetTimeout(2);
     RunAnd(server, [this] {
         Choose("BRMS.GetTimeSyncConfig");
@@ -174,10 +174,10 @@ TEST_F(WaitingTest, SimultaneousRunsOfOneCallHaveSeparateResults)
 {
     std::atomic<int> count{0};
     RawServer server([&count](const RawRequest&) {
-        return ++count == 1 ? Success("{}", 1500) : testing_support::HttpAnswer(503, "");
+        return ++count == 1 ? Success("{}", 1500) : testing_support::HttpReply(503, "");
     });
     Use(server.Port());
-    Use(Way::EventLoop);
+    Use(WaitMode::EventLoop);
     Choose(kCall);
     ClickRun();
     QTimer timer;
@@ -201,7 +201,7 @@ TEST_F(WaitingTest, ChangingTheServerDoesNotAffectARunningCall)
     RawServer other([](const RawRequest&) { return Success("{}"); });
     Use(holding.Port());
     const QString name = session->servers.Current().name;
-    Use(Way::EventLoop);
+    Use(WaitMode::EventLoop);
     SetTimeout(1);
     RunAnd(holding, [this, &other] { Use(other.Port()); });
     ASSERT_EQ(outcomes.size(), 1U);
@@ -213,7 +213,7 @@ TEST_F(WaitingTest, ChangingTheServerDoesNotAffectARunningCall)
     EXPECT_EQ(other.TakeRequests().size(), 1U);
 }
 
-class ClosingTest : public WaitingTest, public testing::WithParamInterface<Way> {};
+class ClosingTest : public WaitingTest, public testing::WithParamInterface<WaitMode> {};
 
 TEST_P(ClosingTest, CallStillTimesOutAfterTheWindowIsClosed)
 {
@@ -246,7 +246,7 @@ TEST_P(ClosingTest, CallStillTimesOutAfterALanguageChangeReplacesTheWindow)
     emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, ClosingTest, testing::ValuesIn(kWays), WayName);
+INSTANTIATE_TEST_SUITE_P(WaitModes, ClosingTest, testing::ValuesIn(kWaitModes), WaitModeName);
 
 TEST_F(WaitingTest, StoppingTheEmulatorEndsTheWait)
 {
@@ -261,7 +261,7 @@ TEST_F(WaitingTest, StoppingTheEmulatorEndsTheWait)
     ASSERT_TRUE(Await([&reply] { return reply->isFinished(); }));
     ASSERT_EQ(reply->error(), QNetworkReply::NoError) << reply->readAll().toStdString();
 
-    Use(Way::EventLoop);
+    Use(WaitMode::EventLoop);
     SetTimeout(60);
     Choose(kCall);
     ClickRun();
@@ -289,7 +289,7 @@ TEST_F(WaitingTest, DeletingTheParentEndsTheWait)
     explorer::RunOrder order;
     order.call = catalogue::FindCall(kCall);
     order.server = session->servers.Current();
-    order.way = Way::WaitDialog;
+    order.waitMode = WaitMode::WaitDialog;
     order.parent = pParent;
     session->runner.Order(order);
     QElapsedTimer clock;
@@ -310,7 +310,7 @@ TEST_F(WaitingTest, DeletingTheParentEndsTheWait)
 
 class WithoutWaitingTest : public WaitingTest {
 protected:
-    void SetUp() override { Use(Way::WithoutWaiting); }
+    void SetUp() override { Use(WaitMode::WithoutWaiting); }
 
     [[nodiscard]] QList<QPushButton*> CancelButtons() const
     {
@@ -348,7 +348,7 @@ TEST_F(WithoutWaitingTest, ShowsTheResultOfEachConcurrentCallWhenItEnds)
 
     const CallOutcome other = Run("BRMS.GetTimeSyncConfig");
     EXPECT_TRUE(other.succeeded);
-    EXPECT_EQ(other.way, Way::WithoutWaiting);
+    EXPECT_EQ(other.waitMode, WaitMode::WithoutWaiting);
     EXPECT_EQ(TextOf("resultWords"), QStringLiteral("Success"));
     EXPECT_EQ(CancelButtons().size(), 2);
 }
@@ -360,7 +360,7 @@ TEST_F(WithoutWaitingTest, CancelButtonCancelsOnlyItsCall)
     Begin(kCall);
     ASSERT_TRUE(Await([&server] { return server.Requests() == 1; }));
     Choose("BRMS.SetRemoteLogConfig");
-    MeanAll();
+    MarkAllKnown();
     ClickRun();
     ASSERT_TRUE(Await([&server] { return server.Requests() == 2; }));
     ASSERT_EQ(CancelButtons().size(), 2);
@@ -399,7 +399,7 @@ TEST_F(WithoutWaitingTest, RefusesACallWithAMissingArgument)
     explorer::RunOrder order;
     order.call = catalogue::FindCall("BRMS.GetLocalSetting");
     order.server = session->servers.Current();
-    order.way = Way::WithoutWaiting;
+    order.waitMode = WaitMode::WithoutWaiting;
     session->runner.Order(order);
     ASSERT_TRUE(AwaitRuns(1));
     EXPECT_FALSE(outcomes.front().succeeded);

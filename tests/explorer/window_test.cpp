@@ -31,7 +31,7 @@
 namespace {
 
 using namespace explorer_test;
-using testing_support::HttpAnswer;
+using testing_support::HttpReply;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 
@@ -150,7 +150,7 @@ TEST_F(WindowTest, RequestTabFollowsTheForm)
     EXPECT_TRUE(server.TakeRequests().empty()) << "editing the form sent a request";
     EXPECT_EQ(session->log.rowCount(), lines);
 
-    MeanAll();
+    MarkAllKnown();
     ClickRun();
     ASSERT_TRUE(AwaitRuns(1));
     const CallOutcome& outcome = outcomes.front();
@@ -176,7 +176,7 @@ class FailureTest : public WindowTest, public testing::WithParamInterface<Failur
 
 TEST_P(FailureTest, IsShownInWordsAndAsANotification)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(GetParam().status, GetParam().body); });
+    RawServer server([](const RawRequest&) { return HttpReply(GetParam().status, GetParam().body); });
     Use(server.Port());
     const CallOutcome outcome = Run(kCall);
     EXPECT_EQ(outcome.result, GetParam().result);
@@ -207,10 +207,10 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(WindowTest, NotificationsShowWhetherTheirCallSucceeded)
 {
     std::atomic<bool> succeeds{true};
-    RawServer server([&](const RawRequest&) { return succeeds ? Success("{}") : HttpAnswer(200, "{\"code\": 1002}"); });
+    RawServer server([&](const RawRequest&) { return succeeds ? Success("{}") : HttpReply(200, "{\"code\": 1002}"); });
     Use(server.Port());
-    for (const explorer::Way way : kWays) {
-        Use(way);
+    for (const explorer::WaitMode waitMode : kWaitModes) {
+        Use(waitMode);
         succeeds = true;
         Run(kCall);
         succeeds = false;
@@ -241,7 +241,7 @@ TEST_F(WindowTest, NotificationsShowWhetherTheirCallSucceeded)
 TEST_F(WindowTest, OutcomeHoldsTheFieldsReadBeforeTheError)
 {
     RawServer server(
-        [](const RawRequest&) { return HttpAnswer(200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}"); });
+        [](const RawRequest&) { return HttpReply(200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}"); });
     Use(server.Port());
     const CallOutcome outcome = Run(kCall);
     EXPECT_TRUE(outcome.record.at("enable").get<bool>());
@@ -408,7 +408,7 @@ TEST_F(WindowTest, IgnoresANewRepetitionUntilACancelledOneHasEnded)
 
 TEST_F(WindowTest, LogLinesCanBeSearchedAndFilteredByLevel)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(500, ""); });
+    RawServer server([](const RawRequest&) { return HttpReply(500, ""); });
     Use(server.Port());
     Run(kCall);
     auto& table = Find<QTableView>("logTable");
@@ -449,7 +449,7 @@ TEST_F(WindowTest, TokenIsInNeitherTheRequestNorTheLog)
 
 TEST_F(WindowTest, HasATranslationForEachLanguageOfTheErrorTexts)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(404, ""); });
+    RawServer server([](const RawRequest&) { return HttpReply(404, ""); });
     Use(server.Port());
     const std::pair<const char*, const char*> languages[] = {{"de", "Ausführen"}, {"zh", "运行"}, {"en", "Run"}};
     for (const auto& [language, run] : languages) {
@@ -495,7 +495,7 @@ TEST_F(WindowTest, ChangingTheLanguageKeepsResultsArgumentsAndWaitMode)
     Use(server.Port());
     Run(kCall);
     const QString details = TextOf("resultDetails");
-    Use(explorer::Way::WithoutWaiting);
+    Use(explorer::WaitMode::WithoutWaiting);
     Find<QSpinBox>("timeout").setValue(7);
     Choose("BRMS.GetLocalSetting");
     Window().findChild<explorer::ArgumentForm*>()->SetArguments({{QStringLiteral("settingType"), 7}});
@@ -504,7 +504,7 @@ TEST_F(WindowTest, ChangingTheLanguageKeepsResultsArgumentsAndWaitMode)
     emit Window().LanguageChosen(QStringLiteral("en"));
     EXPECT_EQ(Window().findChild<explorer::ArgumentForm*>()->Arguments().value(QLatin1String("settingType")).toInt(),
               7);
-    EXPECT_EQ(Find<QComboBox>("wait").currentData().toInt(), int(explorer::Way::WithoutWaiting));
+    EXPECT_EQ(Find<QComboBox>("wait").currentData().toInt(), int(explorer::WaitMode::WithoutWaiting));
     EXPECT_EQ(Find<QSpinBox>("timeout").value(), 7);
     Choose(kCall);
     EXPECT_EQ(TextOf("resultDetails"), details);
@@ -532,10 +532,10 @@ TEST_F(WindowTest, RunningCallClearsTheOldResultAndKeepsTheRunButtonInPlace)
 {
     int count = 0;
     RawServer server([&count](const RawRequest&) {
-        return ++count == 1 ? Success("{\"enable\": \"1\"}") : testing_support::RawAnswer{};
+        return ++count == 1 ? Success("{\"enable\": \"1\"}") : testing_support::RawReply{};
     });
     Use(server.Port());
-    Use(explorer::Way::WithoutWaiting);
+    Use(explorer::WaitMode::WithoutWaiting);
     Window().resize(1280, 800);
     Run(kCall);
     auto& results = *Window().findChild<explorer::ResultView*>();
@@ -566,7 +566,7 @@ TEST_F(WindowTest, LongServerTextScrolls)
 {
     const QByteArray words = QByteArray(4000, 'w').replace('w', "so ");
     RawServer server(
-        [&words](const RawRequest&) { return HttpAnswer(200, "{\"code\": 1002, \"desc\": \"" + words + "\"}"); });
+        [&words](const RawRequest&) { return HttpReply(200, "{\"code\": 1002, \"desc\": \"" + words + "\"}"); });
     Use(server.Port());
     Run(kCall);
     const auto& header = *Window().findChild<explorer::ResultHeader*>();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <catalogue/Brought.h>
 #include <catalogue/Call.h>
+#include <catalogue/MissingFields.h>
 
 #include <QByteArray>
 #include <QDateTime>
@@ -59,8 +59,8 @@ struct ExchangeTimes {
     double finished = 0;
 };
 
-/// How a call is run.
-enum class Way {
+/// How a run waits for its call.
+enum class WaitMode {
     WaitDialog,      ///< waits behind the wait dialog
     EventLoop,       ///< waits in the event loop, which delivers input
     WithoutWaiting,  ///< starts the call; several can run at the same time
@@ -78,7 +78,7 @@ struct RunSummary {
     int result = -1;  ///< APIModule::OutcomeBase::Code()
     bool succeeded = false;
     QString resultText;  ///< the result as text for the user
-    Way way = Way::EventLoop;
+    WaitMode waitMode = WaitMode::EventLoop;
     int timeoutSeconds = 0;  ///< time-out of the call
 
     SentRequest request;

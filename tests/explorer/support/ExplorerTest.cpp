@@ -9,7 +9,7 @@
 
 namespace explorer_test {
 
-std::string WayName(const testing::TestParamInfo<explorer::Way>& row)
+std::string WaitModeName(const testing::TestParamInfo<explorer::WaitMode>& row)
 {
     constexpr const char* kNames[] = {"BehindTheWaitDialog", "InTheEventLoop", "WithoutWaiting"};
     return kNames[int(row.param)];
@@ -37,12 +37,12 @@ void MemoryVault::Remove(const QString& serverId)
     tokens.remove(serverId);
 }
 
-testing_support::RawAnswer Success(const QByteArray& data, int delayMilliseconds)
+testing_support::RawReply Success(const QByteArray& data, int delayMilliseconds)
 {
-    testing_support::RawAnswer answer =
-        testing_support::HttpAnswer(200, "{\"code\": 1000, \"desc\": \"Success\", \"data\": " + data + "}");
-    answer.delayMilliseconds = delayMilliseconds;
-    return answer;
+    testing_support::RawReply reply =
+        testing_support::HttpReply(200, "{\"code\": 1000, \"desc\": \"Success\", \"data\": " + data + "}");
+    reply.delayMilliseconds = delayMilliseconds;
+    return reply;
 }
 
 ExplorerTest::ExplorerTest()
@@ -118,16 +118,16 @@ void ExplorerTest::Choose(const char* call)
     Window().SelectCall(*pCall);
 }
 
-void ExplorerTest::MeanAll()
+void ExplorerTest::MarkAllKnown()
 {
     auto& form = *Window().findChild<explorer::ArgumentForm*>();
     form.SetArguments(form.Arguments(), explorer::Origin::Known);
 }
 
-void ExplorerTest::Use(explorer::Way way)
+void ExplorerTest::Use(explorer::WaitMode waitMode)
 {
-    auto& ways = Find<QComboBox>("wait");
-    ways.setCurrentIndex(ways.findData(int(way)));
+    auto& modes = Find<QComboBox>("wait");
+    modes.setCurrentIndex(modes.findData(int(waitMode)));
 }
 
 void ExplorerTest::ClickRun()
@@ -143,7 +143,7 @@ bool ExplorerTest::AwaitRuns(int count) const
 CallOutcome ExplorerTest::Run(const char* call)
 {
     Choose(call);
-    MeanAll();
+    MarkAllKnown();
     const int runs = static_cast<int>(outcomes.size());
     ClickRun();
     if (!AwaitRuns(runs + 1)) {

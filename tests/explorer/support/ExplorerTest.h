@@ -20,9 +20,10 @@ namespace explorer_test {
 
 using explorer::CallOutcome;
 
-/// The ways to run a call. WayName() returns the name of one for the name of a test.
-constexpr explorer::Way kWays[] = {explorer::Way::WaitDialog, explorer::Way::EventLoop, explorer::Way::WithoutWaiting};
-std::string WayName(const testing::TestParamInfo<explorer::Way>& row);
+/// All wait modes. WaitModeName() returns the part of a test name for one of them.
+constexpr explorer::WaitMode kWaitModes[] = {explorer::WaitMode::WaitDialog, explorer::WaitMode::EventLoop,
+                                             explorer::WaitMode::WithoutWaiting};
+std::string WaitModeName(const testing::TestParamInfo<explorer::WaitMode>& row);
 
 constexpr int kPatience = 20000;  // milliseconds until a test gives up
 
@@ -40,7 +41,7 @@ public:
 };
 
 /// A reply that reports success and contains this data.
-testing_support::RawAnswer Success(const QByteArray& data, int delayMilliseconds = 0);
+testing_support::RawReply Success(const QByteArray& data, int delayMilliseconds = 0);
 
 /// Runs the program with its settings in a temporary folder.
 class ExplorerTest : public testing::Test {
@@ -81,8 +82,8 @@ protected:
 
     void Choose(const char* call);
     /// Marks all values of the form as known, so that a write sends them without asking.
-    void MeanAll();
-    void Use(explorer::Way way);
+    void MarkAllKnown();
+    void Use(explorer::WaitMode waitMode);
     void ClickRun();
     /// Waits until this many runs have ended since the test began.
     [[nodiscard]] bool AwaitRuns(int count) const;

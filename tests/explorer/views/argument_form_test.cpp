@@ -69,34 +69,34 @@ class ArgumentFormTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void AFormWithoutACallIsNotValid();
-    void ACallWithoutArgumentsIsValidAtOnce();
-    void EveryCallHasAFormWithFreshValues();
-    void EveryCallTakesBackItsOwnArguments();
-    void WhatIsTypedIsTheArguments();
-    void NumbersAreCheckedAsTyped_data();
-    void NumbersAreCheckedAsTyped();
-    void NumbersStepWithinTheirRange();
-    void TheWheelScrollsOverAFieldWithoutFocus();
-    void ElementsAreAddedRemovedAndMoved();
-    void TheTabKeyFollowsTheScreen();
-    void LabelsLeadToTheirFields();
-    void DescriptionsStandInTheToolTipsOfTheLabels();
-    void LimitsAndExamplesAreShown();
-    void AValueThatTheServerRefusesIsNotValid_data();
-    void AValueThatTheServerRefusesIsNotValid();
-    void ARefusedValueInTheJsonIsNamed();
-    void KnownValuesAreCompleted();
-    void WhatWasNotEnteredIsKnown();
-    void AnElementIsNotEnteredUntilAFieldOfItIs();
-    void ANarrowPaneShowsWholeForms();
-    void ACopyIsPastedBack();
-    void AWrongPasteSaysWhyAndChangesNothing_data();
-    void AWrongPasteSaysWhyAndChangesNothing();
-    void ArgumentsThatDoNotFitStayAsTheyWere();
-    void TheJsonViewShowsAndChangesTheSameArguments();
-    void JsonThatDoesNotFitStaysAsItIsTyped();
-    void ChangesAreTold();
+    void IsInvalidWithoutCall();
+    void IsValidForCallWithoutArguments();
+    void StartsWithDefaultValuesForEveryCall();
+    void ReturnsTheArgumentsThatWereSet();
+    void TypedValuesBecomeArguments();
+    void NumberBoxValidatesTypedText_data();
+    void NumberBoxValidatesTypedText();
+    void NumberBoxStepsWithinItsRange();
+    void UnfocusedNumberBoxIgnoresTheWheel();
+    void ListElementsCanBeAddedRemovedAndMoved();
+    void TabKeyFollowsScreenOrder();
+    void LabelsHaveTheirFieldsAsBuddies();
+    void LabelToolTipsShowDescriptions();
+    void ShowsLimitsAndExamples();
+    void IsInvalidWhenServerWouldRefuseValue_data();
+    void IsInvalidWhenServerWouldRefuseValue();
+    void NamesRefusedValueInJson();
+    void CompletesKnownValues();
+    void ReportsValuesThatWereNotEntered();
+    void NewElementIsNotEnteredUntilOneOfItsFieldsIs();
+    void FormsFitIntoNarrowPane();
+    void PastesCopiedArguments();
+    void InvalidPasteShowsReasonAndChangesNothing_data();
+    void InvalidPasteShowsReasonAndChangesNothing();
+    void IgnoresArgumentsOfTheWrongType();
+    void JsonViewShowsAndChangesArguments();
+    void KeepsInvalidJsonAsTyped();
+    void EmitsChangedWhenInputChanges();
     void Screenshots();
 };
 
@@ -111,7 +111,7 @@ constexpr const char* kQuickCommand = R"({"command": {"id": "", "quickCommandNam
 
 }  // namespace
 
-void ArgumentFormTest::AFormWithoutACallIsNotValid()
+void ArgumentFormTest::IsInvalidWithoutCall()
 {
     const ArgumentForm form;
     QVERIFY(!form.IsValid());
@@ -120,7 +120,7 @@ void ArgumentFormTest::AFormWithoutACallIsNotValid()
     QVERIFY(!Child<QPushButton>(form, "pasteArguments").isEnabled());
 }
 
-void ArgumentFormTest::ACallWithoutArgumentsIsValidAtOnce()
+void ArgumentFormTest::IsValidForCallWithoutArguments()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.GetTimeSyncConfig"));
@@ -128,7 +128,7 @@ void ArgumentFormTest::ACallWithoutArgumentsIsValidAtOnce()
     QVERIFY(form.Arguments().isEmpty());
 }
 
-void ArgumentFormTest::EveryCallHasAFormWithFreshValues()
+void ArgumentFormTest::StartsWithDefaultValuesForEveryCall()
 {
     ArgumentForm form;
     for (const catalogue::Call& call : catalogue::Calls()) {
@@ -170,7 +170,7 @@ json Distinct(const catalogue::Type& type, int& next)
 
 }  // namespace
 
-void ArgumentFormTest::EveryCallTakesBackItsOwnArguments()
+void ArgumentFormTest::ReturnsTheArgumentsThatWereSet()
 {
     ArgumentForm form;
     int next = 0;
@@ -186,7 +186,7 @@ void ArgumentFormTest::EveryCallTakesBackItsOwnArguments()
     }
 }
 
-void ArgumentFormTest::WhatIsTypedIsTheArguments()
+void ArgumentFormTest::TypedValuesBecomeArguments()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.SetTimeSyncConfig"));
@@ -199,7 +199,7 @@ void ArgumentFormTest::WhatIsTypedIsTheArguments()
     QCOMPARE(config.at("interval"), json(-7));
 }
 
-void ArgumentFormTest::NumbersAreCheckedAsTyped_data()
+void ArgumentFormTest::NumberBoxValidatesTypedText_data()
 {
     using catalogue::Kind;
     QTest::addColumn<int>("kind");
@@ -216,9 +216,9 @@ void ArgumentFormTest::NumbersAreCheckedAsTyped_data()
     add("int: largest", Kind::Int, "2147483647", "", "2147483647");
     add("int: too small", Kind::Int, "-2147483649", intRange, "0");
     add("int: too large", Kind::Int, "2147483648", intRange, "0");
-    add("int: beyond all integers", Kind::Int, "99999999999999999999", intRange, "0");
+    add("int: beyond 64 bits", Kind::Int, "99999999999999999999", intRange, "0");
     add("int: empty", Kind::Int, "", "Enter a number", "0");
-    add("int: minus alone", Kind::Int, "-", "Not a whole number", "0");
+    add("int: only a minus", Kind::Int, "-", "Not a whole number", "0");
     add("int: a fraction", Kind::Int, "1.5", "Not a whole number", "0");
     add("int: letters", Kind::Int, "twelve", "Not a whole number", "0");
     add("int: spaces around", Kind::Int, " 12 ", "", "12");
@@ -233,7 +233,7 @@ void ArgumentFormTest::NumbersAreCheckedAsTyped_data()
     add("double: empty", Kind::Double, "", "Enter a number", "0");
 }
 
-void ArgumentFormTest::NumbersAreCheckedAsTyped()
+void ArgumentFormTest::NumberBoxValidatesTypedText()
 {
     QFETCH(int, kind);
     QFETCH(QString, typed);
@@ -246,7 +246,7 @@ void ArgumentFormTest::NumbersAreCheckedAsTyped()
     QCOMPARE(explorer::CompactJsonText(box.Value()), value);
 }
 
-void ArgumentFormTest::NumbersStepWithinTheirRange()
+void ArgumentFormTest::NumberBoxStepsWithinItsRange()
 {
     NumberBox box(catalogue::Kind::Int64);
     box.SetValue(std::numeric_limits<qint64>::max() - 1);
@@ -260,7 +260,7 @@ void ArgumentFormTest::NumbersStepWithinTheirRange()
     QCOMPARE(box.Value(), json(6));
 }
 
-void ArgumentFormTest::TheWheelScrollsOverAFieldWithoutFocus()
+void ArgumentFormTest::UnfocusedNumberBoxIgnoresTheWheel()
 {
     NumberBox box(catalogue::Kind::Int);
     QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
@@ -270,7 +270,7 @@ void ArgumentFormTest::TheWheelScrollsOverAFieldWithoutFocus()
     QCOMPARE(box.Value(), json(0));
 }
 
-void ArgumentFormTest::ElementsAreAddedRemovedAndMoved()
+void ArgumentFormTest::ListElementsCanBeAddedRemovedAndMoved()
 {
     ArgumentForm form;
     form.SetCall(Call("DMS.BatchWashOpen"));
@@ -304,7 +304,7 @@ void ArgumentFormTest::ElementsAreAddedRemovedAndMoved()
     QCOMPARE(QApplication::focusWidget(), &add);
 }
 
-void ArgumentFormTest::TheTabKeyFollowsTheScreen()
+void ArgumentFormTest::TabKeyFollowsScreenOrder()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.AddQuickCommand"));
@@ -334,7 +334,7 @@ void ArgumentFormTest::TheTabKeyFollowsTheScreen()
     QCOMPARE(QApplication::focusWidget(), &Child<QPushButton>(form, "copyArguments"));
 }
 
-void ArgumentFormTest::LabelsLeadToTheirFields()
+void ArgumentFormTest::LabelsHaveTheirFieldsAsBuddies()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.GetEncodeCapability"));
@@ -371,7 +371,7 @@ explorer::FieldFacts Limited(const QStringList& values, std::optional<double> mi
 
 }  // namespace
 
-void ArgumentFormTest::DescriptionsStandInTheToolTipsOfTheLabels()
+void ArgumentFormTest::LabelToolTipsShowDescriptions()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.SetMultiCastConfig"));
@@ -392,7 +392,7 @@ void ArgumentFormTest::DescriptionsStandInTheToolTipsOfTheLabels()
                         "status|<p>bool. Of the stream.</p>|Of the stream."));
 }
 
-void ArgumentFormTest::LimitsAndExamplesAreShown()
+void ArgumentFormTest::ShowsLimitsAndExamples()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.SetRemoteLogConfig"));
@@ -410,7 +410,7 @@ void ArgumentFormTest::LimitsAndExamplesAreShown()
     QVERIFY(!Child<QLabel>(form, "port.limits").isVisibleTo(&form));
 }
 
-void ArgumentFormTest::AValueThatTheServerRefusesIsNotValid_data()
+void ArgumentFormTest::IsInvalidWhenServerWouldRefuseValue_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QString>("typed");
@@ -429,7 +429,7 @@ void ArgumentFormTest::AValueThatTheServerRefusesIsNotValid_data()
     add("platformId", "", "Must be one of: a, b");
 }
 
-void ArgumentFormTest::AValueThatTheServerRefusesIsNotValid()
+void ArgumentFormTest::IsInvalidWhenServerWouldRefuseValue()
 {
     QFETCH(QString, field);
     QFETCH(QString, typed);
@@ -445,7 +445,7 @@ void ArgumentFormTest::AValueThatTheServerRefusesIsNotValid()
     QCOMPARE(Child<QLabel>(form, (field + QLatin1String(".problem")).toLatin1().constData()).text(), problem);
 }
 
-void ArgumentFormTest::ARefusedValueInTheJsonIsNamed()
+void ArgumentFormTest::NamesRefusedValueInJson()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.GetLocalSetting"));
@@ -456,7 +456,7 @@ void ArgumentFormTest::ARefusedValueInTheJsonIsNamed()
     QCOMPARE(Problem(form), QStringLiteral("settingType: Must be 0 or more"));
 }
 
-void ArgumentFormTest::KnownValuesAreCompleted()
+void ArgumentFormTest::CompletesKnownValues()
 {
     ArgumentForm form;
     form.SetCall(Call("DMS.BatchWashOpen"));
@@ -481,47 +481,47 @@ void ArgumentFormTest::KnownValuesAreCompleted()
     QCOMPARE(field.text(), QStringLiteral("7$1"));
 }
 
-void ArgumentFormTest::WhatWasNotEnteredIsKnown()
+void ArgumentFormTest::ReportsValuesThatWereNotEntered()
 {
     using explorer::Origin;
-    using Places = std::vector<std::string>;
+    using Paths = std::vector<std::string>;
     ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
-    QCOMPARE(form.NotEntered().values, (Places{"/groupId", "/group/groupName", "/group/memo"}));
+    QCOMPARE(form.NotEntered().values, (Paths{"/groupId", "/group/groupName", "/group/memo"}));
     Type(Child<QLineEdit>(form, "memo"), "x");
-    QCOMPARE(form.NotEntered().values, (Places{"/groupId", "/group/groupName"}));
+    QCOMPARE(form.NotEntered().values, (Paths{"/groupId", "/group/groupName"}));
 
     // Values that the edited JSON changes count as entered.
     Child<QPushButton>(form, "argumentsAsJson").click();
     Child<QPlainTextEdit>(form, "argumentsJson")
         .setPlainText(QStringLiteral(R"({"groupId": "7", "group": {"groupName": "", "memo": "x"}})"));
-    QCOMPARE(form.NotEntered().values, (Places{"/group/groupName"}));
+    QCOMPARE(form.NotEntered().values, (Paths{"/group/groupName"}));
     form.SetArguments(form.Arguments(), Origin::Known);
-    QCOMPARE(form.NotEntered().values, Places{});
+    QCOMPARE(form.NotEntered().values, Paths{});
     form.SetArguments(form.Arguments());
     QCOMPARE(form.NotEntered().values.size(), std::size_t(3));
 }
 
-void ArgumentFormTest::AnElementIsNotEnteredUntilAFieldOfItIs()
+void ArgumentFormTest::NewElementIsNotEnteredUntilOneOfItsFieldsIs()
 {
-    using Places = std::vector<std::string>;
+    using Paths = std::vector<std::string>;
     ArgumentForm form;
     form.SetCall(Call("BRMS.AddQuickCommand"));
     form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
-    QCOMPARE(form.NotEntered().elements, Places{});
+    QCOMPARE(form.NotEntered().elements, Paths{});
     Child<QPushButton>(form, "httpUrls.add").click();
-    QCOMPARE(form.NotEntered().elements, (Places{"/command/httpUrls/3"}));
+    QCOMPARE(form.NotEntered().elements, (Paths{"/command/httpUrls/3"}));
     Child<QToolButton>(form, "httpUrls.up", 3).click();
-    QCOMPARE(form.NotEntered().elements, (Places{"/command/httpUrls/2"}));
+    QCOMPARE(form.NotEntered().elements, (Paths{"/command/httpUrls/2"}));
     Type(Child<QLineEdit>(form, "url", 3), "http://10.0.0.4");
-    QCOMPARE(form.NotEntered().elements, Places{});
+    QCOMPARE(form.NotEntered().elements, Paths{});
 }
 
-void ArgumentFormTest::ANarrowPaneShowsWholeForms()
+void ArgumentFormTest::FormsFitIntoNarrowPane()
 {
-    constexpr QSize kPaneOfASmallWindow(336, 400);
+    constexpr QSize kSmallPane(336, 400);
     ArgumentForm form;
-    form.resize(kPaneOfASmallWindow);
+    form.resize(kSmallPane);
     form.show();
     QVERIFY(QTest::qWaitForWindowExposed(&form));
     for (const catalogue::Call& call : catalogue::Calls()) {
@@ -534,7 +534,7 @@ void ArgumentFormTest::ANarrowPaneShowsWholeForms()
         form.SetArguments(explorer::ToQt(arguments));
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();  // nested layouts need a second pass
-        QCOMPARE(form.size(), kPaneOfASmallWindow);
+        QCOMPARE(form.size(), kSmallPane);
         const auto& area = *form.findChild<QScrollArea*>();
         QVERIFY2(area.widget()->width() <= area.viewport()->width(), call.name.c_str());
         const QList<QLabel*> labels = area.widget()->findChildren<QLabel*>();
@@ -545,7 +545,7 @@ void ArgumentFormTest::ANarrowPaneShowsWholeForms()
                          qPrintable(pLabel->text()));
             }
             if (pLabel->buddy() != nullptr) {
-                QVERIFY2(pLabel->sizeHint().height() < 2 * pLabel->fontMetrics().height(), "the name breaks");
+                QVERIFY2(pLabel->sizeHint().height() < 2 * pLabel->fontMetrics().height(), "the name wraps");
             }
         }
         const QList<NumberBox*> numbers = area.widget()->findChildren<NumberBox*>();
@@ -561,7 +561,7 @@ void ArgumentFormTest::ANarrowPaneShowsWholeForms()
     }
 }
 
-void ArgumentFormTest::ACopyIsPastedBack()
+void ArgumentFormTest::PastesCopiedArguments()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
@@ -582,7 +582,7 @@ void ArgumentFormTest::ACopyIsPastedBack()
     QTRY_COMPARE(other.Arguments(), form.Arguments());
 }
 
-void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing_data()
+void ArgumentFormTest::InvalidPasteShowsReasonAndChangesNothing_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("reason");
@@ -599,7 +599,7 @@ void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing_data()
         "/group/name: AddUserGroupsParam has no such");
 }
 
-void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing()
+void ArgumentFormTest::InvalidPasteShowsReasonAndChangesNothing()
 {
     QFETCH(QString, text);
     QFETCH(QString, reason);
@@ -617,7 +617,7 @@ void ArgumentFormTest::AWrongPasteSaysWhyAndChangesNothing()
     QCOMPARE(Problem(form), QString());
 }
 
-void ArgumentFormTest::ArgumentsThatDoNotFitStayAsTheyWere()
+void ArgumentFormTest::IgnoresArgumentsOfTheWrongType()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
@@ -626,7 +626,7 @@ void ArgumentFormTest::ArgumentsThatDoNotFitStayAsTheyWere()
     QCOMPARE(ArgumentsOf(form), (json{{"groupId", "7"}, {"group", {{"groupName", ""}, {"memo", "new"}}}}));
 }
 
-void ArgumentFormTest::TheJsonViewShowsAndChangesTheSameArguments()
+void ArgumentFormTest::JsonViewShowsAndChangesArguments()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
@@ -661,7 +661,7 @@ void ArgumentFormTest::TheJsonViewShowsAndChangesTheSameArguments()
     QCOMPARE(json::parse(edit.toPlainText().toStdString()), json({{"settingType", 0}}));
 }
 
-void ArgumentFormTest::JsonThatDoesNotFitStaysAsItIsTyped()
+void ArgumentFormTest::KeepsInvalidJsonAsTyped()
 {
     ArgumentForm form;
     form.SetCall(Call("BRMS.GetLocalSetting"));
@@ -687,7 +687,7 @@ void ArgumentFormTest::JsonThatDoesNotFitStaysAsItIsTyped()
     QCOMPARE(Problem(form), QString());
 }
 
-void ArgumentFormTest::ChangesAreTold()
+void ArgumentFormTest::EmitsChangedWhenInputChanges()
 {
     ArgumentForm form;
     QSignalSpy changes(&form, &ArgumentForm::Changed);

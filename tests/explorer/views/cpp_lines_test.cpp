@@ -19,7 +19,7 @@
 namespace e2e {
 namespace {
 
-struct Ended {
+struct CompilerResult {
     int status;
     QString output;
 };
@@ -33,7 +33,7 @@ public:
         return calls;
     }
 
-    [[nodiscard]] const Ended& Compiled() const { return m_compiled; }
+    [[nodiscard]] const CompilerResult& Compiled() const { return m_compiled; }
 
     using Function = int (*)(void* pRecord);
     Function Find(const std::string& row) { return reinterpret_cast<Function>(m_library.resolve(row.c_str())); }
@@ -89,7 +89,7 @@ template <typename Record>
         return QStringLiteral("namespace %1 {\n%2}\n\n").arg(scope, Lines(call, row)) + Entry(scope, call, row);
     }
 
-    Ended Compile(const std::map<std::string, QString>& sources)
+    CompilerResult Compile(const std::map<std::string, QString>& sources)
     {
         QStringList arguments{QStringLiteral("@" COMPILER_FLAGS_FILE), QStringLiteral("-shared"), QStringLiteral("-o"),
                               m_library.fileName()};
@@ -110,7 +110,7 @@ template <typename Record>
 
     QTemporaryDir m_folder;
     QLibrary m_library;
-    Ended m_compiled{};
+    CompilerResult m_compiled{};
 };
 
 class CppLines : public EndToEnd, public testing::WithParamInterface<Row> {
@@ -118,7 +118,7 @@ protected:
     static void SetUpTestSuite()
     {
         EndToEnd::SetUpTestSuite();
-        const Ended& compiled = GeneratedCalls::Instance().Compiled();
+        const CompilerResult& compiled = GeneratedCalls::Instance().Compiled();
         ASSERT_EQ(compiled.status, 0) << compiled.output.toStdString();
     }
 

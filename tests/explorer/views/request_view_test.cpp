@@ -26,11 +26,11 @@ class RequestViewTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void MethodUrlHeadersAndBodyAreShown();
-    void ABodyThatIsNoJsonIsShownAsItIs();
-    void TheCommandsAreReadyToCopy();
-    void ACallThatCannotBePackedHasNoRequest();
-    void AHintTakesThePlaceOfTheRequest();
+    void ShowsMethodUrlHeadersAndBody();
+    void ShowsNonJsonBodyUnchanged();
+    void CopiesCommands();
+    void ShowsNoRequestWhenCallCannotBePacked();
+    void HintReplacesRequest();
     void Screenshots();
 };
 
@@ -65,7 +65,7 @@ RequestDraft EncodeUpdate()
 
 }  // namespace
 
-void RequestViewTest::MethodUrlHeadersAndBodyAreShown()
+void RequestViewTest::ShowsMethodUrlHeadersAndBody()
 {
     RequestView view;
     const RequestDraft draft = EncodeUpdate();
@@ -78,7 +78,7 @@ void RequestViewTest::MethodUrlHeadersAndBodyAreShown()
     QCOMPARE(Page(view, "body").Text(), explorer::JsonText(nlohmann::json::parse(draft.request.body.toStdString())));
 }
 
-void RequestViewTest::ABodyThatIsNoJsonIsShownAsItIs()
+void RequestViewTest::ShowsNonJsonBodyUnchanged()
 {
     RequestView view;
     RequestDraft draft = EncodeUpdate();
@@ -87,7 +87,7 @@ void RequestViewTest::ABodyThatIsNoJsonIsShownAsItIs()
     QCOMPARE(Page(view, "body").Text(), QString::fromUtf8("{\"a\": T\xC3\xBCr"));
 }
 
-void RequestViewTest::TheCommandsAreReadyToCopy()
+void RequestViewTest::CopiesCommands()
 {
     RequestView view;
     const RequestDraft draft = EncodeUpdate();
@@ -103,7 +103,7 @@ void RequestViewTest::TheCommandsAreReadyToCopy()
     QCOMPARE(copied("apicall"), explorer::ApicallLine(draft));
 }
 
-void RequestViewTest::ACallThatCannotBePackedHasNoRequest()
+void RequestViewTest::ShowsNoRequestWhenCallCannotBePacked()
 {
     RequestView view;
     RequestDraft draft = EncodeUpdate();
@@ -118,7 +118,7 @@ void RequestViewTest::ACallThatCannotBePackedHasNoRequest()
     QVERIFY(Page(view, "cpp").Text().contains(QStringLiteral("std::string channelId = \"\";")));
 }
 
-void RequestViewTest::AHintTakesThePlaceOfTheRequest()
+void RequestViewTest::HintReplacesRequest()
 {
     RequestView view;
     const QString hint = QStringLiteral("Nothing is chosen");

@@ -44,37 +44,37 @@ class ResultViewTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void TheTreeShowsNameValueAndType();
-    void TheTreeStandsInTheOrderOfTheFields();
-    void EveryCallsFreshRecordHasATree();
-    void AnElementOfAListShowsItsNameAndIdentifier();
-    void TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch();
-    void TheFilterOfTheTreeIsTypedAfterItsKey();
-    void ValuePathAndSubtreeAreCopied();
-    void FieldsThatTheReplyDidNotBringAreMarked_data();
-    void FieldsThatTheReplyDidNotBringAreMarked();
-    void FieldsBehindTheUnreadableKeyAreMarked();
-    void NamesAndTypesOfTheTreeAreWhole();
-    void ALargeRecordOpensItsFirstLevelOnly();
-    void TheJsonIsCopiedWhole();
-    void TheJsonIsSearchedByKeyboard();
-    void TheSearchFindsWhatIsNotShown();
-    void TheSearchSelectsTheMatchAfterLineEndsOfTheWire();
-    void AllOfALongTextIsShownOnDemand();
-    void JsonHasColoursThatFollowThePalette();
-    void TheTableHasARowForEachElement();
+    void TreeShowsNameValueAndType();
+    void TreeListsFieldsInDeclarationOrder();
+    void TreeShowsDefaultRecordOfEveryCall();
+    void TreeShowsNameAndIdentifierOfListElements();
+    void TreeFilterKeepsParentsAndChildrenOfMatches();
+    void FindKeyFocusesTreeFilter();
+    void CopiesValuePathAndSubtree();
+    void MarksFieldsMissingInReply_data();
+    void MarksFieldsMissingInReply();
+    void MarksFieldsFromUnreadableKeyOn();
+    void TreeColumnsFitNamesAndTypes();
+    void ExpandsOnlyFirstLevelOfLargeRecord();
+    void CopiesCompleteJson();
+    void JsonCanBeSearchedByKeyboard();
+    void SearchFindsTextOutsideTheShownPart();
+    void SearchSelectsMatchAfterCrLf();
+    void ShowsCompleteLongTextOnDemand();
+    void JsonColoursFollowThePalette();
+    void TableHasRowForEachElement();
     void ColumnsSortByValue();
-    void TextsSortAsPeopleDo();
-    void TheFilterLooksInEveryColumn();
-    void TotalsAreThoseOfTheRowsShown();
-    void TotalsStandUnderTheirColumns();
-    void AListIsChosenAmongSeveral();
+    void TextsSortNaturally();
+    void TableFilterSearchesEveryColumn();
+    void TotalsCoverOnlyVisibleRows();
+    void TotalsAlignWithTheirColumns();
+    void ListCanBeChosenAmongSeveral();
     void PlainListsHaveOneColumn();
-    void WhatIsShownIsExported();
-    void TheButtonAsksForTheFile();
-    void AFileThatCannotBeWrittenIsTold();
-    void TheExchangeIsShownAsItWent();
-    void WithoutARecordThereIsAHint();
+    void ExportsVisibleRowsInTheirOrder();
+    void ExportButtonAsksForFileName();
+    void ExportFailsWhenFileCannotBeWritten();
+    void ShowsRawExchange();
+    void ShowsHintWithoutRecord();
     void Screenshots();
 };
 
@@ -161,7 +161,7 @@ enum Tab {
 
 }  // namespace
 
-void ResultViewTest::TheTreeShowsNameValueAndType()
+void ResultViewTest::TreeShowsNameValueAndType()
 {
     RecordModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -188,7 +188,7 @@ void ResultViewTest::TheTreeShowsNameValueAndType()
     QCOMPARE(model.rowCount(), 0);
 }
 
-void ResultViewTest::TheTreeStandsInTheOrderOfTheFields()
+void ResultViewTest::TreeListsFieldsInDeclarationOrder()
 {
     RecordModel model;
     const CallOutcome outcome = view_test::ParkingLots();
@@ -201,7 +201,7 @@ void ResultViewTest::TheTreeStandsInTheOrderOfTheFields()
     }
 }
 
-void ResultViewTest::EveryCallsFreshRecordHasATree()
+void ResultViewTest::TreeShowsDefaultRecordOfEveryCall()
 {
     RecordModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -213,7 +213,7 @@ void ResultViewTest::EveryCallsFreshRecordHasATree()
     }
 }
 
-void ResultViewTest::AnElementOfAListShowsItsNameAndIdentifier()
+void ResultViewTest::TreeShowsNameAndIdentifierOfListElements()
 {
     RecordModel model;
     const auto first = [&model](const CallOutcome& outcome) {
@@ -224,7 +224,7 @@ void ResultViewTest::AnElementOfAListShowsItsNameAndIdentifier()
     QCOMPARE(first(view_test::DeviceCategories()), QStringLiteral("deviceCategory: 1"));  // no name, no identifier
 }
 
-void ResultViewTest::TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch()
+void ResultViewTest::TreeFilterKeepsParentsAndChildrenOfMatches()
 {
     RecordModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -255,7 +255,7 @@ void ResultViewTest::TheFilterOfTheTreeKeepsWhatIsAroundAndInAMatch()
     QCOMPARE(model.rowCount(model.index(0, 0)), 3);
 }
 
-void ResultViewTest::TheFilterOfTheTreeIsTypedAfterItsKey()
+void ResultViewTest::FindKeyFocusesTreeFilter()
 {
     ResultView view;
     view.show();
@@ -271,7 +271,7 @@ void ResultViewTest::TheFilterOfTheTreeIsTypedAfterItsKey()
     QVERIFY(tree.isExpanded(tree.model()->index(0, 0, root)));
 }
 
-void ResultViewTest::ValuePathAndSubtreeAreCopied()
+void ResultViewTest::CopiesValuePathAndSubtree()
 {
     ResultView view;
     const CallOutcome outcome = view_test::ParkingLots();
@@ -317,30 +317,30 @@ QStringList MarkedIn(const ResultView& view)
 
 }  // namespace
 
-void ResultViewTest::FieldsThatTheReplyDidNotBringAreMarked_data()
+void ResultViewTest::MarksFieldsMissingInReply_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QString>("data");
     QTest::addColumn<QStringList>("marked");
-    QTest::newRow("the identifier that the caller knows")
+    QTest::newRow("identifier that only the request contains")
         << QStringLiteral("BRMS.GetImageConfig")
         << QStringLiteral(R"({"brightness": 0, "saturation": 50, "contrast": "55", "sharpness": 40})")
         << QStringList{QStringLiteral("/channelId")};
-    QTest::newRow("in every element of a list")
+    QTest::newRow("every element of a list")
         << QStringLiteral("BRMS.GetEncodeConfig") << QStringLiteral(R"({"encodeConfigurations": [
             {"streamType": 1, "bitRate": 0, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
              "iFrameInterval": 50, "height": 0, "width": 0},
             {"streamType": 2, "bitRate": 9, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
              "iFrameInterval": 50, "height": 0, "width": 0}]})")
         << QStringList{QStringLiteral("/0/channelId"), QStringLiteral("/1/channelId")};
-    QTest::newRow("all of it came") << QStringLiteral("BRMS.GetRemoteLogConfig")
+    QTest::newRow("complete reply") << QStringLiteral("BRMS.GetRemoteLogConfig")
                                     << QStringLiteral(R"({"enable": false, "ip": "", "port": 0, "platformId": ""})")
                                     << QStringList{};
-    QTest::newRow("another key than the field")
+    QTest::newRow("key differs from the field name")
         << QStringLiteral("BRMS.GetDeviceLoginModel") << QStringLiteral(R"({"deviceLoginModel": 0})") << QStringList{};
-    QTest::newRow("an empty list came") << QStringLiteral("BRMS.GetMultiCastConfig")
-                                        << QStringLiteral(R"({"status": false, "streams": []})")
-                                        << QStringList{QStringLiteral("/channelId")};
+    QTest::newRow("empty list in the reply")
+        << QStringLiteral("BRMS.GetMultiCastConfig") << QStringLiteral(R"({"status": false, "streams": []})")
+        << QStringList{QStringLiteral("/channelId")};
 }
 
 namespace {
@@ -353,13 +353,13 @@ CallOutcome Replied(const QString& call, const QString& data)
     const QJsonObject object = QJsonDocument::fromJson(data.toUtf8()).object();
     outcome.succeeded = outcome.call->parse(object, record.Data()) == 0;
     outcome.record = record.ToJson();
-    outcome.missing = FieldsNotBrought(*outcome.call, object, outcome.record, outcome.succeeded);
+    outcome.missing = FindMissingFields(*outcome.call, object, outcome.record, outcome.succeeded);
     return outcome;
 }
 
 }  // namespace
 
-void ResultViewTest::FieldsThatTheReplyDidNotBringAreMarked()
+void ResultViewTest::MarksFieldsMissingInReply()
 {
     QFETCH(QString, call);
     QFETCH(QString, data);
@@ -371,7 +371,7 @@ void ResultViewTest::FieldsThatTheReplyDidNotBringAreMarked()
     QCOMPARE(MarkedIn(view), marked);
 }
 
-void ResultViewTest::FieldsBehindTheUnreadableKeyAreMarked()
+void ResultViewTest::MarksFieldsFromUnreadableKeyOn()
 {
     const CallOutcome outcome = Replied(QStringLiteral("BRMS.GetRemoteLogConfig"),
                                         QStringLiteral(R"({"enable": false, "ip": "10.0.0.1", "platformId": "p"})"));
@@ -381,11 +381,11 @@ void ResultViewTest::FieldsBehindTheUnreadableKeyAreMarked()
     QCOMPARE(MarkedIn(view), (QStringList{QStringLiteral("/port"), QStringLiteral("/platformId")}));
 }
 
-void ResultViewTest::NamesAndTypesOfTheTreeAreWhole()
+void ResultViewTest::TreeColumnsFitNamesAndTypes()
 {
-    constexpr QSize kPaneOfASmallWindow(560, 400);
+    constexpr QSize kSmallPane(560, 400);
     ResultView view;
-    view.resize(kPaneOfASmallWindow);
+    view.resize(kSmallPane);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
     view.Show(view_test::AlarmLinkage());
@@ -398,7 +398,7 @@ void ResultViewTest::NamesAndTypesOfTheTreeAreWhole()
     QCOMPARE(tree.header()->length(), tree.viewport()->width());
 }
 
-void ResultViewTest::ALargeRecordOpensItsFirstLevelOnly()
+void ResultViewTest::ExpandsOnlyFirstLevelOfLargeRecord()
 {
     CallOutcome outcome = view_test::ParkingLots();
     const json lots = outcome.record;
@@ -416,7 +416,7 @@ void ResultViewTest::ALargeRecordOpensItsFirstLevelOnly()
     QVERIFY(!tree.isExpanded(tree.model()->index(0, 0, tree.model()->index(0, 0))));
 }
 
-void ResultViewTest::TheJsonIsCopiedWhole()
+void ResultViewTest::CopiesCompleteJson()
 {
     CallOutcome outcome = view_test::Succeeded("BRMS.GetDeriveToken", "{}", "\"\"");
     constexpr std::size_t kLong = 600000;
@@ -453,7 +453,7 @@ QString CountOf(const CodeView& view)
 
 }  // namespace
 
-void ResultViewTest::TheJsonIsSearchedByKeyboard()
+void ResultViewTest::JsonCanBeSearchedByKeyboard()
 {
     CodeView view(CodeView::Kind::Json, QString());
     view.SetText(QStringLiteral("Gate, GATE and gate"));
@@ -488,7 +488,7 @@ void ResultViewTest::TheJsonIsSearchedByKeyboard()
     QCOMPARE(Selected(view), QStringLiteral("gatex"));
 }
 
-void ResultViewTest::TheSearchFindsWhatIsNotShown()
+void ResultViewTest::SearchFindsTextOutsideTheShownPart()
 {
     CodeView view(CodeView::Kind::Text, QString());
     view.SetText(Lines(60000));
@@ -501,7 +501,7 @@ void ResultViewTest::TheSearchFindsWhatIsNotShown()
     QVERIFY(edit.toPlainText().size() < view.Text().size());
 }
 
-void ResultViewTest::TheSearchSelectsTheMatchAfterLineEndsOfTheWire()
+void ResultViewTest::SearchSelectsMatchAfterCrLf()
 {
     CodeView view(CodeView::Kind::Text, QString());
     view.SetText(QStringLiteral("one\r\ntwo\r\nthree"));
@@ -509,7 +509,7 @@ void ResultViewTest::TheSearchSelectsTheMatchAfterLineEndsOfTheWire()
     QCOMPARE(Selected(view), QStringLiteral("three"));
 }
 
-void ResultViewTest::AllOfALongTextIsShownOnDemand()
+void ResultViewTest::ShowsCompleteLongTextOnDemand()
 {
     CodeView view(CodeView::Kind::Text, QString());
     const QString text = Lines(60000);
@@ -526,7 +526,7 @@ void ResultViewTest::AllOfALongTextIsShownOnDemand()
     QVERIFY(!shortened.isVisibleTo(&view));
 }
 
-void ResultViewTest::JsonHasColoursThatFollowThePalette()
+void ResultViewTest::JsonColoursFollowThePalette()
 {
     QPlainTextEdit edit;
     const explorer::JsonHighlighter highlighter(edit);
@@ -552,7 +552,7 @@ void ResultViewTest::JsonHasColoursThatFollowThePalette()
     QVERIFY(QColor(dark[0]).lightness() > QColor(light[0]).lightness());
 }
 
-void ResultViewTest::TheTableHasARowForEachElement()
+void ResultViewTest::TableHasRowForEachElement()
 {
     RecordTable table;
     Set(table, view_test::DeviceCategories());
@@ -586,7 +586,7 @@ void ResultViewTest::ColumnsSortByValue()
     QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1")}));
 }
 
-void ResultViewTest::TextsSortAsPeopleDo()
+void ResultViewTest::TextsSortNaturally()
 {
     RecordTable table;
     Set(table, view_test::Succeeded("BRMS.GetMemoryOutOfServerList", "{}",
@@ -600,7 +600,7 @@ void ResultViewTest::TextsSortAsPeopleDo()
                           QStringLiteral("b"), QStringLiteral("gate 9"), QStringLiteral("Gate 10")}));
 }
 
-void ResultViewTest::TheFilterLooksInEveryColumn()
+void ResultViewTest::TableFilterSearchesEveryColumn()
 {
     RecordTable table;
     Set(table, view_test::ParkingLots());
@@ -618,7 +618,7 @@ void ResultViewTest::TheFilterLooksInEveryColumn()
     QCOMPARE(view.model()->rowCount(), 3);
 }
 
-void ResultViewTest::TotalsAreThoseOfTheRowsShown()
+void ResultViewTest::TotalsCoverOnlyVisibleRows()
 {
     RecordTable table;
     Set(table, view_test::ParkingLots());
@@ -638,7 +638,7 @@ void ResultViewTest::TotalsAreThoseOfTheRowsShown()
     QVERIFY(!totals.isVisibleTo(&table));
 }
 
-void ResultViewTest::TotalsStandUnderTheirColumns()
+void ResultViewTest::TotalsAlignWithTheirColumns()
 {
     RecordTable table;
     Set(table, view_test::ParkingLots());
@@ -663,7 +663,7 @@ void ResultViewTest::TotalsStandUnderTheirColumns()
     compare();
 }
 
-void ResultViewTest::AListIsChosenAmongSeveral()
+void ResultViewTest::ListCanBeChosenAmongSeveral()
 {
     RecordTable table;
     Set(table, view_test::AlarmLinkage());
@@ -688,7 +688,7 @@ void ResultViewTest::PlainListsHaveOneColumn()
              (QStringList{QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("20")}));
 }
 
-void ResultViewTest::WhatIsShownIsExported()
+void ResultViewTest::ExportsVisibleRowsInTheirOrder()
 {
     RecordTable table;
     CallOutcome outcome = view_test::AlarmLinkage();
@@ -728,7 +728,7 @@ void AnswerFileDialog(RecordTable& table, const QString& fileName)
 
 }  // namespace
 
-void ResultViewTest::TheButtonAsksForTheFile()
+void ResultViewTest::ExportButtonAsksForFileName()
 {
     RecordTable table;
     Set(table, view_test::DeviceCategories());
@@ -741,7 +741,7 @@ void ResultViewTest::TheButtonAsksForTheFile()
     QCOMPARE(file.readAll(), table.ToCsv());
 }
 
-void ResultViewTest::AFileThatCannotBeWrittenIsTold()
+void ResultViewTest::ExportFailsWhenFileCannotBeWritten()
 {
     RecordTable table;
     Set(table, view_test::DeviceCategories());
@@ -752,7 +752,7 @@ void ResultViewTest::AFileThatCannotBeWrittenIsTold()
     QVERIFY(!table.ExportTo(QStringLiteral("/no/such/folder/table.csv")));
 }
 
-void ResultViewTest::TheExchangeIsShownAsItWent()
+void ResultViewTest::ShowsRawExchange()
 {
     ResultView view;
     CallOutcome outcome = view_test::EncodeUpdate();
@@ -774,7 +774,7 @@ void ResultViewTest::TheExchangeIsShownAsItWent()
     QVERIFY(page.Text().endsWith(QStringLiteral("\n\nNothing was sent.")));
 }
 
-void ResultViewTest::WithoutARecordThereIsAHint()
+void ResultViewTest::ShowsHintWithoutRecord()
 {
     ResultView view;
     QCOMPARE(HintOn(view, RecordTab), QStringLiteral("Run a call to see its result here."));

@@ -14,17 +14,17 @@ namespace e2e {
 namespace {
 
 using emulator::RecordedRequest;
-using testing_support::Ended;
+using testing_support::ProgramResult;
 
 /// Runs the command in a shell, with the token in the environment as a user has it.
-Ended RunInShell(const QString& command)
+ProgramResult RunInShell(const QString& command)
 {
     return testing_support::RunProgram(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command},
                                        {{QStringLiteral("TOKEN"), QString::fromLatin1(emulator::kDefaultToken)}});
 }
 
 /// The server adds the addresses of both ends to the received headers, under names with underscores.
-bool IsOfTheServer(const std::string& name)
+bool IsAddedByServer(const std::string& name)
 {
     return name.find('_') != std::string::npos;
 }
@@ -38,7 +38,7 @@ std::multimap<std::string, std::string> HeadersOf(const RecordedRequest& request
     std::multimap<std::string, std::string> headers;
     for (const auto& [name, value] : request.headers) {
         const QString lower = QString::fromStdString(name).toLower();
-        if (!IsOfTheServer(name) && !connectionNames.contains(lower)) {
+        if (!IsAddedByServer(name) && !connectionNames.contains(lower)) {
             headers.emplace(lower.toStdString(), value);
         }
     }
@@ -65,7 +65,7 @@ protected:
             QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort()) + QString::fromStdString(request.target);
         masked.body = QByteArray::fromStdString(request.body);
         for (const auto& [name, value] : request.headers) {
-            if (IsOfTheServer(name)) {
+            if (IsAddedByServer(name)) {
                 continue;
             }
             const char* text = value == emulator::kDefaultToken ? explorer::kTokenMask : value.c_str();
@@ -81,7 +81,7 @@ protected:
 
         Platform().reset();
         Platform().clearRequests();
-        const Ended ended = RunInShell(command);
+        const ProgramResult ended = RunInShell(command);
         EXPECT_EQ(ended.status, 0) << ended.err << "\n" << command.toStdString();
         const std::vector<RecordedRequest> requests = Platform().requests();
         if (requests.size() != 1U) {
@@ -125,7 +125,7 @@ std::string NameOf(const testing::TestParamInfo<Row>& info)
 INSTANTIATE_TEST_SUITE_P(EveryCall, ShellLines, testing::ValuesIn(Rows()), NameOf);
 
 INSTANTIATE_TEST_SUITE_P(
-    WhatAShellWouldTouch, ShellLines,
+    CharactersSpecialToShells, ShellLines,
     testing::Values(
         Row{"BRMS.UpdateLocalSetting",
             "Quotes",

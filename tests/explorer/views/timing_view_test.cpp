@@ -27,14 +27,14 @@ class TimingViewTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void FiguresAreThoseOfTheRuns();
-    void ARunIsShownInItsParts();
-    void TheChartShowsEachCall();
+    void ShowsFiguresOfTheRuns();
+    void ShowsPhasesOfTheRun();
+    void ChartShowsEachRun();
     void ColoursFollowThePalette();
-    void ARepeatIsRequested();
-    void ProgressIsShownUntilAllIsDone();
-    void ACancelIsRequestedOnce();
-    void WithoutACallNothingIsRepeated();
+    void RepeatButtonRequestsRepetition();
+    void ShowsProgressUntilAllRunsAreDone();
+    void RequestsCancelOncePerRepetition();
+    void RepeatButtonIsDisabledWithoutCall();
     void Screenshots();
 };
 
@@ -85,7 +85,7 @@ enum Series {
 
 }  // namespace
 
-void TimingViewTest::FiguresAreThoseOfTheRuns()
+void TimingViewTest::ShowsFiguresOfTheRuns()
 {
     TimingView view;
     QCOMPARE(Figure(view, "calls"), QStringLiteral("0"));
@@ -97,7 +97,7 @@ void TimingViewTest::FiguresAreThoseOfTheRuns()
     QCOMPARE(Figure(view, "failed"), QStringLiteral("1"));
 }
 
-void TimingViewTest::ARunIsShownInItsParts()
+void TimingViewTest::ShowsPhasesOfTheRun()
 {
     TimingView view;
     QCOMPARE(Figure(view, "parts"), QString());
@@ -114,7 +114,7 @@ void TimingViewTest::ARunIsShownInItsParts()
     QCOMPARE(Figure(view, "parts"), QString());
 }
 
-void TimingViewTest::TheChartShowsEachCall()
+void TimingViewTest::ChartShowsEachRun()
 {
     TimingView view;
     Show(view, {Timed(5)});
@@ -150,7 +150,7 @@ void TimingViewTest::ColoursFollowThePalette()
     }
 }
 
-void TimingViewTest::ARepeatIsRequested()
+void TimingViewTest::RepeatButtonRequestsRepetition()
 {
     TimingView view;
     QSignalSpy requests(&view, &TimingView::RepeatRequested);
@@ -160,7 +160,7 @@ void TimingViewTest::ARepeatIsRequested()
     QCOMPARE(requests[0][0].toInt(), 37);
 }
 
-void TimingViewTest::ProgressIsShownUntilAllIsDone()
+void TimingViewTest::ShowsProgressUntilAllRunsAreDone()
 {
     TimingView view;
     auto& progress = Child<QProgressBar>(view, "progress");
@@ -180,7 +180,7 @@ void TimingViewTest::ProgressIsShownUntilAllIsDone()
     QVERIFY(repeat.isEnabled());
 }
 
-void TimingViewTest::ACancelIsRequestedOnce()
+void TimingViewTest::RequestsCancelOncePerRepetition()
 {
     TimingView view;
     QSignalSpy cancels(&view, &TimingView::CancelRequested);
@@ -196,7 +196,7 @@ void TimingViewTest::ACancelIsRequestedOnce()
     QCOMPARE(cancels.count(), 2);
 }
 
-void TimingViewTest::WithoutACallNothingIsRepeated()
+void TimingViewTest::RepeatButtonIsDisabledWithoutCall()
 {
     TimingView view;
     auto& repeat = Child<QPushButton>(view, "repeat");

@@ -85,7 +85,7 @@ QByteArray Line(const CallOutcome& run)
                      {QStringLiteral("result"), run.result},
                      {QStringLiteral("succeeded"), run.succeeded},
                      {QStringLiteral("text"), run.resultText},
-                     {QStringLiteral("way"), int(run.way)},
+                     {QStringLiteral("way"), int(run.waitMode)},
                      {QStringLiteral("timeout"), run.timeoutSeconds},
                      {QStringLiteral("method"), run.request.method},
                      {QStringLiteral("url"), run.request.url},
@@ -127,7 +127,7 @@ CallOutcome FromLine(const QByteArray& text)
     run.result = value("result").toInt();
     run.succeeded = value("succeeded").toBool();
     run.resultText = value("text").toString();
-    run.way = Way(value("way").toInt());
+    run.waitMode = WaitMode(value("way").toInt());
     run.timeoutSeconds = value("timeout").toInt();
     run.request = {value("method").toString(), value("url").toString(), HeadersOf(value("headers")),
                    Unpacked(value("body"))};

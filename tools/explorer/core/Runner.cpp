@@ -82,14 +82,14 @@ nlohmann::json ToJson(const QJsonObject& object)
 }  // namespace
 
 /// A run of a call in progress.
-struct Runner::Course {
-    explicit Course(const RunOrder& order)
+struct Runner::ActiveRun {
+    explicit ActiveRun(const RunOrder& order)
     {
         outcome.call = order.call;
         outcome.arguments = order.arguments;
         outcome.server = order.server.name;
         outcome.started = QDateTime::currentDateTime();
-        outcome.way = order.way;
+        outcome.waitMode = order.waitMode;
         clock.start();
     }
 
@@ -97,20 +97,18 @@ struct Runner::Course {
     QElapsedTimer clock;
     QString token;
 
-    static catalogue::RunSettings Settings(const std::shared_ptr<Course>& pCourse, const RunOrder& order)
+    static catalogue::RunSettings Settings(const std::shared_ptr<ActiveRun>& pRun, const RunOrder& order)
     {
         catalogue::RunSettings settings;
         if (order.timeoutSeconds) {
             settings.timeout = std::chrono::seconds(*order.timeoutSeconds);
         }
-        settings.onPacked = [pCourse, timeout = order.timeoutSeconds](APIModule::RequestParam& request) {
+        settings.onPacked = [pRun, timeout = order.timeoutSeconds](APIModule::RequestParam& request) {
             request.bExcludeUserInput = false;
-            pCourse->outcome.timeoutSeconds = timeout.value_or(request.nTimeout);
-            pCourse->token = QString::fromStdString(request.strToken);
+            pRun->outcome.timeoutSeconds = timeout.value_or(request.nTimeout);
+            pRun->token = QString::fromStdString(request.strToken);
         };
-        settings.observer = [pCourse](const ObservedExchange& exchange) {
-            Take(pCourse->outcome, exchange, pCourse->token);
-        };
+        settings.observer = [pRun](const ObservedExchange& exchange) { Take(pRun->outcome, exchange, pRun->token); };
         return settings;
     }
 
@@ -121,7 +119,7 @@ struct Runner::Course {
         outcome.result = ended.Code();
         outcome.succeeded = bool(ended);
         outcome.record = ended.Data().isEmpty() ? nlohmann::json() : std::move(ended.record);
-        outcome.missing = FieldsNotBrought(*outcome.call, ended.Data(), outcome.record, outcome.succeeded);
+        outcome.missing = FindMissingFields(*outcome.call, ended.Data(), outcome.record, outcome.succeeded);
         outcome.resultText =
             outcome.succeeded ? Runner::tr("Success") : CAPIModule::GetErroCodeInfor(caption, outcome.result, true);
         CAPIModule::GetInstance().NotifyOutcome(ended, caption, Runner::tr("%1 succeeded").arg(name));
@@ -160,7 +158,7 @@ void Runner::Order(const RunOrder& order)
     ++m_pending;
     Post([this, order] {
         emit Started(order.call);
-        if (order.way == Way::WithoutWaiting) {
+        if (order.waitMode == WaitMode::WithoutWaiting) {
             Begin(order);
         } else {
             Wait(order);
@@ -186,20 +184,20 @@ void Runner::Announce(const RunOrder& order, const CallOutcome& outcome)
 void Runner::Begin(const RunOrder& order)
 {
     const int number = ++m_lastNumber;
-    const auto pCourse = std::make_shared<Course>(order);
-    m_running[number] = {order, pCourse, {}};
+    const auto pRun = std::make_shared<ActiveRun>(order);
+    m_running[number] = {order, pRun, {}};
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-        m_running[number].handle = catalogue::Start(*order.call, arguments, Course::Settings(pCourse, order), this,
+        m_running[number].handle = catalogue::Start(*order.call, arguments, ActiveRun::Settings(pRun, order), this,
                                                     [this, number](const catalogue::Outcome& ended) {
-                                                        End(number, [this, &ended](Course& course) {
+                                                        End(number, [this, &ended](ActiveRun& run) {
                                                             emit Notifying(bool(ended));
-                                                            return course.Concluded(ended);
+                                                            return run.Concluded(ended);
                                                         });
                                                     });
         emit WithoutWaitingChanged();
     } catch (const catalogue::Mismatch& mismatch) {
-        End(number, [&mismatch](Course& course) { return course.Refused(mismatch); });
+        End(number, [&mismatch](ActiveRun& run) { return run.Refused(mismatch); });
     }
 }
 
@@ -213,10 +211,10 @@ RequestDraft Runner::Draft(const RunOrder& order)
     if (!server.pin.isEmpty()) {
         draft.apicallOptions << QStringLiteral("--pin") << QString::fromLatin1(server.pin.toHex());
     }
-    const auto pCourse = std::make_shared<Course>(order);
+    const auto pRun = std::make_shared<ActiveRun>(order);
     const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
-    if (const auto preview = catalogue::Preview(*order.call, arguments, Course::Settings(pCourse, order))) {
-        draft.request = RequestOf(*preview, pCourse->token);
+    if (const auto preview = catalogue::Preview(*order.call, arguments, ActiveRun::Settings(pRun, order))) {
+        draft.request = RequestOf(*preview, pRun->token);
         if (server.port == 0) {
             NameUnknownPort(draft.request, server);
         }
@@ -229,18 +227,18 @@ void Runner::Cancel(int number)
     const auto found = m_running.find(number);
     if (found != m_running.end()) {
         found->second.handle.Cancel();
-        End(number, [](Course& course) { return course.Cancelled(); });
+        End(number, [](ActiveRun& run) { return run.Cancelled(); });
     }
 }
 
-void Runner::End(int number, const std::function<CallOutcome(Course&)>& conclude)
+void Runner::End(int number, const std::function<CallOutcome(ActiveRun&)>& conclude)
 {
     const Running running = m_running.at(number);
     m_running.erase(number);
     --m_pending;
     emit WithoutWaitingChanged();
-    const CallOutcome outcome = conclude(*running.pCourse);
-    Check(running.order, outcome, running.pCourse->token);
+    const CallOutcome outcome = conclude(*running.pRun);
+    Check(running.order, outcome, running.pRun->token);
     Announce(running.order, outcome);
 }
 
@@ -302,17 +300,17 @@ void Runner::Post(std::function<void()> step)
 
 CallOutcome Runner::Run(const RunOrder& order)
 {
-    const auto pCourse = std::make_shared<Course>(order);
+    const auto pRun = std::make_shared<ActiveRun>(order);
     try {
         const auto arguments = catalogue::ReadArguments(*order.call, ToJson(order.arguments));
         catalogue::Outcome ended =
-            catalogue::Run(*order.call, arguments, Course::Settings(pCourse, order), order.parent);
+            catalogue::Run(*order.call, arguments, ActiveRun::Settings(pRun, order), order.parent);
         emit Notifying(bool(ended));
-        CallOutcome outcome = pCourse->Concluded(std::move(ended));
-        Check(order, outcome, pCourse->token);
+        CallOutcome outcome = pRun->Concluded(std::move(ended));
+        Check(order, outcome, pRun->token);
         return outcome;
     } catch (const catalogue::Mismatch& mismatch) {
-        return pCourse->Refused(mismatch);
+        return pRun->Refused(mismatch);
     }
 }
 

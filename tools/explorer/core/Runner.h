@@ -24,7 +24,7 @@ struct RunOrder {
     QJsonObject arguments;
     Server server;                           ///< the current server of the user manager
     std::optional<int> timeoutSeconds = {};  ///< replaces that of the call
-    Way way = Way::EventLoop;
+    WaitMode waitMode = WaitMode::EventLoop;
     QPointer<QWidget> parent = {};                          ///< under the wait dialog
     std::function<void(const CallOutcome&)> finished = {};  ///< called after Runner::Finished
 };
@@ -73,17 +73,17 @@ Q_SIGNALS:
     void RepeatEnded();
 
 private:
-    struct Course;
+    struct ActiveRun;
     struct Running {
         RunOrder order;
-        std::shared_ptr<Course> pCourse;
+        std::shared_ptr<ActiveRun> pRun;
         APIModule::CallHandle handle;
     };
 
     void Wait(const RunOrder& order);
     void Begin(const RunOrder& order);
     void Announce(const RunOrder& order, const CallOutcome& outcome);
-    void End(int number, const std::function<CallOutcome(Course&)>& conclude);
+    void End(int number, const std::function<CallOutcome(ActiveRun&)>& conclude);
     CallOutcome Run(const RunOrder& order);
     void Check(const RunOrder& order, const RunSummary& run, const QString& token);
     void RepeatFrom(const RunOrder& order, int done);

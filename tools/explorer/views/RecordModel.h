@@ -2,7 +2,7 @@
 
 #include "Json.h"
 
-#include <catalogue/Brought.h>
+#include <catalogue/MissingFields.h>
 #include <catalogue/Type.h>
 
 #include <QAbstractItemModel>

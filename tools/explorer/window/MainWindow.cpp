@@ -580,10 +580,10 @@ RunOrder MainWindow::FilledIn() const
     return {m_pCall, m_pForm->Arguments(), m_session.servers.Current(), m_pRunBar->TimeoutSeconds()};
 }
 
-RunOrder MainWindow::InTheChosenWay(RunOrder order)
+RunOrder MainWindow::WithWaitMode(RunOrder order)
 {
-    order.way = m_pRunBar->ChosenWay();
-    if (order.way == Way::WaitDialog) {
+    order.waitMode = m_pRunBar->ChosenWaitMode();
+    if (order.waitMode == WaitMode::WaitDialog) {
         order.parent = this;
     }
     return order;
@@ -624,7 +624,7 @@ std::optional<RunOrder> MainWindow::Order()
 void MainWindow::Run()
 {
     if (const std::optional<RunOrder> filledIn = Order()) {
-        const RunOrder order = InTheChosenWay(*filledIn);
+        const RunOrder order = WithWaitMode(*filledIn);
         m_pGuard->Check(order, [this, order] { m_session.runner.Order(order); });
     }
 }
@@ -632,7 +632,7 @@ void MainWindow::Run()
 void MainWindow::Fill()
 {
     if (m_pCall != nullptr && IsReadyFor(&MainWindow::Fill)) {
-        m_pGuard->Fill(InTheChosenWay(FilledIn()));
+        m_pGuard->Fill(WithWaitMode(FilledIn()));
     }
 }
 

@@ -80,7 +80,7 @@ private:
     void AskForToken();
     /// The selected call with its arguments, for the current server.
     [[nodiscard]] RunOrder FilledIn() const;
-    [[nodiscard]] RunOrder InTheChosenWay(RunOrder order);
+    [[nodiscard]] RunOrder WithWaitMode(RunOrder order);
     /// Nothing while a required value is missing or still loading.
     [[nodiscard]] std::optional<RunOrder> Order();
     void ShowRequest();

@@ -15,7 +15,7 @@
 namespace explorer {
 namespace {
 
-constexpr const char* kWayKey = "run/way";
+constexpr const char* kWaitModeKey = "run/way";
 constexpr const char* kTimeoutKey = "run/timeoutSeconds";
 constexpr int kLongestTimeout = 3600;
 constexpr int kLongestTyped = 9999999;  // longer time-outs stay visible and are refused
@@ -23,7 +23,7 @@ constexpr int kLongestTyped = 9999999;  // longer time-outs stay visible and are
 }  // namespace
 
 RunBar::RunBar(QSettings& settings, QWidget* pParent)
-    : QWidget(pParent), m_pRun(new QPushButton(tr("Run"))), m_pWay(new QComboBox), m_pTimeout(new QSpinBox),
+    : QWidget(pParent), m_pRun(new QPushButton(tr("Run"))), m_pWaitMode(new QComboBox), m_pTimeout(new QSpinBox),
       m_pState(new QLabel), m_pProblem(new TintedLabel(theme::Error))
 {
     m_pRun->setObjectName(QStringLiteral("run"));
@@ -31,14 +31,14 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pRun->setDefault(true);
     connect(m_pRun, &QPushButton::clicked, this, &RunBar::RunRequested);
 
-    m_pWay->setObjectName(QStringLiteral("wait"));
-    m_pWay->addItem(tr("Behind the wait dialog"), int(Way::WaitDialog));
-    m_pWay->addItem(tr("In the event loop, input allowed"), int(Way::EventLoop));
-    m_pWay->addItem(tr("Not at all, several at once"), int(Way::WithoutWaiting));
-    m_pWay->setCurrentIndex(qMax(0, m_pWay->findData(settings.value(QLatin1String(kWayKey)).toInt())));
-    m_pWay->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto* const pWayLabel = new QLabel(tr("&Wait"));
-    pWayLabel->setBuddy(m_pWay);
+    m_pWaitMode->setObjectName(QStringLiteral("wait"));
+    m_pWaitMode->addItem(tr("Behind the wait dialog"), int(WaitMode::WaitDialog));
+    m_pWaitMode->addItem(tr("In the event loop, input allowed"), int(WaitMode::EventLoop));
+    m_pWaitMode->addItem(tr("Not at all, several at once"), int(WaitMode::WithoutWaiting));
+    m_pWaitMode->setCurrentIndex(qMax(0, m_pWaitMode->findData(settings.value(QLatin1String(kWaitModeKey)).toInt())));
+    m_pWaitMode->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* const pWaitModeLabel = new QLabel(tr("&Wait"));
+    pWaitModeLabel->setBuddy(m_pWaitMode);
 
     m_pTimeout->setObjectName(QStringLiteral("timeout"));
     m_pTimeout->setRange(0, kLongestTyped);
@@ -56,8 +56,8 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     m_pProblem->setWordWrap(true);
 
     // Stored at once, for a window in another language.
-    connect(m_pWay, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            [&settings, this] { settings.setValue(QLatin1String(kWayKey), int(ChosenWay())); });
+    connect(m_pWaitMode, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [&settings, this] { settings.setValue(QLatin1String(kWaitModeKey), int(ChosenWaitMode())); });
     connect(m_pTimeout, qOverload<int>(&QSpinBox::valueChanged), this, [&settings, this](int seconds) {
         if (Problem().isEmpty()) {
             settings.setValue(QLatin1String(kTimeoutKey), seconds);
@@ -69,8 +69,8 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setHorizontalSpacing(8);
     pLayout->setColumnStretch(1, 1);
-    pLayout->addWidget(pWayLabel, 0, 0);
-    pLayout->addWidget(m_pWay, 0, 1, 1, 2);
+    pLayout->addWidget(pWaitModeLabel, 0, 0);
+    pLayout->addWidget(m_pWaitMode, 0, 1, 1, 2);
     pLayout->addWidget(pTimeoutLabel, 1, 0);
     pLayout->addWidget(m_pTimeout, 1, 1);
     pLayout->addWidget(m_pRun, 1, 2);
@@ -80,13 +80,13 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     kept.setRetainSizeWhenHidden(true);  // so that nothing moves under the mouse
     m_pState->setSizePolicy(kept);
     Update();
-    setTabOrder(m_pWay, m_pTimeout);
+    setTabOrder(m_pWaitMode, m_pTimeout);
     setTabOrder(m_pTimeout, m_pRun);
 }
 
-Way RunBar::ChosenWay() const
+WaitMode RunBar::ChosenWaitMode() const
 {
-    return Way(m_pWay->currentData().toInt());
+    return WaitMode(m_pWaitMode->currentData().toInt());
 }
 
 std::optional<int> RunBar::TimeoutSeconds() const

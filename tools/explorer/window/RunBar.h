@@ -22,7 +22,7 @@ public:
     /// @param settings stores the options; must outlive the bar
     explicit RunBar(QSettings& settings, QWidget* pParent = nullptr);
 
-    [[nodiscard]] Way ChosenWay() const;
+    [[nodiscard]] WaitMode ChosenWaitMode() const;
     /// Nothing for the time-out of the call.
     [[nodiscard]] std::optional<int> TimeoutSeconds() const;
     /// Shows the user an option that is invalid.
@@ -43,7 +43,7 @@ private:
     QString m_notReadyWhy;
     int m_pending = 0;
     QPushButton* m_pRun;
-    QComboBox* m_pWay;
+    QComboBox* m_pWaitMode;
     QSpinBox* m_pTimeout;
     QLabel* m_pState;
     QLabel* m_pProblem;

@@ -1,4 +1,4 @@
-#include "Brought.h"
+#include "MissingFields.h"
 
 #include "Value.h"
 
@@ -77,29 +77,29 @@ json Parsed(const Call& call, const json& data)
 }
 
 /// Sorts the fields of two records: those that are equal in both do not depend on the reply, so they are missing.
-void AddEqual(const Type& type, const json& left, const json& right, const std::string& path, MissingFields& missing,
-              MissingFields& brought)
+void Classify(const Type& type, const json& left, const json& right, const std::string& path, MissingFields& missing,
+              MissingFields& present)
 {
     switch (type.kind) {
     case Kind::Record:
         for (const Field& field : type.fields) {
             const std::string name(field.name);
-            AddEqual(*field.type, left.at(name), right.at(name), std::string(path).append("/").append(name), missing,
-                     brought);
+            Classify(*field.type, left.at(name), right.at(name), std::string(path).append("/").append(name), missing,
+                     present);
         }
         break;
     case Kind::List:
         for (std::size_t index = 0; index < left.size(); ++index) {
-            AddEqual(*type.element, left[index], right[index], path + "/-", missing, brought);
+            Classify(*type.element, left[index], right[index], path + "/-", missing, present);
         }
         break;
     default:
-        (left == right ? missing : brought).insert(path);
+        (left == right ? missing : present).insert(path);
     }
 }
 
 /// After an incomplete Parse: the fields with their default value whose key is missing or has another value.
-MissingFields FieldsNotReached(const Call& call, const json& data, const json& record)
+MissingFields FieldsNotRead(const Call& call, const json& data, const json& record)
 {
     MissingFields missing;
     const json fresh = Value(*call.result).ToJson();
@@ -116,20 +116,20 @@ MissingFields FieldsNotReached(const Call& call, const json& data, const json& r
 
 }  // namespace
 
-MissingFields FieldsNotBrought(const Call& call, const QJsonObject& data, const json& record, bool complete)
+MissingFields FindMissingFields(const Call& call, const QJsonObject& data, const json& record, bool complete)
 {
     if (call.result == nullptr || record.is_null()) {
         return {};
     }
     const json first = FirstElements(data);
     if (!complete) {
-        return FieldsNotReached(call, first, record);
+        return FieldsNotRead(call, first, record);
     }
     MissingFields missing;
-    MissingFields brought;
-    AddEqual(*call.result, Parsed(call, Uniform(first, false)), Parsed(call, Uniform(first, true)), {}, missing,
-             brought);
-    for (const std::string& path : brought) {
+    MissingFields present;
+    Classify(*call.result, Parsed(call, Uniform(first, false)), Parsed(call, Uniform(first, true)), {}, missing,
+             present);
+    for (const std::string& path : present) {
         missing.erase(path);
     }
     return missing;

@@ -16,6 +16,6 @@ using MissingFields = std::set<std::string>;
 /// @param data of the reply that the record was read from
 /// @param record as far as the Parse read it
 /// @param complete whether the Parse read it to the end
-MissingFields FieldsNotBrought(const Call& call, const QJsonObject& data, const nlohmann::json& record, bool complete);
+MissingFields FindMissingFields(const Call& call, const QJsonObject& data, const nlohmann::json& record, bool complete);
 
 }  // namespace catalogue
