@@ -37,9 +37,9 @@ void OrnWaitDialog::done(int nResult)
 
 namespace {
 
-RawAnswer Respond(const RawRequest& request)
+RawReply Respond(const RawRequest& request)
 {
-    return request.target == "/silent" ? RawAnswer{} : HttpAnswer(200, R"({"code":1000})");
+    return request.target == "/silent" ? RawReply{} : HttpReply(200, R"({"code":1000})");
 }
 
 class ClientDialogTest : public Host {

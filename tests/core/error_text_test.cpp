@@ -89,7 +89,7 @@ TEST_P(FailureNotice, ShowsTheExpectedText)
 {
     const Notice& row = GetParam();
     RawServer server(
-        [&](const RawRequest&) { return HttpAnswer(200, "{\"code\":" + QByteArray::number(row.code) + "}"); });
+        [&](const RawRequest&) { return HttpReply(200, "{\"code\":" + QByteArray::number(row.code) + "}"); });
     Use(server);
     HostCall call;
     call.uiError = QString::fromUtf8(row.uiError);

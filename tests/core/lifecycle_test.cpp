@@ -29,9 +29,9 @@ int g_argc = 1;
 char g_name[] = "lifecycle_test";
 char* g_argv[] = {g_name, nullptr};
 
-RawAnswer Respond(const RawRequest& request)
+RawReply Respond(const RawRequest& request)
 {
-    return request.target == "/silent" ? RawAnswer{} : HttpAnswer(200, R"({"code":1000})");
+    return request.target == "/silent" ? RawReply{} : HttpReply(200, R"({"code":1000})");
 }
 
 HostCall Call(const QString& url, int nTimeout = 20)

@@ -57,7 +57,7 @@ TEST_F(Request, DescriptionIsFilled)
     EXPECT_EQ(param.eMethod, APIModule::Method_Put);
     EXPECT_TRUE(param.bCompress);
     EXPECT_EQ(param.nTimeout, 33);
-    EXPECT_FALSE(param.bExcludeUserInput) << "is left alone";
+    EXPECT_FALSE(param.bExcludeUserInput) << "must stay unchanged";
 
     ASSERT_EQ(Fill(&param, -1), 0) << "the current server";
     EXPECT_EQ(param.strIp, "first.example");
@@ -107,7 +107,7 @@ TEST_F(Request, UnknownServerFailsWithoutLoggingAndLeavesTheRecord)
 
 TEST_F(Request, UserManagerMayCallUnInit)
 {
-    class Leaver : public UserLogical::IUserManager {
+    class UnInitCallingManager : public UserLogical::IUserManager {
     public:
         int GetCurrentServerId() override
         {
@@ -115,9 +115,9 @@ TEST_F(Request, UserManagerMayCallUnInit)
             return 1;
         }
         std::shared_ptr<UserLogical::IServer> GetServer(int) override { return nullptr; }
-    } leaver;
+    } manager;
     CAPIModule::GetInstance().UnInit();
-    CAPIModule::GetInstance().Init(&leaver);
+    CAPIModule::GetInstance().Init(&manager);
     logs.Take();
     RequestParam param;
     EXPECT_EQ(Fill(&param, -1), -1);
@@ -127,13 +127,13 @@ TEST_F(Request, UserManagerMayCallUnInit)
 
 TEST_F(Request, ThrowingUserManagerFailsThePack)
 {
-    class Thrower : public UserLogical::IUserManager {
+    class ThrowingManager : public UserLogical::IUserManager {
     public:
         int GetCurrentServerId() override { throw std::runtime_error("signed off %s"); }
         std::shared_ptr<UserLogical::IServer> GetServer(int) override { throw 7; }
-    } thrower;
+    } manager;
     CAPIModule::GetInstance().UnInit();
-    CAPIModule::GetInstance().Init(&thrower);
+    CAPIModule::GetInstance().Init(&manager);
     logs.Take();
     RequestParam param;
     EXPECT_EQ(Fill(&param, -1), -1);
@@ -169,7 +169,7 @@ TEST_F(Request, SecondInitIsIgnoredUntilUnInit)
 
 TEST_F(Request, MethodIsAMetaType)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
     Use(server);
     EXPECT_EQ(Execute({}), 0);
     const int type = qMetaTypeId<APIModule::Method>();
@@ -186,8 +186,8 @@ TEST_F(Request, MethodIsAMetaType)
     EXPECT_EQ(APIModule::Method_Delete, 3);
 }
 
-/// One request as it is described and as it arrives.
-struct OnTheWire {
+/// A request as the caller describes it, and as it arrives at the server.
+struct WireRow {
     const char* name;
     APIModule::Method method;
     const char* url;
@@ -197,12 +197,12 @@ struct OnTheWire {
     const char* wireBody;
 };
 
-class WireTest : public Request, public testing::WithParamInterface<std::tuple<OnTheWire, RawServer::Scheme>> {};
+class WireTest : public Request, public testing::WithParamInterface<std::tuple<WireRow, RawServer::Scheme>> {};
 
-TEST_P(WireTest, Arrives)
+TEST_P(WireTest, ArrivesAsExpected)
 {
     const auto& [row, scheme] = GetParam();
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); }, scheme);
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); }, scheme);
     Use(server, scheme);
     HostCall call;
     call.method = row.method;
@@ -217,7 +217,7 @@ TEST_P(WireTest, Arrives)
     EXPECT_EQ(requests[0].Value("Content-Type"), "application/json;charset=UTF-8");
 }
 
-const OnTheWire kOnTheWire[] = {
+const WireRow kWireRows[] = {
     {"get", APIModule::Method_Get, "/a/b", "", "GET", "/a/b", ""},
     {"get_without_its_body", APIModule::Method_Get, "/a/b", "{}", "GET", "/a/b", ""},
     {"put", APIModule::Method_Put, "/a/b", "{\"k\":1}", "PUT", "/a/b", "{\"k\":1}"},
@@ -229,20 +229,20 @@ const OnTheWire kOnTheWire[] = {
     {"query_with_blank", APIModule::Method_Get, "/a?keyword=a b", "", "GET", "/a?keyword=a%20b", ""},
     {"query_with_umlaut", APIModule::Method_Get, "/a?keyword=\xC3\xBC", "", "GET", "/a?keyword=%C3%BC", ""},
     {"query_alone", APIModule::Method_Get, "?x=1", "", "GET", "/?x=1", ""},
-    {"hash_ends_it", APIModule::Method_Get, "/a?keyword=a&b#c", "", "GET", "/a?keyword=a&b", ""},
+    {"hash_ends_the_target", APIModule::Method_Get, "/a?keyword=a&b#c", "", "GET", "/a?keyword=a&b", ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(Requests, WireTest,
-                         testing::Combine(testing::ValuesIn(kOnTheWire),
+                         testing::Combine(testing::ValuesIn(kWireRows),
                                           testing::Values(RawServer::Http, RawServer::Https)),
                          [](const auto& row) {
                              return std::string(std::get<0>(row.param).name) +
                                     (std::get<1>(row.param) == RawServer::Http ? "_http" : "_https");
                          });
 
-TEST_F(Request, Headers)
+TEST_F(Request, SendsItsHeaders)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
     Use(server);
     HostCall call;
     EXPECT_EQ(Execute(call), 0);
@@ -267,7 +267,7 @@ TEST_F(Request, Headers)
     EXPECT_EQ(full.Value("X-Subject-Sequence"), "41");
 }
 
-/// Which URLs are refused before anything is sent; the text in the line is the composed one.
+/// A URL that is refused before anything is sent, and its form in the log line.
 struct InvalidUrl {
     const char* name;
     const char* host;
@@ -310,14 +310,14 @@ INSTANTIATE_TEST_SUITE_P(Urls, InvalidUrlTest, testing::ValuesIn(kInvalidUrls), 
 
 TEST_F(Request, Ipv6HostIsAcceptedInBrackets)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
     Use(server);
     users.servers[1].host = "[::1]";
-    EXPECT_EQ(Execute({}), -1) << "nobody listens there, but the URL is valid";
+    EXPECT_EQ(Execute({}), -1) << "the URL is valid, but no server listens on ::1";
     EXPECT_EQ(logs.Take().at(0).message, "ExecuteRequest url=http://[::1]:" + std::to_string(server.Port()) + "/path");
 }
 
-/// The token of a URL in each line that shows the URL.
+/// A URL, and its form with a masked token in log lines.
 struct MaskedUrl {
     const char* name;
     const char* url;
@@ -329,7 +329,7 @@ class MaskTest : public Request, public testing::WithParamInterface<MaskedUrl> {
 TEST_P(MaskTest, HidesTenCharacters)
 {
     const MaskedUrl& row = GetParam();
-    RawServer server([](const RawRequest&) { return HttpAnswer(500, ""); });
+    RawServer server([](const RawRequest&) { return HttpReply(500, ""); });
     Use(server);
     HostCall call;
     call.url = QString::fromUtf8(row.url);
@@ -346,7 +346,7 @@ const MaskedUrl kMaskedUrls[] = {
     {"three_characters", "/a?token=abc", "/a?token=**********"},
     {"ten_characters", "/a?token=0123456789", "/a?token=**********"},
     {"thirty_two_characters", "/a?token=0123456789abcdefghijklmnopqrstuv", "/a?token=**********abcdefghijklmnopqrstuv"},
-    {"nothing_behind", "/a?token=", "/a?token="},
+    {"empty_token", "/a?token=", "/a?token="},
     {"only_the_first", "/a?token=0123456789&token=0123456789", "/a?token=**********&token=0123456789"},
     {"runs_into_the_next", "/a?token=abc&page=12345", "/a?token=**********2345"},
     {"case_sensitive", "/a?Token=abc&TOKEN=abc", "/a?Token=abc&TOKEN=abc"},

@@ -58,7 +58,7 @@ protected:
 };
 
 /// An envelope and the outcome for the host.
-struct Answer {
+struct EnvelopeRow {
     const char* name;
     const char* body;
     int resultNotNotified;  ///< result with bNotifyOnFailure false
@@ -66,14 +66,14 @@ struct Answer {
     const char* parsed;     ///< the data that the Parse received; null if it was not called
 };
 
-class AnswerTest : public Results,
-                   public testing::WithParamInterface<std::tuple<Answer, Waiting, RawServer::Scheme>> {};
+class EnvelopeTest : public Results,
+                     public testing::WithParamInterface<std::tuple<EnvelopeRow, Waiting, RawServer::Scheme>> {};
 
-TEST_P(AnswerTest, DeterminesTheOutcome)
+TEST_P(EnvelopeTest, DeterminesTheOutcome)
 {
     const auto& [row, waiting, scheme] = GetParam();
-    const Answer answer = row;
-    RawServer server([answer](const RawRequest&) { return HttpAnswer(200, answer.body); }, scheme);
+    const char* const body = row.body;
+    RawServer server([body](const RawRequest&) { return HttpReply(200, body); }, scheme);
     Use(server, scheme);
     const QString schemeName = scheme == RawServer::Http ? QStringLiteral("http") : QStringLiteral("https");
     const LogLine end{kFacadeFile, FunctionOf(waiting), 4, "Request success."};
@@ -102,7 +102,7 @@ TEST_P(AnswerTest, DeterminesTheOutcome)
     EXPECT_EQ(m_parsed, expected);
 }
 
-const Answer kAnswers[] = {
+const EnvelopeRow kEnvelopes[] = {
     {"success_with_data", R"({"code":1000,"desc":"ok","data":{"a":1}})", 0, kSuccess, R"({"a":1})"},
     {"success_with_empty_data", R"({"code":1000,"desc":"ok","data":{}})", 0, kSuccess, nullptr},
     {"success_without_data", R"({"code":1000})", 0, kSuccess, nullptr},
@@ -120,8 +120,8 @@ const Answer kAnswers[] = {
     {"empty_object", "{}", 0, 0, nullptr},
 };
 
-INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
-                         testing::Combine(testing::ValuesIn(kAnswers), testing::Values(InLoop, BehindDialog),
+INSTANTIATE_TEST_SUITE_P(Envelopes, EnvelopeTest,
+                         testing::Combine(testing::ValuesIn(kEnvelopes), testing::Values(InLoop, BehindDialog),
                                           testing::Values(RawServer::Http, RawServer::Https)),
                          [](const auto& row) {
                              return std::string(std::get<0>(row.param).name) +
@@ -133,7 +133,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerTest,
 TEST_F(Results, NetworkErrorLineHasNoUrl)
 {
     RawServer server([](const RawRequest&) {
-        return RawAnswer{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawAnswer::Close};
+        return RawReply{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawReply::Close};
     });
     Use(server);
     HostCall call = Call(InLoop, false);
@@ -146,7 +146,7 @@ TEST_F(Results, NetworkErrorLineHasNoUrl)
 
 TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":1}})"); });
     Use(server);
     m_parseResult = 42;
     for (const bool bNotifyOnFailure : {false, true}) {
@@ -157,7 +157,7 @@ TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)
 
 TEST_F(Results, SuccessTipIsNotShownWhenDataHaveNoParse)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":1}})"); });
     Use(server);
     HostCall call = Call(InLoop, true);
     call.parse.clear();
@@ -167,7 +167,7 @@ TEST_F(Results, SuccessTipIsNotShownWhenDataHaveNoParse)
 
 TEST_F(Results, EmptyTipIsNotShown)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
     Use(server);
     HostCall call = Call(InLoop, true);
     call.successTip.clear();
@@ -186,7 +186,7 @@ TEST_F(Results, EmptyPackFails)
 
 TEST_F(Results, FailingPackIsNotNotified)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, "{}"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, "{}"); });
     Use(server);
     HostCall call = Call(InLoop, true);
     call.url.clear();
@@ -224,7 +224,7 @@ TEST_F(Results, ThrowingPackIsNotNotified)
 
 TEST_F(Results, ThrowingParseFails)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":1}})"); });
     Use(server);
     for (const bool bStandard : {true, false}) {
         HostCall call = Call(InLoop, false);
@@ -261,9 +261,9 @@ TEST_P(ReleaseTest, CallablesAreReleasedWhenTheCallReturns)
     const CallPath& path = GetParam();
     RawServer server([](const RawRequest& request) {
         if (request.target == "/silent") {
-            return RawAnswer{};
+            return RawReply{};
         }
-        return request.target == "/path" ? HttpAnswer(200, R"({"code":1000,"data":{"a":1}})") : HttpAnswer(404, "");
+        return request.target == "/path" ? HttpReply(200, R"({"code":1000,"data":{"a":1}})") : HttpReply(404, "");
     });
     Use(server);
     const auto token = std::make_shared<int>();
@@ -315,7 +315,7 @@ TEST_F(Results, ParseIsReleasedWithoutAPack)
 
 TEST_F(Results, TextsOfServerAndCallerAreNotUsedAsFormats)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":2001,"desc":"%s%n %1"})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":2001,"desc":"%s%n %1"})"); });
     Use(server);
     HostCall call = Call(InLoop, true);
     call.uiError = QStringLiteral("%s%n %1");
@@ -332,7 +332,7 @@ TEST_F(Results, ReplyOf20MegabytesIsReadCompletely)
 {
     const QByteArray text(20 * 1024 * 1024, 'x');
     RawServer server(
-        [&](const RawRequest&) { return HttpAnswer(200, "{\"code\":1000,\"data\":{\"text\":\"" + text + "\"}}"); });
+        [&](const RawRequest&) { return HttpReply(200, "{\"code\":1000,\"data\":{\"text\":\"" + text + "\"}}"); });
     Use(server);
     HostCall call = Call(InLoop, true);
     call.timeout = 60;
@@ -342,7 +342,7 @@ TEST_F(Results, ReplyOf20MegabytesIsReadCompletely)
 
 TEST_F(Results, UnInitDuringACallSuppressesNotifications)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":2001})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":2001})"); });
     Use(server);
     HostCall call = Call(InLoop, true);
     CAPIModule& facade = CAPIModule::GetInstance();

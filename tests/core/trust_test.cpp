@@ -31,8 +31,7 @@ class TlsServer {
 public:
     explicit TlsServer(const CertificateSubject& subject = {kAddress})
         : certificate(MakeCertificate(subject)),
-          server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); },
-                 ServerConfiguration(certificate))
+          server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); }, ServerConfiguration(certificate))
     {}
 
     QByteArray CertificateDigest() const { return DigestOf(certificate.certificate.toDer()); }
@@ -74,7 +73,7 @@ protected:
 
     void ExpectNotTrusted(TlsServer& server, const ServerTrust& trust, const std::string& reason)
     {
-        server.server.AnswerAnything();  // so that even a partial request would be recorded
+        server.server.ReplyToAnything();  // so that even a partial request would be recorded
         EXPECT_EQ(CallWith(server, trust), -1);
         const LogLines lines = logs.Take();
         EXPECT_EQ(lines.back().message, server.Line(reason));
@@ -182,12 +181,12 @@ TEST_F(Trust, HostDecidesAboutAServerThatIsNotTrustedOtherwise)
     TlsServer server;
     PresentedServer seen;
     int nAsked = 0;
-    bool bAnswer = true;
+    bool bTrusted = true;
     const auto decide = [&](const PresentedServer& presented) {
         EXPECT_TRUE(server.server.TakeRequests().empty());
         seen = presented;
         ++nAsked;
-        return bAnswer;
+        return bTrusted;
     };
     ExpectTrusted(server, DecidedBy(decide));
     EXPECT_EQ(seen.host, QLatin1String(kAddress));
@@ -202,7 +201,7 @@ TEST_F(Trust, HostDecidesAboutAServerThatIsNotTrustedOtherwise)
     EXPECT_EQ(nAsked, 1) << "a kept connection is already trusted";
     server.server.TakeRequests();
 
-    bAnswer = false;
+    bTrusted = false;
     ExpectNotTrusted(server, DecidedBy(decide), "the host refused it");
     EXPECT_EQ(nAsked, 2);
 
@@ -222,7 +221,7 @@ TEST_F(Trust, DecisionThatThrowsRejectsTheServer)
 TEST_F(Trust, DecisionMayRunAnEventLoopMakeCallsAndChangeTheTrust)
 {
     TlsServer server;
-    RawServer plain([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
+    RawServer plain([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
     int nNested = -1;
     const auto decide = [&](const PresentedServer&) {
         QEventLoop loop;
@@ -283,7 +282,7 @@ TEST_F(Trust, ReconnectionIsVerifiedAgain)
 
 TEST_F(Trust, HttpIsNotAffected)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); });
+    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
     CAPIModule::GetInstance().SetServerTrust(Pinned(DigestOf("other")));
     Use(server);
     EXPECT_EQ(Execute({}), 0);
@@ -297,7 +296,7 @@ struct DigestText {
 
 class DigestTextTest : public testing::TestWithParam<DigestText> {};
 
-TEST_P(DigestTextTest, IsReadOnlyIfItIsADigest)
+TEST_P(DigestTextTest, IsAcceptedOnlyIfItIsADigest)
 {
     const QByteArray digest = ServerPin::DigestFromText(QLatin1String(GetParam().text));
     EXPECT_EQ(digest, GetParam().bDigest ? QByteArray(16, '\x1a') + QByteArray(16, '\xf0') : QByteArray());

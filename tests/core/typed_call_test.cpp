@@ -120,7 +120,7 @@ protected:
     }
 
     template <typename Request>
-    auto Ended(WaitMode mode, const Request& request)
+    auto OutcomeOf(WaitMode mode, const Request& request)
     {
         using Result = decltype(APIModule::Run(request));
         if (mode != WaitMode::Started) {
@@ -156,7 +156,7 @@ private:
 
 struct EndRow {
     std::string name;
-    RawAnswer answer;
+    RawReply reply;
     CallEnd end;
     int code;
     const char* serverText = "";
@@ -170,19 +170,19 @@ void PrintTo(const EndRow& row, std::ostream* pStream)
 }
 
 const std::vector<EndRow> kEnds = {
-    {"success", HttpAnswer(200, kCompleteReply), CallEnd::Success, 0, "fine", "", 1},
-    {"success_without_data", HttpAnswer(200, R"({"code":1000})"), CallEnd::Success, 0},
-    {"refused", HttpAnswer(200, R"({"code":2001,"desc":"no such thing","data":{"a":1}})"), CallEnd::Refused, 2001,
+    {"success", HttpReply(200, kCompleteReply), CallEnd::Success, 0, "fine", "", 1},
+    {"success_without_data", HttpReply(200, R"({"code":1000})"), CallEnd::Success, 0},
+    {"refused", HttpReply(200, R"({"code":2001,"desc":"no such thing","data":{"a":1}})"), CallEnd::Refused, 2001,
      "no such thing"},
-    {"refused_with_0", HttpAnswer(200, R"({"code":0,"data":{"a":1}})"), CallEnd::Refused, 0},
-    {"refused_without_code", HttpAnswer(200, R"({"data":{"a":1}})"), CallEnd::Refused, 0},
-    {"refused_with_null", HttpAnswer(200, R"({"code":null})"), CallEnd::Refused, -1},
-    {"not_json", HttpAnswer(200, "<html>"), CallEnd::UnreadableReply, -1},
-    {"empty_body", HttpAnswer(200, ""), CallEnd::UnreadableReply, -1},
-    {"key_missing", HttpAnswer(200, R"({"code":1000,"data":{"a":5}})"), CallEnd::UnreadableReply, 3101, "", "b", 5},
-    {"status_404", HttpAnswer(404, ""), CallEnd::HttpStatus, 404},
-    {"status_401", HttpAnswer(401, ""), CallEnd::NotAuthenticated, 7000},
-    {"closed", {"", 0, RawAnswer::Close}, CallEnd::NoConnection, -18},
+    {"refused_with_0", HttpReply(200, R"({"code":0,"data":{"a":1}})"), CallEnd::Refused, 0},
+    {"refused_without_code", HttpReply(200, R"({"data":{"a":1}})"), CallEnd::Refused, 0},
+    {"refused_with_null", HttpReply(200, R"({"code":null})"), CallEnd::Refused, -1},
+    {"not_json", HttpReply(200, "<html>"), CallEnd::UnreadableReply, -1},
+    {"empty_body", HttpReply(200, ""), CallEnd::UnreadableReply, -1},
+    {"key_missing", HttpReply(200, R"({"code":1000,"data":{"a":5}})"), CallEnd::UnreadableReply, 3101, "", "b", 5},
+    {"status_404", HttpReply(404, ""), CallEnd::HttpStatus, 404},
+    {"status_401", HttpReply(401, ""), CallEnd::NotAuthenticated, 7000},
+    {"closed", {"", 0, RawReply::Close}, CallEnd::NoConnection, -18},
     {"silent", {}, CallEnd::TimedOut, -101},
 };
 
@@ -192,11 +192,11 @@ class EndTest : public TypedCall,
 TEST_P(EndTest, ReportsTheReasonAndNotifiesLikeExecuteFuncs)
 {
     const auto& [row, mode, scheme] = GetParam();
-    Serve([answer = row.answer](const RawRequest&) { return answer; }, scheme);
+    Serve([reply = row.reply](const RawRequest&) { return reply; }, scheme);
     const auto request =
         GetNumber("/path").Within(std::chrono::milliseconds(row.end == CallEnd::TimedOut ? 300 : 20000));
     logs.Take();
-    const Outcome<Number> outcome = Ended(mode, request);
+    const Outcome<Number> outcome = OutcomeOf(mode, request);
     const LogLines lines = logs.Take();
     EXPECT_EQ(bool(outcome), row.end == CallEnd::Success);
     EXPECT_EQ(outcome.End(), row.end);
@@ -256,7 +256,7 @@ INSTANTIATE_TEST_SUITE_P(WaitModes, WaitModeTest, testing::Values(WaitMode::Loop
 TEST_P(WaitModeTest, EndsAsNotPackedWhenThePackFails)
 {
     users.servers.clear();
-    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    const Outcome<Number> outcome = OutcomeOf(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::NotPacked);
     EXPECT_EQ(outcome.Code(), -1);
     CAPIModule::GetInstance().NotifyOutcome(outcome, QStringLiteral("No settings"));
@@ -265,29 +265,29 @@ TEST_P(WaitModeTest, EndsAsNotPackedWhenThePackFails)
 
 TEST_P(WaitModeTest, EndsAsInvalidRequestWhenItCannotBeSent)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     users.servers[1].host = "user@127.0.0.1";
-    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    const Outcome<Number> outcome = OutcomeOf(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::InvalidRequest);
     EXPECT_EQ(outcome.Code(), -4);
 }
 
 TEST_P(WaitModeTest, EndsAsReplyTooLarge)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, QByteArray(5000, ' ')); });
+    Serve([](const RawRequest&) { return HttpReply(200, QByteArray(5000, ' ')); });
     CAPIModule::GetInstance().SetMaximumReplySize(4000);
-    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    const Outcome<Number> outcome = OutcomeOf(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::ReplyTooLarge);
     EXPECT_EQ(outcome.Code(), -18);
 }
 
 TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); }, RawServer::Https);
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); }, RawServer::Https);
     ServerTrust trust;
     trust.bSystemAuthorities = true;
     CAPIModule::GetInstance().SetServerTrust(trust);
-    const Outcome<Number> outcome = Ended(GetParam(), GetNumber("/path"));
+    const Outcome<Number> outcome = OutcomeOf(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::ServerNotTrusted);
     EXPECT_EQ(outcome.Code(), -18);
     EXPECT_EQ(m_pServer->TakeRequests().size(), 0U);
@@ -295,35 +295,35 @@ TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 
 TEST_P(WaitModeTest, RunsAStoredRequestAgainAndOnOtherServers)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
-    RawServer other([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"a":2,"b":""}})"); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    RawServer other([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":2,"b":""}})"); });
     users.servers[2] = users.servers[1];
     users.servers[2].port = other.Port();
     const Request<Number> request = GetNumber("/path");
     const Request<Number> copy = request.OnServer(2);
-    EXPECT_EQ(Ended(GetParam(), request)->a, 1);
-    EXPECT_EQ(Ended(GetParam(), copy)->a, 2);
-    EXPECT_EQ(Ended(GetParam(), copy)->a, 2);
-    EXPECT_EQ(Ended(GetParam(), request)->a, 1);
+    EXPECT_EQ(OutcomeOf(GetParam(), request)->a, 1);
+    EXPECT_EQ(OutcomeOf(GetParam(), copy)->a, 2);
+    EXPECT_EQ(OutcomeOf(GetParam(), copy)->a, 2);
+    EXPECT_EQ(OutcomeOf(GetParam(), request)->a, 1);
     EXPECT_EQ(m_pServer->TakeRequests().size(), 2U);
     EXPECT_EQ(other.TakeRequests().size(), 2U);
 }
 
 TEST_P(WaitModeTest, HasNoRecordForACallWithoutOne)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
-    const Outcome<NoRecord> outcome = Ended(GetParam(), Touch("/path"));
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    const Outcome<NoRecord> outcome = OutcomeOf(GetParam(), Touch("/path"));
     EXPECT_TRUE(outcome);
     EXPECT_EQ(outcome.Data().value(QStringLiteral("a")).toInt(), 1);
 }
 
 TEST_P(WaitModeTest, UsesTheDefaultTimeOutInMilliseconds)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     CAPIModule::GetInstance().SetCallTimeout(std::chrono::milliseconds(50));
     QElapsedTimer elapsed;
     elapsed.start();
-    EXPECT_EQ(Ended(GetParam(), GetNumber("/path")).End(), CallEnd::TimedOut);
+    EXPECT_EQ(OutcomeOf(GetParam(), GetNumber("/path")).End(), CallEnd::TimedOut);
     EXPECT_GE(elapsed.elapsed(), 50);
 }
 
@@ -336,9 +336,9 @@ QByteArray LargeReply(int nCode = 1000)
 TEST_P(WaitModeTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopRuns)
 {
     Serve([](const RawRequest& request) {
-        return HttpAnswer(200, request.target == "/large" ? LargeReply() : QByteArray(kCompleteReply));
+        return HttpReply(200, request.target == "/large" ? LargeReply() : QByteArray(kCompleteReply));
     });
-    EXPECT_EQ(Ended(GetParam(), GetNumber("/small"))->thread, QThread::currentThread());
+    EXPECT_EQ(OutcomeOf(GetParam(), GetNumber("/small"))->thread, QThread::currentThread());
     g_parseMilliseconds = 300;
     int nTicks = 0;
     QTimer timer;
@@ -346,7 +346,7 @@ TEST_P(WaitModeTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopRuns)
     timer.start(10);
     logs.Take();
     // The time-out expires while the record is read, when it no longer applies.
-    const auto outcome = Ended(GetParam(), GetNumber("/large").Within(std::chrono::milliseconds(200)));
+    const auto outcome = OutcomeOf(GetParam(), GetNumber("/large").Within(std::chrono::milliseconds(200)));
     EXPECT_EQ(outcome.End(), CallEnd::Success);
     EXPECT_NE(outcome->thread, QThread::currentThread());
     EXPECT_EQ(outcome->b.size(), 300U * 1024);
@@ -357,10 +357,10 @@ TEST_P(WaitModeTest, ReadsALargeReplyOnAnotherThreadWhileTheEventLoopRuns)
 TEST_P(WaitModeTest, LogsTheReadingOfALargeReply)
 {
     Serve([](const RawRequest&) {
-        return HttpAnswer(200, R"({"code":1000,"data":{"a":1,"c":")" + QByteArray(300 * 1024, 'x') + R"("}})");
+        return HttpReply(200, R"({"code":1000,"data":{"a":1,"c":")" + QByteArray(300 * 1024, 'x') + R"("}})");
     });
     logs.Take();
-    const auto outcome = Ended(GetParam(), GetNumber("/large"));
+    const auto outcome = OutcomeOf(GetParam(), GetNumber("/large"));
     EXPECT_EQ(outcome.End(), CallEnd::UnreadableReply);
     EXPECT_EQ(outcome.Code(), 3101);
     EXPECT_EQ(outcome.UnreadableKey(), QStringLiteral("b"));
@@ -375,31 +375,31 @@ TEST_P(WaitModeTest, JudgesALargeReplyAsASmallOne)
 {
     const QByteArray padding = ",\"padding\":\"" + QByteArray(300 * 1024, 'x') + "\"}";
     QByteArray reply;
-    Serve([&reply](const RawRequest&) { return HttpAnswer(200, reply); });
+    Serve([&reply](const RawRequest&) { return HttpReply(200, reply); });
 
     reply = LargeReply(1001);
-    const auto refused = Ended(GetParam(), GetNumber("/large"));
+    const auto refused = OutcomeOf(GetParam(), GetNumber("/large"));
     EXPECT_EQ(refused.End(), CallEnd::Refused);
     EXPECT_EQ(refused.Code(), 1001);
     EXPECT_EQ(refused.Incomplete().a, -1);
 
     reply = R"({"code":1000,"data":{})" + padding;
-    const auto empty = Ended(GetParam(), GetNumber("/large"));
+    const auto empty = OutcomeOf(GetParam(), GetNumber("/large"));
     EXPECT_EQ(empty.End(), CallEnd::Success);
     EXPECT_EQ(empty->a, -1);
 
     reply = LargeReply();
-    EXPECT_EQ(Ended(GetParam(), Touch("/large")).End(), CallEnd::Success);
+    EXPECT_EQ(OutcomeOf(GetParam(), Touch("/large")).End(), CallEnd::Success);
 }
 
 TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply, "X-More: one\r\n"); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply, "X-More: one\r\n"); });
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     std::vector<ObservedExchange> ofRequest;
     const Outcome<Number> outcome =
-        Ended(GetParam(), GetNumber("/path?token=0123456789x").Observed([&](const ObservedExchange& exchange) {
+        OutcomeOf(GetParam(), GetNumber("/path?token=0123456789x").Observed([&](const ObservedExchange& exchange) {
             ofRequest.push_back(exchange);
         }));
     ASSERT_TRUE(outcome);
@@ -429,10 +429,11 @@ TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 
 TEST_P(WaitModeTest, ObserverReceivesAnExchangeThatTimedOut)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
-    EXPECT_EQ(Ended(GetParam(), GetNumber("/path").Within(std::chrono::milliseconds(100))).End(), CallEnd::TimedOut);
+    EXPECT_EQ(OutcomeOf(GetParam(), GetNumber("/path").Within(std::chrono::milliseconds(100))).End(),
+              CallEnd::TimedOut);
     ASSERT_EQ(seen.size(), 1U);
     EXPECT_EQ(seen[0].nStatus, -1);
     EXPECT_EQ(seen[0].error, QStringLiteral("Request time out"));
@@ -442,7 +443,7 @@ TEST_P(WaitModeTest, ObserverReceivesAnExchangeThatTimedOut)
 
 TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     HostCall call;
@@ -456,7 +457,7 @@ TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
 
 TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     for (const int nDelay : {0, 10000}) {
         CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
         auto* const pWindow = new QWidget;
@@ -473,20 +474,20 @@ TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 
 TEST_F(TypedCall, ThrowingObserverIsHarmless)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     CAPIModule::GetInstance().SetExchangeObserver([](const ObservedExchange&) { throw std::runtime_error("no"); });
     EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
 }
 
 TEST_F(TypedCall, TextContainsTheNumberOfAnUnknownCode)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":987654321})"); });
+    Serve([](const RawRequest&) { return HttpReply(200, R"({"code":987654321})"); });
     EXPECT_EQ(APIModule::Run(GetNumber("/path")).Text(), QStringLiteral("Operation failed (987654321)"));
 }
 
 TEST_F(TypedCall, OutcomeOfABoolConvertsToSuccessNotToItsValue)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000,"data":{"flag":false}})"); });
+    Serve([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"flag":false}})"); });
     const Outcome<bool> outcome = APIModule::Run(GetFlag("/path"));
     EXPECT_TRUE(outcome);
     EXPECT_FALSE(*outcome);
@@ -494,7 +495,7 @@ TEST_F(TypedCall, OutcomeOfABoolConvertsToSuccessNotToItsValue)
 
 TEST_F(TypedCall, PackReceivesAFreshCopyOfItsArgumentsInEveryRun)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     const auto request = Append("/path");
     EXPECT_TRUE(APIModule::Run(request));
     EXPECT_TRUE(APIModule::Run(request));
@@ -525,9 +526,9 @@ bool HasWaitDialog()
 TEST_F(TypedCall, WaitDialogAppearsOnlyAfterItsDelay)
 {
     Serve([](const RawRequest& request) {
-        RawAnswer answer = HttpAnswer(200, kCompleteReply);
-        answer.delayMilliseconds = request.target == "/slow" ? 1000 : 0;
-        return answer;
+        RawReply reply = HttpReply(200, kCompleteReply);
+        reply.delayMilliseconds = request.target == "/slow" ? 1000 : 0;
+        return reply;
     });
     m_parent.show();
     bool bSeen = false;
@@ -555,9 +556,9 @@ protected:
 TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
 {
     Serve([](const RawRequest&) {
-        RawAnswer answer = HttpAnswer(200, kCompleteReply);
-        answer.delayMilliseconds = 300;
-        return answer;
+        RawReply reply = HttpReply(200, kCompleteReply);
+        reply.delayMilliseconds = 300;
+        return reply;
     });
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::seconds(30));
     Counting window;
@@ -578,7 +579,7 @@ TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
 
 TEST_F(TypedCall, DestroyedContextEndsAStartedCall)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     auto pContext = std::make_unique<QObject>();
     bool bCalled = false;
     const CallHandle handle =
@@ -592,7 +593,7 @@ TEST_F(TypedCall, DestroyedContextEndsAStartedCall)
 
 TEST_F(TypedCall, DestroyedParentEndsTheCallBeforeAndAfterTheDialogIsShown)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     for (const auto delay : {std::chrono::milliseconds(0), std::chrono::milliseconds(10000)}) {
         auto* const pWindow = new QWidget;
         CAPIModule::GetInstance().SetWaitDialogDelay(delay);
@@ -607,9 +608,9 @@ TEST_F(TypedCall, DestroyedParentEndsTheCallBeforeAndAfterTheDialogIsShown)
 TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
 {
     Serve([](const RawRequest&) {
-        RawAnswer answer = HttpAnswer(200, kCompleteReply);
-        answer.delayMilliseconds = 200;
-        return answer;
+        RawReply reply = HttpReply(200, kCompleteReply);
+        reply.delayMilliseconds = 200;
+        return reply;
     });
     m_parent.show();
     bool bSeen = false;
@@ -624,7 +625,7 @@ TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
 
 TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    Serve([](const RawRequest&) { return HttpReply(200, LargeReply()); });
     g_parseMilliseconds = 300;
     auto pContext = std::make_unique<QObject>();
     bool bCalled = false;
@@ -640,7 +641,7 @@ TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
 
 TEST_F(TypedCall, CancelAfterParsingCallsNothing)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    Serve([](const RawRequest&) { return HttpReply(200, LargeReply()); });
     g_parseMilliseconds = 300;
     bool bCalled = false;
     CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
@@ -653,7 +654,7 @@ TEST_F(TypedCall, CancelAfterParsingCallsNothing)
 
 TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, LargeReply()); });
+    Serve([](const RawRequest&) { return HttpReply(200, LargeReply()); });
     g_parseMilliseconds = 2000;
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(0));
     auto* const pWindow = new QWidget;
@@ -676,7 +677,7 @@ TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
 
 TEST_F(TypedCall, CancelClosesTheConnectionAndPreventsTheCallback)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     bool bCalled = false;
     CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
     EXPECT_TRUE(handle.IsRunning());
@@ -692,7 +693,7 @@ TEST_F(TypedCall, CancelClosesTheConnectionAndPreventsTheCallback)
 
 TEST_F(TypedCall, CancelInsideACallbackOrAnObserverIsSafe)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     CallHandle first;
     CallHandle second;
     int nCalled = 0;
@@ -718,7 +719,7 @@ TEST_F(TypedCall, CancelInsideACallbackOrAnObserverIsSafe)
 
 TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     bool bCalled = false;
     {
         const CallHandle handle =
@@ -729,7 +730,7 @@ TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 
 TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     EXPECT_TRUE(APIModule::Run(Touch("/path")));
     m_pServer->TakeRequests();
     std::optional<CallEnd> end;
@@ -742,7 +743,7 @@ TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
 
 TEST_F(TypedCall, PackRunsInsideStart)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     users.servers[1].token = "first";
     bool bCalled = false;
     Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
@@ -754,9 +755,9 @@ TEST_F(TypedCall, PackRunsInsideStart)
 TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 {
     Serve([](const RawRequest&) {
-        RawAnswer answer = HttpAnswer(200, kCompleteReply);
-        answer.delayMilliseconds = 300;
-        return answer;
+        RawReply reply = HttpReply(200, kCompleteReply);
+        reply.delayMilliseconds = 300;
+        return reply;
     });
     int nSucceeded = 0;
     int nEnded = 0;
@@ -777,7 +778,7 @@ TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 
 TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     std::vector<int> ended(1000, 0);
     for (int& nEnded : ended) {
         Start(GetNumber("/path"), &m_parent,
@@ -790,9 +791,9 @@ TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
 TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromACallback)
 {
     Serve([](const RawRequest& request) {
-        RawAnswer answer = HttpAnswer(200, kCompleteReply);
-        answer.delayMilliseconds = request.target == "/slow" ? 300 : 0;
-        return answer;
+        RawReply reply = HttpReply(200, kCompleteReply);
+        reply.delayMilliseconds = request.target == "/slow" ? 300 : 0;
+        return reply;
     });
     int nEnded = 0;
     QTimer::singleShot(0, &m_parent, [&] {
@@ -810,7 +811,7 @@ TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromACallback)
 
 TEST_F(TypedCall, UnInitCancelsAndDeliversStartedCalls)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     std::vector<CallEnd> ends;
     for (int i = 0; i < 8; ++i) {
         Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>& outcome) { ends.push_back(outcome.End()); });
@@ -824,7 +825,7 @@ TEST_F(TypedCall, UnInitCancelsAndDeliversStartedCalls)
 
 TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirThread)
 {
-    Serve([](const RawRequest&) { return RawAnswer{}; });
+    Serve([](const RawRequest&) { return RawReply{}; });
     std::vector<CallEnd> ends;
     QThread* pThread = nullptr;
     for (int i = 0; i < 8; ++i) {
@@ -843,7 +844,7 @@ TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirThread)
 
 TEST_F(TypedCall, RunReturnsNotPackedAndStartDoesNothingOnAnotherThread)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     logs.Take();
     bool bCalled = false;
     CallEnd end = CallEnd::Success;
@@ -862,7 +863,7 @@ TEST_F(TypedCall, RunReturnsNotPackedAndStartDoesNothingOnAnotherThread)
 
 TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     const auto request = BRMS::SetTimeSyncConfig(TimeSyncConfig());
     logs.Take();
     const std::optional<ObservedExchange> shown = Preview(request);
@@ -882,7 +883,7 @@ TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
 
 TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     users.servers[1].host = "user@127.0.0.1";
     logs.Take();
     EXPECT_FALSE(Preview(GetNumber("/path")));
@@ -897,7 +898,7 @@ TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 
 TEST_F(TypedCall, ThrowingFunctionIsHarmless)
 {
-    Serve([](const RawRequest&) { return HttpAnswer(200, kCompleteReply); });
+    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
     logs.Take();
     const CallHandle handle =
         Start(GetNumber("/path"), &m_parent, [](const Outcome<Number>&) { throw std::runtime_error("no"); });

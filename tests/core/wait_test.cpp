@@ -31,18 +31,18 @@ constexpr const char* kExecuteFuncs = "APIModule::CAPIModule::ExecuteFuncs";
 
 /// Ignores the query. Replies to "/ok" at once, to "/after/<ms>" after that time, to "/<status>" with that status, and
 /// to "/silent" never.
-RawAnswer Respond(const RawRequest& request)
+RawReply Respond(const RawRequest& request)
 {
-    const RawAnswer success = HttpAnswer(200, R"({"code":1000,"data":{"a":1}})");
+    const RawReply success = HttpReply(200, R"({"code":1000,"data":{"a":1}})");
     if (request.target.startsWith("/silent")) {
         return {};
     }
     if (request.target.startsWith("/after/")) {
-        RawAnswer late = success;
+        RawReply late = success;
         late.delayMilliseconds = request.target.mid(7).toInt();
         return late;
     }
-    return request.target == "/ok" ? success : HttpAnswer(request.target.mid(1).toInt(), "");
+    return request.target == "/ok" ? success : HttpReply(request.target.mid(1).toInt(), "");
 }
 
 class WaitBase : public Host {

@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-using testing_support::Ended;
-using testing_support::HttpAnswer;
+using testing_support::HttpReply;
+using testing_support::ProgramResult;
 using testing_support::RawRequest;
 using testing_support::RawServer;
 using testing_support::RunProgram;
@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kLateExit = 86;
 
-Ended RunToEnd(const char* program, const QStringList& arguments)
+ProgramResult RunToEnd(const char* program, const QStringList& arguments)
 {
     return RunProgram(QString::fromUtf8(program), arguments,
                       {{QStringLiteral("LD_PRELOAD"), QStringLiteral(LATE_THREAD_STATE)}});
@@ -27,9 +27,9 @@ class ExitTest : public testing::TestWithParam<const char*> {};
 
 TEST_P(ExitTest, HostExitsCleanly)
 {
-    const RawServer server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); }, RawServer::Https);
+    const RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); }, RawServer::Https);
     for (int i = 0; i < 3; ++i) {
-        const Ended end = RunToEnd(HOST, {QString::number(server.Port()), QString::fromLatin1(GetParam())});
+        const ProgramResult end = RunToEnd(HOST, {QString::number(server.Port()), QString::fromLatin1(GetParam())});
         EXPECT_FALSE(end.crashed) << end.err;
         EXPECT_EQ(end.status, 0) << end.err;
     }
@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(Ends, ExitTest,
 /// Checks that the test above can fail.
 TEST(LateThreadStateTest, DetectsThreadCleanUpAfterTheProgram)
 {
-    const Ended end = RunToEnd(CARELESS, {});
+    const ProgramResult end = RunToEnd(CARELESS, {});
     EXPECT_TRUE(end.crashed || end.status == kLateExit) << end.status << end.err;
 }
 

@@ -480,7 +480,7 @@ TEST_F(WindowTest, ResultHeaderShowsEveryLine)
         }
     };
     awaitLines("at start");
-    RawServer server([](const RawRequest&) { return HttpAnswer(401, "{\"code\": 7000, \"desc\": \"token\"}"); });
+    RawServer server([](const RawRequest&) { return HttpReply(401, "{\"code\": 7000, \"desc\": \"token\"}"); });
     Use(server.Port());
     Run(kCall);
     awaitLines("after a failure");

@@ -132,9 +132,9 @@ Outcome WithoutNotification(Outcome outcome)
     return outcome;
 }
 
-RawAnswer SuccessAnswer()
+RawReply SuccessReply()
 {
-    return HttpAnswer(200, R"({"code":1000,"data":{"a":1}})");
+    return HttpReply(200, R"({"code":1000,"data":{"a":1}})");
 }
 
 Lateness::Lateness(int nSeconds)
@@ -169,7 +169,7 @@ void FaultHost::WarmUp()
         return;
     }
     for (const CallMode& mode : CallModes()) {
-        const RawServer server([](const RawRequest&) { return SuccessAnswer(); }, mode.scheme);
+        const RawServer server([](const RawRequest&) { return SuccessReply(); }, mode.scheme);
         Use(server, mode.scheme);
         ExpectSuccess(mode);
     }

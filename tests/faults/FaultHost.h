@@ -65,7 +65,7 @@ Outcome AsksForAuthentication();
 Outcome WithoutNotification(Outcome outcome);
 
 /// A successful reply with data.
-RawAnswer SuccessAnswer();
+RawReply SuccessReply();
 
 /// By how much a wait exceeds its time-out, measured in ticks of the event loop rather than in real time, so that a
 /// stalled machine does not count as a late wait.

@@ -17,11 +17,11 @@ UserManager::Server AddressOf(const RawServer& server)
 
 }  // namespace
 
-std::function<FaultSetup(RawServer::Scheme)> Answers(const RawAnswer& answer)
+std::function<FaultSetup(RawServer::Scheme)> RepliesWith(const RawReply& reply)
 {
-    return [answer](RawServer::Scheme scheme) {
-        const auto respond = [answer](const RawRequest& request) {
-            return request.target == "/path" ? answer : SuccessAnswer();
+    return [reply](RawServer::Scheme scheme) {
+        const auto respond = [reply](const RawRequest& request) {
+            return request.target == "/path" ? reply : SuccessReply();
         };
         auto server = std::make_shared<RawServer>(respond, scheme);
         return FaultSetup{AddressOf(*server), AddressOf(*server), {server}, nullptr};
@@ -30,7 +30,7 @@ std::function<FaultSetup(RawServer::Scheme)> Answers(const RawAnswer& answer)
 
 FaultSetup BesideHealthy(RawServer::Scheme scheme, int nFaultyPort)
 {
-    auto healthy = std::make_shared<RawServer>([](const RawRequest&) { return SuccessAnswer(); }, scheme);
+    auto healthy = std::make_shared<RawServer>([](const RawRequest&) { return SuccessReply(); }, scheme);
     UserManager::Server faulty;
     faulty.port = nFaultyPort;
     return {faulty, AddressOf(*healthy), {healthy}, nullptr};
@@ -62,7 +62,7 @@ TEST_P(FaultMatrix, ReturnsExpectedOutcomeAndLeaksNothing)
 {
     const auto& [name, fault, mode] = GetParam();
     WarmUp();
-    const Census atFirst = Census::Now();
+    const Census beforeSetup = Census::Now();
     {
         const FaultSetup setup = fault.open(mode.scheme);
         if (setup.missing) {
@@ -90,7 +90,7 @@ TEST_P(FaultMatrix, ReturnsExpectedOutcomeAndLeaksNothing)
         ExpectNoLeaks(before);
     }
     // Destroying the servers also closes the connections kept for reuse.
-    ExpectNoLeaks(atFirst);
+    ExpectNoLeaks(beforeSetup);
 }
 
 }  // namespace testing_support

@@ -27,7 +27,7 @@ struct Fault {
 };
 
 /// A server that sends this reply to the call and a success to the next one.
-std::function<FaultSetup(RawServer::Scheme)> Answers(const RawAnswer& answer);
+std::function<FaultSetup(RawServer::Scheme)> RepliesWith(const RawReply& reply);
 
 /// A fault on this port, and a healthy server.
 FaultSetup BesideHealthy(RawServer::Scheme scheme, int nFaultyPort);

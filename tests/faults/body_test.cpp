@@ -7,7 +7,7 @@ namespace {
 
 std::function<FaultSetup(RawServer::Scheme)> HasBody(const QByteArray& body)
 {
-    return Answers(HttpAnswer(200, body));
+    return RepliesWith(HttpReply(200, body));
 }
 
 QByteArray Nested(int nDepth)

@@ -31,9 +31,9 @@ FaultSetup Beside(const std::shared_ptr<RawServer>& faulty, RawServer::Scheme sc
     return setup;
 }
 
-RawAnswer Succeed(const RawRequest&)
+RawReply Succeed(const RawRequest&)
 {
-    return SuccessAnswer();
+    return SuccessReply();
 }
 
 FaultSetup HasTlsOnThePort(RawServer::Scheme scheme)
@@ -43,8 +43,8 @@ FaultSetup HasTlsOnThePort(RawServer::Scheme scheme)
 
 FaultSetup HasNoTlsOnThePort(RawServer::Scheme scheme)
 {
-    const auto server = std::make_shared<RawServer>([](const RawRequest&) { return HttpAnswer(400, "no TLS here"); });
-    server->AnswerAnything();
+    const auto server = std::make_shared<RawServer>([](const RawRequest&) { return HttpReply(400, "no TLS here"); });
+    server->ReplyToAnything();
     return Beside(server, scheme);
 }
 

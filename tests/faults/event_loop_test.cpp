@@ -17,35 +17,35 @@ namespace {
 /// A host that can also replace its user manager.
 class EventHost : public FaultHost {
 public:
-    void UseOtherUserManager()
+    void ReplaceUserManager()
     {
-        m_pOther = std::make_unique<UserManager>();
-        m_pOther->servers = users.servers;
+        m_pReplacement = std::make_unique<UserManager>();
+        m_pReplacement->servers = users.servers;
         CAPIModule::GetInstance().UnInit();
-        CAPIModule::GetInstance().Init(m_pOther.get());
+        CAPIModule::GetInstance().Init(m_pReplacement.get());
     }
-    void EndUse()
+    void UnInit()
     {
         CAPIModule::GetInstance().UnInit();
-        m_pOther.reset();
+        m_pReplacement.reset();
     }
-    void BeginUse()
+    void InitAgain()
     {
-        EndUse();
+        UnInit();
         CAPIModule::GetInstance().Init(&users);
     }
     QWidget* Parent() { return m_parent; }
     UserManager& Users() { return users; }
 
 private:
-    std::unique_ptr<UserManager> m_pOther;
+    std::unique_ptr<UserManager> m_pReplacement;
 };
 
 /// An event that occurs once the server has received the request.
 struct Event {
     const char* name;
     std::function<void(EventHost&)> act;
-    bool endsUse = false;      ///< no notifications are shown after the event
+    bool callsUnInit = false;  ///< no notifications are shown after the event
     bool endsDialog = false;   ///< ends a wait with a dialog with the result of a time-out
     bool endsStarted = false;  ///< cancels calls of Start()
 };
@@ -56,15 +56,15 @@ const std::vector<Event> kEvents = {
     {"parent_deleted_later", [](EventHost& host) { host.Parent()->deleteLater(); }, false, true},
     {"parent_closed", [](EventHost& host) { host.Parent()->close(); }},
     {"parent_hidden", [](EventHost& host) { host.Parent()->hide(); }},
-    {"un_init", [](EventHost& host) { host.EndUse(); }, true, false, true},
+    {"un_init", [](EventHost& host) { host.UnInit(); }, true, false, true},
     {"un_init_and_parent_deleted",
      [](EventHost& host) {
-         host.EndUse();
+         host.UnInit();
          delete host.Parent();
      },
      true, true, true},
-    {"init_again", [](EventHost& host) { host.BeginUse(); }, false, false, true},
-    {"another_user_manager", [](EventHost& host) { host.UseOtherUserManager(); }, false, false, true},
+    {"init_again", [](EventHost& host) { host.InitAgain(); }, false, false, true},
+    {"another_user_manager", [](EventHost& host) { host.ReplaceUserManager(); }, false, false, true},
     {"language", [](EventHost&) { CAPIModule::GetInstance().SetLanguage("de"); }},
     {"https_mode_on", [](EventHost&) { CAPIModule::GetInstance().SetHttpsMode(1); }},
     {"https_mode_off", [](EventHost&) { CAPIModule::GetInstance().SetHttpsMode(0); }},
@@ -102,16 +102,16 @@ std::vector<EventCase> Cases()
 
 class EventTest : public EventHost, public testing::WithParamInterface<EventCase> {
 protected:
-    ~EventTest() override { BeginUse(); }
+    ~EventTest() override { InitAgain(); }
 };
 
 TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
 {
     const auto& [name, event, mode, answered] = GetParam();
     WarmUp();
-    const Census atFirst = Census::Now();
+    const Census before = Census::Now();
     {
-        QObject here;
+        QObject context;
         QSemaphore happened;
         const auto act = [&, act = event.act] {
             act(*this);
@@ -120,11 +120,11 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
         // The reply waits for the event, which happens during the wait.
         const auto respond = [&, bAnswered = answered](const RawRequest& request) {
             if (request.target == "/ok") {
-                return SuccessAnswer();
+                return SuccessReply();
             }
-            QMetaObject::invokeMethod(&here, act, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(&context, act, Qt::QueuedConnection);
             happened.acquire();
-            return bAnswered ? SuccessAnswer() : RawAnswer{};
+            return bAnswered ? SuccessReply() : RawReply{};
         };
         RawServer server(respond, mode.scheme);
         Use(server, mode.scheme);
@@ -134,13 +134,14 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
         const Outcome outcome = bCancelled ? IsCancelled() : answered && !bEnded ? Succeeds() : TimesOut();
         QElapsedTimer elapsed;
         elapsed.start();
-        ExpectOutcome(mode, event.endsUse ? WithoutNotification(outcome) : outcome, false, bEnded || answered ? 20 : 1);
+        ExpectOutcome(mode, event.callsUnInit ? WithoutNotification(outcome) : outcome, false,
+                      bEnded || answered ? 20 : 1);
         if (bEnded) {
             EXPECT_LT(elapsed.elapsed(), 10000) << "the call must end at once, not at its time-out";
         }
         EXPECT_EQ(server.TakeRequests().size(), 1U);
 
-        BeginUse();
+        InitAgain();
         users.currentServerId = 1;
         Use(server, mode.scheme);
         if (!m_parent) {
@@ -149,7 +150,7 @@ TEST_P(EventTest, DoesNotChangeTheResultOfTheCall)
         }
         ExpectSuccess(mode);
     }
-    ExpectNoLeaks(atFirst);
+    ExpectNoLeaks(before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Events, EventTest, testing::ValuesIn(Cases()), RowName());
@@ -180,19 +181,19 @@ constexpr std::size_t kDepth = 10;
 constexpr int kStepMs = 30;
 
 /// Replies to "/<what>/<ms>" after that time.
-RawAnswer RespondLater(const RawRequest& request)
+RawReply RespondLater(const RawRequest& request)
 {
     const QList<QByteArray> words = request.target.split('/');
-    RawAnswer answer = SuccessAnswer();
+    RawReply reply = SuccessReply();
     if (words.value(1) == "404") {
-        answer = HttpAnswer(404, "");
+        reply = HttpReply(404, "");
     } else if (words.value(1) == "closed") {
-        answer = {"", 0, RawAnswer::Close};
+        reply = {"", 0, RawReply::Close};
     } else if (words.value(1) == "silent") {
         return {};
     }
-    answer.delayMilliseconds = words.value(2).toInt();
-    return answer;
+    reply.delayMilliseconds = words.value(2).toInt();
+    return reply;
 }
 
 int NestedTest::RunOne(std::size_t nDepth)
@@ -233,15 +234,15 @@ void NestedTest::Nest(std::size_t nDepth)
     if (nDepth + 1 < kDepth) {
         QTimer::singleShot(0, &m_context, [this, nDepth] { Nest(nDepth + 1); });
     }
-    const std::size_t nPlace = m_expected.size();
+    const std::size_t nIndex = m_expected.size();
     m_results.resize(kDepth);
-    m_results[nPlace] = RunOne(nDepth);
+    m_results[nIndex] = RunOne(nDepth);
 }
 
 TEST_P(NestedTest, EachCallHasItsOwnResult)
 {
     WarmUp();
-    const Census atFirst = Census::Now();
+    const Census before = Census::Now();
     for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
         m_servers[scheme] = std::make_unique<RawServer>(RespondLater, scheme);
     }
@@ -265,7 +266,7 @@ TEST_P(NestedTest, EachCallHasItsOwnResult)
     for (auto& server : m_servers) {
         server.reset();
     }
-    ExpectNoLeaks(atFirst);
+    ExpectNoLeaks(before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, NestedTest, testing::Range(1U, 13U));

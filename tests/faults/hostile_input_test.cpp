@@ -84,7 +84,7 @@ const std::vector<Hostile> kTexts = {
 
 class HostileInput : public Host {
 protected:
-    HostileInput() : m_server([](const RawRequest&) { return HttpAnswer(200, R"({"code":1000})"); }) { Use(m_server); }
+    HostileInput() : m_server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); }) { Use(m_server); }
 
     using Pack = boost::function<int(void*)>;
 

@@ -6,12 +6,12 @@ using namespace testing_support;
 namespace {
 
 /// Replies to "/<status>" with that status and a redirect.
-RawAnswer Respond(const RawRequest& request)
+RawReply Respond(const RawRequest& request)
 {
     const int nStatus = request.target.mid(1).toInt();
     return request.target == "/ok" || nStatus == 200
-               ? SuccessAnswer()
-               : HttpAnswer(nStatus, R"({"code":1000,"data":{"a":1}})", "Location: /ok\r\nRetry-After: 0\r\n");
+               ? SuccessReply()
+               : HttpReply(nStatus, R"({"code":1000,"data":{"a":1}})", "Location: /ok\r\nRetry-After: 0\r\n");
 }
 
 Outcome OutcomeOf(int nStatus)

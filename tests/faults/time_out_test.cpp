@@ -15,21 +15,21 @@ const QByteArray kHead = "HTTP/1.1 200 OK\r\n";
 /// Sends these bytes and nothing more.
 std::function<FaultSetup(RawServer::Scheme)> StopsAfter(const QByteArray& bytes)
 {
-    return Answers({bytes});
+    return RepliesWith({bytes});
 }
 
 /// The complete reply, one byte a second.
-RawAnswer ByteASecond()
+RawReply ByteASecond()
 {
-    RawAnswer answer = SuccessAnswer();
-    answer.trickleMilliseconds = 1000;
-    return answer;
+    RawReply reply = SuccessReply();
+    reply.trickleMilliseconds = 1000;
+    return reply;
 }
 
 /// Accepts the connection and all data, and sends nothing, not even for TLS.
 FaultSetup AcceptsDataAndStaysSilent(RawServer::Scheme scheme)
 {
-    auto silent = std::make_shared<RawServer>([](const RawRequest&) { return RawAnswer{}; });
+    auto silent = std::make_shared<RawServer>([](const RawRequest&) { return RawReply{}; });
     FaultSetup setup = BesideHealthy(scheme, silent->Port());
     setup.servers.push_back(silent);
     return setup;
@@ -69,7 +69,7 @@ const std::vector<Fault> kFaults = {
     {"silent_before_the_last_chunk", StopsAfter(kHead + "Transfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n"), TimesOut(),
      1},
     {"silent_instead_of_tls", AcceptsDataAndStaysSilent, TimesOut(), 1, {RawServer::Https}},
-    {"byte_a_second", Answers(ByteASecond()), TimesOut(), 2},
+    {"byte_a_second", RepliesWith(ByteASecond()), TimesOut(), 2},
     {"never_accepts", NeverAccepts, TimesOut(), 1},
 };
 

@@ -25,8 +25,8 @@ QProcessEnvironment EnvironmentWith(const Variables& variables)
 
 }  // namespace
 
-Ended RunProgram(const QString& program, const QStringList& arguments, const Variables& variables,
-                 const QByteArray& input)
+ProgramResult RunProgram(const QString& program, const QStringList& arguments, const Variables& variables,
+                         const QByteArray& input)
 {
     QProcess process;
     process.setProcessEnvironment(EnvironmentWith(variables));

@@ -11,7 +11,7 @@
 namespace testing_support {
 
 /// How a program ended.
-struct Ended {
+struct ProgramResult {
     bool crashed = false;
     int status = -1;
     std::string out = {};
@@ -22,8 +22,8 @@ struct Ended {
 using Variables = QMap<QString, QString>;
 
 /// Runs a program, which must end within minutes.
-Ended RunProgram(const QString& program, const QStringList& arguments, const Variables& variables = {},
-                 const QByteArray& input = {});
+ProgramResult RunProgram(const QString& program, const QStringList& arguments, const Variables& variables = {},
+                         const QByteArray& input = {});
 
 /// A server program that runs during the test and prints its ports. Its output includes standard error.
 class RunningProgram {

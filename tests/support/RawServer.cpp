@@ -46,7 +46,7 @@ bool CanVanish()
     return bCan;
 }
 
-RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders)
+RawReply HttpReply(int status, const QByteArray& body, const QByteArray& moreHeaders)
 {
     return {"HTTP/1.1 " + QByteArray::number(status) + " Reason\r\nContent-Type: application/json\r\n" + moreHeaders +
             "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body};
@@ -98,28 +98,28 @@ void Vanish(QAbstractSocket& socket)
     socket.abort();
 }
 
-void Finish(QAbstractSocket& socket, const RawAnswer& answer)
+void Finish(QAbstractSocket& socket, const RawReply& reply)
 {
     constexpr int kLaterMs = 20;
-    switch (answer.then) {
-    case RawAnswer::KeepOpen:
+    switch (reply.then) {
+    case RawReply::KeepOpen:
         break;
-    case RawAnswer::Close:
+    case RawReply::Close:
         // Closing continues in the event loop; the socket is deleted, with its slots, once it is closed.
-        QObject::connect(&socket, &QAbstractSocket::disconnected, [done = answer.done] {});
+        QObject::connect(&socket, &QAbstractSocket::disconnected, [done = reply.done] {});
         socket.disconnectFromHost();
         break;
-    case RawAnswer::CloseLater:
+    case RawReply::CloseLater:
         QTimer::singleShot(kLaterMs, &socket, [&socket] { socket.disconnectFromHost(); });
         break;
-    case RawAnswer::Reset:
+    case RawReply::Reset:
         Reset(socket);
         break;
-    case RawAnswer::HalfClose:
+    case RawReply::HalfClose:
         socket.flush();
         shutdown(int(socket.socketDescriptor()), SHUT_WR);
         break;
-    case RawAnswer::Vanish:
+    case RawReply::Vanish:
         Vanish(socket);
         break;
     }
@@ -153,33 +153,33 @@ void SendEndlessly(QAbstractSocket& socket, const QByteArray& bytes, int nPerSec
     pTicks->start(kTickMs);
 }
 
-void SendMore(QAbstractSocket& socket, const RawAnswer& answer)
+void SendMore(QAbstractSocket& socket, const RawReply& reply)
 {
-    if (answer.endlessPerSecond > 0) {
-        SendEndlessly(socket, answer.moreBytes, answer.endlessPerSecond);
+    if (reply.endlessPerSecond > 0) {
+        SendEndlessly(socket, reply.moreBytes, reply.endlessPerSecond);
         return;
     }
-    if (!answer.moreBytes.isEmpty()) {
-        socket.write(answer.moreBytes);
+    if (!reply.moreBytes.isEmpty()) {
+        socket.write(reply.moreBytes);
         socket.flush();
     }
-    After(answer.thenMilliseconds, socket, [&socket, answer] { Finish(socket, answer); });
+    After(reply.thenMilliseconds, socket, [&socket, reply] { Finish(socket, reply); });
 }
 
-void Send(QAbstractSocket& socket, const RawAnswer& answer)
+void Send(QAbstractSocket& socket, const RawReply& reply)
 {
-    if (answer.trickleMilliseconds == 0 || answer.bytes.isEmpty()) {
-        socket.write(answer.bytes);
-        if (answer.done) {
+    if (reply.trickleMilliseconds == 0 || reply.bytes.isEmpty()) {
+        socket.write(reply.bytes);
+        if (reply.done) {
             socket.flush();
         }
-        After(answer.moreMilliseconds, socket, [&socket, answer] { SendMore(socket, answer); });
+        After(reply.moreMilliseconds, socket, [&socket, reply] { SendMore(socket, reply); });
         return;
     }
-    socket.write(answer.bytes.left(1));
-    RawAnswer rest = answer;
+    socket.write(reply.bytes.left(1));
+    RawReply rest = reply;
     rest.bytes.remove(0, 1);
-    QTimer::singleShot(answer.trickleMilliseconds, &socket, [&socket, rest] { Send(socket, rest); });
+    QTimer::singleShot(reply.trickleMilliseconds, &socket, [&socket, rest] { Send(socket, rest); });
 }
 
 }  // namespace
@@ -233,7 +233,7 @@ private:
     {
         Acknowledge(socket);
         QByteArray received = socket.property("received").toByteArray() + socket.readAll();
-        if (m_server.m_bAnswersAnything) {
+        if (m_server.m_bRepliesToAnything) {
             received += "\r\n\r\n";
         }
         for (int nEnd = received.indexOf("\r\n\r\n"); nEnd >= 0; nEnd = received.indexOf("\r\n\r\n")) {
@@ -247,7 +247,7 @@ private:
             request.body = received.mid(nBody, nLength);
             request.connection = nConnection;
             received.remove(0, nBody + nLength);
-            Answer(socket, request);
+            ReplyTo(socket, request);
         }
         socket.setProperty("received", received);
     }
@@ -268,14 +268,14 @@ private:
         return request;
     }
 
-    void Answer(QSslSocket& socket, const RawRequest& request)
+    void ReplyTo(QSslSocket& socket, const RawRequest& request)
     {
         {
             const std::lock_guard<std::mutex> lock(m_server.m_mutex);
             m_server.m_requests.push_back(request);
         }
-        const RawAnswer answer = m_responder(request);
-        QTimer::singleShot(answer.delayMilliseconds, &socket, [&socket, answer] { Send(socket, answer); });
+        const RawReply reply = m_responder(request);
+        QTimer::singleShot(reply.delayMilliseconds, &socket, [&socket, reply] { Send(socket, reply); });
     }
 
     RawServer& m_server;

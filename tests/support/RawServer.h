@@ -35,7 +35,7 @@ struct RawRequest {
 };
 
 /// What to do with one request.
-struct RawAnswer {
+struct RawReply {
     enum Then {
         KeepOpen,
         Close,
@@ -56,11 +56,11 @@ struct RawAnswer {
     std::shared_ptr<void> done = {};  ///< released when all of the above is done or the connection is closed
 };
 
-/// Whether this process may use RawAnswer::Vanish.
+/// Whether this process may use RawReply::Vanish.
 bool CanVanish();
 
 /// A complete HTTP reply.
-RawAnswer HttpAnswer(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
+RawReply HttpReply(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
 
 /// The TLS configuration of a server with this certificate.
 QSslConfiguration ServerConfiguration(const Certificate& certificate);
@@ -68,7 +68,7 @@ QSslConfiguration ServerConfiguration(const Certificate& certificate);
 /// A server on loopback, on a separate thread, with full control of the bytes that it sends.
 class RawServer {
 public:
-    using Responder = std::function<RawAnswer(const RawRequest&)>;
+    using Responder = std::function<RawReply(const RawRequest&)>;
 
     enum Scheme {
         Http,
@@ -85,7 +85,7 @@ public:
     int Port() const { return m_port; }
 
     /// From now on, replies to anything a client sends as if it were a request.
-    void AnswerAnything() { m_bAnswersAnything = true; }
+    void ReplyToAnything() { m_bRepliesToAnything = true; }
 
     /// From now on, closes connections that are idle for this long.
     void CloseIdleAfter(int milliseconds) { m_idleMilliseconds = milliseconds; }
@@ -104,7 +104,7 @@ private:
     QEventLoop* m_pLoop = nullptr;  // of m_thread
     std::mutex m_mutex;
     std::vector<RawRequest> m_requests;
-    std::atomic<bool> m_bAnswersAnything{false};
+    std::atomic<bool> m_bRepliesToAnything{false};
     std::atomic<int> m_idleMilliseconds{0};
     std::atomic<int> m_port{0};
     std::atomic<int> m_connections{0};

@@ -22,7 +22,7 @@
 #include <sstream>
 
 using nlohmann::json;
-using testing_support::Ended;
+using testing_support::ProgramResult;
 using testing_support::RowName;
 using testing_support::RunProgram;
 
@@ -31,13 +31,14 @@ namespace {
 constexpr const char* kToken = "token-that-must-not-be-printed";
 
 /// Runs apicall without a display.
-Ended Apicall(const QStringList& arguments, const QByteArray& input = {}, const QString& tokenInEnvironment = {})
+ProgramResult Apicall(const QStringList& arguments, const QByteArray& input = {},
+                      const QString& tokenInEnvironment = {})
 {
     testing_support::Variables variables{{QStringLiteral("APICALL_TOKEN"), tokenInEnvironment}};
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         variables[QString::fromLatin1(display)] = QString();
     }
-    Ended ended = RunProgram(QStringLiteral(APICALL_FILE), arguments, variables, input);
+    ProgramResult ended = RunProgram(QStringLiteral(APICALL_FILE), arguments, variables, input);
     EXPECT_FALSE(ended.crashed);
     return ended;
 }
@@ -67,7 +68,7 @@ class WrongUsage : public testing::TestWithParam<UsageRow> {};
 
 TEST_P(WrongUsage, IsReportedWithExitStatus2)
 {
-    const Ended ended = Apicall(GetParam().arguments);
+    const ProgramResult ended = Apicall(GetParam().arguments);
     EXPECT_EQ(ended.status, 2);
     EXPECT_EQ(ended.out, "");
     EXPECT_EQ(ended.err.rfind("apicall: ", 0), 0U) << ended.err;
@@ -190,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Help, PrintsNothingButTheVersion)
 {
-    const Ended ended = Apicall(Words({"--version"}));
+    const ProgramResult ended = Apicall(Words({"--version"}));
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.err, "");
     EXPECT_TRUE(std::regex_match(ended.out, std::regex("apicall [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << ended.out;
@@ -198,7 +199,7 @@ TEST(Help, PrintsNothingButTheVersion)
 
 TEST(Help, ListStartsEachLineWithTheNameOfACall)
 {
-    const Ended ended = Apicall(Words({"--list"}));
+    const ProgramResult ended = Apicall(Words({"--list"}));
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.err, "");
 
@@ -240,7 +241,7 @@ Result: LocalSettingQueryResult
 
 TEST(Help, DescribesTheSameKeyDifferentlyInEachObject)
 {
-    const Ended ended = Apicall(Words({"--help", "IPMS.GetSimpleParkingLots"}));
+    const ProgramResult ended = Apicall(Words({"--help", "IPMS.GetSimpleParkingLots"}));
     for (const char* line :
          {"\n  id: text. Identifier of the parking lot.\n", "\n    id: text. Identifier of the position.\n",
           "\n      id: text. Identifier of the point.\n"}) {
@@ -250,7 +251,7 @@ TEST(Help, DescribesTheSameKeyDifferentlyInEachObject)
 
 TEST(Help, DescribesTheFieldsOfAnArgument)
 {
-    const Ended ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
+    const ProgramResult ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
     EXPECT_TRUE(Contains(ended.out,
                          "\n    page: int. Page number, counted from 1; 0 also means the first page. [>= 0]\n"
                          "    pageSize: int. Number of plans per page.\n"
@@ -261,7 +262,7 @@ TEST(Help, DescribesTheFieldsOfAnArgument)
 
 TEST(Help, ListsNoAllowedValuesForBooleans)
 {
-    const Ended ended = Apicall(Words({"--help", "BRMS.UpdateAIPrivacyConfig"}));
+    const ProgramResult ended = Apicall(Words({"--help", "BRMS.UpdateAIPrivacyConfig"}));
     EXPECT_TRUE(Contains(ended.out, "\nPUT /brms/api/v1.1/config/ai/privacy\n")) << ended.out;
     EXPECT_TRUE(Contains(ended.out, ": bool")) << ended.out;
     EXPECT_FALSE(Contains(ended.out, "[")) << ended.out;
@@ -269,7 +270,7 @@ TEST(Help, ListsNoAllowedValuesForBooleans)
 
 TEST(Help, ReportsThatACallHasNoArgumentsAndNoResult)
 {
-    const Ended ended = Apicall(Words({"--help", "BRMS.ImmediatelySyncTime"}));
+    const ProgramResult ended = Apicall(Words({"--help", "BRMS.ImmediatelySyncTime"}));
     EXPECT_EQ(ended.status, 0);
     EXPECT_TRUE(Contains(ended.out, "Arguments: none\n")) << ended.out;
     EXPECT_TRUE(Contains(ended.out, "Result: none\n")) << ended.out;
@@ -278,7 +279,7 @@ TEST(Help, ReportsThatACallHasNoArgumentsAndNoResult)
 TEST(Help, DescribesEveryCall)
 {
     for (const auto& call : catalogue::Calls()) {
-        const Ended ended = Apicall({QStringLiteral("--help"), QString::fromStdString(call.name)});
+        const ProgramResult ended = Apicall({QStringLiteral("--help"), QString::fromStdString(call.name)});
         EXPECT_EQ(ended.status, 0);
         EXPECT_EQ(ended.out.rfind(call.name, 0), 0U) << ended.out;
     }
@@ -319,13 +320,13 @@ TEST_P(Completion, CompletesInBash)
                        "' $words); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _apicall '" APICALL_FILE
                        "'; echo -n \"${COMPREPLY[@]}\"")
             .arg(QString::fromLatin1(GetParam().words));
-    const Ended ended = RunProgram(QStringLiteral("bash"), {QStringLiteral("-c"), script});
+    const ProgramResult ended = RunProgram(QStringLiteral("bash"), {QStringLiteral("-c"), script});
     EXPECT_EQ(ended.out, GetParam().completions) << ended.err;
 }
 
 TEST(Help, PrintsItsOptionsButNotTheToken)
 {
-    const Ended ended = Apicall(Words({"--help"}), {}, QString::fromLatin1(kToken));
+    const ProgramResult ended = Apicall(Words({"--help"}), {}, QString::fromLatin1(kToken));
     EXPECT_EQ(ended.status, 0);
     EXPECT_TRUE(Contains(ended.out, "--server")) << ended.out;
     EXPECT_FALSE(Contains(ended.out, kToken));
@@ -342,9 +343,9 @@ class Calls : public testing::TestWithParam<SchemeRow> {
 protected:
     Calls() : m_platform(Options()) { m_platform.start(); }
 
-    Ended Run(const QStringList& arguments, const QByteArray& input = {})
+    ProgramResult Run(const QStringList& arguments, const QByteArray& input = {})
     {
-        Ended ended =
+        ProgramResult ended =
             Apicall(Server() + QStringList{QStringLiteral("--token"), QString::fromLatin1(kToken)} + arguments, input);
         EXPECT_FALSE(Contains(ended.out, kToken)) << ended.out;
         EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
@@ -354,14 +355,14 @@ protected:
     /// Runs a call, expects it to succeed and returns its result.
     json ResultOf(const QStringList& arguments, const QByteArray& input = {})
     {
-        const Ended ended = Run(arguments, input);
+        const ProgramResult ended = Run(arguments, input);
         EXPECT_EQ(ended.status, 0) << ended.err;
         return json::parse(ended.out, nullptr, false);
     }
 
     void ExpectFailure(const QStringList& arguments, int code, const std::string& text)
     {
-        const Ended ended = Run(arguments);
+        const ProgramResult ended = Run(arguments);
         EXPECT_EQ(ended.status, 1);
         EXPECT_EQ(ended.out, "");
         const std::string line =
@@ -405,7 +406,7 @@ QStringList GetTimeSync()
 
 TEST_P(Calls, PrintsARecordAsIndentedJson)
 {
-    const Ended ended = Run(GetTimeSync());
+    const ProgramResult ended = Run(GetTimeSync());
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, Platform().state().at("brms").at("timeSync").dump(4) + "\n");
 }
@@ -435,7 +436,7 @@ TEST_P(Calls, PrintsSimpleValuesAndLists)
 
 TEST_P(Calls, PrintsNullForACallWithoutResult)
 {
-    const Ended ended = Run(Words({"BRMS.ImmediatelySyncTime"}));
+    const ProgramResult ended = Run(Words({"BRMS.ImmediatelySyncTime"}));
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, "null\n");
     ASSERT_EQ(Platform().requests().size(), 1U);
@@ -480,14 +481,14 @@ TEST_P(Calls, SendsTokenAndLanguageInTheirHeaders)
 
 TEST_P(Calls, ReadsTheTokenFromTheEnvironment)
 {
-    const Ended ended = Apicall(Server() + GetTimeSync(), {}, QString::fromLatin1(kToken));
+    const ProgramResult ended = Apicall(Server() + GetTimeSync(), {}, QString::fromLatin1(kToken));
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_FALSE(Contains(ended.err, kToken));
 }
 
 TEST_P(Calls, FailsWithAWrongToken)
 {
-    const Ended ended = Apicall(Server() + Words({"--token", "wrong"}) + GetTimeSync());
+    const ProgramResult ended = Apicall(Server() + Words({"--token", "wrong"}) + GetTimeSync());
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.out, "");
     EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 7000: " + ErrorText(7000) + "\n"))
@@ -498,8 +499,8 @@ TEST_P(Calls, ReportsHttpsToAPortOfPlainHttp)
 {
     const int port = GetParam().https ? Platform().httpsPort() : Platform().httpPort();
     const QString server = QStringLiteral("https://127.0.0.1:%1").arg(port);
-    const Ended ended = Apicall(QStringList{QStringLiteral("--server"), server} +
-                                Words({"--token", kToken, "--quiet"}) + GetTimeSync());
+    const ProgramResult ended = Apicall(QStringList{QStringLiteral("--server"), server} +
+                                        Words({"--token", kToken, "--quiet"}) + GetTimeSync());
     EXPECT_EQ(ended.status, GetParam().https ? 0 : 1);
     const std::string lines = "apicall: BRMS.GetTimeSyncConfig failed with -18: " + ErrorText(-18) +
                               "\napicall: the server does not use TLS on this port; is it the port for http://?\n";
@@ -545,12 +546,12 @@ TEST_P(Calls, FailsWhenDataCannotBeRead)
 
 TEST_P(Calls, QuietWritesLogLinesOnlyWhenACallFails)
 {
-    const Ended succeeded = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult succeeded = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(succeeded.status, 0);
     EXPECT_EQ(succeeded.err, "");
     EXPECT_NE(succeeded.out, "");
     AddFault({{"kind", "status"}, {"status", 503}});
-    const Ended failed = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult failed = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(failed.status, 1);
     EXPECT_TRUE(Contains(failed.err, "Request failed, http status Code: 503")) << failed.err;
     EXPECT_TRUE(Contains(failed.err, "apicall: BRMS.GetTimeSyncConfig failed with 503")) << failed.err;
@@ -558,7 +559,7 @@ TEST_P(Calls, QuietWritesLogLinesOnlyWhenACallFails)
 
 TEST_P(Calls, VerboseWritesTheExchange)
 {
-    const Ended ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(ended.status, 0);
     const std::string scheme = GetParam().https ? "https" : "http";
     EXPECT_EQ(ended.err.rfind("> GET " + scheme + "://127.0.0.1:", 0), 0U) << ended.err;
@@ -571,7 +572,7 @@ TEST_P(Calls, VerboseWritesTheExchange)
 TEST_P(Calls, VerboseWritesWhyNoReplyArrived)
 {
     AddFault({{"kind", "closeBefore"}, {"times", 0}});
-    const Ended ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(std::regex_search(ended.err, std::regex("\n\\* [A-Z]"))) << ended.err;
     EXPECT_FALSE(Contains(ended.err, "\n< ")) << ended.err;
@@ -579,7 +580,7 @@ TEST_P(Calls, VerboseWritesWhyNoReplyArrived)
 
 TEST_P(Calls, DryRunPrintsTheRequestAndSendsNothing)
 {
-    const Ended ended = Run(Words({"--dry-run", "--quiet", "BRMS.SetDeviceLoginModel", "model=2"}));
+    const ProgramResult ended = Run(Words({"--dry-run", "--quiet", "BRMS.SetDeviceLoginModel", "model=2"}));
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.err, "");
     EXPECT_EQ(ended.out.rfind("PUT http", 0), 0U) << ended.out;
@@ -634,7 +635,7 @@ TEST_P(Calls, MergeTakesTheFieldsFromARecordOfAnotherType)
 TEST_P(Calls, MergeWritesNothingWhenTheReadFails)
 {
     AddFault({{"kind", "status"}, {"status", 404}});
-    const Ended ended = Run(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"}));
+    const ProgramResult ended = Run(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"}));
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 404")) << ended.err;
     EXPECT_EQ(Platform().requests().size(), 1U);
@@ -661,8 +662,8 @@ TEST(Unreachable, FailsWithTheTextOfANetworkError)
     const QString server = QStringLiteral("127.0.0.1:%1").arg(closed.serverPort());
     closed.close();
     for (const char* scheme : {"http://", "https://"}) {
-        const Ended ended = Apicall({QStringLiteral("--server"), QString::fromLatin1(scheme) + server,
-                                     QStringLiteral("BRMS.GetTimeSyncConfig")});
+        const ProgramResult ended = Apicall({QStringLiteral("--server"), QString::fromLatin1(scheme) + server,
+                                             QStringLiteral("BRMS.GetTimeSyncConfig")});
         EXPECT_EQ(ended.status, 1);
         EXPECT_EQ(ended.out, "");
         EXPECT_TRUE(Contains(ended.err, "failed with -18: " + ErrorText(-18) + "\n")) << ended.err;
@@ -675,10 +676,10 @@ class Trust : public testing::Test {
 protected:
     Trust()
         : m_certificate(testing_support::MakeCertificate({"127.0.0.1"})),
-          m_server([](const testing_support::RawRequest&) { return testing_support::HttpAnswer(200, kAnswer); },
+          m_server([](const testing_support::RawRequest&) { return testing_support::HttpReply(200, kReply); },
                    testing_support::ServerConfiguration(m_certificate))
     {
-        m_server.AnswerAnything();
+        m_server.ReplyToAnything();
     }
 
     [[nodiscard]] QSslCertificate ServerCertificate() const { return m_certificate.certificate; }
@@ -688,7 +689,7 @@ protected:
         return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
     }
 
-    [[nodiscard]] Ended Run(const QStringList& options) const
+    [[nodiscard]] ProgramResult Run(const QStringList& options) const
     {
         return Apicall(
             QStringList{QStringLiteral("--server"), QStringLiteral("https://127.0.0.1:%1").arg(m_server.Port())} +
@@ -697,7 +698,7 @@ protected:
 
     void ExpectTrusted(const QStringList& options)
     {
-        const Ended ended = Run(options);
+        const ProgramResult ended = Run(options);
         EXPECT_EQ(ended.status, 0) << ended.err;
         EXPECT_EQ(ended.out, "1\n");
         EXPECT_FALSE(m_server.TakeRequests().empty());
@@ -705,7 +706,7 @@ protected:
 
     void ExpectNotTrusted(const QStringList& options, const QString& reason)
     {
-        const Ended ended = Run(options);
+        const ProgramResult ended = Run(options);
         EXPECT_EQ(ended.status, 1);
         EXPECT_EQ(ended.out, "");
         const QString line =
@@ -733,7 +734,7 @@ protected:
     }
 
 private:
-    static constexpr const char* kAnswer = R"({"code": 1000, "desc": "", "data": {"deviceLoginModel": 1}})";
+    static constexpr const char* kReply = R"({"code": 1000, "desc": "", "data": {"deviceLoginModel": 1}})";
 
     const testing_support::Certificate m_certificate;
     testing_support::RawServer m_server;
@@ -807,9 +808,10 @@ TEST(Ipv6, AcceptsAnAddressInBrackets)
     } catch (const std::runtime_error& error) {
         GTEST_SKIP() << "this machine has no IPv6: " << error.what();
     }
-    const Ended ended = Apicall({QStringLiteral("--server"), QStringLiteral("http://[::1]:%1").arg(platform.httpPort()),
-                                 QStringLiteral("--token"), QString::fromLatin1(emulator::kDefaultToken),
-                                 QStringLiteral("BRMS.GetDeviceLoginModel")});
+    const ProgramResult ended =
+        Apicall({QStringLiteral("--server"), QStringLiteral("http://[::1]:%1").arg(platform.httpPort()),
+                 QStringLiteral("--token"), QString::fromLatin1(emulator::kDefaultToken),
+                 QStringLiteral("BRMS.GetDeviceLoginModel")});
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, "1\n");
 }

@@ -343,18 +343,18 @@ TEST(Calls, NewRecordsOfTheLibraryConvertToJsonAndBack)
 /// Runs calls against a server in this process.
 class Runs : public Host {
 protected:
-    catalogue::Outcome Run(const catalogue::Call& call, const json& arguments, const RawAnswer& answer,
+    catalogue::Outcome Run(const catalogue::Call& call, const json& arguments, const RawReply& reply,
                            const catalogue::RunSettings& settings = {})
     {
-        RawServer server([answer](const RawRequest&) { return answer; });
+        RawServer server([reply](const RawRequest&) { return reply; });
         Use(server);
         users.servers[-1] = users.servers[0] = users.servers[1];
         return catalogue::Run(call, catalogue::ReadArguments(call, arguments), settings);
     }
 
-    static RawAnswer Envelope(const QByteArray& data)
+    static RawReply Envelope(const QByteArray& data)
     {
-        return HttpAnswer(200, R"({"code": 1000, "desc": "", "data": )" + data + "}");
+        return HttpReply(200, R"({"code": 1000, "desc": "", "data": )" + data + "}");
     }
 
     const json m_noNames = {{"names", json::array()}};
@@ -428,8 +428,8 @@ TEST_F(Runs, FailingPackEndsAsNotPacked)
 TEST_F(Runs, ReturnStatusesAndCodesWithoutNotification)
 {
     const auto call = Entry<TEST::TakeNoServer>("Reads nothing", "names");
-    EXPECT_EQ(Run(call, m_noNames, HttpAnswer(503, "")).Code(), 503);
-    const auto outcome = Run(call, m_noNames, HttpAnswer(200, R"({"code": 0, "desc": "No", "data": {}})"));
+    EXPECT_EQ(Run(call, m_noNames, HttpReply(503, "")).Code(), 503);
+    const auto outcome = Run(call, m_noNames, HttpReply(200, R"({"code": 0, "desc": "No", "data": {}})"));
     EXPECT_EQ(outcome.End(), CallEnd::Refused);
     EXPECT_EQ(outcome.Code(), 0);
     EXPECT_EQ(outcome.ServerText(), QStringLiteral("No"));
@@ -440,7 +440,7 @@ TEST_F(Runs, UseTheGivenTimeout)
 {
     catalogue::RunSettings settings;
     settings.timeout = std::chrono::milliseconds(50);
-    const auto outcome = Run(Entry<TEST::TakeNoServer>("Reads nothing", "names"), m_noNames, RawAnswer{}, settings);
+    const auto outcome = Run(Entry<TEST::TakeNoServer>("Reads nothing", "names"), m_noNames, RawReply{}, settings);
     EXPECT_EQ(outcome.End(), CallEnd::TimedOut);
 }
 

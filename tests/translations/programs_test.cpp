@@ -12,7 +12,7 @@
 #include <regex>
 #include <sstream>
 
-using testing_support::Ended;
+using testing_support::ProgramResult;
 using testing_support::RowName;
 using testing_support::RunProgram;
 
@@ -87,7 +87,7 @@ struct Environment {
 
 class Programs : public testing::TestWithParam<Environment> {
 protected:
-    static Ended Run(const char* program, const QStringList& arguments)
+    static ProgramResult Run(const char* program, const QStringList& arguments)
     {
         testing_support::Variables variables;
         for (const char* variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
@@ -101,10 +101,10 @@ protected:
         return ended;
     }
 
-    static Ended Apicall(const QStringList& arguments) { return Run(APICALL_FILE, arguments); }
-    static Ended Emulator(const QStringList& arguments) { return Run(EMULATOR_FILE, arguments); }
+    static ProgramResult Apicall(const QStringList& arguments) { return Run(APICALL_FILE, arguments); }
+    static ProgramResult Emulator(const QStringList& arguments) { return Run(EMULATOR_FILE, arguments); }
 
-    static void ExpectRefusal(const Ended& ended, const std::string& program, const char* text)
+    static void ExpectRefusal(const ProgramResult& ended, const std::string& program, const char* text)
     {
         EXPECT_EQ(ended.status, 2);
         EXPECT_EQ(ended.out, "");
@@ -119,7 +119,7 @@ protected:
 
 TEST_P(Programs, HelpIsTranslated)
 {
-    for (const Ended& ended : {Apicall({QStringLiteral("--help")}), Emulator({QStringLiteral("--help")})}) {
+    for (const ProgramResult& ended : {Apicall({QStringLiteral("--help")}), Emulator({QStringLiteral("--help")})}) {
         EXPECT_EQ(ended.status, 0);
         ExpectLineWith(ended.out, GetParam().texts.usage);
         ExpectLineWith(ended.out, GetParam().texts.options);
@@ -144,7 +144,7 @@ TEST_P(Programs, ErrorsAreTranslated)
 
 TEST_P(Programs, FailedCallIsReportedInOneLanguage)
 {
-    const Ended ended = Apicall(
+    const ProgramResult ended = Apicall(
         {QStringLiteral("--server"), QStringLiteral("http://127.0.0.1:0"), QStringLiteral("BRMS.GetTimeSyncConfig")});
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.out, "");

@@ -13,7 +13,7 @@ std::shared_ptr<void> Signal::Handle() const
     return std::shared_ptr<void>(nullptr, [pHappened = m_pRaised](void*) { *pHappened = true; });
 }
 
-Ended TransportHost::Run(APIModule::Method method, const QString& url, const QString& body, int nTimeout)
+CallResult TransportHost::Run(APIModule::Method method, const QString& url, const QString& body, int nTimeout)
 {
     HostCall call;
     call.method = method;
@@ -22,7 +22,7 @@ Ended TransportHost::Run(APIModule::Method method, const QString& url, const QSt
     call.timeout = nTimeout;
     call.uiError = QStringLiteral("No settings");
     call.notifyOnFailure = false;
-    Ended ended;
+    CallResult ended;
     call.parse = [&ended](const QJsonObject& data) {
         ended.parsed = true;
         ended.tag = data.value(QStringLiteral("n")).toInt(-1);
@@ -44,9 +44,9 @@ int Times()
     return std::max(qEnvironmentVariableIntValue("APIMODULE_TIMES"), 1);
 }
 
-RawAnswer TaggedAnswer(int nTag)
+RawReply TaggedReply(int nTag)
 {
-    return HttpAnswer(200, "{\"code\":1000,\"data\":{\"n\":" + QByteArray::number(nTag) + "}}");
+    return HttpReply(200, "{\"code\":1000,\"data\":{\"n\":" + QByteArray::number(nTag) + "}}");
 }
 
 int TagOf(const QByteArray& target)

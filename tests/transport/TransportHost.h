@@ -12,7 +12,7 @@
 namespace testing_support {
 
 /// The outcome of a call.
-struct Ended {
+struct CallResult {
     int code = 0;  ///< the result, or the notified code
     bool parsed = false;
     int tag = -1;  ///< "n" in the data that the Parse received
@@ -33,15 +33,15 @@ private:
 class TransportHost : public FaultHost {
 protected:
     /// Runs a call whose failure is notified only if no reply arrives.
-    Ended Run(APIModule::Method method, const QString& url, const QString& body = {}, int nTimeout = 20);
-    Ended Get(const QString& url) { return Run(APIModule::Method_Get, url); }
+    CallResult Run(APIModule::Method method, const QString& url, const QString& body = {}, int nTimeout = 20);
+    CallResult Get(const QString& url) { return Run(APIModule::Method_Get, url); }
 };
 
 /// The factor by which the program multiplies its number of calls: APIMODULE_TIMES in the environment, otherwise 1.
 int Times();
 
 /// A successful reply whose data is the number of its request.
-RawAnswer TaggedAnswer(int nTag);
+RawReply TaggedReply(int nTag);
 /// The number after the last slash of a target.
 int TagOf(const QByteArray& target);
 

@@ -1,6 +1,6 @@
 // Compares the library's HTTP implementation with Qt's: both give the same result for a reply, except for a list of
 // intended differences.
-#include "Answers.h"
+#include "SampleReplies.h"
 #include "support/Watchdog.h"
 
 #include <http/AccessManager.h>
@@ -214,21 +214,21 @@ const std::map<std::string, Difference>& Differences()
 }
 
 struct Row {
-    Answer answer;
+    SampleReply sample;
     RawServer::Scheme scheme;
 };
 
 void PrintTo(const Row& row, std::ostream* pStream)
 {
-    *pStream << row.answer.name;
+    *pStream << row.sample.name;
 }
 
 std::vector<Row> Rows()
 {
     std::vector<Row> rows;
-    for (const Answer& answer : Answers()) {
+    for (const SampleReply& sample : SampleReplies()) {
         for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-            rows.push_back({answer, scheme});
+            rows.push_back({sample, scheme});
         }
     }
     return rows;
@@ -259,10 +259,10 @@ private:
 
 TEST_P(Differential, ReadsRepliesLikeQtExceptForTheListedDifferences)
 {
-    const auto& [answer, scheme] = GetParam();
-    const RawServer server([bytes = answer.answer](const RawRequest&) { return bytes; }, scheme);
+    const auto& [sample, scheme] = GetParam();
+    const RawServer server([bytes = sample.reply](const RawRequest&) { return bytes; }, scheme);
     const std::string library = ByLibrary(server, scheme);
-    const auto difference = Differences().find(answer.name);
+    const auto difference = Differences().find(sample.name);
     if (difference == Differences().end()) {
         EXPECT_EQ(library, ByQt(server, scheme, [&](const std::string& qt) { return qt == library; }));
         return;
@@ -274,17 +274,17 @@ TEST_P(Differential, ReadsRepliesLikeQtExceptForTheListedDifferences)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, Differential, testing::ValuesIn(Rows()), [](const auto& row) {
-    return std::string(row.param.answer.name) + (row.param.scheme == RawServer::Http ? "_http" : "_https");
+INSTANTIATE_TEST_SUITE_P(Replies, Differential, testing::ValuesIn(Rows()), [](const auto& row) {
+    return std::string(row.param.sample.name) + (row.param.scheme == RawServer::Http ? "_http" : "_https");
 });
 
 /// The list contains no difference for a reply that is not tested.
-TEST(Differences, AreOfAnswers)
+TEST(Differences, ListOnlyTestedReplies)
 {
     for (const auto& [name, difference] : Differences()) {
         bool bFound = false;
-        for (const Answer& answer : Answers()) {
-            bFound = bFound || name == answer.name;
+        for (const SampleReply& sample : SampleReplies()) {
+            bFound = bFound || name == sample.name;
         }
         EXPECT_TRUE(bFound) << name;
     }

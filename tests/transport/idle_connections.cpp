@@ -59,7 +59,7 @@ private:
 
 struct End {
     const char* name;
-    RawAnswer::Then then;
+    RawReply::Then then;
 };
 
 struct Counts {
@@ -79,16 +79,16 @@ void Pause(int nMilliseconds, bool bInEventLoop)
     loop.exec();
 }
 
-Counts Count(const Client& client, RawAnswer::Then then, RawServer::Scheme scheme, bool bWrite, int nCalls)
+Counts Count(const Client& client, RawReply::Then then, RawServer::Scheme scheme, bool bWrite, int nCalls)
 {
     RawServer server(
         [then](const RawRequest& request) {
-            RawAnswer answer = SuccessAnswer();
+            RawReply reply = SuccessReply();
             if (request.target == "/first") {
-                answer.then = then;
-                answer.thenMilliseconds = kEndsAfterMs;
+                reply.then = then;
+                reply.thenMilliseconds = kEndsAfterMs;
             }
-            return answer;
+            return reply;
         },
         scheme);
     Counts counts;
@@ -129,9 +129,9 @@ int main(int argc, char** argv)
     const auto callQt = [&manager](const RawServer& server, RawServer::Scheme scheme, bool bWrite,
                                    const QString& path) { return CallQt(manager, server, scheme, bWrite, path); };
     std::vector<End> ends = {
-        {"closed", RawAnswer::Close}, {"reset", RawAnswer::Reset}, {"half-closed", RawAnswer::HalfClose}};
+        {"closed", RawReply::Close}, {"reset", RawReply::Reset}, {"half-closed", RawReply::HalfClose}};
     if (CanVanish()) {
-        ends.push_back({"silently closed", RawAnswer::Vanish});
+        ends.push_back({"silently closed", RawReply::Vanish});
     }
     std::printf("| connection | over | call | calls | library: failures / repeated | Qt: failures / repeated |\n"
                 "|---|---|---|---|---|---|\n");

@@ -84,7 +84,7 @@ public:
             connect(pClient, &QTcpSocket::readyRead, pClient, [this, pClient] {
                 if (pClient->readAll().endsWith("\r\n\r\n")) {
                     ++requests;
-                    pClient->write(SuccessAnswer().bytes);
+                    pClient->write(SuccessReply().bytes);
                 }
             });
         });
@@ -172,7 +172,7 @@ TEST_F(NamesTest, KeepsWaitingForTheFirstFamilyWhenTheSecondRefuses)
 
 TEST_F(NamesTest, EncryptsOnTheSecondFamily)
 {
-    RawServer server([](const RawRequest&) { return SuccessAnswer(); }, RawServer::Https);
+    RawServer server([](const RawRequest&) { return SuccessReply(); }, RawServer::Https);
     CAPIModule::GetInstance().SetHttpsMode(1);
     Use("tls.example", server.Port());
     EXPECT_EQ(Get(QStringLiteral("/path")).code, 0);

@@ -89,7 +89,7 @@ protected:
 
 TEST_F(ProxyTest, ReceivesPlainHttpWithTheCompleteUrl)
 {
-    RawServer proxy([](const RawRequest&) { return SuccessAnswer(); });
+    RawServer proxy([](const RawRequest&) { return SuccessReply(); });
     Set(proxy.Port());
     CAPIModule::GetInstance().SetHttpsMode(0);
     EXPECT_EQ(Get(QStringLiteral("/path?a=1")).code, 0);
@@ -106,7 +106,7 @@ TEST_F(ProxyTest, ReceivesPlainHttpWithTheCompleteUrl)
 
 TEST_F(ProxyTest, ReceivesIpv6AddressesInBrackets)
 {
-    RawServer proxy([](const RawRequest&) { return SuccessAnswer(); });
+    RawServer proxy([](const RawRequest&) { return SuccessReply(); });
     Set(proxy.Port());
     CAPIModule::GetInstance().SetHttpsMode(0);
     users.servers[1].host = "[2001:db8::1]";
@@ -119,7 +119,7 @@ TEST_F(ProxyTest, ReceivesIpv6AddressesInBrackets)
 
 TEST_F(ProxyTest, ReceivesCredentialsThatObserversDoNotSee)
 {
-    RawServer proxy([](const RawRequest&) { return SuccessAnswer(); });
+    RawServer proxy([](const RawRequest&) { return SuccessReply(); });
     Set(proxy.Port(), QStringLiteral("user"), QStringLiteral("secret"));
     CAPIModule::GetInstance().SetHttpsMode(0);
     QByteArray observed;
@@ -140,7 +140,7 @@ TEST_F(ProxyTest, ReceivesCredentialsThatObserversDoNotSee)
 
 TEST_F(ProxyTest, TunnelsHttps)
 {
-    RawServer server([](const RawRequest&) { return SuccessAnswer(); }, RawServer::Https);
+    RawServer server([](const RawRequest&) { return SuccessReply(); }, RawServer::Https);
     const Tunnel tunnel(kEstablished, server.Port());
     Set(tunnel.Port());
     CAPIModule::GetInstance().SetHttpsMode(1);

@@ -37,17 +37,17 @@ const std::vector<Request> kWrites = {
 /// What a server does with a request after reading it completely.
 struct End {
     const char* name;
-    RawAnswer answer;
+    RawReply reply;
 };
 
 const std::vector<End> kEnds = {
-    {"closed", {"", 0, RawAnswer::Close}},
-    {"closed_later", {"", 0, RawAnswer::CloseLater}},
-    {"reset", {"", 0, RawAnswer::Reset}},
-    {"half_closed", {"", 0, RawAnswer::HalfClose}},
-    {"closed_in_the_status", {"HTTP/1.1 2", 0, RawAnswer::Close}},
-    {"reset_in_the_head", {"HTTP/1.1 200 OK\r\nContent-", 0, RawAnswer::Reset}},
-    {"closed_after_100", {"HTTP/1.1 100 Continue\r\n\r\n", 0, RawAnswer::Close}},
+    {"closed", {"", 0, RawReply::Close}},
+    {"closed_later", {"", 0, RawReply::CloseLater}},
+    {"reset", {"", 0, RawReply::Reset}},
+    {"half_closed", {"", 0, RawReply::HalfClose}},
+    {"closed_in_the_status", {"HTTP/1.1 2", 0, RawReply::Close}},
+    {"reset_in_the_head", {"HTTP/1.1 200 OK\r\nContent-", 0, RawReply::Reset}},
+    {"closed_after_100", {"HTTP/1.1 100 Continue\r\n\r\n", 0, RawReply::Close}},
 };
 
 struct Row {
@@ -86,11 +86,9 @@ protected:
     int Arrivals()
     {
         const auto& [name, request, end, scheme, bKept] = GetParam();
-        RawServer server(
-            [answer = end.answer](const RawRequest& received) {
-                return received.target == "/ok" ? SuccessAnswer() : answer;
-            },
-            scheme);
+        RawServer server([reply = end.reply](
+                             const RawRequest& received) { return received.target == "/ok" ? SuccessReply() : reply; },
+                         scheme);
         Use(server, scheme);
         if (bKept) {
             EXPECT_EQ(Get(QStringLiteral("/ok")).code, 0);
@@ -123,30 +121,30 @@ class ReadTest : public RepetitionTest {};
 /// A kept connection may have ended before the request.
 TEST_P(ReadTest, IsRepeatedOnceWhenAKeptConnectionClosesBeforeAReply)
 {
-    EXPECT_EQ(Arrivals(), GetParam().kept && GetParam().end.answer.bytes.isEmpty() ? 2 : 1);
+    EXPECT_EQ(Arrivals(), GetParam().kept && GetParam().end.reply.bytes.isEmpty() ? 2 : 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Reads, ReadTest, testing::ValuesIn(Rows({{"get", APIModule::Method_Get, 0}})), RowName());
 
 /// A kept connection that has ended. The host's event loop may or may not have had time to notice it.
-struct Ending {
+struct EndedConnection {
     std::string name;
     RawServer::Scheme scheme;
-    RawAnswer::Then then;
+    RawReply::Then then;
     APIModule::Method method;
     bool inEventLoop;
 };
 
-void PrintTo(const Ending& row, std::ostream* pStream)
+void PrintTo(const EndedConnection& row, std::ostream* pStream)
 {
     *pStream << row.name;
 }
 
-std::vector<Ending> Endings()
+std::vector<EndedConnection> EndedConnections()
 {
-    std::vector<Ending> rows;
-    for (const auto& [name, then] : {std::pair("closed", RawAnswer::Close), std::pair("reset", RawAnswer::Reset),
-                                     std::pair("half_closed", RawAnswer::HalfClose)}) {
+    std::vector<EndedConnection> rows;
+    for (const auto& [name, then] : {std::pair("closed", RawReply::Close), std::pair("reset", RawReply::Reset),
+                                     std::pair("half_closed", RawReply::HalfClose)}) {
         for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
             for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
                 for (const bool bInEventLoop : {false, true}) {
@@ -161,23 +159,23 @@ std::vector<Ending> Endings()
     return rows;
 }
 
-class EndingTest : public TransportHost, public testing::WithParamInterface<Ending> {};
+class EndedConnectionTest : public TransportHost, public testing::WithParamInterface<EndedConnection> {};
 
-TEST_P(EndingTest, NeitherLosesNorRepeatsCalls)
+TEST_P(EndedConnectionTest, NeitherLosesNorRepeatsCalls)
 {
-    const Ending& row = GetParam();
+    const EndedConnection& row = GetParam();
     std::mutex mutex;
     std::shared_ptr<void> handle;
     RawServer server(
         [&](const RawRequest& request) {
-            RawAnswer answer = TaggedAnswer(TagOf(request.target));
+            RawReply reply = TaggedReply(TagOf(request.target));
             if (request.target == "/first") {
-                answer.then = row.then;
-                answer.thenMilliseconds = 2;
+                reply.then = row.then;
+                reply.thenMilliseconds = 2;
                 const std::lock_guard<std::mutex> lock(mutex);
-                answer.done = std::move(handle);
+                reply.done = std::move(handle);
             }
-            return answer;
+            return reply;
         },
         row.scheme);
     Use(server, row.scheme);
@@ -195,14 +193,14 @@ TEST_P(EndingTest, NeitherLosesNorRepeatsCalls)
         while (!ended.WasRaised()) {
             QThread::usleep(100);
         }
-        const Ended second = Run(row.method, QStringLiteral("/second/%1").arg(i), QStringLiteral("{}"));
+        const CallResult second = Run(row.method, QStringLiteral("/second/%1").arg(i), QStringLiteral("{}"));
         EXPECT_EQ(second.code, 0);
         EXPECT_EQ(second.tag, i);
     }
     EXPECT_EQ(server.TakeRequests().size(), 2U * kCalls);
 }
 
-INSTANTIATE_TEST_SUITE_P(Endings, EndingTest, testing::ValuesIn(Endings()), RowName());
+INSTANTIATE_TEST_SUITE_P(EndedConnections, EndedConnectionTest, testing::ValuesIn(EndedConnections()), RowName());
 
 /// Earlier replies on a connection do not matter when its end marks the end of a body.
 TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
@@ -210,16 +208,16 @@ TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
     for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
         RawServer server(
             [](const RawRequest& request) {
-                return request.target == "/ok" ? SuccessAnswer()
-                                               : RawAnswer{"HTTP/1.1 200 OK\r\n\r\n{\"code\":1000,\"data\":{\"n\":7}}",
-                                                           0, RawAnswer::CloseLater};
+                return request.target == "/ok" ? SuccessReply()
+                                               : RawReply{"HTTP/1.1 200 OK\r\n\r\n{\"code\":1000,\"data\":{\"n\":7}}",
+                                                          0, RawReply::CloseLater};
             },
             scheme);
         Use(server, scheme);
         for (int i = 0; i < 3; ++i) {
             ASSERT_EQ(Get(QStringLiteral("/ok")).code, 0);
         }
-        const Ended ended = Get(QStringLiteral("/path"));
+        const CallResult ended = Get(QStringLiteral("/path"));
         EXPECT_EQ(ended.code, 0);
         EXPECT_EQ(ended.tag, 7);
         EXPECT_EQ(server.ConnectionCount(), 1);
@@ -227,7 +225,7 @@ TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
 }
 
 /// Writes to servers that close idle connections, with pauses about as long as the servers' idle time.
-struct Pausing {
+struct PauseRow {
     std::string name;
     RawServer::Scheme scheme;
     int idleMilliseconds;
@@ -235,21 +233,21 @@ struct Pausing {
     int writesPerServer;
 };
 
-void PrintTo(const Pausing& row, std::ostream* pStream)
+void PrintTo(const PauseRow& row, std::ostream* pStream)
 {
     *pStream << row.name;
 }
 
-class PauseTest : public TransportHost, public testing::WithParamInterface<Pausing> {};
+class PauseTest : public TransportHost, public testing::WithParamInterface<PauseRow> {};
 
 TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
 {
-    const Pausing& row = GetParam();
+    const PauseRow& row = GetParam();
     const int nWritesPerServer = row.writesPerServer * Times();
     std::vector<std::unique_ptr<RawServer>> servers;
     for (int i = 0; i < row.servers; ++i) {
         servers.push_back(std::make_unique<RawServer>(
-            [](const RawRequest& request) { return TaggedAnswer(TagOf(request.target)); }, row.scheme));
+            [](const RawRequest& request) { return TaggedReply(TagOf(request.target)); }, row.scheme));
         servers.back()->CloseIdleAfter(row.idleMilliseconds);
     }
     Use(*servers.front(), row.scheme);
@@ -268,8 +266,8 @@ TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
             return;
         }
         users.servers[1].port = servers[std::size_t(nServer)]->Port();
-        const Ended ended = Run(nWrite % 2 == 0 ? APIModule::Method_Post : APIModule::Method_Put,
-                                QStringLiteral("/write/%1").arg(nWrite), QStringLiteral("{}"));
+        const CallResult ended = Run(nWrite % 2 == 0 ? APIModule::Method_Post : APIModule::Method_Put,
+                                     QStringLiteral("/write/%1").arg(nWrite), QStringLiteral("{}"));
         nFailures += ended.code != 0 || ended.tag != nWrite ? 1 : 0;
         const int nPause = row.idleMilliseconds + std::uniform_int_distribution<int>(-20, 20)(random);
         QTimer::singleShot(nPause, Qt::PreciseTimer, &context,
@@ -283,20 +281,20 @@ TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
     EXPECT_EQ(nFailures, 0);
     int nArrivals = 0;
     for (const auto& pServer : servers) {
-        std::map<QByteArray, int> ofWrite;
+        std::map<QByteArray, int> arrivals;
         for (const RawRequest& request : pServer->TakeRequests()) {
             ++nArrivals;
-            EXPECT_EQ(++ofWrite[request.target], 1) << request.target.constData();
+            EXPECT_EQ(++arrivals[request.target], 1) << request.target.constData();
         }
     }
     EXPECT_EQ(nArrivals, row.servers * nWritesPerServer);
 }
 
 INSTANTIATE_TEST_SUITE_P(Pauses, PauseTest,
-                         testing::Values(Pausing{"1s_http", RawServer::Http, 1000, 15, 5},
-                                         Pausing{"1s_https", RawServer::Https, 1000, 15, 5},
-                                         Pausing{"5s_http", RawServer::Http, 5000, 15, 3},
-                                         Pausing{"5s_https", RawServer::Https, 5000, 15, 3}),
+                         testing::Values(PauseRow{"1s_http", RawServer::Http, 1000, 15, 5},
+                                         PauseRow{"1s_https", RawServer::Https, 1000, 15, 5},
+                                         PauseRow{"5s_http", RawServer::Http, 5000, 15, 3},
+                                         PauseRow{"5s_https", RawServer::Https, 5000, 15, 3}),
                          RowName());
 
 }  // namespace

@@ -11,10 +11,10 @@ namespace {
 
 class Separation : public TransportHost, public testing::WithParamInterface<RawServer::Scheme> {};
 
-RawAnswer WithCookie(const RawRequest&)
+RawReply WithCookie(const RawRequest&)
 {
-    return HttpAnswer(200, R"({"code":1000,"data":{"n":1}})",
-                      "Set-Cookie: session=secret; Path=/\r\nSet-Cookie: all=1; Domain=127.0.0.1\r\n");
+    return HttpReply(200, R"({"code":1000,"data":{"n":1}})",
+                     "Set-Cookie: session=secret; Path=/\r\nSet-Cookie: all=1; Domain=127.0.0.1\r\n");
 }
 
 TEST_P(Separation, CookiesAreNotSentBack)
@@ -34,7 +34,7 @@ TEST_P(Separation, CookiesAreNotSentBack)
 
 TEST_P(Separation, CredentialsAreNotSent)
 {
-    RawServer server([](const RawRequest&) { return HttpAnswer(401, "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"); },
+    RawServer server([](const RawRequest&) { return HttpReply(401, "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"); },
                      GetParam());
     Use(server, GetParam());
     for (int i = 0; i < 2; ++i) {
@@ -49,7 +49,7 @@ TEST_P(Separation, CredentialsAreNotSent)
 
 TEST_P(Separation, ConnectionsAreKeptUntilUnInit)
 {
-    RawServer server([](const RawRequest&) { return SuccessAnswer(); }, GetParam());
+    RawServer server([](const RawRequest&) { return SuccessReply(); }, GetParam());
     Use(server, GetParam());
     for (int nUse = 1; nUse <= 3; ++nUse) {
         for (int i = 0; i < 4; ++i) {
@@ -70,9 +70,9 @@ TEST_P(Separation, WaitingCallDoesNotShareItsConnection)
 {
     RawServer server(
         [](const RawRequest& request) {
-            RawAnswer answer = SuccessAnswer();
-            answer.delayMilliseconds = request.target == "/waits" ? 200 : 0;
-            return answer;
+            RawReply reply = SuccessReply();
+            reply.delayMilliseconds = request.target == "/waits" ? 200 : 0;
+            return reply;
         },
         GetParam());
     Use(server, GetParam());

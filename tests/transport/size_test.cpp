@@ -59,7 +59,7 @@ protected:
 /// How a body is transferred.
 struct Transfer {
     const char* name;
-    std::function<RawAnswer(const QByteArray& body)> make;
+    std::function<RawReply(const QByteArray& body)> make;
 };
 
 void PrintTo(const Transfer& row, std::ostream* pStream)
@@ -67,7 +67,7 @@ void PrintTo(const Transfer& row, std::ostream* pStream)
     *pStream << row.name;
 }
 
-RawAnswer Chunked(const QByteArray& body)
+RawReply Chunked(const QByteArray& body)
 {
     QByteArray chunks;
     constexpr int kChunk = 1000;
@@ -78,22 +78,22 @@ RawAnswer Chunked(const QByteArray& body)
     return {kOk + "Transfer-Encoding: chunked\r\n\r\n" + chunks + "0\r\n\r\n"};
 }
 
-RawAnswer UntilTheEnd(const QByteArray& body)
+RawReply UntilTheEnd(const QByteArray& body)
 {
-    return {kOk + "\r\n" + body, 0, RawAnswer::Close};
+    return {kOk + "\r\n" + body, 0, RawReply::Close};
 }
 
-RawAnswer Gzipped(const QByteArray& body)
+RawReply Gzipped(const QByteArray& body)
 {
-    return HttpAnswer(200, Deflated(body), "Content-Encoding: gzip\r\n");
+    return HttpReply(200, Deflated(body), "Content-Encoding: gzip\r\n");
 }
 
 const std::vector<Transfer> kTransfers = {
-    {"length", [](const QByteArray& body) { return HttpAnswer(200, body); }},
+    {"length", [](const QByteArray& body) { return HttpReply(200, body); }},
     {"chunked", Chunked},
     {"until_the_end", UntilTheEnd},
     {"gzip", Gzipped},
-    {"length_of_404", [](const QByteArray& body) { return HttpAnswer(404, body); }},
+    {"length_of_404", [](const QByteArray& body) { return HttpReply(404, body); }},
 };
 
 class TransferTest : public SizeTest, public testing::WithParamInterface<std::tuple<Transfer, RawServer::Scheme>> {};
@@ -105,16 +105,16 @@ TEST_P(TransferTest, IsRejectedOnlyAboveTheLimit)
     constexpr int kHeadAndChunks = 5000;
     RawServer server([make = transfer.make](const RawRequest&) { return make(Envelope(kBody)); }, scheme);
     Use(server, scheme);
-    const int nAnswered = QByteArray(transfer.name).endsWith("404") ? 404 : 0;
+    const int nExpected = QByteArray(transfer.name).endsWith("404") ? 404 : 0;
 
     CAPIModule::GetInstance().SetMaximumReplySize(kBody + kHeadAndChunks);
-    EXPECT_EQ(Get(QStringLiteral("/path")).code, nAnswered);
+    EXPECT_EQ(Get(QStringLiteral("/path")).code, nExpected);
     logs.Take();
     CAPIModule::GetInstance().SetMaximumReplySize(kBody - 1);
     EXPECT_EQ(Get(QStringLiteral("/path")).code, kNetworkError);
     ExpectSizeLimitIsLogged();
     CAPIModule::GetInstance().SetMaximumReplySize(kDefaultSize);
-    EXPECT_EQ(Get(QStringLiteral("/path")).code, nAnswered);
+    EXPECT_EQ(Get(QStringLiteral("/path")).code, nExpected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Transfers, TransferTest,
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Transfers, TransferTest,
 TEST_F(SizeTest, IsRejectedAtOnceByItsContentLength)
 {
     RawServer server([](const RawRequest&) {
-        return RawAnswer{kOk + "Content-Length: " + QByteArray::number(kDefaultSize + 1) + "\r\n\r\n"};
+        return RawReply{kOk + "Content-Length: " + QByteArray::number(kDefaultSize + 1) + "\r\n\r\n"};
     });
     Use(server);
     EXPECT_EQ(Get(QStringLiteral("/path")).code, kNetworkError);
@@ -154,7 +154,7 @@ TEST_P(InflatedTest, GigabyteOfGzipIsRejectedWithinTheMemoryLimit)
 {
     const QByteArray gzip = GzipOfMegabytes(1024);
     ASSERT_LT(gzip.size(), 2 * kMegabyte);
-    RawServer server([&gzip](const RawRequest&) { return HttpAnswer(200, gzip, "Content-Encoding: gzip\r\n"); });
+    RawServer server([&gzip](const RawRequest&) { return HttpReply(200, gzip, "Content-Encoding: gzip\r\n"); });
     Use(server);
     CAPIModule::GetInstance().SetMaximumReplySize(GetParam().maximum * kMegabyte);
     ResetPeakOfMemory();
@@ -220,10 +220,10 @@ TEST_P(HeadTest, IsReadBeforeTheTimeOut)
     const QByteArray lines = GetParam().lines();
     const QByteArray before = QByteArray("\r\n").repeated(GetParam().emptyLinesBefore);
     RawServer server([&](const RawRequest&) {
-        return RawAnswer{before + kOk + lines + "Content-Length: 28\r\n\r\n" + Envelope(28)};
+        return RawReply{before + kOk + lines + "Content-Length: 28\r\n\r\n" + Envelope(28)};
     });
     Use(server);
-    const Ended ended = Get(QStringLiteral("/path"));
+    const CallResult ended = Get(QStringLiteral("/path"));
     EXPECT_EQ(ended.code, 0);
     EXPECT_EQ(ended.tag, 1);
 }

@@ -1,4 +1,4 @@
-#include "Answers.h"
+#include "SampleReplies.h"
 
 #include "Deflated.h"
 
@@ -11,45 +11,45 @@ constexpr int kBodySize = 28;
 const QByteArray kLength = "Content-Length: 28\r\n";
 
 /// A reply of exactly these bytes.
-RawAnswer Raw(const QByteArray& bytes, RawAnswer::Then then = RawAnswer::KeepOpen)
+RawReply Raw(const QByteArray& bytes, RawReply::Then then = RawReply::KeepOpen)
 {
     return {bytes, 0, then};
 }
 
 /// A reply with status 200, these headers and this body.
-RawAnswer Ok(const QByteArray& headers, const QByteArray& body = kBody, RawAnswer::Then then = RawAnswer::KeepOpen)
+RawReply Ok(const QByteArray& headers, const QByteArray& body = kBody, RawReply::Then then = RawReply::KeepOpen)
 {
     return Raw("HTTP/1.1 200 OK\r\n" + headers + "\r\n" + body, then);
 }
 
-RawAnswer Status(const QByteArray& line, const QByteArray& headers = kLength, const QByteArray& body = kBody,
-                 RawAnswer::Then then = RawAnswer::KeepOpen)
+RawReply Status(const QByteArray& line, const QByteArray& headers = kLength, const QByteArray& body = kBody,
+                RawReply::Then then = RawReply::KeepOpen)
 {
     return Raw(line + "\r\n" + headers + "\r\n" + body, then);
 }
 
-RawAnswer Chunked(const QByteArray& chunks, RawAnswer::Then then = RawAnswer::KeepOpen,
-                  const QByteArray& more = QByteArray())
+RawReply Chunked(const QByteArray& chunks, RawReply::Then then = RawReply::KeepOpen,
+                 const QByteArray& more = QByteArray())
 {
     return Ok("Transfer-Encoding: chunked\r\n" + more, chunks, then);
 }
 
 const QByteArray kChunk = QByteArray("1c\r\n") + kBody + "\r\n";
 
-RawAnswer Encoded(const QByteArray& encoding, const QByteArray& body, RawAnswer::Then then = RawAnswer::KeepOpen)
+RawReply Encoded(const QByteArray& encoding, const QByteArray& body, RawReply::Then then = RawReply::KeepOpen)
 {
     return Ok("Content-Encoding: " + encoding + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n", body,
               then);
 }
 
 /// The same bytes, the last of them in a separate segment.
-RawAnswer InTwo(RawAnswer answer, int nLast)
+RawReply InTwo(RawReply reply, int nLast)
 {
     constexpr int kPause = 20;
-    answer.moreBytes = answer.bytes.right(nLast);
-    answer.bytes.chop(nLast);
-    answer.moreMilliseconds = kPause;
-    return answer;
+    reply.moreBytes = reply.bytes.right(nLast);
+    reply.bytes.chop(nLast);
+    reply.moreMilliseconds = kPause;
+    return reply;
 }
 
 QByteArray ChunkOf(const QByteArray& bytes)
@@ -59,7 +59,7 @@ QByteArray ChunkOf(const QByteArray& bytes)
 
 }  // namespace
 
-std::vector<Answer> Answers()
+std::vector<SampleReply> SampleReplies()
 {
     static_assert(std::char_traits<char>::length(kBody) == kBodySize);
     const QByteArray body = kBody;
@@ -77,38 +77,38 @@ std::vector<Answer> Answers()
         {"status_with_blank_and_no_reason", Status("HTTP/1.1 200 ")},
         {"status_with_long_reason", Status("HTTP/1.1 200 " + QByteArray(3000, 'r'))},
         {"status_with_two_blanks", Status("HTTP/1.1  200 OK")},
-        {"status_of_two_digits", Status("HTTP/1.1 20 OK", kLength, kBody, RawAnswer::Close)},
-        {"status_of_four_digits", Status("HTTP/1.1 2000 OK", kLength, kBody, RawAnswer::Close)},
-        {"status_no_number", Status("HTTP/1.1 abc OK", kLength, kBody, RawAnswer::Close)},
-        {"status_negative", Status("HTTP/1.1 -20 OK", kLength, kBody, RawAnswer::Close)},
-        {"status_0", Status("HTTP/1.1 000 OK", kLength, kBody, RawAnswer::Close)},
+        {"status_of_two_digits", Status("HTTP/1.1 20 OK", kLength, kBody, RawReply::Close)},
+        {"status_of_four_digits", Status("HTTP/1.1 2000 OK", kLength, kBody, RawReply::Close)},
+        {"status_no_number", Status("HTTP/1.1 abc OK", kLength, kBody, RawReply::Close)},
+        {"status_negative", Status("HTTP/1.1 -20 OK", kLength, kBody, RawReply::Close)},
+        {"status_0", Status("HTTP/1.1 000 OK", kLength, kBody, RawReply::Close)},
         {"status_600", Status("HTTP/1.1 600 Other")},
         {"status_999", Status("HTTP/1.1 999 Other")},
-        {"http_1_0", Status("HTTP/1.0 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_1_0", Status("HTTP/1.0 200 OK", kLength, kBody, RawReply::Close)},
         {"http_1_0_kept_open", Status("HTTP/1.0 200 OK")},
-        {"http_1_0_until_the_end", Status("HTTP/1.0 200 OK", "", kBody, RawAnswer::Close)},
+        {"http_1_0_until_the_end", Status("HTTP/1.0 200 OK", "", kBody, RawReply::Close)},
         {"http_1_0_chunked",
-         Status("HTTP/1.0 200 OK", "Transfer-Encoding: chunked\r\n", kChunk + "0\r\n\r\n", RawAnswer::Close)},
+         Status("HTTP/1.0 200 OK", "Transfer-Encoding: chunked\r\n", kChunk + "0\r\n\r\n", RawReply::Close)},
         {"http_1_2", Status("HTTP/1.2 200 OK")},
-        {"http_2_0", Status("HTTP/2.0 200 OK", kLength, kBody, RawAnswer::Close)},
+        {"http_2_0", Status("HTTP/2.0 200 OK", kLength, kBody, RawReply::Close)},
         {"http_1_0_keep_alive", Status("HTTP/1.0 200 OK", "Connection: keep-alive\r\n" + kLength)},
-        {"http_0_9", Raw(kBody, RawAnswer::Close)},
-        {"http_0_9_with_a_status", Status("HTTP/0.9 200 OK", kLength, kBody, RawAnswer::Close)},
-        {"http_with_a_letter_for_the_major_version", Status("HTTP/x.1 200 OK", kLength, kBody, RawAnswer::Close)},
-        {"http_with_a_letter_for_the_minor_version", Status("HTTP/1.x 200 OK", kLength, kBody, RawAnswer::Close)},
-        {"http_without_a_dot", Status("HTTP/1-1 200 OK", kLength, kBody, RawAnswer::Close)},
-        {"http_without_a_blank", Status("HTTP/1.1x200 OK", kLength, kBody, RawAnswer::Close)},
-        {"http_in_small_letters", Status("http/1.1 200 OK", kLength, kBody, RawAnswer::Close)},
-        {"http_without_version", Status("HTTP 200 OK", kLength, kBody, RawAnswer::Close)},
-        {"other_protocol", Raw("220 mail ready\r\n\r\n", RawAnswer::Close)},
-        {"nothing", Raw("", RawAnswer::Close)},
-        {"nothing_but_an_empty_line", Raw("\r\n", RawAnswer::Close)},
+        {"http_0_9", Raw(kBody, RawReply::Close)},
+        {"http_0_9_with_a_status", Status("HTTP/0.9 200 OK", kLength, kBody, RawReply::Close)},
+        {"http_with_a_letter_for_the_major_version", Status("HTTP/x.1 200 OK", kLength, kBody, RawReply::Close)},
+        {"http_with_a_letter_for_the_minor_version", Status("HTTP/1.x 200 OK", kLength, kBody, RawReply::Close)},
+        {"http_without_a_dot", Status("HTTP/1-1 200 OK", kLength, kBody, RawReply::Close)},
+        {"http_without_a_blank", Status("HTTP/1.1x200 OK", kLength, kBody, RawReply::Close)},
+        {"http_in_small_letters", Status("http/1.1 200 OK", kLength, kBody, RawReply::Close)},
+        {"http_without_version", Status("HTTP 200 OK", kLength, kBody, RawReply::Close)},
+        {"other_protocol", Raw("220 mail ready\r\n\r\n", RawReply::Close)},
+        {"nothing", Raw("", RawReply::Close)},
+        {"nothing_but_an_empty_line", Raw("\r\n", RawReply::Close)},
         {"empty_line_before_the_status", Raw("\r\nHTTP/1.1 200 OK\r\n" + kLength + "\r\n" + kBody)},
         {"three_empty_lines_before_the_status", Raw("\r\n\r\n\r\nHTTP/1.1 200 OK\r\n" + kLength + "\r\n" + kBody)},
-        {"blanks_before_the_status", Raw("  HTTP/1.1 200 OK\r\n" + kLength + "\r\n" + kBody, RawAnswer::Close)},
+        {"blanks_before_the_status", Raw("  HTTP/1.1 200 OK\r\n" + kLength + "\r\n" + kBody, RawReply::Close)},
         {"line_feeds_alone", Raw("HTTP/1.1 200 OK\nContent-Length: 28\n\n" + body)},
         {"line_feeds_mixed", Raw("HTTP/1.1 200 OK\r\nContent-Length: 28\n\r\n" + body)},
-        {"carriage_returns_alone", Raw("HTTP/1.1 200 OK\rContent-Length: 28\r\r" + body, RawAnswer::Close)},
+        {"carriage_returns_alone", Raw("HTTP/1.1 200 OK\rContent-Length: 28\r\r" + body, RawReply::Close)},
         // Statuses with special rules
         {"100_before_200", Raw("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n" + kLength + "\r\n" + body)},
         {"100_with_headers_before_200",
@@ -117,7 +117,7 @@ std::vector<Answer> Answers()
          Raw("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 100 Continue\r\n\r\n"
              "HTTP/1.1 200 OK\r\n" +
              kLength + "\r\n" + body)},
-        {"100_and_the_end", Raw("HTTP/1.1 100 Continue\r\n\r\n", RawAnswer::Close)},
+        {"100_and_the_end", Raw("HTTP/1.1 100 Continue\r\n\r\n", RawReply::Close)},
         {"101", Raw("HTTP/1.1 101 Switching Protocols\r\nUpgrade: x\r\nConnection: Upgrade\r\n\r\n")},
         {"102_before_200", Raw("HTTP/1.1 102 Processing\r\n\r\nHTTP/1.1 200 OK\r\n" + kLength + "\r\n" + body)},
         {"103_before_200",
@@ -143,7 +143,7 @@ std::vector<Answer> Answers()
         {"401_bearer", Status("HTTP/1.1 401 Unauthorized", kLength + "WWW-Authenticate: Bearer\r\n")},
         {"401_ntlm", Status("HTTP/1.1 401 Unauthorized", kLength + "WWW-Authenticate: NTLM\r\n")},
         {"401_without_body", Status("HTTP/1.1 401 Unauthorized", "Content-Length: 0\r\n", "")},
-        {"401_cut", Status("HTTP/1.1 401 Unauthorized", "Content-Length: 100\r\n", kBody, RawAnswer::Close)},
+        {"401_cut", Status("HTTP/1.1 401 Unauthorized", "Content-Length: 100\r\n", kBody, RawReply::Close)},
         {"402", Status("HTTP/1.1 402 Payment Required")},
         {"403", Status("HTTP/1.1 403 Forbidden")},
         {"404", Status("HTTP/1.1 404 Not Found")},
@@ -153,7 +153,7 @@ std::vector<Answer> Answers()
         {"407_without_challenge", Status("HTTP/1.1 407 Proxy Authentication Required")},
         {"407_basic",
          Status("HTTP/1.1 407 Proxy Authentication Required", kLength + "Proxy-Authenticate: Basic realm=\"x\"\r\n")},
-        {"408", Status("HTTP/1.1 408 Request Timeout", kLength + "Connection: close\r\n", kBody, RawAnswer::Close)},
+        {"408", Status("HTTP/1.1 408 Request Timeout", kLength + "Connection: close\r\n", kBody, RawReply::Close)},
         {"409", Status("HTTP/1.1 409 Conflict")},
         {"410", Status("HTTP/1.1 410 Gone")},
         {"418", Status("HTTP/1.1 418 Teapot")},
@@ -196,7 +196,7 @@ std::vector<Answer> Answers()
                              "Last-Modified: Sat, 01 Jan 2022 00:00:00 GMT\r\n" +
                              kLength)},
         // Connection
-        {"connection_close", Ok("Connection: close\r\n" + kLength, kBody, RawAnswer::Close)},
+        {"connection_close", Ok("Connection: close\r\n" + kLength, kBody, RawReply::Close)},
         {"connection_close_kept_open", Ok("Connection: close\r\n" + kLength)},
         {"connection_keep_alive", Ok("Connection: Keep-Alive\r\nKeep-Alive: timeout=5, max=100\r\n" + kLength)},
         {"connection_odd", Ok("Connection: close, keep-alive, x\r\nConnection: TE\r\n" + kLength)},
@@ -205,25 +205,25 @@ std::vector<Answer> Answers()
         // Lengths
         {"length_0", Ok("Content-Length: 0\r\n", "")},
         {"length_of_less", Ok("Content-Length: 5\r\n")},
-        {"length_of_more", Ok("Content-Length: 50\r\n", kBody, RawAnswer::Close)},
-        {"length_of_more_reset", Ok("Content-Length: 50\r\n", kBody, RawAnswer::Reset)},
-        {"length_of_more_404", Status("HTTP/1.1 404 Not Found", "Content-Length: 50\r\n", kBody, RawAnswer::Close)},
-        {"length_negative", Ok("Content-Length: -5\r\n", kBody, RawAnswer::Close)},
-        {"length_no_number", Ok("Content-Length: all\r\n", kBody, RawAnswer::Close)},
-        {"length_empty", Ok("Content-Length:\r\n", kBody, RawAnswer::Close)},
-        {"length_with_plus", Ok("Content-Length: +28\r\n", kBody, RawAnswer::Close)},
-        {"length_with_more_behind", Ok("Content-Length: 28 bytes\r\n", kBody, RawAnswer::Close)},
-        {"length_hexadecimal", Ok("Content-Length: 0x1c\r\n", kBody, RawAnswer::Close)},
-        {"length_with_zeros", Ok("Content-Length: 00000000000000000000028\r\n", kBody, RawAnswer::Close)},
-        {"length_beyond_64_bits", Ok("Content-Length: 99999999999999999999\r\n", kBody, RawAnswer::Close)},
-        {"length_beyond_63_bits", Ok("Content-Length: 9223372036854775808\r\n", kBody, RawAnswer::Close)},
-        {"length_twice_the_same", Ok(kLength + kLength, kBody, RawAnswer::Close)},
-        {"length_twice_joined", Ok("Content-Length: 28, 28\r\n", kBody, RawAnswer::Close)},
-        {"length_twice_different", Ok("Content-Length: 28\r\nContent-Length: 5\r\n", kBody, RawAnswer::Close)},
-        {"without_length", Ok("", kBody, RawAnswer::Close)},
-        {"without_length_reset", Ok("", kBody, RawAnswer::Reset)},
-        {"without_length_and_body", Ok("", "", RawAnswer::Close)},
-        {"without_length_404", Status("HTTP/1.1 404 Not Found", "", kBody, RawAnswer::Close)},
+        {"length_of_more", Ok("Content-Length: 50\r\n", kBody, RawReply::Close)},
+        {"length_of_more_reset", Ok("Content-Length: 50\r\n", kBody, RawReply::Reset)},
+        {"length_of_more_404", Status("HTTP/1.1 404 Not Found", "Content-Length: 50\r\n", kBody, RawReply::Close)},
+        {"length_negative", Ok("Content-Length: -5\r\n", kBody, RawReply::Close)},
+        {"length_no_number", Ok("Content-Length: all\r\n", kBody, RawReply::Close)},
+        {"length_empty", Ok("Content-Length:\r\n", kBody, RawReply::Close)},
+        {"length_with_plus", Ok("Content-Length: +28\r\n", kBody, RawReply::Close)},
+        {"length_with_more_behind", Ok("Content-Length: 28 bytes\r\n", kBody, RawReply::Close)},
+        {"length_hexadecimal", Ok("Content-Length: 0x1c\r\n", kBody, RawReply::Close)},
+        {"length_with_zeros", Ok("Content-Length: 00000000000000000000028\r\n", kBody, RawReply::Close)},
+        {"length_beyond_64_bits", Ok("Content-Length: 99999999999999999999\r\n", kBody, RawReply::Close)},
+        {"length_beyond_63_bits", Ok("Content-Length: 9223372036854775808\r\n", kBody, RawReply::Close)},
+        {"length_twice_the_same", Ok(kLength + kLength, kBody, RawReply::Close)},
+        {"length_twice_joined", Ok("Content-Length: 28, 28\r\n", kBody, RawReply::Close)},
+        {"length_twice_different", Ok("Content-Length: 28\r\nContent-Length: 5\r\n", kBody, RawReply::Close)},
+        {"without_length", Ok("", kBody, RawReply::Close)},
+        {"without_length_reset", Ok("", kBody, RawReply::Reset)},
+        {"without_length_and_body", Ok("", "", RawReply::Close)},
+        {"without_length_404", Status("HTTP/1.1 404 Not Found", "", kBody, RawReply::Close)},
         // Chunks
         {"chunked", Chunked(kChunk + "0\r\n\r\n")},
         {"chunked_in_two", Chunked("5\r\n{\"cod\r\n17\r\ne\":1000,\"data\":{\"a\":1}}\r\n0\r\n\r\n")},
@@ -232,43 +232,43 @@ std::vector<Answer> Answers()
         {"chunked_size_with_zeros", Chunked("0000001c\r\n" + body + "\r\n000\r\n\r\n")},
         {"chunked_size_with_blanks", Chunked("1c  \r\n" + body + "\r\n0\r\n\r\n")},
         {"chunked_size_after_blank", Chunked(" 1c\r\n" + body + "\r\n0\r\n\r\n")},
-        {"chunked_size_with_0x", Chunked("0x1c\r\n" + body + "\r\n0\r\n\r\n", RawAnswer::Close)},
+        {"chunked_size_with_0x", Chunked("0x1c\r\n" + body + "\r\n0\r\n\r\n", RawReply::Close)},
         {"chunked_with_extension", Chunked("1c;name=value\r\n" + body + "\r\n0;last\r\n\r\n")},
-        {"chunked_with_trailer", Chunked(kChunk + "0\r\nX-Trailer: 1\r\n\r\n", RawAnswer::KeepOpen)},
-        {"chunked_with_trailer_of_length", Chunked(kChunk + "0\r\nContent-Length: 3\r\n\r\n", RawAnswer::KeepOpen)},
-        {"chunked_beside_a_length", Chunked(kChunk + "0\r\n\r\n", RawAnswer::KeepOpen, "Content-Length: 500\r\n")},
-        {"chunked_with_line_feeds", Chunked("1c\n" + body + "\n0\n\n", RawAnswer::Close)},
+        {"chunked_with_trailer", Chunked(kChunk + "0\r\nX-Trailer: 1\r\n\r\n", RawReply::KeepOpen)},
+        {"chunked_with_trailer_of_length", Chunked(kChunk + "0\r\nContent-Length: 3\r\n\r\n", RawReply::KeepOpen)},
+        {"chunked_beside_a_length", Chunked(kChunk + "0\r\n\r\n", RawReply::KeepOpen, "Content-Length: 500\r\n")},
+        {"chunked_with_line_feeds", Chunked("1c\n" + body + "\n0\n\n", RawReply::Close)},
         {"chunked_empty", Chunked("0\r\n\r\n")},
-        {"chunked_last_line_missing", Chunked(kChunk + "0\r\n", RawAnswer::Close)},
-        {"chunked_last_missing", Chunked(kChunk, RawAnswer::Close)},
-        {"chunked_cut", Chunked("ff\r\n{\"code\":1000,", RawAnswer::Close)},
-        {"chunked_cut_reset", Chunked("ff\r\n{\"code\":1000,", RawAnswer::Reset)},
-        {"chunked_cut_in_the_size", Chunked("1", RawAnswer::Close)},
+        {"chunked_last_line_missing", Chunked(kChunk + "0\r\n", RawReply::Close)},
+        {"chunked_last_missing", Chunked(kChunk, RawReply::Close)},
+        {"chunked_cut", Chunked("ff\r\n{\"code\":1000,", RawReply::Close)},
+        {"chunked_cut_reset", Chunked("ff\r\n{\"code\":1000,", RawReply::Reset)},
+        {"chunked_cut_in_the_size", Chunked("1", RawReply::Close)},
         {"chunked_cut_404",
-         Status("HTTP/1.1 404 Not Found", "Transfer-Encoding: chunked\r\n", "ff\r\n{\"code\":1000,", RawAnswer::Close)},
+         Status("HTTP/1.1 404 Not Found", "Transfer-Encoding: chunked\r\n", "ff\r\n{\"code\":1000,", RawReply::Close)},
         {"chunked_last_missing_404",
-         Status("HTTP/1.1 404 Not Found", "Transfer-Encoding: chunked\r\n", kChunk, RawAnswer::Close)},
-        {"chunked_size_no_number", Chunked("xyz\r\n" + body + "\r\n0\r\n\r\n", RawAnswer::Close)},
-        {"chunked_size_negative", Chunked("-5\r\n" + body + "\r\n0\r\n\r\n", RawAnswer::Close)},
-        {"chunked_size_beyond_64_bits", Chunked("fffffffffffffffff\r\n" + body + "\r\n0\r\n\r\n", RawAnswer::Close)},
-        {"chunked_size_too_small", Chunked("5\r\n" + body + "\r\n0\r\n\r\n", RawAnswer::Close)},
+         Status("HTTP/1.1 404 Not Found", "Transfer-Encoding: chunked\r\n", kChunk, RawReply::Close)},
+        {"chunked_size_no_number", Chunked("xyz\r\n" + body + "\r\n0\r\n\r\n", RawReply::Close)},
+        {"chunked_size_negative", Chunked("-5\r\n" + body + "\r\n0\r\n\r\n", RawReply::Close)},
+        {"chunked_size_beyond_64_bits", Chunked("fffffffffffffffff\r\n" + body + "\r\n0\r\n\r\n", RawReply::Close)},
+        {"chunked_size_too_small", Chunked("5\r\n" + body + "\r\n0\r\n\r\n", RawReply::Close)},
         {"chunked_and_more_behind", Chunked(kChunk + "0\r\n\r\nHTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n{}")},
         {"transfer_identity", Ok("Transfer-Encoding: identity\r\n" + kLength)},
         {"transfer_gzip_chunked", Ok("Transfer-Encoding: gzip, chunked\r\n", ChunkOf(gzip) + "0\r\n\r\n")},
         {"transfer_unknown", Ok("Transfer-Encoding: x-other\r\n" + kLength)},
-        {"transfer_unknown_without_length", Ok("Transfer-Encoding: x-other\r\n", kBody, RawAnswer::Close)},
+        {"transfer_unknown_without_length", Ok("Transfer-Encoding: x-other\r\n", kBody, RawReply::Close)},
         // Encodings
         {"gzip", Encoded("gzip", gzip)},
         {"gzip_in_capitals", Encoded("GZIP", gzip)},
         {"x_gzip", Encoded("x-gzip", gzip)},
         {"gzip_twice", Encoded("gzip, gzip", Deflated(gzip))},
-        {"gzip_chunked", Chunked(ChunkOf(gzip.left(20)) + ChunkOf(gzip.mid(20)) + "0\r\n\r\n", RawAnswer::KeepOpen,
+        {"gzip_chunked", Chunked(ChunkOf(gzip.left(20)) + ChunkOf(gzip.mid(20)) + "0\r\n\r\n", RawReply::KeepOpen,
                                  "Content-Encoding: gzip\r\n")},
         {"gzip_after_its_first_byte", InTwo(Encoded("gzip", gzip), gzip.size() - 1)},
         {"gzip_of_one_byte", Encoded("gzip", gzip.left(1))},
         {"gzip_and_more_behind_in_a_chunk",
-         Chunked(ChunkOf(gzip) + ChunkOf("rest") + "0\r\n\r\n", RawAnswer::KeepOpen, "Content-Encoding: gzip\r\n")},
-        {"gzip_until_the_end", Ok("Content-Encoding: gzip\r\n", gzip, RawAnswer::Close)},
+         Chunked(ChunkOf(gzip) + ChunkOf("rest") + "0\r\n\r\n", RawReply::KeepOpen, "Content-Encoding: gzip\r\n")},
+        {"gzip_until_the_end", Ok("Content-Encoding: gzip\r\n", gzip, RawReply::Close)},
         {"gzip_of_nothing", Encoded("gzip", Deflated(""))},
         {"gzip_without_a_byte", Encoded("gzip", "")},
         {"gzip_and_more_behind", Encoded("gzip", gzip + "rest")},
@@ -277,11 +277,11 @@ std::vector<Answer> Answers()
         {"gzip_cut_before_the_sum", Encoded("gzip", gzip.left(gzip.size() - 8))},
         {"gzip_cut_by_the_end",
          Ok("Content-Encoding: gzip\r\nContent-Length: " + QByteArray::number(gzip.size()) + "\r\n", gzip.left(20),
-            RawAnswer::Close)},
+            RawReply::Close)},
         {"gzip_cut_by_the_end_404",
          Status("HTTP/1.1 404 Not Found",
                 "Content-Encoding: gzip\r\nContent-Length: " + QByteArray::number(gzip.size()) + "\r\n", gzip.left(20),
-                RawAnswer::Close)},
+                RawReply::Close)},
         {"gzip_404",
          Status("HTTP/1.1 404 Not Found",
                 "Content-Encoding: gzip\r\nContent-Length: " + QByteArray::number(gzip.size()) + "\r\n", gzip)},
@@ -302,13 +302,13 @@ std::vector<Answer> Answers()
         {"encoding_br", Encoded("br", body)},
         {"encoding_empty", Encoded("", body)},
         // Ends within the head
-        {"cut_in_the_status", Raw("HTTP/1.1 2", RawAnswer::Close)},
-        {"cut_after_the_status", Raw("HTTP/1.1 200 OK\r\n", RawAnswer::Close)},
-        {"cut_in_a_header", Raw("HTTP/1.1 200 OK\r\nContent-Le", RawAnswer::Close)},
-        {"cut_before_the_empty_line", Raw("HTTP/1.1 200 OK\r\n" + kLength, RawAnswer::Close)},
-        {"reset_before_a_byte", Raw("", RawAnswer::Reset)},
-        {"reset_in_the_head", Raw("HTTP/1.1 200 OK\r\nContent-Le", RawAnswer::Reset)},
-        {"reset_after_the_answer", Ok(kLength, kBody, RawAnswer::Reset)},
+        {"cut_in_the_status", Raw("HTTP/1.1 2", RawReply::Close)},
+        {"cut_after_the_status", Raw("HTTP/1.1 200 OK\r\n", RawReply::Close)},
+        {"cut_in_a_header", Raw("HTTP/1.1 200 OK\r\nContent-Le", RawReply::Close)},
+        {"cut_before_the_empty_line", Raw("HTTP/1.1 200 OK\r\n" + kLength, RawReply::Close)},
+        {"reset_before_a_byte", Raw("", RawReply::Reset)},
+        {"reset_in_the_head", Raw("HTTP/1.1 200 OK\r\nContent-Le", RawReply::Reset)},
+        {"reset_after_the_reply", Ok(kLength, kBody, RawReply::Reset)},
     };
 }
 

@@ -12,7 +12,7 @@ using namespace testing_support;
 namespace {
 
 /// What a server sends first, and what it then repeats.
-struct Endless {
+struct EndlessSource {
     const char* name;
     QByteArray first;
     QByteArray repeated;
@@ -20,7 +20,7 @@ struct Endless {
 
 const QByteArray kOk = "HTTP/1.1 200 OK\r\n";
 
-const std::vector<Endless> kEndless = {
+const std::vector<EndlessSource> kEndless = {
     {"status_line", "HTTP/1.1 200 ", "reason"},
     {"header_line", kOk + "X-A: ", "value"},
     {"header_name", kOk, "name"},
@@ -36,7 +36,7 @@ const std::vector<Endless> kEndless = {
 
 struct Row {
     std::string name;
-    Endless endless;
+    EndlessSource source;
     RawServer::Scheme scheme;
     int perSecond;
     int calls;
@@ -50,9 +50,9 @@ void PrintTo(const Row& row, std::ostream* pStream)
 std::vector<Row> Rows(int nPerSecond, int nCalls)
 {
     std::vector<Row> rows;
-    for (const Endless& endless : kEndless) {
+    for (const EndlessSource& source : kEndless) {
         for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-            rows.push_back({endless.name + std::string(scheme == RawServer::Http ? "_http" : "_https"), endless, scheme,
+            rows.push_back({source.name + std::string(scheme == RawServer::Http ? "_http" : "_https"), source, scheme,
                             nPerSecond, nCalls});
         }
     }
@@ -65,9 +65,9 @@ int Threads()
     return int(std::distance(begin(threads), end(threads)));
 }
 
-class EndlessAnswer : public TransportHost, public testing::WithParamInterface<Row> {};
+class EndlessReply : public TransportHost, public testing::WithParamInterface<Row> {};
 
-TEST_P(EndlessAnswer, EndsByTheTimeOutAndReleasesEverything)
+TEST_P(EndlessReply, EndsByTheTimeOutAndReleasesEverything)
 {
     const Row& row = GetParam();
     WarmUp();
@@ -79,10 +79,10 @@ TEST_P(EndlessAnswer, EndsByTheTimeOutAndReleasesEverything)
     {
         const RawServer server(
             [&row](const RawRequest&) {
-                RawAnswer answer{row.endless.first};
-                answer.moreBytes = row.endless.repeated;
-                answer.endlessPerSecond = row.perSecond;
-                return answer;
+                RawReply reply{row.source.first};
+                reply.moreBytes = row.source.repeated;
+                reply.endlessPerSecond = row.perSecond;
+                return reply;
             },
             row.scheme);
         Use(server, row.scheme);
@@ -110,9 +110,9 @@ TEST_P(EndlessAnswer, EndsByTheTimeOutAndReleasesEverything)
 }
 
 // As fast as possible, and slowly enough for the client to read everything.
-INSTANTIATE_TEST_SUITE_P(Fast, EndlessAnswer, testing::ValuesIn(Rows(500'000'000, 1)), RowName());
-INSTANTIATE_TEST_SUITE_P(Slow, EndlessAnswer, testing::ValuesIn(Rows(2'000'000, 1)), RowName());
-INSTANTIATE_TEST_SUITE_P(TenTimes, EndlessAnswer,
+INSTANTIATE_TEST_SUITE_P(Fast, EndlessReply, testing::ValuesIn(Rows(500'000'000, 1)), RowName());
+INSTANTIATE_TEST_SUITE_P(Slow, EndlessReply, testing::ValuesIn(Rows(2'000'000, 1)), RowName());
+INSTANTIATE_TEST_SUITE_P(TenTimes, EndlessReply,
                          testing::Values(Row{"tiny_chunks_http", kEndless[6], RawServer::Http, 2'000'000, 10},
                                          Row{"header_line_https", kEndless[1], RawServer::Https, 2'000'000, 10}),
                          RowName());

@@ -7,12 +7,12 @@
 namespace testing_support {
 
 /// The bytes of a reply, valid or not.
-struct Answer {
+struct SampleReply {
     const char* name;
-    RawAnswer answer;
+    RawReply reply;
 };
 
 /// Replies of every kind that a server may send.
-std::vector<Answer> Answers();
+std::vector<SampleReply> SampleReplies();
 
 }  // namespace testing_support
