@@ -143,10 +143,10 @@ constexpr const char* kCorrupt = "error 399 Data corrupted";
 
 constexpr const char* kNoFinalStatus =
     "after an invalid status below 200 the call and its connection end, because what follows is unknown";
-constexpr const char* kFirstPlace = "a repeated header is listed at its first position, by Qt at its last";
-constexpr const char* kSeesTheEnd = "a truncated reply is an error, with Qt only if it notices the end in time";
+constexpr const char* kHeaderPosition = "a repeated header is listed at its first position, by Qt at its last";
+constexpr const char* kTruncated = "a truncated reply is an error, with Qt only if it notices the end in time";
 constexpr const char* kKeepsLength = "Qt removes the length of a compressed body";
-constexpr const char* kNotWhole = "an incomplete compressed body is an error, with Qt only a corrupt one";
+constexpr const char* kIncompleteBody = "an incomplete compressed body is an error, with Qt only a corrupt one";
 
 const std::map<std::string, Difference>& Differences()
 {
@@ -164,9 +164,9 @@ const std::map<std::string, Difference>& Differences()
          {R"(200 [: one] [Content-Length: 28] {"code":1000,"data":{"a":1}})",
           "Qt omits the header, which no caller reads"}},
         {"header_twice",
-         {R"(200 [X-A: one, two] [X-B: b] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kFirstPlace}},
+         {R"(200 [X-A: one, two] [X-B: b] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kHeaderPosition}},
         {"header_twice_of_different_case",
-         {R"(200 [X-A: one, two] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kFirstPlace}},
+         {R"(200 [X-A: one, two] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kHeaderPosition}},
         {"header_twice_one_empty",
          {R"(200 [X-A: , two] [Content-Length: 28] {"code":1000,"data":{"a":1}})",
           "Qt drops an empty value before another one"}},
@@ -176,39 +176,39 @@ const std::map<std::string, Difference>& Differences()
         {"length_beyond_63_bits",
          {R"(200 [Content-Length: 9223372036854775808] {"code":1000,"data":{"a":1}})",
           "a length that is too large is ignored, by Qt only if the reply and its end arrive together", false}},
-        {"401_cut", {kClosed, kSeesTheEnd, false}},
-        {"length_of_more_404", {kClosed, kSeesTheEnd, false}},
-        {"chunked_last_line_missing", {kClosed, kSeesTheEnd, false}},
-        {"chunked_last_missing", {kClosed, kSeesTheEnd, false}},
-        {"chunked_cut", {kClosed, kSeesTheEnd, false}},
-        {"chunked_cut_reset", {kClosed, kSeesTheEnd, false}},
-        {"chunked_cut_in_the_size", {kClosed, kSeesTheEnd, false}},
-        {"chunked_cut_404", {kClosed, kSeesTheEnd, false}},
-        {"chunked_last_missing_404", {kClosed, kSeesTheEnd, false}},
+        {"401_truncated", {kClosed, kTruncated, false}},
+        {"length_too_large_404", {kClosed, kTruncated, false}},
+        {"chunked_last_line_missing", {kClosed, kTruncated, false}},
+        {"chunked_last_missing", {kClosed, kTruncated, false}},
+        {"chunked_truncated", {kClosed, kTruncated, false}},
+        {"chunked_truncated_reset", {kClosed, kTruncated, false}},
+        {"chunked_truncated_in_the_size", {kClosed, kTruncated, false}},
+        {"chunked_truncated_404", {kClosed, kTruncated, false}},
+        {"chunked_last_missing_404", {kClosed, kTruncated, false}},
         {"gzip", {R"(200 [Content-Encoding: gzip] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
         {"gzip_after_its_first_byte",
          {R"(200 [Content-Encoding: gzip] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
         {"gzip_in_capitals",
          {R"(200 [Content-Encoding: GZIP] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
-        {"gzip_of_nothing", {R"(200 [Content-Encoding: gzip] [Content-Length: 20] )", kKeepsLength}},
-        {"gzip_without_a_byte", {R"(200 [Content-Encoding: gzip] [Content-Length: 0] )", kKeepsLength}},
-        {"gzip_and_more_behind",
+        {"gzip_of_empty_body", {R"(200 [Content-Encoding: gzip] [Content-Length: 20] )", kKeepsLength}},
+        {"gzip_without_bytes", {R"(200 [Content-Encoding: gzip] [Content-Length: 0] )", kKeepsLength}},
+        {"gzip_with_trailing_bytes",
          {R"(200 [Content-Encoding: gzip] [Content-Length: 50] {"code":1000,"data":{"a":1}})", kKeepsLength}},
         {"gzip_of_two_members", {R"(200 [Content-Encoding: gzip] [Content-Length: 66] {"code":10)", kKeepsLength}},
         {"gzip_404",
          {R"(404 [Content-Encoding: gzip] [Content-Length: 46] {"code":1000,"data":{"a":1}})", kKeepsLength}},
         {"deflate",
          {R"(200 [Content-Encoding: deflate] [Content-Length: 34] {"code":1000,"data":{"a":1}})", kKeepsLength}},
-        {"deflate_bare",
+        {"deflate_without_wrapper",
          {R"(200 [Content-Encoding: deflate] [Content-Length: 28] {"code":1000,"data":{"a":1}})", kKeepsLength}},
-        {"gzip_of_one_byte", {kCorrupt, kNotWhole}},
-        {"gzip_cut_within_its_length", {kCorrupt, kNotWhole}},
-        {"gzip_cut_before_the_sum", {kCorrupt, kNotWhole}},
-        {"gzip_of_something_else", {kCorrupt, kNotWhole}},
-        {"deflate_of_something_else", {kCorrupt, kNotWhole}},
-        {"deflate_cut", {kCorrupt, kNotWhole}},
-        {"gzip_cut_by_the_end", {kClosed, "Qt removes the length, so it does not notice the missing bytes"}},
-        {"gzip_cut_by_the_end_404", {kClosed, "Qt removes the length, so it does not notice the missing bytes"}},
+        {"gzip_of_one_byte", {kCorrupt, kIncompleteBody}},
+        {"gzip_truncated_within_its_length", {kCorrupt, kIncompleteBody}},
+        {"gzip_truncated_before_the_checksum", {kCorrupt, kIncompleteBody}},
+        {"gzip_of_something_else", {kCorrupt, kIncompleteBody}},
+        {"deflate_of_something_else", {kCorrupt, kIncompleteBody}},
+        {"deflate_truncated", {kCorrupt, kIncompleteBody}},
+        {"gzip_truncated_by_the_end", {kClosed, "Qt removes the length, so it does not notice the missing bytes"}},
+        {"gzip_truncated_by_the_end_404", {kClosed, "Qt removes the length, so it does not notice the missing bytes"}},
     };
     return differences;
 }
