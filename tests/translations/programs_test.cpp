@@ -94,7 +94,7 @@ protected:
             variables[QLatin1String(variable)] = QString();
         }
         variables[QLatin1String(GetParam().variable)] = QLatin1String(GetParam().value);
-        Ended ended = RunProgram(QString::fromUtf8(program), arguments, variables);
+        ProgramResult ended = RunProgram(QString::fromUtf8(program), arguments, variables);
         // Recent versions of Qt print a note where the locale is not installed.
         static const std::regex kNoteOfQt("^Detected locale [^]*?manual\nfor more information\\.\n");
         ended.err = std::regex_replace(ended.err, kNoteOfQt, "");

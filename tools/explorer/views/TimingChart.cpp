@@ -53,7 +53,7 @@ TimingChart::TimingChart(QWidget* pParent)
     constexpr double kPoint = 8;
     for (QScatterSeries* pSeries : {m_pSucceeded, m_pFailed}) {
         pSeries->setMarkerSize(kPoint);
-        connect(pSeries, &QScatterSeries::hovered, this, &TimingChart::Tell);
+        connect(pSeries, &QScatterSeries::hovered, this, &TimingChart::ShowDetails);
     }
     m_pFailed->setMarkerShape(QScatterSeries::MarkerShapeRectangle);  // distinguishable without colour
 
@@ -156,7 +156,7 @@ void TimingChart::AddSeries(QAbstractSeries* pSeries, const QString& name)
     pSeries->attachAxis(m_pTimes);
 }
 
-void TimingChart::Tell(const QPointF& point, bool entered)
+void TimingChart::ShowDetails(const QPointF& point, bool entered)
 {
     const int index = int(std::lround(point.x())) - 1;
     if (!entered || index < 0 || index >= int(m_calls.size())) {

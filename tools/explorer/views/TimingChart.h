@@ -40,7 +40,7 @@ private:
     void Draw();
     void Colour();
     void AddSeries(QAbstractSeries* pSeries, const QString& name);
-    void Tell(const QPointF& point, bool entered);
+    void ShowDetails(const QPointF& point, bool entered);
     [[nodiscard]] std::vector<double> Times() const;
 
     std::vector<Call> m_calls;
