@@ -85,14 +85,14 @@ ResourceUsage ResourceUsage::Now()
     return {ResidentKiB(), Descriptors(), Objects()};
 }
 
-void Tally::Count(const FinishedCall& made)
+void Tally::Count(const FinishedCall& call)
 {
     ++m_calls;
-    m_withDialog += made.withDialog ? 1 : 0;
-    m_nested += made.depth > 1 ? 1 : 0;
-    ++m_byFamily[made.family];
-    ++m_byCall[made.call];
-    ++m_byFault[made.fault][{made.result, made.code}];
+    m_withDialog += call.withDialog ? 1 : 0;
+    m_nested += call.depth > 1 ? 1 : 0;
+    ++m_byFamily[call.family];
+    ++m_byCall[call.call];
+    ++m_byFault[call.fault][{call.result, call.code}];
 }
 
 void Tally::Fail(const std::string& what)
