@@ -1,5 +1,6 @@
 # apimodule_test(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>])
 # Adds a test program and registers it with ctest under its name. It runs without a window server by default.
+# A test of a minute or more has a COST, so that a first run does not end with it alone.
 find_package(GTest REQUIRED)
 include(GoogleTest)
 set(APIMODULE_TEST_ENVIRONMENT
