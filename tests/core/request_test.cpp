@@ -6,6 +6,7 @@
 #include <QTimeZone>
 
 #include <stdexcept>
+#include <utility>
 
 using namespace testing_support;
 using APIModule::CAPIModule;
@@ -265,6 +266,12 @@ TEST_F(Request, SendsItsHeaders)
     EXPECT_EQ(full.Value("X-Subject-Token"), "");
     EXPECT_EQ(full.Value("Compress-Type"), "1");
     EXPECT_EQ(full.Value("X-Subject-Sequence"), "41");
+    QByteArrayList names;
+    for (const auto& header : std::as_const(full.headers)) {
+        names += header.first;
+    }
+    EXPECT_EQ(names.join(' '), "Host Accept-Language Time-Zone Content-Type X-Subject-Token Compress-Type "
+                               "X-Subject-Sequence Connection Accept-Encoding User-Agent");
 }
 
 /// A URL that is refused before anything is sent, and its form in the log line.

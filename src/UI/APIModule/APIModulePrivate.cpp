@@ -405,19 +405,27 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
     if (m_strTimeZoneId.empty()) {
         m_strTimeZoneId = QTimeZone::systemTimeZoneId().toStdString();
     }
+    http::HeaderList headers;
+    const auto setHeader = [&headers](const QByteArray& name, const QByteArray& value) {
+        headers.erase(std::remove_if(headers.begin(), headers.end(),
+                                     [&name](const auto& header) { return header.first == name; }),
+                      headers.end());
+        headers.append({name, value});
+    };
     // The value below replaces this one. The interface lists both in this order, so both are set.
-    request.setRawHeader("Content-Type", "keep-alive");
-    request.setRawHeader("Accept-Language", Bytes(m_strLanguage));
-    request.setRawHeader("Time-Zone", Bytes(m_strTimeZoneId));
-    request.setRawHeader("Content-Type", "application/json;charset=UTF-8");
-    request.setRawHeader("X-Subject-Token", Bytes(param.strToken));
+    setHeader("Content-Type", "keep-alive");
+    setHeader("Accept-Language", Bytes(m_strLanguage));
+    setHeader("Time-Zone", Bytes(m_strTimeZoneId));
+    setHeader("Content-Type", "application/json;charset=UTF-8");
+    setHeader("X-Subject-Token", Bytes(param.strToken));
     if (param.bCompress) {
-        request.setRawHeader("Compress-Type", "1");
+        setHeader("Compress-Type", "1");
     }
     if (!param.strSequence.empty()) {
-        request.setRawHeader("X-Subject-Sequence", Bytes(param.strSequence));
+        setHeader("X-Subject-Sequence", Bytes(param.strSequence));
     }
 
+    request.setAttribute(http::kHeadersAttribute, QVariant::fromValue(headers));
     request.setAttribute(kBodyAttribute, Bytes(param.strBody));
     request.setAttribute(kMethodAttribute, QVariant::fromValue(param.eMethod));
     request.setAttribute(kTimeoutAttribute, param.nTimeout);

@@ -41,21 +41,6 @@ QByteArray HostOf(const QUrl& url)
     return text;
 }
 
-/// Qt stores the names of headers in lower case from 6.8 on. Requests are the same with every version.
-QByteArray WireName(QByteArray name)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    bool bWordBegins = true;
-    for (char& character : name) {
-        if (bWordBegins && character >= 'a' && character <= 'z') {
-            character = char(character - 'a' + 'A');
-        }
-        bWordBegins = character == '-';
-    }
-#endif
-    return name;
-}
-
 }  // namespace
 
 Reply::Reply(AccessManager& manager, QNetworkAccessManager::Operation operation, const QNetworkRequest& request,
@@ -97,9 +82,9 @@ QByteArray Reply::Bytes(const QNetworkProxy* pProxy) const
     };
     bytes.append(m_verb).append(' ').append(url.toEncoded(format)).append(" HTTP/1.1\r\n");
     add("Host", HostOf(url) + ':' + QByteArray::number(url.port()));
-    const QList<QByteArray> names = request.rawHeaderList();
-    for (const QByteArray& name : names) {
-        add(WireName(name).constData(), request.rawHeader(name));
+    const auto headers = request.attribute(kHeadersAttribute).value<HeaderList>();
+    for (const auto& [name, value] : headers) {
+        add(name.constData(), value);
     }
     if (m_bHasBody) {
         add("Content-Length", QByteArray::number(m_sentBody.size()));

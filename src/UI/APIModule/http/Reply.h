@@ -19,6 +19,13 @@ namespace APIModule::http {
 class AccessManager;
 class ReplyReader;
 
+/// Names and values.
+using HeaderList = QList<QPair<QByteArray, QByteArray>>;
+
+/// The headers of a request, as a HeaderList. They are not its raw headers, because Qt changes those from 6.8 on: it
+/// stores names in lower case, trims values, and drops values with control characters.
+inline constexpr auto kHeadersAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 104);
+
 /// A request and its outcome: a complete HTTP reply, with the attribute HttpStatusCodeAttribute, or an error. The
 /// signal finished() is emitted from the event loop, never inside a signal of a socket, whose receivers must not run an
 /// event loop.
@@ -40,7 +47,7 @@ public:
     /// Takes the complete body, which can then no longer be read.
     QByteArray TakeBody() { return std::exchange(m_body, QByteArray()); }
     /// Repeated headers are joined.
-    const QList<QPair<QByteArray, QByteArray>>& Headers() const { return m_headers; }
+    const HeaderList& Headers() const { return m_headers; }
 
     /// The bytes of the request.
     /// @param pProxy the HTTP proxy that the request is sent to, null without one
@@ -102,7 +109,7 @@ private:
     std::optional<std::chrono::steady_clock::time_point> m_firstByte;
     QByteArray m_body;
     qint64 m_nRead = 0;
-    QList<QPair<QByteArray, QByteArray>> m_headers;
+    HeaderList m_headers;
     std::optional<UnknownServer> m_unknownServer;
 };
 
