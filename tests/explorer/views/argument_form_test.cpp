@@ -1,5 +1,4 @@
 // The form of a call's arguments, as a user fills it in.
-#include "support/Screenshots.h"
 #include "support/ViewTest.h"
 
 #include <explorer/views/ArgumentForm.h>
@@ -7,6 +6,8 @@
 #include <explorer/views/NumberBox.h>
 
 #include <catalogue/Call.h>
+
+#include <support/Rows.h>
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -23,6 +24,8 @@
 using explorer::ArgumentForm;
 using explorer::NumberBox;
 using nlohmann::json;
+using testing_support::RowName;
+using view_test::Child;
 
 namespace {
 
@@ -31,13 +34,10 @@ const catalogue::Call& Call(const char* name)
     return *catalogue::FindCall(name);
 }
 
-template <typename Widget>
-Widget& Child(const QWidget& form, const char* name, int index = 0)
-{
-    const QList<Widget*> found = form.findChildren<Widget*>(QString::fromLatin1(name));
-    Q_ASSERT(index < found.size());
-    return *found[index];
-}
+class ArgumentFormTest : public testing::Test {
+protected:
+    ArgumentForm form;
+};
 
 /// Replaces the text of a field by typing.
 void Type(QWidget& field, const char* text)
@@ -63,45 +63,6 @@ QString Problem(const ArgumentForm& form)
     return problem.isVisibleTo(&form) ? problem.text() : QString();
 }
 
-}  // namespace
-
-class ArgumentFormTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void IsInvalidWithoutCall();
-    void IsValidForCallWithoutArguments();
-    void StartsWithDefaultValuesForEveryCall();
-    void ReturnsTheArgumentsThatWereSet();
-    void TypedValuesBecomeArguments();
-    void NumberBoxValidatesTypedText_data();
-    void NumberBoxValidatesTypedText();
-    void NumberBoxStepsWithinItsRange();
-    void UnfocusedNumberBoxIgnoresTheWheel();
-    void ListElementsCanBeAddedRemovedAndMoved();
-    void TabKeyFollowsScreenOrder();
-    void LabelsHaveTheirFieldsAsBuddies();
-    void LabelToolTipsShowDescriptions();
-    void ShowsLimitsAndExamples();
-    void IsInvalidWhenServerWouldRefuseValue_data();
-    void IsInvalidWhenServerWouldRefuseValue();
-    void NamesRefusedValueInJson();
-    void CompletesKnownValues();
-    void ReportsValuesThatWereNotEntered();
-    void NewElementIsNotEnteredUntilOneOfItsFieldsIs();
-    void FormsFitIntoNarrowPane();
-    void PastesCopiedArguments();
-    void InvalidPasteShowsReasonAndChangesNothing_data();
-    void InvalidPasteShowsReasonAndChangesNothing();
-    void IgnoresArgumentsOfTheWrongType();
-    void JsonViewShowsAndChangesArguments();
-    void KeepsInvalidJsonAsTyped();
-    void EmitsChangedWhenInputChanges();
-    void Screenshots();
-};
-
-namespace {
-
 constexpr const char* kGroup = R"({"groupId": "7", "group": {"groupName": "Night", "memo": "a \"b\""}})";
 constexpr const char* kQuickCommand = R"({"command": {"id": "", "quickCommandName": "Open the gate",
     "enableShortcutKeys": true, "shortcutKeys": "Ctrl+1", "executeMode": 1, "remark": "",
@@ -109,40 +70,33 @@ constexpr const char* kQuickCommand = R"({"command": {"id": "", "quickCommandNam
                  {"method": 2, "url": "http://10.0.0.2/light", "body": "{\"on\": 1}", "seq": "2"},
                  {"method": 0, "url": "http://10.0.0.3/log", "body": "", "seq": "3"}]}})";
 
-}  // namespace
-
-void ArgumentFormTest::IsInvalidWithoutCall()
+TEST_F(ArgumentFormTest, IsInvalidWithoutCall)
 {
-    const ArgumentForm form;
-    QVERIFY(!form.IsValid());
-    QVERIFY(form.Arguments().isEmpty());
-    QVERIFY(!Child<QPushButton>(form, "copyArguments").isEnabled());
-    QVERIFY(!Child<QPushButton>(form, "pasteArguments").isEnabled());
+    EXPECT_FALSE(form.IsValid());
+    EXPECT_TRUE(form.Arguments().isEmpty());
+    EXPECT_FALSE(Child<QPushButton>(form, "copyArguments").isEnabled());
+    EXPECT_FALSE(Child<QPushButton>(form, "pasteArguments").isEnabled());
 }
 
-void ArgumentFormTest::IsValidForCallWithoutArguments()
+TEST_F(ArgumentFormTest, IsValidForCallWithoutArguments)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.GetTimeSyncConfig"));
-    QVERIFY(form.IsValid());
-    QVERIFY(form.Arguments().isEmpty());
+    EXPECT_TRUE(form.IsValid());
+    EXPECT_TRUE(form.Arguments().isEmpty());
 }
 
-void ArgumentFormTest::StartsWithDefaultValuesForEveryCall()
+TEST_F(ArgumentFormTest, StartsWithDefaultValuesForEveryCall)
 {
-    ArgumentForm form;
     for (const catalogue::Call& call : catalogue::Calls()) {
         form.SetCall(call);
-        QVERIFY2(form.IsValid(), call.name.c_str());
+        EXPECT_TRUE(form.IsValid()) << call.name;
         json fresh = json::object();
         for (const catalogue::Argument& argument : call.arguments) {
             fresh[std::string(argument.name)] = catalogue::Value(*argument.type).ToJson();
         }
-        QCOMPARE(ArgumentsOf(form), fresh);
+        EXPECT_EQ(ArgumentsOf(form), fresh);
     }
 }
-
-namespace {
 
 /// A value of the type that differs from a default value in every field. Lists have two elements.
 json Distinct(const catalogue::Type& type, int& next)
@@ -168,11 +122,8 @@ json Distinct(const catalogue::Type& type, int& next)
     }
 }
 
-}  // namespace
-
-void ArgumentFormTest::ReturnsTheArgumentsThatWereSet()
+TEST_F(ArgumentFormTest, ReturnsTheArgumentsThatWereSet)
 {
-    ArgumentForm form;
     int next = 0;
     for (const catalogue::Call& call : catalogue::Calls()) {
         json arguments = json::object();
@@ -181,137 +132,130 @@ void ArgumentFormTest::ReturnsTheArgumentsThatWereSet()
         }
         form.SetCall(call);
         form.SetArguments(explorer::ToQt(arguments));
-        QVERIFY2(form.IsValid(), call.name.c_str());
-        QCOMPARE(ArgumentsOf(form), arguments);
+        EXPECT_TRUE(form.IsValid()) << call.name;
+        EXPECT_EQ(ArgumentsOf(form), arguments);
     }
 }
 
-void ArgumentFormTest::TypedValuesBecomeArguments()
+TEST_F(ArgumentFormTest, TypedValuesBecomeArguments)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.SetTimeSyncConfig"));
     Child<QCheckBox>(form, "enableNtp").click();
     Type(Child<QLineEdit>(form, "startTime"), "02:00:00");
     Type(Child<NumberBox>(form, "interval"), "-7");
     const json config = ArgumentsOf(form).at("config");
-    QCOMPARE(config.at("enableNtp"), json(true));
-    QCOMPARE(config.at("startTime"), json("02:00:00"));
-    QCOMPARE(config.at("interval"), json(-7));
+    EXPECT_EQ(config.at("enableNtp"), json(true));
+    EXPECT_EQ(config.at("startTime"), json("02:00:00"));
+    EXPECT_EQ(config.at("interval"), json(-7));
 }
 
-void ArgumentFormTest::NumberBoxValidatesTypedText_data()
+struct TypedNumber {
+    const char* name;
+    catalogue::Kind kind;
+    const char* typed;
+    const char* problem;
+    const char* value;
+};
+class TypedNumberTest : public testing::TestWithParam<TypedNumber> {};
+
+TEST_P(TypedNumberTest, IsValidatedByTheNumberBox)
 {
-    using catalogue::Kind;
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("problem");
-    QTest::addColumn<QString>("value");
-    const auto add = [](const char* name, Kind kind, const char* typed, const char* problem, const char* value) {
-        QTest::newRow(name) << int(kind) << QString::fromLatin1(typed) << QString::fromLatin1(problem)
-                            << QString::fromLatin1(value);
-    };
-    const char* intRange = "Must be from -2147483648 to 2147483647";
-    const char* int64Range = "Must be from -9223372036854775808 to 9223372036854775807";
-    add("int: smallest", Kind::Int, "-2147483648", "", "-2147483648");
-    add("int: largest", Kind::Int, "2147483647", "", "2147483647");
-    add("int: too small", Kind::Int, "-2147483649", intRange, "0");
-    add("int: too large", Kind::Int, "2147483648", intRange, "0");
-    add("int: beyond 64 bits", Kind::Int, "99999999999999999999", intRange, "0");
-    add("int: empty", Kind::Int, "", "Enter a number", "0");
-    add("int: only a minus", Kind::Int, "-", "Not a whole number", "0");
-    add("int: a fraction", Kind::Int, "1.5", "Not a whole number", "0");
-    add("int: letters", Kind::Int, "twelve", "Not a whole number", "0");
-    add("int: spaces around", Kind::Int, " 12 ", "", "12");
-    add("int64: smallest", Kind::Int64, "-9223372036854775808", "", "-9223372036854775808");
-    add("int64: largest", Kind::Int64, "9223372036854775807", "", "9223372036854775807");
-    add("int64: too large", Kind::Int64, "9223372036854775808", int64Range, "0");
-    add("int64: too small", Kind::Int64, "-9223372036854775809", int64Range, "0");
-    add("double: a fraction", Kind::Double, "-0.25", "", "-0.25");
-    add("double: an exponent", Kind::Double, "1e3", "", "1000.0");
-    add("double: a comma", Kind::Double, "1,5", "Must be a number, such as 0.5", "0");
-    add("double: not finite", Kind::Double, "inf", "Must be a number, such as 0.5", "0");
-    add("double: empty", Kind::Double, "", "Enter a number", "0");
+    NumberBox box(GetParam().kind);
+    Type(box, GetParam().typed);
+    EXPECT_EQ(box.text(), QLatin1String(GetParam().typed));
+    EXPECT_EQ(box.Problem(), QLatin1String(GetParam().problem));
+    EXPECT_EQ(explorer::CompactJsonText(box.Value()), QLatin1String(GetParam().value));
 }
 
-void ArgumentFormTest::NumberBoxValidatesTypedText()
-{
-    QFETCH(int, kind);
-    QFETCH(QString, typed);
-    QFETCH(QString, problem);
-    QFETCH(QString, value);
-    NumberBox box(catalogue::Kind{kind});
-    Type(box, typed.toUtf8().constData());
-    QCOMPARE(box.text(), typed);
-    QCOMPARE(box.Problem(), problem);
-    QCOMPARE(explorer::CompactJsonText(box.Value()), value);
-}
+constexpr const char* kIntRange = "Must be from -2147483648 to 2147483647";
+constexpr const char* kInt64Range = "Must be from -9223372036854775808 to 9223372036854775807";
+constexpr TypedNumber kTypedNumbers[] = {
+    {"IntSmallest", catalogue::Kind::Int, "-2147483648", "", "-2147483648"},
+    {"IntLargest", catalogue::Kind::Int, "2147483647", "", "2147483647"},
+    {"IntTooSmall", catalogue::Kind::Int, "-2147483649", kIntRange, "0"},
+    {"IntTooLarge", catalogue::Kind::Int, "2147483648", kIntRange, "0"},
+    {"IntBeyond64Bits", catalogue::Kind::Int, "99999999999999999999", kIntRange, "0"},
+    {"IntEmpty", catalogue::Kind::Int, "", "Enter a number", "0"},
+    {"IntOnlyAMinus", catalogue::Kind::Int, "-", "Not a whole number", "0"},
+    {"IntAFraction", catalogue::Kind::Int, "1.5", "Not a whole number", "0"},
+    {"IntLetters", catalogue::Kind::Int, "twelve", "Not a whole number", "0"},
+    {"IntSpacesAround", catalogue::Kind::Int, " 12 ", "", "12"},
+    {"Int64Smallest", catalogue::Kind::Int64, "-9223372036854775808", "", "-9223372036854775808"},
+    {"Int64Largest", catalogue::Kind::Int64, "9223372036854775807", "", "9223372036854775807"},
+    {"Int64TooLarge", catalogue::Kind::Int64, "9223372036854775808", kInt64Range, "0"},
+    {"Int64TooSmall", catalogue::Kind::Int64, "-9223372036854775809", kInt64Range, "0"},
+    {"DoubleAFraction", catalogue::Kind::Double, "-0.25", "", "-0.25"},
+    {"DoubleAnExponent", catalogue::Kind::Double, "1e3", "", "1000.0"},
+    {"DoubleAComma", catalogue::Kind::Double, "1,5", "Must be a number, such as 0.5", "0"},
+    {"DoubleNotFinite", catalogue::Kind::Double, "inf", "Must be a number, such as 0.5", "0"},
+    {"DoubleEmpty", catalogue::Kind::Double, "", "Enter a number", "0"},
+};
+INSTANTIATE_TEST_SUITE_P(Numbers, TypedNumberTest, testing::ValuesIn(kTypedNumbers), RowName());
 
-void ArgumentFormTest::NumberBoxStepsWithinItsRange()
+TEST(NumberBoxTest, StepsWithinItsRange)
 {
     NumberBox box(catalogue::Kind::Int64);
     box.SetValue(std::numeric_limits<qint64>::max() - 1);
     QTest::keyClick(&box, Qt::Key_PageUp);
-    QCOMPARE(box.Value(), json(std::numeric_limits<qint64>::max()));
+    EXPECT_EQ(box.Value(), json(std::numeric_limits<qint64>::max()));
     box.SetValue(std::numeric_limits<qint64>::min() + 1);
     QTest::keyClick(&box, Qt::Key_PageDown);
-    QCOMPARE(box.Value(), json(std::numeric_limits<qint64>::min()));
+    EXPECT_EQ(box.Value(), json(std::numeric_limits<qint64>::min()));
     box.SetValue(5);
     QTest::keyClick(&box, Qt::Key_Up);
-    QCOMPARE(box.Value(), json(6));
+    EXPECT_EQ(box.Value(), json(6));
 }
 
-void ArgumentFormTest::UnfocusedNumberBoxIgnoresTheWheel()
+TEST(NumberBoxTest, IgnoresTheWheelWithoutFocus)
 {
     NumberBox box(catalogue::Kind::Int);
     QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&box, &event);
-    QVERIFY(!event.isAccepted());
-    QCOMPARE(box.Value(), json(0));
+    EXPECT_FALSE(event.isAccepted());
+    EXPECT_EQ(box.Value(), json(0));
 }
 
-void ArgumentFormTest::ListElementsCanBeAddedRemovedAndMoved()
+TEST_F(ArgumentFormTest, ListElementsCanBeAddedRemovedAndMoved)
 {
-    ArgumentForm form;
     form.SetCall(Call("DMS.BatchWashOpen"));
     form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     auto& add = Child<QPushButton>(form, "channelIds.add");
     for (const char* channel : {"a", "b", "c"}) {
         add.click();
-        QVERIFY(QApplication::focusWidget() != nullptr);
+        ASSERT_TRUE(QApplication::focusWidget() != nullptr);
         QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(channel));
     }
-    const auto channels = [&form] { return ArgumentsOf(form).at("channelIds"); };
-    QCOMPARE(channels(), (json{"a", "b", "c"}));
+    const auto channels = [this] { return ArgumentsOf(form).at("channelIds"); };
+    EXPECT_EQ(channels(), (json{"a", "b", "c"}));
 
     Child<QToolButton>(form, "channelIds.up", 2).click();
-    QCOMPARE(channels(), (json{"a", "c", "b"}));
+    EXPECT_EQ(channels(), (json{"a", "c", "b"}));
     Child<QToolButton>(form, "channelIds.down", 0).click();
-    QCOMPARE(channels(), (json{"c", "a", "b"}));
+    EXPECT_EQ(channels(), (json{"c", "a", "b"}));
 
     // The first element cannot move up, the last cannot move down. Buttons are found in the order of their creation.
-    QVERIFY(!Child<QToolButton>(form, "channelIds.up", 2).isEnabled());
-    QVERIFY(!Child<QToolButton>(form, "channelIds.down", 1).isEnabled());
+    EXPECT_FALSE(Child<QToolButton>(form, "channelIds.up", 2).isEnabled());
+    EXPECT_FALSE(Child<QToolButton>(form, "channelIds.down", 1).isEnabled());
 
     Child<QToolButton>(form, "channelIds.remove", 0).click();
-    QCOMPARE(channels(), (json{"c", "b"}));
+    EXPECT_EQ(channels(), (json{"c", "b"}));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Child<QToolButton>(form, "channelIds.remove", 0).click();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Child<QToolButton>(form, "channelIds.remove", 0).click();
-    QCOMPARE(channels(), json::array());
-    QCOMPARE(QApplication::focusWidget(), &add);
+    EXPECT_EQ(channels(), json::array());
+    ASSERT_EQ(QApplication::focusWidget(), &add);
 }
 
-void ArgumentFormTest::TabKeyFollowsScreenOrder()
+TEST_F(ArgumentFormTest, TabKeyFollowsScreenOrder)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.AddQuickCommand"));
     form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
     form.resize(900, 700);
     form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     Child<QToolButton>(form, "httpUrls.up", 2).click();  // the third element becomes the second
     QCoreApplication::processEvents();
 
@@ -323,33 +267,30 @@ void ArgumentFormTest::TabKeyFollowsScreenOrder()
     do {
         const QWidget* pFocus = QApplication::focusWidget();
         const QPoint position = pFocus->mapTo(pContent, QPoint(0, 0));
-        QVERIFY2(position.y() > last.y() || position.x() > last.x(), qPrintable(pFocus->objectName()));
+        EXPECT_TRUE(position.y() > last.y() || position.x() > last.x()) << pFocus->objectName().toStdString();
         last = position;
         ++stops;
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     } while (pContent->isAncestorOf(QApplication::focusWidget()) && stops < 100);
 
     // Six fields, three elements of four fields and three buttons (one fewer at either end), and the add button.
-    QCOMPARE(stops, 6 + 3 * 7 - 2 + 1);
-    QCOMPARE(QApplication::focusWidget(), &Child<QPushButton>(form, "copyArguments"));
+    EXPECT_EQ(stops, 6 + 3 * 7 - 2 + 1);
+    ASSERT_EQ(QApplication::focusWidget(), &Child<QPushButton>(form, "copyArguments"));
 }
 
-void ArgumentFormTest::LabelsHaveTheirFieldsAsBuddies()
+TEST_F(ArgumentFormTest, LabelsHaveTheirFieldsAsBuddies)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.GetEncodeCapability"));
     int labels = 0;
     const QList<QLabel*> all = form.findChildren<QLabel*>();
     for (const QLabel* pLabel : all) {
         if (pLabel->buddy() != nullptr) {
-            QCOMPARE(pLabel->buddy()->accessibleName(), QString(pLabel->text()).remove(QChar(0x200B)));
+            EXPECT_EQ(pLabel->buddy()->accessibleName(), QString(pLabel->text()).remove(QChar(0x200B)));
             ++labels;
         }
     }
-    QCOMPARE(labels, 2);
+    EXPECT_EQ(labels, 2);
 }
-
-namespace {
 
 explorer::FieldFacts Described(const char* description)
 {
@@ -369,11 +310,8 @@ explorer::FieldFacts Limited(const QStringList& values, std::optional<double> mi
     return facts;
 }
 
-}  // namespace
-
-void ArgumentFormTest::LabelToolTipsShowDescriptions()
+TEST_F(ArgumentFormTest, LabelToolTipsShowDescriptions)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.SetMultiCastConfig"));
     form.Describe({{QStringLiteral("status"), Described("Of the channel, <b> & all.")},
                    {QStringLiteral("streams/status"), Described("Of the stream.")}});
@@ -385,80 +323,75 @@ void ArgumentFormTest::LabelToolTipsShowDescriptions()
             shown << pLabel->accessibleName() << pLabel->toolTip() << pLabel->buddy()->accessibleDescription();
         }
     }
-    QCOMPARE(shown.join(QLatin1Char('|')).toUtf8(),
-             QByteArray("channelId|text||"
-                        "status|<p>bool. Of the channel, &lt;b&gt; &amp; all.</p>|Of the channel, <b> & all.|"
-                        "multicastIp|text||multicastPort|text||streamType|int||"
-                        "status|<p>bool. Of the stream.</p>|Of the stream."));
+    EXPECT_EQ(shown.join(QLatin1Char('|')).toUtf8(),
+              QByteArray("channelId|text||"
+                         "status|<p>bool. Of the channel, &lt;b&gt; &amp; all.</p>|Of the channel, <b> & all.|"
+                         "multicastIp|text||multicastPort|text||streamType|int||"
+                         "status|<p>bool. Of the stream.</p>|Of the stream."));
 }
 
-void ArgumentFormTest::ShowsLimitsAndExamples()
+TEST_F(ArgumentFormTest, ShowsLimitsAndExamples)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.SetRemoteLogConfig"));
     explorer::FieldFacts port = Limited({}, 1, 65535);
     port.example = QStringLiteral("514");
     port.description = QStringLiteral("Of the log server.");
     form.Describe({{QStringLiteral("port"), port}});
-    QCOMPARE(Child<QLabel>(form, "port.limits").text(), QString::fromUtf8("\xE2\x89\xA5 1, \xE2\x89\xA4 65535"));
-    QCOMPARE(Child<NumberBox>(form, "port").accessibleDescription(),
-             QString::fromUtf8("Of the log server.\nAllowed: \xE2\x89\xA5 1, \xE2\x89\xA4 65535\nExample: 514"));
+    EXPECT_EQ(Child<QLabel>(form, "port.limits").text(), QString::fromUtf8("\xE2\x89\xA5 1, \xE2\x89\xA4 65535"));
+    EXPECT_EQ(Child<NumberBox>(form, "port").accessibleDescription(),
+              QString::fromUtf8("Of the log server.\nAllowed: \xE2\x89\xA5 1, \xE2\x89\xA4 65535\nExample: 514"));
     explorer::FieldFacts address;
     address.example = QStringLiteral("192.168.10.9");
     form.Describe({{QStringLiteral("ip"), address}});
-    QCOMPARE(Child<QLineEdit>(form, "ip").placeholderText(), QStringLiteral("e.g. 192.168.10.9"));
-    QVERIFY(!Child<QLabel>(form, "port.limits").isVisibleTo(&form));
+    EXPECT_EQ(Child<QLineEdit>(form, "ip").placeholderText(), QStringLiteral("e.g. 192.168.10.9"));
+    EXPECT_FALSE(Child<QLabel>(form, "port.limits").isVisibleTo(&form));
 }
 
-void ArgumentFormTest::IsInvalidWhenServerWouldRefuseValue_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("problem");
-    const auto add = [](const char* field, const char* typed, const char* problem) {
-        QTest::addRow("%s %s", field, typed)
-            << QString::fromLatin1(field) << QString::fromLatin1(typed) << QString::fromLatin1(problem);
-    };
-    add("port", "1", "");
-    add("port", "9", "");
-    add("port", "0", "Must be 1 or more");
-    add("port", "10", "Must be 9 or less");
-    add("port", "many", "Not a whole number");
-    add("platformId", "a", "");
-    add("platformId", "A", "Must be one of: a, b");
-    add("platformId", "", "Must be one of: a, b");
-}
+struct LimitedValue {
+    const char* name;
+    const char* field;
+    const char* typed;
+    const char* problem;  // empty if the server accepts the value
+};
+class LimitedValueTest : public ArgumentFormTest, public testing::WithParamInterface<LimitedValue> {};
 
-void ArgumentFormTest::IsInvalidWhenServerWouldRefuseValue()
+TEST_P(LimitedValueTest, IsInvalidWhenServerWouldRefuseIt)
 {
-    QFETCH(QString, field);
-    QFETCH(QString, typed);
-    QFETCH(QString, problem);
-    ArgumentForm form;
+    const QString problem = QLatin1String(GetParam().problem);
     form.SetCall(Call("BRMS.SetRemoteLogConfig"));
     form.SetArguments(explorer::ToQt(json::parse(R"({"config": {"port": 5, "platformId": "b"}})")));
     form.Describe({{QStringLiteral("port"), Limited({}, 1, 9)},
                    {QStringLiteral("platformId"), Limited({QStringLiteral("a"), QStringLiteral("b")})}});
-    QVERIFY(form.IsValid());
-    Type(Child<QWidget>(form, field.toLatin1().constData()), typed.toUtf8().constData());
-    QCOMPARE(form.IsValid(), problem.isEmpty());
-    QCOMPARE(Child<QLabel>(form, (field + QLatin1String(".problem")).toLatin1().constData()).text(), problem);
+    EXPECT_TRUE(form.IsValid());
+    Type(Child<QWidget>(form, GetParam().field), GetParam().typed);
+    EXPECT_EQ(form.IsValid(), problem.isEmpty());
+    EXPECT_EQ(Child<QLabel>(form, (std::string(GetParam().field) + ".problem").c_str()).text(), problem);
 }
 
-void ArgumentFormTest::NamesRefusedValueInJson()
+constexpr LimitedValue kLimitedValues[] = {
+    {"SmallestPort", "port", "1", ""},
+    {"LargestPort", "port", "9", ""},
+    {"PortTooSmall", "port", "0", "Must be 1 or more"},
+    {"PortTooLarge", "port", "10", "Must be 9 or less"},
+    {"PortNotANumber", "port", "many", "Not a whole number"},
+    {"KnownText", "platformId", "a", ""},
+    {"TextInAnotherCase", "platformId", "A", "Must be one of: a, b"},
+    {"EmptyText", "platformId", "", "Must be one of: a, b"},
+};
+INSTANTIATE_TEST_SUITE_P(Values, LimitedValueTest, testing::ValuesIn(kLimitedValues), RowName());
+
+TEST_F(ArgumentFormTest, NamesRefusedValueInJson)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.GetLocalSetting"));
     form.Describe({{QStringLiteral("settingType"), Limited({}, 0)}});
     Child<QPushButton>(form, "argumentsAsJson").click();
     Child<QPlainTextEdit>(form, "argumentsJson").setPlainText(QStringLiteral(R"({"settingType": -1})"));
-    QVERIFY(!form.IsValid());
-    QCOMPARE(Problem(form), QStringLiteral("settingType: Must be 0 or more"));
+    EXPECT_FALSE(form.IsValid());
+    EXPECT_EQ(Problem(form), QStringLiteral("settingType: Must be 0 or more"));
 }
 
-void ArgumentFormTest::CompletesKnownValues()
+TEST_F(ArgumentFormTest, CompletesKnownValues)
 {
-    ArgumentForm form;
     form.SetCall(Call("DMS.BatchWashOpen"));
     form.Describe({}, [](const QString& name) {
         return name == QLatin1String("channelIds")
@@ -468,62 +401,59 @@ void ArgumentFormTest::CompletesKnownValues()
     });
     Child<QPushButton>(form, "channelIds.add").click();  // an element added after Describe()
     form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     auto& field = Child<QLineEdit>(form, "channelIds");
     field.setFocus();
     QTest::keyClicks(&field, QStringLiteral("GATE"));
     QAbstractItemView* const pList = field.completer()->popup();
-    QTRY_VERIFY(pList->isVisible());
-    QCOMPARE(pList->model()->rowCount(), 1);
-    QCOMPARE(pList->model()->index(0, 0).data().toString(), QString::fromUtf8("7$1  \xC2\xB7  Main gate"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pList->isVisible(); }));
+    EXPECT_EQ(pList->model()->rowCount(), 1);
+    EXPECT_EQ(pList->model()->index(0, 0).data().toString(), QString::fromUtf8("7$1  \xC2\xB7  Main gate"));
     QTest::keyClick(pList, Qt::Key_Down);
     QTest::keyClick(pList, Qt::Key_Return);
-    QCOMPARE(field.text(), QStringLiteral("7$1"));
+    EXPECT_EQ(field.text(), QStringLiteral("7$1"));
 }
 
-void ArgumentFormTest::ReportsValuesThatWereNotEntered()
+TEST_F(ArgumentFormTest, ReportsValuesThatWereNotEntered)
 {
     using explorer::Origin;
     using Paths = std::vector<std::string>;
-    ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
-    QCOMPARE(form.NotEntered().values, (Paths{"/groupId", "/group/groupName", "/group/memo"}));
+    EXPECT_EQ(form.NotEntered().values, (Paths{"/groupId", "/group/groupName", "/group/memo"}));
     Type(Child<QLineEdit>(form, "memo"), "x");
-    QCOMPARE(form.NotEntered().values, (Paths{"/groupId", "/group/groupName"}));
+    EXPECT_EQ(form.NotEntered().values, (Paths{"/groupId", "/group/groupName"}));
 
     // Values that the edited JSON changes count as entered.
     Child<QPushButton>(form, "argumentsAsJson").click();
     Child<QPlainTextEdit>(form, "argumentsJson")
         .setPlainText(QStringLiteral(R"({"groupId": "7", "group": {"groupName": "", "memo": "x"}})"));
-    QCOMPARE(form.NotEntered().values, (Paths{"/group/groupName"}));
+    EXPECT_EQ(form.NotEntered().values, (Paths{"/group/groupName"}));
     form.SetArguments(form.Arguments(), Origin::Known);
-    QCOMPARE(form.NotEntered().values, Paths{});
+    EXPECT_EQ(form.NotEntered().values, Paths{});
     form.SetArguments(form.Arguments());
-    QCOMPARE(form.NotEntered().values.size(), std::size_t(3));
+    ASSERT_EQ(form.NotEntered().values.size(), std::size_t(3));
 }
 
-void ArgumentFormTest::NewElementIsNotEnteredUntilOneOfItsFieldsIs()
+TEST_F(ArgumentFormTest, NewElementIsNotEnteredUntilOneOfItsFieldsIs)
 {
     using Paths = std::vector<std::string>;
-    ArgumentForm form;
     form.SetCall(Call("BRMS.AddQuickCommand"));
     form.SetArguments(explorer::ToQt(json::parse(kQuickCommand)));
-    QCOMPARE(form.NotEntered().elements, Paths{});
+    EXPECT_EQ(form.NotEntered().elements, Paths{});
     Child<QPushButton>(form, "httpUrls.add").click();
-    QCOMPARE(form.NotEntered().elements, (Paths{"/command/httpUrls/3"}));
+    EXPECT_EQ(form.NotEntered().elements, (Paths{"/command/httpUrls/3"}));
     Child<QToolButton>(form, "httpUrls.up", 3).click();
-    QCOMPARE(form.NotEntered().elements, (Paths{"/command/httpUrls/2"}));
+    EXPECT_EQ(form.NotEntered().elements, (Paths{"/command/httpUrls/2"}));
     Type(Child<QLineEdit>(form, "url", 3), "http://10.0.0.4");
-    QCOMPARE(form.NotEntered().elements, Paths{});
+    EXPECT_EQ(form.NotEntered().elements, Paths{});
 }
 
-void ArgumentFormTest::FormsFitIntoNarrowPane()
+TEST_F(ArgumentFormTest, FormsFitIntoNarrowPane)
 {
     constexpr QSize kSmallPane(336, 400);
-    ArgumentForm form;
     form.resize(kSmallPane);
     form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
     for (const catalogue::Call& call : catalogue::Calls()) {
         int next = 0;
         json arguments = json::object();
@@ -534,183 +464,175 @@ void ArgumentFormTest::FormsFitIntoNarrowPane()
         form.SetArguments(explorer::ToQt(arguments));
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();  // nested layouts need a second pass
-        QCOMPARE(form.size(), kSmallPane);
+        ASSERT_EQ(form.size(), kSmallPane);
         const auto& area = *form.findChild<QScrollArea*>();
-        QVERIFY2(area.widget()->width() <= area.viewport()->width(), call.name.c_str());
+        EXPECT_TRUE(area.widget()->width() <= area.viewport()->width()) << call.name;
         const QList<QLabel*> labels = area.widget()->findChildren<QLabel*>();
         for (const QLabel* pLabel : labels) {
             if (pLabel->isVisible()) {
                 const QSize needed(pLabel->minimumSizeHint().width(), pLabel->heightForWidth(pLabel->width()));
-                QVERIFY2(pLabel->width() >= needed.width() && pLabel->height() >= needed.height(),
-                         qPrintable(pLabel->text()));
+                EXPECT_TRUE(pLabel->width() >= needed.width() && pLabel->height() >= needed.height())
+                    << pLabel->text().toStdString();
             }
             if (pLabel->buddy() != nullptr) {
-                QVERIFY2(pLabel->sizeHint().height() < 2 * pLabel->fontMetrics().height(), "the name wraps");
+                EXPECT_TRUE(pLabel->sizeHint().height() < 2 * pLabel->fontMetrics().height()) << "the name wraps";
             }
         }
         const QList<NumberBox*> numbers = area.widget()->findChildren<NumberBox*>();
         for (const NumberBox* pNumber : numbers) {
             const auto& line = *pNumber->findChild<QLineEdit*>();
-            QVERIFY2(line.width() > line.fontMetrics().horizontalAdvance(line.text()), qPrintable(line.text()));
+            EXPECT_TRUE(line.width() > line.fontMetrics().horizontalAdvance(line.text())) << line.text().toStdString();
         }
         const QList<QLineEdit*> fields = area.widget()->findChildren<QLineEdit*>();
         for (const QLineEdit* pField : fields) {
-            QVERIFY2(pField->width() >= pField->fontMetrics().horizontalAdvance(QStringLiteral("00000000")),
-                     qPrintable(pField->objectName()));
+            EXPECT_TRUE(pField->width() >= pField->fontMetrics().horizontalAdvance(QStringLiteral("00000000")))
+                << pField->objectName().toStdString();
         }
     }
 }
 
-void ArgumentFormTest::PastesCopiedArguments()
+TEST_F(ArgumentFormTest, PastesCopiedArguments)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
     SetClipboard(kGroup);
     form.Paste();
-    QCOMPARE(Problem(form), QString());
-    QCOMPARE(ArgumentsOf(form), json::parse(kGroup));
+    EXPECT_EQ(Problem(form), QString());
+    EXPECT_EQ(ArgumentsOf(form), json::parse(kGroup));
 
     SetClipboard("");
     Child<QPushButton>(form, "copyArguments").click();
-    QCOMPARE(json::parse(QGuiApplication::clipboard()->text().toStdString()), json::parse(kGroup));
+    EXPECT_EQ(json::parse(QGuiApplication::clipboard()->text().toStdString()), json::parse(kGroup));
 
     ArgumentForm other;
     other.SetCall(Call("BRMS.UpdateUserGroup"));
     other.show();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     QTest::keyClick(&other, Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_COMPARE(other.Arguments(), form.Arguments());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other.Arguments() == form.Arguments(); }));
 }
 
-void ArgumentFormTest::InvalidPasteShowsReasonAndChangesNothing_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("reason");
-    const auto add = [](const char* name, const char* text, const char* reason) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(reason);
-    };
-    add("nothing", "", "not valid JSON");
-    add("no JSON", "{\"groupId\": ", "not valid JSON");
-    add("a list", "[]", "must be a JSON object");
-    add("an argument is missing", R"({"groupId": "7"})", "requires the argument \"group\"");
-    add("an unknown argument", R"({"groupId": "7", "group": {}, "x": 1})", "has no argument \"x\"");
-    add("a wrong type", R"({"groupId": 7, "group": {}})", "/groupId: expected text, got integer");
-    add("an unknown field", R"({"groupId": "7", "group": {"name": ""}})",
-        "/group/name: AddUserGroupsParam has no such");
-}
+struct InvalidPaste {
+    const char* name;
+    const char* text;
+    const char* reason;
+};
+class InvalidPasteTest : public ArgumentFormTest, public testing::WithParamInterface<InvalidPaste> {};
 
-void ArgumentFormTest::InvalidPasteShowsReasonAndChangesNothing()
+TEST_P(InvalidPasteTest, ShowsReasonAndChangesNothing)
 {
-    QFETCH(QString, text);
-    QFETCH(QString, reason);
-    ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
     form.SetArguments(explorer::ToQt(json::parse(kGroup)));
     QSignalSpy changes(&form, &ArgumentForm::Changed);
-    QGuiApplication::clipboard()->setText(text);
+    SetClipboard(GetParam().text);
     Child<QPushButton>(form, "pasteArguments").click();
-    QVERIFY2(Problem(form).contains(reason), qPrintable(Problem(form)));
-    QCOMPARE(ArgumentsOf(form), json::parse(kGroup));
-    QCOMPARE(changes.count(), 0);
+    EXPECT_TRUE(Problem(form).contains(QLatin1String(GetParam().reason))) << Problem(form).toStdString();
+    EXPECT_EQ(ArgumentsOf(form), json::parse(kGroup));
+    EXPECT_EQ(changes.count(), 0);
 
     Type(Child<QLineEdit>(form, "groupId"), "8");
-    QCOMPARE(Problem(form), QString());
+    EXPECT_EQ(Problem(form), QString());
 }
 
-void ArgumentFormTest::IgnoresArgumentsOfTheWrongType()
+constexpr InvalidPaste kInvalidPastes[] = {
+    {"Nothing", "", "not valid JSON"},
+    {"NoJson", "{\"groupId\": ", "not valid JSON"},
+    {"List", "[]", "must be a JSON object"},
+    {"MissingArgument", R"({"groupId": "7"})", "requires the argument \"group\""},
+    {"UnknownArgument", R"({"groupId": "7", "group": {}, "x": 1})", "has no argument \"x\""},
+    {"WrongType", R"({"groupId": 7, "group": {}})", "/groupId: expected text, got integer"},
+    {"UnknownField", R"({"groupId": "7", "group": {"name": ""}})", "/group/name: AddUserGroupsParam has no such"},
+};
+INSTANTIATE_TEST_SUITE_P(Texts, InvalidPasteTest, testing::ValuesIn(kInvalidPastes), RowName());
+
+TEST_F(ArgumentFormTest, IgnoresArgumentsOfTheWrongType)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
     form.SetArguments(explorer::ToQt(json::parse(kGroup)));
     form.SetArguments(explorer::ToQt({{"groupId", 1}, {"group", {{"memo", "new"}}}, {"other", 2}}));
-    QCOMPARE(ArgumentsOf(form), (json{{"groupId", "7"}, {"group", {{"groupName", ""}, {"memo", "new"}}}}));
+    EXPECT_EQ(ArgumentsOf(form), (json{{"groupId", "7"}, {"group", {{"groupName", ""}, {"memo", "new"}}}}));
 }
 
-void ArgumentFormTest::JsonViewShowsAndChangesArguments()
+TEST_F(ArgumentFormTest, JsonViewShowsAndChangesArguments)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.UpdateUserGroup"));
     form.SetArguments(explorer::ToQt(json::parse(kGroup)));
     auto& button = Child<QPushButton>(form, "argumentsAsJson");
     auto& edit = Child<QPlainTextEdit>(form, "argumentsJson");
-    QVERIFY(!edit.isVisibleTo(&form));
+    EXPECT_FALSE(edit.isVisibleTo(&form));
     button.click();
-    QVERIFY(edit.isVisibleTo(&form));
-    QVERIFY(!Child<QLineEdit>(form, "groupId").isVisibleTo(&form));
-    QCOMPARE(json::parse(edit.toPlainText().toStdString()), ArgumentsOf(form));
+    EXPECT_TRUE(edit.isVisibleTo(&form));
+    EXPECT_FALSE(Child<QLineEdit>(form, "groupId").isVisibleTo(&form));
+    EXPECT_EQ(json::parse(edit.toPlainText().toStdString()), ArgumentsOf(form));
 
     const QSignalSpy changes(&form, &ArgumentForm::Changed);
     const QString typed = QStringLiteral("{\"groupId\":\"8\",  \"group\": {\"groupName\": \"Day\"}}");
     edit.setPlainText(typed);
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(edit.toPlainText(), typed);
-    QCOMPARE(ArgumentsOf(form).at("group").at("groupName"), json("Day"));
-    QCOMPARE(ArgumentsOf(form).at("group").at("memo"), json(""));
+    ASSERT_EQ(changes.count(), 1);
+    EXPECT_EQ(edit.toPlainText(), typed);
+    EXPECT_EQ(ArgumentsOf(form).at("group").at("groupName"), json("Day"));
+    EXPECT_EQ(ArgumentsOf(form).at("group").at("memo"), json(""));
 
     form.SetArguments(explorer::ToQt(json::parse(kGroup)));
-    QCOMPARE(json::parse(edit.toPlainText().toStdString()), ArgumentsOf(form));
+    EXPECT_EQ(json::parse(edit.toPlainText().toStdString()), ArgumentsOf(form));
     button.click();
-    QVERIFY(!edit.isVisibleTo(&form));
-    QCOMPARE(Child<QLineEdit>(form, "groupName").text(), QStringLiteral("Night"));
+    EXPECT_FALSE(edit.isVisibleTo(&form));
+    EXPECT_EQ(Child<QLineEdit>(form, "groupName").text(), QStringLiteral("Night"));
 
     button.click();
     form.SetCall(Call("BRMS.GetTimeSyncConfig"));
-    QVERIFY(!edit.isVisibleTo(&form));
-    QVERIFY(!button.isEnabled());
+    EXPECT_FALSE(edit.isVisibleTo(&form));
+    EXPECT_FALSE(button.isEnabled());
     form.SetCall(Call("BRMS.GetLocalSetting"));
-    QCOMPARE(json::parse(edit.toPlainText().toStdString()), json({{"settingType", 0}}));
+    EXPECT_EQ(json::parse(edit.toPlainText().toStdString()), json({{"settingType", 0}}));
 }
 
-void ArgumentFormTest::KeepsInvalidJsonAsTyped()
+TEST_F(ArgumentFormTest, KeepsInvalidJsonAsTyped)
 {
-    ArgumentForm form;
     form.SetCall(Call("BRMS.GetLocalSetting"));
     auto& button = Child<QPushButton>(form, "argumentsAsJson");
     auto& edit = Child<QPlainTextEdit>(form, "argumentsJson");
     button.click();
     for (const char* typed : {"{\"settingType\": 3", "{\"settingType\": \"3\"}", "[]"}) {
         edit.setPlainText(QString::fromUtf8(typed));
-        QVERIFY2(!form.IsValid(), typed);
-        QVERIFY(Problem(form).startsWith(QStringLiteral("Invalid arguments: ")));
-        QCOMPARE(edit.toPlainText(), QString::fromUtf8(typed));
-        QVERIFY(!button.isEnabled());
+        EXPECT_FALSE(form.IsValid()) << typed;
+        EXPECT_TRUE(Problem(form).startsWith(QStringLiteral("Invalid arguments: ")));
+        EXPECT_EQ(edit.toPlainText(), QString::fromUtf8(typed));
+        EXPECT_FALSE(button.isEnabled());
     }
     edit.setPlainText(QStringLiteral("{\"settingType\": 3}"));
-    QVERIFY(form.IsValid());
-    QCOMPARE(Problem(form), QString());
-    QVERIFY(button.isEnabled());
-    QCOMPARE(ArgumentsOf(form), json({{"settingType", 3}}));
+    EXPECT_TRUE(form.IsValid());
+    EXPECT_EQ(Problem(form), QString());
+    EXPECT_TRUE(button.isEnabled());
+    EXPECT_EQ(ArgumentsOf(form), json({{"settingType", 3}}));
 
     edit.setPlainText(QStringLiteral("{"));
     form.SetCall(Call("BRMS.UpdateUserGroup"));  // discards the edit
-    QVERIFY(form.IsValid());
-    QCOMPARE(Problem(form), QString());
+    EXPECT_TRUE(form.IsValid());
+    EXPECT_EQ(Problem(form), QString());
 }
 
-void ArgumentFormTest::EmitsChangedWhenInputChanges()
+TEST_F(ArgumentFormTest, EmitsChangedWhenInputChanges)
 {
-    ArgumentForm form;
     QSignalSpy changes(&form, &ArgumentForm::Changed);
     form.SetCall(Call("BRMS.GetLocalSetting"));
-    QVERIFY(changes.count() > 0);
-    QVERIFY(form.IsValid());
+    ASSERT_TRUE(changes.count() > 0);
+    EXPECT_TRUE(form.IsValid());
 
     changes.clear();
     Type(Child<NumberBox>(form, "settingType"), "x");
-    QVERIFY(changes.count() > 0);
-    QVERIFY(!form.IsValid());
-    QVERIFY(!Child<QPushButton>(form, "copyArguments").isEnabled());
+    ASSERT_TRUE(changes.count() > 0);
+    EXPECT_FALSE(form.IsValid());
+    EXPECT_FALSE(Child<QPushButton>(form, "copyArguments").isEnabled());
 
     Type(Child<NumberBox>(form, "settingType"), "3");
-    QVERIFY(form.IsValid());
-    QVERIFY(Child<QPushButton>(form, "copyArguments").isEnabled());
+    EXPECT_TRUE(form.IsValid());
+    EXPECT_TRUE(Child<QPushButton>(form, "copyArguments").isEnabled());
 }
 
-void ArgumentFormTest::Screenshots()
+TEST_F(ArgumentFormTest, Screenshots)
 {
     using view_test::TakeScreenshots;
     const QSize size(560, 520);
-    ArgumentForm form;
     TakeScreenshots(form, QStringLiteral("form-without-call"), size);
     form.SetCall(Call("BRMS.GetTimeSyncConfig"));
     TakeScreenshots(form, QStringLiteral("form-no-arguments"), size);
@@ -737,9 +659,4 @@ void ArgumentFormTest::Screenshots()
     TakeScreenshots(form, QStringLiteral("form-narrow"), QSize(336, 860));
 }
 
-int main(int argc, char** argv)
-{
-    return view_test::Run<ArgumentFormTest>(argc, argv);
-}
-
-#include "argument_form_test.moc"
+}  // namespace

@@ -1,6 +1,5 @@
 // The request of a call, and the commands that send it.
 #include "support/Samples.h"
-#include "support/Screenshots.h"
 #include "support/ViewTest.h"
 
 #include <explorer/views/CodeView.h>
@@ -8,6 +7,8 @@
 #include <explorer/views/Json.h>
 #include <explorer/views/RequestView.h>
 #include <explorer/views/ShellLines.h>
+
+#include <explorer/support/ModelRows.h>
 
 #include <QClipboard>
 #include <QLabel>
@@ -21,123 +22,88 @@
 using explorer::CodeView;
 using explorer::RequestDraft;
 using explorer::RequestView;
-
-class RequestViewTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void ShowsMethodUrlHeadersAndBody();
-    void ShowsNonJsonBodyUnchanged();
-    void CopiesCommands();
-    void ShowsNoRequestWhenCallCannotBePacked();
-    void HintReplacesRequest();
-    void Screenshots();
-};
+using explorer_test::RowsOf;
+using view_test::Child;
 
 namespace {
 
-const CodeView& Page(const RequestView& view, const char* name)
-{
-    return *view.findChild<CodeView*>(QString::fromLatin1(name));
-}
-
-QString Target(const RequestView& view)
-{
-    return view.findChild<QPlainTextEdit*>(QStringLiteral("target"))->toPlainText();
-}
-
-QStringList HeadersOf(const RequestView& view)
-{
-    const auto& tree = *view.findChild<QTreeWidget*>(QStringLiteral("headers"));
-    QStringList headers;
-    for (int row = 0; row < tree.topLevelItemCount(); ++row) {
-        headers.append(tree.topLevelItem(row)->text(0) + QLatin1Char('=') + tree.topLevelItem(row)->text(1));
+class RequestViewTest : public testing::Test {
+protected:
+    RequestViewTest()
+    {
+        const explorer::CallOutcome outcome = view_test::EncodeUpdate();
+        const QStringList options{QStringLiteral("--server"), QStringLiteral("http://h:1")};
+        draft = {outcome.call, outcome.arguments, outcome.request, options};
+        view.Show(draft);
     }
-    return headers;
-}
 
-RequestDraft EncodeUpdate()
-{
-    const explorer::CallOutcome outcome = view_test::EncodeUpdate();
-    return {
-        outcome.call, outcome.arguments, outcome.request, {QStringLiteral("--server"), QStringLiteral("http://h:1")}};
-}
+    [[nodiscard]] QString Text(const char* page) const { return Child<CodeView>(view, page).Text(); }
+    [[nodiscard]] QString Target() const { return Child<QPlainTextEdit>(view, "target").toPlainText(); }
+    [[nodiscard]] QStringList Headers() const { return RowsOf(*Child<QTreeWidget>(view, "headers").model()); }
 
-}  // namespace
-
-void RequestViewTest::ShowsMethodUrlHeadersAndBody()
-{
     RequestView view;
-    const RequestDraft draft = EncodeUpdate();
-    view.Show(draft);
-    QCOMPARE(Target(view), QStringLiteral("PUT ") + draft.request.url);
-    const QStringList headers = HeadersOf(view);
-    QCOMPARE(headers.size(), draft.request.headers.size());
-    QCOMPARE(headers[0], QStringLiteral("Host=127.0.0.1:8443"));
-    QCOMPARE(headers[4], QStringLiteral("X-Subject-Token=**********"));
-    QCOMPARE(Page(view, "body").Text(), explorer::JsonText(nlohmann::json::parse(draft.request.body.toStdString())));
+    RequestDraft draft;
+};
+
+TEST_F(RequestViewTest, ShowsMethodUrlHeadersAndBody)
+{
+    EXPECT_EQ(Target(), QStringLiteral("PUT ") + draft.request.url);
+    const QStringList headers = Headers();
+    ASSERT_EQ(headers.size(), draft.request.headers.size());
+    EXPECT_EQ(headers[0], QStringLiteral("Host|127.0.0.1:8443"));
+    EXPECT_EQ(headers[4], QStringLiteral("X-Subject-Token|**********"));
+    EXPECT_EQ(Text("body"), explorer::JsonText(nlohmann::json::parse(draft.request.body.toStdString())));
 }
 
-void RequestViewTest::ShowsNonJsonBodyUnchanged()
+TEST_F(RequestViewTest, ShowsNonJsonBodyUnchanged)
 {
-    RequestView view;
-    RequestDraft draft = EncodeUpdate();
     draft.request.body = "{\"a\": T\xC3\xBCr";
     view.Show(draft);
-    QCOMPARE(Page(view, "body").Text(), QString::fromUtf8("{\"a\": T\xC3\xBCr"));
+    EXPECT_EQ(Text("body"), QString::fromUtf8("{\"a\": T\xC3\xBCr"));
 }
 
-void RequestViewTest::CopiesCommands()
+TEST_F(RequestViewTest, CopiesCommands)
 {
-    RequestView view;
-    const RequestDraft draft = EncodeUpdate();
-    view.Show(draft);
-    const auto copied = [&view](const char* page) {
+    const auto copied = [this](const char* page) {
         QGuiApplication::clipboard()->clear();
-        Page(view, page).findChild<QPushButton*>(QStringLiteral("copyText"))->click();
+        Child<QPushButton>(Child<CodeView>(view, page), "copyText").click();
         return QGuiApplication::clipboard()->text();
     };
-    QCOMPARE(copied("curl"), explorer::CurlLine(draft.request));
-    QVERIFY(copied("curl").contains(QStringLiteral("\"$TOKEN\"")));
-    QCOMPARE(copied("cpp"), explorer::CppLines(*draft.call, explorer::FromQt(draft.arguments), -1));
-    QCOMPARE(copied("apicall"), explorer::ApicallLine(draft));
+    EXPECT_EQ(copied("curl"), explorer::CurlLine(draft.request));
+    EXPECT_TRUE(copied("curl").contains(QStringLiteral("\"$TOKEN\"")));
+    EXPECT_EQ(copied("cpp"), explorer::CppLines(*draft.call, explorer::FromQt(draft.arguments), -1));
+    EXPECT_EQ(copied("apicall"), explorer::ApicallLine(draft));
 }
 
-void RequestViewTest::ShowsNoRequestWhenCallCannotBePacked()
+TEST_F(RequestViewTest, ShowsNoRequestWhenCallCannotBePacked)
 {
-    RequestView view;
-    RequestDraft draft = EncodeUpdate();
-    view.Show(draft);
     draft.request = {};
     draft.arguments = {};  // the C++ lines then contain default values
     view.Show(draft);
-    QCOMPARE(Target(view), QString());
-    QVERIFY(HeadersOf(view).isEmpty());
-    QCOMPARE(Page(view, "body").Text(), QString());
-    QCOMPARE(Page(view, "curl").Text(), QString());
-    QVERIFY(Page(view, "cpp").Text().contains(QStringLiteral("std::string channelId = \"\";")));
+    EXPECT_EQ(Target(), QString());
+    EXPECT_TRUE(Headers().isEmpty());
+    EXPECT_EQ(Text("body"), QString());
+    EXPECT_EQ(Text("curl"), QString());
+    EXPECT_TRUE(Text("cpp").contains(QStringLiteral("std::string channelId = \"\";")));
 }
 
-void RequestViewTest::HintReplacesRequest()
+TEST_F(RequestViewTest, HintReplacesRequest)
 {
-    RequestView view;
     const QString hint = QStringLiteral("Nothing is chosen");
     view.ShowHint(hint);
     const auto& labels = view.findChildren<QLabel*>();
     const auto shown = std::count_if(labels.begin(), labels.end(), [&](const QLabel* pLabel) {
         return pLabel->text() == hint && pLabel->isVisibleTo(&view);
     });
-    QCOMPARE(int(shown), 1);
-    view.Show(EncodeUpdate());
-    QVERIFY(Page(view, "body").parentWidget()->isVisibleTo(&view));
+    EXPECT_EQ(int(shown), 1);
+    view.Show(draft);
+    EXPECT_TRUE(Child<CodeView>(view, "body").parentWidget()->isVisibleTo(&view));
 }
 
-void RequestViewTest::Screenshots()
+TEST_F(RequestViewTest, Screenshots)
 {
     using view_test::TakeScreenshots;
     const QSize size(700, 420);
-    RequestView view;
-    view.Show(EncodeUpdate());
     auto& tabs = *view.findChild<QTabWidget*>();
     for (int tab = 0; tab < tabs.count(); ++tab) {
         tabs.setCurrentIndex(tab);
@@ -145,9 +111,4 @@ void RequestViewTest::Screenshots()
     }
 }
 
-int main(int argc, char** argv)
-{
-    return view_test::Run<RequestViewTest>(argc, argv);
-}
-
-#include "request_view_test.moc"
+}  // namespace

@@ -1,6 +1,5 @@
 // The result of a call as tree, JSON, table and raw exchange.
 #include "support/Samples.h"
-#include "support/Screenshots.h"
 #include "support/ViewTest.h"
 
 #include <explorer/views/CodeView.h>
@@ -9,6 +8,9 @@
 #include <explorer/views/RecordTable.h>
 #include <explorer/views/ResultView.h>
 #include <explorer/views/TotalsRow.h>
+
+#include <explorer/support/ModelRows.h>
+#include <support/Rows.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -38,45 +40,10 @@ using explorer::CodeView;
 using explorer::RecordModel;
 using explorer::RecordTable;
 using explorer::ResultView;
+using explorer_test::RowsOf;
 using nlohmann::json;
-
-class ResultViewTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void TreeShowsNameValueAndType();
-    void TreeListsFieldsInDeclarationOrder();
-    void TreeShowsDefaultRecordOfEveryCall();
-    void TreeShowsNameAndIdentifierOfListElements();
-    void TreeFilterKeepsParentsAndChildrenOfMatches();
-    void FindKeyFocusesTreeFilter();
-    void CopiesValuePathAndSubtree();
-    void MarksFieldsMissingInReply_data();
-    void MarksFieldsMissingInReply();
-    void MarksFieldsFromUnreadableKeyOn();
-    void TreeColumnsFitNamesAndTypes();
-    void ExpandsOnlyFirstLevelOfLargeRecord();
-    void CopiesCompleteJson();
-    void JsonCanBeSearchedByKeyboard();
-    void SearchFindsTextOutsideTheShownPart();
-    void SearchSelectsMatchAfterCrLf();
-    void ShowsCompleteLongTextOnDemand();
-    void JsonColoursFollowThePalette();
-    void TableHasRowForEachElement();
-    void ColumnsSortByValue();
-    void TextsSortNaturally();
-    void TableFilterSearchesEveryColumn();
-    void TotalsCoverOnlyVisibleRows();
-    void TotalsAlignWithTheirColumns();
-    void ListCanBeChosenAmongSeveral();
-    void PlainListsHaveOneColumn();
-    void ExportsVisibleRowsInTheirOrder();
-    void ExportButtonAsksForFileName();
-    void ExportFailsWhenFileCannotBeWritten();
-    void ShowsRawExchange();
-    void ShowsHintWithoutRecord();
-    void Screenshots();
-};
+using testing_support::RowName;
+using view_test::Child;
 
 namespace {
 
@@ -87,52 +54,29 @@ explorer::SharedRecord Shared(const json& record)
 
 QTableView& TableOf(const QWidget& view)
 {
-    return *view.findChild<QTableView*>(QStringLiteral("table"));
-}
-
-/// What the table shows, row by row.
-QList<QStringList> RowsOf(const QTableView& table)
-{
-    QList<QStringList> rows;
-    const QAbstractItemModel& model = *table.model();
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QStringList fields;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            fields.append(model.index(row, column).data().toString());
-        }
-        rows.append(fields);
-    }
-    return rows;
-}
-
-QStringList ColumnOf(const QTableView& table, const char* title)
-{
-    QStringList fields;
-    const QAbstractItemModel& model = *table.model();
-    for (int column = 0; column < model.columnCount(); ++column) {
-        for (int row = 0;
-             row < model.rowCount() && model.headerData(column, Qt::Horizontal).toString() == QLatin1String(title);
-             ++row) {
-            fields.append(model.index(row, column).data().toString());
-        }
-    }
-    return fields;
+    return Child<QTableView>(view, "table");
 }
 
 int ColumnNamed(const QTableView& table, const char* title)
 {
     const QAbstractItemModel& model = *table.model();
-    for (int column = 0; column < model.columnCount(); ++column) {
-        if (model.headerData(column, Qt::Horizontal).toString() == QLatin1String(title)) {
-            return column;
-        }
+    int column = 0;
+    while (column < model.columnCount() &&
+           model.headerData(column, Qt::Horizontal).toString() != QLatin1String(title)) {
+        ++column;
     }
-    return -1;
+    return column;
 }
 
-void Set(RecordTable& table, const CallOutcome& outcome)
+/// The texts in a column; none if there is no such column.
+QStringList ColumnOf(const QTableView& table, const char* title)
 {
-    QVERIFY(table.SetRecord(*outcome.call->result, Shared(outcome.record)));
+    QStringList fields;
+    const int column = ColumnNamed(table, title);
+    for (int row = 0; row < table.model()->rowCount() && column < table.model()->columnCount(); ++row) {
+        fields.append(table.model()->index(row, column).data().toString());
+    }
+    return fields;
 }
 
 QString TextOf(const QAbstractItemModel& model, const QModelIndex& parent, int row)
@@ -159,124 +103,139 @@ enum Tab {
     ExchangeTab
 };
 
-}  // namespace
+class RecordModelTest : public testing::Test {
+protected:
+    void Set(const CallOutcome& outcome) { model.SetRecord(*outcome.call->result, Shared(outcome.record)); }
 
-void ResultViewTest::TreeShowsNameValueAndType()
-{
     RecordModel model;
-    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+private:
+    const QAbstractItemModelTester m_tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+class RecordTableTest : public testing::Test {
+protected:
+    void Set(const CallOutcome& outcome)
+    {
+        EXPECT_TRUE(table.SetRecord(*outcome.call->result, Shared(outcome.record)));
+    }
+
+    RecordTable table;
+    QTableView& view = TableOf(table);
+};
+
+class ResultViewTest : public testing::Test {
+protected:
+    ResultView view;
+};
+
+TEST_F(RecordModelTest, TreeShowsNameValueAndType)
+{
     const CallOutcome outcome = view_test::AlarmLinkage();
-    model.SetRecord(*outcome.call->result, Shared(outcome.record));
+    Set(outcome);
 
     const QModelIndex root = model.index(0, 0);
-    QCOMPARE(model.rowCount(), 1);
-    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result||AlarmLinkControl"));
-    QCOMPARE(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|Elements: 1|AlarmLinkChannel[]"));
-    QCOMPARE(model.index(0, RecordModel::TypeColumn, root).data(Qt::ToolTipRole).toString(),
-             QStringLiteral("list of AlarmLinkChannel"));
+    EXPECT_EQ(model.rowCount(), 1);
+    EXPECT_EQ(TextOf(model, {}, 0), QStringLiteral("Result||AlarmLinkControl"));
+    EXPECT_EQ(TextOf(model, root, 0), QStringLiteral("linkAlarmOutputChannels|Elements: 1|AlarmLinkChannel[]"));
+    EXPECT_EQ(model.index(0, RecordModel::TypeColumn, root).data(Qt::ToolTipRole).toString(),
+              QStringLiteral("list of AlarmLinkChannel"));
     const QModelIndex audio = model.index(2, 0, root);
-    QCOMPARE(TextOf(model, audio, 1), QString::fromUtf8("[1]|Horn \xC2\xB7 1$4$0$1|AlarmLinkAudioChannel"));
+    EXPECT_EQ(TextOf(model, audio, 1), QString::fromUtf8("[1]|Horn \xC2\xB7 1$4$0$1|AlarmLinkAudioChannel"));
     const QModelIndex horn = model.index(1, 0, audio);
-    QCOMPARE(TextOf(model, horn, 1), QStringLiteral("channelName|Horn|text"));
+    EXPECT_EQ(TextOf(model, horn, 1), QStringLiteral("channelName|Horn|text"));
 
     const CallOutcome plain = view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1]");
-    model.SetRecord(*plain.call->result, Shared(plain.record));
-    QCOMPARE(TextOf(model, {}, 0), QStringLiteral("Result|Elements: 2|int[]"));
-    QCOMPARE(TextOf(model, model.index(0, 0), 1), QStringLiteral("[1]|1|int"));
+    Set(plain);
+    EXPECT_EQ(TextOf(model, {}, 0), QStringLiteral("Result|Elements: 2|int[]"));
+    EXPECT_EQ(TextOf(model, model.index(0, 0), 1), QStringLiteral("[1]|1|int"));
 
     model.Clear();
-    QCOMPARE(model.rowCount(), 0);
+    EXPECT_EQ(model.rowCount(), 0);
 }
 
-void ResultViewTest::TreeListsFieldsInDeclarationOrder()
+TEST_F(RecordModelTest, TreeListsFieldsInDeclarationOrder)
 {
-    RecordModel model;
     const CallOutcome outcome = view_test::ParkingLots();
-    model.SetRecord(*outcome.call->result, Shared(outcome.record));
+    Set(outcome);
     const QModelIndex lot = model.index(0, 0, model.index(0, 0));
     const auto& fields = outcome.call->result->element->fields;
-    QCOMPARE(model.rowCount(lot), int(fields.size()));
+    ASSERT_EQ(model.rowCount(lot), int(fields.size()));
     for (int row = 0; row < model.rowCount(lot); ++row) {
-        QCOMPARE(model.index(row, 0, lot).data().toString().toStdString(), std::string(fields[std::size_t(row)].name));
+        EXPECT_EQ(model.index(row, 0, lot).data().toString().toStdString(), std::string(fields[std::size_t(row)].name));
     }
 }
 
-void ResultViewTest::TreeShowsDefaultRecordOfEveryCall()
+TEST_F(RecordModelTest, TreeShowsDefaultRecordOfEveryCall)
 {
-    RecordModel model;
-    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     for (const catalogue::Call& call : catalogue::Calls()) {
         if (call.result != nullptr) {
             model.SetRecord(*call.result, Shared(catalogue::Value(*call.result).ToJson()));
-            QCOMPARE(model.rowCount(model.index(0, 0)), int(call.result->fields.size()));
+            ASSERT_EQ(model.rowCount(model.index(0, 0)), int(call.result->fields.size()));
         }
     }
 }
 
-void ResultViewTest::TreeShowsNameAndIdentifierOfListElements()
+TEST_F(RecordModelTest, TreeShowsNameAndIdentifierOfListElements)
 {
-    RecordModel model;
-    const auto first = [&model](const CallOutcome& outcome) {
-        model.SetRecord(*outcome.call->result, Shared(outcome.record));
+    const auto first = [this](const CallOutcome& outcome) {
+        Set(outcome);
         return model.index(0, RecordModel::ValueColumn, model.index(0, 0)).data().toString();
     };
-    QCOMPARE(first(view_test::ParkingLots()), QString::fromUtf8("Headquarters \xC2\xB7 1"));
-    QCOMPARE(first(view_test::DeviceCategories()), QStringLiteral("deviceCategory: 1"));  // no name, no identifier
+    EXPECT_EQ(first(view_test::ParkingLots()), QString::fromUtf8("Headquarters \xC2\xB7 1"));
+    EXPECT_EQ(first(view_test::DeviceCategories()), QStringLiteral("deviceCategory: 1"));  // no name, no identifier
 }
 
-void ResultViewTest::TreeFilterKeepsParentsAndChildrenOfMatches()
+TEST_F(RecordModelTest, TreeFilterKeepsParentsAndChildrenOfMatches)
 {
-    RecordModel model;
-    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     const CallOutcome outcome = view_test::ParkingLots();
-    model.SetRecord(*outcome.call->result, Shared(outcome.record));
+    Set(outcome);
     model.Filter(QStringLiteral("MAIN gate"));
-    QCOMPARE(model.Matches(), 3);  // a position, its point and its reference point
+    EXPECT_EQ(model.Matches(), 3);  // a position, its point and its reference point
     const QModelIndex root = model.index(0, 0);
-    QCOMPARE(model.rowCount(root), 1);
+    EXPECT_EQ(model.rowCount(root), 1);
     const QModelIndex lot = model.index(0, 0, root);
-    QCOMPARE(lot.data().toString(), QStringLiteral("[0]"));
-    QCOMPARE(model.rowCount(lot), 1);
+    EXPECT_EQ(lot.data().toString(), QStringLiteral("[0]"));
+    EXPECT_EQ(model.rowCount(lot), 1);
     const QModelIndex positions = model.index(0, 0, lot);
-    QCOMPARE(positions.data().toString(), QStringLiteral("positions"));
-    QCOMPARE(model.rowCount(positions), 1);
-    QCOMPARE(model.Path(model.index(0, 0, positions)), QStringLiteral("/0/positions/0"));
+    EXPECT_EQ(positions.data().toString(), QStringLiteral("positions"));
+    EXPECT_EQ(model.rowCount(positions), 1);
+    EXPECT_EQ(model.Path(model.index(0, 0, positions)), QStringLiteral("/0/positions/0"));
 
     model.Filter(QStringLiteral("positions"));
-    QCOMPARE(model.rowCount(model.index(0, 0)), 3);
+    EXPECT_EQ(model.rowCount(model.index(0, 0)), 3);
     const QModelIndex all = model.index(0, 0, model.index(0, 0, model.index(0, 0)));
-    QCOMPARE(model.rowCount(all), 2);  // complete, although none of its children matches
-    QVERIFY(model.rowCount(model.index(1, 0, all)) > 1);
+    EXPECT_EQ(model.rowCount(all), 2);  // complete, although none of its children matches
+    EXPECT_TRUE(model.rowCount(model.index(1, 0, all)) > 1);
 
     model.Filter(QStringLiteral("no such text"));
-    QCOMPARE(model.rowCount(), 0);
-    QCOMPARE(model.Matches(), 0);
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_EQ(model.Matches(), 0);
     model.Filter(QString());
-    QCOMPARE(model.rowCount(model.index(0, 0)), 3);
+    EXPECT_EQ(model.rowCount(model.index(0, 0)), 3);
 }
 
-void ResultViewTest::FindKeyFocusesTreeFilter()
+TEST_F(ResultViewTest, FindKeyFocusesTreeFilter)
 {
-    ResultView view;
     view.show();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     view.Show(view_test::ParkingLots());
-    auto& tree = *view.findChild<QTreeView*>(QStringLiteral("record"));
+    auto& tree = Child<QTreeView>(view, "record");
     tree.setFocus();
     QTest::keyClick(&tree, Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("ramp"));
-    QTRY_COMPARE(view.findChild<QLabel*>(QStringLiteral("recordMatches"))->text(), QStringLiteral("Matches: 1"));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return Child<QLabel>(view, "recordMatches").text() == QStringLiteral("Matches: 1"); }));
     const QModelIndex root = tree.model()->index(0, 0);
-    QCOMPARE(tree.model()->rowCount(root), 1);
-    QVERIFY(tree.isExpanded(tree.model()->index(0, 0, root)));
+    EXPECT_EQ(tree.model()->rowCount(root), 1);
+    EXPECT_TRUE(tree.isExpanded(tree.model()->index(0, 0, root)));
 }
 
-void ResultViewTest::CopiesValuePathAndSubtree()
+TEST_F(ResultViewTest, CopiesValuePathAndSubtree)
 {
-    ResultView view;
     const CallOutcome outcome = view_test::ParkingLots();
     view.Show(outcome);
-    auto& tree = *view.findChild<QTreeView*>(QStringLiteral("record"));
+    auto& tree = Child<QTreeView>(view, "record");
     const QAbstractItemModel& model = *tree.model();
     const QModelIndex lot = model.index(1, 0, model.index(0, 0));
     const auto copied = [&tree](const QModelIndex& index, const char* action) {
@@ -284,152 +243,105 @@ void ResultViewTest::CopiesValuePathAndSubtree()
         tree.findChild<QAction*>(QLatin1String(action))->trigger();
         return QGuiApplication::clipboard()->text();
     };
-    QCOMPARE(copied(model.index(1, 1, lot), "copyValue"), QStringLiteral("Underground car park"));
-    QCOMPARE(copied(model.index(1, 0, lot), "copyPath"), QStringLiteral("/1/parkingLotName"));
-    QCOMPARE(json::parse(copied(lot, "copySubtree").toStdString()), outcome.record[1]);
-    QCOMPARE(json::parse(copied(lot, "copyValue").toStdString()), outcome.record[1]);
+    EXPECT_EQ(copied(model.index(1, 1, lot), "copyValue"), QStringLiteral("Underground car park"));
+    EXPECT_EQ(copied(model.index(1, 0, lot), "copyPath"), QStringLiteral("/1/parkingLotName"));
+    EXPECT_EQ(json::parse(copied(lot, "copySubtree").toStdString()), outcome.record[1]);
+    EXPECT_EQ(json::parse(copied(lot, "copyValue").toStdString()), outcome.record[1]);
 }
 
-namespace {
+struct Reply {
+    const char* name;
+    const char* call;
+    const char* data;
+    bool isReadable;
+    const char* marked;  // paths of the marked fields
+};
+class MissingFieldsTest : public ResultViewTest, public testing::WithParamInterface<Reply> {};
 
-/// Appends the paths of the values that the tree marks as missing in the reply.
-void AddMarked(const RecordModel& model, const QModelIndex& parent, QStringList& marked)
+TEST_P(MissingFieldsTest, AreMarkedInTheTree)
 {
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        if (model.index(row, RecordModel::ValueColumn, parent)
-                .data()
-                .toString()
-                .contains(QLatin1String("(not in the reply)"))) {
-            marked.append(model.Path(index));
-        }
-        AddMarked(model, index, marked);
-    }
-}
-
-QStringList MarkedIn(const ResultView& view)
-{
-    QStringList marked;
-    const auto* pTree = view.findChild<QTreeView*>(QStringLiteral("record"));
-    AddMarked(*qobject_cast<RecordModel*>(pTree->model()), {}, marked);
-    return marked;
-}
-
-}  // namespace
-
-void ResultViewTest::MarksFieldsMissingInReply_data()
-{
-    QTest::addColumn<QString>("call");
-    QTest::addColumn<QString>("data");
-    QTest::addColumn<QStringList>("marked");
-    QTest::newRow("identifier that only the request contains")
-        << QStringLiteral("BRMS.GetImageConfig")
-        << QStringLiteral(R"({"brightness": 0, "saturation": 50, "contrast": "55", "sharpness": 40})")
-        << QStringList{QStringLiteral("/channelId")};
-    QTest::newRow("every element of a list")
-        << QStringLiteral("BRMS.GetEncodeConfig") << QStringLiteral(R"({"encodeConfigurations": [
-            {"streamType": 1, "bitRate": 0, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
-             "iFrameInterval": 50, "height": 0, "width": 0},
-            {"streamType": 2, "bitRate": 9, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
-             "iFrameInterval": 50, "height": 0, "width": 0}]})")
-        << QStringList{QStringLiteral("/0/channelId"), QStringLiteral("/1/channelId")};
-    QTest::newRow("complete reply") << QStringLiteral("BRMS.GetRemoteLogConfig")
-                                    << QStringLiteral(R"({"enable": false, "ip": "", "port": 0, "platformId": ""})")
-                                    << QStringList{};
-    QTest::newRow("key differs from the field name")
-        << QStringLiteral("BRMS.GetDeviceLoginModel") << QStringLiteral(R"({"deviceLoginModel": 0})") << QStringList{};
-    QTest::newRow("empty list in the reply")
-        << QStringLiteral("BRMS.GetMultiCastConfig") << QStringLiteral(R"({"status": false, "streams": []})")
-        << QStringList{QStringLiteral("/channelId")};
-}
-
-namespace {
-
-/// The outcome of a read whose reply contains this data.
-CallOutcome Replied(const QString& call, const QString& data)
-{
-    CallOutcome outcome = view_test::Succeeded(call.toLatin1().constData(), "{}", "null");
+    CallOutcome outcome = view_test::Succeeded(GetParam().call, "{}", "null");
     const catalogue::Value record(*outcome.call->result);
-    const QJsonObject object = QJsonDocument::fromJson(data.toUtf8()).object();
+    const QJsonObject object = QJsonDocument::fromJson(GetParam().data).object();
     outcome.succeeded = outcome.call->parse(object, record.Data()) == 0;
     outcome.record = record.ToJson();
     outcome.missing = FindMissingFields(*outcome.call, object, outcome.record, outcome.succeeded);
-    return outcome;
-}
-
-}  // namespace
-
-void ResultViewTest::MarksFieldsMissingInReply()
-{
-    QFETCH(QString, call);
-    QFETCH(QString, data);
-    QFETCH(QStringList, marked);
-    const CallOutcome outcome = Replied(call, data);
-    QVERIFY(outcome.succeeded);
-    ResultView view;
+    EXPECT_EQ(outcome.succeeded, GetParam().isReadable);
     view.Show(outcome);
-    QCOMPARE(MarkedIn(view), marked);
+
+    const auto& model = *qobject_cast<RecordModel*>(Child<QTreeView>(view, "record").model());
+    QStringList paths;
+    const QModelIndexList marked =
+        model.match(model.index(0, RecordModel::ValueColumn), Qt::DisplayRole, QStringLiteral("(not in the reply)"), -1,
+                    Qt::MatchContains | Qt::MatchRecursive);
+    for (const QModelIndex& index : marked) {
+        paths.append(model.Path(index));
+    }
+    EXPECT_EQ(paths.join(QLatin1Char(' ')).toStdString(), GetParam().marked);
 }
 
-void ResultViewTest::MarksFieldsFromUnreadableKeyOn()
-{
-    const CallOutcome outcome = Replied(QStringLiteral("BRMS.GetRemoteLogConfig"),
-                                        QStringLiteral(R"({"enable": false, "ip": "10.0.0.1", "platformId": "p"})"));
-    QVERIFY(!outcome.succeeded);
-    ResultView view;
-    view.Show(outcome);
-    QCOMPARE(MarkedIn(view), (QStringList{QStringLiteral("/port"), QStringLiteral("/platformId")}));
-}
+constexpr Reply kReplies[] = {
+    {"IdentifierThatOnlyTheRequestContains", "BRMS.GetImageConfig",
+     R"({"brightness": 0, "saturation": 50, "contrast": "55", "sharpness": 40})", true, "/channelId"},
+    {"EveryElementOfAList", "BRMS.GetEncodeConfig", R"({"encodeConfigurations": [
+         {"streamType": 1, "bitRate": 0, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
+          "iFrameInterval": 50, "height": 0, "width": 0},
+         {"streamType": 2, "bitRate": 9, "bitRateControl": 0, "compression": 7, "enable": 1, "frameRate": 25,
+          "iFrameInterval": 50, "height": 0, "width": 0}]})",
+     true, "/0/channelId /1/channelId"},
+    {"CompleteReply", "BRMS.GetRemoteLogConfig", R"({"enable": false, "ip": "", "port": 0, "platformId": ""})", true,
+     ""},
+    {"KeyThatDiffersFromTheFieldName", "BRMS.GetDeviceLoginModel", R"({"deviceLoginModel": 0})", true, ""},
+    {"EmptyListInTheReply", "BRMS.GetMultiCastConfig", R"({"status": false, "streams": []})", true, "/channelId"},
+    {"FieldsFromAnUnreadableKeyOn", "BRMS.GetRemoteLogConfig",
+     R"({"enable": false, "ip": "10.0.0.1", "platformId": "p"})", false, "/port /platformId"},
+};
+INSTANTIATE_TEST_SUITE_P(Replies, MissingFieldsTest, testing::ValuesIn(kReplies), RowName());
 
-void ResultViewTest::TreeColumnsFitNamesAndTypes()
+TEST_F(ResultViewTest, TreeColumnsFitNamesAndTypes)
 {
     constexpr QSize kSmallPane(560, 400);
-    ResultView view;
     view.resize(kSmallPane);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
     view.Show(view_test::AlarmLinkage());
     auto& tree = *view.findChild<QTreeView*>();
     for (const int column : {RecordModel::NameColumn, RecordModel::TypeColumn}) {
         const int width = tree.columnWidth(column);
         tree.resizeColumnToContents(column);
-        QVERIFY(width >= tree.columnWidth(column));
+        EXPECT_TRUE(width >= tree.columnWidth(column));
     }
-    QCOMPARE(tree.header()->length(), tree.viewport()->width());
+    EXPECT_EQ(tree.header()->length(), tree.viewport()->width());
 }
 
-void ResultViewTest::ExpandsOnlyFirstLevelOfLargeRecord()
+TEST_F(ResultViewTest, ExpandsOnlyFirstLevelOfLargeRecord)
 {
     CallOutcome outcome = view_test::ParkingLots();
     const json lots = outcome.record;
-    ResultView view;
     view.Show(outcome);
     const auto& tree = *view.findChild<QTreeView*>();
     const QModelIndex firstLot = tree.model()->index(0, 0, tree.model()->index(0, 0));
-    QVERIFY(tree.isExpanded(firstLot));
+    EXPECT_TRUE(tree.isExpanded(firstLot));
 
     for (int times = 0; times < 20; ++times) {
         outcome.record.insert(outcome.record.end(), lots.begin(), lots.end());
     }
     view.Show(outcome);
-    QVERIFY(tree.isExpanded(tree.model()->index(0, 0)));
-    QVERIFY(!tree.isExpanded(tree.model()->index(0, 0, tree.model()->index(0, 0))));
+    EXPECT_TRUE(tree.isExpanded(tree.model()->index(0, 0)));
+    EXPECT_FALSE(tree.isExpanded(tree.model()->index(0, 0, tree.model()->index(0, 0))));
 }
 
-void ResultViewTest::CopiesCompleteJson()
+TEST_F(ResultViewTest, CopiesCompleteJson)
 {
     CallOutcome outcome = view_test::Succeeded("BRMS.GetDeriveToken", "{}", "\"\"");
     constexpr std::size_t kLong = 600000;
     outcome.record = std::string(kLong, 'x');
-    ResultView view;
     view.Show(outcome);
     auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(JsonTab));
-    QVERIFY(page.findChild<QPlainTextEdit*>()->toPlainText().size() < int(kLong));
-    page.findChild<QPushButton*>(QStringLiteral("copyText"))->click();
-    QCOMPARE(json::parse(QGuiApplication::clipboard()->text().toStdString()), outcome.record);
+    ASSERT_TRUE(page.findChild<QPlainTextEdit*>()->toPlainText().size() < int(kLong));
+    Child<QPushButton>(page, "copyText").click();
+    EXPECT_EQ(json::parse(QGuiApplication::clipboard()->text().toStdString()), outcome.record);
 }
-
-namespace {
 
 /// Numbered lines: "line 0", "line 1" and so on.
 QString Lines(int count)
@@ -448,85 +360,83 @@ QString Selected(const CodeView& view)
 
 QString CountOf(const CodeView& view)
 {
-    return view.findChild<QLabel*>(QStringLiteral("findCount"))->text();
+    return Child<QLabel>(view, "findCount").text();
 }
 
-}  // namespace
-
-void ResultViewTest::JsonCanBeSearchedByKeyboard()
+TEST(CodeViewTest, JsonCanBeSearchedByKeyboard)
 {
     CodeView view(CodeView::Kind::Json, QString());
     view.SetText(QStringLiteral("Gate, GATE and gate"));
     view.show();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     const auto& edit = *view.findChild<QPlainTextEdit*>();
     view.findChild<QPlainTextEdit*>()->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
-    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("find"));
+    ASSERT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("find"));
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("gate"));
-    QCOMPARE(CountOf(view), QStringLiteral("1 of 3"));
-    QCOMPARE(Selected(view), QStringLiteral("Gate"));
+    EXPECT_EQ(CountOf(view), QStringLiteral("1 of 3"));
+    EXPECT_EQ(Selected(view), QStringLiteral("Gate"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(Selected(view), QStringLiteral("GATE"));
+    EXPECT_EQ(Selected(view), QStringLiteral("GATE"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
-    QCOMPARE(Selected(view), QStringLiteral("gate"));
+    EXPECT_EQ(Selected(view), QStringLiteral("gate"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
-    QCOMPARE(CountOf(view), QStringLiteral("1 of 3"));
+    EXPECT_EQ(CountOf(view), QStringLiteral("1 of 3"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3, Qt::ShiftModifier);
-    QCOMPARE(CountOf(view), QStringLiteral("3 of 3"));
+    EXPECT_EQ(CountOf(view), QStringLiteral("3 of 3"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ShiftModifier);
-    QCOMPARE(CountOf(view), QStringLiteral("2 of 3"));
-    QCOMPARE(edit.textCursor().selectionStart(), 6);
+    EXPECT_EQ(CountOf(view), QStringLiteral("2 of 3"));
+    EXPECT_EQ(edit.textCursor().selectionStart(), 6);
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
-    QCOMPARE(CountOf(view), QStringLiteral("No match"));
-    QVERIFY(!view.findChild<QToolButton*>(QStringLiteral("findNext"))->isEnabled());
+    EXPECT_EQ(CountOf(view), QStringLiteral("No match"));
+    EXPECT_FALSE(Child<QToolButton>(view, "findNext").isEnabled());
 
     // A new text is searched for the same pattern.
     view.SetText(QStringLiteral("a gatex"));
-    QCOMPARE(CountOf(view), QStringLiteral("0 of 1"));
+    EXPECT_EQ(CountOf(view), QStringLiteral("0 of 1"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
-    QCOMPARE(Selected(view), QStringLiteral("gatex"));
+    EXPECT_EQ(Selected(view), QStringLiteral("gatex"));
 }
 
-void ResultViewTest::SearchFindsTextOutsideTheShownPart()
+TEST(CodeViewTest, SearchFindsTextOutsideTheShownPart)
 {
     CodeView view(CodeView::Kind::Text, QString());
     view.SetText(Lines(60000));
     const auto& edit = *view.findChild<QPlainTextEdit*>();
-    QVERIFY(!edit.toPlainText().contains(QLatin1String("line 55555")));
-    view.findChild<QLineEdit*>(QStringLiteral("find"))->setText(QStringLiteral("line 55555"));
-    QCOMPARE(CountOf(view), QStringLiteral("1 of 1"));
-    QCOMPARE(Selected(view), QStringLiteral("line 55555"));
-    QCOMPARE(edit.textCursor().block().text(), QStringLiteral("line 55555"));
-    QVERIFY(edit.toPlainText().size() < view.Text().size());
+    EXPECT_FALSE(edit.toPlainText().contains(QLatin1String("line 55555")));
+    Child<QLineEdit>(view, "find").setText(QStringLiteral("line 55555"));
+    EXPECT_EQ(CountOf(view), QStringLiteral("1 of 1"));
+    EXPECT_EQ(Selected(view), QStringLiteral("line 55555"));
+    EXPECT_EQ(edit.textCursor().block().text(), QStringLiteral("line 55555"));
+    ASSERT_TRUE(edit.toPlainText().size() < view.Text().size());
 }
 
-void ResultViewTest::SearchSelectsMatchAfterCrLf()
+TEST(CodeViewTest, SearchSelectsMatchAfterCrLf)
 {
     CodeView view(CodeView::Kind::Text, QString());
     view.SetText(QStringLiteral("one\r\ntwo\r\nthree"));
-    view.findChild<QLineEdit*>(QStringLiteral("find"))->setText(QStringLiteral("three"));
-    QCOMPARE(Selected(view), QStringLiteral("three"));
+    Child<QLineEdit>(view, "find").setText(QStringLiteral("three"));
+    EXPECT_EQ(Selected(view), QStringLiteral("three"));
 }
 
-void ResultViewTest::ShowsCompleteLongTextOnDemand()
+TEST(CodeViewTest, ShowsCompleteLongTextOnDemand)
 {
     CodeView view(CodeView::Kind::Text, QString());
     const QString text = Lines(60000);
     view.SetText(text);
-    const auto& shortened = *view.findChild<QLabel*>(QStringLiteral("shortened"));
-    auto& all = *view.findChild<QPushButton*>(QStringLiteral("showAll"));
-    QCOMPARE(shortened.text(), QStringLiteral("Characters 1 to %1 of %2; search and copy cover the whole text.")
-                                   .arg(QLocale().toString(200000), QLocale().toString(text.size())));
-    QVERIFY(shortened.isVisibleTo(&view) && all.isVisibleTo(&view));
+    const auto& shortened = Child<QLabel>(view, "shortened");
+    auto& all = Child<QPushButton>(view, "showAll");
+    ASSERT_EQ(shortened.text(), QStringLiteral("Characters 1 to %1 of %2; search and copy cover the whole text.")
+                                    .arg(QLocale().toString(200000), QLocale().toString(text.size())));
+    EXPECT_TRUE(shortened.isVisibleTo(&view) && all.isVisibleTo(&view));
     all.click();
-    QCOMPARE(view.findChild<QPlainTextEdit*>()->toPlainText(), text);
-    QVERIFY(!shortened.isVisibleTo(&view) && !all.isVisibleTo(&view));
+    EXPECT_EQ(view.findChild<QPlainTextEdit*>()->toPlainText(), text);
+    EXPECT_TRUE(!shortened.isVisibleTo(&view) && !all.isVisibleTo(&view));
     view.SetText(Lines(3));
-    QVERIFY(!shortened.isVisibleTo(&view));
+    EXPECT_FALSE(shortened.isVisibleTo(&view));
 }
 
-void ResultViewTest::JsonColoursFollowThePalette()
+TEST(CodeViewTest, JsonColoursFollowThePalette)
 {
     QPlainTextEdit edit;
     const explorer::JsonHighlighter highlighter(edit);
@@ -541,220 +451,197 @@ void ResultViewTest::JsonColoursFollowThePalette()
     };
     edit.setPlainText(QStringLiteral(R"({"a": "b: 1", "c": -1.5e3, "d": null})"));
     const QList<QRgb> light = colours();
-    QCOMPARE(light.size(), 6);  // three keys, a string, a number and null
-    QCOMPARE(light[0], light[2]);
-    QCOMPARE(light[0], light[4]);
-    QVERIFY(light[0] != light[1] && light[1] != light[3] && light[3] != light[5]);
+    ASSERT_EQ(light.size(), 6);  // three keys, a string, a number and null
+    EXPECT_EQ(light[0], light[2]);
+    EXPECT_EQ(light[0], light[4]);
+    EXPECT_TRUE(light[0] != light[1] && light[1] != light[3] && light[3] != light[5]);
 
     edit.setPalette(view_test::DarkPalette());
     const QList<QRgb> dark = colours();
-    QCOMPARE(dark.size(), light.size());
-    QVERIFY(QColor(dark[0]).lightness() > QColor(light[0]).lightness());
+    ASSERT_EQ(dark.size(), light.size());
+    EXPECT_TRUE(QColor(dark[0]).lightness() > QColor(light[0]).lightness());
 }
 
-void ResultViewTest::TableHasRowForEachElement()
+TEST_F(RecordTableTest, TableHasRowForEachElement)
 {
-    RecordTable table;
-    Set(table, view_test::DeviceCategories());
-    const QTableView& view = TableOf(table);
-    QCOMPARE(view.model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("deviceCategory"));
-    QCOMPARE(view.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("deviceCount"));
-    QCOMPARE(RowsOf(view), (QList<QStringList>{{QStringLiteral("1"), QStringLiteral("412")},
-                                               {QStringLiteral("5"), QStringLiteral("36")},
-                                               {QStringLiteral("8"), QStringLiteral("7")},
-                                               {QStringLiteral("34"), QStringLiteral("1250")}}));
-    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("Rows: 4"));
+    Set(view_test::DeviceCategories());
+    EXPECT_EQ(view.model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("deviceCategory"));
+    EXPECT_EQ(view.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("deviceCount"));
+    EXPECT_EQ(RowsOf(*view.model()), (QStringList{QStringLiteral("1|412"), QStringLiteral("5|36"),
+                                                  QStringLiteral("8|7"), QStringLiteral("34|1250")}));
+    EXPECT_EQ(Child<QLabel>(table, "rows").text(), QStringLiteral("Rows: 4"));
 }
 
-void ResultViewTest::ColumnsSortByValue()
+TEST_F(RecordTableTest, ColumnsSortByValue)
 {
-    RecordTable table;
-    Set(table, view_test::DeviceCategories());
-    QTableView& view = TableOf(table);
+    Set(view_test::DeviceCategories());
     view.sortByColumn(1, Qt::AscendingOrder);
-    QCOMPARE(ColumnOf(view, "deviceCount"),
-             (QStringList{QStringLiteral("7"), QStringLiteral("36"), QStringLiteral("412"), QStringLiteral("1250")}));
+    EXPECT_EQ(ColumnOf(view, "deviceCount"),
+              (QStringList{QStringLiteral("7"), QStringLiteral("36"), QStringLiteral("412"), QStringLiteral("1250")}));
     view.sortByColumn(1, Qt::DescendingOrder);
-    QCOMPARE(ColumnOf(view, "deviceCount").constFirst(), QStringLiteral("1250"));
+    EXPECT_EQ(ColumnOf(view, "deviceCount").constFirst(), QStringLiteral("1250"));
 
     // A new record is shown in its original order.
-    Set(table, view_test::ParkingLots());
-    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
+    Set(view_test::ParkingLots());
+    EXPECT_EQ(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
     view.sortByColumn(ColumnNamed(view, "positions"), Qt::AscendingOrder);
-    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
+    EXPECT_EQ(ColumnOf(view, "id"), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
     view.sortByColumn(ColumnNamed(view, "parkingLotName"), Qt::DescendingOrder);
-    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1")}));
+    EXPECT_EQ(ColumnOf(view, "id"), (QStringList{QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1")}));
 }
 
-void ResultViewTest::TextsSortNaturally()
+TEST_F(RecordTableTest, TextsSortNaturally)
 {
-    RecordTable table;
-    Set(table, view_test::Succeeded("BRMS.GetMemoryOutOfServerList", "{}",
-                                    R"(["10", "9", "b", "A", "18446744073709551616", "Gate 10", "gate 9",
+    Set(view_test::Succeeded("BRMS.GetMemoryOutOfServerList", "{}",
+                             R"(["10", "9", "b", "A", "18446744073709551616", "Gate 10", "gate 9",
                                         "1000021$1$0$10", "1000021$1$0$2"])"));
-    QTableView& view = TableOf(table);
     view.sortByColumn(0, Qt::AscendingOrder);
-    QCOMPARE(ColumnOf(view, "Value"),
-             (QStringList{QStringLiteral("9"), QStringLiteral("10"), QStringLiteral("1000021$1$0$2"),
-                          QStringLiteral("1000021$1$0$10"), QStringLiteral("18446744073709551616"), QStringLiteral("A"),
-                          QStringLiteral("b"), QStringLiteral("gate 9"), QStringLiteral("Gate 10")}));
+    EXPECT_EQ(
+        ColumnOf(view, "Value"),
+        (QStringList{QStringLiteral("9"), QStringLiteral("10"), QStringLiteral("1000021$1$0$2"),
+                     QStringLiteral("1000021$1$0$10"), QStringLiteral("18446744073709551616"), QStringLiteral("A"),
+                     QStringLiteral("b"), QStringLiteral("gate 9"), QStringLiteral("Gate 10")}));
 }
 
-void ResultViewTest::TableFilterSearchesEveryColumn()
+TEST_F(RecordTableTest, TableFilterSearchesEveryColumn)
 {
-    RecordTable table;
-    Set(table, view_test::ParkingLots());
-    const QTableView& view = TableOf(table);
-    auto& filter = *table.findChild<QLineEdit*>(QStringLiteral("filter"));
+    Set(view_test::ParkingLots());
+    auto& filter = Child<QLineEdit>(table, "filter");
     QTest::keyClicks(&filter, QStringLiteral("HEADQUARTERS"));
-    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
-    QCOMPARE(table.findChild<QLabel*>(QStringLiteral("rows"))->text(), QStringLiteral("Rows: 2 of 3"));
+    EXPECT_EQ(ColumnOf(view, "id"), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
+    EXPECT_EQ(Child<QLabel>(table, "rows").text(), QStringLiteral("Rows: 2 of 3"));
     filter.setText(QStringLiteral("240"));
-    QCOMPARE(ColumnOf(view, "id"), (QStringList{QStringLiteral("1")}));
+    EXPECT_EQ(ColumnOf(view, "id"), (QStringList{QStringLiteral("1")}));
     filter.setText(QStringLiteral(".*"));
-    QCOMPARE(view.model()->rowCount(), 0);
-    QVERIFY(!table.findChild<QPushButton*>(QStringLiteral("export"))->isEnabled());
-    Set(table, view_test::ParkingLots());
-    QCOMPARE(view.model()->rowCount(), 3);
+    EXPECT_EQ(view.model()->rowCount(), 0);
+    EXPECT_FALSE(Child<QPushButton>(table, "export").isEnabled());
+    Set(view_test::ParkingLots());
+    EXPECT_EQ(view.model()->rowCount(), 3);
 }
 
-void ResultViewTest::TotalsCoverOnlyVisibleRows()
+TEST_F(RecordTableTest, TotalsCoverOnlyVisibleRows)
 {
-    RecordTable table;
-    Set(table, view_test::ParkingLots());
-    const QTableView& view = TableOf(table);
+    Set(view_test::ParkingLots());
     const auto& totals = *table.findChild<explorer::TotalsRow*>();
     const auto total = [&](const char* column) { return totals.Total(ColumnNamed(view, column)); };
-    QCOMPARE(total("totalParkingSpaceCount"), QStringLiteral("329"));
-    QCOMPARE(total("idleParkingSpaceCount"), QStringLiteral("66"));
-    QCOMPARE(total("positions"), QStringLiteral("3"));
-    QCOMPARE(total("parkingLotMode"), QString());  // a code, not a count
-    QCOMPARE(total("id"), QString());
+    EXPECT_EQ(total("totalParkingSpaceCount"), QStringLiteral("329"));
+    EXPECT_EQ(total("idleParkingSpaceCount"), QStringLiteral("66"));
+    EXPECT_EQ(total("positions"), QStringLiteral("3"));
+    EXPECT_EQ(total("parkingLotMode"), QString());  // a code, not a count
+    EXPECT_EQ(total("id"), QString());
 
-    table.findChild<QLineEdit*>(QStringLiteral("filter"))->setText(QStringLiteral("car park"));
-    QCOMPARE(total("totalParkingSpaceCount"), QStringLiteral("80"));
+    Child<QLineEdit>(table, "filter").setText(QStringLiteral("car park"));
+    EXPECT_EQ(total("totalParkingSpaceCount"), QStringLiteral("80"));
 
-    Set(table, view_test::Succeeded("OMMS.GetAlertTypes", "{}", R"([{"alertTypeId": 1, "alertTypeName": "a"}])"));
-    QVERIFY(!totals.isVisibleTo(&table));
+    Set(view_test::Succeeded("OMMS.GetAlertTypes", "{}", R"([{"alertTypeId": 1, "alertTypeName": "a"}])"));
+    EXPECT_FALSE(totals.isVisibleTo(&table));
 }
 
-void ResultViewTest::TotalsAlignWithTheirColumns()
+TEST_F(RecordTableTest, TotalsAlignWithTheirColumns)
 {
-    RecordTable table;
-    Set(table, view_test::ParkingLots());
+    Set(view_test::ParkingLots());
     table.resize(500, 300);
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
-    QTableView& view = TableOf(table);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&table));
     const auto& cells = *table.findChild<explorer::TotalsRow*>()->findChild<QHeaderView*>();
     const auto compare = [&] {
         for (int column = 0; column < view.model()->columnCount(); ++column) {
             const QPoint above = view.viewport()->mapTo(&table, QPoint(view.columnViewportPosition(column), 0));
             const QPoint below = cells.viewport()->mapTo(&table, QPoint(cells.sectionViewportPosition(column), 0));
-            QCOMPARE(below.x(), above.x());
-            QCOMPARE(cells.sectionSize(column), view.columnWidth(column));
+            EXPECT_EQ(below.x(), above.x());
+            EXPECT_EQ(cells.sectionSize(column), view.columnWidth(column));
         }
     };
     compare();
     view.setColumnWidth(2, 200);
     compare();
     view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
-    QVERIFY(view.horizontalScrollBar()->value() > 0);
+    EXPECT_TRUE(view.horizontalScrollBar()->value() > 0);
     compare();
 }
 
-void ResultViewTest::ListCanBeChosenAmongSeveral()
+TEST_F(RecordTableTest, ListCanBeChosenAmongSeveral)
 {
-    RecordTable table;
-    Set(table, view_test::AlarmLinkage());
-    auto& list = *table.findChild<QComboBox*>(QStringLiteral("list"));
-    QCOMPARE(list.count(), 3);
-    QCOMPARE(list.currentText(), QStringLiteral("linkAlarmOutputChannels"));
-    QCOMPARE(ColumnOf(TableOf(table), "channelName"), (QStringList{QStringLiteral("Siren")}));
+    Set(view_test::AlarmLinkage());
+    auto& list = Child<QComboBox>(table, "list");
+    ASSERT_EQ(list.count(), 3);
+    EXPECT_EQ(list.currentText(), QStringLiteral("linkAlarmOutputChannels"));
+    EXPECT_EQ(ColumnOf(view, "channelName"), (QStringList{QStringLiteral("Siren")}));
     list.setCurrentIndex(2);
-    QCOMPARE(ColumnOf(TableOf(table), "channelName"), (QStringList{QStringLiteral("Speaker"), QStringLiteral("Horn")}));
+    EXPECT_EQ(ColumnOf(view, "channelName"), (QStringList{QStringLiteral("Speaker"), QStringLiteral("Horn")}));
     list.setCurrentIndex(1);
-    QCOMPARE(TableOf(table).model()->rowCount(), 0);
+    EXPECT_EQ(view.model()->rowCount(), 0);
 
-    Set(table, view_test::DeviceCategories());
-    QVERIFY(!list.isVisibleTo(&table));
+    Set(view_test::DeviceCategories());
+    EXPECT_FALSE(list.isVisibleTo(&table));
 }
 
-void ResultViewTest::PlainListsHaveOneColumn()
+TEST_F(RecordTableTest, PlainListsHaveOneColumn)
 {
-    RecordTable table;
-    Set(table, view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1, 20]"));
-    QCOMPARE(ColumnOf(TableOf(table), "Value"),
-             (QStringList{QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("20")}));
+    Set(view_test::Succeeded("BRMS.GetSupportDataBaseType", "{}", "[3, 1, 20]"));
+    EXPECT_EQ(ColumnOf(view, "Value"), (QStringList{QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("20")}));
 }
 
-void ResultViewTest::ExportsVisibleRowsInTheirOrder()
+TEST_F(RecordTableTest, ExportsVisibleRowsInTheirOrder)
 {
-    RecordTable table;
     CallOutcome outcome = view_test::AlarmLinkage();
     outcome.record["linkAudioChannels"][1]["channelName"] = "Horn, \"loud\"\nT\xC3\xBCr";
-    Set(table, outcome);
-    table.findChild<QComboBox*>(QStringLiteral("list"))->setCurrentIndex(2);
-    TableOf(table).sortByColumn(1, Qt::AscendingOrder);
+    Set(outcome);
+    Child<QComboBox>(table, "list").setCurrentIndex(2);
+    view.sortByColumn(1, Qt::AscendingOrder);
 
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(QStringLiteral("table.csv"));
-    QVERIFY(table.ExportTo(fileName));
+    EXPECT_TRUE(table.ExportTo(fileName));
     QFile file(fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("channelId,channelName,fileIds\r\n"
-                                        "1$4$0$1,\"Horn, \"\"loud\"\"\nT\xC3\xBCr\",c\r\n"
-                                        "1$4$0$0,Speaker,\"a,b\"\r\n"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray("channelId,channelName,fileIds\r\n"
+                                         "1$4$0$1,\"Horn, \"\"loud\"\"\nT\xC3\xBCr\",c\r\n"
+                                         "1$4$0$0,Speaker,\"a,b\"\r\n"));
 
-    table.findChild<QLineEdit*>(QStringLiteral("filter"))->setText(QStringLiteral("Speaker"));
-    QCOMPARE(table.ToCsv().count("\r\n"), 2);
+    Child<QLineEdit>(table, "filter").setText(QStringLiteral("Speaker"));
+    EXPECT_EQ(table.ToCsv().count("\r\n"), 2);
 
-    Set(table, view_test::ParkingLots());  // nested lists are exported as JSON
-    QVERIFY(table.ToCsv().contains(R"("[{""id"":""31"",""points"":[],""positionName"":""Ramp"",""remark"":""""}]")"));
+    Set(view_test::ParkingLots());  // nested lists are exported as JSON
+    EXPECT_TRUE(
+        table.ToCsv().contains(R"("[{""id"":""31"",""points"":[],""positionName"":""Ramp"",""remark"":""""}]")"));
 }
-
-namespace {
 
 /// Enters a name in the next file dialog and confirms it.
 void AnswerFileDialog(RecordTable& table, const QString& fileName)
 {
     QTimer::singleShot(0, &table, [fileName] {
         auto* pDialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        QVERIFY(pDialog != nullptr);
+        ASSERT_TRUE(pDialog != nullptr);
         pDialog->findChild<QLineEdit*>()->setText(fileName);
         QTest::keyClick(pDialog->findChild<QLineEdit*>(), Qt::Key_Return);
     });
 }
 
-}  // namespace
-
-void ResultViewTest::ExportButtonAsksForFileName()
+TEST_F(RecordTableTest, ExportButtonAsksForFileName)
 {
-    RecordTable table;
-    Set(table, view_test::DeviceCategories());
+    Set(view_test::DeviceCategories());
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(QStringLiteral("devices.csv"));
     AnswerFileDialog(table, fileName);
-    table.findChild<QPushButton*>(QStringLiteral("export"))->click();
+    Child<QPushButton>(table, "export").click();
     QFile file(fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), table.ToCsv());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), table.ToCsv());
 }
 
-void ResultViewTest::ExportFailsWhenFileCannotBeWritten()
+TEST_F(RecordTableTest, ExportFailsWhenFileCannotBeWritten)
 {
-    RecordTable table;
-    Set(table, view_test::DeviceCategories());
+    Set(view_test::DeviceCategories());
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(QStringLiteral("devices.csv"));
-    QVERIFY(QDir().mkdir(fileName));
-    QVERIFY(!table.ExportTo(fileName));
-    QVERIFY(!table.ExportTo(QStringLiteral("/no/such/folder/table.csv")));
+    EXPECT_TRUE(QDir().mkdir(fileName));
+    EXPECT_FALSE(table.ExportTo(fileName));
+    EXPECT_FALSE(table.ExportTo(QStringLiteral("/no/such/folder/table.csv")));
 }
 
-void ResultViewTest::ShowsRawExchange()
+TEST_F(ResultViewTest, ShowsRawExchange)
 {
-    ResultView view;
     CallOutcome outcome = view_test::EncodeUpdate();
     outcome.request.headers = {{QStringLiteral("X-B"), QStringLiteral("2")}};
     outcome.request.body = "{}";
@@ -763,37 +650,35 @@ void ResultViewTest::ShowsRawExchange()
     view.Show(outcome);
     const auto& page = *qobject_cast<CodeView*>(view.findChild<QTabWidget*>()->widget(ExchangeTab));
     const QString sent = QStringLiteral("PUT ") + outcome.request.url + QStringLiteral("\nX-B: 2\n\n{}");
-    QCOMPARE(page.Text(), sent + QString::fromUtf8("\n\nHTTP 200\nX-A: 1\n\n"
-                                                   "{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
+    EXPECT_EQ(page.Text(), sent + QString::fromUtf8("\n\nHTTP 200\nX-A: 1\n\n"
+                                                    "{\"code\":1000,\n \"desc\": \"T\xC3\xBCr\"}"));
     outcome.reply.reset();
     view.Show(outcome);
-    QCOMPARE(page.Text(), sent);
+    EXPECT_EQ(page.Text(), sent);
     outcome.request.headers.clear();
     outcome.request.body.clear();
     view.Show(outcome);
-    QVERIFY(page.Text().endsWith(QStringLiteral("\n\nNothing was sent.")));
+    EXPECT_TRUE(page.Text().endsWith(QStringLiteral("\n\nNothing was sent.")));
 }
 
-void ResultViewTest::ShowsHintWithoutRecord()
+TEST_F(ResultViewTest, ShowsHintWithoutRecord)
 {
-    ResultView view;
-    QCOMPARE(HintOn(view, RecordTab), QStringLiteral("Run a call to see its result here."));
+    EXPECT_EQ(HintOn(view, RecordTab), QStringLiteral("Run a call to see its result here."));
     view.Show(view_test::EncodeUpdate());
-    QCOMPARE(HintOn(view, RecordTab), QStringLiteral("This call returns no record."));
+    EXPECT_EQ(HintOn(view, RecordTab), QStringLiteral("This call returns no record."));
     view.Show(view_test::Succeeded("BRMS.GetDeviceLoginModel", "{}", "1"));
-    QCOMPARE(HintOn(view, RecordTab), QString());
-    QCOMPARE(HintOn(view, TableTab), QStringLiteral("There is no list in this record."));
+    EXPECT_EQ(HintOn(view, RecordTab), QString());
+    EXPECT_EQ(HintOn(view, TableTab), QStringLiteral("There is no list in this record."));
     view.Show(view_test::ParkingLots());
-    QCOMPARE(HintOn(view, TableTab), QString());
+    EXPECT_EQ(HintOn(view, TableTab), QString());
     view.Clear();
-    QCOMPARE(HintOn(view, TableTab), QStringLiteral("Run a call to see its result here."));
+    EXPECT_EQ(HintOn(view, TableTab), QStringLiteral("Run a call to see its result here."));
 }
 
-void ResultViewTest::Screenshots()
+TEST_F(ResultViewTest, Screenshots)
 {
     using view_test::TakeScreenshots;
     const QSize size(700, 420);
-    ResultView view;
     auto& tabs = *view.findChild<QTabWidget*>();
     TakeScreenshots(view, QStringLiteral("result-empty"), size);
     view.Show(view_test::AlarmLinkage());
@@ -813,9 +698,4 @@ void ResultViewTest::Screenshots()
     TakeScreenshots(view, QStringLiteral("result-cut-short"), size);
 }
 
-int main(int argc, char** argv)
-{
-    return view_test::Run<ResultViewTest>(argc, argv);
-}
-
-#include "result_view_test.moc"
+}  // namespace

@@ -1,30 +1,31 @@
 #pragma once
 
-#include "support/TestApplication.h"
+#include <QPalette>
+#include <QTest>
+#include <QWidget>
 
-#include <QtTest>
+#include <gtest/gtest.h>
 
-#include <string>
-
-/// Lets QCOMPARE print a std::string when it fails.
-inline char* toString(const std::string& text)
+/// Lets an assertion that fails print the text.
+inline void PrintTo(const QString& text, std::ostream* pStream)
 {
-    return QTest::toString(QString::fromStdString(text));
+    *pStream << '"' << text.toStdString() << '"';
 }
 
 namespace view_test {
 
-/// The body of a test program's main.
-template <typename Test>
-int Run(int argc, char** argv)
+/// The child with that name; of several, the one at that place.
+template <typename Widget>
+Widget& Child(const QWidget& parent, const char* name, int place = 0)
 {
-    const testing_support::TestApplication application(argc, argv);
-    constexpr int kPoints = 10;
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), kPoints));
-    QApplication::setOrganizationName(QStringLiteral("view-test"));
-    Test test;
-    return QTest::qExec(&test, argc, argv);
+    return *parent.findChildren<Widget*>(QLatin1String(name)).at(place);
 }
+
+QPalette LightPalette();
+QPalette DarkPalette();
+
+/// Shows the widget in the dark palette, then in the light one, and saves a screenshot of each in the build folder.
+/// The application keeps the light palette.
+void TakeScreenshots(QWidget& widget, const QString& name, QSize size);
 
 }  // namespace view_test

@@ -1,9 +1,8 @@
-#include "Screenshots.h"
+#include "ViewTest.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QStyle>
-#include <QtTest>
 
 namespace view_test {
 
@@ -28,17 +27,17 @@ QPalette DarkPalette()
 void TakeScreenshots(QWidget& widget, const QString& name, QSize size)
 {
     const QDir folder(QStringLiteral(SCREENSHOT_FOLDER));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
+    ASSERT_TRUE(folder.mkpath(QStringLiteral(".")));
     widget.resize(size);
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
     const QString density = widget.devicePixelRatio() > 1 ? QStringLiteral("@2x") : QString();
     for (const bool dark : {true, false}) {
         QApplication::setPalette(dark ? DarkPalette() : LightPalette());
         QCoreApplication::processEvents();
         const QPixmap picture = widget.grab();
-        QCOMPARE(picture.size(), size * widget.devicePixelRatio());
-        QVERIFY(picture.save(
+        EXPECT_EQ(picture.size(), size * widget.devicePixelRatio());
+        ASSERT_TRUE(picture.save(
             folder.filePath(name + QLatin1String(dark ? "-dark" : "-light") + density + QLatin1String(".png"))));
     }
 }
