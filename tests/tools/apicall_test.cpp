@@ -3,7 +3,9 @@
 #include "support/RawServer.h"
 #include "support/Rows.h"
 
+#include <apicall/Help.h>
 #include <catalogue/Call.h>
+#include <Contract.h>
 #include <PlatformEmulator.h>
 
 #include <APIModule.h>
@@ -18,6 +20,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <regex>
 #include <sstream>
 
@@ -278,10 +281,12 @@ TEST(Help, ReportsThatACallHasNoArgumentsAndNoResult)
 
 TEST(Help, DescribesEveryCall)
 {
+    const auto contract = emulator::Contract::Load(emulator::DefaultShareFolder() / "contract");
     for (const auto& call : catalogue::Calls()) {
-        const ProgramResult ended = Apicall({QStringLiteral("--help"), QString::fromStdString(call.name)});
-        EXPECT_EQ(ended.status, 0);
-        EXPECT_EQ(ended.out.rfind(call.name, 0), 0U) << ended.out;
+        const emulator::Operation& operation = contract.operation(call.name);
+        const std::string help = apicall::HelpFor(call, &operation);
+        EXPECT_EQ(help.rfind(call.name, 0), 0U) << help;
+        EXPECT_TRUE(Contains(help, "\n\n" + operation.method + " " + operation.path + "\n\nArguments:")) << help;
     }
 }
 
@@ -339,9 +344,24 @@ struct SchemeRow {
     bool https;
 };
 
+/// The tests of a scheme share an emulator, which is reset before each test.
 class Calls : public testing::TestWithParam<SchemeRow> {
 protected:
-    Calls() : m_platform(Options()) { m_platform.start(); }
+    static void SetUpTestSuite()
+    {
+        emulator::Options options;
+        options.token = kToken;
+        s_platform = std::make_unique<emulator::PlatformEmulator>(options);
+        s_platform->start();
+    }
+    static void TearDownTestSuite() { s_platform.reset(); }
+
+    Calls()
+    {
+        Platform().reset();
+        Platform().clearRequests();
+        Platform().clearFaults();
+    }
 
     ProgramResult Run(const QStringList& arguments, const QByteArray& input = {})
     {
@@ -372,28 +392,21 @@ protected:
 
     [[nodiscard]] QStringList Server() const
     {
-        const QString url = GetParam().https ? QStringLiteral("https://127.0.0.1:%1").arg(m_platform.httpsPort())
-                                             : QStringLiteral("http://127.0.0.1:%1").arg(m_platform.httpPort());
+        const QString url = GetParam().https ? QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort())
+                                             : QStringLiteral("http://127.0.0.1:%1").arg(Platform().httpPort());
         return {QStringLiteral("--server"), url};
     }
 
-    emulator::PlatformEmulator& Platform() { return m_platform; }
+    static emulator::PlatformEmulator& Platform() { return *s_platform; }
 
     void AddFault(json fault)
     {
         fault["path"] = "/brms";
-        m_platform.addFault(emulator::Fault::FromJson(fault));
+        Platform().addFault(emulator::Fault::FromJson(fault));
     }
 
 private:
-    static emulator::Options Options()
-    {
-        emulator::Options options;
-        options.token = kToken;
-        return options;
-    }
-
-    emulator::PlatformEmulator m_platform;
+    static inline std::unique_ptr<emulator::PlatformEmulator> s_platform;
 };
 
 INSTANTIATE_TEST_SUITE_P(Schemes, Calls, testing::Values(SchemeRow{"Http", false}, SchemeRow{"Https", true}),

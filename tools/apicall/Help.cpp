@@ -2,8 +2,6 @@
 
 #include "Texts.h"
 
-#include <Contract.h>
-
 #include <algorithm>
 #include <sstream>
 
@@ -14,27 +12,6 @@ using catalogue::Call;
 using catalogue::Kind;
 using catalogue::Translated;
 using catalogue::Type;
-
-/// The contract's documentation of a call.
-struct Documentation {
-    std::string endpoint;
-    std::string description;
-    emulator::Descriptions allowed;
-    emulator::Descriptions sent;
-    emulator::Descriptions received;
-};
-
-Documentation ReadDocumentation(const std::filesystem::path& contract, const std::string& call)
-{
-    try {
-        const emulator::Contract loaded = emulator::Contract::Load(contract);
-        const emulator::Operation& operation = loaded.operation(call);
-        return {operation.method + ' ' + operation.path, operation.description, operation.allowed, operation.sent,
-                operation.received};
-    } catch (const emulator::ContractError&) {
-        return {};
-    }
-}
 
 /// The fields of a record, or of a list's element type.
 const std::vector<catalogue::Field>& FieldsOf(const Type& type)
@@ -73,18 +50,23 @@ std::string ListOfCalls()
     return out.str();
 }
 
-std::string HelpFor(const Call& call, const std::filesystem::path& contract)
+std::string HelpFor(const Call& call, const emulator::Operation* operation)
 {
-    const Documentation documentation = ReadDocumentation(contract, call.name);
     std::ostringstream out;
     out << call.name << " (" << Translated(call.subject) << ")\n" << Translated(call.summary) << "\n\n";
-    if (!documentation.description.empty()) {
-        out << documentation.description << "\n\n" << documentation.endpoint << "\n\n";
+    emulator::Descriptions sent;
+    emulator::Descriptions allowed;
+    emulator::Descriptions received;
+    if (operation != nullptr) {
+        out << operation->description << "\n\n" << operation->method << ' ' << operation->path << "\n\n";
+        sent = operation->sent;
+        allowed = operation->allowed;
+        received = operation->received;
     }
 
     out << Filled(call.arguments.empty() ? Texts::tr("Arguments: none") : Texts::tr("Arguments:")) << '\n';
     for (const catalogue::Argument& argument : call.arguments) {
-        WriteValue(out, "  ", argument.name, *argument.type, documentation.sent, documentation.allowed);
+        WriteValue(out, "  ", argument.name, *argument.type, sent, allowed);
     }
 
     out << '\n';
@@ -93,7 +75,7 @@ std::string HelpFor(const Call& call, const std::filesystem::path& contract)
     } else {
         out << Filled(Texts::tr("Result: %1"), NameOf(*call.result)) << '\n';
         for (const catalogue::Field& field : FieldsOf(*call.result)) {
-            WriteValue(out, "  ", field.name, *field.type, documentation.received, {});
+            WriteValue(out, "  ", field.name, *field.type, received, {});
         }
     }
     return out.str();

@@ -90,9 +90,15 @@ std::string HandshakeHint(const QString& networkError)
                : std::string();
 }
 
-std::string HelpFor(const std::string& call)
+std::string HelpFor(const std::string& name)
 {
-    return apicall::HelpFor(NamedCall(call), emulator::DefaultShareFolder() / "contract");
+    const catalogue::Call& call = NamedCall(name);
+    try {
+        const auto contract = emulator::Contract::Load(emulator::DefaultShareFolder() / "contract");
+        return apicall::HelpFor(call, &contract.operation(call.name));
+    } catch (const emulator::ContractError&) {
+        return apicall::HelpFor(call, nullptr);
+    }
 }
 
 /// Initialises the library for one server and uninitialises it at the end.
