@@ -5,8 +5,6 @@
 #include "transport/Probe.h"
 #include "transport/Server.h"
 
-#include <QElapsedTimer>
-
 #include <sched.h>
 
 #include <array>
@@ -62,15 +60,6 @@ std::vector<NamedClient> InOrder(bool bLarge)
     return {bLarge ? all.qtWithJson : all.qt, all.library, bLarge ? all.qt : all.qtWithJson, all.curl, all.httplib};
 }
 
-Values Time(Client& client, const Exchange& exchange)
-{
-    QElapsedTimer clock;
-    clock.start();
-    client.Run(exchange);
-    constexpr double kPerSecond = 1e9;
-    return {{kSeconds, double(clock.nsecsElapsed()) / kPerSecond}};
-}
-
 /// Checks that all contenders return the same data. This also opens their connections.
 void Compare(const std::vector<NamedClient>& clients, const Exchange& exchange)
 {
@@ -90,7 +79,7 @@ void RegisterCall(const std::string& work, int nRounds, const std::vector<NamedC
     for (const NamedClient& named : clients) {
         contenders.push_back({named.name, [=] {
                                   std::call_once(*pCompare, [&] { Compare(clients, exchange); });
-                                  return Time(*named.client, exchange);
+                                  return Time([&] { named.client->Run(exchange); });
                               }});
     }
     RegisterAlternating(work, nRounds, std::move(contenders));

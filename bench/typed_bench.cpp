@@ -8,14 +8,11 @@
 #include <Call.h>
 #include <IPMS/IPMSModule.h>
 
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QTimer>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -33,15 +30,6 @@ int ParseNothing(const QJsonObject& /*data*/, APIModule::NoRecord& /*record*/)
 
 constexpr APIModule::Call<&PackExchange, &ParseNothing> ReadSettings;
 constexpr APIModule::Call<&PackExchange, &APIModule::CIPMSModule::ParseGetDetailParkingLots> ReadLots;
-
-Values Time(const std::function<void()>& work)
-{
-    QElapsedTimer clock;
-    clock.start();
-    work();
-    constexpr double kPerSecond = 1e9;
-    return {{kSeconds, double(clock.nsecsElapsed()) / kPerSecond}};
-}
 
 std::function<Values()> TimeOf(std::function<void()> work)
 {
@@ -116,25 +104,16 @@ void RegisterAtOnce(const Server& server)
         {{kQt, TimeOf([=] { SendAllByQt(*pManager, exchange); })}, {kLibrary, TimeOf([=] { StartAll(exchange); })}});
 }
 
-/// The longest stall of the event loop, in milliseconds.
-double Stall(const std::function<void(QEventLoop&)>& begin)
+/// Measures the longest stall of the event loop that @p begin is given, until its work quits the loop.
+std::function<Values()> StallOf(std::function<void(QEventLoop&)> begin)
 {
-    QEventLoop loop;
-    QElapsedTimer clock;
-    QTimer timer;
-    timer.setTimerType(::Qt::PreciseTimer);
-    qint64 nLongest = 0;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        nLongest = std::max(nLongest, clock.nsecsElapsed());
-        clock.start();
-    });
-    timer.start(1);
-    clock.start();
-    begin(loop);
-    loop.exec();
-    nLongest = std::max(nLongest, clock.nsecsElapsed());
-    constexpr double kPerMillisecond = 1e6;
-    return double(nLongest) / kPerMillisecond;
+    return [begin = std::move(begin)] {
+        return Stall([&begin] {
+            QEventLoop loop;
+            begin(loop);
+            loop.exec();
+        });
+    };
 }
 
 void RegisterStall(const Server& server)
@@ -162,13 +141,7 @@ void RegisterStall(const Server& server)
         });
     };
     RegisterAlternating("records of 10 MB, longest stall", kRounds,
-                        {{std::string(kQtWithJson) + "+Parse",
-                          [=] {
-                              return Values{{"stall_ms", Stall(byQt)}};
-                          }},
-                         {kLibrary, [=] {
-                              return Values{{"stall_ms", Stall(byStart)}};
-                          }}});
+                        {{std::string(kQtWithJson) + "+Parse", StallOf(byQt)}, {kLibrary, StallOf(byStart)}});
 }
 
 }  // namespace

@@ -5,11 +5,8 @@
 #include "transport/Server.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QTimer>
 #include <QWidget>
 
-#include <algorithm>
 #include <ctime>
 #include <functional>
 #include <memory>
@@ -21,13 +18,6 @@ namespace {
 
 constexpr double kMilliPerSecond = 1e3;
 constexpr int kWaitMilliseconds = 2000;
-
-void Idle(int nMilliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(nMilliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 /// A window under the wait dialog.
 class Window : public QWidget {
@@ -46,29 +36,7 @@ public:
 /// Processor time of all threads of the process, in seconds.
 double ProcessorSeconds()
 {
-    std::timespec time{};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    constexpr double kNanoPerSecond = 1e9;
-    return double(time.tv_sec) + double(time.tv_nsec) / kNanoPerSecond;
-}
-
-/// The delays of a timer's ticks during the wait, in milliseconds and in ascending order.
-std::vector<double> Lateness(int nInterval, const std::function<void()>& wait)
-{
-    std::vector<double> lateness;
-    QElapsedTimer clock;
-    QTimer timer;
-    timer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        constexpr double kNanoPerMilli = 1e6;
-        lateness.push_back(double(clock.nsecsElapsed()) / kNanoPerMilli - nInterval);
-        clock.start();
-    });
-    timer.start(nInterval);
-    clock.start();
-    wait();
-    std::sort(lateness.begin(), lateness.end());
-    return lateness;
+    return double(std::clock()) / CLOCKS_PER_SEC;
 }
 
 /// The processor time of a wait, and its effect on the frames of an animation.
@@ -114,15 +82,10 @@ void RegisterWaits(const Server& server)
 
 void RegisterStall(const Server& server)
 {
-    constexpr int kTick = 1;
     constexpr int kRounds = 3;
     const Exchange exchange = Get(false, server.Port(false), "/lots/2600");
     const auto stall = [=](const std::shared_ptr<Client>& pClient) {
-        const auto run = [=] {
-            pClient->Run(exchange);
-            Idle(2 * kTick);  // for the tick that the end of the call delayed
-        };
-        return [=] { return Values{{"stall_ms", Lateness(kTick, run).back()}}; };
+        return [=] { return Stall(RunOf(pClient, exchange)); };
     };
     RegisterAlternating("reply of 10 MB, longest stall", kRounds,
                         {{kQtWithJson, stall(MakeQtWithJson())}, {kLibrary, stall(MakeLibrary())}});

@@ -1,5 +1,9 @@
 #include "Alternation.h"
 
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -93,6 +97,50 @@ private:
 };
 
 }  // namespace
+
+Values Time(const std::function<void()>& work)
+{
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    constexpr double kPerSecond = 1e9;
+    return {{kSeconds, double(clock.nsecsElapsed()) / kPerSecond}};
+}
+
+std::vector<double> Lateness(int nInterval, const std::function<void()>& work)
+{
+    std::vector<double> lateness;
+    QElapsedTimer clock;
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        constexpr double kNanoPerMilli = 1e6;
+        lateness.push_back(double(clock.nsecsElapsed()) / kNanoPerMilli - nInterval);
+        clock.start();
+    });
+    timer.start(nInterval);
+    clock.start();
+    work();
+    std::sort(lateness.begin(), lateness.end());
+    return lateness;
+}
+
+Values Stall(const std::function<void()>& work)
+{
+    constexpr int kTick = 1;
+    const auto all = [&work] {
+        work();
+        Idle(2 * kTick);  // for the tick that the end of the work delayed
+    };
+    return {{"stall_ms", Lateness(kTick, all).back()}};
+}
+
+void Idle(int nMilliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(nMilliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 void RegisterAlternating(const std::string& work, int nRounds, std::vector<Contender> contenders)
 {

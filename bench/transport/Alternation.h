@@ -11,6 +11,18 @@ namespace bench {
 using Values = std::map<std::string, double>;
 constexpr const char* kSeconds = "seconds";
 
+/// The duration of the work.
+Values Time(const std::function<void()>& work);
+
+/// The delays of a timer's ticks while the work runs the event loop, in milliseconds and in ascending order.
+std::vector<double> Lateness(int nInterval, const std::function<void()>& work);
+
+/// The longest stall of the event loop that the work runs, in milliseconds.
+Values Stall(const std::function<void()>& work);
+
+/// Runs the event loop for this time.
+void Idle(int nMilliseconds);
+
 /// A contender, which is measured alternately with others.
 struct Contender {
     std::string name;

@@ -55,8 +55,7 @@ std::unique_ptr<Client> MakeQt();
 /// The same, and parses the reply's text as JSON.
 std::unique_ptr<Client> MakeQtWithJson();
 /// The library as a host uses it, including log lines to a file. Waits show a dialog over @p pParent.
-std::unique_ptr<Client> MakeLibrary(QWidget* pParent);
-std::unique_ptr<Client> MakeLibrary();
+std::unique_ptr<Client> MakeLibrary(QWidget* pParent = nullptr);
 /// The request of the library's client as a Pack, with the log line of the families' Packs.
 int PackExchange(void* pReqParamData, const Exchange& exchange, int nServerId);
 /// Sets the exchange's server as the server of the library's calls.

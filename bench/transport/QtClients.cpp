@@ -202,9 +202,4 @@ std::unique_ptr<Client> MakeLibrary(QWidget* pParent)
     return std::make_unique<Library>(pParent);
 }
 
-std::unique_ptr<Client> MakeLibrary()
-{
-    return MakeLibrary(nullptr);
-}
-
 }  // namespace bench
