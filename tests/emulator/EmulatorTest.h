@@ -7,6 +7,17 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
+constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
+
+/// An emulator that is started on free ports, or on those of its options.
+class RunningEmulator : public emulator::PlatformEmulator {
+public:
+    explicit RunningEmulator(const emulator::Options& options = {}) : PlatformEmulator(options) { start(); }
+};
+
 inline std::unique_ptr<TestClient> ClientOf(const emulator::PlatformEmulator& platform,
                                             TestClient::Scheme scheme = TestClient::Scheme::Http,
                                             const std::string& token = emulator::kDefaultToken)
@@ -15,29 +26,56 @@ inline std::unique_ptr<TestClient> ClientOf(const emulator::PlatformEmulator& pl
     return std::make_unique<TestClient>(scheme, port, token);
 }
 
-/// Starts a new emulator for each test, on free ports.
+/// Adds a fault in the format of the control path.
+inline void AddFault(emulator::PlatformEmulator& platform, const Json& fault)
+{
+    platform.addFault(emulator::Fault::FromJson(fault));
+}
+
+/// Starts a new emulator for each test.
 class EmulatorTest : public testing::Test {
 protected:
-    EmulatorTest() { m_platform.start(); }
-
-    emulator::PlatformEmulator m_platform;
+    RunningEmulator m_platform;
 };
 
-/// Shares one emulator between all rows of a table and resets it to its seeds for each.
+/// Shares one emulator between all rows of a table, with its seeds and without recorded requests before each.
 class EmulatorTableTest : public testing::Test {
 protected:
-    EmulatorTableTest() { m_platform.reset(); }
+    EmulatorTableTest()
+    {
+        m_platform.reset();
+        m_platform.clearRequests();
+    }
 
-    emulator::PlatformEmulator& m_platform = shared();
+    RunningEmulator& m_platform = shared();
 
 private:
-    static emulator::PlatformEmulator& shared()
+    static RunningEmulator& shared()
     {
-        static emulator::PlatformEmulator platform;
-        static const bool started = (platform.start(), true);
-        EXPECT_TRUE(started);
+        static RunningEmulator platform;
         return platform;
     }
+};
+
+/// A temporary folder, removed after the test.
+class Folder {
+public:
+    Folder()
+    {
+        std::string name = std::filesystem::temp_directory_path() / "emulator-test-XXXXXX";
+        m_path = ::mkdtemp(name.data());
+    }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    Folder(Folder&&) = delete;
+    Folder& operator=(Folder&&) = delete;
+    ~Folder() { std::filesystem::remove_all(m_path); }
+
+    void write(const std::string& name, const std::string& text) const { std::ofstream(m_path / name) << text; }
+    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
 };
 
 using testing_support::RowName;

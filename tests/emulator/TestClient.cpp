@@ -149,13 +149,14 @@ void TestClient::abort()
     m_private->abort();
 }
 
-RawConnection::RawConnection(int port) : m_socket(::socket(AF_INET, SOCK_STREAM, 0))
+RawConnection::RawConnection(int port, std::string_view text) : m_socket(::socket(AF_INET, SOCK_STREAM, 0))
 {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     m_isOpen = ::connect(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    send(text);
 }
 
 RawConnection::~RawConnection()
@@ -198,8 +199,7 @@ std::string RawConnection::receiveUntil(const std::string& text)
 
 std::string SendRaw(int port, const std::string& text, bool halfClose)
 {
-    RawConnection connection(port);
-    connection.send(text);
+    RawConnection connection(port, text);
     if (halfClose) {
         connection.shutdownSending();
     }

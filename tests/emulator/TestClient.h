@@ -61,7 +61,8 @@ private:
 /// A TCP connection over which a test sends any bytes.
 class RawConnection {
 public:
-    explicit RawConnection(int port);
+    /// Connects and sends the text.
+    explicit RawConnection(int port, std::string_view text = {});
     ~RawConnection();
     RawConnection(const RawConnection&) = delete;
     RawConnection& operator=(const RawConnection&) = delete;

@@ -16,7 +16,6 @@ using std::chrono::steady_clock;
 namespace {
 
 constexpr std::size_t kLarge = 64UL * 1024 * 1024;
-constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 const std::string kGet =
     "GET /brms/api/v1.1/config/time-sync HTTP/1.1\r\nHost: a\r\nX-Subject-Token: emulator-token\r\n";
 
@@ -47,11 +46,9 @@ emulator::Options WithReadTimeout(milliseconds time)
 
 class ReadTimeoutTest : public testing::Test {
 protected:
-    ReadTimeoutTest() { m_platform.start(); }
-
     static constexpr milliseconds kTime{300};
 
-    emulator::PlatformEmulator m_platform{WithReadTimeout(kTime)};
+    RunningEmulator m_platform{WithReadTimeout(kTime)};
 };
 
 TEST_F(ReadTimeoutTest, SilentConnectionIsClosed)
@@ -64,8 +61,7 @@ TEST_F(ReadTimeoutTest, SilentConnectionIsClosed)
 
 TEST_F(ReadTimeoutTest, IdleConnectionIsClosedAfterReply)
 {
-    RawConnection connection(m_platform.httpPort());
-    connection.send(kGet + "\r\n");
+    RawConnection connection(m_platform.httpPort(), kGet + "\r\n");
     EXPECT_NE(connection.receiveUntil("}}").find("\"code\":1000"), std::string::npos);
     EXPECT_EQ(connection.receiveUntil({}), "");
     EXPECT_FALSE(connection.isReset());
@@ -74,8 +70,7 @@ TEST_F(ReadTimeoutTest, IdleConnectionIsClosedAfterReply)
 TEST_F(ReadTimeoutTest, RequestThatArrivesTooSlowlyIsClosed)
 {
     for (const std::string& start : {kGet + "X: ", kGet + "Content-Length: 1000000\r\n\r\n"}) {
-        RawConnection connection(m_platform.httpPort());
-        connection.send(start);
+        RawConnection connection(m_platform.httpPort(), start);
         std::thread dribble([&connection] {
             while (connection.send("x")) {
                 std::this_thread::sleep_for(kTime / 10);
@@ -99,9 +94,8 @@ TEST_F(ReadTimeoutTest, RequestsThatArriveInTimeAreServed)
 
 TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterReplyThatIsReadSlowly)
 {
-    m_platform.addFault(emulator::Fault::FromJson({{"kind", "text"}, {"body", std::string(kLarge, 'x')}}));
-    RawConnection connection(m_platform.httpPort());
-    connection.send(kGet + "\r\n");
+    AddFault(m_platform, {{"kind", "text"}, {"body", std::string(kLarge, 'x')}});
+    RawConnection connection(m_platform.httpPort(), kGet + "\r\n");
     EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
     std::this_thread::sleep_for(2 * kTime);
     const auto begin = steady_clock::now();
@@ -111,7 +105,7 @@ TEST_F(ReadTimeoutTest, ConnectionIsClosedAfterReplyThatIsReadSlowly)
 
 TEST_F(ReadTimeoutTest, ReplyMayTakeLongerThanReadTimeout)
 {
-    m_platform.addFault(emulator::Fault::FromJson({{"kind", "delay"}, {"delayMs", (3 * kTime).count()}, {"times", 2}}));
+    AddFault(m_platform, {{"kind", "delay"}, {"delayMs", (3 * kTime).count()}, {"times", 2}});
     EXPECT_EQ(ClientOf(m_platform)->get(kTimeSync).code(), 1000);
     EXPECT_EQ(ClientOf(m_platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
 }
@@ -125,7 +119,7 @@ TEST(ManyConnectionsTest, IdleConnectionsTakeNoThreadAndAreClosed)
     const std::size_t threads = ThreadsOfThisProcess();
     std::list<RawConnection> idle;
     for (std::size_t i = 0; i < kIdle; ++i) {
-        idle.emplace_back(i % 2 == 0 ? platform.httpPort() : platform.httpsPort()).send(i % 4 == 0 ? kGet : "");
+        idle.emplace_back(i % 2 == 0 ? platform.httpPort() : platform.httpsPort(), i % 4 == 0 ? kGet : "");
     }
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
     EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
@@ -141,13 +135,12 @@ TEST(ManyConnectionsTest, HangingRequestsTakeNoThread)
 {
     constexpr std::size_t kHanging = 1000;
     AllowManyFiles();
-    emulator::PlatformEmulator platform;
-    platform.start();
+    RunningEmulator platform;
     const std::size_t threads = ThreadsOfThisProcess();
-    platform.addFault(emulator::Fault::FromJson({{"kind", "silent"}, {"times", static_cast<int>(kHanging)}}));
+    AddFault(platform, {{"kind", "silent"}, {"times", static_cast<int>(kHanging)}});
     std::list<RawConnection> hanging;
     for (std::size_t i = 0; i < kHanging; ++i) {
-        hanging.emplace_back(platform.httpPort()).send(kGet + "\r\n");
+        hanging.emplace_back(platform.httpPort(), kGet + "\r\n");
     }
     ASSERT_TRUE(platform.waitForRequests(kHanging, seconds(60)));
     EXPECT_EQ(ThreadsOfThisProcess(), threads);
@@ -158,69 +151,68 @@ TEST(ManyConnectionsTest, HangingRequestsTakeNoThread)
     }
 }
 
-TEST(ConnectionTest, PipelinedRequestIsServedAfterDelayedOne)
+class ConnectionTest : public EmulatorTest {};
+
+TEST_F(ConnectionTest, PipelinedRequestIsServedAfterDelayedOne)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
-    platform.addFault(emulator::Fault::FromJson({{"kind", "delay"}, {"delayMs", 200}}));
-    const std::string replies = SendRaw(platform.httpPort(), kGet + "\r\n" + kGet + "Connection: close\r\n\r\n");
+    AddFault(m_platform, {{"kind", "delay"}, {"delayMs", 200}});
+    const std::string replies = SendRaw(m_platform.httpPort(), kGet + "\r\n" + kGet + "Connection: close\r\n\r\n");
     EXPECT_NE(replies.find("\"code\":1000", replies.find("\"code\":1000") + 1), std::string::npos) << replies;
-    EXPECT_EQ(platform.requests().size(), 2U);
+    EXPECT_EQ(m_platform.requests().size(), 2U);
 }
 
-TEST(ConnectionTest, HalfCloseEndsHangingRequest)
+TEST_F(ConnectionTest, HalfCloseEndsHangingRequest)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
-    platform.addFault(emulator::Fault::FromJson({{"kind", "silent"}}));
-    EXPECT_EQ(SendRaw(platform.httpPort(), kGet + "\r\n", true), "");
-    EXPECT_EQ(platform.requests().size(), 1U);
-    EXPECT_EQ(platform.requests().front().status, 0);
+    AddFault(m_platform, {{"kind", "silent"}});
+    EXPECT_EQ(SendRaw(m_platform.httpPort(), kGet + "\r\n", true), "");
+    EXPECT_EQ(m_platform.requests().size(), 1U);
+    EXPECT_EQ(m_platform.requests().front().status, 0);
 }
 
-TEST(ConnectionTest, ResetFaultResetsTheConnection)
+TEST_F(ConnectionTest, ResetFaultResetsTheConnection)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
-    ASSERT_EQ(ClientOf(platform)->post("/emulator/v1/faults", Json{{"kind", "reset"}}).status, 201);
-    RawConnection connection(platform.httpPort());
-    connection.send(kGet + "\r\n");
+    ASSERT_EQ(ClientOf(m_platform)->post("/emulator/v1/faults", Json{{"kind", "reset"}}).status, 201);
+    RawConnection connection(m_platform.httpPort(), kGet + "\r\n");
     EXPECT_EQ(connection.receiveUntil({}), "");
     EXPECT_TRUE(connection.isReset());
-    EXPECT_EQ(platform.requests().back().status, 0);
+    EXPECT_EQ(m_platform.requests().back().status, 0);
 
-    platform.addFault(emulator::Fault::FromJson({{"kind", "closeBefore"}}));
-    RawConnection other(platform.httpPort());
-    other.send(kGet + "\r\n");
+    AddFault(m_platform, {{"kind", "closeBefore"}});
+    RawConnection other(m_platform.httpPort(), kGet + "\r\n");
     EXPECT_EQ(other.receiveUntil({}), "");
     EXPECT_FALSE(other.isReset());
 }
 
-TEST(ConnectionTest, TruncatedReplyHasFullContentLengthAndHalfOfTheBody)
+TEST_F(ConnectionTest, TruncatedReplyHasFullContentLengthAndHalfOfTheBody)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
-    const std::string whole = ClientOf(platform)->get(kTimeSync).body;
-    platform.addFault(emulator::Fault::FromJson({{"kind", "closeMiddle"}}));
-    RawConnection connection(platform.httpPort());
-    connection.send(kGet + "\r\n");
+    const std::string whole = ClientOf(m_platform)->get(kTimeSync).body;
+    AddFault(m_platform, {{"kind", "closeMiddle"}});
+    RawConnection connection(m_platform.httpPort(), kGet + "\r\n");
     const std::string reply = connection.receiveUntil({});
     EXPECT_NE(reply.find("Content-Length: " + std::to_string(whole.size()) + "\r\n"), std::string::npos) << reply;
     EXPECT_EQ(reply.substr(reply.find("\r\n\r\n") + 4), whole.substr(0, whole.size() / 2));
     EXPECT_FALSE(connection.isReset());
 }
 
-TEST(ConnectionTest, StopsWhileClientDoesNotReadItsReply)
+TEST_F(ConnectionTest, StopsWhileClientDoesNotReadItsReply)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
-    platform.addFault(emulator::Fault::FromJson({{"kind", "text"}, {"body", std::string(kLarge, 'x')}}));
-    RawConnection connection(platform.httpPort());
-    connection.send(kGet + "\r\n");
+    AddFault(m_platform, {{"kind", "text"}, {"body", std::string(kLarge, 'x')}});
+    RawConnection connection(m_platform.httpPort(), kGet + "\r\n");
     EXPECT_NE(connection.receiveUntil("\r\n\r\n").find("200 OK"), std::string::npos);
-    EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000) << "others are served meanwhile";
-    platform.stop();
+    EXPECT_EQ(ClientOf(m_platform)->get(kTimeSync).code(), 1000) << "others are served meanwhile";
+    m_platform.stop();
     EXPECT_LT(connection.receiveUntil({}).size(), kLarge);
+}
+
+/// The error when an emulator with these options starts; empty for none.
+std::string StartError(const emulator::Options& options)
+{
+    try {
+        const RunningEmulator platform(options);
+        return {};
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
 }
 
 struct UnusableAddress {
@@ -235,13 +227,7 @@ TEST_P(ListenTest, ReportsWhyItCannotListen)
 {
     emulator::Options options;
     options.address = GetParam().address;
-    emulator::PlatformEmulator platform(options);
-    try {
-        platform.start();
-        FAIL() << "listens on " << options.address;
-    } catch (const std::runtime_error& error) {
-        EXPECT_EQ(std::string(error.what()), GetParam().reason);
-    }
+    EXPECT_EQ(StartError(options), GetParam().reason);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -255,19 +241,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(PortTest, ReportsThatPortIsTaken)
 {
-    emulator::PlatformEmulator first;
-    first.start();
+    RunningEmulator first;
     for (const bool isHttps : {false, true}) {
         emulator::Options options;
         (isHttps ? options.httpsPort : options.httpPort) = first.httpPort();
-        emulator::PlatformEmulator second(options);
-        try {
-            second.start();
-            FAIL() << "two emulators listen on " << first.httpPort();
-        } catch (const std::runtime_error& error) {
-            EXPECT_EQ(std::string(error.what()),
-                      "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is in use");
-        }
+        EXPECT_EQ(StartError(options),
+                  "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is in use");
     }
 }
 
@@ -275,27 +254,23 @@ TEST(PortTest, ReportsMissingPermissionForPort)
 {
     emulator::Options options;
     options.httpPort = 1;
-    emulator::PlatformEmulator platform(options);
-    try {
-        platform.start();
+    const std::string error = StartError(options);
+    if (error.empty()) {
         GTEST_SKIP() << "this user may listen on any port";
-    } catch (const std::runtime_error& error) {
-        EXPECT_EQ(std::string(error.what()), "cannot listen on 127.0.0.1:1: permission denied");
     }
+    EXPECT_EQ(error, "cannot listen on 127.0.0.1:1: permission denied");
 }
 
 TEST(PortTest, PortIsFreeAgainAfterAStop)
 {
     emulator::Options options;
     {
-        emulator::PlatformEmulator first;
-        first.start();
+        const RunningEmulator first;
         EXPECT_EQ(ClientOf(first)->get(kTimeSync).code(), 1000);
         options.httpPort = first.httpPort();
         options.httpsPort = first.httpsPort();
     }
-    emulator::PlatformEmulator second(options);
-    second.start();
+    const RunningEmulator second(options);
     EXPECT_EQ(ClientOf(second)->get(kTimeSync).code(), 1000);
 }
 
@@ -303,7 +278,6 @@ TEST(PortTest, HostNameIsAcceptedAsAddress)
 {
     emulator::Options options;
     options.address = "localhost";
-    emulator::PlatformEmulator platform(options);
-    platform.start();
+    RunningEmulator platform(options);
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
 }

@@ -5,8 +5,6 @@
 #include "State.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <set>
 
 using emulator::Contract;
@@ -20,27 +18,6 @@ const Contract& RealContract()
     static const Contract contract = Contract::Load(emulator::Options().contract);
     return contract;
 }
-
-/// A temporary folder, removed after the test.
-class Folder {
-public:
-    Folder()
-    {
-        std::string name = std::filesystem::temp_directory_path() / "emulator-test-XXXXXX";
-        m_path = ::mkdtemp(name.data());
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    Folder(Folder&&) = delete;
-    Folder& operator=(Folder&&) = delete;
-    ~Folder() { std::filesystem::remove_all(m_path); }
-
-    void write(const std::string& name, const std::string& text) const { std::ofstream(m_path / name) << text; }
-    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 std::string FileWith(const std::string& value, const std::string& id = "T.Get", const std::string& path = "/t")
 {
@@ -201,8 +178,7 @@ paths:
 )");
     emulator::Options options;
     options.contract = folder.path();
-    emulator::PlatformEmulator platform(options);
-    platform.start();
+    const RunningEmulator platform(options);
     const auto client = ClientOf(platform);
     const Json door = {{"name", "Gate"}, {"open", true}};
     EXPECT_EQ(client->get("/door/7").data(), door);

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 constexpr const char* kFaults = "/emulator/v1/faults";
 constexpr const char* kState = "/emulator/v1/state";
 
@@ -307,8 +306,7 @@ TEST(ControlOffTest, ControlPathIsForbidden)
 {
     emulator::Options options;
     options.controlPath = false;
-    emulator::PlatformEmulator platform(options);
-    platform.start();
+    RunningEmulator platform(options);
     const auto client = ClientOf(platform);
     EXPECT_EQ(client->post(kFaults, Json{{"kind", "empty"}}).status, 403);
     EXPECT_EQ(client->get("/emulator/v1/state").status, 403);
@@ -319,8 +317,7 @@ TEST(ControlTokenTest, ControlPathRequiresItsToken)
 {
     emulator::Options options;
     options.controlToken = "the-tester";
-    emulator::PlatformEmulator platform(options);
-    platform.start();
+    RunningEmulator platform(options);
     for (const char* token : {"", "wrong", emulator::kDefaultToken}) {
         const auto client = ClientOf(platform, TestClient::Scheme::Http, token);
         for (const char* path : {kFaults, kState, "/emulator/v1/requests", "/emulator/v1/nothing"}) {
@@ -340,20 +337,9 @@ TEST(OptionsTest, ConfiguredTokenIsRequired)
 {
     emulator::Options options;
     options.token = "другой";
-    emulator::PlatformEmulator platform(options);
-    platform.start();
+    RunningEmulator platform(options);
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).status, 401);
     EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, options.token)->get(kTimeSync).code(), 1000);
-}
-
-TEST(OptionsTest, TakenPortIsRefused)
-{
-    emulator::PlatformEmulator first;
-    first.start();
-    emulator::Options options;
-    options.httpPort = first.httpPort();
-    emulator::PlatformEmulator second(options);
-    EXPECT_THROW(second.start(), std::runtime_error);
 }
 
 TEST(OptionsTest, StopsWithoutStart)
@@ -365,8 +351,7 @@ TEST(OptionsTest, StopsWithoutStart)
 
 TEST(OptionsTest, StopsAtOnceWithIdleConnections)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
+    RunningEmulator platform;
     const auto plain = ClientOf(platform);
     const auto secure = ClientOf(platform, TestClient::Scheme::Https);
     EXPECT_EQ(plain->get(kTimeSync).code(), 1000);

@@ -12,35 +12,48 @@ using std::chrono::steady_clock;
 
 namespace {
 
-constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 constexpr const char* kPrivacy = "/brms/api/v1.1/config/ai/privacy";
 constexpr milliseconds kLong{30'000};
-
-Fault FaultOf(Fault::Kind kind, const std::string& path = "/brms/")
-{
-    Fault fault;
-    fault.path = path;
-    fault.kind = kind;
-    return fault;
-}
 
 }  // namespace
 
 class FaultTest : public EmulatorTest, public testing::WithParamInterface<TestClient::Scheme> {
 protected:
+    enum Execution {
+        Executed,
+        NotExecuted
+    };
+
     Reply get() { return m_client->get(kTimeSync); }
-    /// Returns whether a write that hits the fault changes the state.
-    bool writeChangesState(const Fault& fault)
+
+    /// The reply to a call that hits the fault. Checks whether a write that hits it is executed, and that the next call
+    /// succeeds, on the same connection or a new one.
+    Reply replyWith(const Json& fault, Execution execution)
     {
-        m_platform.reset();
+        AddFault(m_platform, fault);
+        Reply reply = get();
         const Json before = m_platform.state();
-        m_platform.addFault(fault);
+        AddFault(m_platform, fault);
         ClientOf(m_platform, GetParam())->put(kPrivacy, {{"enable", 1}});
         m_platform.clearFaults();
-        return m_platform.state() != before;
+        EXPECT_EQ(m_platform.state() != before, execution == Executed);
+        m_platform.reset();
+        EXPECT_EQ(get().code(), 1000);
+        return reply;
     }
-    /// Expects the next call to succeed, on the same connection or a new one.
-    void expectRecovered() { EXPECT_EQ(get().code(), 1000); }
+
+    /// Sends a call that is still running when the request has arrived.
+    template <typename Call>
+    std::future<Reply> hanging(Call call)
+    {
+        std::future<Reply> reply = std::async(std::launch::async, call);
+        EXPECT_TRUE(m_platform.waitForRequests(2, kLong));
+        return reply;
+    }
+    std::future<Reply> hangingGet()
+    {
+        return hanging([this] { return get(); });
+    }
 
     std::unique_ptr<TestClient> m_client = ClientOf(m_platform, GetParam());
     const std::string m_normalBody = get().body;
@@ -51,21 +64,14 @@ INSTANTIATE_TEST_SUITE_P(Schemes, FaultTest, testing::Values(TestClient::Scheme:
 
 TEST_P(FaultTest, DelaysTheNormalReply)
 {
-    Fault fault = FaultOf(Fault::Kind::Delay);
-    fault.delay = milliseconds(300);
-    m_platform.addFault(fault);
     const auto begin = steady_clock::now();
-    EXPECT_EQ(get().body, m_normalBody);
-    EXPECT_GE(steady_clock::now() - begin, milliseconds(300));
-    EXPECT_TRUE(writeChangesState(fault));
-    expectRecovered();
+    EXPECT_EQ(replyWith({{"kind", "delay"}, {"delayMs", 300}}, Executed).body, m_normalBody);
+    EXPECT_GE(steady_clock::now() - begin, 2 * milliseconds(300)) << "a read and a write";
 }
 
 TEST_P(FaultTest, DelayCombinesWithOtherKinds)
 {
-    Fault fault = FaultOf(Fault::Kind::NotJson);
-    fault.delay = milliseconds(200);
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "notJson"}, {"delayMs", 200}});
     const auto begin = steady_clock::now();
     EXPECT_TRUE(get().json().is_discarded());
     EXPECT_GE(steady_clock::now() - begin, milliseconds(200));
@@ -74,98 +80,74 @@ TEST_P(FaultTest, DelayCombinesWithOtherKinds)
 TEST_P(FaultTest, SendsStatusWithHeadersAndBody)
 {
     for (const int status : {200, 204, 302, 401, 403, 404, 407, 500, 503, 599}) {
-        Fault fault = FaultOf(Fault::Kind::Status);
-        fault.status = status;
-        fault.headers = {{"WWW-Authenticate", "Basic realm=\"x\""}, {"Location", "/elsewhere"}};
-        fault.body = status == 204 ? "" : "text";
-        m_platform.addFault(fault);
-        const Reply reply = get();
+        const std::string body = status == 204 ? "" : "text";
+        const Reply reply =
+            replyWith({{"kind", "status"},
+                       {"status", status},
+                       {"headers", {{"WWW-Authenticate", "Basic realm=\"x\""}, {"Location", "/elsewhere"}}},
+                       {"body", body}},
+                      NotExecuted);
         EXPECT_EQ(reply.status, status);
-        EXPECT_EQ(reply.body, fault.body);
+        EXPECT_EQ(reply.body, body);
         EXPECT_EQ(reply.headers.find("WWW-Authenticate")->second, "Basic realm=\"x\"");
         EXPECT_EQ(reply.headers.find("Location")->second, "/elsewhere");
     }
-    EXPECT_FALSE(writeChangesState(FaultOf(Fault::Kind::Status)));
-    expectRecovered();
 }
 
 TEST_P(FaultTest, SendsEnvelopeWithCodeAndText)
 {
-    Fault fault = FaultOf(Fault::Kind::Envelope);
-    fault.code = -7;
-    fault.desc = "wörter \"und\" %s";
-    m_platform.addFault(fault);
-    const Reply reply = get();
+    const std::string desc = "wörter \"und\" %s";
+    const Reply reply = replyWith({{"kind", "envelope"}, {"code", -7}, {"desc", desc}}, NotExecuted);
     EXPECT_EQ(reply.status, 200);
-    EXPECT_EQ(reply.json(), (Json{{"code", -7}, {"desc", fault.desc}}));
-    EXPECT_FALSE(writeChangesState(fault));
-    expectRecovered();
+    EXPECT_EQ(reply.json(), (Json{{"code", -7}, {"desc", desc}}));
 }
 
 TEST_P(FaultTest, SendsEmptyBody)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::Empty));
-    const Reply reply = get();
+    const Reply reply = replyWith({{"kind", "empty"}}, NotExecuted);
     EXPECT_TRUE(reply.arrived);
     EXPECT_EQ(reply.status, 200);
     EXPECT_EQ(reply.body, "");
-    EXPECT_FALSE(writeChangesState(FaultOf(Fault::Kind::Empty)));
-    expectRecovered();
 }
 
 TEST_P(FaultTest, SendsTruncatedBodyAsCompleteHttpReply)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::Cut));
-    const Reply reply = get();
+    const Reply reply = replyWith({{"kind", "cut"}}, Executed);
     EXPECT_TRUE(reply.arrived);
     EXPECT_EQ(reply.status, 200);
     EXPECT_EQ(reply.body, m_normalBody.substr(0, m_normalBody.size() / 2));
     EXPECT_TRUE(reply.json().is_discarded());
-    EXPECT_TRUE(writeChangesState(FaultOf(Fault::Kind::Cut)));
-    expectRecovered();
 }
 
 TEST_P(FaultTest, SendsBodyThatIsNotJson)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::NotJson));
-    const Reply reply = get();
+    const Reply reply = replyWith({{"kind", "notJson"}}, NotExecuted);
     EXPECT_EQ(reply.status, 200);
     EXPECT_FALSE(reply.body.empty());
     EXPECT_TRUE(reply.json().is_discarded());
-    EXPECT_FALSE(writeChangesState(FaultOf(Fault::Kind::NotJson)));
-    expectRecovered();
 }
 
 TEST_P(FaultTest, SendsGivenText)
 {
-    Fault fault = FaultOf(Fault::Kind::Text);
-    fault.body = std::string(100'000, '[') + std::string(1, '\0') + "\xff";
-    m_platform.addFault(fault);
-    EXPECT_EQ(get().body, fault.body);
-    EXPECT_FALSE(writeChangesState(fault));
-    expectRecovered();
+    const std::string body = std::string(100'000, '[') + std::string(1, '\0') + "\xff";
+    EXPECT_EQ(replyWith({{"kind", "text"}, {"body", body}}, NotExecuted).body, body);
 }
 
 TEST_P(FaultTest, LargeBodyHasRequestedSizeAndNormalData)
 {
-    Fault fault = FaultOf(Fault::Kind::Large);
     for (const std::size_t size : {1'000UL, 5UL * 1024 * 1024}) {
-        fault.size = size;
-        m_platform.addFault(fault);
-        const Reply reply = get();
+        const Reply reply = replyWith({{"kind", "large"}, {"size", size}}, Executed);
         EXPECT_EQ(reply.body.size(), size);
         EXPECT_EQ(reply.data(), Json::parse(m_normalBody).at("data"));
     }
-    fault.size = 10;
-    m_platform.addFault(fault);
-    EXPECT_EQ(get().json(), Json::parse(m_normalBody)) << "never smaller than the normal reply";
-    EXPECT_TRUE(writeChangesState(fault));
-    expectRecovered();
+    EXPECT_EQ(replyWith({{"kind", "large"}, {"size", 10}}, Executed).json(), Json::parse(m_normalBody))
+        << "never smaller than the normal reply";
 }
 
 TEST_P(FaultTest, SendsHundredMegabytes)
 {
-    Fault fault = FaultOf(Fault::Kind::Text);
+    Fault fault;
+    fault.kind = Fault::Kind::Text;
     fault.body.assign(100UL * 1024 * 1024, 'x');
     m_platform.addFault(fault);
     EXPECT_EQ(get().body.size(), fault.body.size());
@@ -173,112 +155,86 @@ TEST_P(FaultTest, SendsHundredMegabytes)
 
 TEST_P(FaultTest, ClosesConnectionBeforeReply)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::CloseBefore));
-    EXPECT_FALSE(get().arrived);
+    AddFault(m_platform, {{"kind", "closeBefore"}});
+    get();
     EXPECT_EQ(m_platform.requests().back().status, 0);
-    EXPECT_FALSE(writeChangesState(FaultOf(Fault::Kind::CloseBefore)));
-    expectRecovered();
+    EXPECT_FALSE(replyWith({{"kind", "closeBefore"}}, NotExecuted).arrived);
 }
 
 TEST_P(FaultTest, ClosesConnectionInTheMiddleOfReply)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::CloseMiddle));
-    EXPECT_FALSE(get().arrived);
-    EXPECT_TRUE(writeChangesState(FaultOf(Fault::Kind::CloseMiddle)));
-    expectRecovered();
+    EXPECT_FALSE(replyWith({{"kind", "closeMiddle"}}, Executed).arrived);
 }
 
 TEST_P(FaultTest, SilenceLastsUntilClientDisconnects)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::Silent));
-    std::future<Reply> hanging = std::async(std::launch::async, [this] { return get(); });
-    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
+    AddFault(m_platform, {{"kind", "silent"}});
+    std::future<Reply> reply = hangingGet();
     EXPECT_EQ(ClientOf(m_platform, GetParam())->get(kTimeSync).code(), 1000) << "others are served meanwhile";
-    EXPECT_EQ(hanging.wait_for(milliseconds(100)), std::future_status::timeout);
+    EXPECT_EQ(reply.wait_for(milliseconds(100)), std::future_status::timeout);
     m_client->abort();
-    EXPECT_FALSE(hanging.get().arrived);
+    EXPECT_FALSE(reply.get().arrived);
     m_client = ClientOf(m_platform, GetParam());
-    expectRecovered();
+    EXPECT_EQ(get().code(), 1000);
 }
 
 TEST_P(FaultTest, SilenceLastsUntilEmulatorStops)
 {
-    m_platform.addFault(FaultOf(Fault::Kind::Silent));
-    std::future<Reply> hanging = std::async(std::launch::async, [this] { return get(); });
-    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
+    AddFault(m_platform, {{"kind", "silent"}});
+    std::future<Reply> reply = hangingGet();
     const auto begin = steady_clock::now();
     m_platform.stop();
-    EXPECT_FALSE(hanging.get().arrived);
+    EXPECT_FALSE(reply.get().arrived);
     EXPECT_LT(steady_clock::now() - begin, kLong);
 }
 
 TEST_P(FaultTest, DelayedWriteIsDroppedWhenClientDisconnects)
 {
-    Fault fault = FaultOf(Fault::Kind::Delay);
-    fault.delay = std::chrono::hours(1);
-    m_platform.addFault(fault);
-    std::future<Reply> hanging = std::async(std::launch::async, [this] {
-        return m_client->put(kPrivacy, {{"enable", 1}});
-    });
-    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
+    AddFault(m_platform, {{"kind", "delay"}, {"delayMs", 3'600'000}});
+    std::future<Reply> reply = hanging([this] { return m_client->put(kPrivacy, {{"enable", 1}}); });
     m_client->abort();
-    EXPECT_FALSE(hanging.get().arrived);
+    EXPECT_FALSE(reply.get().arrived);
     m_platform.stop();
     EXPECT_EQ(m_platform.state()["brms"]["aiPrivacy"]["enable"], 0);
 }
 
 TEST_P(FaultTest, ThrottlesTheNormalReply)
 {
-    Fault fault = FaultOf(Fault::Kind::Slow);
-    fault.bytesPerSecond = m_normalBody.size() * 5;
-    m_platform.addFault(fault);
+    const Json fault = {{"kind", "slow"}, {"bytesPerSecond", m_normalBody.size() * 5}};
+    AddFault(m_platform, fault);
     const auto begin = steady_clock::now();
     EXPECT_EQ(get().body, m_normalBody);
     EXPECT_GE(steady_clock::now() - begin, milliseconds(200));
     EXPECT_EQ(m_platform.connections(), 1U) << "the connection is kept";
-    EXPECT_TRUE(writeChangesState(fault));
-    expectRecovered();
+    EXPECT_EQ(replyWith(fault, Executed).body, m_normalBody);
 }
 
 TEST_P(FaultTest, ThrottlesToVeryLowAndVeryHighRates)
 {
-    Fault fault = FaultOf(Fault::Kind::Slow, "/brms/api/v1.1/user/group?ids=");
-    fault.bytesPerSecond = 1;
-    m_platform.addFault(fault);
-    std::future<Reply> hanging =
-        std::async(std::launch::async, [this] { return m_client->remove("/brms/api/v1.1/user/group?ids=nobody"); });
-    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
-    EXPECT_EQ(hanging.wait_for(std::chrono::seconds(2)), std::future_status::timeout);
+    AddFault(m_platform, {{"kind", "slow"}, {"path", "/brms/api/v1.1/user/group?ids="}, {"bytesPerSecond", 1}});
+    std::future<Reply> reply = hanging([this] { return m_client->remove("/brms/api/v1.1/user/group?ids=nobody"); });
+    EXPECT_EQ(reply.wait_for(std::chrono::seconds(2)), std::future_status::timeout);
     m_client->abort();
-    EXPECT_FALSE(hanging.get().arrived);
+    EXPECT_FALSE(reply.get().arrived);
 
-    fault = FaultOf(Fault::Kind::Slow);
-    fault.bytesPerSecond = 1024UL * 1024 * 1024;
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "slow"}, {"bytesPerSecond", 1024 * 1024 * 1024}});
     m_client = ClientOf(m_platform, GetParam());
     EXPECT_EQ(get().body, m_normalBody);
 }
 
 TEST_P(FaultTest, SlowReplyEndsWhenEmulatorStops)
 {
-    Fault fault = FaultOf(Fault::Kind::Slow);
-    fault.bytesPerSecond = 1;
-    m_platform.addFault(fault);
-    std::future<Reply> hanging = std::async(std::launch::async, [this] { return get(); });
-    ASSERT_TRUE(m_platform.waitForRequests(2, kLong));
+    AddFault(m_platform, {{"kind", "slow"}, {"bytesPerSecond", 1}});
+    std::future<Reply> reply = hangingGet();
     m_platform.stop();
-    EXPECT_FALSE(hanging.get().arrived);
+    EXPECT_FALSE(reply.get().arrived);
 }
 
 TEST(SlowFaultTest, SendsHeadFirstAndBodyInPieces)
 {
-    emulator::PlatformEmulator platform;
-    platform.start();
-    Fault fault = FaultOf(Fault::Kind::Slow, "");
-    fault.bytesPerSecond = 20;
-    platform.addFault(fault);
-    RawConnection connection(platform.httpPort());
-    connection.send("GET /brms/ HTTP/1.1\r\nHost: a\r\nConnection: close\r\n\r\n");
+    RunningEmulator platform;
+    AddFault(platform, {{"kind", "slow"}, {"bytesPerSecond", 20}});
+    RawConnection connection(platform.httpPort(), "GET /brms/ HTTP/1.1\r\nHost: a\r\nConnection: close\r\n\r\n");
     const std::string head = connection.receive();
     EXPECT_EQ(head.substr(head.size() - 4), "\r\n\r\n") << head;
     std::size_t pieces = 0;
@@ -296,10 +252,7 @@ protected:
     int codeOf(const std::string& target) { return m_client->get(target).code(); }
     void addEnvelope(const std::string& path, int code, int times)
     {
-        Fault fault = FaultOf(Fault::Kind::Envelope, path);
-        fault.code = code;
-        fault.times = times;
-        m_platform.addFault(fault);
+        AddFault(m_platform, {{"kind", "envelope"}, {"path", path}, {"code", code}, {"times", times}});
     }
 
     std::unique_ptr<TestClient> m_client = ClientOf(m_platform);
@@ -344,11 +297,7 @@ TEST_F(FaultListTest, PathPrefixMayIncludeQuery)
 
 TEST_F(FaultListTest, AppliesOnlyToItsMethod)
 {
-    addEnvelope(kPrivacy, 5, 1);
-    Fault fault = m_platform.faults().front();
-    m_platform.clearFaults();
-    fault.method = "PUT";
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "envelope"}, {"path", kPrivacy}, {"code", 5}, {"method", "PUT"}});
     EXPECT_EQ(codeOf(kPrivacy), 1000);
     EXPECT_EQ(m_client->put(kPrivacy, {{"enable", 1}}).code(), 5);
     EXPECT_EQ(m_client->put(kPrivacy, {{"enable", 1}}).code(), 1000);
@@ -356,11 +305,7 @@ TEST_F(FaultListTest, AppliesOnlyToItsMethod)
 
 TEST_F(FaultListTest, AppliesToRequestsOfItsOperation)
 {
-    Fault fault = FaultOf(Fault::Kind::Envelope, "");
-    fault.code = 5;
-    fault.times = 0;
-    fault.operation = "BRMS.GetTimeSyncConfig";
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "envelope"}, {"code", 5}, {"times", 0}, {"operation", "BRMS.GetTimeSyncConfig"}});
     EXPECT_EQ(codeOf(kTimeSync), 5);
     EXPECT_EQ(codeOf(std::string(kTimeSync) + "?x=1"), 5);
     EXPECT_EQ(codeOf(kPrivacy), 1000);
@@ -368,17 +313,12 @@ TEST_F(FaultListTest, AppliesToRequestsOfItsOperation)
     EXPECT_NE(m_client->put(kTimeSync, Json::object()).code(), 5);
     EXPECT_EQ(m_client->post(std::string(kTimeSync) + "/immediate", {}).code(), 1000);
 
-    fault.operation = "BRMS.GetTimeSync";
-    EXPECT_THROW(m_platform.addFault(fault), std::invalid_argument);
+    EXPECT_THROW(AddFault(m_platform, {{"kind", "empty"}, {"operation", "BRMS.GetTimeSync"}}), std::invalid_argument);
 }
 
 TEST_F(FaultListTest, SkipsMatchingRequestsBeforeItApplies)
 {
-    Fault fault = FaultOf(Fault::Kind::Envelope, kTimeSync);
-    fault.code = 5;
-    fault.skip = 2;
-    fault.times = 2;
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "envelope"}, {"path", kTimeSync}, {"code", 5}, {"skip", 2}, {"times", 2}});
     EXPECT_EQ(codeOf(kTimeSync), 1000);
     EXPECT_EQ(codeOf(kPrivacy), 1000) << "does not match and is not counted";
     EXPECT_EQ(codeOf(kTimeSync), 1000);
@@ -389,10 +329,7 @@ TEST_F(FaultListTest, SkipsMatchingRequestsBeforeItApplies)
 
 TEST_F(FaultListTest, SkippedRequestIsLeftToTheNextFault)
 {
-    Fault fault = FaultOf(Fault::Kind::Envelope, kTimeSync);
-    fault.code = 5;
-    fault.skip = 1;
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "envelope"}, {"path", kTimeSync}, {"code", 5}, {"skip", 1}});
     addEnvelope(kTimeSync, 6, 1);
     EXPECT_EQ(codeOf(kTimeSync), 6);
     EXPECT_EQ(codeOf(kTimeSync), 5);
@@ -410,9 +347,7 @@ class ConcurrencyTest : public EmulatorTest {};
 TEST_F(ConcurrencyTest, HangingRequestsDoNotBlockOthers)
 {
     constexpr std::size_t kHanging = 60;
-    Fault fault = FaultOf(Fault::Kind::Silent, kTimeSync);
-    fault.times = 0;
-    m_platform.addFault(fault);
+    AddFault(m_platform, {{"kind", "silent"}, {"path", kTimeSync}, {"times", 0}});
     std::vector<std::future<Reply>> hanging;
     for (std::size_t i = 0; i < kHanging; ++i) {
         const auto scheme = i % 2 == 0 ? TestClient::Scheme::Http : TestClient::Scheme::Https;
@@ -442,7 +377,7 @@ TEST_F(ConcurrencyTest, ConcurrentWritesAllSucceed)
             for (int call = 0; call < kCalls; ++call) {
                 const Json group = {{"groupName", std::to_string(i)}, {"memo", std::to_string(call)}};
                 succeeded += client->post("/brms/api/v1.1/user/group", group).code() == 1000 ? 1 : 0;
-                m_platform.addFault(FaultOf(Fault::Kind::Empty, "/never"));
+                AddFault(m_platform, {{"kind", "empty"}, {"path", "/never"}});
                 EXPECT_FALSE(m_platform.state().empty());
                 EXPECT_FALSE(m_platform.requests().empty());
             }

@@ -58,10 +58,7 @@ struct BadHttp {
     int status;
 };
 
-class BadHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<BadHttp, Delivery>> {
-protected:
-    BadHttpTest() { m_platform.clearRequests(); }
-};
+class BadHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<BadHttp, Delivery>> {};
 
 struct GoodHttp {
     const char* name;
@@ -69,10 +66,7 @@ struct GoodHttp {
     int code;          ///< expected in the envelope
 };
 
-class GoodHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<GoodHttp, Delivery>> {
-protected:
-    GoodHttpTest() { m_platform.clearRequests(); }
-};
+class GoodHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<GoodHttp, Delivery>> {};
 
 }  // namespace
 
@@ -240,7 +234,7 @@ TEST_F(HttpTest, DoesNotRecordTrailersAsHeaders)
 
 TEST_F(HttpTest, RecordsAbsoluteTargetUnchangedAndServesItsPath)
 {
-    m_platform.addFault(emulator::Fault::FromJson({{"kind", "envelope"}, {"path", kPath + "?a="}, {"code", 7}}));
+    AddFault(m_platform, {{"kind", "envelope"}, {"path", kPath + "?a="}, {"code", 7}});
     const std::string target = "http://127.0.0.1:80" + kPath + "?a=b";
     replyTo("GET " + target + " HTTP/1.1\r\nHost: a\r\nConnection: close\r\n\r\n");
     ASSERT_EQ(m_platform.requests().size(), 1U);
@@ -286,8 +280,7 @@ TEST_F(HttpTest, Http10ConnectionIsClosedUnlessKeptAlive)
 
 TEST_F(HttpTest, SendsContinueWhenClientWaitsForIt)
 {
-    RawConnection connection(m_platform.httpPort());
-    connection.send(kPost + "Expect: 100-Continue\r\nContent-Length: 2\r\n\r\n");
+    RawConnection connection(m_platform.httpPort(), kPost + "Expect: 100-Continue\r\nContent-Length: 2\r\n\r\n");
     EXPECT_EQ(connection.receiveUntil("\r\n\r\n"), "HTTP/1.1 100 Continue\r\n\r\n");
     connection.send("{}");
     EXPECT_NE(connection.receiveUntil("}").find("body: not expected"), std::string::npos);
@@ -315,7 +308,7 @@ TEST_F(HttpTest, EndlessInputThatIsNotHttpIsClosed)
     }
     for (const std::string& text : {hello, junk, std::string(1, '\0'), std::string("GET / HTTP/1.1\n")}) {
         EXPECT_EQ(replyTo(text).substr(0, 12), "HTTP/1.1 400");
-        RawConnection(m_platform.httpsPort()).send(text);
+        RawConnection(m_platform.httpsPort(), text);
     }
     EXPECT_EQ(SendRaw(m_platform.httpsPort(), junk).find("HTTP"), std::string::npos);
     EXPECT_EQ(ClientOf(m_platform)->get(kPath).code(), 1000);
@@ -334,8 +327,7 @@ TEST_F(HttpTest, TruncatedRequestIsRejected)
 
 TEST_F(HttpTest, ClientThatKeepsSendingReceivesTheRejection)
 {
-    RawConnection connection(m_platform.httpPort());
-    connection.send(kPost + "Content-Length: 99999999999\r\n\r\n");
+    RawConnection connection(m_platform.httpPort(), kPost + "Content-Length: 99999999999\r\n\r\n");
     const std::string block(1024UL * 1024, 'x');
     for (int i = 0; i < 16; ++i) {
         connection.send(block);
@@ -363,8 +355,8 @@ TEST_F(HttpTest, HeadersOfAFaultReplaceServerHeaders)
 
 TEST_F(HttpTest, ContentLengthOfAFaultIsSentAndClosesTheConnection)
 {
-    m_platform.addFault(emulator::Fault::FromJson(
-        {{"kind", "status"}, {"status", 200}, {"headers", {{"Content-Length", "9"}}}, {"body", "text"}}));
+    AddFault(m_platform,
+             {{"kind", "status"}, {"status", 200}, {"headers", {{"Content-Length", "9"}}}, {"body", "text"}});
     const std::string reply = replyTo(kGet + "\r\n");
     EXPECT_EQ(Count(reply, "Content-Length"), 1U) << reply;
     EXPECT_NE(reply.find("Content-Length: 9\r\n"), std::string::npos) << reply;

@@ -1,8 +1,6 @@
-#include "PlatformEmulator.h"
-#include "TestClient.h"
+#include "EmulatorTest.h"
 
 #include <support/Program.h>
-#include <support/Rows.h>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -20,7 +18,6 @@
 
 namespace {
 
-constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 constexpr const char* kToken = "a-secret-token";
 
 QStringList Words(const std::vector<std::string>& words)
@@ -35,9 +32,21 @@ QStringList Words(const std::vector<std::string>& words)
 /// A running platform-emulator.
 class Program : public testing_support::RunningProgram {
 public:
-    explicit Program(const std::vector<std::string>& arguments, const testing_support::Variables& variables = {})
+    explicit Program(const std::vector<std::string>& arguments = {}, const testing_support::Variables& variables = {})
         : RunningProgram(QStringLiteral(EMULATOR_PROGRAM), Words(arguments), variables)
     {}
+
+    TestClient Client(const std::string& token = emulator::kDefaultToken)
+    {
+        return {TestClient::Scheme::Http, Port("http"), token};
+    }
+
+    /// Terminates the program, which must end cleanly.
+    void End()
+    {
+        Signal(SIGTERM);
+        EXPECT_EQ(ExitStatus(), 0) << Output();
+    }
 
     /// The peak resident set size.
     [[nodiscard]] std::size_t MostKilobytes() const
@@ -92,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"SeedMissing", {"--seed", "/nowhere"}, "/nowhere"},
                     BadOption{"SeedEmpty", {"--seed", "/proc/self/task"}, "contains no seed file"},
                     BadOption{"AddressNotLocal", {"--address", "192.0.2.1"}, "cannot listen on 192.0.2.1"}),
-    testing_support::RowName());
+    RowName());
 
 TEST(ProgramTest, PrintsHelpAndVersion)
 {
@@ -111,13 +120,12 @@ TEST(ProgramTest, PrintsHelpAndVersion)
 TEST(ProgramTest, ServesThePrintedPorts)
 {
     Program program({"--token", kToken, "--verbose"});
-    TestClient plain(TestClient::Scheme::Http, program.Port("http"), kToken);
+    TestClient plain = program.Client(kToken);
     TestClient secure(TestClient::Scheme::Https, program.Port("https"), kToken);
     EXPECT_EQ(plain.get(kTimeSync).code(), 1000);
     EXPECT_EQ(secure.get(std::string(kTimeSync) + "?x=" + kToken).code(), 1003);
     EXPECT_TRUE(program.WaitFor("-> 200 1003"));
-    program.Signal(SIGTERM);
-    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
+    program.End();
     EXPECT_NE(program.Output().find("GET /brms/api/v1.1/config/time-sync -> 200 1000"), std::string::npos)
         << program.Output();
     EXPECT_EQ(program.Output().find(kToken), std::string::npos) << program.Output();
@@ -125,17 +133,16 @@ TEST(ProgramTest, ServesThePrintedPorts)
 
 TEST(ProgramTest, IsQuietUnlessVerbose)
 {
-    Program program({});
-    TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
+    Program program;
+    TestClient client = program.Client();
     EXPECT_EQ(client.get(kTimeSync).code(), 1000);
-    program.Signal(SIGTERM);
-    EXPECT_EQ(program.ExitStatus(), 0);
+    program.End();
     EXPECT_EQ(std::count(program.Output().begin(), program.Output().end(), '\n'), 2) << program.Output();
 }
 
 TEST(ProgramTest, SecondEmulatorOnSamePortFails)
 {
-    Program first({});
+    Program first;
     const std::string port = std::to_string(first.Port("http"));
     Program second({"--http-port", port});
     EXPECT_EQ(second.ExitStatus(), 2);
@@ -158,10 +165,10 @@ TEST(ProgramTest, ReadsTokensFromTheEnvironment)
     constexpr const char* kControlToken = "another-token";
     Program program({}, {{QStringLiteral("PLATFORM_EMULATOR_TOKEN"), QString::fromLatin1(kToken)},
                          {QStringLiteral("PLATFORM_EMULATOR_CONTROL_TOKEN"), QString::fromLatin1(kControlToken)}});
-    TestClient calls(TestClient::Scheme::Http, program.Port("http"), kToken);
+    TestClient calls = program.Client(kToken);
     EXPECT_EQ(calls.get(kTimeSync).code(), 1000);
     EXPECT_EQ(calls.get("/emulator/v1/state").status, 401);
-    TestClient control(TestClient::Scheme::Http, program.Port("http"), kControlToken);
+    TestClient control = program.Client(kControlToken);
     EXPECT_EQ(control.get("/emulator/v1/state").status, 200);
     EXPECT_EQ(control.get(kTimeSync).status, 401);
 }
@@ -175,34 +182,32 @@ TEST(ProgramTest, ServesAThousandConnectionsWithFewThreads)
     rlimit few = files;
     few.rlim_cur = 256;
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
-    Program program({});
+    Program program;
     const int port = program.Port("http");
     files.rlim_cur = files.rlim_max;
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &files), 0);
     std::list<RawConnection> idle;
     for (std::size_t i = 0; i < kConnections; ++i) {
-        idle.emplace_back(port).send("GET");
+        idle.emplace_back(port, "GET");
     }
     TestClient client(TestClient::Scheme::Http, port, "");
     EXPECT_EQ(client.get("/emulator/v1/connections").json().at("connections"), kConnections + 1);
     EXPECT_LE(program.Threads(), kMostThreads);
-    program.Signal(SIGTERM);
-    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
+    program.End();
 }
 
 TEST(ProgramTest, ListensOnIpv6)
 {
     Program program({"--address", "::1"});
     EXPECT_TRUE(program.WaitFor("https [::1]:")) << program.Output();
-    program.Signal(SIGTERM);
-    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
+    program.End();
 }
 
 class SignalTest : public testing::TestWithParam<int> {};
 
 TEST_P(SignalTest, StopsCleanlyWhileRequestsHang)
 {
-    Program program({});
+    Program program;
     const int port = program.Port("http");
     TestClient control(TestClient::Scheme::Http, port, "");
     ASSERT_EQ(control.post("/emulator/v1/faults", Json{{"kind", "silent"}}).status, 201);
@@ -222,33 +227,21 @@ INSTANTIATE_TEST_SUITE_P(Signals, SignalTest, testing::Values(SIGTERM, SIGINT),
                              return row.param == SIGTERM ? "Terminate" : "Interrupt";
                          });
 
-/// A temporary copy of the seeds with one family's file replaced, removed after the test.
-class EditedSeeds {
+/// A copy of the seeds with one family's file replaced.
+class EditedSeeds : public Folder {
 public:
     EditedSeeds(const std::string& file, const std::string& text)
     {
-        std::string name = std::filesystem::temp_directory_path() / "emulator-seed-XXXXXX";
-        m_folder = ::mkdtemp(name.data());
-        std::filesystem::copy(emulator::Options().seed, m_folder, std::filesystem::copy_options::overwrite_existing);
-        std::ofstream(m_folder / file) << text;
+        std::filesystem::copy(emulator::Options().seed, path(), std::filesystem::copy_options::overwrite_existing);
+        write(file, text);
     }
-    EditedSeeds(const EditedSeeds&) = delete;
-    EditedSeeds& operator=(const EditedSeeds&) = delete;
-    EditedSeeds(EditedSeeds&&) = delete;
-    EditedSeeds& operator=(EditedSeeds&&) = delete;
-    ~EditedSeeds() { std::filesystem::remove_all(m_folder); }
-
-    [[nodiscard]] const std::filesystem::path& folder() const { return m_folder; }
-
-private:
-    std::filesystem::path m_folder;
 };
 
 TEST(ProgramTest, LargeScaleTakesNoMemoryUntilListsAreRead)
 {
     constexpr std::size_t kMostKilobytes = 500UL * 1000;
     Program program({"--scale", "10000"});
-    TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
+    TestClient client = program.Client();
     EXPECT_EQ(client.get(kTimeSync).code(), 1000);
     EXPECT_LT(program.MostKilobytes(), kMostKilobytes);
     EXPECT_EQ(client.get("/brms/api/v1.1/user/group/12-10000").code(), 1000);
@@ -257,18 +250,17 @@ TEST(ProgramTest, LargeScaleTakesNoMemoryUntilListsAreRead)
 TEST(ProgramTest, EditedSeedsAreServed)
 {
     const EditedSeeds seeds("omms.json", R"({"alertTypes": [{"alertTypeId": "a", "alertTypeName": "b"}]})");
-    Program program({"--seed", seeds.folder()});
-    TestClient client(TestClient::Scheme::Http, program.Port("http"), emulator::kDefaultToken);
+    Program program({"--seed", seeds.path()});
+    TestClient client = program.Client();
     EXPECT_EQ(client.get("/omms/api/v1.1/alert/rule/alert-type/list").data(),
               Json::parse(R"({"results": [{"alertTypeId": "a", "alertTypeName": "b"}]})"));
-    program.Signal(SIGTERM);
-    EXPECT_EQ(program.ExitStatus(), 0) << program.Output();
+    program.End();
 }
 
 TEST(ProgramTest, WrongTypeInASeedFailsAtStart)
 {
     const EditedSeeds seeds("omms.json", R"({"alertTypes": [{"alertTypeId": 7, "alertTypeName": "b"}]})");
-    Program program({"--seed", seeds.folder()});
+    Program program({"--seed", seeds.path()});
     EXPECT_EQ(program.ExitStatus(), 2);
     EXPECT_EQ(program.Output(),
               "platform-emulator: omms.json: /alertTypes/0/alertTypeId: expected string, got number\n");

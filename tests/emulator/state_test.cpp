@@ -434,14 +434,13 @@ TEST(ScaledStateTest, LongListsAreServed)
 {
     emulator::Options options;
     options.scale = 50;
-    emulator::PlatformEmulator platform(options);
-    platform.start();
-    TestClient client(TestClient::Scheme::Http, platform.httpPort(), emulator::kDefaultToken);
-    EXPECT_EQ(client.get("/brms/api/v1.1/user/group/list?keyword=").data().at("results").size(), 250U);
-    EXPECT_EQ(client.get("/brms/api/v1.1/user/group/12-50").code(), 1000);
-    EXPECT_EQ(client.get("/omms/api/v1.1/channel/1000001$1$0$0-50").data().at("deviceCode"), "1000001-50");
-    EXPECT_EQ(client.get("/brms/api/v1.1/device/channel/1000001$1$0$0-7/config/encode").code(), 1000);
-    EXPECT_EQ(client.get("/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=&mode=-1&orgCode=")
+    const RunningEmulator platform(options);
+    const auto client = ClientOf(platform);
+    EXPECT_EQ(client->get("/brms/api/v1.1/user/group/list?keyword=").data().at("results").size(), 250U);
+    EXPECT_EQ(client->get("/brms/api/v1.1/user/group/12-50").code(), 1000);
+    EXPECT_EQ(client->get("/omms/api/v1.1/channel/1000001$1$0$0-50").data().at("deviceCode"), "1000001-50");
+    EXPECT_EQ(client->get("/brms/api/v1.1/device/channel/1000001$1$0$0-7/config/encode").code(), 1000);
+    EXPECT_EQ(client->get("/ipms/api/v1.1/parking-lot/detail/list?parkingLotIds=&mode=-1&orgCode=")
                   .data()
                   .at("results")
                   .size(),

@@ -2,7 +2,6 @@
 
 namespace {
 
-constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 constexpr const char* kValidTimeSync =
     R"({"enable":"1","startTime":"03:00","interval":"30","deviceOnlineTimeSync":"0","enableNtp":"1","ntpIp":"10.0.0.1","ntpPort":"-1","ntpSyncInterval":"5"})";
 
