@@ -33,15 +33,26 @@ namespace {
 
 constexpr const char* kToken = "token-that-must-not-be-printed";
 
-/// Runs apicall without a display.
-ProgramResult Apicall(const QStringList& arguments, const QByteArray& input = {},
-                      const QString& tokenInEnvironment = {})
+using Words = std::vector<std::string>;
+
+Words operator+(Words left, const Words& right)
 {
-    testing_support::Variables variables{{QStringLiteral("APICALL_TOKEN"), tokenInEnvironment}};
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+/// Runs apicall without a display.
+ProgramResult Apicall(const Words& arguments, const QByteArray& input = {}, const char* tokenInEnvironment = nullptr)
+{
+    testing_support::Variables variables{{QStringLiteral("APICALL_TOKEN"), QString::fromLatin1(tokenInEnvironment)}};
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         variables[QString::fromLatin1(display)] = QString();
     }
-    ProgramResult ended = RunProgram(QStringLiteral(APICALL_FILE), arguments, variables, input);
+    QStringList list;
+    for (const std::string& argument : arguments) {
+        list.append(QString::fromStdString(argument));
+    }
+    ProgramResult ended = RunProgram(QStringLiteral(APICALL_FILE), list, variables, input);
     EXPECT_FALSE(ended.crashed);
     return ended;
 }
@@ -63,7 +74,7 @@ std::string ErrorText(int code, const char* language = "en")
 
 struct UsageRow {
     const char* name;
-    QStringList arguments;
+    Words arguments;
     const char* text;
 };
 
@@ -78,39 +89,35 @@ TEST_P(WrongUsage, IsReportedWithExitStatus2)
     EXPECT_TRUE(Contains(ended.err, GetParam().text)) << ended.err;
 }
 
-QStringList Words(std::initializer_list<const char*> words)
+UsageRow Usage(const char* name, const Words& arguments, const char* text)
 {
-    QStringList list;
-    for (const char* word : words) {
-        list.append(QString::fromUtf8(word));
-    }
-    return list;
+    return {name, arguments, text};
 }
 
 UsageRow Url(const char* name, const char* url, const char* text)
 {
-    return {name, Words({"--server", url, "BRMS.GetTimeSyncConfig"}), text};
+    return {name, {"--server", url, "BRMS.GetTimeSyncConfig"}, text};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     CommandLine, WrongUsage,
     testing::Values(
-        UsageRow{"Nothing", {}, "no call given; run 'apicall --help' for usage"},
-        UsageRow{"UnknownOption", Words({"--serve", "http://127.0.0.1:1"}), "--serve"},
-        UsageRow{"UnknownCall", Words({"BRMS.GetNothing"}),
-                 "unknown call \"BRMS.GetNothing\"; run 'apicall --list' for all calls"},
-        UsageRow{"MisspeltCall", Words({"brms.GetTimeSynkConfig"}),
-                 "unknown call \"brms.GetTimeSynkConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
-        UsageRow{"CallWithoutItsFamily", Words({"--help", "GetTimeSyncConfig"}),
-                 "unknown call \"GetTimeSyncConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"},
-        UsageRow{"MergeOfARead", Words({"--merge", "BRMS.GetTimeSyncConfig"}),
-                 "--merge: BRMS.GetTimeSyncConfig has no matching read call"},
-        UsageRow{"MergeWithoutArgumentOfTheRead", Words({"--merge", "BRMS.UpdateNetworkConfig"}),
-                 "BRMS.GetNetworkConfig, which runs first, requires \"config/deviceCode\" of BRMS.UpdateNetworkConfig"},
-        UsageRow{"NoServer", Words({"BRMS.GetTimeSyncConfig"}), "--server is missing"},
-        UsageRow{"ServerIdOutOfRange", Words({"--server-id", "2", "BRMS.GetTimeSyncConfig"}), "--server-id"},
-        UsageRow{"TimeoutOutOfRange", Words({"--timeout", "0", "BRMS.GetTimeSyncConfig"}), "--timeout"},
-        UsageRow{"TimeoutNotNumber", Words({"--timeout", "soon", "BRMS.GetTimeSyncConfig"}), "--timeout"}),
+        Usage("Nothing", {}, "no call given; run 'apicall --help' for usage"),
+        Usage("UnknownOption", {"--serve", "http://127.0.0.1:1"}, "--serve"),
+        Usage("UnknownCall", {"BRMS.GetNothing"},
+              "unknown call \"BRMS.GetNothing\"; run 'apicall --list' for all calls"),
+        Usage("MisspeltCall", {"brms.GetTimeSynkConfig"},
+              "unknown call \"brms.GetTimeSynkConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"),
+        Usage("CallWithoutItsFamily", {"--help", "GetTimeSyncConfig"},
+              "unknown call \"GetTimeSyncConfig\"; did you mean \"BRMS.GetTimeSyncConfig\"?"),
+        Usage("MergeOfARead", {"--merge", "BRMS.GetTimeSyncConfig"},
+              "--merge: BRMS.GetTimeSyncConfig has no matching read call"),
+        Usage("MergeWithoutArgumentOfTheRead", {"--merge", "BRMS.UpdateNetworkConfig"},
+              "BRMS.GetNetworkConfig, which runs first, requires \"config/deviceCode\" of BRMS.UpdateNetworkConfig"),
+        Usage("NoServer", {"BRMS.GetTimeSyncConfig"}, "--server is missing"),
+        Usage("ServerIdOutOfRange", {"--server-id", "2", "BRMS.GetTimeSyncConfig"}, "--server-id"),
+        Usage("TimeoutOutOfRange", {"--timeout", "0", "BRMS.GetTimeSyncConfig"}, "--timeout"),
+        Usage("TimeoutNotNumber", {"--timeout", "soon", "BRMS.GetTimeSyncConfig"}, "--timeout")),
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(Servers, WrongUsage,
@@ -128,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(Servers, WrongUsage,
 UsageRow Trusting(const char* name, const char* option, const char* value, const char* text,
                   const char* server = "https://127.0.0.1:1")
 {
-    return {name, Words({"--server", server, option, value, "BRMS.GetTimeSyncConfig"}), text};
+    return {name, {"--server", server, option, value, "BRMS.GetTimeSyncConfig"}, text};
 }
 
 constexpr const char* kDigest = "00112233445566778899aabbccddeeff00112233445566778899AABBCCDDEEFF";
@@ -146,55 +153,51 @@ INSTANTIATE_TEST_SUITE_P(
         Trusting("NoSuchAuthorityFile", "--ca", "/no/such/file", "--ca /no/such/file: the file cannot be"),
         Trusting("FolderAsAuthorityFile", "--ca", "/", "--ca /: the file cannot be read"),
         Trusting("EmptyAuthorityFile", "--ca", "/dev/null", "--ca /dev/null: the file contains no PEM certificate"),
-        UsageRow{"PinWithoutValue", Words({"BRMS.GetTimeSyncConfig", "--pin"}), "--pin"}),
+        Usage("PinWithoutValue", {"BRMS.GetTimeSyncConfig", "--pin"}, "--pin")),
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Arguments, WrongUsage,
     testing::Values(
-        UsageRow{"Unknown", Words({"BRMS.GetTimeSyncConfig", "a=1"}),
-                 "BRMS.GetTimeSyncConfig has no argument \"a\"; it takes no arguments"},
-        UsageRow{"Misspelt", Words({"BRMS.GetLocalSetting", "settingTyp=3"}),
-                 "BRMS.GetLocalSetting has no argument \"settingTyp\"; did you mean \"settingType\"?"},
-        UsageRow{"UnknownPath", Words({"BRMS.SetTimeSyncConfig", "config/ntp=1"}),
-                 "/config/ntp: no such field or element in TimeSyncConfig"},
-        UsageRow{"RecordAndItsField", Words({"BRMS.SetTimeSyncConfig", "config=5", "config/interval=3"}),
-                 "\"config/interval\" is given twice"},
-        UsageRow{"FieldAndItsRecord", Words({"BRMS.SetTimeSyncConfig", "config/interval=3", "config={}"}),
-                 "\"config\" is given twice"},
-        UsageRow{"PaddedIndex", Words({"BRMS.UpdateEncodeConfig", "configs/00/bitRate=1"}),
-                 "/configs/00: no such field or element in list of EncodeConfig"},
-        UsageRow{"MergeOfAList", Words({"--merge", "BRMS.SetTimeSyncConfig", "@" LIST_FILE}),
-                 "must be a JSON object with the argument names as keys"},
-        UsageRow{"NameAsIndex", Words({"BRMS.UpdateEncodeConfig", "configs/first/bitRate=1"}),
-                 "/configs/first: no such field or element in list of EncodeConfig"},
-        UsageRow{"Missing", Words({"BRMS.UpdateLocalSetting", "apply=true"}),
-                 "BRMS.UpdateLocalSetting requires the argument \"content\" (text)"},
-        UsageRow{"NoName", Words({"BRMS.GetLocalSetting", "3"}), "\"3\" is neither name=value nor a JSON object"},
-        UsageRow{"Twice", Words({"BRMS.GetLocalSetting", "settingType=3", "settingType=4"}),
-                 "\"settingType\" is given twice"},
-        UsageRow{"WrongType", Words({"BRMS.GetLocalSetting", "settingType=\"3\""}),
-                 "/settingType: expected int, got text"},
-        UsageRow{"NotJson", Words({"BRMS.GetLocalSetting", "settingType=three"}),
-                 "argument \"settingType\" (int) is not valid JSON: syntax error at byte 2"},
-        UsageRow{"Empty", Words({"BRMS.GetLocalSetting", "settingType="}),
-                 "argument \"settingType\" (int) is not valid JSON"},
-        UsageRow{"UnknownField", Words({"BRMS.SetTimeSyncConfig", "config={\"ntp\": 1}"}),
-                 "/config/ntp: TimeSyncConfig has no such field"},
-        UsageRow{"BrokenObject", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3"}),
-                 "the argument is not valid JSON"},
-        UsageRow{"ObjectAndMore", Words({"BRMS.GetLocalSetting", "{\"settingType\": 3}", "settingType=3"}),
-                 "a JSON object must be the only argument"},
-        UsageRow{"ListOnStandardInput", Words({"BRMS.GetLocalSetting", "-"}), "standard input is not valid JSON"},
-        UsageRow{"NoSuchFile", Words({"BRMS.GetLocalSetting", "@/no/such/file"}), "cannot open /no/such/file"},
-        UsageRow{"FolderAsFile", Words({"BRMS.GetLocalSetting", "@/"}), "cannot read /"}),
+        Usage("Unknown", {"BRMS.GetTimeSyncConfig", "a=1"},
+              "BRMS.GetTimeSyncConfig has no argument \"a\"; it takes no arguments"),
+        Usage("Misspelt", {"BRMS.GetLocalSetting", "settingTyp=3"},
+              "BRMS.GetLocalSetting has no argument \"settingTyp\"; did you mean \"settingType\"?"),
+        Usage("UnknownPath", {"BRMS.SetTimeSyncConfig", "config/ntp=1"},
+              "/config/ntp: no such field or element in TimeSyncConfig"),
+        Usage("RecordAndItsField", {"BRMS.SetTimeSyncConfig", "config=5", "config/interval=3"},
+              "\"config/interval\" is given twice"),
+        Usage("FieldAndItsRecord", {"BRMS.SetTimeSyncConfig", "config/interval=3", "config={}"},
+              "\"config\" is given twice"),
+        Usage("PaddedIndex", {"BRMS.UpdateEncodeConfig", "configs/00/bitRate=1"},
+              "/configs/00: no such field or element in list of EncodeConfig"),
+        Usage("MergeOfAList", {"--merge", "BRMS.SetTimeSyncConfig", "@" LIST_FILE},
+              "must be a JSON object with the argument names as keys"),
+        Usage("NameAsIndex", {"BRMS.UpdateEncodeConfig", "configs/first/bitRate=1"},
+              "/configs/first: no such field or element in list of EncodeConfig"),
+        Usage("Missing", {"BRMS.UpdateLocalSetting", "apply=true"},
+              "BRMS.UpdateLocalSetting requires the argument \"content\" (text)"),
+        Usage("NoName", {"BRMS.GetLocalSetting", "3"}, "\"3\" is neither name=value nor a JSON object"),
+        Usage("Twice", {"BRMS.GetLocalSetting", "settingType=3", "settingType=4"}, "\"settingType\" is given twice"),
+        Usage("WrongType", {"BRMS.GetLocalSetting", "settingType=\"3\""}, "/settingType: expected int, got text"),
+        Usage("NotJson", {"BRMS.GetLocalSetting", "settingType=three"},
+              "argument \"settingType\" (int) is not valid JSON: syntax error at byte 2"),
+        Usage("Empty", {"BRMS.GetLocalSetting", "settingType="}, "argument \"settingType\" (int) is not valid JSON"),
+        Usage("UnknownField", {"BRMS.SetTimeSyncConfig", "config={\"ntp\": 1}"},
+              "/config/ntp: TimeSyncConfig has no such field"),
+        Usage("BrokenObject", {"BRMS.GetLocalSetting", "{\"settingType\": 3"}, "the argument is not valid JSON"),
+        Usage("ObjectAndMore", {"BRMS.GetLocalSetting", "{\"settingType\": 3}", "settingType=3"},
+              "a JSON object must be the only argument"),
+        Usage("ListOnStandardInput", {"BRMS.GetLocalSetting", "-"}, "standard input is not valid JSON"),
+        Usage("NoSuchFile", {"BRMS.GetLocalSetting", "@/no/such/file"}, "cannot open /no/such/file"),
+        Usage("FolderAsFile", {"BRMS.GetLocalSetting", "@/"}, "cannot read /")),
     RowName());
 
 // Help
 
 TEST(Help, PrintsNothingButTheVersion)
 {
-    const ProgramResult ended = Apicall(Words({"--version"}));
+    const ProgramResult ended = Apicall({"--version"});
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.err, "");
     EXPECT_TRUE(std::regex_match(ended.out, std::regex("apicall [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << ended.out;
@@ -202,7 +205,7 @@ TEST(Help, PrintsNothingButTheVersion)
 
 TEST(Help, ListStartsEachLineWithTheNameOfACall)
 {
-    const ProgramResult ended = Apicall(Words({"--list"}));
+    const ProgramResult ended = Apicall({"--list"});
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.err, "");
 
@@ -238,13 +241,13 @@ Result: LocalSettingQueryResult
   settingVersion: int64. Version of the stored content; increases by one with each update.
   settingContent: text. The setting itself, an opaque string that the server stores for the client.
 )";
-    EXPECT_EQ(Apicall(Words({"--help", "BRMS.GetLocalSetting"})).out, help);
-    EXPECT_EQ(Apicall(Words({"BRMS.GetLocalSetting", "--help"})).out, help);
+    EXPECT_EQ(Apicall({"--help", "BRMS.GetLocalSetting"}).out, help);
+    EXPECT_EQ(Apicall({"BRMS.GetLocalSetting", "--help"}).out, help);
 }
 
 TEST(Help, DescribesTheSameKeyDifferentlyInEachObject)
 {
-    const ProgramResult ended = Apicall(Words({"--help", "IPMS.GetSimpleParkingLots"}));
+    const ProgramResult ended = Apicall({"--help", "IPMS.GetSimpleParkingLots"});
     for (const char* line :
          {"\n  id: text. Identifier of the parking lot.\n", "\n    id: text. Identifier of the position.\n",
           "\n      id: text. Identifier of the point.\n"}) {
@@ -254,7 +257,7 @@ TEST(Help, DescribesTheSameKeyDifferentlyInEachObject)
 
 TEST(Help, DescribesTheFieldsOfAnArgument)
 {
-    const ProgramResult ended = Apicall(Words({"--help", "BRMS.GetPageSummaryAlarmPlans"}));
+    const ProgramResult ended = Apicall({"--help", "BRMS.GetPageSummaryAlarmPlans"});
     EXPECT_TRUE(Contains(ended.out,
                          "\n    page: int. Page number, counted from 1; 0 also means the first page. [>= 0]\n"
                          "    pageSize: int. Number of plans per page.\n"
@@ -265,7 +268,7 @@ TEST(Help, DescribesTheFieldsOfAnArgument)
 
 TEST(Help, ListsNoAllowedValuesForBooleans)
 {
-    const ProgramResult ended = Apicall(Words({"--help", "BRMS.UpdateAIPrivacyConfig"}));
+    const ProgramResult ended = Apicall({"--help", "BRMS.UpdateAIPrivacyConfig"});
     EXPECT_TRUE(Contains(ended.out, "\nPUT /brms/api/v1.1/config/ai/privacy\n")) << ended.out;
     EXPECT_TRUE(Contains(ended.out, ": bool")) << ended.out;
     EXPECT_FALSE(Contains(ended.out, "[")) << ended.out;
@@ -273,7 +276,7 @@ TEST(Help, ListsNoAllowedValuesForBooleans)
 
 TEST(Help, ReportsThatACallHasNoArgumentsAndNoResult)
 {
-    const ProgramResult ended = Apicall(Words({"--help", "BRMS.ImmediatelySyncTime"}));
+    const ProgramResult ended = Apicall({"--help", "BRMS.ImmediatelySyncTime"});
     EXPECT_EQ(ended.status, 0);
     EXPECT_TRUE(Contains(ended.out, "Arguments: none\n")) << ended.out;
     EXPECT_TRUE(Contains(ended.out, "Result: none\n")) << ended.out;
@@ -292,11 +295,11 @@ TEST(Help, DescribesEveryCall)
 
 TEST(Help, NamesListsCallsOrTheArgumentsOfACall)
 {
-    const std::string calls = Apicall(Words({"--names"})).out;
+    const std::string calls = Apicall({"--names"}).out;
     EXPECT_EQ(calls.rfind(catalogue::Calls().front().name + "\n", 0), 0U) << calls;
     EXPECT_EQ(std::size_t(std::count(calls.begin(), calls.end(), '\n')), catalogue::Calls().size());
-    EXPECT_EQ(Apicall(Words({"--names", "BRMS.UpdateEncodeConfig"})).out, "channelId\nconfigs\n");
-    EXPECT_EQ(Apicall(Words({"--names", "BRMS.GetTimeSyncConfig"})).out, "");
+    EXPECT_EQ(Apicall({"--names", "BRMS.UpdateEncodeConfig"}).out, "channelId\nconfigs\n");
+    EXPECT_EQ(Apicall({"--names", "BRMS.GetTimeSyncConfig"}).out, "");
 }
 
 struct CompletionRow {
@@ -331,7 +334,7 @@ TEST_P(Completion, CompletesInBash)
 
 TEST(Help, PrintsItsOptionsButNotTheToken)
 {
-    const ProgramResult ended = Apicall(Words({"--help"}), {}, QString::fromLatin1(kToken));
+    const ProgramResult ended = Apicall({"--help"}, {}, kToken);
     EXPECT_EQ(ended.status, 0);
     EXPECT_TRUE(Contains(ended.out, "--server")) << ended.out;
     EXPECT_FALSE(Contains(ended.out, kToken));
@@ -363,38 +366,36 @@ protected:
         Platform().clearFaults();
     }
 
-    ProgramResult Run(const QStringList& arguments, const QByteArray& input = {})
+    ProgramResult Run(const Words& arguments, const QByteArray& input = {})
     {
-        ProgramResult ended =
-            Apicall(Server() + QStringList{QStringLiteral("--token"), QString::fromLatin1(kToken)} + arguments, input);
+        ProgramResult ended = Apicall(Server() + Words{"--token", kToken} + arguments, input);
         EXPECT_FALSE(Contains(ended.out, kToken)) << ended.out;
         EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
         return ended;
     }
 
     /// Runs a call, expects it to succeed and returns its result.
-    json ResultOf(const QStringList& arguments, const QByteArray& input = {})
+    json ResultOf(const Words& arguments, const QByteArray& input = {})
     {
         const ProgramResult ended = Run(arguments, input);
         EXPECT_EQ(ended.status, 0) << ended.err;
         return json::parse(ended.out, nullptr, false);
     }
 
-    void ExpectFailure(const QStringList& arguments, int code, const std::string& text)
+    void ExpectFailure(const Words& arguments, int code, const std::string& text)
     {
         const ProgramResult ended = Run(arguments);
         EXPECT_EQ(ended.status, 1);
         EXPECT_EQ(ended.out, "");
         const std::string line =
-            "apicall: " + arguments.back().toStdString() + " failed with " + std::to_string(code) + ": " + text + "\n";
+            "apicall: " + arguments.back() + " failed with " + std::to_string(code) + ": " + text + "\n";
         EXPECT_TRUE(Contains(ended.err, line)) << "expected: " << line << "in: " << ended.err;
     }
 
-    [[nodiscard]] QStringList Server() const
+    [[nodiscard]] Words Server() const
     {
-        const QString url = GetParam().https ? QStringLiteral("https://127.0.0.1:%1").arg(Platform().httpsPort())
-                                             : QStringLiteral("http://127.0.0.1:%1").arg(Platform().httpPort());
-        return {QStringLiteral("--server"), url};
+        return {"--server", GetParam().https ? "https://127.0.0.1:" + std::to_string(Platform().httpsPort())
+                                             : "http://127.0.0.1:" + std::to_string(Platform().httpPort())};
     }
 
     static emulator::PlatformEmulator& Platform() { return *s_platform; }
@@ -412,9 +413,9 @@ private:
 INSTANTIATE_TEST_SUITE_P(Schemes, Calls, testing::Values(SchemeRow{"Http", false}, SchemeRow{"Https", true}),
                          RowName());
 
-QStringList GetTimeSync()
+Words GetTimeSync()
 {
-    return Words({"BRMS.GetTimeSyncConfig"});
+    return {"BRMS.GetTimeSyncConfig"};
 }
 
 TEST_P(Calls, PrintsARecordAsIndentedJson)
@@ -434,22 +435,20 @@ TEST_P(Calls, ReadsBackWhatItWrote)
                          {"ntpIp", "10.0.0.1"},
                          {"ntpPort", 1},
                          {"ntpSyncInterval", 90}};
-    EXPECT_EQ(ResultOf({QStringLiteral("BRMS.SetTimeSyncConfig"),
-                        QStringLiteral("config=") + QString::fromStdString(config.dump())}),
-              json());
+    EXPECT_EQ(ResultOf({"BRMS.SetTimeSyncConfig", "config=" + config.dump()}), json());
     EXPECT_EQ(ResultOf(GetTimeSync()), config);
 }
 
 TEST_P(Calls, PrintsSimpleValuesAndLists)
 {
-    EXPECT_EQ(ResultOf(Words({"BRMS.GetDeviceLoginModel"})), json(1));
-    EXPECT_EQ(ResultOf(Words({"BRMS.GetPushAppMsgConfig"})), json(false));
-    EXPECT_EQ(ResultOf(Words({"BRMS.GetSupportDataBaseType"})), (json{1, 3, 4}));
+    EXPECT_EQ(ResultOf({"BRMS.GetDeviceLoginModel"}), json(1));
+    EXPECT_EQ(ResultOf({"BRMS.GetPushAppMsgConfig"}), json(false));
+    EXPECT_EQ(ResultOf({"BRMS.GetSupportDataBaseType"}), (json{1, 3, 4}));
 }
 
 TEST_P(Calls, PrintsNullForACallWithoutResult)
 {
-    const ProgramResult ended = Run(Words({"BRMS.ImmediatelySyncTime"}));
+    const ProgramResult ended = Run({"BRMS.ImmediatelySyncTime"});
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, "null\n");
     ASSERT_EQ(Platform().requests().size(), 1U);
@@ -458,21 +457,21 @@ TEST_P(Calls, PrintsNullForACallWithoutResult)
 
 TEST_P(Calls, AcceptsArgumentsInEveryForm)
 {
-    const json setting = ResultOf(Words({"BRMS.GetLocalSetting", "settingType=1"}));
+    const json setting = ResultOf({"BRMS.GetLocalSetting", "settingType=1"});
     EXPECT_EQ(setting.at("settingType"), 1);
-    EXPECT_EQ(ResultOf(Words({"BRMS.GetLocalSetting", R"({"settingType": 1})"})), setting);
-    EXPECT_EQ(ResultOf(Words({"BRMS.GetLocalSetting", "-"}), R"({"settingType": 1})"), setting);
+    EXPECT_EQ(ResultOf({"BRMS.GetLocalSetting", R"({"settingType": 1})"}), setting);
+    EXPECT_EQ(ResultOf({"BRMS.GetLocalSetting", "-"}, R"({"settingType": 1})"), setting);
 
     QTemporaryFile file;
     ASSERT_TRUE(file.open());
     file.write(R"({"settingType": 1})");
     file.close();
-    EXPECT_EQ(ResultOf({QStringLiteral("BRMS.GetLocalSetting"), QStringLiteral("@") + file.fileName()}), setting);
+    EXPECT_EQ(ResultOf({"BRMS.GetLocalSetting", "@" + file.fileName().toStdString()}), setting);
 }
 
 TEST_P(Calls, PassesATextUnchanged)
 {
-    ResultOf(Words({"BRMS.UpdateLocalSetting", "apply=true", "content={\"a\": [\"=\", 1]} \xc3\xa4"}));
+    ResultOf({"BRMS.UpdateLocalSetting", "apply=true", "content={\"a\": [\"=\", 1]} \xc3\xa4"});
     EXPECT_EQ(json::parse(Platform().requests().back().body),
               (json{{"apply", "1"}, {"settingContent", "{\"a\": [\"=\", 1]} \xc3\xa4"}}));
 }
@@ -480,13 +479,13 @@ TEST_P(Calls, PassesATextUnchanged)
 TEST_P(Calls, EveryServerIdLeadsToTheSameServer)
 {
     for (const char* serverId : {"-1", "0", "1"}) {
-        EXPECT_TRUE(ResultOf(Words({"--server-id", serverId, "BRMS.GetTimeSyncConfig"})).is_object()) << serverId;
+        EXPECT_TRUE(ResultOf({"--server-id", serverId, "BRMS.GetTimeSyncConfig"}).is_object()) << serverId;
     }
 }
 
 TEST_P(Calls, SendsTokenAndLanguageInTheirHeaders)
 {
-    ResultOf(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}));
+    ResultOf({"--language", "de", "BRMS.GetTimeSyncConfig"});
     ASSERT_EQ(Platform().requests().size(), 1U);
     EXPECT_EQ(Platform().requests().back().header("X-Subject-Token"), kToken);
     EXPECT_EQ(Platform().requests().back().header("Accept-Language"), "de");
@@ -494,14 +493,14 @@ TEST_P(Calls, SendsTokenAndLanguageInTheirHeaders)
 
 TEST_P(Calls, ReadsTheTokenFromTheEnvironment)
 {
-    const ProgramResult ended = Apicall(Server() + GetTimeSync(), {}, QString::fromLatin1(kToken));
+    const ProgramResult ended = Apicall(Server() + GetTimeSync(), {}, kToken);
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_FALSE(Contains(ended.err, kToken));
 }
 
 TEST_P(Calls, FailsWithAWrongToken)
 {
-    const ProgramResult ended = Apicall(Server() + Words({"--token", "wrong"}) + GetTimeSync());
+    const ProgramResult ended = Apicall(Server() + Words{"--token", "wrong"} + GetTimeSync());
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.out, "");
     EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 7000: " + ErrorText(7000) + "\n"))
@@ -511,9 +510,9 @@ TEST_P(Calls, FailsWithAWrongToken)
 TEST_P(Calls, ReportsHttpsToAPortOfPlainHttp)
 {
     const int port = GetParam().https ? Platform().httpsPort() : Platform().httpPort();
-    const QString server = QStringLiteral("https://127.0.0.1:%1").arg(port);
-    const ProgramResult ended = Apicall(QStringList{QStringLiteral("--server"), server} +
-                                        Words({"--token", kToken, "--quiet"}) + GetTimeSync());
+    const std::string server = "https://127.0.0.1:" + std::to_string(port);
+    const ProgramResult ended =
+        Apicall(Words{"--server", server} + Words{"--token", kToken, "--quiet"} + GetTimeSync());
     EXPECT_EQ(ended.status, GetParam().https ? 0 : 1);
     const std::string lines = "apicall: BRMS.GetTimeSyncConfig failed with -18: " + ErrorText(-18) +
                               "\napicall: the server does not use TLS on this port; is it the port for http://?\n";
@@ -559,12 +558,12 @@ TEST_P(Calls, FailsWhenDataCannotBeRead)
 
 TEST_P(Calls, QuietWritesLogLinesOnlyWhenACallFails)
 {
-    const ProgramResult succeeded = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult succeeded = Run({"--quiet", "BRMS.GetTimeSyncConfig"});
     EXPECT_EQ(succeeded.status, 0);
     EXPECT_EQ(succeeded.err, "");
     EXPECT_NE(succeeded.out, "");
     AddFault({{"kind", "status"}, {"status", 503}});
-    const ProgramResult failed = Run(Words({"--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult failed = Run({"--quiet", "BRMS.GetTimeSyncConfig"});
     EXPECT_EQ(failed.status, 1);
     EXPECT_TRUE(Contains(failed.err, "Request failed, http status Code: 503")) << failed.err;
     EXPECT_TRUE(Contains(failed.err, "apicall: BRMS.GetTimeSyncConfig failed with 503")) << failed.err;
@@ -572,7 +571,7 @@ TEST_P(Calls, QuietWritesLogLinesOnlyWhenACallFails)
 
 TEST_P(Calls, VerboseWritesTheExchange)
 {
-    const ProgramResult ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult ended = Run({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"});
     EXPECT_EQ(ended.status, 0);
     const std::string scheme = GetParam().https ? "https" : "http";
     EXPECT_EQ(ended.err.rfind("> GET " + scheme + "://127.0.0.1:", 0), 0U) << ended.err;
@@ -585,7 +584,7 @@ TEST_P(Calls, VerboseWritesTheExchange)
 TEST_P(Calls, VerboseWritesWhyNoReplyArrived)
 {
     AddFault({{"kind", "closeBefore"}, {"times", 0}});
-    const ProgramResult ended = Run(Words({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"}));
+    const ProgramResult ended = Run({"--verbose", "--quiet", "BRMS.GetTimeSyncConfig"});
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(std::regex_search(ended.err, std::regex("\n\\* [A-Z]"))) << ended.err;
     EXPECT_FALSE(Contains(ended.err, "\n< ")) << ended.err;
@@ -593,7 +592,7 @@ TEST_P(Calls, VerboseWritesWhyNoReplyArrived)
 
 TEST_P(Calls, DryRunPrintsTheRequestAndSendsNothing)
 {
-    const ProgramResult ended = Run(Words({"--dry-run", "--quiet", "BRMS.SetDeviceLoginModel", "model=2"}));
+    const ProgramResult ended = Run({"--dry-run", "--quiet", "BRMS.SetDeviceLoginModel", "model=2"});
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.err, "");
     EXPECT_EQ(ended.out.rfind("PUT http", 0), 0U) << ended.out;
@@ -604,7 +603,7 @@ TEST_P(Calls, DryRunPrintsTheRequestAndSendsNothing)
 
 TEST_P(Calls, SetsFieldsOfARecordByPath)
 {
-    EXPECT_EQ(ResultOf(Words({"BRMS.SetTimeSyncConfig", "config/interval=30", "config/ntpIp=a=b"})), json());
+    EXPECT_EQ(ResultOf({"BRMS.SetTimeSyncConfig", "config/interval=30", "config/ntpIp=a=b"}), json());
     const json config = ResultOf(GetTimeSync());
     EXPECT_EQ(config.at("interval"), 30);
     EXPECT_EQ(config.at("ntpIp"), "a=b");
@@ -616,39 +615,38 @@ TEST_P(Calls, MergeKeepsFieldsThatAreNotNamed)
     json expected = ResultOf(GetTimeSync());
     ASSERT_NE(expected.at("interval"), 30);
     expected["interval"] = 30;
-    EXPECT_EQ(ResultOf(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"})), json());
+    EXPECT_EQ(ResultOf({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"}), json());
     EXPECT_EQ(ResultOf(GetTimeSync()), expected);
     expected["ntpPort"] = 99;
-    EXPECT_EQ(ResultOf(Words({"--merge", "BRMS.SetTimeSyncConfig", R"({"config": {"ntpPort": 99}})"})), json());
+    EXPECT_EQ(ResultOf({"--merge", "BRMS.SetTimeSyncConfig", R"({"config": {"ntpPort": 99}})"}), json());
     EXPECT_EQ(ResultOf(GetTimeSync()), expected);
 }
 
 TEST_P(Calls, MergeChangesOneElementOfAList)
 {
-    const QStringList read = Words({"BRMS.GetEncodeConfig", "channelId=1000021$1$0$0"});
+    const Words read = {"BRMS.GetEncodeConfig", "channelId=1000021$1$0$0"};
     json expected = ResultOf(read);
     ASSERT_GE(expected.size(), 2U);
     expected[1]["bitRate"] = 777;
-    EXPECT_EQ(
-        ResultOf(Words({"--merge", "BRMS.UpdateEncodeConfig", "channelId=1000021$1$0$0", "configs/1/bitRate=777"})),
-        json());
+    EXPECT_EQ(ResultOf({"--merge", "BRMS.UpdateEncodeConfig", "channelId=1000021$1$0$0", "configs/1/bitRate=777"}),
+              json());
     EXPECT_EQ(ResultOf(read), expected);
 }
 
 TEST_P(Calls, MergeTakesTheFieldsFromARecordOfAnotherType)
 {
-    const json group = ResultOf(Words({"BRMS.GetUserGroupList", "keyword="})).at(0);
+    const json group = ResultOf({"BRMS.GetUserGroupList", "keyword="}).at(0);
     const std::string id = "groupId=" + group.at("id").get<std::string>();
-    EXPECT_EQ(ResultOf(Words({"--merge", "BRMS.UpdateUserGroup", id.c_str(), "group/memo=new"})), json());
+    EXPECT_EQ(ResultOf({"--merge", "BRMS.UpdateUserGroup", id, "group/memo=new"}), json());
     json expected = group;
     expected["memo"] = "new";
-    EXPECT_EQ(ResultOf(Words({"BRMS.GetUserGroup", id.c_str()})), expected);
+    EXPECT_EQ(ResultOf({"BRMS.GetUserGroup", id}), expected);
 }
 
 TEST_P(Calls, MergeWritesNothingWhenTheReadFails)
 {
     AddFault({{"kind", "status"}, {"status", 404}});
-    const ProgramResult ended = Run(Words({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"}));
+    const ProgramResult ended = Run({"--merge", "BRMS.SetTimeSyncConfig", "config/interval=30"});
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 404")) << ended.err;
     EXPECT_EQ(Platform().requests().size(), 1U);
@@ -657,7 +655,7 @@ TEST_P(Calls, MergeWritesNothingWhenTheReadFails)
 TEST_P(Calls, TimesOutWithoutReply)
 {
     AddFault({{"kind", "silent"}});
-    ExpectFailure(Words({"--timeout", "1", "BRMS.GetTimeSyncConfig"}), -101, ErrorText(-101));
+    ExpectFailure({"--timeout", "1", "BRMS.GetTimeSyncConfig"}, -101, ErrorText(-101));
 }
 
 TEST_P(Calls, ReportsErrorsInTheChosenLanguage)
@@ -665,18 +663,17 @@ TEST_P(Calls, ReportsErrorsInTheChosenLanguage)
     AddFault({{"kind", "closeBefore"}, {"times", 0}});
     const std::string german = ErrorText(-18, "de");
     EXPECT_NE(german, ErrorText(-18));
-    ExpectFailure(Words({"--language", "de", "BRMS.GetTimeSyncConfig"}), -18, german);
+    ExpectFailure({"--language", "de", "BRMS.GetTimeSyncConfig"}, -18, german);
 }
 
 TEST(Unreachable, FailsWithTheTextOfANetworkError)
 {
     QTcpServer closed;
     ASSERT_TRUE(closed.listen(QHostAddress::LocalHost));
-    const QString server = QStringLiteral("127.0.0.1:%1").arg(closed.serverPort());
+    const std::string server = "127.0.0.1:" + std::to_string(closed.serverPort());
     closed.close();
     for (const char* scheme : {"http://", "https://"}) {
-        const ProgramResult ended = Apicall({QStringLiteral("--server"), QString::fromLatin1(scheme) + server,
-                                             QStringLiteral("BRMS.GetTimeSyncConfig")});
+        const ProgramResult ended = Apicall({"--server", scheme + server, "BRMS.GetTimeSyncConfig"});
         EXPECT_EQ(ended.status, 1);
         EXPECT_EQ(ended.out, "");
         EXPECT_TRUE(Contains(ended.err, "failed with -18: " + ErrorText(-18) + "\n")) << ended.err;
@@ -702,14 +699,13 @@ protected:
         return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
     }
 
-    [[nodiscard]] ProgramResult Run(const QStringList& options) const
+    [[nodiscard]] ProgramResult Run(const Words& options) const
     {
-        return Apicall(
-            QStringList{QStringLiteral("--server"), QStringLiteral("https://127.0.0.1:%1").arg(m_server.Port())} +
-            options + Words({"--token", kToken, "BRMS.GetDeviceLoginModel"}));
+        return Apicall(Words{"--server", "https://127.0.0.1:" + std::to_string(m_server.Port())} + options +
+                       Words{"--token", kToken, "BRMS.GetDeviceLoginModel"});
     }
 
-    void ExpectTrusted(const QStringList& options)
+    void ExpectTrusted(const Words& options)
     {
         const ProgramResult ended = Run(options);
         EXPECT_EQ(ended.status, 0) << ended.err;
@@ -717,7 +713,7 @@ protected:
         EXPECT_FALSE(m_server.TakeRequests().empty());
     }
 
-    void ExpectNotTrusted(const QStringList& options, const QString& reason)
+    void ExpectNotTrusted(const Words& options, const QString& reason)
     {
         const ProgramResult ended = Run(options);
         EXPECT_EQ(ended.status, 1);
@@ -736,14 +732,14 @@ protected:
     }
 
     /// Writes these certificates to a PEM file and returns its name.
-    static QString FileWith(QTemporaryFile& file, const QList<QSslCertificate>& certificates)
+    static std::string FileWith(QTemporaryFile& file, const QList<QSslCertificate>& certificates)
     {
         EXPECT_TRUE(file.open());
         for (const QSslCertificate& certificate : certificates) {
             file.write(certificate.toPem());
         }
         file.close();
-        return file.fileName();
+        return file.fileName().toStdString();
     }
 
 private:
@@ -753,9 +749,9 @@ private:
     testing_support::RawServer m_server;
 };
 
-QStringList Pin(const QByteArray& digest)
+Words Pin(const QByteArray& digest)
 {
-    return {QStringLiteral("--pin"), QString::fromLatin1(digest)};
+    return {"--pin", digest.toStdString()};
 }
 
 TEST_F(Trust, AcceptsThePinOfTheCertificateOrOfItsKey)
@@ -781,33 +777,29 @@ TEST_F(Trust, RejectsAnotherPinAndPrintsTheDigest)
 TEST_F(Trust, AcceptsTheAuthorityThatSigned)
 {
     QTemporaryFile one;
-    ExpectTrusted({QStringLiteral("--ca"), FileWith(one, {ServerCertificate()})});
+    ExpectTrusted({"--ca", FileWith(one, {ServerCertificate()})});
     QTemporaryFile several;
-    ExpectTrusted(
-        {QStringLiteral("--ca"),
-         FileWith(several, {testing_support::MakeCertificate({"other.example"}).certificate, ServerCertificate()})});
+    ExpectTrusted({"--ca", FileWith(several, {testing_support::MakeCertificate({"other.example"}).certificate,
+                                              ServerCertificate()})});
     QTemporaryFile other;
-    ExpectTrusted({QStringLiteral("--ca"),
-                   FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate}),
-                   QStringLiteral("--ca"), one.fileName()});
+    ExpectTrusted({"--ca", FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate}), "--ca",
+                   one.fileName().toStdString()});
 }
 
 TEST_F(Trust, RejectsAnAuthorityThatDidNotSign)
 {
     QTemporaryFile file;
-    ExpectNotTrusted(
-        {QStringLiteral("--ca"), FileWith(file, {testing_support::MakeCertificate({"other.example"}).certificate})},
-        QSslError(QSslError::SelfSignedCertificate).errorString());
+    ExpectNotTrusted({"--ca", FileWith(file, {testing_support::MakeCertificate({"other.example"}).certificate})},
+                     QSslError(QSslError::SelfSignedCertificate).errorString());
 }
 
 TEST_F(Trust, PinTakesPrecedenceOverAuthority)
 {
     QTemporaryFile own;
-    const QStringList signer{QStringLiteral("--ca"), FileWith(own, {ServerCertificate()})};
+    const Words signer{"--ca", FileWith(own, {ServerCertificate()})};
     ExpectNotTrusted(signer + Pin(kDigest), QStringLiteral("another certificate is pinned"));
     QTemporaryFile other;
-    ExpectTrusted(QStringList{QStringLiteral("--ca"),
-                              FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate})} +
+    ExpectTrusted(Words{"--ca", FileWith(other, {testing_support::MakeCertificate({"other.example"}).certificate})} +
                   Pin(Digest(ServerCertificate().toDer()).toHex()));
 }
 
@@ -821,10 +813,8 @@ TEST(Ipv6, AcceptsAnAddressInBrackets)
     } catch (const std::runtime_error& error) {
         GTEST_SKIP() << "this machine has no IPv6: " << error.what();
     }
-    const ProgramResult ended =
-        Apicall({QStringLiteral("--server"), QStringLiteral("http://[::1]:%1").arg(platform.httpPort()),
-                 QStringLiteral("--token"), QString::fromLatin1(emulator::kDefaultToken),
-                 QStringLiteral("BRMS.GetDeviceLoginModel")});
+    const ProgramResult ended = Apicall({"--server", "http://[::1]:" + std::to_string(platform.httpPort()), "--token",
+                                         emulator::kDefaultToken, "BRMS.GetDeviceLoginModel"});
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(ended.out, "1\n");
 }
