@@ -28,7 +28,6 @@ constexpr std::size_t kShortestChunkRest = std::string_view("0\r\n\r\n").size();
 constexpr int kHttp10 = 10;
 constexpr int kHttp11 = 11;
 
-constexpr const char* kBadLine = "line without CR LF at its end, or control character";
 constexpr int kBadRequest = 400;
 constexpr int kContentTooLarge = 413;
 constexpr int kUriTooLong = 414;
@@ -37,8 +36,191 @@ constexpr int kHeadTooLarge = 431;
 constexpr int kNotImplemented = 501;
 constexpr int kVersionNotSupported = 505;
 
+bool IsControl(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    return (byte < 0x20 && c != '\t') || byte == 0x7f;
+}
+
+bool IsTokenChar(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+           (c != '\0' && std::string_view("!#$%&'*+-.^_`|~").find(c) != std::string_view::npos);
+}
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool IsName(const std::string& name, const char* wanted)
+{
+    return ::strcasecmp(name.c_str(), wanted) == 0;
+}
+
+std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool HasFoldedLine(std::string_view lines)
+{
+    return lines.find("\r\n ") != std::string_view::npos || lines.find("\r\n\t") != std::string_view::npos;
+}
+
+/// Whether a Content-Length is valid but too large for an integer.
+bool DeclaresHugeLength(std::string_view head)
+{
+    constexpr std::string_view name = "content-length:";
+    constexpr std::size_t kSafeDigits = std::numeric_limits<std::uint64_t>::digits10;
+    for (std::size_t begin = head.find('\n'); begin != std::string_view::npos; begin = head.find('\n', begin)) {
+        ++begin;
+        const std::string_view line = head.substr(begin, head.find('\r', begin) - begin);
+        if (line.size() > name.size() && ::strncasecmp(line.data(), name.data(), name.size()) == 0) {
+            const std::string_view length = Trimmed(line.substr(name.size()));
+            if (length.size() > kSafeDigits && length.find_first_not_of("0123456789") == std::string_view::npos) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// Whether the line has three parts, and the last one has the form "HTTP/d.d".
+bool NamesVersion(std::string_view line)
+{
+    constexpr std::string_view form = " HTTP/d.d\r\n";
+    if (line.size() < form.size() || std::count(line.begin(), line.end(), ' ') != 2) {
+        return false;
+    }
+    line.remove_prefix(line.size() - form.size());
+    return std::equal(form.begin(), form.end(), line.begin(),
+                      [](char wanted, char c) { return wanted == 'd' ? c >= '0' && c <= '9' : c == wanted; });
+}
+
+void CheckRequestLine(const error_code& error, const HttpRequest& request, std::string_view line)
+{
+    if (error == http::error::bad_version && NamesVersion(line)) {
+        throw RequestFault{kVersionNotSupported, "unsupported HTTP version"};
+    }
+    if (error && error != http::error::need_more) {
+        throw RequestFault{kBadRequest, "request line: " + error.message()};
+    }
+    if (request.target.size() > kLongestTarget) {
+        throw RequestFault{kUriTooLong, "target too long"};
+    }
+    if (!IsServed(request.method)) {
+        throw RequestFault{kNotImplemented, "unknown method"};
+    }
+}
+
+void CheckHost(const HttpRequest& request, int version)
+{
+    const auto isHost = [](const auto& header) { return IsName(header.first, "Host"); };
+    const auto count = std::count_if(request.headers.begin(), request.headers.end(), isHost);
+    if (count > 1 || (count == 0 && version >= kHttp11)) {
+        throw RequestFault{kBadRequest, count == 0 ? "missing Host header" : "duplicate Host header"};
+    }
+    const auto host = std::find_if(request.headers.begin(), request.headers.end(), isHost);
+    if (host != request.headers.end() && host->second.find_first_of(" \t,/?#@\\\"<>") != std::string::npos) {
+        throw RequestFault{kBadRequest, "invalid Host header"};
+    }
+}
+
+/// Checks Transfer-Encoding, because the parser treats a message with an unknown coding as one without a body.
+void CheckTransferCoding(const HttpRequest& request, int version)
+{
+    std::size_t chunked = 0;
+    bool isThere = false;
+    for (const auto& [name, value] : request.headers) {
+        if (!IsName(name, "Transfer-Encoding")) {
+            continue;
+        }
+        isThere = true;
+        for (const std::string& coding : Split(value, ',')) {
+            const std::string trimmed(Trimmed(coding));
+            if (IsName(trimmed, "chunked")) {
+                ++chunked;
+            } else if (!trimmed.empty()) {
+                throw RequestFault{kNotImplemented, "unknown transfer coding"};
+            }
+        }
+    }
+    if (isThere && (chunked != 1 || version < kHttp11)) {
+        throw RequestFault{kBadRequest, "invalid transfer coding"};
+    }
+}
+
+std::string ExpectationOf(const HttpRequest& request)
+{
+    const auto found = std::find_if(request.headers.begin(), request.headers.end(),
+                                    [](const auto& header) { return IsName(header.first, "Expect"); });
+    return found == request.headers.end() ? std::string() : found->second;
+}
+
+void CheckHead(const error_code& error, const HttpRequest& request, std::string_view head, int version)
+{
+    if (HasFoldedLine(head)) {
+        throw RequestFault{kBadRequest, "folded header"};
+    }
+    if (error == http::error::body_limit || (error == http::error::bad_content_length && DeclaresHugeLength(head))) {
+        throw RequestFault{kContentTooLarge, "body too large"};
+    }
+    if (error) {
+        throw RequestFault{kBadRequest, "headers: " + error.message()};
+    }
+    CheckHost(request, version);
+    CheckTransferCoding(request, version);
+    const std::string expectation = ExpectationOf(request);
+    if (version >= kHttp11 && !expectation.empty() && !IsName(expectation, "100-continue")) {
+        throw RequestFault{kExpectationFailed, "unknown expectation"};
+    }
+}
+
+/// Checks the size of an incomplete line between two chunks or in the trailers.
+void CheckIncompleteLine(std::string_view input)
+{
+    if (input.size() > kLargestEndOfBody) {
+        throw RequestFault{kHeadTooLarge, "trailers too large"};
+    }
+}
+
+/// Whether the line with the size of the next chunk is complete, after the end of the previous chunk.
+bool HasChunkSize(std::string_view input)
+{
+    LineScan lines;
+    const bool lineEnds = lines.scan(input) && (!lines.lineWasEmpty() || lines.scan(input));
+    if (!lineEnds) {
+        CheckIncompleteLine(input);
+    }
+    return lineEnds && input.size() >= kShortestChunkRest;
+}
+
+/// Checks the incomplete end of a chunked body.
+void CheckEndOfBody(std::string_view input)
+{
+    LineScan lines;
+    while (lines.scan(input)) {
+    }
+    CheckIncompleteLine(input);
+}
+
+}  // namespace
+
+bool IsServed(const std::string& method)
+{
+    static const std::vector<std::string> served = {"GET", "HEAD", "POST", "PUT", "DELETE", "OPTIONS", "PATCH"};
+    return std::find(served.begin(), served.end(), method) != served.end();
+}
+
 /// Stores the fields as received.
-class Parser final : public http::basic_parser<true> {
+class RequestReader::Parser final : public http::basic_parser<true> {
 public:
     explicit Parser(HttpRequest& request) : m_request(request)
     {
@@ -100,470 +282,195 @@ private:
     bool m_inChunk = false;
 };
 
-bool IsControl(char c)
+bool LineScan::scan(std::string_view text)
 {
-    const auto byte = static_cast<unsigned char>(c);
-    return (byte < 0x20 && c != '\t') || byte == 0x7f;
-}
-
-bool IsTokenChar(char c)
-{
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
-           (c != '\0' && std::string_view("!#$%&'*+-.^_`|~").find(c) != std::string_view::npos);
-}
-
-bool IsBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-bool IsName(const std::string& name, const char* wanted)
-{
-    return ::strcasecmp(name.c_str(), wanted) == 0;
-}
-
-std::string_view Trimmed(std::string_view text)
-{
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
-bool HasFoldedLine(std::string_view lines)
-{
-    return lines.find("\r\n ") != std::string_view::npos || lines.find("\r\n\t") != std::string_view::npos;
-}
-
-/// Checks that lines of text end in CR LF and contain no other control character. The parser does not report a wrong
-/// line end: it waits for more data.
-class LineScan {
-public:
-    enum class Found {
-        Nothing,
-        LineEnd,
-        Fault
-    };
-
-    /// Continues to the end of the line or of the text.
-    Found scan(std::string_view text)
-    {
-        for (; m_at < text.size(); ++m_at) {
-            const char c = text[m_at];
-            const bool afterReturn = m_at > m_line && text[m_at - 1] == '\r';
-            if (c == '\n' ? !afterReturn : afterReturn || (c != '\r' && IsControl(c))) {
-                return Found::Fault;
-            }
-            if (c == '\n') {
-                m_lineBefore = m_line;
-                m_line = ++m_at;
-                return Found::LineEnd;
-            }
+    for (; m_at < text.size(); ++m_at) {
+        const char c = text[m_at];
+        const bool afterReturn = m_at > m_line && text[m_at - 1] == '\r';
+        if (c == '\n' ? !afterReturn : afterReturn || (c != '\r' && IsControl(c))) {
+            throw RequestFault{kBadRequest, "line without CR LF at its end, or control character"};
         }
-        return Found::Nothing;
-    }
-
-    /// The current position.
-    [[nodiscard]] std::size_t position() const { return m_at; }
-    /// Whether the last complete line is empty.
-    [[nodiscard]] bool lineWasEmpty() const { return m_line == m_lineBefore + 2; }
-
-private:
-    std::size_t m_at = 0;
-    std::size_t m_line = 0;
-    std::size_t m_lineBefore = 0;
-};
-
-/// Whether a Content-Length is valid but too large for an integer.
-bool DeclaresHugeLength(std::string_view head)
-{
-    constexpr std::string_view name = "content-length:";
-    constexpr std::size_t kSafeDigits = std::numeric_limits<std::uint64_t>::digits10;
-    for (std::size_t begin = head.find('\n'); begin != std::string_view::npos; begin = head.find('\n', begin)) {
-        ++begin;
-        const std::string_view line = head.substr(begin, head.find('\r', begin) - begin);
-        if (line.size() > name.size() && ::strncasecmp(line.data(), name.data(), name.size()) == 0) {
-            const std::string_view length = Trimmed(line.substr(name.size()));
-            if (length.size() > kSafeDigits && length.find_first_not_of("0123456789") == std::string_view::npos) {
-                return true;
-            }
+        if (c == '\n') {
+            m_lineBefore = m_line;
+            m_line = ++m_at;
+            return true;
         }
     }
     return false;
 }
 
-/// Whether the line has three parts, and the last one has the form "HTTP/d.d".
-bool NamesVersion(std::string_view line)
-{
-    constexpr std::string_view form = " HTTP/d.d\r\n";
-    if (line.size() < form.size() || std::count(line.begin(), line.end(), ' ') != 2) {
-        return false;
-    }
-    line.remove_prefix(line.size() - form.size());
-    return std::equal(form.begin(), form.end(), line.begin(),
-                      [](char wanted, char c) { return wanted == 'd' ? c >= '0' && c <= '9' : c == wanted; });
-}
-
-std::optional<RequestFault> FaultOfRequestLine(const error_code& error, const HttpRequest& request,
-                                               std::string_view line)
-{
-    if (error == http::error::bad_version && NamesVersion(line)) {
-        return RequestFault{kVersionNotSupported, "unsupported HTTP version"};
-    }
-    if (error && error != http::error::need_more) {
-        return RequestFault{kBadRequest, "request line: " + error.message()};
-    }
-    if (request.target.size() > kLongestTarget) {
-        return RequestFault{kUriTooLong, "target too long"};
-    }
-    if (!IsServed(request.method)) {
-        return RequestFault{kNotImplemented, "unknown method"};
-    }
-    return std::nullopt;
-}
-
-std::optional<RequestFault> FaultOfHost(const HttpRequest& request, int version)
-{
-    const auto isHost = [](const auto& header) { return IsName(header.first, "Host"); };
-    const auto count = std::count_if(request.headers.begin(), request.headers.end(), isHost);
-    if (count > 1 || (count == 0 && version >= kHttp11)) {
-        return RequestFault{kBadRequest, count == 0 ? "missing Host header" : "duplicate Host header"};
-    }
-    const auto host = std::find_if(request.headers.begin(), request.headers.end(), isHost);
-    if (host != request.headers.end() && host->second.find_first_of(" \t,/?#@\\\"<>") != std::string::npos) {
-        return RequestFault{kBadRequest, "invalid Host header"};
-    }
-    return std::nullopt;
-}
-
-/// Checks Transfer-Encoding, because the parser treats a message with an unknown coding as one without a body.
-std::optional<RequestFault> FaultOfTransferCoding(const HttpRequest& request, int version)
-{
-    std::size_t chunked = 0;
-    bool isThere = false;
-    for (const auto& [name, value] : request.headers) {
-        if (!IsName(name, "Transfer-Encoding")) {
-            continue;
-        }
-        isThere = true;
-        for (const std::string& coding : Split(value, ',')) {
-            const std::string trimmed(Trimmed(coding));
-            if (IsName(trimmed, "chunked")) {
-                ++chunked;
-            } else if (!trimmed.empty()) {
-                return RequestFault{kNotImplemented, "unknown transfer coding"};
-            }
-        }
-    }
-    if (isThere && (chunked != 1 || version < kHttp11)) {
-        return RequestFault{kBadRequest, "invalid transfer coding"};
-    }
-    return std::nullopt;
-}
-
-std::string ExpectationOf(const HttpRequest& request)
-{
-    const auto found = std::find_if(request.headers.begin(), request.headers.end(),
-                                    [](const auto& header) { return IsName(header.first, "Expect"); });
-    return found == request.headers.end() ? std::string() : found->second;
-}
-
-std::optional<RequestFault> FaultOfHead(const error_code& error, const HttpRequest& request, std::string_view head,
-                                        int version)
-{
-    if (HasFoldedLine(head)) {
-        return RequestFault{kBadRequest, "folded header"};
-    }
-    if (error == http::error::body_limit || (error == http::error::bad_content_length && DeclaresHugeLength(head))) {
-        return RequestFault{kContentTooLarge, "body too large"};
-    }
-    if (error) {
-        return RequestFault{kBadRequest, "headers: " + error.message()};
-    }
-    if (std::optional<RequestFault> fault = FaultOfHost(request, version)) {
-        return fault;
-    }
-    if (std::optional<RequestFault> fault = FaultOfTransferCoding(request, version)) {
-        return fault;
-    }
-    const std::string expectation = ExpectationOf(request);
-    if (version >= kHttp11 && !expectation.empty() && !IsName(expectation, "100-continue")) {
-        return RequestFault{kExpectationFailed, "unknown expectation"};
-    }
-    return std::nullopt;
-}
-
-}  // namespace
-
-bool IsServed(const std::string& method)
-{
-    static const std::vector<std::string> served = {"GET", "HEAD", "POST", "PUT", "DELETE", "OPTIONS", "PATCH"};
-    return std::find(served.begin(), served.end(), method) != served.end();
-}
-
-class RequestReader::Private {
-public:
-    void add(std::string_view bytes)
-    {
-        m_input.erase(0, m_used);
-        m_used = 0;
-        m_input.append(bytes);
-    }
-
-    Progress read()
-    {
-        while (!m_fault) {
-            if (!m_parser) {
-                if (!begin()) {
-                    return m_fault ? Progress::Refused : Progress::NeedsMore;
-                }
-            } else if (!m_parser->is_header_done()) {
-                if (!readHead()) {
-                    return m_fault ? Progress::Refused : Progress::NeedsMore;
-                }
-                if (!m_parser->is_done() && rest().empty() && m_parser->version() >= kHttp11 &&
-                    !ExpectationOf(m_request).empty()) {
-                    return Progress::ExpectsContinue;
-                }
-            } else if (m_parser->is_done()) {
-                return Progress::Complete;
-            } else if (!readBody()) {
-                return m_fault ? Progress::Refused : Progress::NeedsMore;
-            }
-        }
-        return Progress::Refused;
-    }
-
-    Progress readEnd()
-    {
-        if (hasBegun()) {
-            refuse({kBadRequest, "incomplete request"});
-        }
-        return m_fault ? Progress::Refused : Progress::NeedsMore;
-    }
-
-    void next()
-    {
-        m_parser.reset();
-        m_request = {};
-        m_lines = {};
-        m_parsed = 0;
-        m_skippedLine = false;
-    }
-
-    [[nodiscard]] bool hasBegun() const { return m_parser.has_value(); }
-    [[nodiscard]] std::string_view rest() const { return std::string_view(m_input).substr(m_used); }
-
-    std::string m_input;
-    std::size_t m_used = 0;  ///< bytes of the input parsed so far
-    HttpRequest m_request;
-    std::optional<Parser> m_parser;
-    std::optional<RequestFault> m_fault;
-
-private:
-    void refuse(RequestFault fault) { m_fault = std::move(fault); }
-
-    /// Skips one empty line, which some clients send after a body.
-    bool begin()
-    {
-        const std::string_view input = rest();
-        if (input.empty() || (!m_skippedLine && input == "\r")) {
-            return false;
-        }
-        if (!m_skippedLine && StartsWith(input, "\r\n")) {
-            m_skippedLine = true;
-            m_used += 2;
-            return begin();
-        }
-        m_parser.emplace(m_request);
-        return true;
-    }
-
-    /// @return whether the head is complete and valid
-    bool readHead()
-    {
-        const std::string_view input = rest();
-        for (;;) {
-            const LineScan::Found found = m_lines.scan(input);
-            const bool inFirstLine = m_request.method.empty();
-            if (found == LineScan::Found::Fault) {
-                refuse({kBadRequest, kBadLine});
-                return false;
-            }
-            if (inFirstLine && !readRequestLine(input.substr(0, m_lines.position()), found)) {
-                return false;
-            }
-            if (m_lines.position() > kLargestHead) {
-                refuse({kHeadTooLarge, "head too large"});
-                return false;
-            }
-            if (found == LineScan::Found::Nothing) {
-                return false;
-            }
-            if (!inFirstLine && m_lines.lineWasEmpty()) {
-                return endHead(input.substr(0, m_lines.position()));
-            }
-        }
-    }
-
-    /// Checks the request line immediately: a client of another protocol may never send the end of the head.
-    bool readRequestLine(std::string_view line, LineScan::Found found)
-    {
-        const std::size_t blank = std::min(line.find(' '), line.size());
-        if (!std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(blank), IsTokenChar)) {
-            refuse({kBadRequest, "invalid method"});
-            return false;
-        }
-        if (line.size() > kLongestRequestLine) {
-            refuse({blank < kLongestRequestLine ? kUriTooLong : kBadRequest, "request line too long"});
-            return false;
-        }
-        if (found == LineScan::Found::Nothing) {
-            return true;
-        }
-        error_code error;
-        m_parsed = m_parser->put(boost::asio::buffer(line.data(), line.size()), error);
-        if (std::optional<RequestFault> fault = FaultOfRequestLine(error, m_request, line)) {
-            refuse(*std::move(fault));
-            return false;
-        }
-        return true;
-    }
-
-    bool endHead(std::string_view head)
-    {
-        error_code error;
-        m_parsed += m_parser->put(boost::asio::buffer(head.data() + m_parsed, head.size() - m_parsed), error);
-        if (std::optional<RequestFault> fault = FaultOfHead(error, m_request, head, m_parser->version())) {
-            refuse(*std::move(fault));
-            return false;
-        }
-        m_used += head.size();
-        return true;
-    }
-
-    /// @return whether any bytes were parsed
-    bool readBody()
-    {
-        const std::string_view input = rest();
-        if (input.empty()) {
-            return false;
-        }
-        const bool isText = m_parser->isBetweenChunks();
-        if (isText && !hasChunkSize(input)) {
-            return false;
-        }
-        error_code error;
-        const std::size_t count = m_parser->put(boost::asio::buffer(input.data(), input.size()), error);
-        m_used += count;
-        if (error == http::error::need_more) {
-            checkEndOfBody(input);
-            return false;
-        }
-        if (error == http::error::body_limit) {
-            refuse({kContentTooLarge, "body too large"});
-        } else if (error) {
-            refuse({kBadRequest, "body: " + error.message()});
-        } else if (isText && count > kLargestEndOfBody) {
-            refuse({kHeadTooLarge, "trailers too large"});
-        } else if (isText && HasFoldedLine(input.substr(0, count))) {
-            refuse({kBadRequest, "folded header"});
-        }
-        return !m_fault;
-    }
-
-    /// Whether the line with the size of the next chunk is complete, after the end of the previous chunk.
-    bool hasChunkSize(std::string_view input)
-    {
-        LineScan lines;
-        LineScan::Found found = lines.scan(input);
-        if (found == LineScan::Found::LineEnd && lines.lineWasEmpty()) {
-            found = lines.scan(input);
-        }
-        return checkText(input, found) && found == LineScan::Found::LineEnd && input.size() >= kShortestChunkRest;
-    }
-
-    /// Checks the incomplete end of a chunked body.
-    void checkEndOfBody(std::string_view input)
-    {
-        LineScan lines;
-        LineScan::Found found = LineScan::Found::LineEnd;
-        while (found == LineScan::Found::LineEnd) {
-            found = lines.scan(input);
-        }
-        checkText(input, found);
-    }
-
-    bool checkText(std::string_view input, LineScan::Found found)
-    {
-        if (found == LineScan::Found::Fault) {
-            refuse({kBadRequest, kBadLine});
-        } else if (found == LineScan::Found::Nothing && input.size() > kLargestEndOfBody) {
-            refuse({kHeadTooLarge, "trailers too large"});
-        }
-        return !m_fault;
-    }
-
-    LineScan m_lines;
-    std::size_t m_parsed = 0;  ///< bytes of the head passed to the parser
-    bool m_skippedLine = false;
-};
-
-RequestReader::RequestReader() : m_private(std::make_unique<Private>()) {}
+RequestReader::RequestReader() = default;
 
 RequestReader::~RequestReader() = default;
 
 void RequestReader::add(std::string_view bytes)
 {
-    m_private->add(bytes);
+    m_input.erase(0, m_used);
+    m_used = 0;
+    m_input.append(bytes);
 }
 
 RequestReader::Progress RequestReader::read()
 {
-    return m_private->read();
+    return refusing([this] { return parse(); });
 }
 
 RequestReader::Progress RequestReader::readEnd()
 {
-    return m_private->readEnd();
+    return refusing([this] {
+        if (hasBegun()) {
+            throw RequestFault{kBadRequest, "incomplete request"};
+        }
+        return Progress::NeedsMore;
+    });
 }
 
 void RequestReader::next()
 {
-    m_private->next();
+    m_parser.reset();
+    m_request = {};
+    m_lines = {};
+    m_parsed = 0;
+    m_skippedLine = false;
 }
 
-bool RequestReader::hasBegun() const
+template <typename Action>
+RequestReader::Progress RequestReader::refusing(Action action)
 {
-    return m_private->hasBegun();
+    try {
+        return m_fault ? Progress::Refused : action();
+    } catch (const RequestFault& fault) {
+        m_fault = fault;
+        return Progress::Refused;
+    }
 }
 
-std::size_t RequestReader::pending() const
+RequestReader::Progress RequestReader::parse()
 {
-    return m_private->rest().size();
+    for (;;) {
+        if (!m_parser) {
+            if (!begin()) {
+                return Progress::NeedsMore;
+            }
+        } else if (!m_parser->is_header_done()) {
+            if (!readHead()) {
+                return Progress::NeedsMore;
+            }
+            if (!m_parser->is_done() && rest().empty() && m_parser->version() >= kHttp11 &&
+                !ExpectationOf(m_request).empty()) {
+                return Progress::ExpectsContinue;
+            }
+        } else if (m_parser->is_done()) {
+            return Progress::Complete;
+        } else if (!readBody()) {
+            return Progress::NeedsMore;
+        }
+    }
 }
 
-HttpRequest& RequestReader::request()
+bool RequestReader::begin()
 {
-    return m_private->m_request;
+    const std::string_view input = rest();
+    if (input.empty() || (!m_skippedLine && input == "\r")) {
+        return false;
+    }
+    if (!m_skippedLine && StartsWith(input, "\r\n")) {
+        m_skippedLine = true;
+        m_used += 2;
+        return begin();
+    }
+    m_parser = std::make_unique<Parser>(m_request);
+    return true;
+}
+
+bool RequestReader::readHead()
+{
+    const std::string_view input = rest();
+    for (;;) {
+        const bool lineEnds = m_lines.scan(input);
+        const std::string_view scanned = input.substr(0, m_lines.position());
+        const bool inFirstLine = m_request.method.empty();
+        if (inFirstLine) {
+            readRequestLine(scanned, lineEnds);
+        }
+        if (scanned.size() > kLargestHead) {
+            throw RequestFault{kHeadTooLarge, "head too large"};
+        }
+        if (!lineEnds) {
+            return false;
+        }
+        if (!inFirstLine && m_lines.lineWasEmpty()) {
+            endHead(scanned);
+            return true;
+        }
+    }
+}
+
+void RequestReader::readRequestLine(std::string_view line, bool isComplete)
+{
+    const std::size_t blank = std::min(line.find(' '), line.size());
+    if (!std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(blank), IsTokenChar)) {
+        throw RequestFault{kBadRequest, "invalid method"};
+    }
+    if (line.size() > kLongestRequestLine) {
+        throw RequestFault{blank < kLongestRequestLine ? kUriTooLong : kBadRequest, "request line too long"};
+    }
+    if (!isComplete) {
+        return;
+    }
+    error_code error;
+    m_parsed = m_parser->put(boost::asio::buffer(line.data(), line.size()), error);
+    CheckRequestLine(error, m_request, line);
+}
+
+void RequestReader::endHead(std::string_view head)
+{
+    error_code error;
+    m_parsed += m_parser->put(boost::asio::buffer(head.data() + m_parsed, head.size() - m_parsed), error);
+    CheckHead(error, m_request, head, m_parser->version());
+    m_used += head.size();
+}
+
+bool RequestReader::readBody()
+{
+    const std::string_view input = rest();
+    if (input.empty()) {
+        return false;
+    }
+    const bool isText = m_parser->isBetweenChunks();
+    if (isText && !HasChunkSize(input)) {
+        return false;
+    }
+    error_code error;
+    const std::size_t count = m_parser->put(boost::asio::buffer(input.data(), input.size()), error);
+    m_used += count;
+    if (error == http::error::need_more) {
+        CheckEndOfBody(input);
+        return false;
+    }
+    if (error == http::error::body_limit) {
+        throw RequestFault{kContentTooLarge, "body too large"};
+    }
+    if (error) {
+        throw RequestFault{kBadRequest, "body: " + error.message()};
+    }
+    if (isText && count > kLargestEndOfBody) {
+        throw RequestFault{kHeadTooLarge, "trailers too large"};
+    }
+    if (isText && HasFoldedLine(input.substr(0, count))) {
+        throw RequestFault{kBadRequest, "folded header"};
+    }
+    return true;
 }
 
 bool RequestReader::keepsAlive() const
 {
-    return m_private->m_parser->keep_alive();
+    return m_parser->keep_alive();
 }
 
 bool RequestReader::isOldVersion() const
 {
-    return m_private->m_parser->version() == kHttp10;
-}
-
-const RequestFault& RequestReader::fault() const
-{
-    return *m_private->m_fault;
+    return m_parser->version() == kHttp10;
 }
 
 }  // namespace emulator
