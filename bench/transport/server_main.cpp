@@ -21,11 +21,9 @@ using emulator::HttpResponse;
 constexpr const char* kSettings =
     R"({"code":1000,"desc":"Success","data":{"enable":"1","ip":"192.168.10.2","port":"514","platformId":"1"}})";
 
-HttpResponse ResponseWith(std::string body)
+HttpResponse ResponseWith(const std::string& body)
 {
-    HttpResponse response;
-    response.body = std::move(body);
-    return response;
+    return {200, {}, body};
 }
 
 const std::string& Lots(int nCount)

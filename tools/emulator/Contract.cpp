@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
-#include <functional>
 #include <set>
 #include <utility>
 
@@ -256,9 +255,8 @@ Json ParameterExamples(const std::vector<Json>& parameters)
     return examples;
 }
 
-/// Returns what the contract says about a value, from the value's node.
-template <typename Said>
-using DescribeNode = std::function<Said(const Json&)>;
+/// The contract's nodes that describe values, with the keys of Descriptions.
+using Nodes = std::map<std::string, const Json*>;
 
 std::string DescriptionIn(const Json& node)
 {
@@ -278,8 +276,9 @@ Json LimitsIn(const Json& node)
 }
 
 /// A list of values or a range.
-std::string TextOf(const Json& limits)
+std::string AllowedIn(const Json& node)
 {
+    const Json limits = LimitsIn(node);
     std::string allowed;
     const auto add = [&allowed](const std::string& prefix, const Json& value) {
         allowed.append(allowed.empty() ? "" : ", ").append(prefix).append(value.dump());
@@ -296,40 +295,39 @@ std::string TextOf(const Json& limits)
     return allowed;
 }
 
+/// Adds outer keys before nested ones, so that the plain name of a duplicate key refers to the outer key.
+void AddNodes(const Json& schema, const std::string& parent, Nodes& nodes)
+{
+    static const Json none = Json::object();
+    const Json& properties = schema.contains("properties") ? schema.at("properties") : none;
+    for (const auto& [key, property] : properties.items()) {
+        nodes.emplace(key, &property);
+        if (!parent.empty()) {
+            nodes.emplace(std::string(parent).append("/").append(key), &property);
+        }
+    }
+    for (const auto& [key, property] : properties.items()) {
+        AddNodes(property.contains("items") ? property.at("items") : property, key, nodes);
+    }
+    if (schema.contains("oneOf")) {
+        for (const Json& choice : schema.at("oneOf")) {
+            AddNodes(choice, parent, nodes);
+        }
+    }
+}
+
+/// What the contract says about each value.
 template <typename Said>
-std::map<std::string, Said> DescriptionsOfParameters(const std::vector<Json>& parameters,
-                                                     const DescribeNode<Said>& describe)
+std::map<std::string, Said> Described(const Nodes& nodes, Said (*describe)(const Json& node))
 {
     std::map<std::string, Said> said;
-    for (const Json& parameter : parameters) {
-        said[parameter.at("name")] = describe(parameter);
+    for (const auto& [key, node] : nodes) {
+        said.emplace(key, describe(*node));
     }
     return said;
 }
 
-/// Adds outer keys before nested ones, so that the plain name of a duplicate key refers to the outer key.
-template <typename Said>
-void AddDescriptions(const Json& schema, const DescribeNode<Said>& describe, const std::string& parent,
-                     std::map<std::string, Said>& descriptions)
-{
-    const Json properties = schema.value("properties", Json::object());
-    for (const auto& [key, property] : properties.items()) {
-        const Said said = describe(property);
-        descriptions.emplace(key, said);
-        if (!parent.empty()) {
-            descriptions.emplace(std::string(parent).append("/").append(key), said);
-        }
-    }
-    for (const auto& [key, property] : properties.items()) {
-        AddDescriptions(property.value("items", property), describe, key, descriptions);
-    }
-    const Json choices = schema.value("oneOf", Json::array());
-    for (const Json& choice : choices) {
-        AddDescriptions(choice, describe, parent, descriptions);
-    }
-}
-
-/// Adds outer keys before nested ones, like AddDescriptions().
+/// Adds outer keys before nested ones, like AddNodes().
 void AddExamples(const Json& example, const std::string& parent, Descriptions& examples)
 {
     for (const auto& [key, value] : example.items()) {
@@ -357,8 +355,10 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     std::optional<Schema> body;
     std::vector<Json> bodyExamples;
     const std::vector<Json> parameters = ParametersOf(path, described);
-    Limits limits = DescriptionsOfParameters<Json>(parameters, LimitsIn);
-    Descriptions sent = DescriptionsOfParameters<std::string>(parameters, DescriptionIn);
+    Nodes sent;
+    for (const Json& parameter : parameters) {
+        sent[parameter.at("name")] = &parameter;
+    }
     const Json parameterExamples = ParameterExamples(parameters);
     Descriptions examples;
     AddExamples(parameterExamples, {}, examples);
@@ -366,8 +366,7 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
         const Json& content = described.at("requestBody").at(jsonContent);
         body = SchemaOf(content.at("schema"), where + "/requestBody");
         bodyExamples = ExamplesOf(content);
-        AddDescriptions<Json>(content.at("schema"), LimitsIn, {}, limits);
-        AddDescriptions<std::string>(content.at("schema"), DescriptionIn, {}, sent);
+        AddNodes(content.at("schema"), {}, sent);
         for (const Json& example : bodyExamples) {
             AddExamples(example, {}, examples);
         }
@@ -377,13 +376,9 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
     const Json& success = SuccessOf(reply, where);
     Schema replySchema = SchemaOf(reply, where + "/responses/200");
     Schema successSchema = SchemaOf(success, where + "/responses/200");
-    Json data = success.at("properties").value("data", Json::object());
-    Descriptions received;
-    AddDescriptions<std::string>(data, DescriptionIn, {}, received);
-    Descriptions allowed;
-    for (const auto& [key, said] : limits) {
-        allowed[key] = TextOf(said);
-    }
+    const Json data = success.at("properties").value("data", Json::object());
+    Nodes received;
+    AddNodes(data, {}, received);
     std::string upper = method;
     std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
     return Operation{described.at("operationId"),
@@ -393,16 +388,16 @@ Operation OperationOf(const std::string& template_, const std::string& method, c
                      std::move(body),
                      std::move(replySchema),
                      std::move(successSchema),
-                     std::move(data),
+                     data,
                      parameterExamples,
                      std::move(bodyExamples),
                      ExamplesOf(content),
                      described.value("description", ""),
-                     std::move(allowed),
-                     std::move(sent),
-                     std::move(limits),
+                     Described(sent, AllowedIn),
+                     Described(sent, DescriptionIn),
+                     Described(sent, LimitsIn),
                      std::move(examples),
-                     std::move(received)};
+                     Described(received, DescriptionIn)};
 }
 
 bool IsPlaceholder(const std::string& segment)

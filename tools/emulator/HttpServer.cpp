@@ -114,10 +114,7 @@ private:
 
 HttpResponse ErrorResponse(int status, const std::string& reason)
 {
-    HttpResponse response;
-    response.status = status;
-    response.body = Json{{"error", reason}}.dump(-1, ' ', false, Json::error_handler_t::replace);
-    return response;
+    return {status, {}, Json{{"error", reason}}.dump(-1, ' ', false, Json::error_handler_t::replace)};
 }
 
 const std::string* HeaderOf(const HttpResponse& response, const char* name)

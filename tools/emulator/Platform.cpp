@@ -19,10 +19,7 @@ Json Envelope(int envelopeCode, const std::string& desc)
 
 HttpResponse ResponseWith(int status, const Json& envelope)
 {
-    HttpResponse response;
-    response.status = status;
-    response.body = envelope.dump(-1, ' ', false, Json::error_handler_t::replace);
-    return response;
+    return {status, {}, envelope.dump(-1, ' ', false, Json::error_handler_t::replace)};
 }
 
 /// Converts the text to the type of its schema: "12" becomes a number for an integer.

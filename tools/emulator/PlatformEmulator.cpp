@@ -21,25 +21,12 @@ constexpr const char* kControlPath = "/emulator/";
 
 HttpResponse Plain(int status, const Json& body)
 {
-    HttpResponse response;
-    response.status = status;
-    response.body = body.dump(-1, ' ', false, Json::error_handler_t::replace);
-    return response;
+    return {status, {}, body.dump(-1, ' ', false, Json::error_handler_t::replace)};
 }
 
 HttpResponse PlainError(int status, const std::string& text)
 {
     return Plain(status, Json{{"error", text}});
-}
-
-template <typename List>
-Json ListOf(const List& list)
-{
-    Json json = Json::array();
-    for (const auto& element : list) {
-        json.push_back(element.toJson());
-    }
-    return json;
 }
 
 Json Numbered(std::size_t number, const Fault& fault)
@@ -296,7 +283,11 @@ private:
             }
             after = *number;
         }
-        return Plain(200, ListOf(m_log.list(after)));
+        Json list = Json::array();
+        for (const RecordedRequest& recorded : m_log.list(after)) {
+            list.push_back(recorded.toJson());
+        }
+        return Plain(200, list);
     }
 
     Json listFaults()
@@ -330,9 +321,7 @@ private:
     static HttpResponse done(const std::function<void()>& action)
     {
         action();
-        HttpResponse response;
-        response.status = 204;
-        return response;
+        return {204, {}, {}};
     }
 };
 
