@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ServerTrust.h>
+
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -45,5 +47,8 @@ Options ReadOptions(int argc, char** argv);
 
 /// The server of a URL such as "https://127.0.0.1:8443". Throws WrongUsage.
 Server ServerOf(const std::string& url);
+
+/// The trust that the options ask for; without --pin and --ca, every server is trusted. Throws WrongUsage.
+APIModule::ServerTrust TrustOf(const Options& options);
 
 }  // namespace apicall

@@ -4,7 +4,6 @@
 #include "Help.h"
 #include "Options.h"
 #include "Texts.h"
-#include "Trust.h"
 
 #include <catalogue/Merge.h>
 #include <catalogue/OneServer.h>
