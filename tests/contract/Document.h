@@ -3,22 +3,35 @@
 #include <catalogue/Call.h>
 #include <Contract.h>
 
+#include <PlatformEmulator.h>
+
 #include <nlohmann/json.hpp>
 
-#include <string>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace contract_tests {
 
 using Json = nlohmann::json;
 
 /// The operations of contract/.
-const emulator::Contract& Document();
+inline const emulator::Contract& Document()
+{
+    static const emulator::Contract document = emulator::Contract::Load(emulator::Options().contract);
+    return document;
+}
 
 /// The result of the Parse of a call for the data of a reply.
 struct Reading {
     int result = -1;
     Json record;
 };
-Reading Read(const catalogue::Call& call, const Json& data);
+inline Reading Read(const catalogue::Call& call, const Json& data)
+{
+    const QByteArray text = QByteArray::fromStdString(data.dump());
+    const catalogue::Value record(*call.result);
+    const int result = call.parse(QJsonDocument::fromJson(text).object(), record.Data());
+    return {result, record.ToJson()};
+}
 
 }  // namespace contract_tests

@@ -82,6 +82,12 @@ struct PagedRow {
     Keys keys;           ///< the keys of an element
 };
 
+PagedRow Paged(const char* name, const char* call, const char* argument, const char* seed, const char* inside,
+               bool counted, const Keys& keys)
+{
+    return {name, call, argument, seed, inside, counted, keys};
+}
+
 class LargerPages : public LargerSet, public testing::WithParamInterface<PagedRow> {};
 
 TEST_P(LargerPages, AddUpToTheCompleteList)
@@ -108,23 +114,12 @@ TEST_P(LargerPages, AddUpToTheCompleteList)
 
 INSTANTIATE_TEST_SUITE_P(
     Pages, LargerPages,
-    testing::Values(
-        PagedRow{
-            "AlarmPlans", "BRMS.GetPageSummaryAlarmPlans", "query", "/brms/alarmPlans", "", false, {"id", "planName"}},
-        PagedRow{"Persons",
-                 "OBMS.GetPageAccessAuthorizePersons",
-                 "req",
-                 "/obms/persons",
-                 "/pageData",
-                 true,
-                 {"personId", "personName", "orgCode", "orgName", "orgInfos"}},
-        PagedRow{"CardFailures",
-                 "OBMS.GetPageConfigDesfireFailInfo",
-                 "req",
-                 "/obms/desfireFailures",
-                 "/pageData",
-                 true,
-                 {"id", "deviceCode", "deviceName", "deviceIp", "reason"}}),
+    testing::Values(Paged("AlarmPlans", "BRMS.GetPageSummaryAlarmPlans", "query", "/brms/alarmPlans", "", false,
+                          {"id", "planName"}),
+                    Paged("Persons", "OBMS.GetPageAccessAuthorizePersons", "req", "/obms/persons", "/pageData", true,
+                          {"personId", "personName", "orgCode", "orgName", "orgInfos"}),
+                    Paged("CardFailures", "OBMS.GetPageConfigDesfireFailInfo", "req", "/obms/desfireFailures",
+                          "/pageData", true, {"id", "deviceCode", "deviceName", "deviceIp", "reason"})),
     testing_support::RowName());
 
 }  // namespace

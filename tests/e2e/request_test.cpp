@@ -28,6 +28,11 @@ TEST_P(Keyword, IsSentInTheTarget)
     EXPECT_EQ(outcome.Code(), GetParam().result) << outcome.Text().toStdString();
 }
 
+KeywordRow Sends(const char* name, const char* call, const Json& arguments, const char* target, int result)
+{
+    return {name, call, arguments, target, result};
+}
+
 Json Query(const std::string& keyword)
 {
     return {{"page", 1}, {"pageSize", 20}, {"keyword", keyword}};
@@ -37,59 +42,36 @@ Json Query(const std::string& keyword)
 INSTANTIATE_TEST_SUITE_P(
     AmpersandAndHash, Keyword,
     testing::Values(
-        KeywordRow{"UserGroups",
-                   "BRMS.GetUserGroupList",
-                   {{"keyword", "a&b#c"}},
-                   "/brms/api/v1.1/user/group/list?keyword=a&b",
-                   kInvalidParameter},
-        KeywordRow{
-            "HashAlone", "BRMS.GetUserGroupList", {{"keyword", "a#c"}}, "/brms/api/v1.1/user/group/list?keyword=a", 0},
-        KeywordRow{"QuickCommands",
-                   "BRMS.GetQuickCommands",
-                   {{"keyword", "a&b#c"}},
-                   "/brms/api/v1.1/config/quick/command/list?keyword=a&b",
-                   kInvalidParameter},
-        KeywordRow{"AlarmPlans",
-                   "BRMS.GetPageSummaryAlarmPlans",
-                   {{"query", Query("a&b#c")}},
-                   "/brms/api/v1.1/alarm/plan/summary/page?page=1&pageSize=20&keyword=a&b",
-                   kInvalidParameter},
-        KeywordRow{"CardFailures",
-                   "OBMS.GetPageConfigDesfireFailInfo",
-                   {{"req", Query("a&b#c")}},
-                   "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a&b",
-                   kInvalidParameter},
-        KeywordRow{"DeviceCount",
-                   "BRMS.GetDeviceCategoryCount",
-                   {{"query", {{"keyword", "a&b#c"}, {"orgCode", "001"}}}},
-                   "/brms/api/v1.1/device/statistics/count-by-device-category/list?keyword=a&b",
-                   kInvalidParameter}),
+        Sends("UserGroups", "BRMS.GetUserGroupList", {{"keyword", "a&b#c"}},
+              "/brms/api/v1.1/user/group/list?keyword=a&b", kInvalidParameter),
+        Sends("HashAlone", "BRMS.GetUserGroupList", {{"keyword", "a#c"}}, "/brms/api/v1.1/user/group/list?keyword=a",
+              0),
+        Sends("QuickCommands", "BRMS.GetQuickCommands", {{"keyword", "a&b#c"}},
+              "/brms/api/v1.1/config/quick/command/list?keyword=a&b", kInvalidParameter),
+        Sends("AlarmPlans", "BRMS.GetPageSummaryAlarmPlans", {{"query", Query("a&b#c")}},
+              "/brms/api/v1.1/alarm/plan/summary/page?page=1&pageSize=20&keyword=a&b", kInvalidParameter),
+        Sends("CardFailures", "OBMS.GetPageConfigDesfireFailInfo", {{"req", Query("a&b#c")}},
+              "/obms/api/v1.1/acs/config/desfire/failure/page?page=1&pageSize=20&keyword=a&b", kInvalidParameter),
+        Sends("DeviceCount", "BRMS.GetDeviceCategoryCount", {{"query", {{"keyword", "a&b#c"}, {"orgCode", "001"}}}},
+              "/brms/api/v1.1/device/statistics/count-by-device-category/list?keyword=a&b", kInvalidParameter)),
     testing_support::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     PercentSign, Keyword,
-    testing::Values(KeywordRow{"OnlyPlaceOfTheUrl",
-                               "BRMS.GetUserGroupList",
-                               {{"keyword", "a%2b"}},
-                               "/brms/api/v1.1/user/group/list?keyword=a%2B",
-                               0},
-                    KeywordRow{"EncodedByTheHost",
-                               "BRMS.GetUserGroupList",
-                               {{"keyword", "R%26D"}},
-                               "/brms/api/v1.1/user/group/list?keyword=R%26D",
-                               0},
-                    KeywordRow{"EncodedBeforeALaterValue",
-                               "BRMS.GetDeviceCategoryCount",
-                               {{"query", {{"keyword", "R%26D"}, {"orgCode", "001"}}}},
-                               "/brms/api/v1.1/device/statistics/count-by-device-category/list"
-                               "?keyword=R%26D&orgCode=001&domain=&permitted=&sourceType=&containChild=",
-                               0},
-                    KeywordRow{"FormatMarkerOfALaterValue",
-                               "BRMS.GetDeviceCategoryCount",
-                               {{"query", {{"keyword", "a%2b"}, {"orgCode", "001"}}}},
-                               "/brms/api/v1.1/device/statistics/count-by-device-category/list"
-                               "?keyword=a001b&orgCode=001&domain=&permitted=&sourceType=&containChild=",
-                               0}),
+    testing::Values(Sends("OnlyPlaceOfTheUrl", "BRMS.GetUserGroupList", {{"keyword", "a%2b"}},
+                          "/brms/api/v1.1/user/group/list?keyword=a%2B", 0),
+                    Sends("EncodedByTheHost", "BRMS.GetUserGroupList", {{"keyword", "R%26D"}},
+                          "/brms/api/v1.1/user/group/list?keyword=R%26D", 0),
+                    Sends("EncodedBeforeALaterValue", "BRMS.GetDeviceCategoryCount",
+                          {{"query", {{"keyword", "R%26D"}, {"orgCode", "001"}}}},
+                          "/brms/api/v1.1/device/statistics/count-by-device-category/list"
+                          "?keyword=R%26D&orgCode=001&domain=&permitted=&sourceType=&containChild=",
+                          0),
+                    Sends("FormatMarkerOfALaterValue", "BRMS.GetDeviceCategoryCount",
+                          {{"query", {{"keyword", "a%2b"}, {"orgCode", "001"}}}},
+                          "/brms/api/v1.1/device/statistics/count-by-device-category/list"
+                          "?keyword=a001b&orgCode=001&domain=&permitted=&sourceType=&containChild=",
+                          0)),
     testing_support::RowName());
 
 TEST_F(EndToEnd, KeywordInABodyArrivesUnchanged)
@@ -147,6 +129,11 @@ struct UnknownRow {
     Json arguments;
 };
 
+UnknownRow Refuses(const char* name, const char* call, const Json& arguments)
+{
+    return {name, call, arguments};
+}
+
 class UnknownObject : public EndToEnd, public testing::WithParamInterface<UnknownRow> {};
 
 TEST_P(UnknownObject, ReturnsTheEnvelopeCodeAndChangesNothing)
@@ -163,51 +150,47 @@ TEST_P(UnknownObject, ReturnsTheEnvelopeCodeAndChangesNothing)
 INSTANTIATE_TEST_SUITE_P(
     Brms, UnknownObject,
     testing::Values(
-        UnknownRow{"NetworkOfADevice", "BRMS.GetNetworkConfig", {{"deviceCode", "404"}}},
-        UnknownRow{"NetworkToWrite", "BRMS.UpdateNetworkConfig", {{"config", {{"deviceCode", "404"}}}}},
-        UnknownRow{"EncodingOfAChannel", "BRMS.GetEncodeConfig", {{"channelId", "404"}}},
-        UnknownRow{
-            "CapabilityOfAStream", "BRMS.GetEncodeCapability", {{"channelId", "1000001$1$0$0"}, {"streamType", 9}}},
-        UnknownRow{"ImageToWrite", "BRMS.UpdateImageConfig", {{"config", {{"channelId", "404"}}}}},
-        UnknownRow{"MulticastOfAStream",
-                   "BRMS.SetMultiCastStreamStatus",
-                   {{"status", {{"channelId", "1000001$1$0$0"}, {"streamType", 9}}}}},
-        UnknownRow{"OneOfTheDevicesToDiscover",
-                   "BRMS.BatchDiscoverDevices",
-                   {{"deviceCodes", {"1000001", "404"}}, {"discoverMode", 1}}},
-        UnknownRow{"UserGroup", "BRMS.GetUserGroup", {{"groupId", "404"}}},
-        UnknownRow{"UserGroupToClear", "BRMS.ClearUserGroup", {{"groupId", "404"}}},
-        UnknownRow{
-            "OneOfTheUsersToMove", "BRMS.MoveUserGroup", {{"move", {{"groupId", "12"}, {"userIds", {"31", "404"}}}}}},
-        UnknownRow{"OneOfTheUserGroupsToDelete", "BRMS.DeleteUserGroup", {{"groupIds", {"12", "404"}}}},
-        UnknownRow{"QuickCommand", "BRMS.GetQuickCommand", {{"id", "404"}}},
-        UnknownRow{"QuickCommandToChange", "BRMS.UpdateQuickCommand", {{"command", {{"id", "404"}}}}},
-        UnknownRow{"OneOfTheQuickCommandsToDelete", "BRMS.DelQuickCommand", {{"ids", {"5", "404"}}}},
-        UnknownRow{"AlarmPlan", "BRMS.GetAlarmPlanQuickCommands", {{"planId", "404"}}},
-        UnknownRow{"SourceOfAnAlarm", "BRMS.GetAlarmLinkControlList", {{"sourceCode", "404"}, {"alarmType", 5}}},
-        UnknownRow{"ResourceOnALayer", "BRMS.GetAlarmLayerDetail", {{"resourceCode", "404"}, {"resourceType", 3}}},
-        UnknownRow{"AlarmRecord", "BRMS.GetAlarmHostFileInfo", {{"alarmRecordId", "404"}}},
-        UnknownRow{"ChannelWithAWebPage", "BRMS.GetChannelWebTunnel", {{"channelId", "404"}}},
-        UnknownRow{"Menu", "BRMS.GetMenuAvailable", {{"menuCode", "no.such.menu"}}}),
+        Refuses("NetworkOfADevice", "BRMS.GetNetworkConfig", {{"deviceCode", "404"}}),
+        Refuses("NetworkToWrite", "BRMS.UpdateNetworkConfig", {{"config", {{"deviceCode", "404"}}}}),
+        Refuses("EncodingOfAChannel", "BRMS.GetEncodeConfig", {{"channelId", "404"}}),
+        Refuses("CapabilityOfAStream", "BRMS.GetEncodeCapability", {{"channelId", "1000001$1$0$0"}, {"streamType", 9}}),
+        Refuses("ImageToWrite", "BRMS.UpdateImageConfig", {{"config", {{"channelId", "404"}}}}),
+        Refuses("MulticastOfAStream", "BRMS.SetMultiCastStreamStatus",
+                {{"status", {{"channelId", "1000001$1$0$0"}, {"streamType", 9}}}}),
+        Refuses("OneOfTheDevicesToDiscover", "BRMS.BatchDiscoverDevices",
+                {{"deviceCodes", {"1000001", "404"}}, {"discoverMode", 1}}),
+        Refuses("UserGroup", "BRMS.GetUserGroup", {{"groupId", "404"}}),
+        Refuses("UserGroupToClear", "BRMS.ClearUserGroup", {{"groupId", "404"}}),
+        Refuses("OneOfTheUsersToMove", "BRMS.MoveUserGroup",
+                {{"move", {{"groupId", "12"}, {"userIds", {"31", "404"}}}}}),
+        Refuses("OneOfTheUserGroupsToDelete", "BRMS.DeleteUserGroup", {{"groupIds", {"12", "404"}}}),
+        Refuses("QuickCommand", "BRMS.GetQuickCommand", {{"id", "404"}}),
+        Refuses("QuickCommandToChange", "BRMS.UpdateQuickCommand", {{"command", {{"id", "404"}}}}),
+        Refuses("OneOfTheQuickCommandsToDelete", "BRMS.DelQuickCommand", {{"ids", {"5", "404"}}}),
+        Refuses("AlarmPlan", "BRMS.GetAlarmPlanQuickCommands", {{"planId", "404"}}),
+        Refuses("SourceOfAnAlarm", "BRMS.GetAlarmLinkControlList", {{"sourceCode", "404"}, {"alarmType", 5}}),
+        Refuses("ResourceOnALayer", "BRMS.GetAlarmLayerDetail", {{"resourceCode", "404"}, {"resourceType", 3}}),
+        Refuses("AlarmRecord", "BRMS.GetAlarmHostFileInfo", {{"alarmRecordId", "404"}}),
+        Refuses("ChannelWithAWebPage", "BRMS.GetChannelWebTunnel", {{"channelId", "404"}}),
+        Refuses("Menu", "BRMS.GetMenuAvailable", {{"menuCode", "no.such.menu"}})),
     testing_support::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     OtherFamilies, UnknownObject,
-    testing::Values(
-        UnknownRow{"ChannelToWash", "DMS.WashOpen", {{"channelId", "404"}}},
-        UnknownRow{"ChannelToMove", "DMS.GotoHomePosition", {{"channelId", "404"}}},
-        UnknownRow{"OneOfTheTasks", "IAMS.SetAnalysisTaskUploadFailed", {{"taskIds", {"701", "404"}}}},
-        UnknownRow{"CaptureRecord", "IPMS.UpdateVehicleCaptureRecord", {{"info", {{"id", "404"}, {"plateNo", "X"}}}}},
-        UnknownRow{"DeviceWithManagers", "OBMS.GetManagePersons", {{"req", {{"deviceCode", "404"}}}}},
-        UnknownRow{"OneOfTheManagers",
-                   "OBMS.SetManagePersons",
-                   {{"req", {{"deviceCode", "1000041"}, {"personIds", {"5001", "404"}}}}}},
-        UnknownRow{"AccessPoint", "OBMS.GetPointRules", {{"req", {{"pointId", "404"}}}}},
-        UnknownRow{"Person", "OBMS.PersonResetAntiPass", {{"personId", "404"}}},
-        UnknownRow{"OutdoorStation", "OBMS.DeleteAddressBooks", {{"param", {{"vtoDeviceCode", "404"}}}}},
-        UnknownRow{"Zone", "OBMS.AlarmHostZoneSnapShot", {{"zoneId", "404"}, {"action", 1}}},
-        UnknownRow{"Channel", "OMMS.GetChannelInfo", {{"channelId", "404"}}},
-        UnknownRow{"Device", "OMMS.GetDeviceInfo", {{"deviceCode", "404"}}}),
+    testing::Values(Refuses("ChannelToWash", "DMS.WashOpen", {{"channelId", "404"}}),
+                    Refuses("ChannelToMove", "DMS.GotoHomePosition", {{"channelId", "404"}}),
+                    Refuses("OneOfTheTasks", "IAMS.SetAnalysisTaskUploadFailed", {{"taskIds", {"701", "404"}}}),
+                    Refuses("CaptureRecord", "IPMS.UpdateVehicleCaptureRecord",
+                            {{"info", {{"id", "404"}, {"plateNo", "X"}}}}),
+                    Refuses("DeviceWithManagers", "OBMS.GetManagePersons", {{"req", {{"deviceCode", "404"}}}}),
+                    Refuses("OneOfTheManagers", "OBMS.SetManagePersons",
+                            {{"req", {{"deviceCode", "1000041"}, {"personIds", {"5001", "404"}}}}}),
+                    Refuses("AccessPoint", "OBMS.GetPointRules", {{"req", {{"pointId", "404"}}}}),
+                    Refuses("Person", "OBMS.PersonResetAntiPass", {{"personId", "404"}}),
+                    Refuses("OutdoorStation", "OBMS.DeleteAddressBooks", {{"param", {{"vtoDeviceCode", "404"}}}}),
+                    Refuses("Zone", "OBMS.AlarmHostZoneSnapShot", {{"zoneId", "404"}, {"action", 1}}),
+                    Refuses("Channel", "OMMS.GetChannelInfo", {{"channelId", "404"}}),
+                    Refuses("Device", "OMMS.GetDeviceInfo", {{"deviceCode", "404"}})),
     testing_support::RowName());
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <csignal>
 #include <string>
 
 namespace e2e {
@@ -14,7 +15,10 @@ namespace e2e {
 class EmulatorProcess {
 public:
     /// Starts the emulator and waits until it listens.
-    explicit EmulatorProcess(const QStringList& arguments);
+    explicit EmulatorProcess(const QStringList& arguments)
+        : m_program(QStringLiteral(EMULATOR_PROGRAM), arguments), m_httpPort(m_program.Port("http")),
+          m_httpsPort(m_program.Port("https")), m_control(TestClient::Scheme::Http, m_httpPort, std::string())
+    {}
 
     [[nodiscard]] int HttpPort() const { return m_httpPort; }
     [[nodiscard]] int HttpsPort() const { return m_httpsPort; }
@@ -24,7 +28,12 @@ public:
 
     /// Stops the emulator.
     /// @return everything that it printed
-    std::string End();
+    std::string End()
+    {
+        m_program.Signal(SIGTERM);
+        m_program.ExitStatus();
+        return m_program.Output();
+    }
 
 private:
     testing_support::RunningProgram m_program;
