@@ -12,6 +12,27 @@
 
 constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 
+/// Options with one value other than the default.
+template <typename Value>
+emulator::Options With(Value emulator::Options::*option, const Value& value)
+{
+    emulator::Options options;
+    options.*option = value;
+    return options;
+}
+
+/// The text of the error that the action throws; empty for none.
+template <typename Error, typename Action>
+std::string ErrorOf(Action action)
+{
+    try {
+        action();
+        return {};
+    } catch (const Error& error) {
+        return error.what();
+    }
+}
+
 /// An emulator that is started on free ports, or on those of its options.
 class RunningEmulator : public emulator::PlatformEmulator {
 public:

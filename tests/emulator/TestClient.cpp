@@ -34,39 +34,21 @@ public:
           m_server(asio::ip::address_v4::loopback(), static_cast<std::uint16_t>(port)), m_token(std::move(token))
     {}
 
-    bool connect(error_code& error)
-    {
-        m_buffer.clear();
-        const std::lock_guard lock(m_mutex);
-        m_stream.emplace(m_context, m_tls);
-        m_stream->next_layer().connect(m_server, error);
-        if (!error) {
-            m_stream->next_layer().set_option(tcp::no_delay(true), error);
-        }
-        return !error;
-    }
-
-    bool handshake(error_code& error)
-    {
-        if (m_isSecure) {
-            m_stream->handshake(asio::ssl::stream_base::client, error);
-        }
-        return !error;
-    }
-
     Reply exchange(const http::request<http::string_body>& request)
     {
         error_code error;
-        if (m_stream || (connect(error) && handshake(error))) {
-            Reply reply = m_isSecure ? exchangeOn(*m_stream, request) : exchangeOn(m_stream->next_layer(), request);
-            if (reply.arrived && !m_isLast) {
-                return reply;
-            }
-            drop();
-            return reply;
+        if (!m_stream) {
+            connect(error);
         }
-        drop();
-        return {};
+        Reply reply;
+        if (!error) {
+            reply = m_isSecure ? exchangeOn(*m_stream, request) : exchangeOn(m_stream->next_layer(), request);
+        }
+        if (!reply.arrived || m_isLast) {
+            const std::lock_guard lock(m_mutex);
+            m_stream.reset();
+        }
+        return reply;
     }
 
     void abort()
@@ -83,6 +65,22 @@ public:
     const std::string m_token;
 
 private:
+    void connect(error_code& error)
+    {
+        m_buffer.clear();
+        {
+            const std::lock_guard lock(m_mutex);
+            m_stream.emplace(m_context, m_tls);
+            m_stream->next_layer().connect(m_server, error);
+        }
+        if (!error) {
+            m_stream->next_layer().set_option(tcp::no_delay(true), error);
+        }
+        if (!error && m_isSecure) {
+            m_stream->handshake(asio::ssl::stream_base::client, error);
+        }
+    }
+
     template <typename Stream>
     Reply exchangeOn(Stream& stream, const http::request<http::string_body>& request)
     {
@@ -104,12 +102,6 @@ private:
             reply.headers.emplace(std::string(field.name_string()), std::string(field.value()));
         }
         return reply;
-    }
-
-    void drop()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_stream.reset();
     }
 
     asio::io_context m_context;

@@ -35,20 +35,13 @@ void AllowManyFiles()
     ASSERT_GE(files.rlim_cur, 4096U);
 }
 
-emulator::Options WithReadTimeout(milliseconds time)
-{
-    emulator::Options options;
-    options.readTimeout = time;
-    return options;
-}
-
 }  // namespace
 
 class ReadTimeoutTest : public testing::Test {
 protected:
     static constexpr milliseconds kTime{300};
 
-    RunningEmulator m_platform{WithReadTimeout(kTime)};
+    RunningEmulator m_platform{With<milliseconds>(&emulator::Options::readTimeout, kTime)};
 };
 
 TEST_F(ReadTimeoutTest, SilentConnectionIsClosed)
@@ -114,7 +107,7 @@ TEST(ManyConnectionsTest, IdleConnectionsTakeNoThreadAndAreClosed)
 {
     constexpr std::size_t kIdle = 1000;
     AllowManyFiles();
-    emulator::PlatformEmulator platform(WithReadTimeout(seconds(20)));
+    emulator::PlatformEmulator platform(With<milliseconds>(&emulator::Options::readTimeout, seconds(20)));
     platform.start();
     const std::size_t threads = ThreadsOfThisProcess();
     std::list<RawConnection> idle;
@@ -207,12 +200,7 @@ TEST_F(ConnectionTest, StopsWhileClientDoesNotReadItsReply)
 /// The error when an emulator with these options starts; empty for none.
 std::string StartError(const emulator::Options& options)
 {
-    try {
-        const RunningEmulator platform(options);
-        return {};
-    } catch (const std::runtime_error& error) {
-        return error.what();
-    }
+    return ErrorOf<std::runtime_error>([&] { const RunningEmulator platform(options); });
 }
 
 struct UnusableAddress {
@@ -225,9 +213,7 @@ class ListenTest : public testing::TestWithParam<UnusableAddress> {};
 
 TEST_P(ListenTest, ReportsWhyItCannotListen)
 {
-    emulator::Options options;
-    options.address = GetParam().address;
-    EXPECT_EQ(StartError(options), GetParam().reason);
+    EXPECT_EQ(StartError(With<std::string>(&emulator::Options::address, GetParam().address)), GetParam().reason);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -242,19 +228,15 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(PortTest, ReportsThatPortIsTaken)
 {
     RunningEmulator first;
-    for (const bool isHttps : {false, true}) {
-        emulator::Options options;
-        (isHttps ? options.httpsPort : options.httpPort) = first.httpPort();
-        EXPECT_EQ(StartError(options),
+    for (const auto port : {&emulator::Options::httpPort, &emulator::Options::httpsPort}) {
+        EXPECT_EQ(StartError(With(port, first.httpPort())),
                   "cannot listen on 127.0.0.1:" + std::to_string(first.httpPort()) + ": the port is in use");
     }
 }
 
 TEST(PortTest, ReportsMissingPermissionForPort)
 {
-    emulator::Options options;
-    options.httpPort = 1;
-    const std::string error = StartError(options);
+    const std::string error = StartError(With(&emulator::Options::httpPort, 1));
     if (error.empty()) {
         GTEST_SKIP() << "this user may listen on any port";
     }
@@ -276,8 +258,6 @@ TEST(PortTest, PortIsFreeAgainAfterAStop)
 
 TEST(PortTest, HostNameIsAcceptedAsAddress)
 {
-    emulator::Options options;
-    options.address = "localhost";
-    RunningEmulator platform(options);
+    const RunningEmulator platform(With<std::string>(&emulator::Options::address, "localhost"));
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
 }

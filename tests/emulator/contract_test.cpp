@@ -69,12 +69,8 @@ TEST_P(RefusedContractTest, IsRejectedWithReason)
     if (!GetParam().secondFile.empty()) {
         folder.write("b.yaml", GetParam().secondFile);
     }
-    try {
-        Contract::Load(folder.path());
-        FAIL() << "was accepted";
-    } catch (const ContractError& error) {
-        EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
-    }
+    const std::string error = ErrorOf<ContractError>([&] { Contract::Load(folder.path()); });
+    EXPECT_NE(error.find(GetParam().message), std::string::npos) << error;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -176,9 +172,7 @@ paths:
       operationId: T.RemoveDoor
       responses: *responses
 )");
-    emulator::Options options;
-    options.contract = folder.path();
-    const RunningEmulator platform(options);
+    const RunningEmulator platform(With(&emulator::Options::contract, folder.path()));
     const auto client = ClientOf(platform);
     const Json door = {{"name", "Gate"}, {"open", true}};
     EXPECT_EQ(client->get("/door/7").data(), door);
@@ -335,12 +329,9 @@ TEST_P(RefusedSeedTest, IsRejectedWithReason)
 {
     const Folder folder;
     folder.write("family.json", GetParam().file);
-    try {
-        emulator::State(emulator::LoadSeeds(folder.path()), 2);
-        FAIL() << "was accepted";
-    } catch (const emulator::SeedError& error) {
-        EXPECT_NE(std::string(error.what()).find(GetParam().message), std::string::npos) << error.what();
-    }
+    const auto load = [&] { const emulator::State state(emulator::LoadSeeds(folder.path()), 2); };
+    const std::string error = ErrorOf<emulator::SeedError>(load);
+    EXPECT_NE(error.find(GetParam().message), std::string::npos) << error;
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RefusedSeedTest,
@@ -380,12 +371,7 @@ TEST(SeedTest, WrongTypeIsReportedWithFileAndPointer)
     for (const Json::json_pointer& pointer : pointers) {
         Json wrong = seeds;
         wrong[pointer] = seeds.at(pointer).is_structured() ? Json("a text") : Json::array();
-        std::string message;
-        try {
-            emulator::CheckSeeds(wrong, RealContract());
-        } catch (const emulator::SeedError& error) {
-            message = error.what();
-        }
+        const std::string message = ErrorOf<emulator::SeedError>([&] { emulator::CheckSeeds(wrong, RealContract()); });
         std::string expected = pointer.to_string().substr(1);
         expected.replace(expected.find('/'), 1, ".json: /").append(": expected ");
         const bool isUnread = unread.count(pointer.to_string()) > 0;

@@ -304,9 +304,7 @@ TEST_F(ControlTest, UnknownPathsAndMethodsGetAnErrorStatus)
 
 TEST(ControlOffTest, ControlPathIsForbidden)
 {
-    emulator::Options options;
-    options.controlPath = false;
-    RunningEmulator platform(options);
+    const RunningEmulator platform(With(&emulator::Options::controlPath, false));
     const auto client = ClientOf(platform);
     EXPECT_EQ(client->post(kFaults, Json{{"kind", "empty"}}).status, 403);
     EXPECT_EQ(client->get("/emulator/v1/state").status, 403);
@@ -315,9 +313,8 @@ TEST(ControlOffTest, ControlPathIsForbidden)
 
 TEST(ControlTokenTest, ControlPathRequiresItsToken)
 {
-    emulator::Options options;
-    options.controlToken = "the-tester";
-    RunningEmulator platform(options);
+    const std::string controlToken = "the-tester";
+    const RunningEmulator platform(With(&emulator::Options::controlToken, controlToken));
     for (const char* token : {"", "wrong", emulator::kDefaultToken}) {
         const auto client = ClientOf(platform, TestClient::Scheme::Http, token);
         for (const char* path : {kFaults, kState, "/emulator/v1/requests", "/emulator/v1/nothing"}) {
@@ -328,18 +325,16 @@ TEST(ControlTokenTest, ControlPathRequiresItsToken)
         EXPECT_EQ(client->post(kFaults, Json{{"kind", "empty"}}).status, 401) << token;
     }
     EXPECT_TRUE(platform.faults().empty());
-    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, options.controlToken)->get(kState).json(),
-              platform.state());
+    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, controlToken)->get(kState).json(), platform.state());
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
 }
 
 TEST(OptionsTest, ConfiguredTokenIsRequired)
 {
-    emulator::Options options;
-    options.token = "другой";
-    RunningEmulator platform(options);
+    const std::string token = "другой";
+    const RunningEmulator platform(With(&emulator::Options::token, token));
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).status, 401);
-    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, options.token)->get(kTimeSync).code(), 1000);
+    EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https, token)->get(kTimeSync).code(), 1000);
 }
 
 TEST(OptionsTest, StopsWithoutStart)

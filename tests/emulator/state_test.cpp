@@ -432,9 +432,7 @@ TEST_F(StateTest, SessionsAndTokensAreNewEachTime)
 
 TEST(ScaledStateTest, LongListsAreServed)
 {
-    emulator::Options options;
-    options.scale = 50;
-    const RunningEmulator platform(options);
+    const RunningEmulator platform(With(&emulator::Options::scale, 50));
     const auto client = ClientOf(platform);
     EXPECT_EQ(client->get("/brms/api/v1.1/user/group/list?keyword=").data().at("results").size(), 250U);
     EXPECT_EQ(client->get("/brms/api/v1.1/user/group/12-50").code(), 1000);

@@ -62,6 +62,23 @@ bool Contains(const std::string& text, const std::string& part)
     return text.find(part) != std::string::npos;
 }
 
+/// Runs apicall, expects success without any output on standard error, and returns the output.
+std::string OutputOf(const Words& arguments)
+{
+    const ProgramResult ended = Apicall(arguments);
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.err, "");
+    return ended.out;
+}
+
+/// Expects that a call failed with this line on standard error.
+void ExpectFailed(const ProgramResult& ended, const std::string& line)
+{
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_TRUE(Contains(ended.err, line + "\n")) << "expected: " << line << "\nin: " << ended.err;
+}
+
 std::string ErrorText(int code, const char* language = "en")
 {
     std::string text;
@@ -197,19 +214,13 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Help, PrintsNothingButTheVersion)
 {
-    const ProgramResult ended = Apicall({"--version"});
-    EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.err, "");
-    EXPECT_TRUE(std::regex_match(ended.out, std::regex("apicall [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << ended.out;
+    const std::string version = OutputOf({"--version"});
+    EXPECT_TRUE(std::regex_match(version, std::regex("apicall [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << version;
 }
 
 TEST(Help, ListStartsEachLineWithTheNameOfACall)
 {
-    const ProgramResult ended = Apicall({"--list"});
-    EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.err, "");
-
-    std::istringstream lines(ended.out);
+    std::istringstream lines(OutputOf({"--list"}));
     std::string line;
     std::size_t count = 0;
     static const std::regex form("([A-Z]+\\.[A-Za-z]+)  +[A-Z].*");
@@ -276,10 +287,9 @@ TEST(Help, ListsNoAllowedValuesForBooleans)
 
 TEST(Help, ReportsThatACallHasNoArgumentsAndNoResult)
 {
-    const ProgramResult ended = Apicall({"--help", "BRMS.ImmediatelySyncTime"});
-    EXPECT_EQ(ended.status, 0);
-    EXPECT_TRUE(Contains(ended.out, "Arguments: none\n")) << ended.out;
-    EXPECT_TRUE(Contains(ended.out, "Result: none\n")) << ended.out;
+    const std::string help = OutputOf({"--help", "BRMS.ImmediatelySyncTime"});
+    EXPECT_TRUE(Contains(help, "Arguments: none\n")) << help;
+    EXPECT_TRUE(Contains(help, "Result: none\n")) << help;
 }
 
 TEST(Help, DescribesEveryCall)
@@ -384,12 +394,8 @@ protected:
 
     void ExpectFailure(const Words& arguments, int code, const std::string& text)
     {
-        const ProgramResult ended = Run(arguments);
-        EXPECT_EQ(ended.status, 1);
-        EXPECT_EQ(ended.out, "");
-        const std::string line =
-            "apicall: " + arguments.back() + " failed with " + std::to_string(code) + ": " + text + "\n";
-        EXPECT_TRUE(Contains(ended.err, line)) << "expected: " << line << "in: " << ended.err;
+        ExpectFailed(Run(arguments),
+                     "apicall: " + arguments.back() + " failed with " + std::to_string(code) + ": " + text);
     }
 
     [[nodiscard]] Words Server() const
@@ -500,11 +506,8 @@ TEST_P(Calls, ReadsTheTokenFromTheEnvironment)
 
 TEST_P(Calls, FailsWithAWrongToken)
 {
-    const ProgramResult ended = Apicall(Server() + Words{"--token", "wrong"} + GetTimeSync());
-    EXPECT_EQ(ended.status, 1);
-    EXPECT_EQ(ended.out, "");
-    EXPECT_TRUE(Contains(ended.err, "apicall: BRMS.GetTimeSyncConfig failed with 7000: " + ErrorText(7000) + "\n"))
-        << ended.err;
+    ExpectFailed(Apicall(Server() + Words{"--token", "wrong"} + GetTimeSync()),
+                 "apicall: BRMS.GetTimeSyncConfig failed with 7000: " + ErrorText(7000));
 }
 
 TEST_P(Calls, ReportsHttpsToAPortOfPlainHttp)
@@ -673,10 +676,8 @@ TEST(Unreachable, FailsWithTheTextOfANetworkError)
     const std::string server = "127.0.0.1:" + std::to_string(closed.serverPort());
     closed.close();
     for (const char* scheme : {"http://", "https://"}) {
-        const ProgramResult ended = Apicall({"--server", scheme + server, "BRMS.GetTimeSyncConfig"});
-        EXPECT_EQ(ended.status, 1);
-        EXPECT_EQ(ended.out, "");
-        EXPECT_TRUE(Contains(ended.err, "failed with -18: " + ErrorText(-18) + "\n")) << ended.err;
+        ExpectFailed(Apicall({"--server", scheme + server, "BRMS.GetTimeSyncConfig"}),
+                     "failed with -18: " + ErrorText(-18));
     }
 }
 
@@ -716,8 +717,7 @@ protected:
     void ExpectNotTrusted(const Words& options, const QString& reason)
     {
         const ProgramResult ended = Run(options);
-        EXPECT_EQ(ended.status, 1);
-        EXPECT_EQ(ended.out, "");
+        ExpectFailed(ended, "BRMS.GetDeviceLoginModel failed with -18: " + ErrorText(-18));
         const QString line =
             QStringLiteral("the server is not known, host: 127.0.0.1, port: %1, reason: %2, SHA-256 of "
                            "its certificate: %3")
@@ -725,8 +725,6 @@ protected:
                      QString::fromLatin1(Digest(ServerCertificate().toDer()).toHex(':')));
         EXPECT_TRUE(Contains(ended.err, line.toStdString()))
             << "expected: " << line.toStdString() << " in: " << ended.err;
-        EXPECT_TRUE(Contains(ended.err, "BRMS.GetDeviceLoginModel failed with -18: " + ErrorText(-18) + "\n"))
-            << ended.err;
         EXPECT_FALSE(Contains(ended.err, kToken)) << ended.err;
         EXPECT_TRUE(m_server.TakeRequests().empty()) << "nothing is sent to a server that is not trusted";
     }

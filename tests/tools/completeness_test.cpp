@@ -1,15 +1,14 @@
 // Compares the catalogue with what the library exports and declares.
+#include "support/Program.h"
+
 #include <catalogue/Call.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <memory>
 #include <regex>
 #include <set>
 #include <string>
@@ -17,21 +16,12 @@
 
 namespace {
 
-std::string OutputOf(const std::string& command)
-{
-    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-    std::string output;
-    std::array<char, 4096> part{};
-    while (pipe && std::fgets(part.data(), part.size(), pipe.get()) != nullptr) {
-        output += part.data();
-    }
-    return output;
-}
-
 std::set<std::string> ExportedFunctions()
 {
     static const std::regex function(R"(APIModule::C[A-Z]+Module::(Pack|Parse|Pares)\w*(?=\())");
-    const std::string symbols = OutputOf(std::string(NM) + " --dynamic --demangle --defined-only " + LIBRARY_FILE);
+    const QStringList arguments = {QStringLiteral("--dynamic"), QStringLiteral("--demangle"),
+                                   QStringLiteral("--defined-only"), QStringLiteral(LIBRARY_FILE)};
+    const std::string symbols = testing_support::RunProgram(QStringLiteral(NM), arguments).out;
     std::set<std::string> functions;
     for (std::sregex_iterator match(symbols.begin(), symbols.end(), function), end; match != end; ++match) {
         functions.insert(match->str());
