@@ -10,10 +10,7 @@
 namespace emulator {
 namespace {
 
-struct KindName {
-    Fault::Kind kind;
-    const char* name;
-};
+using KindName = std::pair<Fault::Kind, const char*>;
 constexpr std::array kKinds = {KindName{Fault::Kind::Delay, "delay"},
                                KindName{Fault::Kind::Status, "status"},
                                KindName{Fault::Kind::Envelope, "envelope"},
@@ -33,11 +30,11 @@ constexpr int kLargestReply = 1024 * 1024 * 1024;
 Fault::Kind KindOf(const std::string& name)
 {
     const auto* found =
-        std::find_if(kKinds.begin(), kKinds.end(), [&](const KindName& entry) { return name == entry.name; });
+        std::find_if(kKinds.begin(), kKinds.end(), [&](const KindName& entry) { return name == entry.second; });
     if (found == kKinds.end()) {
         throw std::invalid_argument("kind: unknown '" + name + "'");
     }
-    return found->kind;
+    return found->first;
 }
 
 int NumberIn(const Json& value, const std::string& name, int least, int most)
@@ -120,10 +117,10 @@ Fault Fault::FromJson(const Json& json)
 Json Fault::toJson() const
 {
     const auto* found =
-        std::find_if(kKinds.begin(), kKinds.end(), [this](const KindName& entry) { return entry.kind == kind; });
+        std::find_if(kKinds.begin(), kKinds.end(), [this](const KindName& entry) { return entry.first == kind; });
     Json json{{"path", path},
               {"method", method},
-              {"kind", found->name},
+              {"kind", found->second},
               {"times", times},
               {"delayMs", delay.count()},
               {"status", status},

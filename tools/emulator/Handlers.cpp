@@ -182,10 +182,11 @@ std::string NextNumber(const Call& call, const std::string& name)
     return number.dump();
 }
 
-void RecordAccepted(const Call& call)
+Json RecordAccepted(const Call& call)
 {
     call.state[StatePath("/accepted") / call.operation.id].push_back(
         Json{{"path", call.path}, {"query", call.query}, {"body", call.body}});
+    return Json::object();
 }
 
 Handler ReadDocument(const StatePath& path)
@@ -291,8 +292,7 @@ Handler AcceptFor(const Collection& owners)
 {
     return [owners](const Call& call) {
         owners.find(call.state, PathValue(call));
-        RecordAccepted(call);
-        return Json::object();
+        return RecordAccepted(call);
     };
 }
 

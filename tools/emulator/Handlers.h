@@ -119,7 +119,8 @@ Json BodyAsRead(const Call& call, const std::string& reader = {});
 std::string NextNumber(const Call& call, const std::string& name);
 
 /// Records path values, query and body under "/accepted/<operation>", for a write that no call reads back.
-void RecordAccepted(const Call& call);
+/// @return the data of a reply without data
+Json RecordAccepted(const Call& call);
 
 /// @name Ready-made handlers
 /// @{

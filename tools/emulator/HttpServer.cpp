@@ -60,12 +60,6 @@ constexpr int kInternalError = 500;
 constexpr int kNoContent = 204;
 constexpr int kNotModified = 304;
 
-/// Settings shared by the server and its connections.
-struct Shared {
-    HttpHandler handler;
-    std::chrono::milliseconds readTimeout;
-};
-
 /// The server's interface to a connection.
 class Connection {
 public:
@@ -81,9 +75,13 @@ public:
     virtual void abort() = 0;
 };
 
-/// The open connections, which the server closes when it stops.
+/// The open connections, which the server closes when it stops, and their settings.
 class Connections {
 public:
+    Connections(HttpHandler&& requestHandler, std::chrono::milliseconds timeout)
+        : handler(std::move(requestHandler)), readTimeout(timeout)
+    {}
+
     void add(const std::shared_ptr<Connection>& connection)
     {
         const std::lock_guard lock(m_mutex);
@@ -105,6 +103,9 @@ public:
             connection->abort();
         }
     }
+
+    const HttpHandler handler;
+    const std::chrono::milliseconds readTimeout;
 
 private:
     std::mutex m_mutex;
@@ -169,9 +170,9 @@ std::string HeadOf(const HttpResponse& response, bool isLast, bool isOldVersion)
 template <typename Stream>
 class ConnectionOn final : public Connection, public std::enable_shared_from_this<ConnectionOn<Stream>> {
 public:
-    ConnectionOn(Stream stream, std::size_t number, const Shared& shared, Connections& connections)
-        : m_stream(std::move(stream)), m_number(number), m_shared(shared), m_connections(connections),
-          m_timer(m_stream.get_executor()), m_waitTimer(m_stream.get_executor())
+    ConnectionOn(Stream stream, std::size_t number, Connections& connections)
+        : m_stream(std::move(stream)), m_number(number), m_connections(connections), m_timer(m_stream.get_executor()),
+          m_waitTimer(m_stream.get_executor())
     {}
 
     void start() override
@@ -215,7 +216,7 @@ private:
         }
         error_code ignored;
         socket().set_option(tcp::no_delay(true), ignored);
-        setTimeout(m_shared.readTimeout);
+        setTimeout(m_connections.readTimeout);
         startTimer();
         if constexpr (kIsTls) {
             m_stream.async_handshake(asio::ssl::stream_base::server,
@@ -249,7 +250,7 @@ private:
     void checkDeadline()
     {
         if (m_state == State::Waiting) {
-            setTimeout(m_shared.readTimeout);
+            setTimeout(m_connections.readTimeout);
         } else if (Clock::now() >= m_deadline) {
             if (m_state != State::Reading) {
                 close();
@@ -267,7 +268,7 @@ private:
         }
         m_state = State::Reading;
         m_hasBegun = false;
-        setTimeout(m_shared.readTimeout);
+        setTimeout(m_connections.readTimeout);
         serve();
     }
 
@@ -277,7 +278,7 @@ private:
         case RequestReader::Progress::NeedsMore:
             if (!m_hasBegun && m_reader.hasBegun()) {
                 m_hasBegun = true;
-                setTimeout(m_shared.readTimeout);
+                setTimeout(m_connections.readTimeout);
             }
             receive();
             break;
@@ -296,7 +297,7 @@ private:
     void awaitBody()
     {
         m_state = State::Reading;
-        setTimeout(m_shared.readTimeout);
+        setTimeout(m_connections.readTimeout);
         serve();
     }
 
@@ -350,7 +351,7 @@ private:
         m_isOldVersion = m_reader.isOldVersion();
         m_isHead = request.method == "HEAD";
         try {
-            HttpReply reply = m_shared.handler(request);
+            HttpReply reply = m_connections.handler(request);
             if (auto* const response = std::get_if<HttpResponse>(&reply)) {
                 answer(std::move(*response));
             } else {
@@ -491,7 +492,7 @@ private:
     void end()
     {
         m_state = State::Ending;
-        setTimeout(std::min<Clock::duration>(kLingerTime, m_shared.readTimeout));
+        setTimeout(std::min<Clock::duration>(kLingerTime, m_connections.readTimeout));
         if constexpr (kIsTls) {
             m_stream.async_shutdown([self = this->shared_from_this()](const error_code&) { self->endSocket(); });
         } else {
@@ -534,7 +535,6 @@ private:
 
     Stream m_stream;
     const std::size_t m_number;
-    const Shared& m_shared;
     Connections& m_connections;
     Timer m_timer;
     Timer m_waitTimer;
@@ -669,7 +669,7 @@ std::string ShownAddress(const std::string& address, int port)
 
 class HttpServer::Private {
 public:
-    Private(HttpHandler handler, std::chrono::milliseconds readTimeout) : m_shared{std::move(handler), readTimeout} {}
+    Private(HttpHandler handler, std::chrono::milliseconds readTimeout) : m_open(std::move(handler), readTimeout) {}
 
     int listen(const std::string& address, int port, const std::shared_ptr<ssl_ctx_st>& tls)
     {
@@ -678,10 +678,9 @@ public:
         listener.accept([this](Socket socket, asio::ssl::context* context) {
             const std::size_t number = ++m_count;
             if (context != nullptr) {
-                add(std::make_shared<ConnectionOn<TlsStream>>(TlsStream(std::move(socket), *context), number, m_shared,
-                                                              m_open));
+                add(std::make_shared<ConnectionOn<TlsStream>>(TlsStream(std::move(socket), *context), number, m_open));
             } else {
-                add(std::make_shared<ConnectionOn<Socket>>(std::move(socket), number, m_shared, m_open));
+                add(std::make_shared<ConnectionOn<Socket>>(std::move(socket), number, m_open));
             }
         });
         if (m_threads.empty()) {
@@ -715,7 +714,6 @@ private:
         connection->start();
     }
 
-    const Shared m_shared;
     Connections m_open;
     std::atomic<std::size_t> m_count = 0;
     asio::io_context m_context;

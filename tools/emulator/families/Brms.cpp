@@ -115,16 +115,14 @@ Json MoveUsers(const Call& call)
     for (const Json& id : call.body.at("userIds")) {
         kUsers.find(call.state, id)["groupId"] = group;
     }
-    RecordAccepted(call);
-    return Json::object();
+    return RecordAccepted(call);
 }
 
 Json ClearGroup(const Call& call)
 {
     kUserGroups.find(call.state, PathValue(call));
     LeaveGroups(call.state, {PathValue(call)});
-    RecordAccepted(call);
-    return Json::object();
+    return RecordAccepted(call);
 }
 
 Json DeleteGroups(const Call& call)

@@ -13,8 +13,7 @@ Json MarkUploadsFailed(const Call& call)
     for (const Json& id : call.body.at("ids")) {
         kTasks.find(call.state, id)["uploadFailed"] = true;
     }
-    RecordAccepted(call);
-    return Json::object();
+    return RecordAccepted(call);
 }
 
 }  // namespace

@@ -8,8 +8,7 @@ const Collection kCaptureRecords{"/ipms/captureRecords", "id"};
 Json CorrectPlate(const Call& call)
 {
     kCaptureRecords.find(call.state, call.body.at("id"))["plateNo"] = call.body.at("plateNo");
-    RecordAccepted(call);
-    return Json::object();
+    return RecordAccepted(call);
 }
 
 }  // namespace

@@ -71,8 +71,7 @@ Json ReadPointRules(const Call& call)
 Json ReissueCards(const Call& call)
 {
     call.state.at(StatePath("/obms/desfireFailures")) = Json::array();
-    RecordAccepted(call);
-    return Json::object();
+    return RecordAccepted(call);
 }
 
 /// Mode 1 deletes all contacts of the outdoor station, mode 2 only the listed indoor stations.
@@ -87,8 +86,7 @@ Json DeleteContacts(const Call& call)
         }
     }
     call.state.at(StatePath("/obms/contacts"))[station] = left;
-    RecordAccepted(call);
-    return Json::object();
+    return RecordAccepted(call);
 }
 
 Json TakeZoneSnapshot(const Call& call)
