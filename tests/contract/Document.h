@@ -10,15 +10,27 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <regex>
+#include <set>
+#include <string>
+
 namespace contract_tests {
 
 using Json = nlohmann::json;
+using Paths = std::set<std::string>;
 
 /// The operations of contract/.
 inline const emulator::Contract& Document()
 {
     static const emulator::Contract document = emulator::Contract::Load(emulator::Options().contract);
     return document;
+}
+
+/// "/lots/*/name" for "/lots/0/name".
+inline std::string WithoutIndices(const std::string& pointer)
+{
+    static const std::regex index("/[0-9]+(?=/|$)");
+    return std::regex_replace(pointer, index, "/*");
 }
 
 /// The result of the Parse of a call for the data of a reply.

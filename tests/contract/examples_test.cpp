@@ -6,21 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <regex>
-#include <set>
 #include <utility>
 
 namespace contract_tests {
 namespace {
-
-using Paths = std::set<std::string>;
-
-/// "/lots/*/name" for "/lots/0/name".
-std::string WithoutIndices(const std::string& pointer)
-{
-    static const std::regex index("/[0-9]+(?=/|$)");
-    return std::regex_replace(pointer, index, "/*");
-}
 
 /// The paths at which values of a type can occur.
 Paths PathsOf(const catalogue::Type& type, const std::string& where = {})

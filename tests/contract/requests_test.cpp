@@ -8,13 +8,9 @@
 
 #include <algorithm>
 #include <iterator>
-#include <regex>
-#include <set>
 
 namespace contract_tests {
 namespace {
-
-using Paths = std::set<std::string>;
 
 /// The paths of the schema's values, such as "/channels/*/command".
 Paths PathsOf(const Json& schema, const std::string& where = {})
@@ -40,12 +36,11 @@ Paths PathsOf(const Json& schema, const std::string& where = {})
 
 Paths PathsIn(const std::string& body)
 {
-    static const std::regex index("/[0-9]+(?=/|$)");
     Paths paths;
     if (!body.empty()) {
         const Json values = Json::parse(body).flatten();
         for (const auto& entry : values.items()) {
-            paths.insert(std::regex_replace(entry.key(), index, "/*"));
+            paths.insert(WithoutIndices(entry.key()));
         }
     }
     return paths;

@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 constexpr const char* kTimeSync = "/brms/api/v1.1/config/time-sync";
 
@@ -45,6 +46,13 @@ inline std::unique_ptr<TestClient> ClientOf(const emulator::PlatformEmulator& pl
 {
     const int port = scheme == TestClient::Scheme::Http ? platform.httpPort() : platform.httpsPort();
     return std::make_unique<TestClient>(scheme, port, token);
+}
+
+/// The number of threads of a process, whose identifier may be "self".
+inline std::size_t ThreadsOf(const std::string& process)
+{
+    const std::filesystem::directory_iterator all("/proc/" + process + "/task");
+    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
 }
 
 /// Adds a fault in the format of the control path.

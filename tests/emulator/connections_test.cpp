@@ -4,8 +4,6 @@
 #include <sys/resource.h>
 
 #include <chrono>
-#include <filesystem>
-#include <iterator>
 #include <list>
 #include <thread>
 
@@ -18,12 +16,6 @@ namespace {
 constexpr std::size_t kLarge = 64UL * 1024 * 1024;
 const std::string kGet =
     "GET /brms/api/v1.1/config/time-sync HTTP/1.1\r\nHost: a\r\nX-Subject-Token: emulator-token\r\n";
-
-std::size_t ThreadsOfThisProcess()
-{
-    const std::filesystem::directory_iterator all("/proc/self/task");
-    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
-}
 
 /// Each connection takes two file descriptors of this process.
 void AllowManyFiles()
@@ -109,7 +101,7 @@ TEST(ManyConnectionsTest, IdleConnectionsTakeNoThreadAndAreClosed)
     AllowManyFiles();
     emulator::PlatformEmulator platform(With<milliseconds>(&emulator::Options::readTimeout, seconds(20)));
     platform.start();
-    const std::size_t threads = ThreadsOfThisProcess();
+    const std::size_t threads = ThreadsOf("self");
     std::list<RawConnection> idle;
     for (std::size_t i = 0; i < kIdle; ++i) {
         idle.emplace_back(i % 2 == 0 ? platform.httpPort() : platform.httpsPort(), i % 4 == 0 ? kGet : "");
@@ -117,7 +109,7 @@ TEST(ManyConnectionsTest, IdleConnectionsTakeNoThreadAndAreClosed)
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
     EXPECT_EQ(ClientOf(platform, TestClient::Scheme::Https)->get(kTimeSync).code(), 1000);
     EXPECT_EQ(platform.connections(), kIdle + 2);
-    EXPECT_EQ(ThreadsOfThisProcess(), threads);
+    EXPECT_EQ(ThreadsOf("self"), threads);
     for (RawConnection& connection : idle) {
         EXPECT_EQ(connection.receiveUntil({}), "");
     }
@@ -129,14 +121,14 @@ TEST(ManyConnectionsTest, HangingRequestsTakeNoThread)
     constexpr std::size_t kHanging = 1000;
     AllowManyFiles();
     RunningEmulator platform;
-    const std::size_t threads = ThreadsOfThisProcess();
+    const std::size_t threads = ThreadsOf("self");
     AddFault(platform, {{"kind", "silent"}, {"times", static_cast<int>(kHanging)}});
     std::list<RawConnection> hanging;
     for (std::size_t i = 0; i < kHanging; ++i) {
         hanging.emplace_back(platform.httpPort(), kGet + "\r\n");
     }
     ASSERT_TRUE(platform.waitForRequests(kHanging, seconds(60)));
-    EXPECT_EQ(ThreadsOfThisProcess(), threads);
+    EXPECT_EQ(ThreadsOf("self"), threads);
     EXPECT_EQ(ClientOf(platform)->get(kTimeSync).code(), 1000);
     platform.stop();
     for (RawConnection& connection : hanging) {

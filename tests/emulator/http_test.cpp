@@ -28,29 +28,22 @@ std::size_t Count(const std::string& text, const std::string& part)
     return count;
 }
 
-enum class Delivery {
-    AtOnce,
-    ByteByByte
-};
-
-/// Sends the text and returns everything received until the emulator closes the connection.
-std::string Exchanged(int port, const std::string& text, Delivery delivery)
+/// Sends the text, at once or byte by byte, and returns everything received until the emulator closes the connection.
+std::string Exchanged(int port, const std::string& text, bool byteByByte)
 {
     RawConnection connection(port);
-    if (delivery == Delivery::AtOnce) {
-        connection.send(text);
-    } else {
-        for (const char c : text) {
-            connection.send({&c, 1});
-        }
+    const std::size_t size = byteByByte ? 1 : text.size();
+    for (std::size_t at = 0; at < text.size(); at += size) {
+        connection.send(std::string_view(text).substr(at, size));
     }
     return connection.receiveUntil({});
 }
 
-std::string NameOf(Delivery delivery)
-{
-    return delivery == Delivery::AtOnce ? "AtOnce" : "ByteByByte";
-}
+/// Names a test after its row and the delivery.
+constexpr auto RowAndDelivery = [](const auto& test) {
+    const auto& [row, byteByByte] = test.param;
+    return row.name + std::string(byteByByte ? "ByteByByte" : "AtOnce");
+};
 
 struct BadHttp {
     const char* name;
@@ -58,7 +51,7 @@ struct BadHttp {
     int status;
 };
 
-class BadHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<BadHttp, Delivery>> {};
+class BadHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<BadHttp, bool>> {};
 
 struct GoodHttp {
     const char* name;
@@ -66,14 +59,14 @@ struct GoodHttp {
     int code;          ///< expected in the envelope
 };
 
-class GoodHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<GoodHttp, Delivery>> {};
+class GoodHttpTest : public EmulatorTableTest, public testing::WithParamInterface<std::tuple<GoodHttp, bool>> {};
 
 }  // namespace
 
 TEST_P(BadHttpTest, IsRejectedAndEndsTheConnection)
 {
-    const auto& [row, delivery] = GetParam();
-    const std::string reply = Exchanged(m_platform.httpPort(), row.text + kNext, delivery);
+    const auto& [row, byteByByte] = GetParam();
+    const std::string reply = Exchanged(m_platform.httpPort(), row.text + kNext, byteByByte);
     EXPECT_EQ(reply.substr(0, 12), "HTTP/1.1 " + std::to_string(row.status)) << reply;
     EXPECT_EQ(Count(reply, "HTTP/1.1 "), 1U) << reply;
     EXPECT_NE(reply.find("\r\nConnection: close\r\n"), std::string::npos) << reply;
@@ -163,13 +156,13 @@ INSTANTIATE_TEST_SUITE_P(
                     431},
             BadHttp{"LengthInTrailer", kPost + "Transfer-Encoding: chunked\r\n\r\n0\r\nContent-Length: 2\r\n\r\n",
                     400}),
-        testing::Values(Delivery::AtOnce, Delivery::ByteByByte)),
-    [](const auto& row) { return std::get<0>(row.param).name + NameOf(std::get<1>(row.param)); });
+        testing::Bool()),
+    RowAndDelivery);
 
 TEST_P(GoodHttpTest, IsServedAndKeepsTheConnection)
 {
-    const auto& [row, delivery] = GetParam();
-    const std::string replies = Exchanged(m_platform.httpPort(), row.text + kNext, delivery);
+    const auto& [row, byteByByte] = GetParam();
+    const std::string replies = Exchanged(m_platform.httpPort(), row.text + kNext, byteByByte);
     EXPECT_EQ(Count(replies, "HTTP/1.1 200 OK\r\n"), 2U) << replies;
     ASSERT_EQ(m_platform.requests().size(), 2U);
     EXPECT_EQ(m_platform.requests().front().code, row.code) << replies;
@@ -205,8 +198,8 @@ INSTANTIATE_TEST_SUITE_P(
                      1003},
             GoodHttp{"Trailers", kPost + "Transfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n0\r\nX: a\r\nY: b\r\n\r\n",
                      1003}),
-        testing::Values(Delivery::AtOnce, Delivery::ByteByByte)),
-    [](const auto& row) { return std::get<0>(row.param).name + NameOf(std::get<1>(row.param)); });
+        testing::Bool()),
+    RowAndDelivery);
 
 class HttpTest : public EmulatorTest {
 protected:

@@ -32,7 +32,13 @@ constexpr std::size_t Size(APIModule::detail::ParameterList<Parameters...> /*par
 }
 
 /// A call with name and family taken from the name of its constant, such as "APIModule::BRMS::GetTimeSyncConfig".
-Call NamedCall(std::string_view constantName);
+inline Call NamedCall(std::string_view constantName)
+{
+    Call call;
+    call.family = Unqualified(constantName.substr(0, constantName.rfind("::")));
+    call.name = call.family + "." + std::string(Unqualified(constantName));
+    return call;
+}
 
 /// The parts of a request with the settings applied.
 APIModule::detail::RequestParts Adapted(const APIModule::detail::RequestParts& parts, const RunSettings& settings);
@@ -139,6 +145,12 @@ Call Entry(std::string_view summary, Names... argumentNames)
 }
 
 /// Appends the calls of one subject.
-void AddSubject(std::vector<Call>& calls, std::string_view subject, std::vector<Call> entries);
+inline void AddSubject(std::vector<Call>& calls, std::string_view subject, std::vector<Call> entries)
+{
+    for (Call& call : entries) {
+        call.subject = subject;
+        calls.push_back(std::move(call));
+    }
+}
 
 }  // namespace catalogue::detail
