@@ -112,7 +112,7 @@ std::vector<double> Lateness(int nInterval, const std::function<void()>& work)
     std::vector<double> lateness;
     QElapsedTimer clock;
     QTimer timer;
-    timer.setTimerType(Qt::PreciseTimer);
+    timer.setTimerType(::Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         constexpr double kNanoPerMilli = 1e6;
         lateness.push_back(double(clock.nsecsElapsed()) / kNanoPerMilli - nInterval);
@@ -138,7 +138,7 @@ Values Stall(const std::function<void()>& work)
 void Idle(int nMilliseconds)
 {
     QEventLoop loop;
-    QTimer::singleShot(nMilliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer::singleShot(nMilliseconds, ::Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
 }
 
