@@ -221,11 +221,11 @@ TEST_F(StrictnessTest, MissingFamilyInTheStateIsReported)
 
 TEST_F(StrictnessTest, RequestWithoutContentLengthHasNoBody)
 {
-    for (const std::string request :
+    for (const char* request :
          {"DELETE /brms/api/v1.1/user/group?ids=12", "POST /brms/api/v1.1/config/time-sync/immediate"}) {
-        const std::string reply =
-            SendRaw(m_platform.httpPort(), request + " HTTP/1.1\r\nHost: a\r\nX-Subject-Token: emulator-token\r\n"
-                                                     "Connection: close\r\n\r\n");
+        const std::string reply = SendRaw(
+            m_platform.httpPort(), std::string(request) + " HTTP/1.1\r\nHost: a\r\nX-Subject-Token: emulator-token\r\n"
+                                                          "Connection: close\r\n\r\n");
         EXPECT_NE(reply.find(R"("code":1000)"), std::string::npos) << request << ": " << reply;
     }
 }
