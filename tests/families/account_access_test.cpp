@@ -1,7 +1,6 @@
 // The rights of the account, and access to the web page of a device.
 #include "support/Bind.h"
 #include "support/Family.h"
-#include "support/Json.h"
 
 #include <BRMS/AccountAccessFields.h>
 #include <BRMS/BRMSModule.h>
@@ -12,95 +11,70 @@ using namespace family_testing;
 using namespace std::string_literals;
 using namespace APIModule;
 
-/// A call whose only argument is inserted into its URL.
-struct IdCall {
-    std::string name;
-    int (*pack)(void*, const std::string&, int);
-    std::string before;
-    std::string after;
-};
-
-PackRow OfId(const IdCall& call, const std::string& suffix, const std::string& id, const std::string& inUrl)
-{
-    return {call.name + "_id" + suffix, "CBRMSModule::Packet" + call.name, Bind<const std::string&>(call.pack, id),
-            Method_Get, call.before + inUrl + call.after};
-}
-
-std::vector<PackRow> RowsOfId(const IdCall& call)
-{
-    return {
-        OfId(call, "", "1000001$1$0$0", "1000001$1$0$0"),
-        OfId(call, "_empty", "", ""),
-        OfId(call, "_is_not_escaped", R"(a/b?c&d#e f"g"+%20)", R"(a/b?c&d#e f"g"+%20)"),
-        OfId(call, "_with_marker_is_kept", "%1%2b", "%1%2b"),
-        OfId(call, "_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
-        OfId(call, "_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"),
-        OfId(call, "_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
-    };
-}
-
 const BodyPack<FunctionChannelCheck&> kCheckPack(NAMED(CBRMSModule::PacketFunctionChannelCheck), Method_Post,
                                                  "/brms/api/v1.1/account/function/channel/check");
 const UrlPack<const DeviceCategoryParamReq&> kCountPack(
     NAMED(CBRMSModule::PacketGetDeviceCategoryCount), Method_Get,
     "/brms/api/v1.1/device/statistics/count-by-device-category/list?");
 
-std::vector<PackRow> PackRows()
-{
-    std::vector<PackRow> rows{
-        {"GetDeriveToken", "CBRMSModule::PacketGetDeriveToken", Bind<>(&CBRMSModule::PacketGetDeriveToken), Method_Post,
-         "/brms/api/v1.1/account/token/derive"},
-        {"GetPermissionResourceCollection", "CBRMSModule::PacketGetPermissionResourceCollection",
-         Bind<>(&CBRMSModule::PacketGetPermissionResourceCollection), Method_Get,
-         "/brms/api/v1.1/account/permission/resource/collection"},
+const std::vector<PackRow> kPacks = Joined<PackRow>({
+    PackRow{"GetDeriveToken", NAMED(CBRMSModule::PacketGetDeriveToken), Method_Post,
+            "/brms/api/v1.1/account/token/derive"},
+    PackRow{"GetPermissionResourceCollection", NAMED(CBRMSModule::PacketGetPermissionResourceCollection), Method_Get,
+            "/brms/api/v1.1/account/permission/resource/collection"},
 
-        kCheckPack("Check", {"c1", "PLAYBACK"}, R"({"channelId": "c1", "functionCode": "PLAYBACK"})"),
-        kCheckPack("Check_fresh", {}, R"({"channelId": "", "functionCode": ""})"),
-        kCheckPack("Check_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n"},
-                   R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
-        kCheckPack("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
-                   R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
-        kCheckPack("Check_texts_continue_after_a_zero_byte", {"a\0b"s, "c\0d"s},
-                   R"({"channelId": "a\u0000b", "functionCode": "c\u0000d"})"),
+    kCheckPack("Check", {"c1", "PLAYBACK"}, R"({"channelId": "c1", "functionCode": "PLAYBACK"})"),
+    kCheckPack("Check_fresh", {}, R"({"channelId": "", "functionCode": ""})"),
+    kCheckPack("Check_texts_with_quotes_line_ends_and_markers", {R"("a\b")", "%1\n"},
+               R"({"channelId": "\"a\\b\"", "functionCode": "%1\n"})"),
+    kCheckPack("Check_texts_are_utf8", {"\xC3\xBC\xE4\xB8\xAD", "invalid \xFF"},
+               R"({"channelId": "\u00fc\u4e2d", "functionCode": "invalid \ufffd"})"),
+    kCheckPack("Check_texts_continue_after_a_zero_byte", {"a\0b"s, "c\0d"s},
+               R"({"channelId": "a\u0000b", "functionCode": "c\u0000d"})"),
 
-        kCountPack("Count", {"k", "o", "d", "p", "s", "c"},
-                   "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
-        kCountPack("Count_with_only_the_keyword_cam", {"cam", "", "", "", "", ""},
-                   "keyword=cam&orgCode=&domain=&permitted=&sourceType=&containChild="),
-        kCountPack("Count_fresh", {}, "keyword=&orgCode=&domain=&permitted=&sourceType=&containChild="),
-        kCountPack("Count_is_not_escaped", {"a&b#c", "0 01", "x/y?", "\"", "+", "%20"},
-                   "keyword=a&b#c&orgCode=0 01&domain=x/y?&permitted=\"&sourceType=+&containChild=%20"),
-        kCountPack("Count_marker_in_a_field_is_replaced_by_later_fields", {"a%2b", "ORG", "D", "P", "S", "C"},
-                   "keyword=aORGb&orgCode=ORG&domain=D&permitted=P&sourceType=S&containChild=C"),
-        kCountPack("Count_lowest_marker_is_replaced_first", {"%1", "ORG", "D", "P", "S", "C"},
-                   "keyword=ORG&orgCode=D&domain=P&permitted=S&sourceType=C&containChild=%6"),
-        kCountPack("Count_marker_in_the_last_field_is_kept", {"k", "o", "d", "p", "s", "%1%6"},
-                   "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=%1%6"),
-        kCountPack("Count_marker_beyond_the_parameters_is_kept", {"%9", "o", "d", "p", "s", "c"},
-                   "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
-        kCountPack("Count_is_utf8_and_continues_after_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
-                   "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
-        kCountPack("Count_every_text_continues_after_a_zero_byte",
-                   {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
-                   "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
-    };
-    for (const IdCall& call : std::initializer_list<IdCall>{
-             {"GetChannelWebTunnel", &CBRMSModule::PacketGetChannelWebTunnel, "/brms/api/v1.1/device/channel/",
-              "/web/tunnel"},
-             {"GetChannelWebAuthorization", &CBRMSModule::PacketGetChannelWebAuthorization,
-              "/brms/api/v1.1/device/channel/", "/web/authorization"},
-             {"GetChannelWebEnablement", &CBRMSModule::PacketGetChannelWebEnablement, "/brms/api/v1.1/device/channel/",
-              "/web/enablement"},
-             {"GetWebEnablement", &CBRMSModule::PacketGetWebEnablement, "/brms/api/v1.1/device/", "/web/enablement"},
-             {"GetMenuAvailable", &CBRMSModule::PacketGetMenuAvailable, "/brms/api/v1.1/menu/", "/available"},
-         }) {
-        const std::vector<PackRow> rowsOfId = RowsOfId(call);
-        rows.insert(rows.end(), rowsOfId.begin(), rowsOfId.end());
-    }
-    return rows;
-}
+    kCountPack("Count", {"k", "o", "d", "p", "s", "c"},
+               "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
+    kCountPack("Count_with_only_the_keyword_cam", {"cam", "", "", "", "", ""},
+               "keyword=cam&orgCode=&domain=&permitted=&sourceType=&containChild="),
+    kCountPack("Count_fresh", {}, "keyword=&orgCode=&domain=&permitted=&sourceType=&containChild="),
+    kCountPack("Count_is_not_escaped", {"a&b#c", "0 01", "x/y?", "\"", "+", "%20"},
+               "keyword=a&b#c&orgCode=0 01&domain=x/y?&permitted=\"&sourceType=+&containChild=%20"),
+    kCountPack("Count_marker_in_a_field_is_replaced_by_later_fields", {"a%2b", "ORG", "D", "P", "S", "C"},
+               "keyword=aORGb&orgCode=ORG&domain=D&permitted=P&sourceType=S&containChild=C"),
+    kCountPack("Count_lowest_marker_is_replaced_first", {"%1", "ORG", "D", "P", "S", "C"},
+               "keyword=ORG&orgCode=D&domain=P&permitted=S&sourceType=C&containChild=%6"),
+    kCountPack("Count_marker_in_the_last_field_is_kept", {"k", "o", "d", "p", "s", "%1%6"},
+               "keyword=k&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=%1%6"),
+    kCountPack("Count_marker_beyond_the_parameters_is_kept", {"%9", "o", "d", "p", "s", "c"},
+               "keyword=%9&orgCode=o&domain=d&permitted=p&sourceType=s&containChild=c"),
+    kCountPack("Count_is_utf8_and_continues_after_a_zero_byte", {"\xC3\xBC", "a\0b"s, "\xFF", "", "", "\0"s},
+               "keyword=\xC3\xBC&orgCode=a\0b&domain=\xEF\xBF\xBD&permitted=&sourceType=&containChild=\0"s),
+    kCountPack("Count_every_text_continues_after_a_zero_byte", {"k\0k"s, "o\0o"s, "d\0d"s, "p\0p"s, "s\0s"s, "c\0c"s},
+               "keyword=k\0k&orgCode=o\0o&domain=d\0d&permitted=p\0p&sourceType=s\0s&containChild=c\0c"s),
 
-INSTANTIATE_TEST_SUITE_P(AccountAccess, PackTest, testing::ValuesIn(PackRows()), RowName());
+    TextRows("GetChannelWebTunnel",
+             UrlPack<const std::string&>(NAMED(CBRMSModule::PacketGetChannelWebTunnel), Method_Get,
+                                         "/brms/api/v1.1/device/channel/"),
+             "/web/tunnel"),
+    TextRows("GetChannelWebAuthorization",
+             UrlPack<const std::string&>(NAMED(CBRMSModule::PacketGetChannelWebAuthorization), Method_Get,
+                                         "/brms/api/v1.1/device/channel/"),
+             "/web/authorization"),
+    TextRows("GetChannelWebEnablement",
+             UrlPack<const std::string&>(NAMED(CBRMSModule::PacketGetChannelWebEnablement), Method_Get,
+                                         "/brms/api/v1.1/device/channel/"),
+             "/web/enablement"),
+    TextRows(
+        "GetWebEnablement",
+        UrlPack<const std::string&>(NAMED(CBRMSModule::PacketGetWebEnablement), Method_Get, "/brms/api/v1.1/device/"),
+        "/web/enablement"),
+    TextRows(
+        "GetMenuAvailable",
+        UrlPack<const std::string&>(NAMED(CBRMSModule::PacketGetMenuAvailable), Method_Get, "/brms/api/v1.1/menu/"),
+        "/available"),
+});
+
+INSTANTIATE_TEST_SUITE_P(AccountAccess, PackTest, testing::ValuesIn(kPacks), RowName());
 
 const Parse kTunnel = MakeParse(NAMED(CBRMSModule::ParseGetChannelWebTunnel));
 const Parse kAuthorization = MakeParse(NAMED(CBRMSModule::ParseGetChannelWebAuthorization));
@@ -143,114 +117,84 @@ std::vector<ParseRow> CheckRows()
         {"array", R"(["1"])", 0},
     };
     std::vector<ParseRow> rows{
-        Row("Check_without_authorized", kCheck, R"({"result": "1"})", R"({"authorized": 8})", -1,
-            R"({"authorized": 8})", {MissingKey("authorized")}),
-        Row("Check_of_an_empty_object", kCheck, "{}", R"({"authorized": 8})", -1, R"({"authorized": 8})",
-            {EmptyObject()}),
+        Row("Check_without_authorized", kCheck, R"({"result": "1"})", R"({"authorized": 8})", "{}",
+            MissingKey("authorized")),
+        Row("Check_of_an_empty_object", kCheck, "{}", R"({"authorized": 8})", "{}", EmptyObject()),
     };
     for (const auto& row : cases) {
-        const Json result{{"authorized", row.authorized}};
-        rows.push_back({std::string("Check_of_") + row.name,
-                        kCheck,
-                        JsonObject(std::string(R"({"authorized": )") + row.value + "}"),
-                        {{"authorized", 8}},
-                        0,
-                        result,
-                        {}});
+        rows.push_back(Row(std::string("Check_of_") + row.name, kCheck,
+                           std::string(R"({"authorized": )") + row.value + "}", R"({"authorized": 8})",
+                           Json{{"authorized", row.authorized}}.dump()));
     }
     return rows;
 }
 
-std::vector<ParseRow> ParseRows()
-{
-    return Joined({
-        Variations(kTunnel, {Bool("https"), Int("port"), Text("ip")},
-                   R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
-        Variations(kAuthorization, {Text("username"), Text("token")},
-                   R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
-        Variations(kChannelWeb, {Bool("enableWeb", kItself)}, R"({"enableWeb": true})"),
-        Variations(kDeviceWeb, {Bool("enableWeb", kItself)}, R"({"enableWeb": true})"),
-        Variations(kMenu, {Bool("available", kItself)}, R"({"available": true})"),
-        Variations(kToken, {Text("token", kItself)}, R"({"token": "derived"})"),
-        Variations(kPermissions,
-                   {Found("menuFunctionCodes"), Found("localConfigItemCodes"), Texts("menuFunctionCodes"),
-                    Texts("localConfigItemCodes")},
-                   R"({"menuFunctionCodes": ["MENU_MAP", "MENU_VIDEO"], "localConfigItemCodes": ["a", "b", "c"]})"),
-        Variations(
-            kCount,
-            {Records<DeviceCategoryQueryResult>("results", {Int("deviceCategory"), Int("deviceCount")}, kItself)},
-            R"({"results": [{"deviceCategory": 1, "deviceCount": 250},
-                                   {"deviceCategory": 8, "deviceCount": 0}]})"),
-        CheckRows(),
-        {
-            Row("Tunnel_without_ip_has_https_and_port", kTunnel, R"({"https": true, "port": 8443})",
-                R"({"https": false, "port": 1, "ip": "i", "username": "u", "token": "t"})", -1,
-                R"({"https": true, "port": 8443, "ip": "i", "username": "u", "token": "t"})", {MissingKey("ip")}),
-            Row("Tunnel_after_authorization_keeps_user_name_and_token", kTunnel,
-                R"({"https": false, "port": 80, "ip": "10.0.0.9"})",
-                R"({"https": true, "port": 0, "ip": "", "username": "admin", "token": "t"})", 0,
-                R"({"https": false, "port": 80, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
-            Row("Tunnel_of_text_forms", kTunnel, R"({"https": "1", "port": "8443", "ip": null})",
-                R"({"https": false, "port": 0, "ip": "i", "username": "", "token": ""})", 0,
-                R"({"https": true, "port": 8443, "ip": "", "username": "", "token": ""})"),
-            Row("Authorization_after_tunnel_keeps_the_tunnel", kAuthorization,
-                R"({"username": "admin", "token": "a\u0000b\u00fc"})",
-                R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "", "token": ""})", 0,
-                R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "a\u0000b\u00fc"})"),
-            Row("Authorization_without_token_has_the_user_name", kAuthorization, R"({"username": "admin"})",
-                R"({"https": true, "port": 8443, "ip": "i", "username": "", "token": "t"})", -1,
-                R"({"https": true, "port": 8443, "ip": "i", "username": "admin", "token": "t"})",
-                {MissingKey("token")}),
-            Row("ChannelWeb_of_text_0", kChannelWeb, R"({"enableWeb": "0"})", "true", 0, "false"),
-            Row("DeviceWeb_of_number_1", kDeviceWeb, R"({"enableWeb": 1})", "false", 0, "true"),
-            Row("Menu_without_available", kMenu, R"({"enableWeb": true})", "true", -1, "true",
-                {MissingKey("available")}),
-            Row("Permissions_of_a_text_and_a_number", kPermissions,
-                R"({"menuFunctionCodes": ["a", 5], "localConfigItemCodes": []})",
-                R"({"menuFunctionCodes": [], "localConfigItemCodes": []})", 0,
-                R"({"menuFunctionCodes": ["a", ""], "localConfigItemCodes": []})"),
-            Row("Permissions_elements_of_all_types", kPermissions,
-                R"({"menuFunctionCodes": [], "localConfigItemCodes":
-                        [null, true, 1.5, {"a": "b"}, ["c"], "", "d\u0000e\u00fc"]})",
-                R"({"menuFunctionCodes": [], "localConfigItemCodes": []})", 0,
-                R"({"menuFunctionCodes": [], "localConfigItemCodes": ["", "", "", "", "", "", "d\u0000e\u00fc"]})"),
-            Row("Permissions_without_localConfigItemCodes_leave_both_lists_unchanged", kPermissions,
-                R"({"menuFunctionCodes": ["a", "b"]})",
-                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", -1,
-                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})",
-                {MissingKey("localConfigItemCodes")}),
-            Row("Permissions_without_both_lists_log_one_line", kPermissions, R"({"other": []})",
-                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", -1,
-                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", {MissingKey("menuFunctionCodes")}),
-            Row("Permissions_are_appended", kPermissions,
-                R"({"menuFunctionCodes": ["a"], "localConfigItemCodes": ["b", "c"]})",
-                R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", 0,
-                R"({"menuFunctionCodes": ["m0", "a"], "localConfigItemCodes": ["l0", "b", "c"]})"),
-            Row("Count_second_element_without_deviceCount_keeps_the_first", kCount,
-                R"({"results": [{"deviceCategory": 1, "deviceCount": 250}, {"deviceCategory": 8}]})",
-                R"([{"deviceCategory": 2, "deviceCount": 3}])", -1,
-                R"([{"deviceCategory": 2, "deviceCount": 3}, {"deviceCategory": 1, "deviceCount": 250}])",
-                {MissingKey("deviceCount")}),
-            Row("Count_without_results_leaves_the_list_unchanged", kCount,
-                R"({"deviceCategory": 1, "deviceCount": 250})", R"([{"deviceCategory": 2, "deviceCount": 3}])", -1,
-                R"([{"deviceCategory": 2, "deviceCount": 3}])", {MissingKey("results")}),
-            Row("Count_empty_results_append_nothing", kCount, R"({"results": []})",
-                R"([{"deviceCategory": 2, "deviceCount": 3}])", 0, R"([{"deviceCategory": 2, "deviceCount": 3}])"),
-        },
-    });
-}
+const std::vector<ParseRow> kParses = Joined<ParseRow>({
+    Variations(kTunnel, {Bool("https"), Int("port"), Text("ip")},
+               R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
+    Variations(kAuthorization, {Text("username"), Text("token")},
+               R"({"https": true, "port": 8443, "ip": "10.0.0.9", "username": "admin", "token": "t"})"),
+    Variations(kChannelWeb, {Bool("enableWeb", kItself)}, R"({"enableWeb": true})"),
+    Variations(kDeviceWeb, {Bool("enableWeb", kItself)}, R"({"enableWeb": true})"),
+    Variations(kMenu, {Bool("available", kItself)}, R"({"available": true})"),
+    Variations(kToken, {Text("token", kItself)}, R"({"token": "derived"})"),
+    Variations(kPermissions,
+               {Found("menuFunctionCodes"), Found("localConfigItemCodes"), Texts("menuFunctionCodes"),
+                Texts("localConfigItemCodes")},
+               R"({"menuFunctionCodes": ["MENU_MAP", "MENU_VIDEO"], "localConfigItemCodes": ["a", "b", "c"]})"),
+    Variations(kCount,
+               {Records<DeviceCategoryQueryResult>("results", {Int("deviceCategory"), Int("deviceCount")}, kItself)},
+               R"({"results": [{"deviceCategory": 1, "deviceCount": 250},
+                               {"deviceCategory": 8, "deviceCount": 0}]})"),
+    CheckRows(),
+    Row("Tunnel_without_ip_has_https_and_port", kTunnel, R"({"https": true, "port": 8443})",
+        R"({"port": 1, "ip": "i", "username": "u", "token": "t"})", R"({"https": true, "port": 8443})",
+        MissingKey("ip")),
+    Row("Tunnel_after_authorization_keeps_user_name_and_token", kTunnel,
+        R"({"https": false, "port": 80, "ip": "10.0.0.9"})", R"({"https": true, "username": "admin", "token": "t"})",
+        R"({"https": false, "port": 80, "ip": "10.0.0.9"})"),
+    Row("Tunnel_of_text_forms", kTunnel, R"({"https": "1", "port": "8443", "ip": null})", R"({"ip": "i"})",
+        R"({"https": true, "port": 8443, "ip": ""})"),
+    Row("Authorization_after_tunnel_keeps_the_tunnel", kAuthorization,
+        R"({"username": "admin", "token": "a\u0000b\u00fc"})", R"({"https": true, "port": 8443, "ip": "10.0.0.9"})",
+        R"({"username": "admin", "token": "a\u0000b\u00fc"})"),
+    Row("Authorization_without_token_has_the_user_name", kAuthorization, R"({"username": "admin"})",
+        R"({"https": true, "port": 8443, "ip": "i", "token": "t"})", R"({"username": "admin"})", MissingKey("token")),
+    Row("ChannelWeb_of_text_0", kChannelWeb, R"({"enableWeb": "0"})", "true", "false"),
+    Row("DeviceWeb_of_number_1", kDeviceWeb, R"({"enableWeb": 1})", "false", "true"),
+    Row("Menu_without_available", kMenu, R"({"enableWeb": true})", "true", "true", MissingKey("available")),
+    Row("Permissions_of_a_text_and_a_number", kPermissions,
+        R"({"menuFunctionCodes": ["a", 5], "localConfigItemCodes": []})", "{}", R"({"menuFunctionCodes": ["a", ""]})"),
+    Row("Permissions_elements_of_all_types", kPermissions, R"({"menuFunctionCodes": [], "localConfigItemCodes":
+                [null, true, 1.5, {"a": "b"}, ["c"], "", "d\u0000e\u00fc"]})",
+        "{}", R"({"localConfigItemCodes": ["", "", "", "", "", "", "d\u0000e\u00fc"]})"),
+    Row("Permissions_without_localConfigItemCodes_leave_both_lists_unchanged", kPermissions,
+        R"({"menuFunctionCodes": ["a", "b"]})", R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})",
+        "{}", MissingKey("localConfigItemCodes")),
+    Row("Permissions_without_both_lists_log_one_line", kPermissions, R"({"other": []})",
+        R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})", "{}", MissingKey("menuFunctionCodes")),
+    Row("Permissions_are_appended", kPermissions, R"({"menuFunctionCodes": ["a"], "localConfigItemCodes": ["b", "c"]})",
+        R"({"menuFunctionCodes": ["m0"], "localConfigItemCodes": ["l0"]})",
+        R"({"menuFunctionCodes": ["a"], "localConfigItemCodes": ["b", "c"]})"),
+    Row("Count_second_element_without_deviceCount_keeps_the_first", kCount,
+        R"({"results": [{"deviceCategory": 1, "deviceCount": 250}, {"deviceCategory": 8}]})",
+        R"([{"deviceCategory": 2, "deviceCount": 3}])", R"([{"deviceCategory": 1, "deviceCount": 250}])",
+        MissingKey("deviceCount")),
+    Row("Count_without_results_leaves_the_list_unchanged", kCount, R"({"deviceCategory": 1, "deviceCount": 250})",
+        R"([{"deviceCategory": 2, "deviceCount": 3}])", "[]", MissingKey("results")),
+    Row("Count_empty_results_append_nothing", kCount, R"({"results": []})",
+        R"([{"deviceCategory": 2, "deviceCount": 3}])", "[]"),
+});
 
-INSTANTIATE_TEST_SUITE_P(AccountAccess, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+INSTANTIATE_TEST_SUITE_P(AccountAccess, ParseTest, testing::ValuesIn(kParses), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<GetChannelWebTunnelRsp>("GetChannelWebTunnelRsp", "https port ip username token"),
-    FieldsOf<PermissionResourceCollectionResp>("PermissionResourceCollectionResp",
-                                               "menuFunctionCodes localConfigItemCodes"),
-    FieldsOf<FunctionChannelCheck>("FunctionChannelCheck", "channelId functionCode"),
-    FieldsOf<FunctionChannelCheckResult>("FunctionChannelCheckResult", "authorized"),
-    FieldsOf<DeviceCategoryParamReq>("DeviceCategoryParamReq",
-                                     "keyword orgCode domain permitted sourceType containChild"),
-    FieldsOf<DeviceCategoryQueryResult>("DeviceCategoryQueryResult", "deviceCategory deviceCount"),
+    FieldsOf<GetChannelWebTunnelRsp>("https port ip username token"),
+    FieldsOf<PermissionResourceCollectionResp>("menuFunctionCodes localConfigItemCodes"),
+    FieldsOf<FunctionChannelCheck>("channelId functionCode"),
+    FieldsOf<FunctionChannelCheckResult>("authorized"),
+    FieldsOf<DeviceCategoryParamReq>("keyword orgCode domain permitted sourceType containChild"),
+    FieldsOf<DeviceCategoryQueryResult>("deviceCategory deviceCount"),
 };
 
 INSTANTIATE_TEST_SUITE_P(AccountAccess, RecordTest, testing::ValuesIn(kRecords), RowName());

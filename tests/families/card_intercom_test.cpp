@@ -81,69 +81,51 @@ const Parse kDesfire = MakeParse(NAMED(COBMSModule::ParseGetConfigDesfireInfo));
 const Parse kDesfireFailures = MakeParse(NAMED(COBMSModule::ParseGetPageConfigDesfireFailInfo));
 const Parse kSnapShot = MakeParse(NAMED(COBMSModule::ParseAlarmHostZoneSnapShot));
 
-std::vector<ParseRow> ParseRows()
-{
-    return Joined({
-        Variations(kDesfire, {Bool("enableDesfire"), Bool("enableReadEncryptContent")},
-                   R"({"enableDesfire": true, "enableReadEncryptContent": true})"),
-        Variations(kDesfireFailures,
-                   {Found("totalCount"), Found("pageData"), Int("totalCount"),
-                    Records<DesfireFailureInfo>("pageData", {Text("id"), Text("deviceCode"), Text("deviceName"),
-                                                             Text("deviceIp"), Int("reason")})},
-                   R"({"totalCount": 31, "pageData": [
-                        {"id": "1", "deviceCode": "1001", "deviceName": "Door A", "deviceIp": "10.0.0.1", "reason": 4},
-                        {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2",
-                         "reason": 5}]})"),
-        Variations(kSnapShot, {Text("session", kItself)}, R"({"session": "s-1"})"),
-        {
-            Row("Desfire_without_the_second_flag_sets_the_first", kDesfire, R"({"enableDesfire": true})",
-                R"({"enableDesfire": false, "enableReadEncryptContent": true})", -1,
-                R"({"enableDesfire": true, "enableReadEncryptContent": true})",
-                {MissingKey("enableReadEncryptContent")}),
-            Row("Desfire_without_the_first_flag_leaves_the_second_unchanged", kDesfire,
-                R"({"enableReadEncryptContent": true})",
-                R"({"enableDesfire": false, "enableReadEncryptContent": false})", -1,
-                R"({"enableDesfire": false, "enableReadEncryptContent": false})", {MissingKey("enableDesfire")}),
-            Row("Desfire_reads_booleans", kDesfire, R"({"enableDesfire": true, "enableReadEncryptContent": false})",
-                R"({"enableDesfire": false, "enableReadEncryptContent": true})", 0,
-                R"({"enableDesfire": true, "enableReadEncryptContent": false})"),
-            Row("Desfire_converts_the_texts_1_and_0", kDesfire,
-                R"({"enableDesfire": "1", "enableReadEncryptContent": "0"})",
-                R"({"enableDesfire": false, "enableReadEncryptContent": true})", 0,
-                R"({"enableDesfire": true, "enableReadEncryptContent": false})"),
-            Row("DesfireFailures_without_pageData_leaves_totalCount_unchanged", kDesfireFailures,
-                R"({"totalCount": 31})", R"({"totalCount": 5, "pageData": []})", -1,
-                R"({"totalCount": 5, "pageData": []})", {MissingKey("pageData")}),
-            Row("DesfireFailures_empty_page_stores_totalCount", kDesfireFailures,
-                R"({"totalCount": 31, "pageData": []})",
-                R"({"totalCount": 5, "pageData": [{"id": "before", "deviceCode": "", "deviceName": "",
-                                                   "deviceIp": "", "reason": 1}]})",
-                0,
-                R"({"totalCount": 31, "pageData": [{"id": "before", "deviceCode": "", "deviceName": "",
-                                                    "deviceIp": "", "reason": 1}]})"),
-            Row("DesfireFailures_second_without_reason_keeps_the_first_and_the_count", kDesfireFailures,
-                R"({"totalCount": 2, "pageData": [
-                        {"id": 1, "deviceCode": "1001", "deviceName": "\u00fc", "deviceIp": "a\u0000b", "reason": "4"},
-                        {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2"}]})",
-                R"({"totalCount": 5, "pageData": []})", -1,
-                R"({"totalCount": 2, "pageData": [{"id": "1", "deviceCode": "1001", "deviceName": "\u00fc",
-                                                   "deviceIp": "a\u0000b", "reason": 4}]})",
-                {MissingKey("reason")}),
-            Row("SnapShot_without_session_fails", kSnapShot, R"({"sessionId": "s-1"})", R"("before")", -1,
-                R"("before")", {MissingKey("session")}),
-            Row("SnapShot_session_of_a_number", kSnapShot, R"({"session": 12})", R"("before")", 0, R"("12")"),
-        },
-    });
-}
+const std::vector<ParseRow> kParses = Joined<ParseRow>({
+    Variations(kDesfire, {Bool("enableDesfire"), Bool("enableReadEncryptContent")},
+               R"({"enableDesfire": true, "enableReadEncryptContent": true})"),
+    Variations(kDesfireFailures,
+               {Found("totalCount"), Found("pageData"), Int("totalCount"),
+                Records<DesfireFailureInfo>(
+                    "pageData", {Text("id"), Text("deviceCode"), Text("deviceName"), Text("deviceIp"), Int("reason")})},
+               R"({"totalCount": 31, "pageData": [
+                    {"id": "1", "deviceCode": "1001", "deviceName": "Door A", "deviceIp": "10.0.0.1", "reason": 4},
+                    {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2",
+                     "reason": 5}]})"),
+    Variations(kSnapShot, {Text("session", kItself)}, R"({"session": "s-1"})"),
+    Row("Desfire_without_the_second_flag_sets_the_first", kDesfire, R"({"enableDesfire": true})",
+        R"({"enableReadEncryptContent": true})", R"({"enableDesfire": true})", MissingKey("enableReadEncryptContent")),
+    Row("Desfire_without_the_first_flag_leaves_the_second_unchanged", kDesfire, R"({"enableReadEncryptContent": true})",
+        "{}", "{}", MissingKey("enableDesfire")),
+    Row("Desfire_reads_booleans", kDesfire, R"({"enableDesfire": true, "enableReadEncryptContent": false})",
+        R"({"enableReadEncryptContent": true})", R"({"enableDesfire": true, "enableReadEncryptContent": false})"),
+    Row("Desfire_converts_the_texts_1_and_0", kDesfire, R"({"enableDesfire": "1", "enableReadEncryptContent": "0"})",
+        R"({"enableReadEncryptContent": true})", R"({"enableDesfire": true, "enableReadEncryptContent": false})"),
+    Row("DesfireFailures_without_pageData_leaves_totalCount_unchanged", kDesfireFailures, R"({"totalCount": 31})",
+        R"({"totalCount": 5})", "{}", MissingKey("pageData")),
+    Row("DesfireFailures_empty_page_stores_totalCount", kDesfireFailures, R"({"totalCount": 31, "pageData": []})",
+        R"({"totalCount": 5, "pageData": [{"id": "before", "reason": 1}]})", R"({"totalCount": 31})"),
+    Row("DesfireFailures_second_without_reason_keeps_the_first_and_the_count", kDesfireFailures,
+        R"({"totalCount": 2, "pageData": [
+                {"id": 1, "deviceCode": "1001", "deviceName": "\u00fc", "deviceIp": "a\u0000b", "reason": "4"},
+                {"id": "2", "deviceCode": "1002", "deviceName": "Door B", "deviceIp": "10.0.0.2"}]})",
+        R"({"totalCount": 5})",
+        R"({"totalCount": 2, "pageData": [{"id": "1", "deviceCode": "1001", "deviceName": "\u00fc",
+                                           "deviceIp": "a\u0000b", "reason": 4}]})",
+        MissingKey("reason")),
+    Row("SnapShot_without_session_fails", kSnapShot, R"({"sessionId": "s-1"})", R"("before")", R"("before")",
+        MissingKey("session")),
+    Row("SnapShot_session_of_a_number", kSnapShot, R"({"session": 12})", R"("before")", R"("12")"),
+});
 
-INSTANTIATE_TEST_SUITE_P(CardIntercom, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+INSTANTIATE_TEST_SUITE_P(CardIntercom, ParseTest, testing::ValuesIn(kParses), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<AcsCardConfigParam>("AcsCardConfigParam", "enableDesfire enableReadEncryptContent"),
-    FieldsOf<ConfigDesFireFailureReq>("ConfigDesFireFailureReq", "page pageSize keyword"),
-    FieldsOf<DesfireFailureInfo>("DesfireFailureInfo", "id deviceCode deviceName deviceIp reason"),
-    FieldsOf<GetPageConfigDesfireFailureResp>("GetPageConfigDesfireFailureResp", "totalCount pageData"),
-    FieldsOf<DeleteAddressBookParam>("DeleteAddressBookParam", "deleteAll vtoDeviceCode vthDeviceCodes"),
+    FieldsOf<AcsCardConfigParam>("enableDesfire enableReadEncryptContent"),
+    FieldsOf<ConfigDesFireFailureReq>("page pageSize keyword"),
+    FieldsOf<DesfireFailureInfo>("id deviceCode deviceName deviceIp reason"),
+    FieldsOf<GetPageConfigDesfireFailureResp>("totalCount pageData"),
+    FieldsOf<DeleteAddressBookParam>("deleteAll vtoDeviceCode vthDeviceCodes"),
 };
 
 INSTANTIATE_TEST_SUITE_P(CardIntercom, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -56,41 +56,33 @@ INSTANTIATE_TEST_SUITE_P(DeviceControl, PackTest, testing::ValuesIn(kPacks), Row
 const Parse kDiscover = MakeParse(NAMED(CBRMSModule::ParseBatchDiscoverDevices));
 const Parse kControl = MakeParse(NAMED(CBRMSModule::ParseChannelControl));
 
-std::vector<ParseRow> ParseRows()
-{
-    return Joined({
-        Variations(kDiscover, {Text("session", kItself)}, R"({"session": "s-1"})"),
-        Variations(kControl,
-                   {Records<ChannelControlRsp>("failedChannels", {Text("channelId"), Int("errorCode")}, kItself)},
-                   R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5},
-                                          {"channelId": "ch2", "errorCode": -6}]})"),
-        {
-            Row("Control_complete_entry_before_one_without_errorCode", kControl,
-                R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5}, {"channelId": "ch2"},
-                                       {"channelId": "ch3", "errorCode": 7}]})",
-                "[]", -1, R"([{"channelId": "ch1", "errorCode": 5}])", {MissingKey("errorCode")}),
-            Row("Control_without_failedChannels_leaves_the_vector_unchanged", kControl, R"({"channels": []})",
-                R"([{"channelId": "before", "errorCode": 1}])", -1, R"([{"channelId": "before", "errorCode": 1}])",
-                {MissingKey("failedChannels")}),
-            Row("Control_of_an_empty_list_is_a_success", kControl, R"({"failedChannels": []})",
-                R"([{"channelId": "before", "errorCode": 1}])", 0, R"([{"channelId": "before", "errorCode": 1}])"),
-            Row("Control_appends_after_existing_elements", kControl,
-                R"({"failedChannels": [{"channelId": 12, "errorCode": "5"}]})",
-                R"([{"channelId": "before", "errorCode": 1}])", 0,
-                R"([{"channelId": "before", "errorCode": 1}, {"channelId": "12", "errorCode": 5}])"),
-            Row("Control_element_that_is_not_an_object_is_read_as_an_empty_object", kControl,
-                R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5}, "ch2"]})", "[]", -1,
-                R"([{"channelId": "ch1", "errorCode": 5}])", {EmptyObject()}),
-        },
-    });
-}
+const std::vector<ParseRow> kParses = Joined<ParseRow>({
+    Variations(kDiscover, {Text("session", kItself)}, R"({"session": "s-1"})"),
+    Variations(kControl, {Records<ChannelControlRsp>("failedChannels", {Text("channelId"), Int("errorCode")}, kItself)},
+               R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5},
+                                      {"channelId": "ch2", "errorCode": -6}]})"),
+    Row("Control_complete_entry_before_one_without_errorCode", kControl,
+        R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5}, {"channelId": "ch2"},
+                               {"channelId": "ch3", "errorCode": 7}]})",
+        "[]", R"([{"channelId": "ch1", "errorCode": 5}])", MissingKey("errorCode")),
+    Row("Control_without_failedChannels_leaves_the_vector_unchanged", kControl, R"({"channels": []})",
+        R"([{"channelId": "before", "errorCode": 1}])", "[]", MissingKey("failedChannels")),
+    Row("Control_of_an_empty_list_is_a_success", kControl, R"({"failedChannels": []})",
+        R"([{"channelId": "before", "errorCode": 1}])", "[]"),
+    Row("Control_appends_after_existing_elements", kControl,
+        R"({"failedChannels": [{"channelId": 12, "errorCode": "5"}]})", R"([{"channelId": "before", "errorCode": 1}])",
+        R"([{"channelId": "12", "errorCode": 5}])"),
+    Row("Control_element_that_is_not_an_object_is_read_as_an_empty_object", kControl,
+        R"({"failedChannels": [{"channelId": "ch1", "errorCode": 5}, "ch2"]})", "[]",
+        R"([{"channelId": "ch1", "errorCode": 5}])", EmptyObject()),
+});
 
-INSTANTIATE_TEST_SUITE_P(DeviceControl, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+INSTANTIATE_TEST_SUITE_P(DeviceControl, ParseTest, testing::ValuesIn(kParses), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<IPSpeakerChannel>("IPSpeakerChannel", "channelId fileIds playCount"),
-    FieldsOf<IPSpeakerControl>("IPSpeakerControl", "channels command"),
-    FieldsOf<ChannelControlRsp>("ChannelControlRsp", "channelId errorCode"),
+    FieldsOf<IPSpeakerChannel>("channelId fileIds playCount"),
+    FieldsOf<IPSpeakerControl>("channels command"),
+    FieldsOf<ChannelControlRsp>("channelId errorCode"),
 };
 
 INSTANTIATE_TEST_SUITE_P(DeviceControl, RecordTest, testing::ValuesIn(kRecords), RowName());

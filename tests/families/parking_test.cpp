@@ -120,55 +120,35 @@ const char* const kTwoDetailLots = R"({"results": [
              "channels": [{"channelId": "c4", "channelType": 6}],
              "refChannels": [{"channelId": "r4", "channelType": 7}]}]}]}]})";
 
-std::vector<ParseRow> VariationRows()
-{
-    return Joined({
-        Variations(kSimple, {Records<SimpleParkingLotInfoRsp>("results", kSimpleLot, kItself)}, kTwoSimpleLots),
-        Variations(kDetail, {Records<DatailParkingLotInfoRsp>("results", kDetailLot, kItself)}, kTwoDetailLots),
-        Variations(
-            kOrganization,
-            {Records<OrganizationInfoRsp>(
-                "results",
-                {Text("orgCode"), Text("orgName"), Text("parentOrgCode"), Int("hasChild"), Int("hasAuthority")},
-                kItself)},
-            R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 1},
-                            {"orgCode": "001001", "orgName": "Branch", "parentOrgCode": "001", "hasChild": 0,
-                             "hasAuthority": 0}]})"),
-    });
-}
+const char* const kLotBefore = R"([{"id": "before", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
+                                    "parkingSpaceStatisticsType": 3}])";
+const char* const kDetailLotBefore =
+    R"([{"id": "before", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2, "parkingSpaceStatisticsType": 3,
+         "issueVehicles": 4, "issueStatus": 5, "totalParkingSpaceCount": 6, "idleParkingSpaceCount": 7}])";
+const char* const kOrganizationBefore = R"([{"orgCode": "before", "hasChild": 3, "hasAuthority": 4}])";
 
-INSTANTIATE_TEST_SUITE_P(ParkingVariations, ParseTest, testing::ValuesIn(VariationRows()), RowName());
-
-constexpr const char* kLotBefore =
-    R"([{"id": "before", "parkingLotName": "", "orgCode": "", "orgName": "", "parentParkingLotId": "",
-         "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
-         "parkingSpaceStatisticsType": 3, "positions": []}])";
-
-constexpr const char* kDetailLotBefore =
-    R"([{"id": "before", "parkingLotName": "", "orgCode": "", "orgName": "", "parentParkingLotId": "",
-         "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
-         "parkingSpaceStatisticsType": 3, "issueVehicles": 4, "issueStatus": 5, "totalParkingSpaceCount": 6,
-         "idleParkingSpaceCount": 7, "positions": []}])";
-
-constexpr const char* kOrganizationBefore =
-    R"([{"orgCode": "before", "orgName": "", "parentOrgCode": "", "hasChild": 3, "hasAuthority": 4}])";
-
-const ParseRow kRows[] = {
-    Row("Simple_of_an_empty_list_leaves_the_vector_unchanged", kSimple, R"({"results": []})", kLotBefore, 0,
-        kLotBefore),
-    Row("Detail_of_an_empty_list_leaves_the_vector_unchanged", kDetail, R"({"results": []})", kDetailLotBefore, 0,
-        kDetailLotBefore),
+const std::vector<ParseRow> kParses = Joined<ParseRow>({
+    Variations(kSimple, {Records<SimpleParkingLotInfoRsp>("results", kSimpleLot, kItself)}, kTwoSimpleLots),
+    Variations(kDetail, {Records<DatailParkingLotInfoRsp>("results", kDetailLot, kItself)}, kTwoDetailLots),
+    Variations(
+        kOrganization,
+        {Records<OrganizationInfoRsp>(
+            "results", {Text("orgCode"), Text("orgName"), Text("parentOrgCode"), Int("hasChild"), Int("hasAuthority")},
+            kItself)},
+        R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 1},
+                        {"orgCode": "001001", "orgName": "Branch", "parentOrgCode": "001", "hasChild": 0,
+                         "hasAuthority": 0}]})"),
+    Row("Simple_of_an_empty_list_leaves_the_vector_unchanged", kSimple, R"({"results": []})", kLotBefore, "[]"),
+    Row("Detail_of_an_empty_list_leaves_the_vector_unchanged", kDetail, R"({"results": []})", kDetailLotBefore, "[]"),
     Row("Organization_of_an_empty_list_leaves_the_vector_unchanged", kOrganization, R"({"results": []})",
-        kOrganizationBefore, 0, kOrganizationBefore),
-    Row("Simple_without_results_leaves_the_vector_unchanged", kSimple, R"({"result": []})", kLotBefore, -1, kLotBefore,
-        {MissingKey("results")}),
-    Row("Detail_of_an_empty_object_leaves_the_vector_unchanged", kDetail, "{}", kDetailLotBefore, -1, kDetailLotBefore,
-        {EmptyObject()}),
-    Row("Simple_results_of_null_count_as_an_empty_list", kSimple, R"({"results": null})", kLotBefore, 0, kLotBefore),
+        kOrganizationBefore, "[]"),
+    Row("Simple_without_results_leaves_the_vector_unchanged", kSimple, R"({"result": []})", kLotBefore, "[]",
+        MissingKey("results")),
+    Row("Detail_of_an_empty_object_leaves_the_vector_unchanged", kDetail, "{}", kDetailLotBefore, "[]", EmptyObject()),
+    Row("Simple_results_of_null_count_as_an_empty_list", kSimple, R"({"results": null})", kLotBefore, "[]"),
     Row("Simple_element_that_is_not_an_object_is_read_as_an_empty_object", kSimple, R"({"results": ["11"]})",
-        kLotBefore, -1, kLotBefore, {EmptyObject()}),
-    Row("Simple_first_point_of_the_second_lot_without_mode_keeps_the_first_lot", kSimple,
-        R"({"results": [
+        kLotBefore, "[]", EmptyObject()),
+    Row("Simple_first_point_of_the_second_lot_without_mode_keeps_the_first_lot", kSimple, R"({"results": [
             {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
              "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
              "parkingSpaceStatisticsType": 2, "positions": []},
@@ -176,13 +156,10 @@ const ParseRow kRows[] = {
              "parentParkingLotName": "North", "parkingLotMode": 2, "enableParkingSpaceStatistics": 0,
              "parkingSpaceStatisticsType": 3, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
                  {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "direction": 1}]}]}]})",
-        "[]", -1,
-        R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
-             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
-             "parkingSpaceStatisticsType": 2, "positions": []}])",
-        {MissingKey("mode")}),
-    Row("Detail_first_point_of_the_second_lot_without_mode_keeps_the_first_lot", kDetail,
-        R"({"results": [
+        "[]", R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parkingLotMode": 1,
+                   "enableParkingSpaceStatistics": 1, "parkingSpaceStatisticsType": 2}])",
+        MissingKey("mode")),
+    Row("Detail_first_point_of_the_second_lot_without_mode_keeps_the_first_lot", kDetail, R"({"results": [
             {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
              "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
              "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
@@ -193,89 +170,72 @@ const ParseRow kRows[] = {
              "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
                  {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
                   "channels": [], "refChannels": []}]}]}]})",
-        "[]", -1,
-        R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
-             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
-             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
-             "idleParkingSpaceCount": 6, "positions": []}])",
-        {MissingKey("mode")}),
-    Row("Simple_lot_is_appended_without_the_detailed_fields", kSimple,
-        R"({"results": [
+        "[]", R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parkingLotMode": 1,
+                   "enableParkingSpaceStatistics": 1, "parkingSpaceStatisticsType": 2, "issueVehicles": 3,
+                   "issueStatus": 4, "totalParkingSpaceCount": 5, "idleParkingSpaceCount": 6}])",
+        MissingKey("mode")),
+    Row("Simple_lot_is_appended_without_the_detailed_fields", kSimple, R"({"results": [
             {"id": "11", "parkingLotName": "\u00fc", "orgCode": 1, "orgName": "a\u0000b", "parentParkingLotId": null,
              "parentParkingLotName": "", "parkingLotMode": "2", "enableParkingSpaceStatistics": true,
              "parkingSpaceStatisticsType": "x", "issueVehicles": 3, "positions": [
                  {"id": "p", "positionName": "Gate", "remark": "", "points": [
                      {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "not read",
                       "direction": -1, "mode": null, "channels": [{"channelId": "c", "channelType": 1}]}]}]}]})",
-        kLotBefore, 0,
-        R"([{"id": "before", "parkingLotName": "", "orgCode": "", "orgName": "", "parentParkingLotId": "",
-             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 2,
-             "parkingSpaceStatisticsType": 3, "positions": []},
-            {"id": "11", "parkingLotName": "\u00fc", "orgCode": "1", "orgName": "a\u0000b", "parentParkingLotId": "",
-             "parentParkingLotName": "", "parkingLotMode": 2, "enableParkingSpaceStatistics": 1,
-             "parkingSpaceStatisticsType": 0, "positions": [
-                 {"id": "p", "positionName": "Gate", "remark": "", "points": [
-                     {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "direction": -1,
-                      "mode": 0}]}]}])"),
-    Row("Detail_point_with_empty_channels_and_refChannels_gives_two_empty_vectors", kDetail,
-        R"({"results": [
+        kLotBefore,
+        R"([{"id": "11", "parkingLotName": "\u00fc", "orgCode": "1", "orgName": "a\u0000b", "parkingLotMode": 2,
+             "enableParkingSpaceStatistics": 1, "parkingSpaceStatisticsType": 0,
+             "positions": [{"id": "p", "positionName": "Gate", "points": [
+                 {"id": "e", "pointName": "Entry", "direction": -1, "mode": 0}]}]}])"),
+    Row("Detail_point_with_empty_channels_and_refChannels_gives_two_empty_vectors", kDetail, R"({"results": [
             {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
              "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
              "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
              "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
                  {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
                   "mode": 2, "channels": [], "refChannels": []}]}]}]})",
-        "[]", 0,
-        R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
-             "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
-             "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
-             "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
-                 {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
-                  "mode": 2, "channels": [], "refChannels": []}]}]}])"),
-    Row("Detail_point_without_refChannels_drops_its_lot", kDetail,
-        R"({"results": [
+        "[]", R"([{"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parkingLotMode": 1,
+                   "enableParkingSpaceStatistics": 1, "parkingSpaceStatisticsType": 2, "issueVehicles": 3,
+                   "issueStatus": 4, "totalParkingSpaceCount": 5, "idleParkingSpaceCount": 6,
+                   "positions": [{"id": "p", "positionName": "Gate", "points": [
+                       {"id": "e", "pointName": "Entry", "direction": 1, "mode": 2}]}]}])"),
+    Row("Detail_point_without_refChannels_drops_its_lot", kDetail, R"({"results": [
             {"id": "11", "parkingLotName": "North", "orgCode": "001", "orgName": "Root", "parentParkingLotId": "",
              "parentParkingLotName": "", "parkingLotMode": 1, "enableParkingSpaceStatistics": 1,
              "parkingSpaceStatisticsType": 2, "issueVehicles": 3, "issueStatus": 4, "totalParkingSpaceCount": 5,
              "idleParkingSpaceCount": 6, "positions": [{"id": "p", "positionName": "Gate", "remark": "", "points": [
                  {"id": "e", "pointName": "Entry", "remark": "", "refPointId": "", "refPointName": "", "direction": 1,
                   "mode": 2, "channels": [{"channelId": "c", "channelType": 1}]}]}]}]})",
-        kDetailLotBefore, -1, kDetailLotBefore, {MissingKey("refChannels")}),
+        kDetailLotBefore, "[]", MissingKey("refChannels")),
     Row("Organization_flags_are_numbers", kOrganization,
         R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 2,
                          "hasAuthority": true}]})",
-        kOrganizationBefore, 0,
-        R"([{"orgCode": "before", "orgName": "", "parentOrgCode": "", "hasChild": 3, "hasAuthority": 4},
-            {"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 2, "hasAuthority": 1}])"),
+        kOrganizationBefore, R"([{"orgCode": "001", "orgName": "Root", "hasChild": 2, "hasAuthority": 1}])"),
     Row("Organization_second_without_hasAuthority_keeps_the_first", kOrganization,
         R"({"results": [{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 0},
                         {"orgCode": "002", "orgName": "Branch", "parentOrgCode": "001", "hasChild": 0},
                         {"orgCode": "003", "orgName": "Site", "parentOrgCode": "001", "hasChild": 0,
                          "hasAuthority": 0}]})",
-        "[]", -1, R"([{"orgCode": "001", "orgName": "Root", "parentOrgCode": "", "hasChild": 1, "hasAuthority": 0}])",
-        {MissingKey("hasAuthority")}),
-};
+        "[]", R"([{"orgCode": "001", "orgName": "Root", "hasChild": 1, "hasAuthority": 0}])",
+        MissingKey("hasAuthority")),
+});
 
-INSTANTIATE_TEST_SUITE_P(Parking, ParseTest, testing::ValuesIn(kRows), RowName());
+INSTANTIATE_TEST_SUITE_P(Parking, ParseTest, testing::ValuesIn(kParses), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<SimpleParkingPointInfo>("SimpleParkingPointInfo", "id pointName remark refPointId direction mode"),
-    FieldsOf<SimpleParkingPositionInfo>("SimpleParkingPositionInfo", "id positionName remark points"),
+    FieldsOf<SimpleParkingPointInfo>("id pointName remark refPointId direction mode"),
+    FieldsOf<SimpleParkingPositionInfo>("id positionName remark points"),
     FieldsOf<SimpleParkingLotInfoRsp>(
-        "SimpleParkingLotInfoRsp",
         "id parkingLotName orgCode orgName parentParkingLotId parentParkingLotName parkingLotMode "
         "enableParkingSpaceStatistics parkingSpaceStatisticsType positions"),
-    FieldsOf<ParkingChannelInfo>("ParkingChannelInfo", "channelId channelType"),
-    FieldsOf<DetailParkingPointInfo>("DetailParkingPointInfo",
-                                     "id pointName remark refPointId refPointName direction mode channels refChannels"),
-    FieldsOf<DetailParkingPositionInfo>("DetailParkingPositionInfo", "id positionName remark points"),
+    FieldsOf<ParkingChannelInfo>("channelId channelType"),
+    FieldsOf<DetailParkingPointInfo>("id pointName remark refPointId refPointName direction mode channels refChannels"),
+    FieldsOf<DetailParkingPositionInfo>("id positionName remark points"),
     FieldsOf<DatailParkingLotInfoRsp>(
-        "DatailParkingLotInfoRsp",
         "id parkingLotName orgCode orgName parentParkingLotId parentParkingLotName parkingLotMode "
         "enableParkingSpaceStatistics parkingSpaceStatisticsType issueVehicles issueStatus totalParkingSpaceCount "
         "idleParkingSpaceCount positions"),
-    FieldsOf<OrganizationInfoRsp>("OrganizationInfoRsp", "orgCode orgName parentOrgCode hasChild hasAuthority"),
-    FieldsOf<UpdateVehicleCaptureRecordInfo>("UpdateVehicleCaptureRecordInfo", "id plateNo"),
+    FieldsOf<OrganizationInfoRsp>("orgCode orgName parentOrgCode hasChild hasAuthority"),
+    FieldsOf<UpdateVehicleCaptureRecordInfo>("id plateNo"),
 };
 
 INSTANTIATE_TEST_SUITE_P(Parking, RecordTest, testing::ValuesIn(kRecords), RowName());

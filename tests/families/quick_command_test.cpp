@@ -113,7 +113,7 @@ std::vector<PackRow> PackRows()
 {
     const char* const freshBody = R"({"quickCommandName": "", "enableShortcutKeys": "0", "shortcutKeys": "",
                                       "executeMode": "0", "remark": "", "httpUrls": []})";
-    std::vector<PackRow> rows{
+    std::vector<PackRow> rows = Joined<PackRow>({
         kUpdate("Update_id_is_sent_only_in_the_url", OnlyId("q7"), "/brms/api/v1.1/config/quick/command/q7", freshBody),
         kUpdate("Update_id_is_not_escaped", OnlyId("a/b&c#%1"), "/brms/api/v1.1/config/quick/command/a/b&c#%1",
                 freshBody),
@@ -128,21 +128,10 @@ std::vector<PackRow> PackRows()
         kDelete("Delete_ids_are_utf8_and_continue_after_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
                 "a\0b,\xC3\xBC\xEF\xBF\xBD"s),
 
-        kGetPack("Get_one", "q1", "q1"),
-        kGetPack("Get_empty_id", "", ""),
-        kGetPack("Get_id_is_not_escaped", "a/b?c&d#%1 \xC3\xBC", "a/b?c&d#%1 \xC3\xBC"),
-        kGetPack("Get_id_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
-
-        kListPack("List_keyword", "gate", "gate"),
-        kListPack("List_empty_keyword", "", ""),
-        kListPack("List_keyword_is_not_escaped", "a&b#c %1%2b \xC3\xBC\xFF", "a&b#c %1%2b \xC3\xBC\xEF\xBF\xBD"),
-        kListPack("List_keyword_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
-
-        kOfPlanPack("OfPlan_one", "p1", "p1/quick/command/list"),
-        kOfPlanPack("OfPlan_empty_id", "", "/quick/command/list"),
-        kOfPlanPack("OfPlan_id_is_not_escaped", "a/b&c#%1 \xC3\xBC", "a/b&c#%1 \xC3\xBC/quick/command/list"),
-        kOfPlanPack("OfPlan_id_continues_after_a_zero_byte", "a\0b"s, "a\0b/quick/command/list"s),
-    };
+        TextRows("Get", kGetPack),
+        TextRows("List", kListPack),
+        TextRows("OfPlan", kOfPlanPack, "/quick/command/list"),
+    });
     for (const BodyRow& row : kBodies) {
         rows.push_back(kAdd("Add_" + row.name, row.command, row.body));
         rows.push_back(kUpdate("Update_" + row.name, row.command,
@@ -157,152 +146,116 @@ const Parse kGet = MakeParse(NAMED(CBRMSModule::ParseGetQuickCommand));
 const Parse kList = MakeParse(NAMED(CBRMSModule::ParseGetQuickCommands));
 const Parse kOfPlan = MakeParse(NAMED(CBRMSModule::ParseGetAlarmPlanQuickCommands));
 
-std::vector<ParseRow> ParseRows()
-{
-    const char* const freshCommand = R"({"id": "", "quickCommandName": "", "enableShortcutKeys": false,
-                                         "shortcutKeys": "", "executeMode": 0, "remark": "", "httpUrls": []})";
-    const char* const oneCommand = R"([{"id": "q0", "quickCommandName": "n0", "enableShortcutKeys": true,
-                                        "shortcutKeys": "F1", "executeMode": 4, "remark": "r0", "httpUrls": [
-                                            {"method": 3, "url": "u0", "body": "b0", "seq": "s0"}]}])";
-    return Joined({
-        Variations(kGet,
-                   {Text("id"), Text("quickCommandName"), Text("shortcutKeys"), Text("remark"),
-                    Bool("enableShortcutKeys"), Int("executeMode"),
-                    Records<QuickCommandHttpUrl>("httpUrls", {Int("method"), Text("url"), Text("body"), Text("seq")})},
-                   R"({"id": "q1", "quickCommandName": "Open gate", "enableShortcutKeys": true,
-                       "shortcutKeys": "Ctrl+G", "executeMode": 2, "remark": "at night", "httpUrls": [
-                           {"method": 2, "url": "http://gate.example/open", "body": "{}", "seq": "1"},
-                           {"method": 0, "url": "http://gate.example/state", "body": "", "seq": "2"}]})"),
-        Variations(kList,
-                   {Records<QuickCommand>("results",
-                                          {Text("quickCommandName"), Text("id"), Text("shortcutKeys"),
-                                           Bool("enableShortcutKeys"), Text("remark")},
-                                          kItself)},
-                   R"({"results": [
-                       {"id": "q1", "quickCommandName": "Open gate", "enableShortcutKeys": true,
-                        "shortcutKeys": "Ctrl+G", "remark": "at night"},
-                       {"id": "q2", "quickCommandName": "Close gate", "enableShortcutKeys": false,
-                        "shortcutKeys": "", "remark": ""}]})"),
-        Variations(kOfPlan,
-                   {Records<QuickCommand>(
-                       "results",
-                       {Text("quickCommandName"),
-                        Records<QuickCommandHttpUrl>("httpUrls", {Int("method"), Text("url"), Text("seq")})},
-                       kItself)},
-                   R"({"results": [
-                       {"quickCommandName": "Open gate", "httpUrls": [
-                           {"method": 2, "url": "http://gate.example/open", "seq": "1"},
-                           {"method": 0, "url": "http://gate.example/state", "seq": "2"}]},
-                       {"quickCommandName": "Siren", "httpUrls": [
-                           {"method": 1, "url": "http://siren.example/on", "seq": "1"},
-                           {"method": 3, "url": "http://siren.example/off", "seq": "2"}]}]})"),
-        {
-            Row("Get_text_forms_of_flag_and_mode_read_as_true_and_2", kGet,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": "1", "shortcutKeys": "F5",
-                    "executeMode": "2", "remark": "r", "httpUrls": [
-                        {"method": "-1", "url": "u", "body": "b", "seq": 7}]})",
-                freshCommand, 0,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
-                    "executeMode": 2, "remark": "r", "httpUrls": [
-                        {"method": -1, "url": "u", "body": "b", "seq": "7"}]})"),
-            Row("Get_text_0_reads_as_false", kGet,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "F5",
-                    "executeMode": "x", "remark": "r", "httpUrls": []})",
-                R"({"id": "", "quickCommandName": "", "enableShortcutKeys": true, "shortcutKeys": "",
-                    "executeMode": 9, "remark": "", "httpUrls": []})",
-                0,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": false, "shortcutKeys": "F5",
-                    "executeMode": 0, "remark": "r", "httpUrls": []})"),
-            Row("Get_without_remark_has_three_texts_and_not_the_flag", kGet,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
-                    "executeMode": 2, "httpUrls": []})",
-                freshCommand, -1,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": false, "shortcutKeys": "F5",
-                    "executeMode": 0, "remark": "", "httpUrls": []})",
-                {MissingKey("remark")}),
-            Row("Get_second_request_without_body_keeps_the_first", kGet,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
-                    "executeMode": 2, "remark": "r", "httpUrls": [
-                        {"method": 1, "url": "u1", "body": "b1", "seq": "1"}, {"method": 2, "url": "u2", "seq": "2"}]})",
-                R"({"id": "", "quickCommandName": "", "enableShortcutKeys": false, "shortcutKeys": "",
-                    "executeMode": 0, "remark": "", "httpUrls": [
-                        {"method": 3, "url": "u0", "body": "b0", "seq": "s0"}]})",
-                -1,
-                R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
-                    "executeMode": 2, "remark": "r", "httpUrls": [
-                        {"method": 3, "url": "u0", "body": "b0", "seq": "s0"},
-                        {"method": 1, "url": "u1", "body": "b1", "seq": "1"}]})",
-                {MissingKey("body")}),
-            Row("Get_of_an_empty_object", kGet, "{}", freshCommand, -1, freshCommand, {EmptyObject()}),
-            Row("Get_texts_with_zero_bytes_and_utf8", kGet,
-                R"({"id": "a\u0000b", "quickCommandName": "\u00fc\u4e2d", "enableShortcutKeys": false,
-                    "shortcutKeys": "", "executeMode": -2147483648, "remark": "\"%1\"\n", "httpUrls": [
-                        {"method": -1, "url": "c\u0000d", "body": "{\"a\": \"%2\"}", "seq": "\ud83d\ude00"}]})",
-                freshCommand, 0,
-                R"({"id": "a\u0000b", "quickCommandName": "\u00fc\u4e2d", "enableShortcutKeys": false,
-                    "shortcutKeys": "", "executeMode": -2147483648, "remark": "\"%1\"\n", "httpUrls": [
-                        {"method": -1, "url": "c\u0000d", "body": "{\"a\": \"%2\"}", "seq": "\ud83d\ude00"}]})"),
-            Row("List_element_without_remark_keeps_earlier_elements", kList,
-                R"({"results": [
-                    {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
-                     "remark": "r1"},
-                    {"id": "q2", "quickCommandName": "n2", "enableShortcutKeys": true, "shortcutKeys": "F3"}]})",
-                "[]", -1,
-                R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
-                     "executeMode": 0, "remark": "r1", "httpUrls": []}])",
-                {MissingKey("remark")}),
-            Row("List_ignores_mode_and_requests_of_the_reply", kList,
-                R"({"results": [
-                    {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
-                     "executeMode": 2, "remark": "r1", "httpUrls": [
-                         {"method": 2, "url": "u", "body": "b", "seq": "1"}]}]})",
-                "[]", 0,
-                R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
-                     "executeMode": 0, "remark": "r1", "httpUrls": []}])"),
-            Row("List_empty_results_append_nothing", kList, R"({"results": []})", oneCommand, 0, oneCommand),
-            Row("List_without_results_leaves_the_list_unchanged", kList, R"({"commands": []})", oneCommand, -1,
-                oneCommand, {MissingKey("results")}),
-            Row("OfPlan_requests_without_body_parse", kOfPlan,
-                R"({"results": [
-                    {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}]})",
-                "[]", 0,
-                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
-                     "executeMode": 0, "remark": "", "httpUrls": [
-                         {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])"),
-            Row("OfPlan_request_without_seq_ends_the_parse_and_drops_its_command", kOfPlan,
-                R"({"results": [
-                    {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]},
-                    {"quickCommandName": "n2", "httpUrls": [{"method": 1, "url": "u2", "seq": "1"},
-                                                            {"method": 3, "url": "u3", "body": "b"}]}]})",
-                "[]", -1,
-                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
-                     "executeMode": 0, "remark": "", "httpUrls": [
-                         {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])",
-                {MissingKey("seq")}),
-            Row("OfPlan_ignores_everything_else_in_the_reply", kOfPlan,
-                R"({"results": [
-                    {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
-                     "executeMode": 2, "remark": "r1", "httpUrls": [
-                         {"method": 2, "url": "u1", "body": "b1", "seq": "1"}]}]})",
-                "[]", 0,
-                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
-                     "executeMode": 0, "remark": "", "httpUrls": [
-                         {"method": 2, "url": "u1", "body": "", "seq": "1"}]}])"),
-            Row("OfPlan_command_without_requests_is_appended", kOfPlan,
-                R"({"results": [{"quickCommandName": "n1", "httpUrls": []}]})", "[]", 0,
-                R"([{"id": "", "quickCommandName": "n1", "enableShortcutKeys": false, "shortcutKeys": "",
-                     "executeMode": 0, "remark": "", "httpUrls": []}])"),
-            Row("OfPlan_empty_results_append_nothing", kOfPlan, R"({"results": []})", oneCommand, 0, oneCommand),
-        },
-    });
-}
+const char* const kCommandBefore =
+    R"([{"id": "q0", "quickCommandName": "n0", "enableShortcutKeys": true, "shortcutKeys": "F1", "executeMode": 4,
+         "remark": "r0", "httpUrls": [{"method": 3, "url": "u0", "body": "b0", "seq": "s0"}]}])";
 
-INSTANTIATE_TEST_SUITE_P(QuickCommand, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+const std::vector<ParseRow> kParses = Joined<ParseRow>({
+    Variations(kGet,
+               {Text("id"), Text("quickCommandName"), Text("shortcutKeys"), Text("remark"), Bool("enableShortcutKeys"),
+                Int("executeMode"),
+                Records<QuickCommandHttpUrl>("httpUrls", {Int("method"), Text("url"), Text("body"), Text("seq")})},
+               R"({"id": "q1", "quickCommandName": "Open gate", "enableShortcutKeys": true,
+                   "shortcutKeys": "Ctrl+G", "executeMode": 2, "remark": "at night", "httpUrls": [
+                       {"method": 2, "url": "http://gate.example/open", "body": "{}", "seq": "1"},
+                       {"method": 0, "url": "http://gate.example/state", "body": "", "seq": "2"}]})"),
+    Variations(kList,
+               {Records<QuickCommand>("results",
+                                      {Text("quickCommandName"), Text("id"), Text("shortcutKeys"),
+                                       Bool("enableShortcutKeys"), Text("remark")},
+                                      kItself)},
+               R"({"results": [
+                   {"id": "q1", "quickCommandName": "Open gate", "enableShortcutKeys": true,
+                    "shortcutKeys": "Ctrl+G", "remark": "at night"},
+                   {"id": "q2", "quickCommandName": "Close gate", "enableShortcutKeys": false,
+                    "shortcutKeys": "", "remark": ""}]})"),
+    Variations(
+        kOfPlan,
+        {Records<QuickCommand>("results",
+                               {Text("quickCommandName"),
+                                Records<QuickCommandHttpUrl>("httpUrls", {Int("method"), Text("url"), Text("seq")})},
+                               kItself)},
+        R"({"results": [
+                   {"quickCommandName": "Open gate", "httpUrls": [
+                       {"method": 2, "url": "http://gate.example/open", "seq": "1"},
+                       {"method": 0, "url": "http://gate.example/state", "seq": "2"}]},
+                   {"quickCommandName": "Siren", "httpUrls": [
+                       {"method": 1, "url": "http://siren.example/on", "seq": "1"},
+                       {"method": 3, "url": "http://siren.example/off", "seq": "2"}]}]})"),
+    Row("Get_text_forms_of_flag_and_mode_read_as_true_and_2", kGet,
+        R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": "1", "shortcutKeys": "F5",
+            "executeMode": "2", "remark": "r", "httpUrls": [
+                {"method": "-1", "url": "u", "body": "b", "seq": 7}]})",
+        "{}", R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+                  "executeMode": 2, "remark": "r", "httpUrls": [
+                      {"method": -1, "url": "u", "body": "b", "seq": "7"}]})"),
+    Row("Get_text_0_reads_as_false", kGet,
+        R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": "0", "shortcutKeys": "F5",
+            "executeMode": "x", "remark": "r", "httpUrls": []})",
+        R"({"enableShortcutKeys": true, "executeMode": 9})",
+        R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": false, "shortcutKeys": "F5",
+            "executeMode": 0, "remark": "r"})"),
+    Row("Get_without_remark_has_three_texts_and_not_the_flag", kGet,
+        R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+            "executeMode": 2, "httpUrls": []})",
+        "{}", R"({"id": "q1", "quickCommandName": "n", "shortcutKeys": "F5"})", MissingKey("remark")),
+    Row("Get_second_request_without_body_keeps_the_first", kGet,
+        R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+            "executeMode": 2, "remark": "r", "httpUrls": [
+                {"method": 1, "url": "u1", "body": "b1", "seq": "1"}, {"method": 2, "url": "u2", "seq": "2"}]})",
+        R"({"httpUrls": [{"method": 3, "url": "u0", "body": "b0", "seq": "s0"}]})",
+        R"({"id": "q1", "quickCommandName": "n", "enableShortcutKeys": true, "shortcutKeys": "F5",
+            "executeMode": 2, "remark": "r", "httpUrls": [{"method": 1, "url": "u1", "body": "b1", "seq": "1"}]})",
+        MissingKey("body")),
+    Row("Get_of_an_empty_object", kGet, "{}", "{}", "{}", EmptyObject()),
+    Row("Get_texts_with_zero_bytes_and_utf8", kGet,
+        R"({"id": "a\u0000b", "quickCommandName": "\u00fc\u4e2d", "enableShortcutKeys": false,
+            "shortcutKeys": "", "executeMode": -2147483648, "remark": "\"%1\"\n", "httpUrls": [
+                {"method": -1, "url": "c\u0000d", "body": "{\"a\": \"%2\"}", "seq": "\ud83d\ude00"}]})",
+        "{}", R"({"id": "a\u0000b", "quickCommandName": "\u00fc\u4e2d", "executeMode": -2147483648,
+                  "remark": "\"%1\"\n", "httpUrls": [
+                      {"method": -1, "url": "c\u0000d", "body": "{\"a\": \"%2\"}", "seq": "\ud83d\ude00"}]})"),
+    Row("List_element_without_remark_keeps_earlier_elements", kList, R"({"results": [
+            {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+             "remark": "r1"},
+            {"id": "q2", "quickCommandName": "n2", "enableShortcutKeys": true, "shortcutKeys": "F3"}]})",
+        "[]", R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                   "remark": "r1"}])",
+        MissingKey("remark")),
+    Row("List_ignores_mode_and_requests_of_the_reply", kList, R"({"results": [
+            {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+             "executeMode": 2, "remark": "r1", "httpUrls": [
+                 {"method": 2, "url": "u", "body": "b", "seq": "1"}]}]})",
+        "[]", R"([{"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+                   "executeMode": 0, "remark": "r1"}])"),
+    Row("List_empty_results_append_nothing", kList, R"({"results": []})", kCommandBefore, "[]"),
+    Row("List_without_results_leaves_the_list_unchanged", kList, R"({"commands": []})", kCommandBefore, "[]",
+        MissingKey("results")),
+    Row("OfPlan_requests_without_body_parse", kOfPlan, R"({"results": [
+            {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}]})",
+        "[]", R"([{"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}])"),
+    Row("OfPlan_request_without_seq_ends_the_parse_and_drops_its_command", kOfPlan, R"({"results": [
+            {"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]},
+            {"quickCommandName": "n2", "httpUrls": [{"method": 1, "url": "u2", "seq": "1"},
+                                                    {"method": 3, "url": "u3", "body": "b"}]}]})",
+        "[]", R"([{"quickCommandName": "n1", "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}])",
+        MissingKey("seq")),
+    Row("OfPlan_ignores_everything_else_in_the_reply", kOfPlan, R"({"results": [
+            {"id": "q1", "quickCommandName": "n1", "enableShortcutKeys": true, "shortcutKeys": "F2",
+             "executeMode": 2, "remark": "r1", "httpUrls": [
+                 {"method": 2, "url": "u1", "body": "b1", "seq": "1"}]}]})",
+        "[]", R"([{"quickCommandName": "n1", "enableShortcutKeys": false, "executeMode": 0,
+                   "httpUrls": [{"method": 2, "url": "u1", "seq": "1"}]}])"),
+    Row("OfPlan_command_without_requests_is_appended", kOfPlan,
+        R"({"results": [{"quickCommandName": "n1", "httpUrls": []}]})", "[]", R"([{"quickCommandName": "n1"}])"),
+    Row("OfPlan_empty_results_append_nothing", kOfPlan, R"({"results": []})", kCommandBefore, "[]"),
+});
+
+INSTANTIATE_TEST_SUITE_P(QuickCommand, ParseTest, testing::ValuesIn(kParses), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<QuickCommandHttpUrl>("QuickCommandHttpUrl", "method url body seq"),
-    FieldsOf<QuickCommand>("QuickCommand",
-                           "id quickCommandName enableShortcutKeys shortcutKeys executeMode remark httpUrls"),
+    FieldsOf<QuickCommandHttpUrl>("method url body seq"),
+    FieldsOf<QuickCommand>("id quickCommandName enableShortcutKeys shortcutKeys executeMode remark httpUrls"),
 };
 
 INSTANTIATE_TEST_SUITE_P(QuickCommand, RecordTest, testing::ValuesIn(kRecords), RowName());

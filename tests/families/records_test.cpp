@@ -9,9 +9,9 @@ using namespace family_testing;
 using namespace APIModule;
 
 const RecordRow kRecords[] = {
-    FieldsOf<RequestParam>("RequestParam",
-                           "nPort nTimeout bHttps bCompress eMethod strIp strUrl strBody strToken strSequence "
-                           "bExcludeUserInput"),
+    FieldsOf<RequestParam>("nPort nTimeout bHttps bCompress eMethod strIp strUrl strBody strToken strSequence "
+                           "bExcludeUserInput",
+                           {{"nPort", 443}, {"nTimeout", 10}, {"bHttps", true}, {"bExcludeUserInput", true}}),
 };
 
 INSTANTIATE_TEST_SUITE_P(Core, RecordTest, testing::ValuesIn(kRecords), RowName());

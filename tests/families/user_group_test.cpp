@@ -29,20 +29,9 @@ const UrlPack<const std::vector<std::string>&> kDelete(NAMED(CBRMSModule::Packet
                                                        {Server::OfCaller, "PacketClearUserGroup failed.",
                                                         "PacketClearUserGroup success."});
 
-const PackRow kPacks[] = {
-    kListPack("List", "night", "night"),
-    kListPack("List_empty_keyword_ends_after_the_equals_sign", "", ""),
-    kListPack("List_keyword_with_ampersand_and_hash_is_not_escaped", "a&b#c", "a&b#c"),
-    kListPack("List_keyword_with_space_percent_and_quote", "a %20 \"b\"", "a %20 \"b\""),
-    kListPack("List_keyword_with_marker_is_kept", "%1%2b", "%1%2b"),
-    kListPack("List_keyword_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"),
-    kListPack("List_keyword_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"),
-    kListPack("List_keyword_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
-
-    kGetPack("Get", "g1", "g1"),
-    kGetPack("Get_empty_id", "", ""),
-    kGetPack("Get_id_is_not_escaped", "a/b?c&d#e %1", "a/b?c&d#e %1"),
-    kGetPack("Get_id_continues_after_a_zero_byte", "a\0b"s, "a\0b"s),
+const std::vector<PackRow> kPacks = Joined<PackRow>({
+    TextRows("List", kListPack),
+    TextRows("Get", kGetPack),
 
     kAddPack("Add", {"Night shift", "guards"}, R"({"groupName": "Night shift", "memo": "guards"})"),
     kAddPack("Add_empty_memo_is_sent", {"Night shift", ""}, R"({"groupName": "Night shift", "memo": ""})"),
@@ -68,10 +57,7 @@ const PackRow kPacks[] = {
     kMove("Move_texts_are_utf8_and_continue_after_a_zero_byte", {"a\0b"s, {"c\0d"s, "\xC3\xBC", "\xFF", "\"%1\""}},
           R"({"userIds": ["c\u0000d", "\u00fc", "\ufffd", "\"%1\""], "groupId": "a\u0000b"})"),
 
-    kClear("Clear", "g1", "g1/clear"),
-    kClear("Clear_empty_id", "", "/clear"),
-    kClear("Clear_id_is_not_escaped", "a/b&c#%1", "a/b&c#%1/clear"),
-    kClear("Clear_id_continues_after_a_zero_byte", "a\0b"s, "a\0b/clear"s),
+    TextRows("Clear", kClear, "/clear"),
 
     kDelete("Delete_three_joined_with_commas", {"a", "b", "c"}, "a,b,c"),
     kDelete("Delete_one_has_no_trailing_comma", {"a"}, "a"),
@@ -81,7 +67,7 @@ const PackRow kPacks[] = {
     kDelete("Delete_ids_are_not_escaped", {"a,b", "c&d", "%1"}, "a,b,c&d,%1"),
     kDelete("Delete_ids_are_utf8_and_continue_after_a_zero_byte", {"a\0b"s, "\xC3\xBC\xFF"},
             "a\0b,\xC3\xBC\xEF\xBF\xBD"s),
-};
+});
 
 INSTANTIATE_TEST_SUITE_P(UserGroup, PackTest, testing::ValuesIn(kPacks), RowName());
 
@@ -89,59 +75,48 @@ const Parse kList = MakeParse(NAMED(CBRMSModule::ParseGetUserGroupList));
 const Parse kGet = MakeParse(NAMED(CBRMSModule::ParseGetUserGroup));
 const Parse kAdd = MakeParse(NAMED(CBRMSModule::ParseAddUserGroup));
 
-std::vector<ParseRow> ParseRows()
-{
-    const Readings group{Text("id"), Text("groupName"), Text("memo")};
-    return Joined({
-        Variations(kList, {Records<UserConfigUserGroups>("results", group, kItself)},
-                   R"({"results": [{"id": "g1", "groupName": "Night shift", "memo": "guards"},
-                                   {"id": "g2", "groupName": "Day shift", "memo": ""}], "total": 2})"),
-        Variations(kGet, group, R"({"id": "g1", "groupName": "Night shift", "memo": "guards", "users": 3})"),
-        Variations(kAdd, {Text("id", kItself)}, R"({"id": "g1"})"),
-        {
-            Row("List_complete_reply_is_appended", kList,
-                R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"},
-                                {"id": "g2", "groupName": "n2", "memo": "m2"}]})",
-                R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", 0,
-                R"([{"id": "g0", "groupName": "n0", "memo": "m0"}, {"id": "g1", "groupName": "n1", "memo": "m1"},
-                    {"id": "g2", "groupName": "n2", "memo": "m2"}])"),
-            Row("List_second_element_without_memo_keeps_the_first", kList,
-                R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"}, {"id": "g2", "groupName": "n2"},
-                                {"id": "g3", "groupName": "n3", "memo": "m3"}]})",
-                "[]", -1, R"([{"id": "g1", "groupName": "n1", "memo": "m1"}])", {MissingKey("memo")}),
-            Row("List_without_results_leaves_the_list_unchanged", kList, R"({"pageData": []})",
-                R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", -1,
-                R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", {MissingKey("results")}),
-            Row("List_of_an_empty_object", kList, "{}", "[]", -1, "[]", {EmptyObject()}),
-            Row("List_empty_results_append_nothing", kList, R"({"results": []})",
-                R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", 0,
-                R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])"),
-            Row("List_element_that_is_not_an_object_is_read_as_an_empty_object", kList,
-                R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"}, "g2"]})", "[]", -1,
-                R"([{"id": "g1", "groupName": "n1", "memo": "m1"}])", {EmptyObject()}),
-            Row("Get_without_groupName_keeps_the_id_that_was_read", kGet, R"({"id": "g1", "memo": "m1"})",
-                R"({"id": "g0", "groupName": "n0", "memo": "m0"})", -1,
-                R"({"id": "g1", "groupName": "n0", "memo": "m0"})", {MissingKey("groupName")}),
-            Row("Get_converts_number_null_and_true", kGet, R"({"id": 12, "groupName": null, "memo": true})",
-                R"({"id": "g0", "groupName": "n0", "memo": "m0"})", 0,
-                R"({"id": "12", "groupName": "", "memo": "true"})"),
-            Row("Get_texts_with_zero_bytes_and_utf8", kGet,
-                R"({"id": "a\u0000b", "groupName": "\u00fc\u4e2d\ud83d\ude00", "memo": "\"%1\"\n"})",
-                R"({"id": "", "groupName": "", "memo": ""})", 0,
-                R"({"id": "a\u0000b", "groupName": "\u00fc\u4e2d\ud83d\ude00", "memo": "\"%1\"\n"})"),
-            Row("Add_without_id_leaves_the_text_unchanged", kAdd, R"({"groupId": "g1"})", R"("g0")", -1, R"("g0")",
-                {MissingKey("id")}),
-            Row("Add_of_a_number", kAdd, R"({"id": 7})", R"("g0")", 0, R"("7")"),
-        },
-    });
-}
+const Readings kGroup{Text("id"), Text("groupName"), Text("memo")};
 
-INSTANTIATE_TEST_SUITE_P(UserGroup, ParseTest, testing::ValuesIn(ParseRows()), RowName());
+const std::vector<ParseRow> kParses = Joined<ParseRow>({
+    Variations(kList, {Records<UserConfigUserGroups>("results", kGroup, kItself)},
+               R"({"results": [{"id": "g1", "groupName": "Night shift", "memo": "guards"},
+                               {"id": "g2", "groupName": "Day shift", "memo": ""}], "total": 2})"),
+    Variations(kGet, kGroup, R"({"id": "g1", "groupName": "Night shift", "memo": "guards", "users": 3})"),
+    Variations(kAdd, {Text("id", kItself)}, R"({"id": "g1"})"),
+    Row("List_complete_reply_is_appended", kList, R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"},
+                                                                  {"id": "g2", "groupName": "n2", "memo": "m2"}]})",
+        R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])",
+        R"([{"id": "g1", "groupName": "n1", "memo": "m1"}, {"id": "g2", "groupName": "n2", "memo": "m2"}])"),
+    Row("List_second_element_without_memo_keeps_the_first", kList,
+        R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"}, {"id": "g2", "groupName": "n2"},
+                        {"id": "g3", "groupName": "n3", "memo": "m3"}]})",
+        "[]", R"([{"id": "g1", "groupName": "n1", "memo": "m1"}])", MissingKey("memo")),
+    Row("List_without_results_leaves_the_list_unchanged", kList, R"({"pageData": []})",
+        R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", "[]", MissingKey("results")),
+    Row("List_of_an_empty_object", kList, "{}", "[]", "[]", EmptyObject()),
+    Row("List_empty_results_append_nothing", kList, R"({"results": []})",
+        R"([{"id": "g0", "groupName": "n0", "memo": "m0"}])", "[]"),
+    Row("List_element_that_is_not_an_object_is_read_as_an_empty_object", kList,
+        R"({"results": [{"id": "g1", "groupName": "n1", "memo": "m1"}, "g2"]})", "[]",
+        R"([{"id": "g1", "groupName": "n1", "memo": "m1"}])", EmptyObject()),
+    Row("Get_without_groupName_keeps_the_id_that_was_read", kGet, R"({"id": "g1", "memo": "m1"})",
+        R"({"id": "g0", "groupName": "n0", "memo": "m0"})", R"({"id": "g1"})", MissingKey("groupName")),
+    Row("Get_converts_number_null_and_true", kGet, R"({"id": 12, "groupName": null, "memo": true})",
+        R"({"id": "g0", "groupName": "n0", "memo": "m0"})", R"({"id": "12", "groupName": "", "memo": "true"})"),
+    Row("Get_texts_with_zero_bytes_and_utf8", kGet,
+        R"({"id": "a\u0000b", "groupName": "\u00fc\u4e2d\ud83d\ude00", "memo": "\"%1\"\n"})", "{}",
+        R"({"id": "a\u0000b", "groupName": "\u00fc\u4e2d\ud83d\ude00", "memo": "\"%1\"\n"})"),
+    Row("Add_without_id_leaves_the_text_unchanged", kAdd, R"({"groupId": "g1"})", R"("g0")", R"("g0")",
+        MissingKey("id")),
+    Row("Add_of_a_number", kAdd, R"({"id": 7})", R"("g0")", R"("7")"),
+});
+
+INSTANTIATE_TEST_SUITE_P(UserGroup, ParseTest, testing::ValuesIn(kParses), RowName());
 
 const RecordRow kRecords[] = {
-    FieldsOf<UserConfigUserGroups>("UserConfigUserGroups", "id groupName memo"),
-    FieldsOf<AddUserGroupsParam>("AddUserGroupsParam", "groupName memo"),
-    FieldsOf<MoveUserGroupsParam>("MoveUserGroupsParam", "groupId userIds"),
+    FieldsOf<UserConfigUserGroups>("id groupName memo"),
+    FieldsOf<AddUserGroupsParam>("groupName memo"),
+    FieldsOf<MoveUserGroupsParam>("groupId userIds"),
 };
 
 INSTANTIATE_TEST_SUITE_P(UserGroup, RecordTest, testing::ValuesIn(kRecords), RowName());

@@ -102,6 +102,31 @@ public:
     }
 };
 
+/// Rows of a Pack that sends a text in its URL, followed by @p after.
+template <typename Text>
+std::vector<PackRow> TextRows(const std::string& name, const UrlPack<Text>& pack, const std::string& after = {})
+{
+    using namespace std::string_literals;
+    struct {
+        const char* name;
+        std::string text;
+        std::string inUrl;
+    } const texts[] = {
+        {"", "1000001$1$0$0", "1000001$1$0$0"},
+        {"_empty", "", ""},
+        {"_is_not_escaped", R"(a b/c?d&e#f"g"+%20)", R"(a b/c?d&e#f"g"+%20)"},
+        {"_with_marker_is_kept", "%1%2b", "%1%2b"},
+        {"_is_utf8", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80", "\xC3\xBC\xE4\xB8\xAD\xF0\x9F\x98\x80"},
+        {"_of_invalid_utf8_is_replaced", "a\xFF", "a\xEF\xBF\xBD"},
+        {"_continues_after_a_zero_byte", "a\0b"s, "a\0b"s},
+    };
+    std::vector<PackRow> rows;
+    for (const auto& row : texts) {
+        rows.push_back(pack(name + row.name, {row.text}, row.inUrl + after));
+    }
+    return rows;
+}
+
 /// Rows consist of a name, the arguments and the body.
 template <typename... Parameters>
 class BodyPack : public PackRowFactory<Parameters...> {

@@ -1,6 +1,5 @@
 #include "Family.h"
 
-#include "Json.h"
 #include "support/UserManager.h"
 
 #include <RequestParamFields.h>
@@ -13,6 +12,7 @@
 
 namespace family_testing {
 
+using testing_support::LogLine;
 using testing_support::LogLines;
 using testing_support::LogRecorder;
 
@@ -187,6 +187,13 @@ TEST_P(RecordTest, DeclaresItsFieldsInTheOrderOfTheInterface)
     EXPECT_EQ(Names(inMemory), GetParam().fields);
 }
 
+TEST_P(RecordTest, IsInitiallyEmptyExceptForTheListedValues)
+{
+    for (const auto& [field, value] : GetParam().fresh.items()) {
+        EXPECT_EQ(value, GetParam().initial.value(field, Json(value.type()))) << field;
+    }
+}
+
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RecordTest);
 
 TEST_P(PackTest, DescribesTheRequest)
@@ -206,10 +213,12 @@ TEST_P(PackTest, FailsForAnUnknownServer)
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(PackTest);
 
-ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
-             const char* record, const LogLines& lines)
+ParseRow Row(const std::string& name, const Parse& parse, const std::string& reply, const std::string& start,
+             const std::string& added, const std::optional<LogLine>& line)
 {
-    return {name, parse, JsonObject(reply), Json::parse(start), result, Json::parse(record), lines};
+    const Json before = parse.add(parse.fresh, Json::parse(start));
+    const Json after = parse.add(before, Json::parse(added));
+    return {name, parse, JsonObject(reply), before, line ? -1 : 0, after, line ? LogLines{*line} : LogLines()};
 }
 
 TEST_P(ParseTest, ReadsTheReply)

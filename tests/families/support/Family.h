@@ -8,6 +8,8 @@
 
 #include <APIModule.h>
 
+#include <boost/type_index.hpp>
+
 #include <QJsonObject>
 
 #include <gtest/gtest.h>
@@ -15,6 +17,7 @@
 #include <functional>
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,18 +45,21 @@ struct RecordRow {
     std::string name;
     std::string fields;
     Fields described;  ///< in the order of the description
+    Json fresh;        ///< a default-constructed record
+    Json initial;      ///< its values that are not empty, zero or false
 };
 
 template <typename T>
-RecordRow FieldsOf(const std::string& name, const std::string& fields)
+RecordRow FieldsOf(const std::string& fields, const Json& initial = Json::object())
 {
     static const auto pRecord = std::make_unique<T>();
-    RecordRow row{name, fields, {}};
+    const std::string type = boost::typeindex::type_id<T>().pretty_name();
+    RecordRow row{type.substr(type.rfind(':') + 1), fields, {}, ToJson(*pRecord), initial};
     ForEachField<T>([&row](auto field) { row.described.emplace_back(&((*pRecord).*field.pointer), field.name); });
     return row;
 }
 
-/// Compares the fields with the description and with their order in the record.
+/// Compares the fields with the description and with their order in the record, and checks their initial values.
 class RecordTest : public testing::TestWithParam<RecordRow> {};
 
 /// One call of a Pack with the expected request.
@@ -80,6 +86,7 @@ struct Parse {
     std::string call;                                   ///< such as "CBRMSModule::ParseGetTimeSyncConfig"
     Json fresh;                                         ///< a default-constructed record
     Json filled;                                        ///< the record with other values in every field
+    std::function<Json(const Json&, const Json&)> add;  ///< the record with more fields and elements
     std::function<int(const QJsonObject&, Json&)> run;  ///< reads a reply into the given record
 };
 
@@ -89,14 +96,24 @@ Parse MakeParse(const std::string& call, int (*parse)(const QJsonObject&, Record
 {
     Record filled{};
     Fill(filled);
-    return {call, ToJson(Record{}), ToJson(filled), [parse](const QJsonObject& reply, Json& json) {
-                Record record{};
-                FromJson(json, record);
-                const int nResult = parse(reply, record);
-                json = ToJson(record);
-                return nResult;
-            }};
+    const auto add = [](const Json& json, const Json& added) {
+        Record record{};
+        FromJson(json, record);
+        FromJson(added, record);
+        return ToJson(record);
+    };
+    const auto run = [parse](const QJsonObject& reply, Json& json) {
+        Record record{};
+        FromJson(json, record);
+        const int nResult = parse(reply, record);
+        json = ToJson(record);
+        return nResult;
+    };
+    return {call, ToJson(Record{}), ToJson(filled), add, run};
 }
+
+/// Parses a JSON object from a constant text.
+QJsonObject JsonObject(const std::string& text);
 
 /// One call of a Parse with the expected record.
 struct ParseRow {
@@ -114,9 +131,11 @@ std::ostream& operator<<(std::ostream& stream, const ParseRow& row);
 /// Runs the Parse and compares the result, the record and the log lines.
 class ParseTest : public testing::TestWithParam<ParseRow> {};
 
-/// A row written by hand: reply and records are JSON texts.
-ParseRow Row(const std::string& name, const Parse& parse, const char* reply, const char* start, int result,
-             const char* record, const testing_support::LogLines& lines = {});
+/// A row written by hand, of JSON texts. The record before the call omits fields with their default value; @p added
+/// holds the fields that the call changes and the elements that it appends to lists. The call fails if a line is
+/// expected.
+ParseRow Row(const std::string& name, const Parse& parse, const std::string& reply, const std::string& start,
+             const std::string& added, const std::optional<testing_support::LogLine>& line = {});
 
 /// Rows for a complete reply and for variations of it: a key, two keys or an element removed, a value replaced, a list
 /// or an object emptied; each with a fresh and with a filled record. The expected outcome follows from @p readings.
@@ -124,7 +143,22 @@ ParseRow Row(const std::string& name, const Parse& parse, const char* reply, con
 /// except lists inside the second and later elements of a list.
 std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, const char* completeReply);
 
-/// Several lists of rows as one.
-std::vector<ParseRow> Joined(const std::vector<std::vector<ParseRow>>& lists);
+/// A row or several.
+template <typename T>
+struct RowList : std::vector<T> {
+    RowList(const T& row) : std::vector<T>{row} {}
+    RowList(const std::vector<T>& rows) : std::vector<T>(rows) {}
+};
+
+/// Rows and lists of rows as one list.
+template <typename T>
+std::vector<T> Joined(const std::vector<RowList<T>>& lists)
+{
+    std::vector<T> rows;
+    for (const RowList<T>& list : lists) {
+        rows.insert(rows.end(), list.begin(), list.end());
+    }
+    return rows;
+}
 
 }  // namespace family_testing

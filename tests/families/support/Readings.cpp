@@ -11,11 +11,6 @@ namespace family_testing {
 
 namespace {
 
-Reading Single(Reading::Type type, const std::string& key, const FieldName& field)
-{
-    return {type, key, field.value_or(key)};
-}
-
 /// Reads one reply into one record; nested readers handle inner objects and elements.
 class Reader {
 public:
@@ -94,51 +89,6 @@ private:
 };
 
 }  // namespace
-
-Reading Int(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::Int, key, field);
-}
-
-Reading Int64(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::Int64, key, field);
-}
-
-Reading Double(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::Double, key, field);
-}
-
-Reading Bool(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::Bool, key, field);
-}
-
-Reading Text(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::Text, key, field);
-}
-
-Reading Texts(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::Texts, key, field);
-}
-
-Reading NumbersOfTexts(const std::string& key, const FieldName& field)
-{
-    return Single(Reading::NumbersOfTexts, key, field);
-}
-
-Reading Found(const std::string& key)
-{
-    return Single(Reading::Found, key, kItself);
-}
-
-Reading Object(const std::string& key, const Readings& inner)
-{
-    return {Reading::Object, key, kItself, inner};
-}
 
 int ReadReference(const QJsonObject& reply, const Readings& readings, Json& record, testing_support::LogLines& lines)
 {

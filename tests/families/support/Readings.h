@@ -44,23 +44,38 @@ inline const std::string kItself;
 
 using FieldName = std::optional<std::string>;
 
-Reading Int(const std::string& key, const FieldName& field = {});
-Reading Int64(const std::string& key, const FieldName& field = {});
-Reading Double(const std::string& key, const FieldName& field = {});
-Reading Bool(const std::string& key, const FieldName& field = {});
-Reading Text(const std::string& key, const FieldName& field = {});
+/// Makes the step that reads a value of one type.
+struct Single {
+    Reading::Type type;
 
+    Reading operator()(const std::string& key, const FieldName& field = {}) const
+    {
+        return {type, key, field.value_or(key)};
+    }
+};
+
+inline constexpr Single Int{Reading::Int};
+inline constexpr Single Int64{Reading::Int64};
+inline constexpr Single Double{Reading::Double};
+inline constexpr Single Bool{Reading::Bool};
+inline constexpr Single Text{Reading::Text};
 /// An array of texts; an element that is not a text is read as an empty one.
-Reading Texts(const std::string& key, const FieldName& field = {});
+inline constexpr Single Texts{Reading::Texts};
 /// An array of decimal texts; any other element is read as 0.
-Reading NumbersOfTexts(const std::string& key, const FieldName& field = {});
+inline constexpr Single NumbersOfTexts{Reading::NumbersOfTexts};
 
 /// Only checks that the key exists; a later step reads it. For example, Found("totalCount"), Found("pageData"),
 /// Int("totalCount"), Records(..., "pageData", ...) stores a count only if its page exists.
-Reading Found(const std::string& key);
+inline Reading Found(const std::string& key)
+{
+    return {Reading::Found, key};
+}
 
 /// The steps of an inner object, which fill the same record. An empty object fills nothing.
-Reading Object(const std::string& key, const Readings& inner);
+inline Reading Object(const std::string& key, const Readings& inner)
+{
+    return {Reading::Object, key, kItself, inner};
+}
 
 /// An array of objects. The inner steps read each into a new Element, which is appended if it is complete.
 template <typename Element>

@@ -8,6 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <stdexcept>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -51,11 +52,21 @@ Json ToJson(const T& value)
     }
 }
 
+/// Sets the fields that the JSON lists, and appends to lists.
 template <typename T>
 void FromJson(const Json& json, T& value)
 {
     if constexpr (IsRecord<T>) {
-        ForEachField<T>([&](auto field) { FromJson(json.at(field.name), value.*field.pointer); });
+        std::size_t nFields = 0;
+        ForEachField<T>([&](auto field) {
+            if (json.contains(field.name)) {
+                FromJson(json.at(field.name), value.*field.pointer);
+                ++nFields;
+            }
+        });
+        if (nFields != json.size()) {
+            throw std::logic_error("no such field: " + json.dump());
+        }
     } else if constexpr (IsVector<T>) {
         for (const Json& element : json) {
             FromJson(element, value.emplace_back());

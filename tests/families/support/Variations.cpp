@@ -1,5 +1,4 @@
 #include "Family.h"
-#include "Json.h"
 #include "RandomReplies.h"
 
 #include <QJsonArray>
@@ -137,15 +136,6 @@ std::vector<ParseRow> Variations(const Parse& parse, const Readings& readings, c
         }
     }
     return rows;
-}
-
-std::vector<ParseRow> Joined(const std::vector<std::vector<ParseRow>>& lists)
-{
-    std::vector<ParseRow> joined;
-    for (const std::vector<ParseRow>& list : lists) {
-        joined.insert(joined.end(), list.begin(), list.end());
-    }
-    return joined;
 }
 
 }  // namespace family_testing
