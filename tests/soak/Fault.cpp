@@ -15,95 +15,58 @@ constexpr std::array kStatuses = {201, 204, 301, 302, 304, 307, 400, 403, 404, 4
 constexpr std::array kCodes = {-7, 0, 1, 999, 1001, 1005, 2001, 2147483647};
 
 struct Kind {
-    const char* name;
     double weight;  ///< relative frequency
     bool onlyReading;
-    Fault (*make)(Random& random);
+    Fault fault;
+    void (*draw)(Random& random, Fault& fault) = nullptr;  ///< completes the fault
 };
 
-Fault Delayed(Random& random)
+void DrawDelay(Random& random, Fault& fault)
 {
     constexpr int kLongest = 15;
-    return {"delay", {{"kind", "delay"}, {"delayMs", std::uniform_int_distribution(0, kLongest)(random)}}};
+    fault.control["delayMs"] = std::uniform_int_distribution(0, kLongest)(random);
 }
 
-Fault Status(Random& random)
+void DrawStatus(Random& random, Fault& fault)
 {
-    const int status = OneOf(random, kStatuses);
-    return {"status", {{"kind", "status"}, {"status", status}}, Ending::NotifiedOnRequest, status};
+    fault.code = OneOf(random, kStatuses);
+    fault.control["status"] = fault.code;
 }
 
-Fault Envelope(Random& random)
+void DrawCode(Random& random, Fault& fault)
 {
-    const int code = OneOf(random, kCodes);
-    return {"envelope", {{"kind", "envelope"}, {"code", code}, {"desc", "refused"}}, Ending::NotifiedOnRequest, code};
+    fault.code = OneOf(random, kCodes);
+    fault.control["code"] = fault.code;
 }
 
-// A time-out takes a second, so these are rare.
-constexpr std::array kKinds = {
-    Kind{"none", 70, false,
-         [](Random&) {
-             return Fault{"none", {}};
-         }},
-    Kind{"delay", 3, false, &Delayed}, Kind{"status", 6, false, &Status},
-    Kind{"unauthorised", 1, false,
-         [](Random&) {
-             return Fault{"unauthorised", {{"kind", "status"}, {"status", 401}}, Ending::AlwaysNotified, kUnauthorised};
-         }},
-    Kind{"envelope", 6, false, &Envelope},
-    Kind{"empty", 2, false,
-         [](Random&) {
-             return Fault{"empty", {{"kind", "empty"}}, Ending::NotifiedOnRequest, kUnusable};
-         }},
-    Kind{"cut", 2, false,
-         [](Random&) {
-             return Fault{"cut", {{"kind", "cut"}}, Ending::NotifiedOnRequest, kUnusable};
-         }},
-    Kind{"notJson", 2, false,
-         [](Random&) {
-             return Fault{"notJson", {{"kind", "notJson"}}, Ending::NotifiedOnRequest, kUnusable};
-         }},
-    Kind{"array", 2, false,
-         [](Random&) {
-             return Fault{"array", {{"kind", "text"}, {"body", "[{\"code\": 1000}]"}}, Ending::NotifiedOnRequest, 0};
-         }},
-    Kind{"large", 1, false,
-         [](Random&) {
-             return Fault{"large", {{"kind", "large"}, {"size", 200'000}}};
-         }},
-    Kind{"slow", 0.5, false,
-         [](Random&) {
-             return Fault{"slow", {{"kind", "slow"}, {"bytesPerSecond", 50'000}}};
-         }},
-    // Qt repeats a request whose connection closed, so these faults apply until they are cleared.
-    Kind{
-        "closeBefore", 1.5, false,
-        [](Random&) {
-            return Fault{"closeBefore", {{"kind", "closeBefore"}, {"times", 0}}, Ending::AlwaysNotified, kNetworkError};
-        }},
-    Kind{
-        "closeMiddle", 1.5, false,
-        [](Random&) {
-            return Fault{"closeMiddle", {{"kind", "closeMiddle"}, {"times", 0}}, Ending::AlwaysNotified, kNetworkError};
-        }},
-    Kind{"silent", 0.05, false,
-         [](Random&) {
-             return Fault{"silent", {{"kind", "silent"}, {"times", 0}}, Ending::AlwaysNotified, kTimedOut, 1};
-         }},
-    Kind{"noTime", 1, true,
-         [](Random&) {
-             return Fault{"noTime",
-                          {{"kind", "delay"}, {"delayMs", 1000}, {"times", 0}},
-                          Ending::AlwaysNotified,
-                          kTimedOut,
-                          0,
-                          false,
-                          true};
-         }},
-    Kind{"parentDies", 0.5, true, [](Random&) {
-             return Fault{"parentDies", {{"kind", "silent"}, {"times", 0}}, Ending::AlwaysNotified, kTimedOut, {}, true,
-                          true};
-         }}};
+// A time-out takes a second, so these are rare. Qt repeats a request whose connection closed, so faults with 0 times
+// apply until they are cleared.
+const std::vector<Kind> kKinds = {
+    {70, false, {"none", {}}},
+    {3, false, {"delay", {{"kind", "delay"}}}, &DrawDelay},
+    {6, false, {"status", {{"kind", "status"}}, Ending::NotifiedOnRequest}, &DrawStatus},
+    {1, false, {"unauthorised", {{"kind", "status"}, {"status", 401}}, Ending::AlwaysNotified, kUnauthorised}},
+    {6, false, {"envelope", {{"kind", "envelope"}, {"desc", "refused"}}, Ending::NotifiedOnRequest}, &DrawCode},
+    {2, false, {"empty", {{"kind", "empty"}}, Ending::NotifiedOnRequest, kUnusable}},
+    {2, false, {"cut", {{"kind", "cut"}}, Ending::NotifiedOnRequest, kUnusable}},
+    {2, false, {"notJson", {{"kind", "notJson"}}, Ending::NotifiedOnRequest, kUnusable}},
+    {2, false, {"array", {{"kind", "text"}, {"body", "[{\"code\": 1000}]"}}, Ending::NotifiedOnRequest, 0}},
+    {1, false, {"large", {{"kind", "large"}, {"size", 200'000}}}},
+    {0.5, false, {"slow", {{"kind", "slow"}, {"bytesPerSecond", 50'000}}}},
+    {1.5, false, {"closeBefore", {{"kind", "closeBefore"}, {"times", 0}}, Ending::AlwaysNotified, kNetworkError}},
+    {1.5, false, {"closeMiddle", {{"kind", "closeMiddle"}, {"times", 0}}, Ending::AlwaysNotified, kNetworkError}},
+    {0.05, false, {"silent", {{"kind", "silent"}, {"times", 0}}, Ending::AlwaysNotified, kTimedOut, 1}},
+    {1,
+     true,
+     {"noTime",
+      {{"kind", "delay"}, {"delayMs", 1000}, {"times", 0}},
+      Ending::AlwaysNotified,
+      kTimedOut,
+      0,
+      false,
+      true}},
+    {0.5, true, {"parentDies", {{"kind", "silent"}, {"times", 0}}, Ending::AlwaysNotified, kTimedOut, {}, true, true}},
+};
 
 }  // namespace
 
@@ -114,7 +77,12 @@ Fault DrawFault(Random& random, bool onlyReads)
     for (const Kind& kind : kKinds) {
         weights.push_back(kind.onlyReading && !onlyReads ? 0 : kind.weight);
     }
-    return kKinds.at(std::discrete_distribution<std::size_t>(weights.begin(), weights.end())(random)).make(random);
+    const Kind& kind = kKinds.at(std::discrete_distribution<std::size_t>(weights.begin(), weights.end())(random));
+    Fault fault = kind.fault;
+    if (kind.draw) {
+        kind.draw(random, fault);
+    }
+    return fault;
 }
 
 std::vector<std::string> FaultNames()
@@ -122,7 +90,7 @@ std::vector<std::string> FaultNames()
     std::vector<std::string> names;
     names.reserve(kKinds.size());
     for (const Kind& kind : kKinds) {
-        names.emplace_back(kind.name);
+        names.push_back(kind.fault.name);
     }
     return names;
 }
