@@ -1,8 +1,9 @@
 // Connections that fail, and servers with invalid certificates or old versions of TLS.
-#include "Descriptor.h"
 #include "FaultMatrix.h"
 
+#include <QHostAddress>
 #include <QSslSocket>
+#include <QTcpSocket>
 
 using namespace testing_support;
 
@@ -10,8 +11,9 @@ namespace {
 
 FaultSetup Refuses(RawServer::Scheme scheme)
 {
-    const auto bound = std::make_shared<Descriptor>(BoundToLoopback());
-    FaultSetup setup = BesideHealthy(scheme, PortOf(*bound));
+    const auto bound = std::make_shared<QTcpSocket>();  // does not listen
+    EXPECT_TRUE(bound->bind(QHostAddress::LocalHost, 0, QAbstractSocket::DontShareAddress));
+    FaultSetup setup = BesideHealthy(scheme, bound->localPort());
     setup.other = bound;
     return setup;
 }

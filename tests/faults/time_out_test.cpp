@@ -1,10 +1,6 @@
 // Servers that keep a call waiting until its time-out.
-#include "Descriptor.h"
 #include "FaultMatrix.h"
-
-#include <cerrno>
-#include <netinet/in.h>
-#include <sys/socket.h>
+#include "SilentListener.h"
 
 using namespace testing_support;
 
@@ -35,28 +31,9 @@ FaultSetup AcceptsDataAndStaysSilent(RawServer::Scheme scheme)
     return setup;
 }
 
-/// A listener that never accepts and whose queue is full.
-class FullListener {
-public:
-    FullListener() : m_listener(BoundToLoopback())
-    {
-        EXPECT_EQ(listen(m_listener.Number(), 0), 0);
-        for (Descriptor& waiting : m_queue) {
-            const sockaddr_in address = AddressOf(m_listener);
-            const int nResult = connect(waiting.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof(address));
-            EXPECT_TRUE(nResult == 0 || errno == EINPROGRESS);
-        }
-    }
-    int Port() const { return PortOf(m_listener); }
-
-private:
-    Descriptor m_listener;
-    Descriptor m_queue[4];
-};
-
 FaultSetup NeverAccepts(RawServer::Scheme scheme)
 {
-    const auto listener = std::make_shared<FullListener>();
+    const auto listener = std::make_shared<SilentListener>();
     FaultSetup setup = BesideHealthy(scheme, listener->Port());
     setup.other = listener;
     return setup;

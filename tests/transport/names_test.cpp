@@ -1,4 +1,5 @@
 // Calls to servers by name: names with addresses of one family, of both, of none, and names that resolve late.
+#include "faults/SilentListener.h"
 #include "TransportHost.h"
 
 #include <QTcpServer>
@@ -6,7 +7,6 @@
 
 #include <dlfcn.h>
 #include <netdb.h>
-#include <sys/socket.h>
 
 #include <atomic>
 #include <chrono>
@@ -92,32 +92,6 @@ public:
 
     int connections = 0;
     int requests = 0;
-};
-
-/// Accepts no connection: clients that connect wait.
-class SilentListener {
-public:
-    SilentListener()
-    {
-        EXPECT_TRUE(m_listener.listen(QHostAddress(QHostAddress::LocalHost)));
-        m_listener.pauseAccepting();
-        EXPECT_EQ(listen(int(m_listener.socketDescriptor()), 0), 0);
-        constexpr int kMostConnections = 32;
-        for (int i = 0; i < kMostConnections; ++i) {
-            QTcpSocket& socket = *m_queued.emplace_back(std::make_unique<QTcpSocket>());
-            socket.connectToHost(QHostAddress(QHostAddress::LocalHost), m_listener.serverPort());
-            constexpr int kLongest = 200;
-            if (!socket.waitForConnected(kLongest)) {
-                return;
-            }
-        }
-        ADD_FAILURE() << "the queue of the listener never fills";
-    }
-    int Port() const { return m_listener.serverPort(); }
-
-private:
-    QTcpServer m_listener;
-    std::vector<std::unique_ptr<QTcpSocket>> m_queued;
 };
 
 class NamesTest : public TransportHost {
