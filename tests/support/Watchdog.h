@@ -1,11 +1,8 @@
 #pragma once
 
-#include <chrono>
-#include <condition_variable>
-#include <cstdio>
+#include <csignal>
 #include <cstdlib>
-#include <mutex>
-#include <thread>
+#include <unistd.h>
 
 namespace testing_support {
 
@@ -14,31 +11,17 @@ class Watchdog {
 public:
     Watchdog()
     {
-        m_thread = std::thread([this] {
-            std::unique_lock<std::mutex> lock(m_mutex);
-            if (!m_done.wait_for(lock, std::chrono::seconds(120), [this] { return m_bDone; })) {
-                std::fputs("A wait did not end.\n", stderr);
-                std::abort();
-            }
+        std::signal(SIGALRM, [](int) {
+            constexpr char kText[] = "A wait did not end.\n";
+            (void)!write(STDERR_FILENO, kText, sizeof(kText) - 1);
+            std::abort();
         });
+        constexpr unsigned kSeconds = 120;
+        alarm(kSeconds);
     }
-    ~Watchdog()
-    {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_bDone = true;
-        }
-        m_done.notify_one();
-        m_thread.join();
-    }
+    ~Watchdog() { alarm(0); }
     Watchdog(const Watchdog&) = delete;
     Watchdog& operator=(const Watchdog&) = delete;
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_done;
-    bool m_bDone = false;
-    std::thread m_thread;
 };
 
 }  // namespace testing_support
