@@ -9,7 +9,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QKeyEvent>
+#include <QTest>
 #include <QTimer>
 
 using namespace testing_support;
@@ -100,11 +100,7 @@ struct Ending {
 class EndedClientDialogTest : public ClientDialogTest, public testing::WithParamInterface<Ending> {};
 
 const Ending kEndings[] = {
-    {"escape",
-     [](QWidget& dialog) {
-         QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-         QApplication::sendEvent(&dialog, &press);
-     }},
+    {"escape", [](QWidget& dialog) { QTest::keyPress(&dialog, Qt::Key_Escape); }},
     {"accept", [](QWidget& dialog) { static_cast<QDialog&>(dialog).accept(); }},
     {"close", [](QWidget& dialog) { dialog.close(); }},
     {"hide", [](QWidget& dialog) { dialog.hide(); }},

@@ -88,9 +88,7 @@ class FailureNotice : public Host, public testing::WithParamInterface<Notice> {}
 TEST_P(FailureNotice, ShowsTheExpectedText)
 {
     const Notice& row = GetParam();
-    RawServer server(
-        [&](const RawRequest&) { return HttpReply(200, "{\"code\":" + QByteArray::number(row.code) + "}"); });
-    Use(server);
+    Serve(HttpReply(200, "{\"code\":" + QByteArray::number(row.code) + "}"));
     HostCall call;
     call.uiError = QString::fromUtf8(row.uiError);
     call.showErrorCode = row.showErrorCode;

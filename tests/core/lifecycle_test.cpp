@@ -1,5 +1,6 @@
 // The library and the lifetime of the application object. Each test runs in a separate process.
 #include "support/Host.h"
+#include "support/Rows.h"
 #include "support/TestApplication.h"
 #include "support/Waiting.h"
 
@@ -188,8 +189,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Waits, EndTest, testing::Values(InLoop, BehindDialog),
-                         [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
+INSTANTIATE_TEST_SUITE_P(Waits, EndTest, testing::Values(InLoop, BehindDialog), RowName());
 
 TEST_P(EndTest, QuitEndsTheWaitAndCallsUntilExecReturns)
 {

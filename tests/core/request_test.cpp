@@ -170,8 +170,7 @@ TEST_F(Request, SecondInitIsIgnoredUntilUnInit)
 
 TEST_F(Request, MethodIsAMetaType)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
-    Use(server);
+    Serve(HttpReply(200, R"({"code":1000})"));
     EXPECT_EQ(Execute({}), 0);
     const int type = qMetaTypeId<APIModule::Method>();
 #if QT_VERSION_MAJOR == 5
@@ -203,8 +202,7 @@ class WireTest : public Request, public testing::WithParamInterface<std::tuple<W
 TEST_P(WireTest, ArrivesAsExpected)
 {
     const auto& [row, scheme] = GetParam();
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); }, scheme);
-    Use(server, scheme);
+    RawServer& server = Serve(HttpReply(200, R"({"code":1000})"), scheme);
     HostCall call;
     call.method = row.method;
     call.url = QString::fromUtf8(row.url);
@@ -236,15 +234,11 @@ const WireRow kWireRows[] = {
 INSTANTIATE_TEST_SUITE_P(Requests, WireTest,
                          testing::Combine(testing::ValuesIn(kWireRows),
                                           testing::Values(RawServer::Http, RawServer::Https)),
-                         [](const auto& row) {
-                             return std::string(std::get<0>(row.param).name) +
-                                    (std::get<1>(row.param) == RawServer::Http ? "_http" : "_https");
-                         });
+                         RowName());
 
 TEST_F(Request, SendsItsHeaders)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
-    Use(server);
+    RawServer& server = Serve(HttpReply(200, R"({"code":1000})"));
     HostCall call;
     EXPECT_EQ(Execute(call), 0);
     RawRequest plain = server.TakeRequests().at(0);
@@ -317,8 +311,7 @@ INSTANTIATE_TEST_SUITE_P(Urls, InvalidUrlTest, testing::ValuesIn(kInvalidUrls), 
 
 TEST_F(Request, Ipv6HostIsAcceptedInBrackets)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
-    Use(server);
+    const RawServer& server = Serve(HttpReply(200, R"({"code":1000})"));
     users.servers[1].host = "[::1]";
     EXPECT_EQ(Execute({}), -1) << "the URL is valid, but no server listens on ::1";
     EXPECT_EQ(logs.Take().at(0).message, "ExecuteRequest url=http://[::1]:" + std::to_string(server.Port()) + "/path");
@@ -336,8 +329,7 @@ class MaskTest : public Request, public testing::WithParamInterface<MaskedUrl> {
 TEST_P(MaskTest, HidesTenCharacters)
 {
     const MaskedUrl& row = GetParam();
-    RawServer server([](const RawRequest&) { return HttpReply(500, ""); });
-    Use(server);
+    const RawServer& server = Serve(HttpReply(500, ""));
     HostCall call;
     call.url = QString::fromUtf8(row.url);
     call.notifyOnFailure = false;

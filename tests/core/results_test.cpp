@@ -72,9 +72,7 @@ class EnvelopeTest : public Results,
 TEST_P(EnvelopeTest, DeterminesTheOutcome)
 {
     const auto& [row, waiting, scheme] = GetParam();
-    const char* const body = row.body;
-    RawServer server([body](const RawRequest&) { return HttpReply(200, body); }, scheme);
-    Use(server, scheme);
+    Serve(HttpReply(200, row.body), scheme);
     const QString schemeName = scheme == RawServer::Http ? QStringLiteral("http") : QStringLiteral("https");
     const LogLine end{kFacadeFile, FunctionOf(waiting), 4, "Request success."};
 
@@ -123,19 +121,12 @@ const EnvelopeRow kEnvelopes[] = {
 INSTANTIATE_TEST_SUITE_P(Envelopes, EnvelopeTest,
                          testing::Combine(testing::ValuesIn(kEnvelopes), testing::Values(InLoop, BehindDialog),
                                           testing::Values(RawServer::Http, RawServer::Https)),
-                         [](const auto& row) {
-                             return std::string(std::get<0>(row.param).name) +
-                                    (std::get<1>(row.param) == InLoop ? "_loop" : "_dialog") +
-                                    (std::get<2>(row.param) == RawServer::Http ? "_http" : "_https");
-                         });
+                         RowName());
 
 /// Qt's error text may contain the URL, depending on when Qt notices the end of the connection.
 TEST_F(Results, NetworkErrorLineHasNoUrl)
 {
-    RawServer server([](const RawRequest&) {
-        return RawReply{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawReply::Close};
-    });
-    Use(server);
+    Serve(RawReply{"HTTP/1.1 404 Reason\r\nContent-Length: 1000\r\n\r\n{", 0, RawReply::Close});
     HostCall call = Call(InLoop, false);
     call.url = QStringLiteral("/path?token=0123456789secret");
     EXPECT_EQ(Execute(call), -1);
@@ -146,8 +137,7 @@ TEST_F(Results, NetworkErrorLineHasNoUrl)
 
 TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":1}})"); });
-    Use(server);
+    Serve(HttpReply(200, R"({"code":1000,"data":{"a":1}})"));
     m_parseResult = 42;
     for (const bool bNotifyOnFailure : {false, true}) {
         EXPECT_EQ(Execute(Call(InLoop, bNotifyOnFailure)), 42);
@@ -157,8 +147,7 @@ TEST_F(Results, FailingParseIsNotifiedAndItsResultReturned)
 
 TEST_F(Results, SuccessTipIsNotShownWhenDataHaveNoParse)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":1}})"); });
-    Use(server);
+    Serve(HttpReply(200, R"({"code":1000,"data":{"a":1}})"));
     HostCall call = Call(InLoop, true);
     call.parse.clear();
     EXPECT_EQ(Execute(call), 0);
@@ -167,8 +156,7 @@ TEST_F(Results, SuccessTipIsNotShownWhenDataHaveNoParse)
 
 TEST_F(Results, EmptyTipIsNotShown)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
-    Use(server);
+    Serve(HttpReply(200, R"({"code":1000})"));
     HostCall call = Call(InLoop, true);
     call.successTip.clear();
     EXPECT_EQ(Execute(call), 0);
@@ -186,8 +174,7 @@ TEST_F(Results, EmptyPackFails)
 
 TEST_F(Results, FailingPackIsNotNotified)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, "{}"); });
-    Use(server);
+    RawServer& server = Serve(HttpReply(200, "{}"));
     HostCall call = Call(InLoop, true);
     call.url.clear();
     EXPECT_EQ(Execute(call), -1);
@@ -224,8 +211,7 @@ TEST_F(Results, ThrowingPackIsNotNotified)
 
 TEST_F(Results, ThrowingParseFails)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":1}})"); });
-    Use(server);
+    Serve(HttpReply(200, R"({"code":1000,"data":{"a":1}})"));
     for (const bool bStandard : {true, false}) {
         HostCall call = Call(InLoop, false);
         call.parse = [bStandard](const QJsonObject&) -> int {
@@ -259,13 +245,12 @@ class ReleaseTest : public Results, public testing::WithParamInterface<CallPath>
 TEST_P(ReleaseTest, CallablesAreReleasedWhenTheCallReturns)
 {
     const CallPath& path = GetParam();
-    RawServer server([](const RawRequest& request) {
+    Serve([](const RawRequest& request) {
         if (request.target == "/silent") {
             return RawReply{};
         }
         return request.target == "/path" ? HttpReply(200, R"({"code":1000,"data":{"a":1}})") : HttpReply(404, "");
     });
-    Use(server);
     const auto token = std::make_shared<int>();
     boost::function<int(void*)> pack = [token, path](void* pReqParamData) {
         const int nResult = path.pack();
@@ -315,8 +300,7 @@ TEST_F(Results, ParseIsReleasedWithoutAPack)
 
 TEST_F(Results, TextsOfServerAndCallerAreNotUsedAsFormats)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":2001,"desc":"%s%n %1"})"); });
-    Use(server);
+    const RawServer& server = Serve(HttpReply(200, R"({"code":2001,"desc":"%s%n %1"})"));
     HostCall call = Call(InLoop, true);
     call.uiError = QStringLiteral("%s%n %1");
     call.url = QStringLiteral("/%s%n/%1");
@@ -331,9 +315,7 @@ TEST_F(Results, TextsOfServerAndCallerAreNotUsedAsFormats)
 TEST_F(Results, ReplyOf20MegabytesIsReadCompletely)
 {
     const QByteArray text(20 * 1024 * 1024, 'x');
-    RawServer server(
-        [&](const RawRequest&) { return HttpReply(200, "{\"code\":1000,\"data\":{\"text\":\"" + text + "\"}}"); });
-    Use(server);
+    Serve(HttpReply(200, "{\"code\":1000,\"data\":{\"text\":\"" + text + "\"}}"));
     HostCall call = Call(InLoop, true);
     call.timeout = 60;
     EXPECT_EQ(Execute(call), 0);
@@ -342,8 +324,7 @@ TEST_F(Results, ReplyOf20MegabytesIsReadCompletely)
 
 TEST_F(Results, UnInitDuringACallSuppressesNotifications)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":2001})"); });
-    Use(server);
+    Serve(HttpReply(200, R"({"code":2001})"));
     HostCall call = Call(InLoop, true);
     CAPIModule& facade = CAPIModule::GetInstance();
     const auto pack = [&](void* pReqParamData) {

@@ -7,6 +7,7 @@
 #include <QCryptographicHash>
 #include <QEventLoop>
 #include <QPointer>
+#include <QTest>
 #include <QTimer>
 
 #include <stdexcept>
@@ -269,9 +270,7 @@ TEST_F(Trust, ReconnectionIsVerifiedAgain)
     const auto decide = [&](const PresentedServer&) { return ++nAsked == 1; };
     ExpectTrusted(server, DecidedBy(decide));
     // A write does not reuse a connection that has been idle for a while.
-    QEventLoop loop;
-    QTimer::singleShot(300, &loop, &QEventLoop::quit);
-    loop.exec();
+    QTest::qWait(300);
     HostCall write;
     write.method = APIModule::Method_Post;
     write.body = QStringLiteral("{}");
@@ -282,9 +281,8 @@ TEST_F(Trust, ReconnectionIsVerifiedAgain)
 
 TEST_F(Trust, HttpIsNotAffected)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, R"({"code":1000})"); });
+    Serve(HttpReply(200, R"({"code":1000})"));
     CAPIModule::GetInstance().SetServerTrust(Pinned(DigestOf("other")));
-    Use(server);
     EXPECT_EQ(Execute({}), 0);
 }
 

@@ -101,12 +101,6 @@ std::string NameOf(WaitMode mode)
 
 class TypedCall : public Host {
 protected:
-    void Serve(const RawServer::Responder& responder, RawServer::Scheme scheme = RawServer::Http)
-    {
-        m_pServer = std::make_unique<RawServer>(responder, scheme);
-        Use(*m_pServer, scheme);
-    }
-
     ~TypedCall() override
     {
         g_parseMilliseconds = 0;
@@ -138,17 +132,7 @@ protected:
         return result;
     }
 
-    static bool Await(const std::function<bool()>& condition)
-    {
-        QElapsedTimer elapsed;
-        for (elapsed.start(); !condition() && elapsed.elapsed() < 20000;) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        }
-        return condition();
-    }
-
     QWidget m_parent;
-    std::unique_ptr<RawServer> m_pServer;
 
 private:
     const Watchdog m_watchdog;
@@ -164,10 +148,7 @@ struct EndRow {
     int a = -1;  ///< field of the record after reading as much as possible
 };
 
-void PrintTo(const EndRow& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
+using testing_support::operator<<;
 
 const std::vector<EndRow> kEnds = {
     {"success", HttpReply(200, kCompleteReply), CallEnd::Success, 0, "fine", "", 1},
@@ -192,7 +173,7 @@ class EndTest : public TypedCall,
 TEST_P(EndTest, ReportsTheReasonAndNotifiesLikeExecuteFuncs)
 {
     const auto& [row, mode, scheme] = GetParam();
-    Serve([reply = row.reply](const RawRequest&) { return reply; }, scheme);
+    Serve(row.reply, scheme);
     const auto request =
         GetNumber("/path").Within(std::chrono::milliseconds(row.end == CallEnd::TimedOut ? 300 : 20000));
     logs.Take();
@@ -243,15 +224,12 @@ INSTANTIATE_TEST_SUITE_P(Ends, EndTest,
                          testing::Combine(testing::ValuesIn(kEnds),
                                           testing::Values(WaitMode::Loop, WaitMode::Dialog, WaitMode::Started),
                                           testing::Values(RawServer::Http, RawServer::Https)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param).name + '_' + NameOf(std::get<1>(row.param)) +
-                                    (std::get<2>(row.param) == RawServer::Http ? "_http" : "_https");
-                         });
+                         RowName());
 
 class WaitModeTest : public TypedCall, public testing::WithParamInterface<WaitMode> {};
 
 INSTANTIATE_TEST_SUITE_P(WaitModes, WaitModeTest, testing::Values(WaitMode::Loop, WaitMode::Dialog, WaitMode::Started),
-                         [](const auto& row) { return NameOf(row.param); });
+                         RowName());
 
 TEST_P(WaitModeTest, EndsAsNotPackedWhenThePackFails)
 {
@@ -265,7 +243,7 @@ TEST_P(WaitModeTest, EndsAsNotPackedWhenThePackFails)
 
 TEST_P(WaitModeTest, EndsAsInvalidRequestWhenItCannotBeSent)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     users.servers[1].host = "user@127.0.0.1";
     const Outcome<Number> outcome = OutcomeOf(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::InvalidRequest);
@@ -274,7 +252,7 @@ TEST_P(WaitModeTest, EndsAsInvalidRequestWhenItCannotBeSent)
 
 TEST_P(WaitModeTest, EndsAsReplyTooLarge)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, QByteArray(5000, ' ')); });
+    Serve(HttpReply(200, QByteArray(5000, ' ')));
     CAPIModule::GetInstance().SetMaximumReplySize(4000);
     const Outcome<Number> outcome = OutcomeOf(GetParam(), GetNumber("/path"));
     EXPECT_EQ(outcome.End(), CallEnd::ReplyTooLarge);
@@ -283,7 +261,7 @@ TEST_P(WaitModeTest, EndsAsReplyTooLarge)
 
 TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); }, RawServer::Https);
+    Serve(HttpReply(200, kCompleteReply), RawServer::Https);
     ServerTrust trust;
     trust.bSystemAuthorities = true;
     CAPIModule::GetInstance().SetServerTrust(trust);
@@ -295,7 +273,7 @@ TEST_P(WaitModeTest, EndsAsServerNotTrustedBeforeAnythingIsSent)
 
 TEST_P(WaitModeTest, RunsAStoredRequestAgainAndOnOtherServers)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     RawServer other([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"a":2,"b":""}})"); });
     users.servers[2] = users.servers[1];
     users.servers[2].port = other.Port();
@@ -311,7 +289,7 @@ TEST_P(WaitModeTest, RunsAStoredRequestAgainAndOnOtherServers)
 
 TEST_P(WaitModeTest, HasNoRecordForACallWithoutOne)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     const Outcome<NoRecord> outcome = OutcomeOf(GetParam(), Touch("/path"));
     EXPECT_TRUE(outcome);
     EXPECT_EQ(outcome.Data().value(QStringLiteral("a")).toInt(), 1);
@@ -319,7 +297,7 @@ TEST_P(WaitModeTest, HasNoRecordForACallWithoutOne)
 
 TEST_P(WaitModeTest, UsesTheDefaultTimeOutInMilliseconds)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     CAPIModule::GetInstance().SetCallTimeout(std::chrono::milliseconds(50));
     QElapsedTimer elapsed;
     elapsed.start();
@@ -394,7 +372,7 @@ TEST_P(WaitModeTest, JudgesALargeReplyAsASmallOne)
 
 TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply, "X-More: one\r\n"); });
+    Serve(HttpReply(200, kCompleteReply, "X-More: one\r\n"));
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     std::vector<ObservedExchange> ofRequest;
@@ -429,7 +407,7 @@ TEST_P(WaitModeTest, ObserversReceiveTheExchange)
 
 TEST_P(WaitModeTest, ObserverReceivesAnExchangeThatTimedOut)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     EXPECT_EQ(OutcomeOf(GetParam(), GetNumber("/path").Within(std::chrono::milliseconds(100))).End(),
@@ -443,7 +421,7 @@ TEST_P(WaitModeTest, ObserverReceivesAnExchangeThatTimedOut)
 
 TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     std::vector<ObservedExchange> seen;
     CAPIModule::GetInstance().SetExchangeObserver([&](const ObservedExchange& exchange) { seen.push_back(exchange); });
     HostCall call;
@@ -457,7 +435,7 @@ TEST_F(TypedCall, ObserverSeesTheBodyOfAWriteOfExecuteFuncs)
 
 TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     for (const int nDelay : {0, 10000}) {
         CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(nDelay));
         auto* const pWindow = new QWidget;
@@ -474,20 +452,20 @@ TEST_F(TypedCall, ObserverDeletingTheParentEndsTheCallWithoutSuccess)
 
 TEST_F(TypedCall, ThrowingObserverIsHarmless)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     CAPIModule::GetInstance().SetExchangeObserver([](const ObservedExchange&) { throw std::runtime_error("no"); });
     EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
 }
 
 TEST_F(TypedCall, TextContainsTheNumberOfAnUnknownCode)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, R"({"code":987654321})"); });
+    Serve(HttpReply(200, R"({"code":987654321})"));
     EXPECT_EQ(APIModule::Run(GetNumber("/path")).Text(), QStringLiteral("Operation failed (987654321)"));
 }
 
 TEST_F(TypedCall, OutcomeOfABoolConvertsToSuccessNotToItsValue)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, R"({"code":1000,"data":{"flag":false}})"); });
+    Serve(HttpReply(200, R"({"code":1000,"data":{"flag":false}})"));
     const Outcome<bool> outcome = APIModule::Run(GetFlag("/path"));
     EXPECT_TRUE(outcome);
     EXPECT_FALSE(*outcome);
@@ -495,7 +473,7 @@ TEST_F(TypedCall, OutcomeOfABoolConvertsToSuccessNotToItsValue)
 
 TEST_F(TypedCall, PackReceivesAFreshCopyOfItsArgumentsInEveryRun)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     const auto request = Append("/path");
     EXPECT_TRUE(APIModule::Run(request));
     EXPECT_TRUE(APIModule::Run(request));
@@ -526,9 +504,7 @@ bool HasWaitDialog()
 TEST_F(TypedCall, WaitDialogAppearsOnlyAfterItsDelay)
 {
     Serve([](const RawRequest& request) {
-        RawReply reply = HttpReply(200, kCompleteReply);
-        reply.delayMilliseconds = request.target == "/slow" ? 1000 : 0;
-        return reply;
+        return Delayed(HttpReply(200, kCompleteReply), request.target == "/slow" ? 1000 : 0);
     });
     m_parent.show();
     bool bSeen = false;
@@ -555,11 +531,7 @@ protected:
 
 TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
 {
-    Serve([](const RawRequest&) {
-        RawReply reply = HttpReply(200, kCompleteReply);
-        reply.delayMilliseconds = 300;
-        return reply;
-    });
+    Serve(Delayed(HttpReply(200, kCompleteReply), 300));
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::seconds(30));
     Counting window;
     window.show();
@@ -579,7 +551,7 @@ TEST_F(TypedCall, InputIsDiscardedBeforeTheDialogAppearsAndNotDeliveredLater)
 
 TEST_F(TypedCall, DestroyedContextEndsAStartedCall)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     auto pContext = std::make_unique<QObject>();
     bool bCalled = false;
     const CallHandle handle =
@@ -593,7 +565,7 @@ TEST_F(TypedCall, DestroyedContextEndsAStartedCall)
 
 TEST_F(TypedCall, DestroyedParentEndsTheCallBeforeAndAfterTheDialogIsShown)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     for (const auto delay : {std::chrono::milliseconds(0), std::chrono::milliseconds(10000)}) {
         auto* const pWindow = new QWidget;
         CAPIModule::GetInstance().SetWaitDialogDelay(delay);
@@ -607,11 +579,7 @@ TEST_F(TypedCall, DestroyedParentEndsTheCallBeforeAndAfterTheDialogIsShown)
 
 TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
 {
-    Serve([](const RawRequest&) {
-        RawReply reply = HttpReply(200, kCompleteReply);
-        reply.delayMilliseconds = 200;
-        return reply;
-    });
+    Serve(Delayed(HttpReply(200, kCompleteReply), 200));
     m_parent.show();
     bool bSeen = false;
     QTimer poll;
@@ -625,7 +593,7 @@ TEST_F(TypedCall, WaitDialogDelayBeyondTheTimerLimitShowsNoDialog)
 
 TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, LargeReply()); });
+    Serve(HttpReply(200, LargeReply()));
     g_parseMilliseconds = 300;
     auto pContext = std::make_unique<QObject>();
     bool bCalled = false;
@@ -641,7 +609,7 @@ TEST_F(TypedCall, ReceiverDestroyedDuringParsingIsNotCalled)
 
 TEST_F(TypedCall, CancelAfterParsingCallsNothing)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, LargeReply()); });
+    Serve(HttpReply(200, LargeReply()));
     g_parseMilliseconds = 300;
     bool bCalled = false;
     CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
@@ -654,7 +622,7 @@ TEST_F(TypedCall, CancelAfterParsingCallsNothing)
 
 TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, LargeReply()); });
+    Serve(HttpReply(200, LargeReply()));
     g_parseMilliseconds = 2000;
     CAPIModule::GetInstance().SetWaitDialogDelay(std::chrono::milliseconds(0));
     auto* const pWindow = new QWidget;
@@ -677,7 +645,7 @@ TEST_F(TypedCall, WaitStoppedDuringParsingEndsAtOnceWithoutSuccess)
 
 TEST_F(TypedCall, CancelClosesTheConnectionAndPreventsTheCallback)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     bool bCalled = false;
     CallHandle handle = Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
     EXPECT_TRUE(handle.IsRunning());
@@ -693,7 +661,7 @@ TEST_F(TypedCall, CancelClosesTheConnectionAndPreventsTheCallback)
 
 TEST_F(TypedCall, CancelInsideACallbackOrAnObserverIsSafe)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     CallHandle first;
     CallHandle second;
     int nCalled = 0;
@@ -719,7 +687,7 @@ TEST_F(TypedCall, CancelInsideACallbackOrAnObserverIsSafe)
 
 TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     bool bCalled = false;
     {
         const CallHandle handle =
@@ -730,7 +698,7 @@ TEST_F(TypedCall, DestroyingTheHandleDoesNotCancel)
 
 TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     EXPECT_TRUE(APIModule::Run(Touch("/path")));
     m_pServer->TakeRequests();
     std::optional<CallEnd> end;
@@ -743,7 +711,7 @@ TEST_F(TypedCall, UnInitInsideThePackCancelsAStartedCall)
 
 TEST_F(TypedCall, PackRunsInsideStart)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     users.servers[1].token = "first";
     bool bCalled = false;
     Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>&) { bCalled = true; });
@@ -754,11 +722,7 @@ TEST_F(TypedCall, PackRunsInsideStart)
 
 TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 {
-    Serve([](const RawRequest&) {
-        RawReply reply = HttpReply(200, kCompleteReply);
-        reply.delayMilliseconds = 300;
-        return reply;
-    });
+    Serve(Delayed(HttpReply(200, kCompleteReply), 300));
     int nSucceeded = 0;
     int nEnded = 0;
     for (int i = 0; i < 30; ++i) {
@@ -778,7 +742,7 @@ TEST_F(TypedCall, QueueingDoesNotCountTowardsTheTimeOut)
 
 TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     std::vector<int> ended(1000, 0);
     for (int& nEnded : ended) {
         Start(GetNumber("/path"), &m_parent,
@@ -791,9 +755,7 @@ TEST_F(TypedCall, ThousandConcurrentCallsEndOnceEach)
 TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromACallback)
 {
     Serve([](const RawRequest& request) {
-        RawReply reply = HttpReply(200, kCompleteReply);
-        reply.delayMilliseconds = request.target == "/slow" ? 300 : 0;
-        return reply;
+        return Delayed(HttpReply(200, kCompleteReply), request.target == "/slow" ? 300 : 0);
     });
     int nEnded = 0;
     QTimer::singleShot(0, &m_parent, [&] {
@@ -811,7 +773,7 @@ TEST_F(TypedCall, CallsCanBeStartedInsideAWaitAndFromACallback)
 
 TEST_F(TypedCall, UnInitCancelsAndDeliversStartedCalls)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     std::vector<CallEnd> ends;
     for (int i = 0; i < 8; ++i) {
         Start(GetNumber("/path"), &m_parent, [&](const Outcome<Number>& outcome) { ends.push_back(outcome.End()); });
@@ -825,7 +787,7 @@ TEST_F(TypedCall, UnInitCancelsAndDeliversStartedCalls)
 
 TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirThread)
 {
-    Serve([](const RawRequest&) { return RawReply{}; });
+    Serve(RawReply{});
     std::vector<CallEnd> ends;
     QThread* pThread = nullptr;
     for (int i = 0; i < 8; ++i) {
@@ -844,7 +806,7 @@ TEST_F(TypedCall, UnInitOnAnotherThreadEndsStartedCallsOnTheirThread)
 
 TEST_F(TypedCall, RunReturnsNotPackedAndStartDoesNothingOnAnotherThread)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     logs.Take();
     bool bCalled = false;
     CallEnd end = CallEnd::Success;
@@ -863,7 +825,7 @@ TEST_F(TypedCall, RunReturnsNotPackedAndStartDoesNothingOnAnotherThread)
 
 TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     const auto request = BRMS::SetTimeSyncConfig(TimeSyncConfig());
     logs.Take();
     const std::optional<ObservedExchange> shown = Preview(request);
@@ -883,7 +845,7 @@ TEST_F(TypedCall, PreviewShowsWhatRunSendsAndSendsNothing)
 
 TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     users.servers[1].host = "user@127.0.0.1";
     logs.Take();
     EXPECT_FALSE(Preview(GetNumber("/path")));
@@ -898,7 +860,7 @@ TEST_F(TypedCall, PreviewOfAnInvalidRequestLogsTheReasonAndReturnsNothing)
 
 TEST_F(TypedCall, ThrowingFunctionIsHarmless)
 {
-    Serve([](const RawRequest&) { return HttpReply(200, kCompleteReply); });
+    Serve(HttpReply(200, kCompleteReply));
     logs.Take();
     const CallHandle handle =
         Start(GetNumber("/path"), &m_parent, [](const Outcome<Number>&) { throw std::runtime_error("no"); });

@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <qpa/qwindowsysteminterface.h>
 #include <QPointer>
+#include <QTest>
 #include <QTimer>
 #include <QWindow>
 
@@ -38,9 +39,7 @@ RawReply Respond(const RawRequest& request)
         return {};
     }
     if (request.target.startsWith("/after/")) {
-        RawReply late = success;
-        late.delayMilliseconds = request.target.mid(7).toInt();
-        return late;
+        return Delayed(success, request.target.mid(7).toInt());
     }
     return request.target == "/ok" ? success : HttpReply(request.target.mid(1).toInt(), "");
 }
@@ -91,8 +90,7 @@ protected:
 
 class WaitTest : public WaitBase, public testing::WithParamInterface<Waiting> {};
 
-INSTANTIATE_TEST_SUITE_P(Waits, WaitTest, testing::Values(InLoop, BehindDialog),
-                         [](const auto& row) { return row.param == InLoop ? "loop" : "dialog"; });
+INSTANTIATE_TEST_SUITE_P(Waits, WaitTest, testing::Values(InLoop, BehindDialog), RowName());
 
 TEST_P(WaitTest, TimeOutIsPreciseAndTheEventLoopContinues)
 {
@@ -222,19 +220,9 @@ TEST_P(WaitTest, LeaksNothing)
     for (const char* const target : {"/ok", "/404", "/silent", "/silent", "/silent"}) {
         Execute(Call(GetParam(), QLatin1String(target), target == std::string("/silent") ? 1 : 20));
     }
-    QEventLoop loop;
-    QTimer poll;
-    QElapsedTimer elapsed;
-    elapsed.start();
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (m_server.OpenConnectionCount() <= 1 || elapsed.elapsed() > 10000) {
-            loop.quit();
-        }
-    });
-    poll.start(10);
-    loop.exec();
-    EXPECT_LE(m_server.OpenConnectionCount(), 1) << "only one connection may be kept for reuse";
-    EXPECT_TRUE(m_parent->children().isEmpty());
+    EXPECT_TRUE(Await([this] { return m_parent->children().isEmpty(); }));
+    EXPECT_TRUE(Await([this] { return m_server.OpenConnectionCount() <= 1; }))
+        << "only one connection may be kept for reuse";
     const QWidgetList widgets = QApplication::allWidgets();
     for (const QWidget* pWidget : widgets) {
         EXPECT_EQ(qobject_cast<const ORNGUI::OrnWaitDialog*>(pWidget), nullptr);
@@ -246,9 +234,7 @@ TEST_P(WaitTest, LateReplyIsIgnored)
     EXPECT_EQ(Execute(Call(GetParam(), QStringLiteral("/after/1300"), 1)), -1);
     EXPECT_EQ(logs.Take(), TimedOut(GetParam(), "/after/1300"));
     notifications.Take();
-    QEventLoop loop;
-    QTimer::singleShot(600, &loop, &QEventLoop::quit);
-    loop.exec();
+    QTest::qWait(600);
     EXPECT_EQ(logs.Take(), LogLines());
     EXPECT_EQ(notifications.Take(), QStringList());
 }
@@ -300,10 +286,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(Waits, NestedTest,
                          testing::Combine(testing::Values(InLoop, BehindDialog), testing::Values(InLoop, BehindDialog)),
-                         [](const auto& row) {
-                             return std::string(std::get<0>(row.param) == InLoop ? "loop" : "dialog") +
-                                    (std::get<1>(row.param) == InLoop ? "_loop" : "_dialog");
-                         });
+                         RowName());
 
 TEST_P(NestedTest, InnerEndsFirst)
 {
@@ -406,11 +389,7 @@ protected:
 };
 
 const Disturbance kHarmless[] = {
-    {"escape",
-     [](ORNGUI::OrnWaitDialog& dialog) {
-         QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-         QApplication::sendEvent(&dialog, &press);
-     }},
+    {"escape", [](ORNGUI::OrnWaitDialog& dialog) { QTest::keyPress(&dialog, Qt::Key_Escape); }},
     {"close_button", [](ORNGUI::OrnWaitDialog& dialog) { dialog.close(); }},
     {"close_event",
      [](ORNGUI::OrnWaitDialog& dialog) {
@@ -565,9 +544,7 @@ void CloseToasts()
                 bFound = pWidget->close() || bFound;
             }
         }
-        QEventLoop loop;
-        QTimer::singleShot(20, &loop, &QEventLoop::quit);
-        loop.exec();
+        QTest::qWait(20);
     }
 }
 
@@ -592,9 +569,7 @@ TEST_P(UserInputTest, IsHeldBackDuringAWaitWithoutDialog)
     call.successTip.clear();  // showing a toast would deliver the key
     EXPECT_EQ(Execute(call), 0);
     EXPECT_EQ(keys.count, GetParam() ? 0 : 1);
-    QEventLoop loop;
-    QTimer::singleShot(50, &loop, &QEventLoop::quit);
-    loop.exec();
+    QTest::qWait(50);
     EXPECT_EQ(keys.count, 1) << "input that was held back is delivered afterwards";
 }
 

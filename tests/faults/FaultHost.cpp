@@ -3,11 +3,11 @@
 #include <Call.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHostInfo>
 #include <QNetworkProxyFactory>
 #include <QNetworkProxyQuery>
+#include <QTest>
 #include <QThreadPool>
 #include <QUrl>
 
@@ -20,8 +20,6 @@ namespace testing_support {
 using APIModule::CAPIModule;
 
 namespace {
-
-constexpr int kAwaitMs = 10000;
 
 QString Notice(int code)
 {
@@ -86,8 +84,7 @@ std::vector<CallMode> AllCallModes(const std::vector<RawServer::Scheme>& schemes
 std::string NameOf(const CallMode& mode)
 {
     constexpr std::array<const char*, 3> kRunners{"", "run_", "start_"};
-    return kRunners.at(std::size_t(mode.runner)) + std::string(mode.waiting == InLoop ? "loop" : "dialog") +
-           (mode.scheme == RawServer::Http ? "_http" : "_https") +
+    return kRunners.at(std::size_t(mode.runner)) + NameOf(mode.waiting) + '_' + NameOf(mode.scheme) +
            (mode.method == APIModule::Method_Get ? "_get" : "_post");
 }
 
@@ -178,9 +175,7 @@ void FaultHost::WarmUp()
     QGuiApplication::inputMethod();
     QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(QUrl(QStringLiteral("http://no-such-host.invalid"))));
     QHostInfo::lookupHost(QStringLiteral("localhost"), QCoreApplication::instance(), [](const QHostInfo&) {});
-    QEventLoop loop;
-    QTimer::singleShot(100, &loop, &QEventLoop::quit);
-    loop.exec();
+    QTest::qWait(100);
 }
 
 HostCall FaultHost::Call(const CallMode& mode, const QString& url, int nTimeout)
@@ -259,8 +254,8 @@ void FaultHost::ExpectOutcome(const CallMode& mode, const Outcome& outcome, bool
     HostCall call = Call(mode, url, nTimeout);
     call.notifyOnFailure = bNotifyOnFailure;
     const bool bTyped = mode.runner != Runner::ExecuteFuncs;
-    const std::string fullUrl = (mode.scheme == RawServer::Http ? "http://" : "https://") + users.servers[1].host +
-                                ':' + std::to_string(users.servers[1].port) + url.toStdString();
+    const std::string fullUrl = NameOf(mode.scheme) + "://" + users.servers[1].host + ':' +
+                                std::to_string(users.servers[1].port) + url.toStdString();
     logs.Take();
     notifications.Take();
 
@@ -297,18 +292,6 @@ void FaultHost::ExpectOutcome(const CallMode& mode, const Outcome& outcome, bool
 void FaultHost::ExpectSuccess(const CallMode& mode)
 {
     ExpectOutcome(mode, Succeeds(), true, 20, QStringLiteral("/ok"));
-}
-
-bool FaultHost::Await(const std::function<bool()>& condition)
-{
-    QElapsedTimer elapsed;
-    elapsed.start();
-    while (!condition() && elapsed.elapsed() < kAwaitMs) {
-        QEventLoop loop;
-        QTimer::singleShot(2, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-    return condition();
 }
 
 void FaultHost::ExpectNoLeaks(const Census& before)

@@ -99,9 +99,6 @@ protected:
     /// Makes calls of each kind, so that Qt creates the objects that it creates once in a process.
     void WarmUp();
 
-    /// Waits until the condition holds, for a limited time. @return whether it does
-    static bool Await(const std::function<bool()>& condition);
-
     /// Checks that no objects or sockets leak, ignoring toasts.
     static void ExpectNoLeaks(const Census& before);
 

@@ -1,7 +1,5 @@
 #include "FaultMatrix.h"
 
-#include <ostream>
-
 namespace testing_support {
 
 using APIModule::CAPIModule;
@@ -34,11 +32,6 @@ FaultSetup BesideHealthy(RawServer::Scheme scheme, int nFaultyPort)
     UserManager::Server faulty;
     faulty.port = nFaultyPort;
     return {faulty, AddressOf(*healthy), {healthy}, nullptr};
-}
-
-void PrintTo(const FaultCase& row, std::ostream* pStream)
-{
-    *pStream << row.name;
 }
 
 std::vector<FaultCase> Matrix(const std::vector<Fault>& faults)

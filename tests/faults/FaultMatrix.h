@@ -38,7 +38,6 @@ struct FaultCase {
     Fault fault;
     CallMode mode;
 };
-void PrintTo(const FaultCase& row, std::ostream* pStream);
 
 /// Each fault in each call mode.
 std::vector<FaultCase> Matrix(const std::vector<Fault>& faults);

@@ -79,10 +79,7 @@ struct EventCase {
     bool answered;
 };
 
-void PrintTo(const EventCase& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
+using testing_support::operator<<;
 
 /// With a reply, each event in each call mode. Without one, each event over HTTP, once for each kind of wait.
 std::vector<EventCase> Cases()

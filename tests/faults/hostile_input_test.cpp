@@ -38,10 +38,7 @@ struct Hostile {
     std::string inUrl;
 };
 
-void PrintTo(const Hostile& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
+using testing_support::operator<<;
 
 const std::vector<Hostile> kTexts = {
     {"harmless", "a-b_c.1", "a-b_c.1"},
@@ -137,22 +134,17 @@ struct UrlPart {
 };
 
 const std::vector<UrlPart> kUrlParts = {
-    {"path", "GET", "/brms/api/v1.1/user/group/", "",
+    {"in_path", "GET", "/brms/api/v1.1/user/group/", "",
      [](void* p, const std::string& text) { return CBRMSModule::PacketGetUserGroup(p, text, -1); }},
-    {"middle_of_path", "GET", "/brms/api/v1.1/device/", "/config/network",
+    {"in_middle_of_path", "GET", "/brms/api/v1.1/device/", "/config/network",
      [](void* p, const std::string& text) { return CBRMSModule::PacketGetNetworkConfig(p, text, -1); }},
-    {"query", "GET", "/brms/api/v1.1/user/group/list?keyword=", "",
+    {"in_query", "GET", "/brms/api/v1.1/user/group/list?keyword=", "",
      [](void* p, const std::string& text) { return CBRMSModule::PacketGetUserGroupList(p, text, -1); }},
-    {"list_in_query", "DELETE", "/brms/api/v1.1/config/quick/command?ids=1,", ",2",
+    {"in_list_in_query", "DELETE", "/brms/api/v1.1/config/quick/command?ids=1,", ",2",
      [](void* p, const std::string& text) {
          return CBRMSModule::PacketDelQuickCommand(p, {"1", text, "2"}, -1);
      }},
 };
-
-void PrintTo(const UrlPart& part, std::ostream* pStream)
-{
-    *pStream << part.name;
-}
 
 class UrlTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, UrlPart>> {};
 
@@ -167,9 +159,7 @@ TEST_P(UrlTest, StaysInItsPartOfTheUrl)
 }
 
 INSTANTIATE_TEST_SUITE_P(Urls, UrlTest, testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kUrlParts)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param).name + "_in_" + std::get<1>(row.param).name;
-                         });
+                         RowName());
 
 class TextTest : public HostileInput, public testing::WithParamInterface<Hostile> {};
 
@@ -230,18 +220,13 @@ struct HeaderField {
 };
 
 const std::vector<HeaderField> kHeaderFields = {
-    {"token", "X-Subject-Token",
+    {"in_token", "X-Subject-Token",
      [](UserManager& users, HostCall&, const std::string& text) { users.servers[1].token = text; }, false},
-    {"language", "Accept-Language",
+    {"in_language", "Accept-Language",
      [](UserManager&, HostCall&, const std::string& text) { CAPIModule::GetInstance().SetLanguage(text); }, false},
-    {"sequence", "X-Subject-Sequence",
+    {"in_sequence", "X-Subject-Sequence",
      [](UserManager&, HostCall& call, const std::string& text) { call.sequence = QString::fromStdString(text); }, true},
 };
-
-void PrintTo(const HeaderField& part, std::ostream* pStream)
-{
-    *pStream << part.name;
-}
 
 class HeaderTest : public HostileInput, public testing::WithParamInterface<std::tuple<Hostile, HeaderField>> {};
 
@@ -274,10 +259,7 @@ TEST_P(HeaderTest, StaysInItsHeaderOrIsRejected)
 }
 
 INSTANTIATE_TEST_SUITE_P(Headers, HeaderTest,
-                         testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kHeaderFields)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param).name + "_in_" + std::get<1>(row.param).name;
-                         });
+                         testing::Combine(testing::ValuesIn(kTexts), testing::ValuesIn(kHeaderFields)), RowName());
 
 /// A host name that would lead elsewhere. The log line of the rejected URL shows it.
 class HostNameTest : public HostileInput, public testing::WithParamInterface<Hostile> {};

@@ -1,5 +1,6 @@
 // Every HTTP status. No redirect is followed and no request repeated.
 #include "FaultHost.h"
+#include "support/Rows.h"
 
 using namespace testing_support;
 
@@ -32,8 +33,7 @@ TEST_P(StatusTest, ReturnsHttpStatus)
 {
     const CallMode mode = GetParam();
     WarmUp();
-    RawServer server(Respond, mode.scheme);
-    Use(server, mode.scheme);
+    RawServer& server = Serve(Respond, mode.scheme);
     ExpectSuccess(mode);
     server.TakeRequests();
     const Census before = Census::Now();
@@ -51,7 +51,6 @@ TEST_P(StatusTest, ReturnsHttpStatus)
     ExpectNoLeaks(before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Statuses, StatusTest, testing::ValuesIn(AllCallModes()),
-                         [](const auto& row) { return NameOf(row.param); });
+INSTANTIATE_TEST_SUITE_P(Statuses, StatusTest, testing::ValuesIn(AllCallModes()), RowName());
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "Host.h"
 
+#include <QTest>
+
 namespace testing_support {
 
 int Execute(const HostCall& call)
@@ -31,6 +33,24 @@ void Host::Use(const RawServer& server, RawServer::Scheme scheme)
 {
     users.servers[1].port = server.Port();
     APIModule::CAPIModule::GetInstance().SetHttpsMode(scheme == RawServer::Https ? 1 : 0);
+}
+
+RawServer& Host::Serve(const RawServer::Responder& responder, RawServer::Scheme scheme)
+{
+    m_pServer = std::make_unique<RawServer>(responder, scheme);
+    Use(*m_pServer, scheme);
+    return *m_pServer;
+}
+
+RawServer& Host::Serve(const RawReply& reply, RawServer::Scheme scheme)
+{
+    return Serve([reply](const RawRequest&) { return reply; }, scheme);
+}
+
+bool Await(const std::function<bool()>& condition)
+{
+    constexpr int kLongestMs = 20000;
+    return QTest::qWaitFor(condition, kLongestMs);
 }
 
 }  // namespace testing_support

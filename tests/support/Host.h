@@ -11,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <memory>
+
 namespace testing_support {
 
 constexpr const char* kFacadeFile = "src/UI/APIModule/APIModule";
@@ -44,9 +47,17 @@ protected:
     /// Makes @p server the host's server.
     void Use(const RawServer& server, RawServer::Scheme scheme = RawServer::Http);
 
+    /// Starts a server that becomes the host's.
+    RawServer& Serve(const RawServer::Responder& responder, RawServer::Scheme scheme = RawServer::Http);
+    RawServer& Serve(const RawReply& reply, RawServer::Scheme scheme = RawServer::Http);
+
     UserManager users;
     LogRecorder logs;
     NotificationRecorder notifications;
+    std::unique_ptr<RawServer> m_pServer;
 };
+
+/// Runs the event loop until the condition holds, for a limited time. @return whether it does
+bool Await(const std::function<bool()>& condition);
 
 }  // namespace testing_support

@@ -52,6 +52,12 @@ RawReply HttpReply(int status, const QByteArray& body, const QByteArray& moreHea
             "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body};
 }
 
+RawReply Delayed(RawReply reply, int milliseconds)
+{
+    reply.delayMilliseconds = milliseconds;
+    return reply;
+}
+
 QSslConfiguration ServerConfiguration(const Certificate& certificate)
 {
     QSslConfiguration configuration;

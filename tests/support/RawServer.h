@@ -12,6 +12,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -62,6 +63,9 @@ bool CanVanish();
 /// A complete HTTP reply.
 RawReply HttpReply(int status, const QByteArray& body, const QByteArray& moreHeaders = QByteArray());
 
+/// The same reply, sent later.
+RawReply Delayed(RawReply reply, int milliseconds);
+
 /// The TLS configuration of a server with this certificate.
 QSslConfiguration ServerConfiguration(const Certificate& certificate);
 
@@ -110,5 +114,10 @@ private:
     std::atomic<int> m_connections{0};
     std::atomic<int> m_openConnections{0};
 };
+
+inline std::string NameOf(RawServer::Scheme scheme)
+{
+    return scheme == RawServer::Http ? "http" : "https";
+}
 
 }  // namespace testing_support

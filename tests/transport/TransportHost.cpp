@@ -1,6 +1,7 @@
 #include "TransportHost.h"
 
 #include <QJsonObject>
+#include <QThread>
 
 #include <algorithm>
 
@@ -8,9 +9,9 @@ namespace testing_support {
 
 using APIModule::CAPIModule;
 
-std::shared_ptr<void> Signal::Handle() const
+std::shared_ptr<void> CountedIn(std::atomic<int>& counter)
 {
-    return std::shared_ptr<void>(nullptr, [pHappened = m_pRaised](void*) { *pHappened = true; });
+    return std::shared_ptr<void>(nullptr, [&counter](void*) { ++counter; });
 }
 
 CallResult TransportHost::Run(APIModule::Method method, const QString& url, const QString& body, int nTimeout)
@@ -37,6 +38,16 @@ CallResult TransportHost::Run(APIModule::Method method, const QString& url, cons
         }
     }
     return ended;
+}
+
+void TransportHost::AwaitCount(const std::atomic<int>& counter, int nCount, Pause pause)
+{
+    if (pause == Pause::Loop) {
+        EXPECT_TRUE(Await([&] { return counter >= nCount; }));
+    }
+    while (counter < nCount) {
+        QThread::usleep(100);
+    }
 }
 
 int Times()

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace testing_support {
 
@@ -18,16 +19,19 @@ struct CallResult {
     int tag = -1;  ///< "n" in the data that the Parse received
 };
 
-/// Reports whether an event in another thread has occurred.
-class Signal {
-public:
-    /// The event occurs when the last copy of the returned pointer is destroyed.
-    std::shared_ptr<void> Handle() const;
-    bool WasRaised() const { return *m_pRaised; }
-
-private:
-    std::shared_ptr<std::atomic<bool>> m_pRaised = std::make_shared<std::atomic<bool>>(false);
+/// How a host waits for an event in another thread: with its event loop running or blocked.
+enum class Pause {
+    Loop,
+    Sleep
 };
+
+inline std::string NameOf(Pause pause)
+{
+    return pause == Pause::Loop ? "loop" : "sleep";
+}
+
+/// A handle that increments the counter when its last copy is destroyed.
+std::shared_ptr<void> CountedIn(std::atomic<int>& counter);
 
 /// A host that calls servers with connection faults.
 class TransportHost : public FaultHost {
@@ -35,6 +39,9 @@ protected:
     /// Runs a call whose failure is notified only if no reply arrives.
     CallResult Run(APIModule::Method method, const QString& url, const QString& body = {}, int nTimeout = 20);
     CallResult Get(const QString& url) { return Run(APIModule::Method_Get, url); }
+
+    /// Waits until another thread has counted that far.
+    static void AwaitCount(const std::atomic<int>& counter, int nCount, Pause pause);
 };
 
 /// The factor by which the program multiplies its number of calls: APIMODULE_TIMES in the environment, otherwise 1.

@@ -1,6 +1,7 @@
 // Compares the library's HTTP implementation with Qt's: both give the same result for a reply, except for a list of
 // intended differences.
 #include "SampleReplies.h"
+#include "support/Rows.h"
 #include "support/Watchdog.h"
 
 #include <http/AccessManager.h>
@@ -213,34 +214,13 @@ const std::map<std::string, Difference>& Differences()
     return differences;
 }
 
-struct Row {
-    SampleReply sample;
-    RawServer::Scheme scheme;
-};
-
-void PrintTo(const Row& row, std::ostream* pStream)
-{
-    *pStream << row.sample.name;
-}
-
-std::vector<Row> Rows()
-{
-    std::vector<Row> rows;
-    for (const SampleReply& sample : SampleReplies()) {
-        for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-            rows.push_back({sample, scheme});
-        }
-    }
-    return rows;
-}
-
 int ThreadCount()
 {
     const std::filesystem::directory_iterator threads("/proc/self/task");
     return int(std::distance(begin(threads), end(threads)));
 }
 
-class Differential : public testing::TestWithParam<Row> {
+class Differential : public testing::TestWithParam<std::tuple<SampleReply, RawServer::Scheme>> {
 protected:
     /// Waits for the thread of Qt's network manager, which outlives the manager for a moment. At the end of the process
     /// it would free memory that OpenSSL frees as well.
@@ -274,9 +254,10 @@ TEST_P(Differential, ReadsRepliesLikeQtExceptForTheListedDifferences)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Replies, Differential, testing::ValuesIn(Rows()), [](const auto& row) {
-    return std::string(row.param.sample.name) + (row.param.scheme == RawServer::Http ? "_http" : "_https");
-});
+INSTANTIATE_TEST_SUITE_P(Replies, Differential,
+                         testing::Combine(testing::ValuesIn(SampleReplies()),
+                                          testing::Values(RawServer::Http, RawServer::Https)),
+                         RowName());
 
 /// The list contains no difference for a reply that is not tested.
 TEST(Differences, ListOnlyTestedReplies)

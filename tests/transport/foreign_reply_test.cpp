@@ -3,8 +3,6 @@
 #include "support/Rows.h"
 #include "TransportHost.h"
 
-#include <QThread>
-
 #include <functional>
 
 using namespace testing_support;
@@ -76,54 +74,22 @@ const std::vector<ForeignBytes> kForeignBytes = {
     {"length_too_small_the_rest_later", LengthTooSmall(kLaterMs), -1},
 };
 
-/// How the host waits until the foreign bytes have arrived.
-enum WaitKind {
-    EventLoop,
-    Sleep
-};
+using testing_support::operator<<;
 
-struct ForeignCase {
-    std::string name;
-    ForeignBytes foreign;
-    RawServer::Scheme scheme;
-    WaitKind waitKind;
-};
-
-void PrintTo(const ForeignCase& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
-
-std::vector<ForeignCase> Cases()
-{
-    std::vector<ForeignCase> cases;
-    for (const ForeignBytes& foreign : kForeignBytes) {
-        for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-            for (const WaitKind waitKind : {EventLoop, Sleep}) {
-                cases.push_back({foreign.name + std::string(scheme == RawServer::Http ? "_http" : "_https") +
-                                     (waitKind == EventLoop ? "_loop" : "_sleep"),
-                                 foreign, scheme, waitKind});
-            }
-        }
-    }
-    return cases;
-}
-
-class ForeignReply : public TransportHost, public testing::WithParamInterface<ForeignCase> {};
+class ForeignReply : public TransportHost,
+                     public testing::WithParamInterface<std::tuple<ForeignBytes, RawServer::Scheme, Pause>> {};
 
 TEST_P(ForeignReply, IsNotReceivedByAnotherCall)
 {
-    const auto& [name, foreign, scheme, waitKind] = GetParam();
+    const auto& [foreign, scheme, pause] = GetParam();
     const int nCalls = 8 * Times();
-    std::shared_ptr<void> handle;
-    std::mutex mutex;
+    std::atomic<int> sent{0};
     const RawServer server(
         [&, make = foreign.make](const RawRequest& request) {
             RawReply reply = TaggedReply(TagOf(request.target));
             if (request.target.startsWith("/foreign/")) {
                 reply = make(reply);
-                const std::lock_guard<std::mutex> lock(mutex);
-                reply.done = std::move(handle);
+                reply.done = CountedIn(sent);
             }
             return reply;
         },
@@ -133,20 +99,10 @@ TEST_P(ForeignReply, IsNotReceivedByAnotherCall)
                                               APIModule::Method_Delete};
     int nForeign = 0;
     for (int i = 0; i < nCalls / 2; ++i) {
-        const Signal sent;
-        {
-            const std::lock_guard<std::mutex> lock(mutex);
-            handle = sent.Handle();
-        }
         const CallResult first = Get(QStringLiteral("/foreign/%1").arg(2 * i));
         EXPECT_EQ(first.code, foreign.code);
         nForeign += first.parsed && first.tag != 2 * i ? 1 : 0;
-        if (waitKind == EventLoop) {
-            ASSERT_TRUE(Await([&sent] { return sent.WasRaised(); }));
-        }
-        while (!sent.WasRaised()) {
-            QThread::usleep(100);
-        }
+        AwaitCount(sent, i + 1, pause);
         const CallResult second = Run(kMethods[i % 4], QStringLiteral("/own/%1").arg(2 * i + 1), QStringLiteral("{}"));
         EXPECT_EQ(second.code, 0);
         nForeign += second.parsed && second.tag != 2 * i + 1 ? 1 : 0;
@@ -154,6 +110,10 @@ TEST_P(ForeignReply, IsNotReceivedByAnotherCall)
     EXPECT_EQ(nForeign, 0) << "of " << nCalls << " calls";
 }
 
-INSTANTIATE_TEST_SUITE_P(Calls, ForeignReply, testing::ValuesIn(Cases()), RowName());
+INSTANTIATE_TEST_SUITE_P(Calls, ForeignReply,
+                         testing::Combine(testing::ValuesIn(kForeignBytes),
+                                          testing::Values(RawServer::Http, RawServer::Https),
+                                          testing::Values(Pause::Loop, Pause::Sleep)),
+                         RowName());
 
 }  // namespace

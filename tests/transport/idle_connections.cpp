@@ -68,7 +68,7 @@ struct Counts {
     int repeated = 0;
 };
 
-void Pause(int nMilliseconds, bool bInEventLoop)
+void PauseFor(int nMilliseconds, bool bInEventLoop)
 {
     if (!bInEventLoop) {
         QThread::msleep(nMilliseconds);
@@ -95,7 +95,7 @@ Counts Count(const Client& client, RawReply::Then then, RawServer::Scheme scheme
     counts.calls = nCalls;
     for (int i = 0; i < nCalls; ++i) {
         client(server, scheme, false, QStringLiteral("/first"));
-        Pause(i % (kLongestPauseMs + 1), i % 2 == 0);
+        PauseFor(i % (kLongestPauseMs + 1), i % 2 == 0);
         const int nFailure = client(server, scheme, bWrite, QStringLiteral("/second"));
         if (nFailure != 0) {
             ++counts.failures[nFailure];

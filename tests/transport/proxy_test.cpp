@@ -162,10 +162,7 @@ struct Refusal {
     const char* qtCode;
 };
 
-void PrintTo(const Refusal& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
+using testing_support::operator<<;
 
 /// A tunnel that cannot be established ends the call as a network error with Qt's error number.
 class RefusalTest : public ProxyTest, public testing::WithParamInterface<Refusal> {};

@@ -3,11 +3,9 @@
 #include "TransportHost.h"
 
 #include <QEventLoop>
-#include <QThread>
 
 #include <map>
 #include <memory>
-#include <mutex>
 #include <random>
 
 using namespace testing_support;
@@ -50,47 +48,31 @@ const std::vector<End> kEnds = {
     {"closed_after_100", {"HTTP/1.1 100 Continue\r\n\r\n", 0, RawReply::Close}},
 };
 
-struct Row {
-    std::string name;
-    Request request;
-    End end;
-    RawServer::Scheme scheme;
-    bool kept;  ///< whether the request is sent on a connection that carried another one before
+/// Whether a request is sent on a connection that carried another one before.
+enum class Connection {
+    New,
+    Kept
 };
 
-void PrintTo(const Row& row, std::ostream* pStream)
+std::string NameOf(Connection connection)
 {
-    *pStream << row.name;
+    return connection == Connection::New ? "new" : "kept";
 }
 
-std::vector<Row> Rows(const std::vector<Request>& requests)
-{
-    std::vector<Row> rows;
-    for (const Request& request : requests) {
-        for (const End& end : kEnds) {
-            for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-                for (const bool bKept : {false, true}) {
-                    rows.push_back({std::string(request.name) + '_' + end.name +
-                                        (scheme == RawServer::Http ? "_http" : "_https") + (bKept ? "_kept" : "_new"),
-                                    request, end, scheme, bKept});
-                }
-            }
-        }
-    }
-    return rows;
-}
+using testing_support::operator<<;
 
-class RepetitionTest : public TransportHost, public testing::WithParamInterface<Row> {
+class RepetitionTest : public TransportHost,
+                       public testing::WithParamInterface<std::tuple<Request, End, RawServer::Scheme, Connection>> {
 protected:
     /// Makes the row's request. @return how often it reached the server
     int Arrivals()
     {
-        const auto& [name, request, end, scheme, bKept] = GetParam();
-        RawServer server([reply = end.reply](
-                             const RawRequest& received) { return received.target == "/ok" ? SuccessReply() : reply; },
-                         scheme);
-        Use(server, scheme);
-        if (bKept) {
+        const auto& [request, end, scheme, connection] = GetParam();
+        RawServer& server =
+            Serve([reply = end.reply](
+                      const RawRequest& received) { return received.target == "/ok" ? SuccessReply() : reply; },
+                  scheme);
+        if (connection == Connection::Kept) {
             EXPECT_EQ(Get(QStringLiteral("/ok")).code, 0);
         }
         const QString body(request.bodySize, QLatin1Char('1'));
@@ -107,6 +89,13 @@ protected:
     }
 };
 
+auto EndsOf(const std::vector<Request>& requests)
+{
+    return testing::Combine(testing::ValuesIn(requests), testing::ValuesIn(kEnds),
+                            testing::Values(RawServer::Http, RawServer::Https),
+                            testing::Values(Connection::New, Connection::Kept));
+}
+
 class WriteTest : public RepetitionTest {};
 
 TEST_P(WriteTest, ReachesTheServerOnce)
@@ -114,106 +103,69 @@ TEST_P(WriteTest, ReachesTheServerOnce)
     EXPECT_EQ(Arrivals(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Writes, WriteTest, testing::ValuesIn(Rows(kWrites)), RowName());
+INSTANTIATE_TEST_SUITE_P(Writes, WriteTest, EndsOf(kWrites), RowName());
 
 class ReadTest : public RepetitionTest {};
 
 /// A kept connection may have ended before the request.
 TEST_P(ReadTest, IsRepeatedOnceWhenAKeptConnectionClosesBeforeAReply)
 {
-    EXPECT_EQ(Arrivals(), GetParam().kept && GetParam().end.reply.bytes.isEmpty() ? 2 : 1);
+    const auto& [request, end, scheme, connection] = GetParam();
+    EXPECT_EQ(Arrivals(), connection == Connection::Kept && end.reply.bytes.isEmpty() ? 2 : 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Reads, ReadTest, testing::ValuesIn(Rows({{"get", APIModule::Method_Get, 0}})), RowName());
+INSTANTIATE_TEST_SUITE_P(Reads, ReadTest, EndsOf({{"get", APIModule::Method_Get, 0}}), RowName());
 
 /// A kept connection that has ended. The host's event loop may or may not have had time to notice it.
-struct EndedConnection {
-    std::string name;
-    RawServer::Scheme scheme;
-    RawReply::Then then;
-    APIModule::Method method;
-    bool inEventLoop;
-};
-
-void PrintTo(const EndedConnection& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
-
-std::vector<EndedConnection> EndedConnections()
-{
-    std::vector<EndedConnection> rows;
-    for (const auto& [name, then] : {std::pair("closed", RawReply::Close), std::pair("reset", RawReply::Reset),
-                                     std::pair("half_closed", RawReply::HalfClose)}) {
-        for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-            for (const APIModule::Method method : {APIModule::Method_Get, APIModule::Method_Post}) {
-                for (const bool bInEventLoop : {false, true}) {
-                    rows.push_back({std::string(name) + (scheme == RawServer::Http ? "_http" : "_https") +
-                                        (method == APIModule::Method_Get ? "_read" : "_write") +
-                                        (bInEventLoop ? "_loop" : "_sleep"),
-                                    scheme, then, method, bInEventLoop});
-                }
-            }
-        }
-    }
-    return rows;
-}
-
-class EndedConnectionTest : public TransportHost, public testing::WithParamInterface<EndedConnection> {};
+class EndedConnectionTest : public TransportHost,
+                            public testing::WithParamInterface<std::tuple<End, RawServer::Scheme, Request, Pause>> {};
 
 TEST_P(EndedConnectionTest, NeitherLosesNorRepeatsCalls)
 {
-    const EndedConnection& row = GetParam();
-    std::mutex mutex;
-    std::shared_ptr<void> handle;
+    const auto& [end, scheme, request, pause] = GetParam();
+    std::atomic<int> ended{0};
     RawServer server(
-        [&](const RawRequest& request) {
-            RawReply reply = TaggedReply(TagOf(request.target));
-            if (request.target == "/first") {
-                reply.then = row.then;
+        [&, then = end.reply.then](const RawRequest& received) {
+            RawReply reply = TaggedReply(TagOf(received.target));
+            if (received.target == "/first") {
+                reply.then = then;
                 reply.thenMilliseconds = 2;
-                const std::lock_guard<std::mutex> lock(mutex);
-                reply.done = std::move(handle);
+                reply.done = CountedIn(ended);
             }
             return reply;
         },
-        row.scheme);
-    Use(server, row.scheme);
+        scheme);
+    Use(server, scheme);
     constexpr int kCalls = 20;
     for (int i = 1; i <= kCalls; ++i) {
-        const Signal ended;
-        {
-            const std::lock_guard<std::mutex> lock(mutex);
-            handle = ended.Handle();
-        }
         ASSERT_EQ(Get(QStringLiteral("/first")).code, 0);
-        if (row.inEventLoop) {
-            ASSERT_TRUE(Await([&ended] { return ended.WasRaised(); }));
-        }
-        while (!ended.WasRaised()) {
-            QThread::usleep(100);
-        }
-        const CallResult second = Run(row.method, QStringLiteral("/second/%1").arg(i), QStringLiteral("{}"));
+        AwaitCount(ended, i, pause);
+        const CallResult second = Run(request.method, QStringLiteral("/second/%1").arg(i), QStringLiteral("{}"));
         EXPECT_EQ(second.code, 0);
         EXPECT_EQ(second.tag, i);
     }
     EXPECT_EQ(server.TakeRequests().size(), 2U * kCalls);
 }
 
-INSTANTIATE_TEST_SUITE_P(EndedConnections, EndedConnectionTest, testing::ValuesIn(EndedConnections()), RowName());
+INSTANTIATE_TEST_SUITE_P(EndedConnections, EndedConnectionTest,
+                         testing::Combine(testing::Values(kEnds[0], kEnds[2], kEnds[3]),
+                                          testing::Values(RawServer::Http, RawServer::Https),
+                                          testing::Values(Request{"read", APIModule::Method_Get, 2},
+                                                          Request{"write", APIModule::Method_Post, 2}),
+                                          testing::Values(Pause::Loop, Pause::Sleep)),
+                         RowName());
 
 /// Earlier replies on a connection do not matter when its end marks the end of a body.
 TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
 {
     for (const RawServer::Scheme scheme : {RawServer::Http, RawServer::Https}) {
-        RawServer server(
+        RawServer& server = Serve(
             [](const RawRequest& request) {
                 return request.target == "/ok" ? SuccessReply()
                                                : RawReply{"HTTP/1.1 200 OK\r\n\r\n{\"code\":1000,\"data\":{\"n\":7}}",
                                                           0, RawReply::CloseLater};
             },
             scheme);
-        Use(server, scheme);
         for (int i = 0; i < 3; ++i) {
             ASSERT_EQ(Get(QStringLiteral("/ok")).code, 0);
         }
@@ -226,37 +178,32 @@ TEST_F(TransportHost, ReadsABodyUntilTheEndOfAKeptConnection)
 
 /// Writes to servers that close idle connections, with pauses about as long as the servers' idle time.
 struct PauseRow {
-    std::string name;
-    RawServer::Scheme scheme;
+    const char* name;
     int idleMilliseconds;
     int servers;
     int writesPerServer;
 };
 
-void PrintTo(const PauseRow& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
-
-class PauseTest : public TransportHost, public testing::WithParamInterface<PauseRow> {};
+class PauseTest : public TransportHost, public testing::WithParamInterface<std::tuple<PauseRow, RawServer::Scheme>> {};
 
 TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
 {
-    const PauseRow& row = GetParam();
-    const int nWritesPerServer = row.writesPerServer * Times();
+    const PauseRow& pause = std::get<0>(GetParam());
+    const RawServer::Scheme scheme = std::get<1>(GetParam());
+    const int nWritesPerServer = pause.writesPerServer * Times();
     std::vector<std::unique_ptr<RawServer>> servers;
-    for (int i = 0; i < row.servers; ++i) {
+    for (int i = 0; i < pause.servers; ++i) {
         servers.push_back(std::make_unique<RawServer>(
-            [](const RawRequest& request) { return TaggedReply(TagOf(request.target)); }, row.scheme));
-        servers.back()->CloseIdleAfter(row.idleMilliseconds);
+            [](const RawRequest& request) { return TaggedReply(TagOf(request.target)); }, scheme));
+        servers.back()->CloseIdleAfter(pause.idleMilliseconds);
     }
-    Use(*servers.front(), row.scheme);
+    Use(*servers.front(), scheme);
 
     QEventLoop loop;
     QObject context;
     std::mt19937 random(1);  // NOLINT(cert-msc51-cpp): the same pauses in every run
     int nFailures = 0;
-    int nRunning = row.servers;
+    int nRunning = pause.servers;
     // Calls to the same server follow one another; calls to other servers run meanwhile.
     std::function<void(int, int)> write = [&](int nServer, int nWrite) {
         if (nWrite == nWritesPerServer) {
@@ -269,12 +216,12 @@ TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
         const CallResult ended = Run(nWrite % 2 == 0 ? APIModule::Method_Post : APIModule::Method_Put,
                                      QStringLiteral("/write/%1").arg(nWrite), QStringLiteral("{}"));
         nFailures += ended.code != 0 || ended.tag != nWrite ? 1 : 0;
-        const int nPause = row.idleMilliseconds + std::uniform_int_distribution<int>(-20, 20)(random);
+        const int nPause = pause.idleMilliseconds + std::uniform_int_distribution<int>(-20, 20)(random);
         QTimer::singleShot(nPause, Qt::PreciseTimer, &context,
                            [&write, nServer, nWrite] { write(nServer, nWrite + 1); });
     };
-    for (int i = 0; i < row.servers; ++i) {
-        QTimer::singleShot(i * row.idleMilliseconds / row.servers, &context, [&write, i] { write(i, 0); });
+    for (int i = 0; i < pause.servers; ++i) {
+        QTimer::singleShot(i * pause.idleMilliseconds / pause.servers, &context, [&write, i] { write(i, 0); });
     }
     loop.exec();
 
@@ -287,14 +234,12 @@ TEST_P(PauseTest, NeitherLosesNorRepeatsWrites)
             EXPECT_EQ(++arrivals[request.target], 1) << request.target.constData();
         }
     }
-    EXPECT_EQ(nArrivals, row.servers * nWritesPerServer);
+    EXPECT_EQ(nArrivals, pause.servers * nWritesPerServer);
 }
 
 INSTANTIATE_TEST_SUITE_P(Pauses, PauseTest,
-                         testing::Values(PauseRow{"1s_http", RawServer::Http, 1000, 15, 5},
-                                         PauseRow{"1s_https", RawServer::Https, 1000, 15, 5},
-                                         PauseRow{"5s_http", RawServer::Http, 5000, 15, 3},
-                                         PauseRow{"5s_https", RawServer::Https, 5000, 15, 3}),
+                         testing::Combine(testing::Values(PauseRow{"1s", 1000, 15, 5}, PauseRow{"5s", 5000, 15, 3}),
+                                          testing::Values(RawServer::Http, RawServer::Https)),
                          RowName());
 
 }  // namespace

@@ -34,9 +34,7 @@ TEST_P(Separation, CookiesAreNotSentBack)
 
 TEST_P(Separation, CredentialsAreNotSent)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(401, "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"); },
-                     GetParam());
-    Use(server, GetParam());
+    RawServer& server = Serve(HttpReply(401, "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"), GetParam());
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(Get(QStringLiteral("/path")).code, 7000);
     }
@@ -49,8 +47,7 @@ TEST_P(Separation, CredentialsAreNotSent)
 
 TEST_P(Separation, ConnectionsAreKeptUntilUnInit)
 {
-    RawServer server([](const RawRequest&) { return SuccessReply(); }, GetParam());
-    Use(server, GetParam());
+    RawServer& server = Serve(SuccessReply(), GetParam());
     for (int nUse = 1; nUse <= 3; ++nUse) {
         for (int i = 0; i < 4; ++i) {
             ASSERT_EQ(Get(QStringLiteral("/path")).code, 0);
@@ -68,14 +65,9 @@ TEST_P(Separation, ConnectionsAreKeptUntilUnInit)
 /// A call that waits during UnInit returns its result, on a connection that no later call uses.
 TEST_P(Separation, WaitingCallDoesNotShareItsConnection)
 {
-    RawServer server(
-        [](const RawRequest& request) {
-            RawReply reply = SuccessReply();
-            reply.delayMilliseconds = request.target == "/waits" ? 200 : 0;
-            return reply;
-        },
-        GetParam());
-    Use(server, GetParam());
+    RawServer& server =
+        Serve([](const RawRequest& request) { return Delayed(SuccessReply(), request.target == "/waits" ? 200 : 0); },
+              GetParam());
     ASSERT_EQ(Get(QStringLiteral("/path")).code, 0);
     QObject context;
     QTimer::singleShot(50, &context, [this] {
@@ -94,7 +86,6 @@ TEST_P(Separation, WaitingCallDoesNotShareItsConnection)
     EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 1; }));
 }
 
-INSTANTIATE_TEST_SUITE_P(Schemes, Separation, testing::Values(RawServer::Http, RawServer::Https),
-                         [](const auto& row) { return row.param == RawServer::Http ? "http" : "https"; });
+INSTANTIATE_TEST_SUITE_P(Schemes, Separation, testing::Values(RawServer::Http, RawServer::Https), RowName());
 
 }  // namespace

@@ -62,10 +62,7 @@ struct Transfer {
     std::function<RawReply(const QByteArray& body)> make;
 };
 
-void PrintTo(const Transfer& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
+using testing_support::operator<<;
 
 RawReply Chunked(const QByteArray& body)
 {
@@ -103,8 +100,7 @@ TEST_P(TransferTest, IsRejectedOnlyAboveTheLimit)
     const auto& [transfer, scheme] = GetParam();
     constexpr int kBody = 300000;
     constexpr int kHeadAndChunks = 5000;
-    RawServer server([make = transfer.make](const RawRequest&) { return make(Envelope(kBody)); }, scheme);
-    Use(server, scheme);
+    Serve(transfer.make(Envelope(kBody)), scheme);
     const int nExpected = QByteArray(transfer.name).endsWith("404") ? 404 : 0;
 
     CAPIModule::GetInstance().SetMaximumReplySize(kBody + kHeadAndChunks);
@@ -120,18 +116,13 @@ TEST_P(TransferTest, IsRejectedOnlyAboveTheLimit)
 INSTANTIATE_TEST_SUITE_P(Transfers, TransferTest,
                          testing::Combine(testing::ValuesIn(kTransfers),
                                           testing::Values(RawServer::Http, RawServer::Https)),
-                         [](const auto& row) {
-                             return std::string(std::get<0>(row.param).name) +
-                                    (std::get<1>(row.param) == RawServer::Http ? "_http" : "_https");
-                         });
+                         RowName());
 
 /// The server sends only the head, and the call ends without waiting for more.
 TEST_F(SizeTest, IsRejectedAtOnceByItsContentLength)
 {
-    RawServer server([](const RawRequest&) {
-        return RawReply{kOk + "Content-Length: " + QByteArray::number(kDefaultSize + 1) + "\r\n\r\n"};
-    });
-    Use(server);
+    const RawServer& server =
+        Serve(RawReply{kOk + "Content-Length: " + QByteArray::number(kDefaultSize + 1) + "\r\n\r\n"});
     EXPECT_EQ(Get(QStringLiteral("/path")).code, kNetworkError);
     ExpectSizeLimitIsLogged();
     EXPECT_TRUE(Await([&server] { return server.OpenConnectionCount() == 0; }));
@@ -143,19 +134,13 @@ struct Inflated {
     int peak;     ///< limit for the call, in megabytes
 };
 
-void PrintTo(const Inflated& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
-
 class InflatedTest : public SizeTest, public testing::WithParamInterface<Inflated> {};
 
 TEST_P(InflatedTest, GigabyteOfGzipIsRejectedWithinTheMemoryLimit)
 {
     const QByteArray gzip = GzipOfMegabytes(1024);
     ASSERT_LT(gzip.size(), 2 * kMegabyte);
-    RawServer server([&gzip](const RawRequest&) { return HttpReply(200, gzip, "Content-Encoding: gzip\r\n"); });
-    Use(server);
+    Serve(HttpReply(200, gzip, "Content-Encoding: gzip\r\n"));
     CAPIModule::GetInstance().SetMaximumReplySize(GetParam().maximum * kMegabyte);
     ResetPeakOfMemory();
     const qint64 nBefore = PeakOfMemory();
@@ -175,11 +160,6 @@ struct Head {
     std::function<QByteArray()> lines;
     int emptyLinesBefore = 0;
 };
-
-void PrintTo(const Head& row, std::ostream* pStream)
-{
-    *pStream << row.name;
-}
 
 std::function<QByteArray()> Lines(int nLines, const char* name, bool bNumbered)
 {
@@ -217,12 +197,8 @@ class HeadTest : public SizeTest, public testing::WithParamInterface<Head> {};
 /// A reader with quadratic run time would exceed the time-out.
 TEST_P(HeadTest, IsReadBeforeTheTimeOut)
 {
-    const QByteArray lines = GetParam().lines();
     const QByteArray before = QByteArray("\r\n").repeated(GetParam().emptyLinesBefore);
-    RawServer server([&](const RawRequest&) {
-        return RawReply{before + kOk + lines + "Content-Length: 28\r\n\r\n" + Envelope(28)};
-    });
-    Use(server);
+    Serve(RawReply{before + kOk + GetParam().lines() + "Content-Length: 28\r\n\r\n" + Envelope(28)});
     const CallResult ended = Get(QStringLiteral("/path"));
     EXPECT_EQ(ended.code, 0);
     EXPECT_EQ(ended.tag, 1);
