@@ -455,6 +455,7 @@ TEST_F(TypedCall, ThrowingObserverIsHarmless)
     Serve(HttpReply(200, kCompleteReply));
     CAPIModule::GetInstance().SetExchangeObserver([](const ObservedExchange&) { throw std::runtime_error("no"); });
     EXPECT_TRUE(APIModule::Run(GetNumber("/path")));
+    EXPECT_EQ(logs.Take().at(1).message, "Call observer failed! observer threw an exception: no");
 }
 
 TEST_F(TypedCall, TextContainsTheNumberOfAnUnknownCode)

@@ -4,6 +4,8 @@
 
 #include <QTimer>
 
+#include <utility>
+
 using namespace testing_support;
 using APIModule::CAPIModule;
 
@@ -60,6 +62,22 @@ TEST_P(Separation, ConnectionsAreKeptUntilUnInit)
         CAPIModule::GetInstance().Init(&users);
     }
     EXPECT_EQ(server.ConnectionCount(), 3);
+}
+
+TEST_P(Separation, ConnectionIsNotUsedAgainAfterRepliesThatEndIt)
+{
+    RawServer server(
+        [](const RawRequest& request) {
+            return RawReply{request.target == "/chunks" ? "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nnone\r\n"
+                                                        : "HTTP/1.0 200 OK\r\nContent-Length: 13\r\n\r\n{\"code\":1000}"};
+        },
+        GetParam());
+    Use(server, GetParam());
+    int nConnection = 0;
+    for (const auto& [path, code] : {std::pair("/chunks", -1), std::pair("/old", 0), std::pair("/chunks", -1)}) {
+        EXPECT_EQ(Get(QString::fromLatin1(path)).code, code);
+        EXPECT_EQ(server.TakeRequests().at(0).connection, ++nConnection) << path;
+    }
 }
 
 /// A call that waits during UnInit returns its result, on a connection that no later call uses.

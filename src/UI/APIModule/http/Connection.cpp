@@ -381,7 +381,6 @@ void Connection::Close()
     m_pReply = nullptr;
     m_reader.reset();
     m_timer.stop();
-    m_second.reset();
     for (const std::unique_ptr<QTcpSocket>& pSocket : m_dialled) {
         if (pSocket) {
             pSocket->disconnect(this);
