@@ -47,23 +47,7 @@ protected:
     }
     using ExplorerTest::Choose;
 
-    void Click(const char* button) const { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
-
-    /// The rows of the fault list, with their cells joined by '|'.
-    [[nodiscard]] QStringList FaultRows() const
-    {
-        QStringList rows;
-        const auto& list = Find<QTreeWidget>("faults");
-        for (int row = 0; row < list.topLevelItemCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < list.columnCount(); ++column) {
-                cells.append(list.topLevelItem(row)->text(column));
-            }
-            rows.append(cells.join(QLatin1Char('|')));
-        }
-        return rows;
-    }
-
+    [[nodiscard]] QStringList FaultRows() const { return RowsOf(*Find<QTreeWidget>("faults").model()); }
     void AwaitFaults(const QStringList& rows) const
     {
         EXPECT_TRUE(Await([&] { return FaultRows() == rows; })) << FaultRows().join(QLatin1Char('\n')).toStdString();

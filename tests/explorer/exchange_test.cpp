@@ -81,8 +81,7 @@ INSTANTIATE_TEST_SUITE_P(Schemes, ExchangeSchemeTest, testing::Bool(),
 
 TEST_F(ExchangeTest, OutcomeHoldsTheRequestBody)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    testing_support::RawServer& server = Serve(Success("{}"));
     const CallOutcome outcome = Run("BRMS.SetRemoteLogConfig");
     const auto requests = server.TakeRequests();
     ASSERT_EQ(requests.size(), 1U);
@@ -92,8 +91,7 @@ TEST_F(ExchangeTest, OutcomeHoldsTheRequestBody)
 
 TEST_F(ExchangeTest, OutcomeHoldsAReplyThatIsNotAnEnvelope)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(200, "<html>proxy login</html>"); });
-    Use(server.Port());
+    Serve(HttpReply(200, "<html>proxy login</html>"));
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
     EXPECT_FALSE(outcome.succeeded);
     ASSERT_TRUE(outcome.reply);
@@ -135,10 +133,7 @@ TEST_F(ExchangeTest, OutcomeOfARefusedConnectionHasAUrlButNoHeadersAndNoReply)
 
 TEST_F(ExchangeTest, MasksTheTokenInTheUrlAndInReplyHeaders)
 {
-    RawServer server([](const RawRequest&) {
-        return HttpReply(200, "{\"code\": 1000, \"data\": {}}", QByteArray("X-Echo: ") + kToken + "\r\n");
-    });
-    Use(server.Port());
+    Serve(HttpReply(200, "{\"code\": 1000, \"data\": {}}", QByteArray("X-Echo: ") + kToken + "\r\n"));
     Choose("BRMS.GetUserGroupList");
     Find<QLineEdit>("keyword").setText(QStringLiteral("token=") + QLatin1String(kToken));
     ClickRun();

@@ -45,7 +45,6 @@ protected:
         return Run(kCall);
     }
 
-    [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
     [[nodiscard]] QTableView& Table() const { return Find<QTableView>("historyTable"); }
 
     void ChooseRuns(std::initializer_list<int> rows) const
@@ -136,14 +135,7 @@ TEST_F(HistoryTest, ComparesTwoRuns)
     ChooseRuns({0, 1});
     EXPECT_EQ(TextOf("calls"), QStringLiteral("2"));
     Find<QPushButton>("compareRuns").click();
-    const auto& tree = Find<QTreeWidget>("differences");
-    QStringList rows;
-    for (int part = 0; part < tree.topLevelItemCount(); ++part) {
-        for (int row = 0; row < tree.topLevelItem(part)->childCount(); ++row) {
-            const auto* const pItem = tree.topLevelItem(part)->child(row);
-            rows.append(pItem->text(0) + QLatin1Char('|') + pItem->text(1) + QLatin1Char('|') + pItem->text(2));
-        }
-    }
+    const QStringList rows = RowsOf(*Find<QTreeWidget>("differences").model());
     const QString all = rows.join(QLatin1Char('\n'));
     EXPECT_TRUE(rows.contains(QStringLiteral("/settingType|3|4"))) << all.toStdString();
     EXPECT_TRUE(rows.contains(QStringLiteral("/settingContent|\"first\"|\"second\""))) << all.toStdString();

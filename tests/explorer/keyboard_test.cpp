@@ -25,8 +25,6 @@ protected:
     {
         return QApplication::focusWidget() == &part || part.isAncestorOf(QApplication::focusWidget());
     }
-
-    [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
 };
 
 TEST_F(KeyboardTest, F6AndShiftF6MoveBetweenThePanes)
@@ -89,8 +87,7 @@ TEST_F(KeyboardTest, CtrlEInATextFieldOpensTheServersDialog)
 
 TEST_F(KeyboardTest, CtrlFSearchesTheResultWhenItHasFocusAndTheCallsOtherwise)
 {
-    testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("{\"results\": []}"); });
-    Use(server.Port());
+    Serve(Success("{\"results\": []}"));
     Run("OMMS.GetAlertTypes");
     ASSERT_TRUE(Activate());
     const auto expectField = [this](QWidget& from, const char* field) {
@@ -221,8 +218,7 @@ protected:
 
 TEST_P(MnemonicTest, MnemonicsAreUnique)
 {
-    testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("[]"); });
-    Use(server.Port());
+    Serve(Success("[]"));
     emit Window().LanguageChosen(QLatin1String(GetParam()));
     Run("OMMS.GetAlertTypes");
     Choose("BRMS.SetTimeSyncConfig");
@@ -243,7 +239,6 @@ TEST_P(MnemonicTest, MnemonicsAreUnique)
     for (const QMenu* pMenu : menus) {
         ExpectUnique(TextsOf(pMenu->actions()), pMenu->title().toStdString());
     }
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, MnemonicTest, testing::Values("en", "de", "zh"),

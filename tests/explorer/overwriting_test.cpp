@@ -24,8 +24,6 @@ using nlohmann::json;
 
 class OverwritingTest : public ExplorerTest {
 protected:
-    [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
-
     void Fill()
     {
         const std::size_t runs = outcomes.size();
@@ -34,27 +32,16 @@ protected:
     }
 
     /// Waits for the dialog that asks before a write.
-    [[nodiscard]] QDialog* Question() const
+    void AwaitQuestion() const
     {
-        QDialog* pDialog = nullptr;
-        Await([this, &pDialog] {
-            pDialog = Window().findChild<QDialog*>(QStringLiteral("overwriteDialog"));
+        ASSERT_TRUE(Await([this] {
+            const auto* const pDialog = Window().findChild<QDialog*>(QStringLiteral("overwriteDialog"));
             return pDialog != nullptr && pDialog->isVisible();
-        });
-        return pDialog;
+        }));
     }
 
     /// The rows of that dialog, "path|on the server|will be sent|entered".
-    [[nodiscard]] static QStringList RowsOf(const QDialog& question)
-    {
-        const auto& tree = *question.findChild<QTreeWidget*>();
-        QStringList rows;
-        for (int row = 0; row < tree.topLevelItemCount(); ++row) {
-            const QTreeWidgetItem& item = *tree.topLevelItem(row);
-            rows.append(QStringList{item.text(0), item.text(1), item.text(2), item.text(3)}.join(QLatin1Char('|')));
-        }
-        return rows;
-    }
+    [[nodiscard]] QStringList Rows() const { return RowsOf(*Find<QTreeWidget>("overwritten").model()); }
 
     /// The number of runs of a call that have ended.
     [[nodiscard]] int RunsOf(const char* call) const
@@ -129,23 +116,21 @@ TEST_F(OverwritingTest, AsksBeforeUntouchedFieldsReplaceOtherValues)
     Choose("BRMS.SetTimeSyncConfig");
     Find<QLineEdit>("ntpIp").setText(QStringLiteral("10.0.0.9"));
     ClickRun();
-    QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
-    const QStringList rows = RowsOf(*pQuestion);
+    AwaitQuestion();
+    const QStringList rows = Rows();
     EXPECT_TRUE(rows.contains(QStringLiteral("/config/interval|24|0|no"))) << rows.join(u'\n').toStdString();
     EXPECT_TRUE(rows.contains(
         QStringLiteral("/config/ntpIp|%1|\"10.0.0.9\"|yes").arg(QString::fromStdString(current.at("ntpIp").dump()))))
         << rows.join(u'\n').toStdString();
 
-    pQuestion->findChild<QPushButton*>(QStringLiteral("cancelOverwrite"))->click();
+    Click("cancelOverwrite");
     EXPECT_EQ(RecordOf("BRMS.GetTimeSyncConfig"), current);
     EXPECT_EQ(RunsOf("BRMS.SetTimeSyncConfig"), 0);
 
     Choose("BRMS.SetTimeSyncConfig");
     ClickRun();
-    pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
-    pQuestion->findChild<QPushButton*>(QStringLiteral("overwrite"))->click();
+    AwaitQuestion();
+    Click("overwrite");
     ASSERT_TRUE(Await([this] { return RunsOf("BRMS.SetTimeSyncConfig") == 1; }));
     EXPECT_EQ(RecordOf("BRMS.GetTimeSyncConfig").at("interval"), 0);
 }
@@ -174,9 +159,8 @@ TEST_F(OverwritingTest, AsksBeforeReplacingAPlainValue)
     ASSERT_NE(RecordOf("BRMS.GetDeviceLoginModel"), 0);
     Choose("BRMS.SetDeviceLoginModel");
     ClickRun();
-    const QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
-    EXPECT_EQ(RowsOf(*pQuestion), QStringList{QStringLiteral("/model|1|0|no")});
+    AwaitQuestion();
+    EXPECT_EQ(Rows(), QStringList{QStringLiteral("/model|1|0|no")});
 }
 
 TEST_F(OverwritingTest, AsksBeforeAnUntouchedListReplacesTheServersList)
@@ -185,9 +169,8 @@ TEST_F(OverwritingTest, AsksBeforeAnUntouchedListReplacesTheServersList)
     Choose("BRMS.UpdateEncodeConfig");
     Find<QLineEdit>("channelId").setText(QStringLiteral("1000001$1$0$0"));
     ClickRun();
-    const QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
-    EXPECT_TRUE(RowsOf(*pQuestion).join(u'\n').startsWith(QLatin1String("/configs/")));
+    AwaitQuestion();
+    EXPECT_TRUE(Rows().join(u'\n').startsWith(QLatin1String("/configs/")));
 }
 
 TEST_F(OverwritingTest, AsksAboutANewElementThatIsNotFilledIn)
@@ -197,12 +180,11 @@ TEST_F(OverwritingTest, AsksAboutANewElementThatIsNotFilledIn)
     Find<QLineEdit>("quickCommandName").setText(QStringLiteral("Open the gate"));
     Find<QPushButton>("httpUrls.add").click();
     ClickRun();
-    QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
-    const QStringList rows = RowsOf(*pQuestion);
+    AwaitQuestion();
+    const QStringList rows = Rows();
     ASSERT_EQ(rows.size(), 1);
     EXPECT_TRUE(rows.front().startsWith(QLatin1String("/command/httpUrls/0|unknown|"))) << rows.front().toStdString();
-    pQuestion->findChild<QPushButton*>(QStringLiteral("cancelOverwrite"))->click();
+    Click("cancelOverwrite");
     EXPECT_TRUE(outcomes.empty());
 
     Find<QLineEdit>("url").setText(QStringLiteral("http://10.0.0.1/open"));
@@ -213,26 +195,21 @@ TEST_F(OverwritingTest, AsksAboutANewElementThatIsNotFilledIn)
 
 TEST_F(OverwritingTest, QuestionExplainsAFailedRead)
 {
-    testing_support::RawServer server([](const testing_support::RawRequest&) {
-        return testing_support::HttpReply(200, R"({"code": 1003, "desc": "busy"})");
-    });
-    Use(server.Port());
+    Serve(testing_support::HttpReply(200, R"({"code": 1003, "desc": "busy"})"));
     Choose("BRMS.SetRemoteLogConfig");
     ClickRun();
-    const QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
+    AwaitQuestion();
     EXPECT_TRUE(TextOf("overwriteReason").startsWith(QLatin1String("BRMS.GetRemoteLogConfig failed: ")));
-    EXPECT_TRUE(RowsOf(*pQuestion).contains(QStringLiteral("/config/port|unknown|0|no")));
+    EXPECT_TRUE(Rows().contains(QStringLiteral("/config/port|unknown|0|no")));
     EXPECT_EQ(RunsOf("BRMS.SetRemoteLogConfig"), 0);
 }
 
 TEST_F(OverwritingTest, QuestionExplainsAReadWithoutData)
 {
-    testing_support::RawServer server([](const testing_support::RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     Choose("BRMS.SetRemoteLogConfig");
     ClickRun();
-    ASSERT_NE(Question(), nullptr);
+    AwaitQuestion();
     EXPECT_EQ(TextOf("overwriteReason"), QStringLiteral("BRMS.GetRemoteLogConfig returned no data"));
 }
 
@@ -246,9 +223,8 @@ TEST_F(OverwritingTest, AsksBeforeWritingValuesReadFromAnotherServer)
     Fill();
     Use(other.Port());
     ClickRun();
-    const QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
-    EXPECT_TRUE(RowsOf(*pQuestion).join(u'\n').contains(QLatin1String("/config/platformId|\"other\"|")));
+    AwaitQuestion();
+    EXPECT_TRUE(Rows().join(u'\n').contains(QLatin1String("/config/platformId|\"other\"|")));
     EXPECT_EQ(RunsOf("BRMS.SetRemoteLogConfig"), 0);
 }
 
@@ -258,10 +234,9 @@ TEST_F(OverwritingTest, RepeatedWriteAsksOnce)
     Choose("BRMS.SetDeviceLoginModel");
     Find<QTabWidget>("results").setCurrentIndex(2);
     Find<QPushButton>("repeat").click();
-    QDialog* pQuestion = Question();
-    ASSERT_NE(pQuestion, nullptr);
+    AwaitQuestion();
     EXPECT_EQ(RunsOf("BRMS.SetDeviceLoginModel"), 0);
-    pQuestion->findChild<QPushButton*>(QStringLiteral("overwrite"))->click();
+    Click("overwrite");
     ASSERT_TRUE(Await([this] { return !session->runner.IsRepeating() && RunsOf("BRMS.SetDeviceLoginModel") > 1; }));
 }
 

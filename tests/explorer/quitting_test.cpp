@@ -29,19 +29,16 @@ TEST_P(QuittingTest, ClosingTheLastWindowDuringACallEndsTheCallAndTheProgram)
     Find<QSpinBox>("timeout").setValue(kLong);
     Choose("BRMS.GetRemoteLogConfig");
     ClickRun();
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer, &requests] {
-        if (requests > 0) {
-            timer.stop();
-            EXPECT_TRUE(outcomes.empty());
-            Window().close();
-        }
-    });
-    timer.start(10);
-    QTimer::singleShot(kPatience, &timer, &QApplication::quit);
+    bool closed = false;
+    When([&requests] { return requests > 0; },
+         [this, &closed] {
+             EXPECT_TRUE(outcomes.empty());
+             closed = Window().close();
+         });
+    QTimer::singleShot(kPatience, session.get(), &QApplication::quit);
     QApplication::setQuitOnLastWindowClosed(true);
     QApplication::exec();
-    EXPECT_FALSE(timer.isActive());
+    EXPECT_TRUE(closed);
     EXPECT_EQ(session->runner.Pending(), 0);
     ASSERT_EQ(outcomes.size(), 1U);
     EXPECT_EQ(outcomes.front().result, -101);

@@ -38,6 +38,16 @@ class ScreenshotTest : public ExplorerTest {
 protected:
     ScreenshotTest() { Window().resize(kSmall); }
 
+    /// Starts the program again in a language and an appearance.
+    void StartIn(const char* language, Appearance appearance)
+    {
+        explorer::StoreLanguage(*settings, QLatin1String(language));
+        explorer::StoreAppearance(*settings, appearance);
+        Close();
+        Start();
+        Window().resize(kSmall);
+    }
+
     void SaveScreenshot(QWidget& widget, const char* name) const
     {
         QTest::qWait(100);  // until layouts and style animations are done
@@ -84,15 +94,12 @@ TEST_P(MainStateTest, PaintsResultRequestAndTiming)
     SaveScreenshot(Window(), ("result" + suffix).c_str());
     results.setCurrentIndex(1);
     SaveScreenshot(Window(), ("request" + suffix).c_str());
-    explorer::RunOrder order;
-    order.call = catalogue::FindCall("BRMS.GetQuickCommands");
+    explorer::RunOrder order = OrderOf("BRMS.GetQuickCommands");
     order.arguments = {{QStringLiteral("keyword"), QString()}};
-    order.server = session->servers.Current();
     session->runner.Repeat(order, 30);
     ASSERT_TRUE(AwaitRuns(34));
     results.setCurrentIndex(2);
     SaveScreenshot(Window(), ("timing" + suffix).c_str());
-    explorer::ApplyAppearance(Appearance::Light);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, MainStateTest,
@@ -107,16 +114,12 @@ class LanguageTest : public ScreenshotTest, public testing::WithParamInterface<c
 
 TEST_P(LanguageTest, PaintsTheWindowAndTheServersDialog)
 {
-    explorer::StoreLanguage(*settings, QLatin1String(GetParam()));
-    Close();
-    Start();
-    Window().resize(kSmall);
+    StartIn(GetParam(), Appearance::System);
     FillWithResults();
     Choose("BRMS.SetTimeSyncConfig");
     SaveScreenshot(Window(), (std::string("language-") + GetParam()).c_str());
-    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    Click("editServers");
     SaveScreenshot(Find<QDialog>("serversDialog"), (std::string("servers-") + GetParam()).c_str());
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, testing::Values("en", "de", "zh"),
@@ -129,11 +132,7 @@ TEST_P(OverwritingTest, PaintsTheQuestionAndTheForm)
 {
     const auto [language, appearance] = GetParam();
     const std::string suffix = std::string("-") + language + (appearance == Appearance::Dark ? "-dark" : "-light");
-    explorer::StoreLanguage(*settings, QLatin1String(language));
-    Close();
-    Start();
-    explorer::ApplyAppearance(appearance);
-    Window().resize(kSmall);
+    StartIn(language, appearance);
     UseEmulator();
     Choose("BRMS.SetTimeSyncConfig");
     Find<QLineEdit>("ntpIp").setText(QStringLiteral("10.0.0.9"));
@@ -149,8 +148,6 @@ TEST_P(OverwritingTest, PaintsTheQuestionAndTheForm)
     SaveScreenshot(Window(), ("refused" + suffix).c_str());
     Choose("BRMS.UpdateImageConfig");
     SaveScreenshot(Window(), ("fill" + suffix).c_str());
-    explorer::ApplyAppearance(Appearance::Light);
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Appearances, OverwritingTest,
@@ -164,11 +161,7 @@ class EmulatorPanelTest : public ScreenshotTest,
 TEST_P(EmulatorPanelTest, PaintsEachPage)
 {
     const auto [language, appearance] = GetParam();
-    explorer::StoreLanguage(*settings, QLatin1String(language));
-    Close();
-    Start();
-    explorer::ApplyAppearance(appearance);
-    Window().resize(kSmall);
+    StartIn(language, appearance);
     UseEmulator();
     Find<QTabWidget>("results").setCurrentIndex(3);
     auto& tabs = Find<QTabWidget>("emulatorTabs");
@@ -185,7 +178,7 @@ TEST_P(EmulatorPanelTest, PaintsEachPage)
     auto& kinds = Find<QComboBox>("faultKind");
     kinds.setCurrentIndex(kinds.findData(QStringLiteral("status")));
     for (int fault = 0; fault < 2; ++fault) {
-        QTest::mouseClick(&Find<QPushButton>("addFault"), Qt::LeftButton);
+        Click("addFault");
         ASSERT_TRUE(Await([&] { return Find<QTreeWidget>("faults").topLevelItemCount() == fault + 1; }));
         Find<QSpinBox>("faultTimes").setValue(0);
     }
@@ -197,8 +190,6 @@ TEST_P(EmulatorPanelTest, PaintsEachPage)
     Find<QSpinBox>("timeout").setValue(4000);
     SaveScreenshot(Window(), ("emulator-start" + suffix).c_str());
     Find<QSpinBox>("timeout").setValue(0);
-    explorer::ApplyAppearance(Appearance::Light);
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, EmulatorPanelTest,
@@ -211,11 +202,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, EmulatorPanelTest,
 
 TEST_F(ScreenshotTest, PaintsAFailure)
 {
-    RawServer server([](const RawRequest&) {
-        return testing_support::HttpReply(200,
-                                          "{\"code\": 1002, \"desc\": \"/interval: expected integer, got string\"}");
-    });
-    Use(server.Port());
+    Serve(testing_support::HttpReply(200, "{\"code\": 1002, \"desc\": \"/interval: expected integer, got string\"}"));
     Run("BRMS.SetTimeSyncConfig");
     SaveScreenshot(Window(), "failure");
 }
@@ -223,33 +210,30 @@ TEST_F(ScreenshotTest, PaintsAFailure)
 TEST_F(ScreenshotTest, PaintsNestedArguments)
 {
     Choose("BRMS.AddQuickCommand");
-    Window().findChild<explorer::ArgumentForm*>()->SetArguments(
-        {{QStringLiteral("command"),
-          QJsonObject{
-              {QStringLiteral("quickCommandName"), QStringLiteral("Sound the horn")},
-              {QStringLiteral("httpUrls"),
-               QJsonArray{QJsonObject{{QStringLiteral("method"), 2},
-                                      {QStringLiteral("url"), QStringLiteral("http://192.168.30.7/horn")}}}}}}});
+    Form().SetArguments({{QStringLiteral("command"),
+                          QJsonObject{{QStringLiteral("quickCommandName"), QStringLiteral("Sound the horn")},
+                                      {QStringLiteral("httpUrls"),
+                                       QJsonArray{QJsonObject{
+                                           {QStringLiteral("method"), 2},
+                                           {QStringLiteral("url"), QStringLiteral("http://192.168.30.7/horn")}}}}}}});
     SaveScreenshot(Window(), "nested-arguments");
 }
 
 TEST_F(ScreenshotTest, PaintsTheWindowWhileACallWaits)
 {
-    RawServer server([](const RawRequest&) { return RawReply{}; });
-    Use(server.Port());
+    Serve(RawReply{});
     Find<QSpinBox>("timeout").setValue(4);
     Choose("BRMS.GetTimeSyncConfig");
     ClickRun();
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer] {
-        if (QApplication::activeModalWidget() != nullptr) {
-            timer.stop();
-            SaveScreenshot(Window(), "waiting");
-        }
-    });
-    timer.start(500);
+    bool saved = false;
+    When([] { return QApplication::activeModalWidget() != nullptr; },
+         [this, &saved] {
+             QTest::qWait(500);  // until the wait dialog shows its progress
+             SaveScreenshot(Window(), "waiting");
+             saved = true;
+         });
     ASSERT_TRUE(AwaitRuns(1));
-    EXPECT_FALSE(timer.isActive());
+    EXPECT_TRUE(saved);
 }
 
 class WithoutWaitingTest : public ScreenshotTest, public testing::WithParamInterface<Appearance> {};
@@ -266,7 +250,6 @@ TEST_P(WithoutWaitingTest, PaintsTheRunningCalls)
     }
     ASSERT_TRUE(Await([this] { return session->runner.WithoutWaiting().size() == 3; }));
     SaveScreenshot(Window(), GetParam() == Appearance::Dark ? "without-waiting-dark" : "without-waiting-light");
-    explorer::ApplyAppearance(Appearance::Light);
 }
 
 INSTANTIATE_TEST_SUITE_P(Appearances, WithoutWaitingTest, testing::Values(Appearance::Light, Appearance::Dark),

@@ -20,17 +20,7 @@ protected:
         Start();
     }
 
-    std::optional<QString> Read(const QString& serverId)
-    {
-        bool answered = false;
-        std::optional<QString> token;
-        m_service.Read(serverId, [&](const std::optional<QString>& found) {
-            answered = true;
-            token = found;
-        });
-        EXPECT_TRUE(Await([&answered] { return answered; }));
-        return token;
-    }
+    std::optional<QString> Read(const QString& serverId) { return ReadFrom(m_service, serverId); }
 
 private:
     explorer::SecretService m_service;

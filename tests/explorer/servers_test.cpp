@@ -28,8 +28,7 @@ protected:
     /// Opens the servers dialog and adds a server.
     void AddServer(const QString& name, const QString& host, int port, const QString& token)
     {
-        QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
-        QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+        OpenNewServer();
         TypeInto("serverName", name);
         TypeInto("serverHost", host);
         Find<QSpinBox>("serverPort").setValue(port);
@@ -38,6 +37,12 @@ protected:
         Find<QSpinBox>("serverPort").setValue(port);
         TypeInto("serverToken", token);
         Press("serversDialog", QDialogButtonBox::Ok);
+    }
+
+    void OpenNewServer() const
+    {
+        Click("editServers");
+        Click("addServer");
     }
 
     void TypeInto(const char* field, const QString& text) const
@@ -174,8 +179,7 @@ struct Url {
 
 TEST_F(ServersTest, UrlPastedAsTheHostFillsSchemeHostAndPort)
 {
-    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
-    QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+    OpenNewServer();
     auto& host = Find<QLineEdit>("serverHost");
     const Url urls[] = {{"http://vms.example:8080/login?x=1", "vms.example", false, 8080},
                         {" https://vms.example/ ", "vms.example", true, 443},
@@ -199,15 +203,14 @@ TEST_F(ServersTest, NewServerBecomesTheCurrentOne)
     AddServer(QStringLiteral("First"), QStringLiteral("first.example"), 80, QStringLiteral("t"));
     EXPECT_EQ(session->servers.Current().name, QStringLiteral("First"));
     session->servers.SetCurrent(0);
-    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    Click("editServers");
     Press("serversDialog", QDialogButtonBox::Ok);
     EXPECT_TRUE(session->servers.IsEmulator()) << "no server was added";
 }
 
 TEST_F(ServersTest, CancellingTheTokenDialogCancelsTheRun)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    testing_support::RawServer& server = Serve(Success("{}"));
     session->tokens.Forget(session->servers.Current().id);
     Choose("BRMS.GetRemoteLogConfig");
     ClickRun();
@@ -221,9 +224,9 @@ TEST_F(ServersTest, RemovingAServerRemovesItsToken)
 {
     AddServer(QStringLiteral("Old"), QStringLiteral("old.example"), 80, QStringLiteral("gone"));
     ASSERT_EQ(vault.tokens.size(), 1);
-    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+    Click("editServers");
     Find<QListWidget>("serverList").setCurrentRow(1);
-    QTest::mouseClick(&Find<QToolButton>("removeServer"), Qt::LeftButton);
+    Click("removeServer");
     Press("serversDialog", QDialogButtonBox::Ok);
     EXPECT_EQ(session->servers.All().size(), 1);
     EXPECT_TRUE(vault.tokens.isEmpty());
@@ -231,8 +234,7 @@ TEST_F(ServersTest, RemovingAServerRemovesItsToken)
 
 TEST_F(ServersTest, CancellingTheServersDialogChangesNothing)
 {
-    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
-    QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+    OpenNewServer();
     Press("serversDialog", QDialogButtonBox::Cancel);
     EXPECT_EQ(session->servers.All().size(), 1);
 }
@@ -241,29 +243,25 @@ class CertificateTest : public ServersTest {
 protected:
     CertificateTest()
         : m_certificate(testing_support::MakeCertificate()),
-          m_configuration(testing_support::ServerConfiguration(m_certificate))
-    {}
+          server([](const RawRequest&) { return Success("{}"); }, testing_support::ServerConfiguration(m_certificate))
+    {
+        Use(server.Port(), true);
+    }
 
-    /// The TLS configuration of a server that presents the test's certificate.
-    [[nodiscard]] const QSslConfiguration& Configuration() const { return m_configuration; }
     [[nodiscard]] QByteArray Digest() const { return m_certificate.certificate.digest(QCryptographicHash::Sha256); }
-
-    static testing_support::RawReply Reply(const RawRequest&) { return Success("{}"); }
 
     /// Opens the servers dialog and selects the last server.
     void Edit()
     {
-        QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
+        Click("editServers");
         Find<QListWidget>("serverList").setCurrentRow(session->servers.All().size() - 1);
     }
 
     void ShowCertificate()
     {
-        QTest::mouseClick(&Find<QPushButton>("showCertificate"), Qt::LeftButton);
+        Click("showCertificate");
         ASSERT_TRUE(Await([this] { return Find<QPushButton>("showCertificate").isEnabled(); }));
     }
-
-    void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
 
     /// The digest that a label shows.
     [[nodiscard]] QByteArray DigestIn(const char* label) const
@@ -279,7 +277,7 @@ protected:
         session->servers.Replace(servers);
     }
 
-    void ExpectRefused(RawServer& server)
+    void ExpectRefused()
     {
         server.ReplyToAnything();
         const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
@@ -292,13 +290,13 @@ protected:
 
 private:
     const testing_support::Certificate m_certificate;
-    const QSslConfiguration m_configuration;
+
+protected:
+    RawServer server;
 };
 
 TEST_F(CertificateTest, IsStoredWithTheServerOnceTheUserTrustsIt)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     Edit();
     EXPECT_FALSE(Find<QPushButton>("trustCertificate").isEnabled()) << "no certificate has been shown yet";
     ShowCertificate();
@@ -318,8 +316,6 @@ TEST_F(CertificateTest, IsStoredWithTheServerOnceTheUserTrustsIt)
 
 TEST_F(CertificateTest, WarnsWhenItHasChanged)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     const QByteArray before(Digest().size(), 'x');
     Trust(before);
     Edit();
@@ -337,8 +333,6 @@ TEST_F(CertificateTest, WarnsWhenItHasChanged)
 
 TEST_F(CertificateTest, TrustingAnyCertificateRemovesThePin)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     Trust(QByteArray(Digest().size(), 'x'));
     Edit();
     Click("trustAnyCertificate");
@@ -358,8 +352,6 @@ TEST_F(CertificateTest, ReportsThatAnUnreachableServerShowsNone)
 
 TEST_F(CertificateTest, ChangingTheAddressDiscardsTheShownCertificate)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     Edit();
     ShowCertificate();
     EXPECT_TRUE(Find<QPushButton>("trustCertificate").isEnabled());
@@ -372,8 +364,6 @@ class PinnedServerTest : public CertificateTest {};
 
 TEST_F(PinnedServerTest, SucceedsWithThePinnedCertificate)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     Trust(Digest());
     const CallOutcome outcome = Run("BRMS.GetRemoteLogConfig");
     EXPECT_TRUE(outcome.succeeded);
@@ -383,28 +373,23 @@ TEST_F(PinnedServerTest, SucceedsWithThePinnedCertificate)
 
 TEST_F(PinnedServerTest, SendsNothingToAServerWithAnotherCertificate)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     Trust(QByteArray(Digest().size(), 'x'));
-    ExpectRefused(server);
+    ExpectRefused();
 }
 
 TEST_F(PinnedServerTest, DoesNotReuseAConnectionMadeBeforeThePinChanged)
 {
-    RawServer server(Reply, Configuration());
-    Use(server.Port(), true);
     EXPECT_TRUE(Run("BRMS.GetRemoteLogConfig").succeeded);
     server.TakeRequests();
     Trust(QByteArray(Digest().size(), 'x'));
-    ExpectRefused(server);
+    ExpectRefused();
 }
 
 class HostTest : public ServersTest, public testing::WithParamInterface<std::pair<const char*, bool>> {};
 
 TEST_P(HostTest, OkIsEnabledOnlyForValidHost)
 {
-    QTest::mouseClick(&Find<QPushButton>("editServers"), Qt::LeftButton);
-    QTest::mouseClick(&Find<QToolButton>("addServer"), Qt::LeftButton);
+    OpenNewServer();
     TypeInto("serverHost", QString::fromUtf8(GetParam().first));
     EXPECT_EQ(Find<QDialog>("serversDialog").findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled(),
               GetParam().second);
@@ -489,14 +474,7 @@ TEST_F(ServersTest, ReportsAMissingEmulatorProgram)
 TEST(SecretServiceTest, ReturnsNoTokenForAnUnknownServer)
 {
     explorer::SecretService service;
-    bool answered = false;
-    std::optional<QString> token;
-    service.Read(QStringLiteral("no-such-server"), [&](const std::optional<QString>& found) {
-        answered = true;
-        token = found;
-    });
-    EXPECT_TRUE(Await([&answered] { return answered; }));
-    EXPECT_FALSE(token);
+    EXPECT_FALSE(ReadFrom(service, QStringLiteral("no-such-server")));
 }
 
 }  // namespace

@@ -56,16 +56,13 @@ protected:
     {
         Choose(kCall);
         ClickRun();
-        QTimer timer;
         bool happened = false;
-        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            if (!happened && server.Requests() > 0) {
-                happened = true;
-                EXPECT_EQ(outcomes.size(), 0U);
-                meanwhile();
-            }
-        });
-        timer.start(10);
+        When([&server] { return server.Requests() > 0; },
+             [&] {
+                 happened = true;
+                 EXPECT_EQ(outcomes.size(), 0U);
+                 meanwhile();
+             });
         EXPECT_TRUE(Await([this] { return session->runner.Pending() == 0; }));
         EXPECT_TRUE(happened);
     }
@@ -180,14 +177,7 @@ TEST_F(WaitingTest, SimultaneousRunsOfOneCallHaveSeparateResults)
     Use(WaitMode::EventLoop);
     Choose(kCall);
     ClickRun();
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [this, &timer, &count] {
-        if (count == 1) {
-            timer.stop();
-            ClickRun();
-        }
-    });
-    timer.start(10);
+    When([&count] { return count == 1; }, [this] { ClickRun(); });
     ASSERT_TRUE(AwaitRuns(2));
     EXPECT_EQ(outcomes.at(0).result, 503);
     EXPECT_EQ(outcomes.at(0).reply->status, 503);
@@ -243,7 +233,6 @@ TEST_P(ClosingTest, CallStillTimesOutAfterALanguageChangeReplacesTheWindow)
     ASSERT_EQ(outcomes.size(), 1U);
     EXPECT_EQ(outcomes.front().result, -101);
     EXPECT_TRUE(Await([&old] { return old.isNull(); }));
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 INSTANTIATE_TEST_SUITE_P(WaitModes, ClosingTest, testing::ValuesIn(kWaitModes), WaitModeName);
@@ -286,22 +275,16 @@ TEST_F(WaitingTest, DeletingTheParentEndsTheWait)
     Use(server.Port());
     auto* pParent = new QWidget;
     pParent->show();
-    explorer::RunOrder order;
-    order.call = catalogue::FindCall(kCall);
-    order.server = session->servers.Current();
+    explorer::RunOrder order = OrderOf(kCall);
     order.waitMode = WaitMode::WaitDialog;
     order.parent = pParent;
     session->runner.Order(order);
     QElapsedTimer clock;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        if (server.Requests() == 1) {
-            timer.stop();
-            clock.start();
-            delete pParent;
-        }
-    });
-    timer.start(10);
+    When([&server] { return server.Requests() == 1; },
+         [&clock, pParent] {
+             clock.start();
+             delete pParent;
+         });
     ASSERT_TRUE(AwaitRuns(1));
     ASSERT_TRUE(clock.isValid());
     EXPECT_LT(clock.elapsed(), 5000);  // the call's own time-out is 10 s
@@ -391,14 +374,11 @@ TEST_F(WithoutWaitingTest, NewWindowListsTheRunningCalls)
     ASSERT_EQ(CancelButtons().size(), 1);
     QTest::mouseClick(CancelButtons().constFirst(), Qt::LeftButton);
     EXPECT_EQ(outcomes.size(), 1U);
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 TEST_F(WithoutWaitingTest, RefusesACallWithAMissingArgument)
 {
-    explorer::RunOrder order;
-    order.call = catalogue::FindCall("BRMS.GetLocalSetting");
-    order.server = session->servers.Current();
+    explorer::RunOrder order = OrderOf("BRMS.GetLocalSetting");
     order.waitMode = WaitMode::WithoutWaiting;
     session->runner.Order(order);
     ASSERT_TRUE(AwaitRuns(1));

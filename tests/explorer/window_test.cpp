@@ -39,22 +39,6 @@ constexpr const char* kCall = "BRMS.GetRemoteLogConfig";
 
 class WindowTest : public ExplorerTest {
 protected:
-    /// The texts of all rows of a tree, nested rows included.
-    static QStringList RowsOf(const QAbstractItemModel& model, const QModelIndex& parent = {})
-    {
-        QStringList rows;
-        for (int row = 0; row < model.rowCount(parent); ++row) {
-            const QModelIndex index = model.index(row, 0, parent);
-            QStringList cells;
-            for (int column = 0; column < model.columnCount(parent); ++column) {
-                cells.append(index.sibling(row, column).data().toString());
-            }
-            rows.append(cells.join(QLatin1Char('|')));
-            rows += RowsOf(model, index);
-        }
-        return rows;
-    }
-
     void Filter(const char* text) const { Find<QLineEdit>("callFilter").setText(QString::fromUtf8(text)); }
     [[nodiscard]] QStringList Calls() const { return RowsOf(*Find<QTreeView>("callTree").model()); }
     [[nodiscard]] bool HasEndpoints() const
@@ -75,7 +59,7 @@ TEST_F(WindowTest, CallCanBeChosenFilledInAndRunByKeyboardAlone)
     Press(Qt::Key_Return);
     EXPECT_EQ(TextOf("callName"), QStringLiteral("GetLocalSetting"));
     Press(Qt::Key_Return);
-    ASSERT_TRUE(Window().findChild<explorer::ArgumentForm*>()->isAncestorOf(QApplication::focusWidget()));
+    ASSERT_TRUE(Form().isAncestorOf(QApplication::focusWidget()));
     Press(Qt::Key_A, Qt::ControlModifier);
     TypeInFocus(QStringLiteral("3"));
     Press(Qt::Key_F5);
@@ -104,7 +88,7 @@ TEST_F(WindowTest, DescribesTheCallAndItsArgumentsFromTheContract)
         QStringLiteral("Returns the data that the server stores for the client under one setting type.");
     EXPECT_EQ(summary.accessibleDescription(), description);
     EXPECT_TRUE(summary.toolTip().contains(description)) << summary.toolTip().toStdString();
-    const auto labels = Window().findChild<explorer::ArgumentForm*>()->findChildren<QLabel*>();
+    const auto labels = Form().findChildren<QLabel*>();
     ASSERT_EQ(labels.first()->accessibleName(), QStringLiteral("settingType"));
     const QString tip = labels.first()->toolTip();
     EXPECT_TRUE(tip.startsWith(QLatin1String("<p>int. Kind of setting, a server-defined code such as 1.")))
@@ -123,8 +107,7 @@ TEST_F(WindowTest, CopiedPathHasNoInvisibleCharacters)
 
 TEST_F(WindowTest, RequestTabFollowsTheForm)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    testing_support::RawServer& server = Serve(Success("{}"));
     Choose("BRMS.GetLocalSetting");
     auto& results = Find<QTabWidget>("results");
     results.setCurrentIndex(1);
@@ -134,8 +117,7 @@ TEST_F(WindowTest, RequestTabFollowsTheForm)
     EXPECT_TRUE(text("curl").contains(QStringLiteral("\"$TOKEN\"")));
 
     const int lines = session->log.rowCount();
-    auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
-    auto* const pNumber = pForm->findChild<explorer::NumberBox*>();
+    auto* const pNumber = Form().findChild<explorer::NumberBox*>();
     pNumber->selectAll();
     QTest::keyClicks(pNumber, QStringLiteral("7"));
     EXPECT_TRUE(Await([&] { return target().endsWith(QStringLiteral("settingType=7")); })) << target().toStdString();
@@ -176,8 +158,7 @@ class FailureTest : public WindowTest, public testing::WithParamInterface<Failur
 
 TEST_P(FailureTest, IsShownInWordsAndAsANotification)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(GetParam().status, GetParam().body); });
-    Use(server.Port());
+    Serve(HttpReply(GetParam().status, GetParam().body));
     const CallOutcome outcome = Run(kCall);
     EXPECT_EQ(outcome.result, GetParam().result);
     EXPECT_FALSE(outcome.succeeded);
@@ -240,9 +221,7 @@ TEST_F(WindowTest, NotificationsShowWhetherTheirCallSucceeded)
 
 TEST_F(WindowTest, OutcomeHoldsTheFieldsReadBeforeTheError)
 {
-    RawServer server(
-        [](const RawRequest&) { return HttpReply(200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}"); });
-    Use(server.Port());
+    Serve(HttpReply(200, "{\"code\": 1000, \"data\": {\"enable\": \"1\"}}"));
     const CallOutcome outcome = Run(kCall);
     EXPECT_TRUE(outcome.record.at("enable").get<bool>());
     EXPECT_EQ(outcome.record.at("ip").get<std::string>(), "");
@@ -275,31 +254,28 @@ TEST_F(WindowTest, FilterFindsCallsByNamePathAndKeyInAnyCase)
 TEST_F(WindowTest, FilterKeepsTheChosenCallAndItsArguments)
 {
     Choose("BRMS.GetLocalSetting");
-    auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
-    pForm->SetArguments({{QStringLiteral("settingType"), 7}});
+    Form().SetArguments({{QStringLiteral("settingType"), 7}});
     const auto& tree = Find<QTreeView>("callTree");
     for (const char* text : {"wash", "no such thing", "localsetting", ""}) {
         Filter(text);
         EXPECT_EQ(TextOf("callName"), QStringLiteral("GetLocalSetting")) << text;
     }
     EXPECT_EQ(tree.currentIndex().data().toString(), QStringLiteral("GetLocalSetting"));
-    EXPECT_EQ(pForm->Arguments().value(QLatin1String("settingType")).toInt(), 7);
+    EXPECT_EQ(Form().Arguments().value(QLatin1String("settingType")).toInt(), 7);
 }
 
 TEST_F(WindowTest, RestoresTheArgumentsWhenACallIsChosenAgain)
 {
     Choose("BRMS.GetLocalSetting");
-    auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
-    pForm->SetArguments({{QStringLiteral("settingType"), 7}});
+    Form().SetArguments({{QStringLiteral("settingType"), 7}});
     Choose(kCall);
     Choose("BRMS.GetLocalSetting");
-    EXPECT_EQ(pForm->Arguments().value(QLatin1String("settingType")).toInt(), 7);
+    EXPECT_EQ(Form().Arguments().value(QLatin1String("settingType")).toInt(), 7);
 }
 
 TEST_F(WindowTest, KeepsFavouritesAndRecentlyUsedCallsAcrossRestarts)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     Run("BRMS.GetTimeSyncConfig");
     Run(kCall);
     ASSERT_TRUE(Activate());
@@ -316,8 +292,7 @@ TEST_F(WindowTest, KeepsFavouritesAndRecentlyUsedCallsAcrossRestarts)
 
 TEST_F(WindowTest, RunningARecentlyUsedCallKeepsItChosen)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     Run("BRMS.GetTimeSyncConfig");
     Run(kCall);
     auto& tree = Find<QTreeView>("callTree");
@@ -334,23 +309,20 @@ TEST_F(WindowTest, RunningARecentlyUsedCallKeepsItChosen)
 
 TEST_F(WindowTest, RestoresTheLastArgumentsAfterARestart)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     Choose("BRMS.GetLocalSetting");
-    auto* const pForm = Window().findChild<explorer::ArgumentForm*>();
-    pForm->SetArguments({{QStringLiteral("settingType"), 7}});
+    Form().SetArguments({{QStringLiteral("settingType"), 7}});
     ClickRun();
     ASSERT_TRUE(AwaitRuns(1));
     Close();
     Start();
-    EXPECT_EQ(Window().findChild<explorer::ArgumentForm*>()->Arguments().value(QLatin1String("settingType")).toInt(),
-              7);
+    EXPECT_EQ(Form().Arguments().value(QLatin1String("settingType")).toInt(), 7);
 }
 
 TEST_F(WindowTest, ArgumentOfTheWrongTypeDisablesRun)
 {
     Choose("BRMS.GetLocalSetting");
-    auto* const pNumber = Window().findChild<explorer::ArgumentForm*>()->findChild<explorer::NumberBox*>();
+    auto* const pNumber = Form().findChild<explorer::NumberBox*>();
     ASSERT_NE(pNumber, nullptr);
     pNumber->setFocus();
     pNumber->selectAll();
@@ -363,12 +335,9 @@ TEST_F(WindowTest, ArgumentOfTheWrongTypeDisablesRun)
 
 TEST_F(WindowTest, RepetitionRunsTheGivenNumberOfTimesAndCanBeCancelled)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     Choose(kCall);
-    explorer::RunOrder order;
-    order.call = catalogue::FindCall(kCall);
-    order.server = session->servers.Current();
+    const explorer::RunOrder order = OrderOf(kCall);
     const QSignalSpy ends(&session->runner, &explorer::Runner::RepeatEnded);
     session->runner.Repeat(order, 20);
     ASSERT_TRUE(Await([&ends] { return ends.count() == 1; }));
@@ -388,11 +357,8 @@ TEST_F(WindowTest, RepetitionRunsTheGivenNumberOfTimesAndCanBeCancelled)
 
 TEST_F(WindowTest, IgnoresANewRepetitionUntilACancelledOneHasEnded)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
-    explorer::RunOrder order;
-    order.call = catalogue::FindCall(kCall);
-    order.server = session->servers.Current();
+    Serve(Success("{}"));
+    const explorer::RunOrder order = OrderOf(kCall);
     const QSignalSpy ends(&session->runner, &explorer::Runner::RepeatEnded);
     QObject::connect(&session->runner, &explorer::Runner::Started, session.get(), [this, order] {
         if (outcomes.size() == 2) {  // during the third run
@@ -408,8 +374,7 @@ TEST_F(WindowTest, IgnoresANewRepetitionUntilACancelledOneHasEnded)
 
 TEST_F(WindowTest, LogLinesCanBeSearchedAndFilteredByLevel)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(500, ""); });
-    Use(server.Port());
+    Serve(HttpReply(500, ""));
     Run(kCall);
     auto& table = Find<QTableView>("logTable");
     const auto texts = [&table] {
@@ -434,8 +399,7 @@ TEST_F(WindowTest, LogLinesCanBeSearchedAndFilteredByLevel)
 
 TEST_F(WindowTest, TokenIsInNeitherTheRequestNorTheLog)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     const CallOutcome outcome = Run(kCall);
     EXPECT_FALSE(outcome.request.url.contains(QLatin1String(kToken)));
     for (const explorer::Header& header : outcome.request.headers) {
@@ -449,8 +413,7 @@ TEST_F(WindowTest, TokenIsInNeitherTheRequestNorTheLog)
 
 TEST_F(WindowTest, HasATranslationForEachLanguageOfTheErrorTexts)
 {
-    RawServer server([](const RawRequest&) { return HttpReply(404, ""); });
-    Use(server.Port());
+    Serve(HttpReply(404, ""));
     const std::pair<const char*, const char*> languages[] = {{"de", "Ausführen"}, {"zh", "运行"}, {"en", "Run"}};
     for (const auto& [language, run] : languages) {
         emit Window().LanguageChosen(QLatin1String(language));
@@ -464,7 +427,6 @@ TEST_F(WindowTest, HasATranslationForEachLanguageOfTheErrorTexts)
     Close();
     Start();
     EXPECT_EQ(Find<QPushButton>("run").text(), QStringLiteral("Ausführen"));
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 TEST_F(WindowTest, ResultHeaderShowsEveryLine)
@@ -480,30 +442,26 @@ TEST_F(WindowTest, ResultHeaderShowsEveryLine)
         }
     };
     awaitLines("at start");
-    RawServer server([](const RawRequest&) { return HttpReply(401, "{\"code\": 7000, \"desc\": \"token\"}"); });
-    Use(server.Port());
+    Serve(HttpReply(401, "{\"code\": 7000, \"desc\": \"token\"}"));
     Run(kCall);
     awaitLines("after a failure");
     emit Window().LanguageChosen(QStringLiteral("de"));
     awaitLines("in another language");
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 TEST_F(WindowTest, ChangingTheLanguageKeepsResultsArgumentsAndWaitMode)
 {
-    RawServer server([](const RawRequest&) { return Success("{\"enable\": \"1\"}"); });
-    Use(server.Port());
+    Serve(Success("{\"enable\": \"1\"}"));
     Run(kCall);
     const QString details = TextOf("resultDetails");
     Use(explorer::WaitMode::WithoutWaiting);
     Find<QSpinBox>("timeout").setValue(7);
     Choose("BRMS.GetLocalSetting");
-    Window().findChild<explorer::ArgumentForm*>()->SetArguments({{QStringLiteral("settingType"), 7}});
+    Form().SetArguments({{QStringLiteral("settingType"), 7}});
 
     emit Window().LanguageChosen(QStringLiteral("de"));
     emit Window().LanguageChosen(QStringLiteral("en"));
-    EXPECT_EQ(Window().findChild<explorer::ArgumentForm*>()->Arguments().value(QLatin1String("settingType")).toInt(),
-              7);
+    EXPECT_EQ(Form().Arguments().value(QLatin1String("settingType")).toInt(), 7);
     EXPECT_EQ(Find<QComboBox>("wait").currentData().toInt(), int(explorer::WaitMode::WithoutWaiting));
     EXPECT_EQ(Find<QSpinBox>("timeout").value(), 7);
     Choose(kCall);
@@ -513,8 +471,7 @@ TEST_F(WindowTest, ChangingTheLanguageKeepsResultsArgumentsAndWaitMode)
 
 TEST_F(WindowTest, ShowsOnlyTheTimesOfTheChosenCall)
 {
-    RawServer server([](const RawRequest&) { return Success("{}"); });
-    Use(server.Port());
+    Serve(Success("{}"));
     Run("BRMS.GetTimeSyncConfig");
     Run("BRMS.GetTimeSyncConfig");
     Run(kCall);
@@ -565,9 +522,7 @@ TEST_F(WindowTest, RunningCallClearsTheOldResultAndKeepsTheRunButtonInPlace)
 TEST_F(WindowTest, LongServerTextScrolls)
 {
     const QByteArray words = QByteArray(4000, 'w').replace('w', "so ");
-    RawServer server(
-        [&words](const RawRequest&) { return HttpReply(200, "{\"code\": 1002, \"desc\": \"" + words + "\"}"); });
-    Use(server.Port());
+    Serve(HttpReply(200, "{\"code\": 1002, \"desc\": \"" + words + "\"}"));
     Run(kCall);
     const auto& header = *Window().findChild<explorer::ResultHeader*>();
     EXPECT_LT(header.height(), Window().height() / 3);
@@ -620,14 +575,13 @@ TEST_F(WindowTest, ExplainsARefusedPasteInTheUsersLanguage)
         emit Window().LanguageChosen(QLatin1String(language));
         Choose("BRMS.GetLocalSetting");
         QGuiApplication::clipboard()->setText(QStringLiteral("{\"settingType\": \"7\"}"));
-        Window().findChild<explorer::ArgumentForm*>()->Paste();
+        Form().Paste();
         const QString shown = TextOf("pasteProblem");
         EXPECT_TRUE(shown.contains(QString::fromUtf8(problem))) << shown.toStdString();
         EXPECT_EQ(shown.contains(QStringLiteral("expected")), QByteArray(language) == "en") << shown.toStdString();
         problems.append(shown);
     }
     EXPECT_EQ(problems.removeDuplicates(), 0);
-    emit Window().LanguageChosen(QStringLiteral("en"));
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 #include "ExplorerTest.h"
 
 #include <explorer/core/EmulatorProcess.h>
-#include <explorer/views/ArgumentForm.h>
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QPushButton>
+#include <QTimer>
 
 namespace explorer_test {
 
@@ -35,6 +35,18 @@ void MemoryVault::Write(const QString& serverId, const QString& token, std::func
 void MemoryVault::Remove(const QString& serverId)
 {
     tokens.remove(serverId);
+}
+
+std::optional<QString> ReadFrom(explorer::Tokens::Vault& vault, const QString& serverId)
+{
+    bool answered = false;
+    std::optional<QString> token;
+    vault.Read(serverId, [&](const std::optional<QString>& found) {
+        answered = true;
+        token = found;
+    });
+    EXPECT_TRUE(Await([&answered] { return answered; }));
+    return token;
 }
 
 testing_support::RawReply Success(const QByteArray& data, int delayMilliseconds)
@@ -74,6 +86,19 @@ void ExplorerTest::Close()
     settings.reset();
 }
 
+void ExplorerTest::When(std::function<bool()> holds, std::function<void()> happens) const
+{
+    auto* const pTimer = new QTimer(session.get());
+    QObject::connect(pTimer, &QTimer::timeout, pTimer,
+                     [pTimer, holds = std::move(holds), happens = std::move(happens)] {
+                         if (holds()) {
+                             pTimer->stop();
+                             happens();
+                         }
+                     });
+    pTimer->start(10);
+}
+
 bool ExplorerTest::Activate() const
 {
     Window().activateWindow();
@@ -106,6 +131,13 @@ void ExplorerTest::UseEmulator()
     ASSERT_TRUE(Await([this] { return session->emulator.GetState() == explorer::EmulatorProcess::Running; }));
 }
 
+testing_support::RawServer& ExplorerTest::Serve(const testing_support::RawReply& reply)
+{
+    auto& server = m_servers.emplace_back([reply](const testing_support::RawRequest&) { return reply; });
+    Use(server.Port());
+    return server;
+}
+
 QString ExplorerTest::TextOf(const char* label) const
 {
     return Find<QLabel>(label).text();
@@ -120,8 +152,7 @@ void ExplorerTest::Choose(const char* call)
 
 void ExplorerTest::MarkAllKnown()
 {
-    auto& form = *Window().findChild<explorer::ArgumentForm*>();
-    form.SetArguments(form.Arguments(), explorer::Origin::Known);
+    Form().SetArguments(Form().Arguments(), explorer::Origin::Known);
 }
 
 void ExplorerTest::Use(explorer::WaitMode waitMode)
@@ -130,9 +161,22 @@ void ExplorerTest::Use(explorer::WaitMode waitMode)
     modes.setCurrentIndex(modes.findData(int(waitMode)));
 }
 
+void ExplorerTest::Click(const char* button) const
+{
+    QTest::mouseClick(&Find<QAbstractButton>(button), Qt::LeftButton);
+}
+
 void ExplorerTest::ClickRun()
 {
-    QTest::mouseClick(&Find<QPushButton>("run"), Qt::LeftButton);
+    Click("run");
+}
+
+explorer::RunOrder ExplorerTest::OrderOf(const char* call) const
+{
+    explorer::RunOrder order;
+    order.call = catalogue::FindCall(call);
+    order.server = session->servers.Current();
+    return order;
 }
 
 bool ExplorerTest::AwaitRuns(int count) const

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "ModelRows.h"
+
 #include <explorer/core/Session.h>
+#include <explorer/views/ArgumentForm.h>
 #include <explorer/window/MainWindow.h>
 #include <explorer/window/Start.h>
 
@@ -13,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <list>
 #include <memory>
 #include <vector>
 
@@ -40,6 +44,9 @@ public:
     QHash<QString, QString> tokens;
 };
 
+/// Waits for the answer of a vault.
+std::optional<QString> ReadFrom(explorer::Tokens::Vault& vault, const QString& serverId);
+
 /// A reply that reports success and contains this data.
 testing_support::RawReply Success(const QByteArray& data, int delayMilliseconds = 0);
 
@@ -56,6 +63,10 @@ protected:
     void Close();
 
     [[nodiscard]] explorer::MainWindow& Window() const { return m_windows->Current(); }
+    [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
+
+    /// Calls happens() once, as soon as the event loop runs while holds() returns true.
+    void When(std::function<bool()> holds, std::function<void()> happens) const;
 
     /// Activates the window and waits until it receives key events.
     [[nodiscard]] bool Activate() const;
@@ -65,6 +76,8 @@ protected:
     /// Adds a server on loopback with a token and makes it the current one.
     void Use(int port, bool https = false);
     void UseEmulator();
+    /// Starts a server that sends this reply to every request, and makes it the current one.
+    testing_support::RawServer& Serve(const testing_support::RawReply& reply);
 
     /// Finds a widget in the window or in one of its dialogs. The test fails if there is none.
     template <typename Widget>
@@ -84,7 +97,10 @@ protected:
     /// Marks all values of the form as known, so that a write sends them without asking.
     void MarkAllKnown();
     void Use(explorer::WaitMode waitMode);
+    void Click(const char* button) const;
     void ClickRun();
+    /// The call without arguments, for the current server.
+    [[nodiscard]] explorer::RunOrder OrderOf(const char* call) const;
     /// Waits until this many runs have ended since the test began.
     [[nodiscard]] bool AwaitRuns(int count) const;
     /// Chooses a call, runs it with the values of the form and returns its outcome.
@@ -98,6 +114,7 @@ protected:
     std::vector<CallOutcome> outcomes;  ///< of all runs, in the order in which they ended
 
 private:
+    std::list<testing_support::RawServer> m_servers;
     std::unique_ptr<explorer::Windows> m_windows;
 };
 
