@@ -65,38 +65,15 @@ QVariant Feed::headerData(int section, Qt::Orientation orientation, int role) co
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    switch (section) {
-    case TimeColumn:
-        return tr("Time");
-    case LevelColumn:
-        return tr("Level");
-    case TextColumn:
-        return tr("Text");
-    case SourceColumn:
-        return tr("Function");
-    default:
-        return {};
-    }
+    const QString headers[] = {tr("Time"), tr("Level"), tr("Text"), tr("Function")};
+    return headers[section];
 }
 
 QString Feed::LevelName(int level)
 {
-    switch (level) {
-    case 2:
-        return tr("Verbose");
-    case 3:
-        return tr("Debug");
-    case 4:
-        return tr("Information");
-    case 5:
-        return tr("Warning");
-    case 6:
-        return tr("Failure");
-    case 7:
-        return tr("Fatal");
-    default:
-        return QString::number(level);
-    }
+    constexpr int kLowest = 2;
+    const QStringList names{tr("Verbose"), tr("Debug"), tr("Information"), tr("Warning"), tr("Failure"), tr("Fatal")};
+    return names.value(level - kLowest, QString::number(level));
 }
 
 LogFeed::LogFeed(QObject* parent) : Feed(parent)

@@ -5,8 +5,6 @@
 #include <QSettings>
 #include <QUuid>
 
-#include <algorithm>
-
 namespace explorer {
 
 const QString kEmulatorId = QStringLiteral("emulator");
@@ -28,12 +26,6 @@ QString Server::Address() const
     return QStringLiteral("%1://%2:%3")
         .arg(https ? QStringLiteral("https") : QStringLiteral("http"), host,
              port > 0 ? QString::number(port) : QString::fromLatin1(kUnknownPort));
-}
-
-bool operator==(const Server& left, const Server& right)
-{
-    return left.id == right.id && left.name == right.name && left.host == right.host && left.port == right.port &&
-           left.https == right.https && left.language == right.language && left.pin == right.pin;
 }
 
 Servers::Servers(QSettings& settings, QObject* parent) : QObject(parent), m_settings(settings)
@@ -60,23 +52,27 @@ void Servers::SetCurrent(int index)
 
 void Servers::Replace(const QVector<Server>& servers)
 {
-    const QString current = Current().id;
-    Server emulator = m_servers.first();
-    m_servers = {emulator};
-    for (const Server& server : servers) {
-        if (server.id == kEmulatorId) {
-            m_servers.first().https = server.https;
-            m_servers.first().language = server.language;
-        } else {
-            m_servers.append(server);
-        }
-    }
-    const auto kept = std::find_if(m_servers.cbegin(), m_servers.cend(),
-                                   [&current](const Server& server) { return server.id == current; });
-    m_current = kept == m_servers.cend() ? 0 : int(kept - m_servers.cbegin());
-    PlaceEmulator();
+    Take(servers, Current().id);
     Save();
     emit Changed();
+}
+
+void Servers::Take(const QVector<Server>& servers, const QString& current)
+{
+    QVector<Server> taken{m_servers.first()};
+    int index = 0;
+    for (const Server& server : servers) {
+        if (server.id == kEmulatorId) {
+            taken.first().https = server.https;
+            taken.first().language = server.language;
+        } else {
+            taken.append(server);
+            index = server.id == current ? taken.size() - 1 : index;
+        }
+    }
+    m_servers = taken;
+    m_current = index;
+    PlaceEmulator();
 }
 
 void Servers::SetEmulatorPorts(int http, int https)
@@ -107,6 +103,7 @@ void Servers::Load()
     emulator.host = QStringLiteral("127.0.0.1");
     m_servers = {emulator};
 
+    QVector<Server> stored;
     const int count = m_settings.beginReadArray(Key(kArray));
     for (int index = 0; index < count; ++index) {
         m_settings.setArrayIndex(index);
@@ -118,22 +115,12 @@ void Servers::Load()
         server.https = m_settings.value(Key("https"), true).toBool();
         server.language = m_settings.value(Key("language"), server.language).toString();
         server.pin = QByteArray::fromHex(m_settings.value(Key("pin")).toByteArray());
-        if (server.id == kEmulatorId) {
-            m_servers.first().https = server.https;
-            m_servers.first().language = server.language;
-        } else if (!server.id.isEmpty()) {
-            m_servers.append(server);
+        if (!server.id.isEmpty()) {
+            stored.append(server);
         }
     }
     m_settings.endArray();
-    PlaceEmulator();
-
-    const QString current = m_settings.value(Key(kCurrent)).toString();
-    for (int index = 0; index < m_servers.size(); ++index) {
-        if (m_servers.at(index).id == current) {
-            m_current = index;
-        }
-    }
+    Take(stored, m_settings.value(Key(kCurrent)).toString());
 }
 
 void Servers::Save() const

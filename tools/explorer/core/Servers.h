@@ -23,8 +23,6 @@ struct Server {
     [[nodiscard]] QString Address() const;
 };
 
-bool operator==(const Server& left, const Server& right);
-
 /// The identifier of the entry for the emulator that this program starts.
 extern const QString kEmulatorId;
 
@@ -60,6 +58,8 @@ Q_SIGNALS:
     void Changed();
 
 private:
+    /// Takes these servers, and of the emulator scheme and language. An unknown current server becomes the emulator.
+    void Take(const QVector<Server>& servers, const QString& current);
     void Load();
     void Save() const;
     void PlaceEmulator();

@@ -72,4 +72,10 @@ QString CompactJsonText(const json& value)
     return Dumped(value, kOneLine);
 }
 
+QString PrettyJson(const QByteArray& text)
+{
+    const json parsed = json::parse(text.cbegin(), text.cend(), nullptr, false);
+    return parsed.is_discarded() ? QString::fromUtf8(text) : JsonText(parsed);
+}
+
 }  // namespace explorer

@@ -23,4 +23,7 @@ QString JsonText(const nlohmann::json& value);
 /// On one line.
 QString CompactJsonText(const nlohmann::json& value);
 
+/// The JSON as indented text; any other text unchanged.
+QString PrettyJson(const QByteArray& text);
+
 }  // namespace explorer

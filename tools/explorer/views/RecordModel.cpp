@@ -276,14 +276,8 @@ QVariant RecordModel::headerData(int section, Qt::Orientation orientation, int r
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    switch (section) {
-    case NameColumn:
-        return tr("Name");
-    case ValueColumn:
-        return tr("Value");
-    default:
-        return tr("Type");
-    }
+    const QString headers[] = {tr("Name"), tr("Value"), tr("Type")};
+    return headers[section];
 }
 
 const RecordModel::Node& RecordModel::NodeOf(const QModelIndex& index) const

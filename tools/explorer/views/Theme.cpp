@@ -20,6 +20,8 @@ QColor Mixed(const QColor& first, const QColor& second, double share)
                             mix(first.blueF(), second.blueF()));
 }
 
+}  // namespace
+
 QColor Blue(const QPalette& palette)
 {
     return Chosen(palette, 0xFF0B57A4, 0xFF8AB4F8);
@@ -35,8 +37,6 @@ QColor Orange(const QPalette& palette)
     return Chosen(palette, 0xFF9A4A00, 0xFFFFB870);
 }
 
-}  // namespace
-
 QColor Error(const QPalette& palette)
 {
     return Chosen(palette, 0xFFB3261E, 0xFFFF8A80);
@@ -48,39 +48,9 @@ QColor Hint(const QPalette& palette)
     return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), kShare);
 }
 
-QColor JsonKey(const QPalette& palette)
-{
-    return Blue(palette);
-}
-
-QColor JsonText(const QPalette& palette)
-{
-    return Green(palette);
-}
-
-QColor JsonNumber(const QPalette& palette)
-{
-    return Orange(palette);
-}
-
 QColor JsonWord(const QPalette& palette)
 {
     return Chosen(palette, 0xFF7B1FA2, 0xFFD7A6E8);
-}
-
-QColor Succeeded(const QPalette& palette)
-{
-    return Blue(palette);
-}
-
-QColor Median(const QPalette& palette)
-{
-    return Green(palette);
-}
-
-QColor Percentile(const QPalette& palette)
-{
-    return Orange(palette);
 }
 
 QColor Grid(const QPalette& palette)

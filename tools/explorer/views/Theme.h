@@ -8,18 +8,24 @@ class QPalette;
 /// Fonts, and colours without a role in the palette, legible in light and dark palettes.
 namespace explorer::theme {
 
+using Tint = QColor (*)(const QPalette& palette);
+
+QColor Blue(const QPalette& palette);
+QColor Green(const QPalette& palette);
+QColor Orange(const QPalette& palette);
 QColor Error(const QPalette& palette);
 QColor Hint(const QPalette& palette);
 
-QColor JsonKey(const QPalette& palette);
-QColor JsonText(const QPalette& palette);
-QColor JsonNumber(const QPalette& palette);
 QColor JsonWord(const QPalette& palette);
 
-QColor Succeeded(const QPalette& palette);
-QColor Median(const QPalette& palette);
-QColor Percentile(const QPalette& palette);
 QColor Grid(const QPalette& palette);
+
+inline constexpr Tint JsonKey = Blue;
+inline constexpr Tint JsonText = Green;
+inline constexpr Tint JsonNumber = Orange;
+inline constexpr Tint Succeeded = Blue;
+inline constexpr Tint Median = Green;
+inline constexpr Tint Percentile = Orange;
 
 /// The monospaced font of the desktop.
 QFont FixedFont();

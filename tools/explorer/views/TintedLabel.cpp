@@ -7,7 +7,7 @@
 
 namespace explorer {
 
-TintedLabel::TintedLabel(Tint tint, QWidget* pParent) : QLabel(pParent), m_tint(tint)
+TintedLabel::TintedLabel(theme::Tint tint, QWidget* pParent) : QLabel(pParent), m_tint(tint)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "Theme.h"
+
 #include <QLabel>
 
 namespace explorer {
@@ -10,9 +11,7 @@ class TintedLabel : public QLabel {
     Q_OBJECT
 
 public:
-    using Tint = QColor (*)(const QPalette& palette);
-
-    explicit TintedLabel(Tint tint, QWidget* pParent = nullptr);
+    explicit TintedLabel(theme::Tint tint, QWidget* pParent = nullptr);
 
 protected:
     void changeEvent(QEvent* pEvent) override;
@@ -20,7 +19,7 @@ protected:
 private:
     void Colour();
 
-    const Tint m_tint;
+    const theme::Tint m_tint;
 };
 
 /// A hint in the middle of an empty view.
