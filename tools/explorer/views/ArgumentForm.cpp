@@ -7,19 +7,18 @@
 #include "RecordEditor.h"
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <catalogue/Call.h>
 
 #include <QClipboard>
 #include <QFormLayout>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QJsonDocument>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -37,26 +36,22 @@ QPushButton* MakeButton(const QString& text, const QString& tip, const QString& 
     pButton->setShortcut(shortcut);
     pButton->setToolTip(QStringLiteral("%1 (%2)").arg(tip, shortcut.toString(QKeySequence::NativeText)));
     pButton->setAccessibleName(tip);
-    pButton->setAutoDefault(false);
     return pButton;
 }
 
 }  // namespace
 
 ArgumentForm::ArgumentForm(QWidget* pParent)
-    : QWidget(pParent), m_pRead(new QPushButton(tr("Fill fro&m the server"))), m_pArea(new QScrollArea),
-      m_pJson(new QPlainTextEdit),
+    : QWidget(pParent), m_pRead(Named(new QPushButton(tr("Fill fro&m the server")), "fillFromServer")),
+      m_pArea(new QScrollArea), m_pJson(Named(new QPlainTextEdit, "argumentsJson")),
       m_pCopy(MakeButton(tr("Copy"), tr("Copy as JSON"), QStringLiteral("copyArguments"), Qt::Key_C)),
       m_pPaste(MakeButton(tr("Paste"), tr("Paste JSON"), QStringLiteral("pasteArguments"), Qt::Key_V)),
       m_pAsJson(MakeButton(QStringLiteral("JSON"), tr("Edit as JSON"), QStringLiteral("argumentsAsJson"), Qt::Key_J)),
-      m_pProblem(new TintedLabel(theme::Error))
+      m_pProblem(Named(new TintedLabel(theme::Error), "pasteProblem"))
 {
-    m_pRead->setObjectName(QStringLiteral("fillFromServer"));
-    m_pRead->setAutoDefault(false);
     m_pRead->hide();
     m_pArea->setWidgetResizable(true);
     m_pArea->setFrameShape(QFrame::NoFrame);
-    m_pJson->setObjectName(QStringLiteral("argumentsJson"));
     m_pJson->setAccessibleName(tr("Arguments as JSON"));
     m_pJson->setFont(theme::FixedFont());
     m_pJson->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -64,21 +59,14 @@ ArgumentForm::ArgumentForm(QWidget* pParent)
     m_pJson->hide();
     new JsonHighlighter(*m_pJson);
     m_pAsJson->setCheckable(true);
-    m_pProblem->setObjectName(QStringLiteral("pasteProblem"));
     m_pProblem->hide();
 
-    auto* pButtons = new QHBoxLayout;
-    pButtons->addWidget(m_pCopy);
-    pButtons->addWidget(m_pPaste);
-    pButtons->addWidget(m_pAsJson);
-    pButtons->addStretch();
-
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(m_pRead, 0, Qt::AlignLeft);
-    pLayout->addWidget(m_pArea, 1);
-    pLayout->addWidget(m_pJson, 1);
-    pLayout->addWidget(m_pProblem);
-    pLayout->addLayout(pButtons);
+    Column({{m_pRead, 0, Qt::AlignLeft},
+            {m_pArea, 1},
+            {m_pJson, 1},
+            m_pProblem,
+            Row({m_pCopy, m_pPaste, m_pAsJson, Stretch()})},
+           this);
 
     connect(m_pRead, &QPushButton::clicked, this, &ArgumentForm::ReadRequested);
     connect(m_pCopy, &QPushButton::clicked, this, &ArgumentForm::Copy);

@@ -4,15 +4,14 @@
 #include "JsonHighlighter.h"
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
@@ -22,8 +21,9 @@ constexpr int kLongestShown = 200000;
 }  // namespace
 
 CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
-    : QWidget(pParent), m_pEdit(new QPlainTextEdit), m_pShortened(new TintedLabel(theme::Hint)),
-      m_pAll(new QPushButton(tr("Show all"))), m_pFind(new FindBar), m_pCopy(new QPushButton(tr("C&opy")))
+    : QWidget(pParent), m_pEdit(new QPlainTextEdit), m_pShortened(Named(new TintedLabel(theme::Hint), "shortened")),
+      m_pAll(Named(new QPushButton(tr("Show all")), "showAll")), m_pFind(new FindBar),
+      m_pCopy(Named(new QPushButton(tr("C&opy")), "copyText"))
 {
     m_pEdit->setReadOnly(true);
     m_pEdit->setPlaceholderText(hint);
@@ -31,25 +31,11 @@ CodeView::CodeView(Kind kind, const QString& hint, QWidget* pParent)
     m_pEdit->setLineWrapMode(kind == Kind::Text ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
     m_pEdit->setTabChangesFocus(true);
     m_pEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_pShortened->setObjectName(QStringLiteral("shortened"));
-    m_pAll->setObjectName(QStringLiteral("showAll"));
-    m_pAll->setAutoDefault(false);
-    m_pCopy->setObjectName(QStringLiteral("copyText"));
-    m_pCopy->setAutoDefault(false);
     if (kind == Kind::Json) {
         new JsonHighlighter(*m_pEdit);
     }
 
-    auto* pPart = new QHBoxLayout;
-    pPart->addWidget(m_pShortened, 1);
-    pPart->addWidget(m_pAll);
-    auto* pFooter = new QHBoxLayout;
-    pFooter->addWidget(m_pFind, 1);
-    pFooter->addWidget(m_pCopy);
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(m_pEdit, 1);
-    pLayout->addLayout(pPart);
-    pLayout->addLayout(pFooter);
+    Column({{m_pEdit, 1}, Row({{m_pShortened, 1}, m_pAll}), Row({{m_pFind, 1}, m_pCopy})}, this);
 
     connect(m_pCopy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(m_text); });
     connect(m_pAll, &QPushButton::clicked, this, [this] { ShowPart(0, m_text.size()); });

@@ -2,8 +2,8 @@
 
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolButton>
@@ -26,24 +26,18 @@ QToolButton* MakeStep(Qt::ArrowType arrow, const char* objectName, const QString
 }  // namespace
 
 FindBar::FindBar(QWidget* pParent)
-    : QWidget(pParent), m_pField(new QLineEdit), m_pCount(new TintedLabel(theme::Hint)),
+    : QWidget(pParent), m_pField(Named(new QLineEdit, "find")),
+      m_pCount(Named(new TintedLabel(theme::Hint), "findCount")),
       m_pPrevious(MakeStep(Qt::UpArrow, "findPrevious", tr("Previous match (Shift+F3)"))),
       m_pNext(MakeStep(Qt::DownArrow, "findNext", tr("Next match (F3)")))
 {
-    m_pField->setObjectName(QStringLiteral("find"));
     m_pField->setAccessibleName(tr("Find in the text"));
     m_pField->setPlaceholderText(tr("Find (Ctrl+F)"));
     m_pField->setClearButtonEnabled(true);
     m_pField->installEventFilter(this);
-    m_pCount->setObjectName(QStringLiteral("findCount"));
     m_pCount->setWordWrap(false);
 
-    auto* pLayout = new QHBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(m_pField, 1);
-    pLayout->addWidget(m_pPrevious);
-    pLayout->addWidget(m_pNext);
-    pLayout->addWidget(m_pCount);
+    Row({{m_pField, 1}, m_pPrevious, m_pNext, m_pCount}, this)->setContentsMargins(0, 0, 0, 0);
     setFocusProxy(m_pField);
 
     connect(m_pField, &QLineEdit::textChanged, this, [this] {

@@ -4,6 +4,7 @@
 #include "RecordEditor.h"
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <catalogue/Value.h>
 
@@ -49,13 +50,8 @@ ListEditor::ListEditor(const catalogue::Type& type, const QString& name, QWidget
     m_pHint->setWordWrap(false);
     m_pAdd->setObjectName(name + QLatin1String(".add"));
     m_pAdd->setAccessibleName(tr("Add an element to %1").arg(name));
-    m_pAdd->setAutoDefault(false);
 
-    auto* pFooter = new QHBoxLayout;
-    pFooter->addWidget(m_pAdd);
-    pFooter->addWidget(m_pHint);
-    pFooter->addStretch();
-    m_pLayout->addLayout(pFooter);
+    m_pLayout->addLayout(explorer::Row({m_pAdd, m_pHint, Stretch()}));
     connect(m_pAdd, &QPushButton::clicked, this, &ListEditor::AddByUser);
 }
 

@@ -1,30 +1,53 @@
 #include "PlainEditors.h"
 
-#include "Completer.h"
 #include "Limits.h"
-#include "NumberBox.h"
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <QAbstractItemView>
-#include <QCheckBox>
-#include <QHBoxLayout>
+#include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QVBoxLayout>
-
-#include <algorithm>
+#include <QStandardItemModel>
 
 namespace explorer {
 namespace {
 
-void SetName(QWidget* pWidget, const QString& name)
-{
-    pWidget->setObjectName(name);
-    pWidget->setAccessibleName(name);
-}
+constexpr int kValueRole = Qt::UserRole;
+
+/// Completes a value from any part of the value or its meaning.
+class Completer : public QCompleter {
+public:
+    Completer(const QVector<Completion>& completions, QObject* pParent) : QCompleter(pParent)
+    {
+        auto* const pModel = new QStandardItemModel(this);
+        for (const Completion& completion : completions) {
+            const QString between = completion.meaning.isEmpty() ? QString() : QStringLiteral("  \u00b7  ");
+            auto* const pItem = new QStandardItem(completion.value + between + completion.meaning);
+            pItem->setData(completion.value, kValueRole);
+            pModel->appendRow(pItem);
+        }
+        setModel(pModel);
+        setCompletionRole(Qt::DisplayRole);
+        setFilterMode(Qt::MatchContains);
+        setCaseSensitivity(Qt::CaseInsensitive);
+    }
+
+    [[nodiscard]] QString pathFromIndex(const QModelIndex& index) const override
+    {
+        return index.data(kValueRole).toString();
+    }
+};
 
 }  // namespace
+
+void PlainEditor::SetField(QWidget* pField, const QString& name)
+{
+    m_pField = pField;
+    pField->setObjectName(name);
+    pField->setAccessibleName(name);
+}
 
 void PlainEditor::SetValue(const nlohmann::json& value, Origin origin)
 {
@@ -48,31 +71,6 @@ void PlainEditor::Edited()
     emit Changed();
 }
 
-BoolEditor::BoolEditor(const QString& name, QWidget* pParent) : PlainEditor(pParent), m_pBox(new QCheckBox)
-{
-    SetName(m_pBox, name);
-    auto* pRow = new QHBoxLayout(this);
-    pRow->setContentsMargins(0, 0, 0, 0);
-    pRow->addWidget(m_pBox);
-    pRow->addStretch();
-    connect(m_pBox, &QCheckBox::toggled, this, &BoolEditor::Edited);
-}
-
-nlohmann::json BoolEditor::Value() const
-{
-    return m_pBox->isChecked();
-}
-
-void BoolEditor::Put(const nlohmann::json& value)
-{
-    m_pBox->setChecked(value.get<bool>());
-}
-
-QList<QWidget*> BoolEditor::TabStops() const
-{
-    return {m_pBox};
-}
-
 CheckedEditor::CheckedEditor(const QString& name, QWidget* pParent)
     : PlainEditor(pParent), m_name(name), m_pLimits(new TintedLabel(theme::Hint)),
       m_pProblem(new TintedLabel(theme::Error))
@@ -88,16 +86,11 @@ CheckedEditor::CheckedEditor(const QString& name, QWidget* pParent)
 void CheckedEditor::Show(QWidget* pField, QLineEdit* pLine, Qt::Alignment alignment)
 {
     m_pLine = pLine;
-    SetName(pField, m_name);
+    SetField(pField, m_name);
     m_pLine->installEventFilter(this);
-    auto* pRow = new QHBoxLayout;
-    pRow->addWidget(pField, 1, alignment);
-    pRow->addWidget(m_pLimits);
-    auto* pColumn = new QVBoxLayout(this);
+    auto* const pColumn = Column({Row({{pField, 1, alignment}, m_pLimits}), m_pProblem}, this);
     pColumn->setContentsMargins(0, 0, 0, 0);
     pColumn->setSpacing(2);
-    pColumn->addLayout(pRow);
-    pColumn->addWidget(m_pProblem);
 }
 
 void CheckedEditor::SetFacts(const FieldFacts& facts, const QVector<Completion>& completions)
@@ -150,55 +143,6 @@ bool CheckedEditor::eventFilter(QObject* pWatched, QEvent* pEvent)
         return true;
     }
     return PlainEditor::eventFilter(pWatched, pEvent);
-}
-
-TextEditor::TextEditor(const QString& name, QWidget* pParent) : CheckedEditor(name, pParent), m_pEdit(new QLineEdit)
-{
-    Show(m_pEdit, m_pEdit, {});
-    connect(m_pEdit, &QLineEdit::textChanged, this, &TextEditor::TextEdited);
-}
-
-nlohmann::json TextEditor::Value() const
-{
-    return m_pEdit->text().toStdString();
-}
-
-void TextEditor::Put(const nlohmann::json& value)
-{
-    m_pEdit->setText(QString::fromStdString(value.get_ref<const std::string&>()));
-    m_pEdit->setCursorPosition(0);
-}
-
-QList<QWidget*> TextEditor::TabStops() const
-{
-    return {m_pEdit};
-}
-
-NumberEditor::NumberEditor(catalogue::Kind kind, const QString& name, QWidget* pParent)
-    : CheckedEditor(name, pParent), m_pBox(new NumberBox(kind))
-{
-    Show(m_pBox, m_pBox->Line(), Qt::AlignLeft);
-    connect(m_pBox, &NumberBox::Changed, this, &NumberEditor::TextEdited);
-}
-
-nlohmann::json NumberEditor::Value() const
-{
-    return m_pBox->Value();
-}
-
-void NumberEditor::Put(const nlohmann::json& value)
-{
-    m_pBox->SetValue(value);
-}
-
-QString NumberEditor::OwnProblem() const
-{
-    return m_pBox->Problem();
-}
-
-QList<QWidget*> NumberEditor::TabStops() const
-{
-    return {m_pBox};
 }
 
 }  // namespace explorer

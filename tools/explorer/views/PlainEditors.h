@@ -4,13 +4,10 @@
 
 #include <explorer/FieldFacts.h>
 
-class QCheckBox;
 class QLabel;
 class QLineEdit;
 
 namespace explorer {
-
-class NumberBox;
 
 /// Edits a value in one field.
 class PlainEditor : public ValueEditor {
@@ -21,32 +18,18 @@ public:
 
     void SetValue(const nlohmann::json& value, Origin origin) override;
     void Collect(const std::string& place, Unentered& unentered) const override;
+    [[nodiscard]] QList<QWidget*> TabStops() const override { return {m_pField}; }
 
 protected:
+    void SetField(QWidget* pField, const QString& name);
     virtual void Put(const nlohmann::json& value) = 0;
     /// The value of the field has changed.
     void Edited();
 
 private:
+    QWidget* m_pField = nullptr;
     bool m_bEntered = false;
     bool m_bPuts = false;
-};
-
-class BoolEditor : public PlainEditor {
-    Q_OBJECT
-
-public:
-    BoolEditor(const QString& name, QWidget* pParent);
-
-    [[nodiscard]] nlohmann::json Value() const override;
-    [[nodiscard]] bool IsValid() const override { return true; }
-    [[nodiscard]] QList<QWidget*> TabStops() const override;
-
-protected:
-    void Put(const nlohmann::json& value) override;
-
-private:
-    QCheckBox* m_pBox;
 };
 
 /// A text field whose value the server may refuse. Shows the reason below the field.
@@ -79,39 +62,6 @@ private:
     QLineEdit* m_pLine = nullptr;
     QLabel* m_pLimits;
     QLabel* m_pProblem;
-};
-
-class TextEditor : public CheckedEditor {
-    Q_OBJECT
-
-public:
-    TextEditor(const QString& name, QWidget* pParent);
-
-    [[nodiscard]] nlohmann::json Value() const override;
-    [[nodiscard]] QList<QWidget*> TabStops() const override;
-
-protected:
-    void Put(const nlohmann::json& value) override;
-
-private:
-    QLineEdit* m_pEdit;
-};
-
-class NumberEditor : public CheckedEditor {
-    Q_OBJECT
-
-public:
-    NumberEditor(catalogue::Kind kind, const QString& name, QWidget* pParent);
-
-    [[nodiscard]] nlohmann::json Value() const override;
-    [[nodiscard]] QList<QWidget*> TabStops() const override;
-
-protected:
-    void Put(const nlohmann::json& value) override;
-    [[nodiscard]] QString OwnProblem() const override;
-
-private:
-    NumberBox* m_pBox;
 };
 
 }  // namespace explorer

@@ -4,17 +4,16 @@
 #include "Theme.h"
 #include "TintedLabel.h"
 #include "TotalsRow.h"
+#include "Widgets.h"
 
 #include <QComboBox>
 #include <QFileDialog>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTableView>
-#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
@@ -31,20 +30,16 @@ void LimitColumns(QTableView& table)
 }  // namespace
 
 RecordTable::RecordTable(QWidget* pParent)
-    : QWidget(pParent), m_pListLabel(new QLabel(tr("&List:"))), m_pList(new QComboBox), m_pFilter(new QLineEdit),
-      m_pExport(new QPushButton(tr("&Export CSV\u2026"))), m_pTable(new QTableView),
-      m_pTotals(new TotalsRow(*m_pTable)), m_pRows(new TintedLabel(theme::Hint))
+    : QWidget(pParent), m_pListLabel(new QLabel(tr("&List:"))), m_pList(Named(new QComboBox, "list")),
+      m_pFilter(Named(new QLineEdit, "filter")), m_pExport(Named(new QPushButton(tr("&Export CSV\u2026")), "export")),
+      m_pTable(Named(new QTableView, "table")), m_pTotals(new TotalsRow(*m_pTable)),
+      m_pRows(Named(new TintedLabel(theme::Hint), "rows"))
 {
     m_shown.setSourceModel(&m_model);
     m_shown.setSortRole(RecordTableModel::kSortRole);
     m_shown.setFilterKeyColumn(-1);
     m_shown.setFilterCaseSensitivity(Qt::CaseInsensitive);
 
-    m_pList->setObjectName(QStringLiteral("list"));
-    m_pFilter->setObjectName(QStringLiteral("filter"));
-    m_pTable->setObjectName(QStringLiteral("table"));
-    m_pExport->setObjectName(QStringLiteral("export"));
-    m_pRows->setObjectName(QStringLiteral("rows"));
     m_pListLabel->setBuddy(m_pList);
     m_pFilter->setPlaceholderText(tr("Text in any column"));
     m_pFilter->setClearButtonEnabled(true);
@@ -58,25 +53,13 @@ RecordTable::RecordTable(QWidget* pParent)
     m_pTable->verticalHeader()->setDefaultSectionSize(m_pTable->fontMetrics().height() + kRoom);
     m_pTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_pTable->horizontalHeader()->setHighlightSections(false);
-    m_pExport->setAutoDefault(false);
 
-    auto* pFilterLabel = new QLabel(tr("&Filter:"));
-    pFilterLabel->setBuddy(m_pFilter);
-    auto* pTop = new QHBoxLayout;
-    pTop->addWidget(m_pListLabel);
-    pTop->addWidget(m_pList);
-    pTop->addWidget(pFilterLabel);
-    pTop->addWidget(m_pFilter, 1);
-    pTop->addWidget(m_pExport);
-
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->addLayout(pTop);
-    auto* pRows = new QVBoxLayout;
+    auto* const pRows = Column({{m_pTable, 1}, m_pTotals});
     pRows->setSpacing(0);
-    pRows->addWidget(m_pTable, 1);
-    pRows->addWidget(m_pTotals);
-    pLayout->addLayout(pRows, 1);
-    pLayout->addWidget(m_pRows);
+    Column({Row({m_pListLabel, m_pList, LabelFor(m_pFilter, tr("&Filter:")), {m_pFilter, 1}, m_pExport}),
+            {pRows, 1},
+            m_pRows},
+           this);
 
     connect(m_pList, qOverload<int>(&QComboBox::currentIndexChanged), this, &RecordTable::ShowList);
     connect(m_pFilter, &QLineEdit::textChanged, this, [this](const QString& text) {

@@ -3,13 +3,13 @@
 #include "RoomyDelegate.h"
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <catalogue/Identity.h>
 
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -17,7 +17,6 @@
 #include <QQueue>
 #include <QTimer>
 #include <QTreeView>
-#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
@@ -44,8 +43,8 @@ void OpenUpTo(QTreeView& tree, int most)
 }  // namespace
 
 RecordTree::RecordTree(QWidget* pParent)
-    : QWidget(pParent), m_pTree(new QTreeView), m_pFilter(new QLineEdit), m_pMatches(new TintedLabel(theme::Hint)),
-      m_pTimer(new QTimer(this))
+    : QWidget(pParent), m_pTree(Named(new QTreeView, "record")), m_pFilter(Named(new QLineEdit, "recordFilter")),
+      m_pMatches(Named(new TintedLabel(theme::Hint), "recordMatches")), m_pTimer(new QTimer(this))
 {
     m_pTree->setModel(&m_model);
     m_pTree->setAlternatingRowColors(true);
@@ -53,7 +52,6 @@ RecordTree::RecordTree(QWidget* pParent)
     m_pTree->setAllColumnsShowFocus(true);
     m_pTree->setTextElideMode(Qt::ElideRight);
     m_pTree->setFrameShape(QFrame::NoFrame);
-    m_pTree->setObjectName(QStringLiteral("record"));
     m_pTree->setAccessibleName(tr("Record"));
     m_pTree->setItemDelegate(new RoomyDelegate(m_pTree));
     constexpr int kIndentation = 14;
@@ -62,11 +60,9 @@ RecordTree::RecordTree(QWidget* pParent)
     m_pTree->header()->setStretchLastSection(false);
     m_pTree->header()->setSectionResizeMode(RecordModel::ValueColumn, QHeaderView::Stretch);
 
-    m_pFilter->setObjectName(QStringLiteral("recordFilter"));
     m_pFilter->setAccessibleName(tr("Filter the record"));
     m_pFilter->setPlaceholderText(tr("Filter by name or value (Ctrl+F)"));
     m_pFilter->setClearButtonEnabled(true);
-    m_pMatches->setObjectName(QStringLiteral("recordMatches"));
     m_pMatches->setWordWrap(false);
     constexpr int kPause = 150;
     m_pTimer->setSingleShot(true);
@@ -81,15 +77,10 @@ RecordTree::RecordTree(QWidget* pParent)
             [this](const QModelIndex& index) { return JsonText(*m_model.Value(index)); });
     m_pTree->setContextMenuPolicy(Qt::CustomContextMenu);
 
-    auto* pTop = new QHBoxLayout;
     constexpr int kMargin = 9;
+    auto* const pTop = Row({{m_pFilter, 1}, m_pMatches});
     pTop->setContentsMargins(kMargin, kMargin, kMargin, 0);
-    pTop->addWidget(m_pFilter, 1);
-    pTop->addWidget(m_pMatches);
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addLayout(pTop);
-    pLayout->addWidget(m_pTree, 1);
+    Column({pTop, {m_pTree, 1}}, this)->setContentsMargins(0, 0, 0, 0);
 
     connect(m_pFilter, &QLineEdit::textChanged, m_pTimer, qOverload<>(&QTimer::start));
     connect(m_pTimer, &QTimer::timeout, this, &RecordTree::Filter);

@@ -7,12 +7,11 @@
 #include "ShellLines.h"
 #include "Theme.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <explorer/CallOutcome.h>
 
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -24,21 +23,16 @@ namespace {
 
 constexpr int kMargin = 9;
 
-QString Pretty(const QByteArray& body)
-{
-    const auto parsed = nlohmann::json::parse(body.toStdString(), nullptr, false);
-    return parsed.is_discarded() ? QString::fromUtf8(body) : JsonText(parsed);
-}
-
 }  // namespace
 
 RequestView::RequestView(QWidget* pParent)
-    : QWidget(pParent), m_pPages(new QStackedWidget), m_pHint(MakeHint()), m_pTarget(new QPlainTextEdit),
-      m_pHeaders(new QTreeWidget), m_pBody(new CodeView(CodeView::Kind::Json, tr("The request has no body."))),
-      m_pCurl(new CodeView(CodeView::Kind::Text, tr("The request cannot be built."))),
-      m_pCpp(new CodeView(CodeView::Kind::Code, QString())), m_pApicall(new CodeView(CodeView::Kind::Text, QString()))
+    : QWidget(pParent), m_pPages(new QStackedWidget), m_pHint(MakeHint()),
+      m_pTarget(Named(new QPlainTextEdit, "target")), m_pHeaders(Named(new QTreeWidget, "headers")),
+      m_pBody(Named(new CodeView(CodeView::Kind::Json, tr("The request has no body.")), "body")),
+      m_pCurl(Named(new CodeView(CodeView::Kind::Text, tr("The request cannot be built.")), "curl")),
+      m_pCpp(Named(new CodeView(CodeView::Kind::Code, QString()), "cpp")),
+      m_pApicall(Named(new CodeView(CodeView::Kind::Text, QString()), "apicall"))
 {
-    m_pTarget->setObjectName(QStringLiteral("target"));
     m_pTarget->setReadOnly(true);
     m_pTarget->setFont(theme::FixedFont());
     m_pTarget->setWordWrapMode(QTextOption::WrapAnywhere);
@@ -48,17 +42,12 @@ RequestView::RequestView(QWidget* pParent)
     const double around = 2 * (m_pTarget->document()->documentMargin() + m_pTarget->frameWidth() + 1);
     m_pTarget->setFixedHeight(kLines * QFontMetrics(m_pTarget->font()).lineSpacing() + int(around));
     m_pTarget->setPlaceholderText(tr("The request cannot be built."));
-    m_pHeaders->setObjectName(QStringLiteral("headers"));
     m_pHeaders->setHeaderLabels({tr("Header"), tr("Value")});
     m_pHeaders->setRootIsDecorated(false);
     m_pHeaders->setAlternatingRowColors(true);
     m_pHeaders->setAllColumnsShowFocus(true);
     m_pHeaders->setFrameShape(QFrame::NoFrame);
     m_pHeaders->setItemDelegate(new RoomyDelegate(m_pHeaders));
-    m_pBody->setObjectName(QStringLiteral("body"));
-    m_pCurl->setObjectName(QStringLiteral("curl"));
-    m_pCpp->setObjectName(QStringLiteral("cpp"));
-    m_pApicall->setObjectName(QStringLiteral("apicall"));
 
     auto* pTabs = new QTabWidget;
     pTabs->setDocumentMode(true);
@@ -68,19 +57,13 @@ RequestView::RequestView(QWidget* pParent)
     pTabs->addTab(m_pCpp, tr("C&++"));
     pTabs->addTab(m_pApicall, tr("a&picall"));
 
-    auto* pTargetLabel = new QLabel(tr("Re&quest:"));
-    pTargetLabel->setBuddy(m_pTarget);
-    auto* pTargetRow = new QHBoxLayout;
-    pTargetRow->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    auto* const pTargetLabel = LabelFor(m_pTarget, tr("Re&quest:"));
     constexpr int kToTheFirstLine = 4;
     pTargetLabel->setContentsMargins(0, kToTheFirstLine, 0, 0);
-    pTargetRow->addWidget(pTargetLabel, 0, Qt::AlignTop);
-    pTargetRow->addWidget(m_pTarget, 1);
+    auto* const pTargetRow = Row({{pTargetLabel, 0, Qt::AlignTop}, {m_pTarget, 1}});
+    pTargetRow->setContentsMargins(kMargin, kMargin, kMargin, 0);
     auto* pPage = new QWidget;
-    auto* pPageLayout = new QVBoxLayout(pPage);
-    pPageLayout->setContentsMargins(0, 0, 0, 0);
-    pPageLayout->addLayout(pTargetRow);
-    pPageLayout->addWidget(pTabs, 1);
+    Column({pTargetRow, {pTabs, 1}}, pPage)->setContentsMargins(0, 0, 0, 0);
 
     m_pPages->addWidget(m_pHint);
     m_pPages->addWidget(pPage);
@@ -118,7 +101,7 @@ void RequestView::ShowRequest(const SentRequest& request)
     constexpr int kRoom = 24;
     m_pHeaders->resizeColumnToContents(0);
     m_pHeaders->setColumnWidth(0, m_pHeaders->columnWidth(0) + kRoom);
-    m_pBody->SetText(Pretty(request.body));
+    m_pBody->SetText(PrettyJson(request.body));
     m_pCurl->SetText(canBeMade ? CurlLine(request) : QString());
 }
 

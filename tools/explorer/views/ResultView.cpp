@@ -5,12 +5,12 @@
 #include "RecordTable.h"
 #include "RecordTree.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <explorer/CallOutcome.h>
 
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 #include <memory>
 #include <utility>
@@ -57,9 +57,7 @@ ResultView::ResultView(QWidget* pParent)
     m_pTabs->addTab(m_pExchange, tr("Raw e&xchange"));
     m_pTabs->setDocumentMode(true);
 
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(m_pTabs);
+    Column({m_pTabs}, this)->setContentsMargins(0, 0, 0, 0);
     Clear();
 }
 

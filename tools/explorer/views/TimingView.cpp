@@ -3,18 +3,17 @@
 #include "Theme.h"
 #include "TimingChart.h"
 #include "TintedLabel.h"
+#include "Widgets.h"
 
 #include <explorer/CallOutcome.h>
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -33,33 +32,20 @@ QLabel* MakeFigure(const QString& objectName)
     return pFigure;
 }
 
-QPushButton* MakeButton(const QString& text, const QString& objectName)
-{
-    auto* pButton = new QPushButton(text);
-    pButton->setObjectName(objectName);
-    pButton->setAutoDefault(false);
-    return pButton;
-}
-
 }  // namespace
 
 TimingView::TimingView(QWidget* pParent)
     : QWidget(pParent), m_pChart(new TimingChart), m_pPages(new QStackedWidget),
       m_pCalls(MakeFigure(QStringLiteral("calls"))), m_pMedian(MakeFigure(QStringLiteral("median"))),
       m_pPercentile(MakeFigure(QStringLiteral("percentile"))), m_pFailed(MakeFigure(QStringLiteral("failed"))),
-      m_pParts(new TintedLabel(theme::Hint)), m_pTimes(new QSpinBox),
-      m_pRepeat(MakeButton(tr("Re&peat"), QStringLiteral("repeat"))), m_pProgress(new QProgressBar),
-      m_pCancel(MakeButton(tr("C&ancel"), QStringLiteral("cancel")))
+      m_pParts(Named(new TintedLabel(theme::Hint), "parts")), m_pTimes(Named(new QSpinBox, "times")),
+      m_pRepeat(Named(new QPushButton(tr("Re&peat")), "repeat")), m_pProgress(Named(new QProgressBar, "progress")),
+      m_pCancel(Named(new QPushButton(tr("C&ancel")), "cancel"))
 {
     m_pPages->addWidget(MakeHint(tr("Run a call to see how long it takes.")));
     m_pPages->addWidget(m_pChart);
 
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->addLayout(MakeFigures());
-    m_pParts->setObjectName(QStringLiteral("parts"));
-    pLayout->addWidget(m_pParts);
-    pLayout->addWidget(m_pPages, 1);
-    pLayout->addLayout(MakeRepeat());
+    Column({MakeFigures(), m_pParts, {m_pPages, 1}, MakeRepeat()}, this);
 
     connect(m_pRepeat, &QPushButton::clicked, this, [this] { emit RepeatRequested(m_pTimes->value()); });
     connect(m_pCancel, &QPushButton::clicked, this, [this] {
@@ -130,23 +116,12 @@ QLayout* TimingView::MakeRepeat()
 {
     constexpr int kMost = 10000;
     constexpr int kUsual = 20;
-    m_pTimes->setObjectName(QStringLiteral("times"));
     m_pTimes->setRange(2, kMost);
     m_pTimes->setValue(kUsual);
     m_pTimes->setSuffix(tr(" times"));
     m_pTimes->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
-    m_pProgress->setObjectName(QStringLiteral("progress"));
 
-    auto* pLabel = new QLabel(tr("Ru&n the call"));
-    pLabel->setBuddy(m_pTimes);
-    auto* pRepeat = new QHBoxLayout;
-    pRepeat->addWidget(pLabel);
-    pRepeat->addWidget(m_pTimes);
-    pRepeat->addWidget(m_pRepeat);
-    pRepeat->addWidget(m_pProgress, 1);
-    pRepeat->addWidget(m_pCancel);
-    pRepeat->addStretch();
-    return pRepeat;
+    return Row({LabelFor(m_pTimes, tr("Ru&n the call")), m_pTimes, m_pRepeat, {m_pProgress, 1}, m_pCancel, Stretch()});
 }
 
 void TimingView::ShowFigures()

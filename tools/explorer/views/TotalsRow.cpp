@@ -1,7 +1,7 @@
 #include "TotalsRow.h"
+#include "Widgets.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
@@ -21,11 +21,9 @@ TotalsRow::TotalsRow(QTableView& table, QWidget* pParent)
     m_pCells->setHighlightSections(false);
     m_pCells->setFocusPolicy(Qt::NoFocus);
 
-    auto* pLayout = new QHBoxLayout(this);
+    auto* const pLayout = Row({m_pTitle, {m_pCells, 1}}, this);
     pLayout->setContentsMargins(table.frameWidth(), 0, 0, 0);
     pLayout->setSpacing(0);
-    pLayout->addWidget(m_pTitle);
-    pLayout->addWidget(m_pCells, 1);
 
     connect(table.horizontalHeader(), &QHeaderView::sectionResized, this, &TotalsRow::Align);
     connect(table.horizontalScrollBar(), &QScrollBar::valueChanged, this, &TotalsRow::Align);

@@ -1,5 +1,6 @@
 #include "CallHeader.h"
 
+#include "../views/Widgets.h"
 #include "Icons.h"
 
 #include <QAction>
@@ -14,10 +15,10 @@
 namespace explorer {
 
 CallHeader::CallHeader(QWidget* pParent)
-    : QWidget(pParent), m_pName(new QLabel(tr("No call selected"))), m_pEndpoint(new QLabel), m_pSummary(new QLabel),
+    : QWidget(pParent), m_pName(Named(new QLabel(tr("No call selected")), "callName")),
+      m_pEndpoint(Named(new QLabel, "callEndpoint")), m_pSummary(Named(new QLabel, "callSummary")),
       m_pFavourite(new QToolButton)
 {
-    m_pName->setObjectName(QStringLiteral("callName"));
     QFont font = m_pName->font();
     font.setPointSizeF(font.pointSizeF() * 1.35);
     font.setBold(true);
@@ -26,14 +27,12 @@ CallHeader::CallHeader(QWidget* pParent)
 
     m_pEndpoint->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_pEndpoint->setTextFormat(Qt::PlainText);
-    m_pEndpoint->setObjectName(QStringLiteral("callEndpoint"));
     m_pEndpoint->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* const pCopy = new QAction(tr("Copy the &path"), m_pEndpoint);
     m_pEndpoint->addAction(pCopy);
     connect(pCopy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(m_path); });
     m_pEndpoint->setForegroundRole(QPalette::Link);
     m_pEndpoint->setWordWrap(true);
-    m_pSummary->setObjectName(QStringLiteral("callSummary"));
     m_pSummary->setText(tr("Choose a call on the left to fill it in and run it."));
     m_pSummary->setWordWrap(true);
 

@@ -4,6 +4,7 @@
 
 #include "../views/RoomyDelegate.h"
 #include "../views/Theme.h"
+#include "../views/Widgets.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -14,7 +15,6 @@
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTreeView>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -172,18 +172,16 @@ const Call* CallOf(const QModelIndex& index)
 CallPanel::CallPanel(QSettings& settings, QWidget* pParent)
     : QWidget(pParent), m_settings(settings),
       m_favourites(settings.value(QLatin1String(kFavouritesKey)).toStringList()),
-      m_recent(settings.value(QLatin1String(kRecentKey)).toStringList()), m_pFilter(new QLineEdit),
-      m_pTree(new QTreeView), m_pCount(new QLabel), m_pModel(new QStandardItemModel(this)),
-      m_pShown(new WordFilter(this))
+      m_recent(settings.value(QLatin1String(kRecentKey)).toStringList()), m_pFilter(Named(new QLineEdit, "callFilter")),
+      m_pTree(Named(new QTreeView, "callTree")), m_pCount(Named(new QLabel, "callCount")),
+      m_pModel(new QStandardItemModel(this)), m_pShown(new WordFilter(this))
 {
-    m_pFilter->setObjectName(QStringLiteral("callFilter"));
     m_pFilter->setPlaceholderText(tr("Filter by name, path or key"));
     m_pFilter->setClearButtonEnabled(true);
     m_pFilter->addAction(Icon("search"), QLineEdit::LeadingPosition);
     m_pFilter->installEventFilter(this);
     connect(m_pFilter, &QLineEdit::textChanged, this, &CallPanel::Filter);
 
-    m_pTree->setObjectName(QStringLiteral("callTree"));
     m_pTree->setAccessibleName(tr("Calls"));
     m_pTree->setHeaderHidden(true);
     m_pTree->setUniformRowHeights(true);
@@ -200,13 +198,9 @@ CallPanel::CallPanel(QSettings& settings, QWidget* pParent)
         }
     });
 
-    m_pCount->setObjectName(QStringLiteral("callCount"));
     m_pCount->setForegroundRole(QPalette::PlaceholderText);
 
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(m_pFilter);
-    pLayout->addWidget(m_pTree);
-    pLayout->addWidget(m_pCount);
+    Column({m_pFilter, m_pTree, m_pCount}, this);
     setFocusProxy(m_pFilter);
     Fill();
 }

@@ -3,13 +3,13 @@
 #include "../views/Difference.h"
 #include "../views/Json.h"
 #include "../views/RoomyDelegate.h"
+#include "../views/Widgets.h"
 
 #include <explorer/CallOutcome.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
@@ -67,11 +67,10 @@ QString TitleOf(const CallOutcome& run)
 }  // namespace
 
 CompareDialog::CompareDialog(const CallOutcome& left, const CallOutcome& right, QWidget* pParent)
-    : QDialog(pParent), m_pTree(new QTreeWidget)
+    : QDialog(pParent), m_pTree(Named(new QTreeWidget, "differences"))
 {
     setWindowTitle(tr("Compare two runs"));
     setObjectName(QStringLiteral("compareDialog"));
-    m_pTree->setObjectName(QStringLiteral("differences"));
     m_pTree->setHeaderLabels({tr("Path"), TitleOf(left), TitleOf(right)});
     m_pTree->setAlternatingRowColors(true);
     m_pTree->setUniformRowHeights(true);
@@ -85,9 +84,7 @@ CompareDialog::CompareDialog(const CallOutcome& left, const CallOutcome& right, 
 
     auto* const pButtons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(m_pTree);
-    pLayout->addWidget(pButtons);
+    Column({m_pTree, pButtons}, this);
     constexpr QSize kSize(900, 520);
     resize(kSize);
 }

@@ -5,10 +5,10 @@
 
 #include "../core/Feed.h"
 #include "../views/Theme.h"
+#include "../views/Widgets.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
@@ -88,8 +88,7 @@ FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
     QLineEdit* const pSearch = NewSearch();
     connect(pSearch, &QLineEdit::textChanged, pLines, &LineFilter::SetText);
 
-    auto* const pLevel = new QComboBox;
-    pLevel->setObjectName(QStringLiteral("level"));
+    auto* const pLevel = Named(new QComboBox, "level");
     pLevel->setAccessibleName(tr("Level"));
     pLevel->addItem(tr("All levels"), 0);
     for (const int level : {Feed::kInformation, 5, Feed::kFailure}) {
@@ -106,18 +105,12 @@ FeedPanel::FeedPanel(Feed& feed, Kind kind, QWidget* pParent) : QWidget(pParent)
     pClear->setAccessibleName(tr("Clear"));
     connect(pClear, &QToolButton::clicked, &feed, &Feed::Clear);
 
-    auto* const pBar = new QHBoxLayout;
+    auto* const pBar = Row({{pSearch, 1}, pLevel, Stretch(1), pClear});
     pBar->setContentsMargins(12, 6, 12, 6);
     pBar->setSpacing(8);
-    pBar->addWidget(pSearch, 1);
-    pBar->addWidget(pLevel);
-    pBar->addStretch(1);
-    pBar->addWidget(pClear);
-    auto* const pLayout = new QVBoxLayout(this);
+    auto* const pLayout = Column({pBar, pTable}, this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
-    pLayout->addLayout(pBar);
-    pLayout->addWidget(pTable);
     setFocusProxy(pSearch);
 }
 

@@ -6,6 +6,7 @@
 #include "../core/Har.h"
 #include "../views/CppLines.h"
 #include "../views/Json.h"
+#include "../views/Widgets.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
@@ -20,7 +21,6 @@
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QTableView>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -30,9 +30,11 @@ namespace explorer {
 HistoryPanel::HistoryPanel(History& history, QWidget* pParent)
     : QWidget(pParent), m_history(history), m_pShown(new QSortFilterProxyModel(this)),
       m_pTable(NewLineTable(QStringLiteral("historyTable"), *m_pShown, tr("No runs"))),
-      m_pRun(AddButton(tr("Run again"), "runAgain")), m_pLoad(AddButton(tr("Load"), "loadRun")),
-      m_pCompare(AddButton(tr("Compare"), "compareRuns")), m_pExport(AddButton(tr("Export…"), "exportRuns")),
-      m_pClear(AddButton(tr("Clear"), "clearHistory")), m_pBytes(new QLabel)
+      m_pRun(Named(new QPushButton(tr("Run again")), "runAgain")),
+      m_pLoad(Named(new QPushButton(tr("Load")), "loadRun")),
+      m_pCompare(Named(new QPushButton(tr("Compare")), "compareRuns")),
+      m_pExport(Named(new QPushButton(tr("Export…")), "exportRuns")),
+      m_pClear(Named(new QPushButton(tr("Clear")), "clearHistory")), m_pBytes(new QLabel)
 {
     m_pShown->setSourceModel(&history);
     m_pShown->setFilterKeyColumn(-1);
@@ -71,26 +73,16 @@ HistoryPanel::HistoryPanel(History& history, QWidget* pParent)
         pBar->addWidget(pButton);
     }
     pBar->addWidget(MakeKeeping());
-    auto* const pLayout = new QVBoxLayout(this);
+    auto* const pLayout = Column({pBar, m_pTable}, this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
-    pLayout->addLayout(pBar);
-    pLayout->addWidget(m_pTable);
     setFocusProxy(pSearch);
     Update();
 }
 
-QPushButton* HistoryPanel::AddButton(const QString& text, const char* objectName)
-{
-    auto* const pButton = new QPushButton(text);
-    pButton->setObjectName(QLatin1String(objectName));
-    return pButton;
-}
-
 QWidget* HistoryPanel::MakeKeeping()
 {
-    auto* const pLimit = new QSpinBox;
-    pLimit->setObjectName(QStringLiteral("historyLimit"));
+    auto* const pLimit = Named(new QSpinBox, "historyLimit");
     pLimit->setAccessibleName(tr("History size limit"));
     pLimit->setToolTip(tr("Above this size, the oldest runs are dropped"));
     constexpr int kMost = 1024;
@@ -98,19 +90,14 @@ QWidget* HistoryPanel::MakeKeeping()
     pLimit->setSuffix(tr(" MB"));
     pLimit->setValue(m_history.LimitInMegabytes());
     connect(pLimit, qOverload<int>(&QSpinBox::valueChanged), &m_history, &History::SetLimitInMegabytes);
-    auto* const pKept = new QCheckBox(tr("Save to file"));
-    pKept->setObjectName(QStringLiteral("historyKept"));
+    auto* const pKept = Named(new QCheckBox(tr("Save to file")), "historyKept");
     pKept->setToolTip(tr("Keeps the runs for the next start, without tokens"));
     pKept->setChecked(m_history.IsKept());
     connect(pKept, &QCheckBox::toggled, &m_history, &History::SetKept);
 
     auto* const pKeeping = new QWidget;
-    auto* const pLayout = new QHBoxLayout(pKeeping);
     constexpr int kApart = 12;  // from the buttons
-    pLayout->setContentsMargins(kApart, 0, 0, 0);
-    pLayout->addWidget(m_pBytes);
-    pLayout->addWidget(pLimit);
-    pLayout->addWidget(pKept);
+    Row({m_pBytes, pLimit, pKept}, pKeeping)->setContentsMargins(kApart, 0, 0, 0);
     return pKeeping;
 }
 

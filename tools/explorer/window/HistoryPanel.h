@@ -30,7 +30,6 @@ signals:
 
 private:
     QWidget* MakeKeeping();
-    QPushButton* AddButton(const QString& text, const char* objectName);
     void Update();
     void Compare();
     void Export();

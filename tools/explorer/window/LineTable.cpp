@@ -1,5 +1,6 @@
 #include "LineTable.h"
 
+#include "../views/Widgets.h"
 #include "Icons.h"
 
 #include <QAction>
@@ -97,8 +98,7 @@ QTableView* NewLineTable(const QString& objectName, QAbstractItemModel& lines, c
 
 QLineEdit* NewSearch()
 {
-    auto* const pSearch = new QLineEdit;
-    pSearch->setObjectName(QStringLiteral("search"));
+    auto* const pSearch = Named(new QLineEdit, "search");
     pSearch->setPlaceholderText(QCoreApplication::translate("explorer::FeedPanel", "Search"));
     pSearch->setClearButtonEnabled(true);
     pSearch->addAction(Icon("search"), QLineEdit::LeadingPosition);

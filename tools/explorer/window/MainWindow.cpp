@@ -108,6 +108,21 @@ QSplitter* NewSplitter(Qt::Orientation orientation)
     return pSplitter;
 }
 
+/// Adds choices to a menu, of which one is checked at a time.
+template <typename Value, typename Choose>
+void AddChoices(QMenu* pMenu, std::initializer_list<std::pair<Value, QString>> choices, const Value& stored,
+                const Choose& choose)
+{
+    auto* const pGroup = new QActionGroup(pMenu);
+    for (const auto& choice : choices) {
+        QAction* const pAction =
+            pMenu->addAction(choice.second, pMenu, [value = choice.first, choose] { choose(value); });
+        pAction->setCheckable(true);
+        pAction->setChecked(choice.first == stored);
+        pGroup->addAction(pAction);
+    }
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Session& session, QWidget* pParent)
@@ -301,8 +316,20 @@ void MainWindow::MakeServerMenu()
 void MainWindow::MakeViewMenu()
 {
     QMenu* const pMenu = menuBar()->addMenu(tr("&View"));
-    MakeAppearanceMenu(pMenu->addMenu(tr("&Appearance")));
-    MakeLanguageMenu(pMenu->addMenu(tr("&Language")));
+    AddChoices<Appearance>(pMenu->addMenu(tr("&Appearance")),
+                           {{Appearance::System, tr("Follow the &desktop")},
+                            {Appearance::Light, tr("&Light")},
+                            {Appearance::Dark, tr("D&ark")}},
+                           StoredAppearance(m_session.settings), [this](Appearance appearance) {
+                               StoreAppearance(m_session.settings, appearance);
+                               ApplyAppearance(appearance);
+                           });
+    AddChoices<QString>(pMenu->addMenu(tr("&Language")),
+                        {{QStringLiteral("en"), QStringLiteral("&English")},
+                         {QStringLiteral("de"), QStringLiteral("&Deutsch")},
+                         {QStringLiteral("zh"), QStringLiteral("中文 (&Z)")}},
+                        StoredLanguage(m_session.settings),
+                        [this](const QString& language) { emit LanguageChosen(language); });
     pMenu->addSeparator();
     m_pShowFeeds = pMenu->addAction(tr("Log and n&otifications"));
     m_pShowFeeds->setCheckable(true);
@@ -370,42 +397,6 @@ void MainWindow::FocusTab(QTabWidget* pTabs, int index)
     pTabs->setCurrentIndex(index);
     if (!FocusFirst(pTabs->currentWidget())) {
         pTabs->tabBar()->setFocus(Qt::TabFocusReason);
-    }
-}
-
-void MainWindow::MakeAppearanceMenu(QMenu* pMenu)
-{
-    auto* const pGroup = new QActionGroup(this);
-    const Appearance stored = StoredAppearance(m_session.settings);
-    const QPair<Appearance, QString> choices[] = {{Appearance::System, tr("Follow the &desktop")},
-                                                  {Appearance::Light, tr("&Light")},
-                                                  {Appearance::Dark, tr("D&ark")}};
-    for (const auto& choice : choices) {
-        const Appearance appearance = choice.first;
-        QAction* const pAction = pMenu->addAction(choice.second, this, [this, appearance] {
-            StoreAppearance(m_session.settings, appearance);
-            ApplyAppearance(appearance);
-        });
-        pAction->setCheckable(true);
-        pAction->setChecked(appearance == stored);
-        pGroup->addAction(pAction);
-    }
-}
-
-void MainWindow::MakeLanguageMenu(QMenu* pMenu)
-{
-    auto* const pGroup = new QActionGroup(this);
-    const QString stored = StoredLanguage(m_session.settings);
-    const QPair<QString, QString> choices[] = {{QStringLiteral("en"), QStringLiteral("&English")},
-                                               {QStringLiteral("de"), QStringLiteral("&Deutsch")},
-                                               {QStringLiteral("zh"), QStringLiteral("中文 (&Z)")}};
-    for (const auto& choice : choices) {
-        const QString language = choice.first;
-        QAction* const pAction =
-            pMenu->addAction(choice.second, this, [this, language] { emit LanguageChosen(language); });
-        pAction->setCheckable(true);
-        pAction->setChecked(language == stored);
-        pGroup->addAction(pAction);
     }
 }
 

@@ -67,8 +67,6 @@ private:
     void FocusPane(int steps);
     void FocusArguments();
     void FocusTab(QTabWidget* pTabs, int index);
-    void MakeAppearanceMenu(QMenu* pMenu);
-    void MakeLanguageMenu(QMenu* pMenu);
     void MakeHelpMenu();
     void ReadState();
     void ReadContract();

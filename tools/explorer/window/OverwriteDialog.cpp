@@ -4,13 +4,13 @@
 #include "../views/Json.h"
 #include "../views/RoomyDelegate.h"
 #include "../views/ValueEditor.h"
+#include "../views/Widgets.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -61,21 +61,20 @@ OverwriteDialog::OverwriteDialog(const QString& call, const json& present, const
 {
     setWindowTitle(tr("Overwrite values on the server?"));
     setObjectName(QStringLiteral("overwriteDialog"));
-    auto* const pWords = new QLabel(
-        why.isEmpty() && !present.is_null()
-            ? tr("%1 sends values that you have not entered. They replace those on the server.").arg(call)
-            : tr("%1 sends values that you have not entered. The values they replace are unknown.").arg(call));
-    pWords->setObjectName(QStringLiteral("overwriteWords"));
+    auto* const pWords = Named(
+        new QLabel(
+            why.isEmpty() && !present.is_null()
+                ? tr("%1 sends values that you have not entered. They replace those on the server.").arg(call)
+                : tr("%1 sends values that you have not entered. The values they replace are unknown.").arg(call)),
+        "overwriteWords");
     pWords->setTextFormat(Qt::PlainText);
     pWords->setWordWrap(true);
-    auto* const pWhy = new QLabel(why);
-    pWhy->setObjectName(QStringLiteral("overwriteReason"));
+    auto* const pWhy = Named(new QLabel(why), "overwriteReason");
     pWhy->setTextFormat(Qt::PlainText);
     pWhy->setWordWrap(true);
     pWhy->setVisible(!why.isEmpty());
 
-    auto* const pTree = new QTreeWidget;
-    pTree->setObjectName(QStringLiteral("overwritten"));
+    auto* const pTree = Named(new QTreeWidget, "overwritten");
     pTree->setAccessibleName(tr("Changed values"));
     pTree->setHeaderLabels({tr("Field"), tr("On the server"), tr("Will be sent"), tr("Entered")});
     pTree->setRootIsDecorated(false);
@@ -110,11 +109,7 @@ OverwriteDialog::OverwriteDialog(const QString& call, const json& present, const
     pCancel->setFocus();
     connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(pWords);
-    pLayout->addWidget(pWhy);
-    pLayout->addWidget(pTree);
-    pLayout->addWidget(pButtons);
+    Column({pWords, pWhy, pTree, pButtons}, this);
     constexpr QSize kSize(760, 420);
     resize(kSize);
 }

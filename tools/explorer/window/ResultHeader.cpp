@@ -1,6 +1,7 @@
 #include "ResultHeader.h"
 
 #include "../views/Theme.h"
+#include "../views/Widgets.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -25,16 +26,15 @@ QString ServersWords(const RunSummary& outcome)
 }  // namespace
 
 ResultHeader::ResultHeader(QWidget* pParent)
-    : QScrollArea(pParent), m_pLight(new QLabel), m_pWords(new QLabel), m_pDetails(new QLabel)
+    : QScrollArea(pParent), m_pLight(new QLabel), m_pWords(Named(new QLabel, "resultWords")),
+      m_pDetails(Named(new QLabel, "resultDetails"))
 {
-    m_pWords->setObjectName(QStringLiteral("resultWords"));
     QFont font = m_pWords->font();
     font.setBold(true);
     m_pWords->setFont(font);
     m_pWords->setWordWrap(true);
     m_pWords->setTextFormat(Qt::PlainText);
     m_pWords->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_pDetails->setObjectName(QStringLiteral("resultDetails"));
     m_pDetails->setWordWrap(true);
     m_pDetails->setTextFormat(Qt::PlainText);
     m_pDetails->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -96,7 +96,7 @@ void ResultHeader::Fit()
     setFixedHeight(qMin(needed, kLines * m_pDetails->fontMetrics().lineSpacing()));
 }
 
-void ResultHeader::ShowLight(Tint tint)
+void ResultHeader::ShowLight(theme::Tint tint)
 {
     m_light = tint;
     constexpr int kSize = 10;

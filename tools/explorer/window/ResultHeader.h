@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../CallOutcome.h"
+#include "../views/Theme.h"
 
 #include <QScrollArea>
 
@@ -20,16 +21,14 @@ public:
     void Clear();
 
 private:
-    using Tint = QColor (*)(const QPalette& palette);
-
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
     void Show(const QString& words, const QString& details);
     void Fit();
-    void ShowLight(Tint tint);
+    void ShowLight(theme::Tint tint);
 
-    Tint m_light = nullptr;
+    theme::Tint m_light = nullptr;
     QLabel* m_pLight;
     QLabel* m_pWords;
     QLabel* m_pDetails;

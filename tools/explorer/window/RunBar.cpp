@@ -4,6 +4,7 @@
 
 #include "../views/Theme.h"
 #include "../views/TintedLabel.h"
+#include "../views/Widgets.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -23,36 +24,28 @@ constexpr int kLongestTyped = 9999999;  // longer time-outs stay visible and are
 }  // namespace
 
 RunBar::RunBar(QSettings& settings, QWidget* pParent)
-    : QWidget(pParent), m_pRun(new QPushButton(tr("Run"))), m_pWaitMode(new QComboBox), m_pTimeout(new QSpinBox),
-      m_pState(new QLabel), m_pProblem(new TintedLabel(theme::Error))
+    : QWidget(pParent), m_pRun(Named(new QPushButton(tr("Run")), "run")), m_pWaitMode(Named(new QComboBox, "wait")),
+      m_pTimeout(Named(new QSpinBox, "timeout")), m_pState(Named(new QLabel, "runState")),
+      m_pProblem(Named(new TintedLabel(theme::Error), "timeoutProblem"))
 {
-    m_pRun->setObjectName(QStringLiteral("run"));
     m_pRun->setToolTip(tr("Run the call (F5)"));
     m_pRun->setDefault(true);
     connect(m_pRun, &QPushButton::clicked, this, &RunBar::RunRequested);
 
-    m_pWaitMode->setObjectName(QStringLiteral("wait"));
     m_pWaitMode->addItem(tr("Behind the wait dialog"), int(WaitMode::WaitDialog));
     m_pWaitMode->addItem(tr("In the event loop, input allowed"), int(WaitMode::EventLoop));
     m_pWaitMode->addItem(tr("Not at all, several at once"), int(WaitMode::WithoutWaiting));
     m_pWaitMode->setCurrentIndex(qMax(0, m_pWaitMode->findData(settings.value(QLatin1String(kWaitModeKey)).toInt())));
     m_pWaitMode->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto* const pWaitModeLabel = new QLabel(tr("&Wait"));
-    pWaitModeLabel->setBuddy(m_pWaitMode);
 
-    m_pTimeout->setObjectName(QStringLiteral("timeout"));
     m_pTimeout->setRange(0, kLongestTyped);
     m_pTimeout->setSpecialValueText(tr("Call's default"));
     m_pTimeout->setSuffix(tr(" s"));
     m_pTimeout->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);  // never narrower than its text
     m_pTimeout->setValue(settings.value(QLatin1String(kTimeoutKey), 0).toInt());
-    auto* const pTimeoutLabel = new QLabel(tr("T&ime-out"));
-    pTimeoutLabel->setBuddy(m_pTimeout);
 
-    m_pState->setObjectName(QStringLiteral("runState"));
     m_pState->setForegroundRole(QPalette::PlaceholderText);
     m_pState->setWordWrap(true);
-    m_pProblem->setObjectName(QStringLiteral("timeoutProblem"));
     m_pProblem->setWordWrap(true);
 
     // Stored at once, for a window in another language.
@@ -69,9 +62,9 @@ RunBar::RunBar(QSettings& settings, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setHorizontalSpacing(8);
     pLayout->setColumnStretch(1, 1);
-    pLayout->addWidget(pWaitModeLabel, 0, 0);
+    pLayout->addWidget(LabelFor(m_pWaitMode, tr("&Wait")), 0, 0);
     pLayout->addWidget(m_pWaitMode, 0, 1, 1, 2);
-    pLayout->addWidget(pTimeoutLabel, 1, 0);
+    pLayout->addWidget(LabelFor(m_pTimeout, tr("T&ime-out")), 1, 0);
     pLayout->addWidget(m_pTimeout, 1, 1);
     pLayout->addWidget(m_pRun, 1, 2);
     pLayout->addWidget(m_pState, 2, 0, 1, 3);

@@ -2,9 +2,9 @@
 
 #include "../core/CallIndex.h"
 #include "../views/NameLabel.h"
+#include "../views/Widgets.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -52,18 +52,14 @@ void RunningCalls::Update()
 QWidget* RunningCalls::MakeRow(int number, const RunOrder& order)
 {
     const QString name = ShortName(*order.call);
-    auto* const pCancel = new QPushButton(tr("Cancel"));
-    pCancel->setObjectName(QStringLiteral("cancelCall"));
+    auto* const pCancel = Named(new QPushButton(tr("Cancel")), "cancelCall");
     //: %1 is a call
     pCancel->setAccessibleName(tr("Cancel %1").arg(name));
     pCancel->setToolTip(pCancel->accessibleName());
     connect(pCancel, &QPushButton::clicked, this, [this, number] { m_runner.Cancel(number); });
 
     auto* const pRow = new QWidget;
-    auto* const pLayout = new QHBoxLayout(pRow);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(new NameLabel(name), 1);
-    pLayout->addWidget(pCancel);
+    Row({{new NameLabel(name), 1}, pCancel}, pRow)->setContentsMargins(0, 0, 0, 0);
     return pRow;
 }
 

@@ -3,9 +3,9 @@
 #include "Icons.h"
 
 #include "../core/Session.h"
+#include "../views/Widgets.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -13,38 +13,26 @@
 namespace explorer {
 
 ServerBar::ServerBar(Session& session, QWidget* pParent)
-    : QWidget(pParent), m_session(session), m_pServers(new QComboBox), m_pAddress(new QLabel),
-      m_pEmulator(new QPushButton)
+    : QWidget(pParent), m_session(session), m_pServers(Named(new QComboBox, "servers")),
+      m_pAddress(Named(new QLabel, "serverAddress")), m_pEmulator(Named(new QPushButton, "emulator"))
 {
-    m_pServers->setObjectName(QStringLiteral("servers"));
     constexpr int kWidth = 220;
     m_pServers->setMinimumWidth(kWidth);
     m_pServers->setMaximumWidth(2 * kWidth);
     m_pServers->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    auto* const pLabel = new QLabel(tr("Server"));
-    pLabel->setBuddy(m_pServers);
-    m_pAddress->setObjectName(QStringLiteral("serverAddress"));
     m_pAddress->setForegroundRole(QPalette::PlaceholderText);
     m_pAddress->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_pEmulator->setObjectName(QStringLiteral("emulator"));
-    auto* const pEdit = new QPushButton(Icon("servers"), tr("Servers…"));
-    pEdit->setObjectName(QStringLiteral("editServers"));
+    auto* const pEdit = Named(new QPushButton(Icon("servers"), tr("Servers…")), "editServers");
     connect(pEdit, &QPushButton::clicked, this, &ServerBar::EditRequested);
     connect(m_pEmulator, &QPushButton::clicked, this, &ServerBar::ToggleEmulator);
     connect(m_pServers, qOverload<int>(&QComboBox::activated), &session.servers, &Servers::SetCurrent);
     connect(&session.servers, &Servers::Changed, this, &ServerBar::ShowServers);
     connect(&session.emulator, &EmulatorProcess::StateChanged, this, &ServerBar::ShowState);
 
-    auto* const pLayout = new QHBoxLayout(this);
+    auto* const pLayout = Row(
+        {LabelFor(m_pServers, tr("Server")), m_pServers, pEdit, Space(8), m_pAddress, Stretch(), m_pEmulator}, this);
     pLayout->setContentsMargins(12, 8, 12, 8);
     pLayout->setSpacing(8);
-    pLayout->addWidget(pLabel);
-    pLayout->addWidget(m_pServers);
-    pLayout->addWidget(pEdit);
-    pLayout->addSpacing(8);
-    pLayout->addWidget(m_pAddress);
-    pLayout->addStretch();
-    pLayout->addWidget(m_pEmulator);
     ShowServers();
 }
 

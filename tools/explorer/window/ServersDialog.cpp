@@ -6,6 +6,7 @@
 #include "../core/Tokens.h"
 #include "../views/Theme.h"
 #include "../views/TintedLabel.h"
+#include "../views/Widgets.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -44,9 +45,8 @@ QString DigestText(const QByteArray& digest)
     return QString::fromLatin1(first.toHex(':') + ":\n" + digest.mid(first.size()).toHex(':'));
 }
 
-QLabel* Named(QLabel* pLabel, const char* name)
+QLabel* Selectable(QLabel* pLabel)
 {
-    pLabel->setObjectName(QLatin1String(name));
     pLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     pLabel->setWordWrap(true);
     return pLabel;
@@ -55,13 +55,18 @@ QLabel* Named(QLabel* pLabel, const char* name)
 }  // namespace
 
 ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
-    : QDialog(pParent), m_servers(servers), m_tokens(tokens), m_edited(servers.All()), m_pList(new QListWidget),
-      m_pRemove(new QToolButton), m_pName(new QLineEdit), m_pScheme(new QComboBox), m_pHost(new QLineEdit),
-      m_pPort(new QSpinBox), m_pToken(new QLineEdit), m_pLanguage(new QComboBox),
-      m_pTrusted(Named(new QLabel, "trustedCertificate")), m_pPresented(Named(new QLabel, "presentedCertificate")),
-      m_pChanged(Named(new TintedLabel(theme::Error), "changedCertificate")),
-      m_pLookAt(new QPushButton(tr("Fetch from the server"))), m_pTrust(new QPushButton(tr("Trust this certificate"))),
-      m_pTrustAny(new QPushButton(tr("Trust any certificate"))), m_pProblem(new TintedLabel(theme::Error)),
+    : QDialog(pParent), m_servers(servers), m_tokens(tokens), m_edited(servers.All()),
+      m_pList(Named(new QListWidget, "serverList")), m_pRemove(Named(new QToolButton, "removeServer")),
+      m_pName(Named(new QLineEdit, "serverName")), m_pScheme(Named(new QComboBox, "serverScheme")),
+      m_pHost(Named(new QLineEdit, "serverHost")), m_pPort(Named(new QSpinBox, "serverPort")),
+      m_pToken(Named(new QLineEdit, "serverToken")), m_pLanguage(Named(new QComboBox, "serverLanguage")),
+      m_pTrusted(Named(Selectable(new QLabel), "trustedCertificate")),
+      m_pPresented(Named(Selectable(new QLabel), "presentedCertificate")),
+      m_pChanged(Named(Selectable(new TintedLabel(theme::Error)), "changedCertificate")),
+      m_pLookAt(Named(new QPushButton(tr("Fetch from the server")), "showCertificate")),
+      m_pTrust(Named(new QPushButton(tr("Trust this certificate")), "trustCertificate")),
+      m_pTrustAny(Named(new QPushButton(tr("Trust any certificate")), "trustAnyCertificate")),
+      m_pProblem(new TintedLabel(theme::Error)),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle(tr("Servers"));
@@ -69,15 +74,11 @@ ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
     connect(m_pButtons, &QDialogButtonBox::accepted, this, &ServersDialog::accept);
     connect(m_pButtons, &QDialogButtonBox::rejected, this, &ServersDialog::reject);
 
-    auto* const pPanes = new QHBoxLayout;
+    auto* const pPanes = Row({{MakeList(), 2}, {MakeForm(), 3}});
     pPanes->setSpacing(16);
-    pPanes->addWidget(MakeList(), 2);
-    pPanes->addWidget(MakeForm(), 3);
-    auto* const pLayout = new QVBoxLayout(this);
+    auto* const pLayout = Column({pPanes, m_pButtons}, this);
     pLayout->setContentsMargins(16, 16, 16, 16);
     pLayout->setSpacing(12);
-    pLayout->addLayout(pPanes);
-    pLayout->addWidget(m_pButtons);
     m_pList->setCurrentRow(m_servers.CurrentIndex());
     constexpr QSize kSize(860, 460);
     resize(kSize);
@@ -85,51 +86,35 @@ ServersDialog::ServersDialog(Servers& servers, Tokens& tokens, QWidget* pParent)
 
 QWidget* ServersDialog::MakeList()
 {
-    m_pList->setObjectName(QStringLiteral("serverList"));
     m_pList->setAccessibleName(tr("Servers"));
     for (const Server& server : std::as_const(m_edited)) {
         m_pList->addItem(server.name);
     }
     connect(m_pList, &QListWidget::currentRowChanged, this, &ServersDialog::ShowServer);
 
-    auto* const pAdd = new QToolButton;
-    pAdd->setObjectName(QStringLiteral("addServer"));
+    auto* const pAdd = Named(new QToolButton, "addServer");
     pAdd->setIcon(Icon("add"));
     pAdd->setText(tr("Add"));
     pAdd->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(pAdd, &QToolButton::clicked, this, &ServersDialog::Add);
-    m_pRemove->setObjectName(QStringLiteral("removeServer"));
     m_pRemove->setIcon(Icon("remove"));
     m_pRemove->setText(tr("Remove"));
     m_pRemove->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(m_pRemove, &QToolButton::clicked, this, &ServersDialog::Remove);
 
-    auto* const pBar = new QHBoxLayout;
-    pBar->addWidget(pAdd);
-    pBar->addWidget(m_pRemove);
-    pBar->addStretch();
     auto* const pPane = new QWidget;
-    auto* const pLayout = new QVBoxLayout(pPane);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(m_pList);
-    pLayout->addLayout(pBar);
+    Column({m_pList, Row({pAdd, m_pRemove, Stretch()})}, pPane)->setContentsMargins(0, 0, 0, 0);
     return pPane;
 }
 
 QWidget* ServersDialog::MakeForm()
 {
-    m_pName->setObjectName(QStringLiteral("serverName"));
-    m_pHost->setObjectName(QStringLiteral("serverHost"));
     m_pHost->setPlaceholderText(tr("Host name or IP address"));
-    m_pPort->setObjectName(QStringLiteral("serverPort"));
     m_pPort->setRange(1, kHighestPort);
-    m_pScheme->setObjectName(QStringLiteral("serverScheme"));
     m_pScheme->addItem(QStringLiteral("https"), true);
     m_pScheme->addItem(QStringLiteral("http"), false);
-    m_pToken->setObjectName(QStringLiteral("serverToken"));
     m_pToken->setEchoMode(QLineEdit::Password);
     m_pToken->setPlaceholderText(tr("Unchanged"));
-    m_pLanguage->setObjectName(QStringLiteral("serverLanguage"));
     m_pLanguage->setEditable(true);
     m_pLanguage->addItems({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh")});
     m_pLanguage->setToolTip(tr("Language for the server's replies"));
@@ -171,9 +156,6 @@ QWidget* ServersDialog::MakeForm()
 
 QWidget* ServersDialog::MakeCertificate()
 {
-    m_pLookAt->setObjectName(QStringLiteral("showCertificate"));
-    m_pTrust->setObjectName(QStringLiteral("trustCertificate"));
-    m_pTrustAny->setObjectName(QStringLiteral("trustAnyCertificate"));
     connect(m_pLookAt, &QPushButton::clicked, this, &ServersDialog::LookAtCertificate);
     connect(m_pTrust, &QPushButton::clicked, this, [this] { Pin(m_presented); });
     connect(m_pTrustAny, &QPushButton::clicked, this, [this] { Pin({}); });

@@ -1,19 +1,19 @@
 #include "TokenDialog.h"
+#include "../views/Widgets.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 namespace explorer {
 
 TokenDialog::TokenDialog(const QString& serverName, QWidget* pParent)
-    : QDialog(pParent), m_pToken(new QLineEdit), m_pKeep(new QCheckBox(tr("Store it in the desktop's secret service")))
+    : QDialog(pParent), m_pToken(Named(new QLineEdit, "token")),
+      m_pKeep(new QCheckBox(tr("Store it in the desktop's secret service")))
 {
     setWindowTitle(tr("Session token"));
     setObjectName(QStringLiteral("tokenDialog"));
-    m_pToken->setObjectName(QStringLiteral("token"));
     m_pToken->setEchoMode(QLineEdit::Password);
     m_pKeep->setChecked(true);
     auto* const pLabel = new QLabel(tr("Session &token for “%1”:").arg(serverName));
@@ -26,14 +26,7 @@ TokenDialog::TokenDialog(const QString& serverName, QWidget* pParent)
     connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(16, 16, 16, 16);
-    pLayout->addWidget(pLabel);
-    pLayout->addWidget(m_pToken);
-    pLayout->addWidget(m_pKeep);
-    pLayout->addWidget(pHint);
-    pLayout->addSpacing(8);
-    pLayout->addWidget(pButtons);
+    Column({pLabel, m_pToken, m_pKeep, pHint, Space(8), pButtons}, this)->setContentsMargins(16, 16, 16, 16);
     constexpr int kWidth = 420;
     setMinimumWidth(kWidth);
 }

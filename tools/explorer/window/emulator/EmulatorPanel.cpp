@@ -8,32 +8,28 @@
 #include "../../core/Session.h"
 #include "../../views/Theme.h"
 #include "../../views/TintedLabel.h"
+#include "../../views/Widgets.h"
 
 #include <QTabWidget>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace explorer {
 
 EmulatorPanel::EmulatorPanel(Session& session, QWidget* pParent)
-    : QWidget(pParent), m_session(session), m_control(session.emulator), m_pStopped(new TintedLabel(theme::Hint)),
-      m_pTabs(new QTabWidget), m_pRequests(new RequestsPage(m_control)), m_pFaults(new FaultsPage(m_control)),
-      m_pState(new StatePage(m_control)), m_pTimer(new QTimer(this))
+    : QWidget(pParent), m_session(session), m_control(session.emulator),
+      m_pStopped(Named(new TintedLabel(theme::Hint), "emulatorStopped")),
+      m_pTabs(Named(new QTabWidget, "emulatorTabs")), m_pRequests(new RequestsPage(m_control)),
+      m_pFaults(new FaultsPage(m_control)), m_pState(new StatePage(m_control)), m_pTimer(new QTimer(this))
 {
-    m_pStopped->setObjectName(QStringLiteral("emulatorStopped"));
     m_pStopped->setWordWrap(true);
     constexpr int kMargin = 9;
     m_pStopped->setContentsMargins(kMargin, kMargin, kMargin, 0);
-    m_pTabs->setObjectName(QStringLiteral("emulatorTabs"));
     m_pTabs->setDocumentMode(true);
     m_pTabs->addTab(m_pRequests, tr("Re&quests"));
     m_pTabs->addTab(m_pFaults, tr("&Faults"));
     m_pTabs->addTab(m_pState, tr("St&ate"));
     m_pTabs->addTab(new StartPage(session), tr("Sta&rt"));
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(m_pStopped);
-    pLayout->addWidget(m_pTabs, 1);
+    Column({m_pStopped, {m_pTabs, 1}}, this)->setContentsMargins(0, 0, 0, 0);
 
     constexpr int kInterval = 500;  // milliseconds
     m_pTimer->setInterval(kInterval);

@@ -1,4 +1,5 @@
 #include "FaultForm.h"
+#include "../../views/Widgets.h"
 
 #include <catalogue/Call.h>
 
@@ -45,13 +46,6 @@ const Kind* FindKind(const QString& name)
         }
     }
     return nullptr;
-}
-
-template <typename Widget>
-Widget* Named(Widget* pWidget, const char* objectName)
-{
-    pWidget->setObjectName(QLatin1String(objectName));
-    return pWidget;
 }
 
 QSpinBox* NewNumber(const char* objectName, int least, int most, int value, const QString& suffix = {})

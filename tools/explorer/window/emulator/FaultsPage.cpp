@@ -6,21 +6,19 @@
 #include "../../views/RoomyDelegate.h"
 #include "../../views/Theme.h"
 #include "../../views/TintedLabel.h"
+#include "../../views/Widgets.h"
 
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
 
 constexpr int kNumberRole = Qt::UserRole;
 
-enum Column {
+enum FaultColumn {
     KindColumn,
     CallsColumn,
     FirstColumn,
@@ -61,17 +59,13 @@ QString CallsText(const nlohmann::json& fault)
 }  // namespace
 
 FaultsPage::FaultsPage(EmulatorControl& control, QWidget* pParent)
-    : QWidget(pParent), m_control(control), m_pForm(new FaultForm), m_pList(new QTreeWidget),
-      m_pRemove(new QPushButton(tr("Re&move"))), m_pRemoveAll(new QPushButton(tr("Remove a&ll"))),
-      m_pProblem(new TintedLabel(theme::Error))
+    : QWidget(pParent), m_control(control), m_pForm(new FaultForm), m_pList(Named(new QTreeWidget, "faults")),
+      m_pRemove(Named(new QPushButton(tr("Re&move")), "removeFault")),
+      m_pRemoveAll(Named(new QPushButton(tr("Remove a&ll")), "removeFaults")),
+      m_pProblem(Named(new TintedLabel(theme::Error), "faultProblem"))
 {
-    auto* const pAdd = new QPushButton(tr("A&dd"));
-    pAdd->setObjectName(QStringLiteral("addFault"));
-    m_pRemove->setObjectName(QStringLiteral("removeFault"));
-    m_pRemoveAll->setObjectName(QStringLiteral("removeFaults"));
-    m_pProblem->setObjectName(QStringLiteral("faultProblem"));
+    auto* const pAdd = Named(new QPushButton(tr("A&dd")), "addFault");
     m_pProblem->setWordWrap(true);
-    m_pList->setObjectName(QStringLiteral("faults"));
     m_pList->setAccessibleName(tr("Faults"));
     m_pList->setHeaderLabels({tr("Fault"), tr("Calls"), tr("Skips left"), tr("Times left")});
     m_pList->setRootIsDecorated(false);
@@ -90,24 +84,14 @@ FaultsPage::FaultsPage(EmulatorControl& control, QWidget* pParent)
     connect(m_pRemoveAll, &QPushButton::clicked, this, [this] { Remove(QStringLiteral("faults")); });
     connect(m_pList, &QTreeWidget::currentItemChanged, this, &FaultsPage::ShowChosen);
 
-    auto* const pBar = new QHBoxLayout;
-    pBar->addWidget(pAdd);
-    pBar->addWidget(m_pProblem, 1);
-    pBar->addWidget(m_pRemove);
-    pBar->addWidget(m_pRemoveAll);
     auto* const pPage = new QWidget;
-    auto* const pPageLayout = new QVBoxLayout(pPage);
-    pPageLayout->addWidget(m_pForm);
-    pPageLayout->addLayout(pBar);
-    pPageLayout->addWidget(m_pList, 1);
+    Column({m_pForm, Row({pAdd, {m_pProblem, 1}, m_pRemove, m_pRemoveAll}), {m_pList, 1}}, pPage);
     auto* const pScrolled = new QScrollArea;
     pScrolled->setWidget(pPage);
     pScrolled->setWidgetResizable(true);
     pScrolled->setFrameShape(QFrame::NoFrame);
     pScrolled->setFocusPolicy(Qt::NoFocus);
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(pScrolled);
+    Column({pScrolled}, this)->setContentsMargins(0, 0, 0, 0);
     ShowChosen();
 }
 

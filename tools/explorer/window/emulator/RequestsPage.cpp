@@ -5,24 +5,17 @@
 #include "../../core/EmulatorControl.h"
 #include "../../views/CodeView.h"
 #include "../../views/Json.h"
+#include "../../views/Widgets.h"
 
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
-#include <QVBoxLayout>
 
 namespace explorer {
 namespace {
-
-QString BodyText(const QByteArray& body)
-{
-    const auto parsed = nlohmann::json::parse(body.cbegin(), body.cend(), nullptr, false);
-    return parsed.is_discarded() ? QString::fromUtf8(body) : JsonText(parsed);
-}
 
 QString TextOf(const EmulatorRequests::Entry& entry)
 {
@@ -30,7 +23,7 @@ QString TextOf(const EmulatorRequests::Entry& entry)
     for (const Header& header : entry.headers) {
         text += header.name + QLatin1String(": ") + header.value + QLatin1Char('\n');
     }
-    return entry.body.isEmpty() ? text : text + QLatin1Char('\n') + BodyText(entry.body);
+    return entry.body.isEmpty() ? text : text + QLatin1Char('\n') + PrettyJson(entry.body);
 }
 
 }  // namespace
@@ -38,7 +31,8 @@ QString TextOf(const EmulatorRequests::Entry& entry)
 RequestsPage::RequestsPage(EmulatorControl& control, QWidget* pParent)
     : QWidget(pParent), m_control(control), m_pShown(new QSortFilterProxyModel(this)),
       m_pTable(NewLineTable(QStringLiteral("emulatorRequests"), *m_pShown, tr("No requests"))),
-      m_pDetails(new CodeView(CodeView::Kind::Text, tr("Choose a request to see its headers and its body.")))
+      m_pDetails(Named(new CodeView(CodeView::Kind::Text, tr("Choose a request to see its headers and its body.")),
+                       "emulatorRequest"))
 {
     m_pShown->setSourceModel(&m_requests);
     m_pShown->setFilterKeyColumn(-1);
@@ -55,19 +49,14 @@ RequestsPage::RequestsPage(EmulatorControl& control, QWidget* pParent)
     m_pTable->setColumnWidth(EmulatorRequests::StatusColumn, widthOf(EmulatorRequests::tr("No reply")));
     m_pTable->setColumnWidth(EmulatorRequests::CodeColumn, widthOf(QStringLiteral("00000")));
     m_pTable->horizontalHeader()->setSectionResizeMode(EmulatorRequests::TargetColumn, QHeaderView::Stretch);
-    m_pDetails->setObjectName(QStringLiteral("emulatorRequest"));
 
     QLineEdit* const pSearch = NewSearch();
     connect(pSearch, &QLineEdit::textChanged, m_pShown, &QSortFilterProxyModel::setFilterFixedString);
-    auto* const pClear = new QPushButton(tr("C&lear"));
-    pClear->setObjectName(QStringLiteral("clearRequests"));
+    auto* const pClear = Named(new QPushButton(tr("C&lear")), "clearRequests");
     connect(pClear, &QPushButton::clicked, this, &RequestsPage::ClearAll);
     connect(m_pTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, &RequestsPage::ShowChosen);
     connect(&m_requests, &EmulatorRequests::modelReset, this, &RequestsPage::ShowChosen);
 
-    auto* const pBar = new QHBoxLayout;
-    pBar->addWidget(pSearch, 1);
-    pBar->addWidget(pClear);
     auto* const pParts = new QSplitter(Qt::Vertical);
     pParts->setChildrenCollapsible(false);
     pParts->addWidget(m_pTable);
@@ -76,9 +65,7 @@ RequestsPage::RequestsPage(EmulatorControl& control, QWidget* pParent)
     for (QWidget* pPart : {static_cast<QWidget*>(m_pTable), static_cast<QWidget*>(m_pDetails)}) {
         pPart->setMinimumHeight(kMinimum);
     }
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->addLayout(pBar);
-    pLayout->addWidget(pParts, 1);
+    Column({Row({{pSearch, 1}, pClear}), {pParts, 1}}, this);
     setFocusProxy(pSearch);
 }
 

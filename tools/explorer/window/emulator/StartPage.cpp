@@ -3,6 +3,7 @@
 #include "../../core/Session.h"
 #include "../../views/Theme.h"
 #include "../../views/TintedLabel.h"
+#include "../../views/Widgets.h"
 
 #include <QFileDialog>
 #include <QGridLayout>
@@ -14,24 +15,21 @@
 namespace explorer {
 
 StartPage::StartPage(Session& session, QWidget* pParent)
-    : QWidget(pParent), m_session(session), m_pScale(new QSpinBox), m_pSeed(new QLineEdit), m_pRestart(new QPushButton),
-      m_pAddresses(new TintedLabel(theme::Hint)), m_pProblem(new TintedLabel(theme::Error))
+    : QWidget(pParent), m_session(session), m_pScale(Named(new QSpinBox, "emulatorScale")),
+      m_pSeed(Named(new QLineEdit, "emulatorSeed")), m_pRestart(Named(new QPushButton, "restartEmulator")),
+      m_pAddresses(Named(new TintedLabel(theme::Hint), "emulatorAddresses")),
+      m_pProblem(Named(new TintedLabel(theme::Error), "emulatorProblem"))
 {
     constexpr int kLargestScale = 10000;
-    m_pScale->setObjectName(QStringLiteral("emulatorScale"));
     m_pScale->setRange(1, kLargestScale);
     m_pScale->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     m_pScale->setValue(session.emulator.Options().scale);
     m_pScale->setToolTip(tr("Multiplies the length of the seeded lists"));
-    m_pSeed->setObjectName(QStringLiteral("emulatorSeed"));
     m_pSeed->setPlaceholderText(tr("The built-in seed data"));
     m_pSeed->setClearButtonEnabled(true);
     m_pSeed->setText(session.emulator.Options().seedFolder);
     auto* const pBrowse = new QPushButton(tr("Cho&ose…"));
-    m_pRestart->setObjectName(QStringLiteral("restartEmulator"));
-    m_pAddresses->setObjectName(QStringLiteral("emulatorAddresses"));
     m_pAddresses->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_pProblem->setObjectName(QStringLiteral("emulatorProblem"));
     m_pProblem->setWordWrap(true);
     connect(m_pScale, qOverload<int>(&QSpinBox::valueChanged), this, &StartPage::Keep);
     connect(m_pSeed, &QLineEdit::textChanged, this, &StartPage::Keep);
@@ -40,14 +38,10 @@ StartPage::StartPage(Session& session, QWidget* pParent)
     connect(&session.emulator, &EmulatorProcess::StateChanged, this, &StartPage::Update);
     connect(&session.emulator, &EmulatorProcess::Failed, m_pProblem, &QLabel::setText);
 
-    auto* const pScaleLabel = new QLabel(tr("Scale"));
-    pScaleLabel->setBuddy(m_pScale);
-    auto* const pSeedLabel = new QLabel(tr("Seed folder"));
-    pSeedLabel->setBuddy(m_pSeed);
     auto* const pLayout = new QGridLayout(this);
-    pLayout->addWidget(pScaleLabel, 0, 0);
+    pLayout->addWidget(LabelFor(m_pScale, tr("Scale")), 0, 0);
     pLayout->addWidget(m_pScale, 0, 1, Qt::AlignLeft);
-    pLayout->addWidget(pSeedLabel, 1, 0);
+    pLayout->addWidget(LabelFor(m_pSeed, tr("Seed folder")), 1, 0);
     pLayout->addWidget(m_pSeed, 1, 1);
     pLayout->addWidget(pBrowse, 1, 2);
     pLayout->addWidget(m_pRestart, 2, 1, Qt::AlignLeft);

@@ -6,14 +6,13 @@
 #include "../../views/JsonHighlighter.h"
 #include "../../views/Theme.h"
 #include "../../views/TintedLabel.h"
+#include "../../views/Widgets.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -23,13 +22,6 @@ namespace {
 using nlohmann::json;
 
 constexpr int kLongestText = 2'000'000;
-
-QPushButton* NewButton(const QString& text, const char* objectName)
-{
-    auto* const pButton = new QPushButton(text);
-    pButton->setObjectName(QLatin1String(objectName));
-    return pButton;
-}
 
 json::json_pointer PlaceOf(const QString& part)
 {
@@ -45,17 +37,14 @@ QString LineOf(const std::string& text, std::size_t byte)
 }  // namespace
 
 StatePage::StatePage(EmulatorControl& control, QWidget* pParent)
-    : QWidget(pParent), m_control(control), m_pPart(new QComboBox), m_pText(new QPlainTextEdit),
-      m_pApply(NewButton(tr("A&pply"), "applyState")), m_pProblem(new TintedLabel(theme::Error)),
-      m_pMessage(new TintedLabel(theme::Hint))
+    : QWidget(pParent), m_control(control), m_pPart(Named(new QComboBox, "statePart")),
+      m_pText(Named(new QPlainTextEdit, "stateText")), m_pApply(Named(new QPushButton(tr("A&pply")), "applyState")),
+      m_pProblem(Named(new TintedLabel(theme::Error), "stateProblem")),
+      m_pMessage(Named(new TintedLabel(theme::Hint), "stateMessage"))
 {
-    m_pPart->setObjectName(QStringLiteral("statePart"));
     m_pPart->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     constexpr int kShown = 20;
     m_pPart->setMaxVisibleItems(kShown);
-    auto* const pPartLabel = new QLabel(tr("Part"));
-    pPartLabel->setBuddy(m_pPart);
-    m_pText->setObjectName(QStringLiteral("stateText"));
     m_pText->setAccessibleName(tr("State"));
     m_pText->setFont(theme::FixedFont());
     m_pText->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -64,12 +53,10 @@ StatePage::StatePage(EmulatorControl& control, QWidget* pParent)
     m_pText->setMinimumHeight(kLowest);
     new JsonHighlighter(*m_pText);
     m_pApply->setToolTip(tr("Applies your changes as a JSON merge patch"));
-    auto* const pReload = NewButton(tr("Re&load"), "reloadState");
+    auto* const pReload = Named(new QPushButton(tr("Re&load")), "reloadState");
     pReload->setToolTip(tr("Shows the current state; unapplied changes are lost"));
-    auto* const pReset = NewButton(tr("Rese&t"), "resetState");
+    auto* const pReset = Named(new QPushButton(tr("Rese&t")), "resetState");
     pReset->setToolTip(tr("Restores the seed data"));
-    m_pProblem->setObjectName(QStringLiteral("stateProblem"));
-    m_pMessage->setObjectName(QStringLiteral("stateMessage"));
     for (QLabel* pLabel : {m_pProblem, m_pMessage}) {
         pLabel->setWordWrap(true);
         pLabel->hide();
@@ -80,20 +67,10 @@ StatePage::StatePage(EmulatorControl& control, QWidget* pParent)
     connect(pReload, &QPushButton::clicked, this, &StatePage::Load);
     connect(pReset, &QPushButton::clicked, this, &StatePage::Reset);
 
-    auto* const pBar = new QHBoxLayout;
-    pBar->addWidget(pPartLabel);
-    pBar->addWidget(m_pPart, 1);
-    pBar->addWidget(pReload);
-    pBar->addWidget(pReset);
-    auto* const pFooter = new QHBoxLayout;
-    pFooter->addWidget(m_pProblem, 1);
-    pFooter->addWidget(m_pMessage, 1);
-    pFooter->addStretch();
-    pFooter->addWidget(m_pApply);
-    auto* const pLayout = new QVBoxLayout(this);
-    pLayout->addLayout(pBar);
-    pLayout->addWidget(m_pText, 1);
-    pLayout->addLayout(pFooter);
+    Column({Row({LabelFor(m_pPart, tr("Part")), {m_pPart, 1}, pReload, pReset}),
+            {m_pText, 1},
+            Row({{m_pProblem, 1}, {m_pMessage, 1}, Stretch(), m_pApply})},
+           this);
     Clear();
 }
 
