@@ -29,16 +29,15 @@ TEST_P(QuittingTest, ClosingTheLastWindowDuringACallEndsTheCallAndTheProgram)
     Find<QSpinBox>("timeout").setValue(kLong);
     Choose("BRMS.GetRemoteLogConfig");
     ClickRun();
-    bool closed = false;
-    When([&requests] { return requests > 0; },
-         [this, &closed] {
-             EXPECT_TRUE(outcomes.empty());
-             closed = Window().close();
-         });
+    const auto closing = When([&requests] { return requests > 0; },
+                              [this] {
+                                  EXPECT_TRUE(outcomes.empty());
+                                  Window().close();
+                              });
     QTimer::singleShot(kPatience, session.get(), &QApplication::quit);
     QApplication::setQuitOnLastWindowClosed(true);
     QApplication::exec();
-    EXPECT_TRUE(closed);
+    EXPECT_FALSE(closing->isActive());
     EXPECT_EQ(session->runner.Pending(), 0);
     ASSERT_EQ(outcomes.size(), 1U);
     EXPECT_EQ(outcomes.front().result, -101);

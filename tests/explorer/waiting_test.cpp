@@ -56,15 +56,13 @@ protected:
     {
         Choose(kCall);
         ClickRun();
-        bool happened = false;
-        When([&server] { return server.Requests() > 0; },
-             [&] {
-                 happened = true;
-                 EXPECT_EQ(outcomes.size(), 0U);
-                 meanwhile();
-             });
+        const auto happening = When([&server] { return server.Requests() > 0; },
+                                    [&] {
+                                        EXPECT_EQ(outcomes.size(), 0U);
+                                        meanwhile();
+                                    });
         EXPECT_TRUE(Await([this] { return session->runner.Pending() == 0; }));
-        EXPECT_TRUE(happened);
+        EXPECT_FALSE(happening->isActive());
     }
 };
 
@@ -177,7 +175,7 @@ TEST_F(WaitingTest, SimultaneousRunsOfOneCallHaveSeparateResults)
     Use(WaitMode::EventLoop);
     Choose(kCall);
     ClickRun();
-    When([&count] { return count == 1; }, [this] { ClickRun(); });
+    const auto secondRun = When([&count] { return count == 1; }, [this] { ClickRun(); });
     ASSERT_TRUE(AwaitRuns(2));
     EXPECT_EQ(outcomes.at(0).result, 503);
     EXPECT_EQ(outcomes.at(0).reply->status, 503);
@@ -280,11 +278,11 @@ TEST_F(WaitingTest, DeletingTheParentEndsTheWait)
     order.parent = pParent;
     session->runner.Order(order);
     QElapsedTimer clock;
-    When([&server] { return server.Requests() == 1; },
-         [&clock, pParent] {
-             clock.start();
-             delete pParent;
-         });
+    const auto deletion = When([&server] { return server.Requests() == 1; },
+                               [&clock, pParent] {
+                                   clock.start();
+                                   delete pParent;
+                               });
     ASSERT_TRUE(AwaitRuns(1));
     ASSERT_TRUE(clock.isValid());
     EXPECT_LT(clock.elapsed(), 5000);  // the call's own time-out is 10 s

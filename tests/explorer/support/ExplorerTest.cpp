@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QTimer>
 
 namespace explorer_test {
 
@@ -86,17 +85,18 @@ void ExplorerTest::Close()
     settings.reset();
 }
 
-void ExplorerTest::When(std::function<bool()> holds, std::function<void()> happens) const
+std::unique_ptr<QTimer> ExplorerTest::When(std::function<bool()> holds, std::function<void()> happens)
 {
-    auto* const pTimer = new QTimer(session.get());
-    QObject::connect(pTimer, &QTimer::timeout, pTimer,
-                     [pTimer, holds = std::move(holds), happens = std::move(happens)] {
+    auto timer = std::make_unique<QTimer>();
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(),
+                     [pTimer = timer.get(), holds = std::move(holds), happens = std::move(happens)] {
                          if (holds()) {
                              pTimer->stop();
                              happens();
                          }
                      });
-    pTimer->start(10);
+    timer->start(10);
+    return timer;
 }
 
 bool ExplorerTest::Activate() const

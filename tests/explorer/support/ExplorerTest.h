@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -65,8 +66,8 @@ protected:
     [[nodiscard]] explorer::MainWindow& Window() const { return m_windows->Current(); }
     [[nodiscard]] explorer::ArgumentForm& Form() const { return *Window().findChild<explorer::ArgumentForm*>(); }
 
-    /// Calls happens() once, as soon as the event loop runs while holds() returns true.
-    void When(std::function<bool()> holds, std::function<void()> happens) const;
+    /// Calls happens() once, as soon as the event loop runs while holds() returns true. The timer is active until then.
+    [[nodiscard]] static std::unique_ptr<QTimer> When(std::function<bool()> holds, std::function<void()> happens);
 
     /// Activates the window and waits until it receives key events.
     [[nodiscard]] bool Activate() const;
