@@ -131,8 +131,8 @@ QVariant EmulatorRequests::headerData(int section, Qt::Orientation orientation, 
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    const QString headers[] = {tr("Time"), tr("Method"), tr("Path"), tr("Status"), tr("Code")};
-    return headers[section];
+    const QStringList headers{tr("Time"), tr("Method"), tr("Path"), tr("Status"), tr("Code")};
+    return headers.value(section);
 }
 
 }  // namespace explorer

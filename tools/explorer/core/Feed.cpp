@@ -65,8 +65,8 @@ QVariant Feed::headerData(int section, Qt::Orientation orientation, int role) co
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    const QString headers[] = {tr("Time"), tr("Level"), tr("Text"), tr("Function")};
-    return headers[section];
+    const QStringList headers{tr("Time"), tr("Level"), tr("Text"), tr("Function")};
+    return headers.value(section);
 }
 
 QString Feed::LevelName(int level)

@@ -336,8 +336,8 @@ QVariant History::headerData(int section, Qt::Orientation orientation, int role)
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    const QString headers[] = {tr("Time"), tr("Call"), tr("Arguments"), tr("Server"), tr("End"), tr("Duration")};
-    return headers[section];
+    const QStringList headers{tr("Time"), tr("Call"), tr("Arguments"), tr("Server"), tr("End"), tr("Duration")};
+    return headers.value(section);
 }
 
 }  // namespace explorer

@@ -276,8 +276,8 @@ QVariant RecordModel::headerData(int section, Qt::Orientation orientation, int r
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    const QString headers[] = {tr("Name"), tr("Value"), tr("Type")};
-    return headers[section];
+    const QStringList headers{tr("Name"), tr("Value"), tr("Type")};
+    return headers.value(section);
 }
 
 const RecordModel::Node& RecordModel::NodeOf(const QModelIndex& index) const
