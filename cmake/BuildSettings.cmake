@@ -36,7 +36,7 @@ if(APIMODULE_SANITIZE)
 endif()
 
 if(APIMODULE_FUZZ)
-    add_compile_options(-fsanitize=fuzzer-no-link)
+    set(APIMODULE_FUZZED_CODE -fsanitize=fuzzer-no-link)  # options for the code that the fuzz targets explore
 endif()
 
 if(APIMODULE_COVERAGE)
