@@ -68,8 +68,9 @@ TEST_P(Separation, ConnectionIsNotUsedAgainAfterRepliesThatEndIt)
 {
     RawServer server(
         [](const RawRequest& request) {
-            return RawReply{request.target == "/chunks" ? "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nnone\r\n"
-                                                        : "HTTP/1.0 200 OK\r\nContent-Length: 13\r\n\r\n{\"code\":1000}"};
+            return RawReply{request.target == "/chunks"
+                                ? "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nnone\r\n"
+                                : "HTTP/1.0 200 OK\r\nContent-Length: 13\r\n\r\n{\"code\":1000}"};
         },
         GetParam());
     Use(server, GetParam());
