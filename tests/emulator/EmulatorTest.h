@@ -3,6 +3,7 @@
 #include "PlatformEmulator.h"
 #include "TestClient.h"
 
+#include <support/ErrorOf.h>
 #include <support/Rows.h>
 
 #include <gtest/gtest.h>
@@ -20,18 +21,6 @@ emulator::Options With(Value emulator::Options::*option, const Value& value)
     emulator::Options options;
     options.*option = value;
     return options;
-}
-
-/// The text of the error that the action throws; empty for none.
-template <typename Error, typename Action>
-std::string ErrorOf(Action action)
-{
-    try {
-        action();
-        return {};
-    } catch (const Error& error) {
-        return error.what();
-    }
 }
 
 /// An emulator that is started on free ports, or on those of its options.
@@ -107,6 +96,7 @@ private:
     std::filesystem::path m_path;
 };
 
+using testing_support::ErrorOf;
 using testing_support::RowName;
 
 inline std::string SchemeName(const testing::TestParamInfo<TestClient::Scheme>& scheme)

@@ -1,4 +1,5 @@
 // Types, values and calls of the catalogue, tested with this file's records and functions and with the library's.
+#include "support/ErrorOf.h"
 #include "support/Host.h"
 #include "support/Rows.h"
 
@@ -200,18 +201,6 @@ TEST(Values, RejectedValueChangesNothing)
     EXPECT_EQ(static_cast<Bicycle*>(value.Data())->gears, 7);
 }
 
-/// The text of the mismatch that the action throws; empty for none.
-template <typename Action>
-std::string MismatchOf(Action action)
-{
-    try {
-        action();
-        return {};
-    } catch (const Mismatch& mismatch) {
-        return mismatch.what();
-    }
-}
-
 struct MismatchRow {
     const char* name;
     const char* json;
@@ -223,7 +212,7 @@ class Mismatches : public testing::TestWithParam<MismatchRow> {};
 TEST_P(Mismatches, ReportProblemAndPath)
 {
     Value value(TypeOf<Bicycle>());
-    EXPECT_EQ(MismatchOf([&] { value.Assign(Parsed(GetParam().json), "/bicycle"); }), GetParam().text);
+    EXPECT_EQ(ErrorOf<Mismatch>([&] { value.Assign(Parsed(GetParam().json), "/bicycle"); }), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -260,7 +249,7 @@ class Arguments : public testing::TestWithParam<MismatchRow> {};
 TEST_P(Arguments, AreRejectedWithAReason)
 {
     const auto call = Entry<TEST::TakeReferences>("Takes references", "flag", "bicycle", "number");
-    EXPECT_EQ(MismatchOf([&] { catalogue::ReadArguments(call, Parsed(GetParam().json)); }), GetParam().text);
+    EXPECT_EQ(ErrorOf<Mismatch>([&] { catalogue::ReadArguments(call, Parsed(GetParam().json)); }), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -280,7 +269,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Entries, CallWithoutArgumentsRejectsAnArgument)
 {
-    EXPECT_EQ(MismatchOf([] {
+    EXPECT_EQ(ErrorOf<Mismatch>([] {
                   catalogue::ReadArguments(Entry<TEST::Fail>("Fails"), {{"flag", true}});
               }),
               "TEST.Fail has no argument \"flag\"; it takes no arguments");

@@ -405,8 +405,10 @@ int CAPIModulePrivate::BuildRequest(const RequestParam& param, QNetworkRequest& 
     if (m_strTimeZoneId.empty()) {
         m_strTimeZoneId = QTimeZone::systemTimeZoneId().toStdString();
     }
+    // The interface prescribes raw headers. The transport sends the list, which Qt does not change.
     http::HeaderList headers;
-    const auto setHeader = [&headers](const QByteArray& name, const QByteArray& value) {
+    const auto setHeader = [&request, &headers](const QByteArray& name, const QByteArray& value) {
+        request.setRawHeader(name, value);
         headers.erase(std::remove_if(headers.begin(), headers.end(),
                                      [&name](const auto& header) { return header.first == name; }),
                       headers.end());

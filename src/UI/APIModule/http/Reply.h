@@ -22,8 +22,8 @@ class ReplyReader;
 /// Names and values.
 using HeaderList = QList<QPair<QByteArray, QByteArray>>;
 
-/// The headers of a request, as a HeaderList. They are not its raw headers, because Qt changes those from 6.8 on: it
-/// stores names in lower case, trims values, and drops values with control characters.
+/// The headers that are sent with a request, as a HeaderList. Its raw headers are not sent, because Qt changes those
+/// from 6.8 on: it stores names in lower case, trims values, and drops values with control characters.
 inline constexpr auto kHeadersAttribute = QNetworkRequest::Attribute(QNetworkRequest::User + 104);
 
 /// A request and its outcome: a complete HTTP reply, with the attribute HttpStatusCodeAttribute, or an error. The
